@@ -1,0 +1,53 @@
+# The library: libtrelvin.so, or Trelvin.dll with its import library.
+add_library(
+  trelvin SHARED
+  src/frame/functions.cpp
+  src/plane/angles.cpp
+  src/plane/lines.cpp
+  src/plane/points.cpp
+  src/properties/composite.cpp
+  src/properties/polygons.cpp
+  src/properties/segments.cpp
+  src/sections/outlines.cpp)
+add_library(Trelvin::trelvin ALIAS trelvin)
+target_include_directories(trelvin PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+                                          $<INSTALL_INTERFACE:include>)
+target_include_directories(trelvin PRIVATE src)
+target_link_libraries(trelvin PRIVATE $<BUILD_INTERFACE:trelvin_warnings>)
+set_target_properties(
+  trelvin PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+                     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+
+# The same bits everywhere: no fused multiply-add, and square roots are the machine's instruction.
+# Nothing throws, so no exception can reach a host.
+target_compile_options(trelvin PRIVATE -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti)
+
+if(WIN32)
+  enable_language(RC)
+  configure_file(src/frame/version.rc.in version.rc @ONLY)
+  target_sources(trelvin PRIVATE src/frame/library_entry.cpp src/frame/Trelvin.def
+                                 ${CMAKE_CURRENT_BINARY_DIR}/version.rc)
+  # Hosts of the 1990s keep the stack aligned to 4 bytes only.
+  target_compile_options(trelvin PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-mstackrealign>)
+  target_link_options(trelvin PRIVATE -static -s -Wl,--dynamicbase -Wl,--nxcompat)
+  set_target_properties(trelvin PROPERTIES OUTPUT_NAME Trelvin PREFIX "" VERSION "" SOVERSION ""
+                                           IMPORT_PREFIX "lib")
+
+  # The linker's own import library names each routine as the export table does; compilers ask for
+  # the decorated name without its underscore, so the library is made from those names instead.
+  file(STRINGS src/frame/Trelvin.def decorated REGEX "\"_trv")
+  list(TRANSFORM decorated REPLACE ".*\"_(trv[^\"]*)\".*" "  \\1")
+  list(JOIN decorated "\n" decorated)
+  file(CONFIGURE OUTPUT import.def CONTENT "LIBRARY Trelvin.dll\nEXPORTS\n@decorated@\n" @ONLY)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/frame/Trelvin.def)
+  add_custom_command(
+    TARGET trelvin POST_BUILD VERBATIM
+    COMMAND ${CMAKE_DLLTOOL} --kill-at --input-def ${CMAKE_CURRENT_BINARY_DIR}/import.def
+            --output-lib $<TARGET_LINKER_FILE:trelvin>)
+endif()
+
+include(GNUInstallDirs)
+install(TARGETS trelvin EXPORT TrelvinTargets)
+install(DIRECTORY include/trelvin TYPE INCLUDE)
+install(EXPORT TrelvinTargets NAMESPACE Trelvin:: FILE TrelvinConfig.cmake
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Trelvin)

@@ -1,0 +1,74 @@
+/**
+ * @file
+ * How every routine of Trelvin is declared and called.
+ *
+ * A routine takes the address of each argument and returns nothing. Reals are 32-bit IEEE numbers,
+ * Integers 32-bit signed ones. In C++ a single argument is a reference, in C a pointer: the machine
+ * sees the same address. Arrays are pointers to their first element in both; positions that a
+ * routine takes or returns count from 1.
+ *
+ * The type of an argument tells its kind and direction:
+ *
+ *                   read             written           read and written
+ *   Real            TrvIn            TrvOut            TrvInOut
+ *   Integer         TrvIntIn         TrvIntOut         TrvIntInOut
+ *   Real array      TrvArrayIn       TrvArrayOut       TrvArrayInOut
+ *   Integer array   TrvIntArrayIn    TrvIntArrayOut    TrvIntArrayInOut
+ *
+ * Unless a contract says otherwise:
+ * - Lengths are in whatever unit the host uses throughout, angles in radians.
+ * - "Within the tolerance" means an absolute value of at most 1e-5, in the unit of the quantity.
+ * - An output that a contract calls unwritten keeps what the caller had stored there.
+ * - An output may not share its address with an input.
+ * - Nothing is guarded beyond the tests a contract names: a division by zero gives the infinity or
+ *   NaN that IEEE arithmetic gives.
+ * - The library serves one thread at a time.
+ */
+#ifndef TRELVIN_FRAME_H
+#define TRELVIN_FRAME_H
+
+#include <stdint.h>
+
+#if defined(_WIN32) && (defined(__i386__) || defined(_M_IX86))
+#define TRELVIN_CALL __stdcall
+#else
+#define TRELVIN_CALL
+#endif
+
+#if defined(__GNUC__) && !defined(_WIN32)
+#define TRELVIN_VISIBLE __attribute__((visibility("default")))
+#else
+#define TRELVIN_VISIBLE
+#endif
+
+/* Starts the declaration and the definition of every routine. */
+#ifdef __cplusplus
+#define TRELVIN_ROUTINE extern "C" TRELVIN_VISIBLE void TRELVIN_CALL
+#else
+#define TRELVIN_ROUTINE extern TRELVIN_VISIBLE void TRELVIN_CALL
+#endif
+
+#ifdef __cplusplus
+typedef const float &TrvIn;
+typedef float &TrvOut;
+typedef float &TrvInOut;
+typedef const int32_t &TrvIntIn;
+typedef int32_t &TrvIntOut;
+typedef int32_t &TrvIntInOut;
+#else
+typedef const float *TrvIn;
+typedef float *TrvOut;
+typedef float *TrvInOut;
+typedef const int32_t *TrvIntIn;
+typedef int32_t *TrvIntOut;
+typedef int32_t *TrvIntInOut;
+#endif
+
+typedef const float *TrvArrayIn;
+typedef float *TrvArrayOut;
+typedef float *TrvArrayInOut;
+typedef const int32_t *TrvIntArrayIn;
+typedef int32_t *TrvIntArrayOut;
+typedef int32_t *TrvIntArrayInOut;
+
+#endif

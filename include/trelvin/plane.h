@@ -1,0 +1,417 @@
+/**
+ * @file
+ * Points, vectors, straight lines and angles.
+ *
+ * A plane line is the triple (a, b, c) of a*x + b*y + c = 0, of whatever length its construction
+ * gives; only trvlds divides by sqrt(a*a + b*b). A plane of space is the quadruple (a, b, c, d) of
+ * a*x + b*y + c*z + d = 0.
+ */
+#ifndef TRELVIN_PLANE_H
+#define TRELVIN_PLANE_H
+
+#include "trelvin/frame.h"
+
+/* Points and vectors ------------------------------------------------------------------------- */
+
+/**
+ * Distance between two points.
+ *
+ * d = sqrt((dx*dx + dy*dy) + dz*dz). For a distance in the plane pass z1 = z2.
+ *
+ * @param[in]  x1,y1,z1  first point
+ * @param[in]  x2,y2,z2  second point
+ * @param[out] d         distance
+ */
+TRELVIN_ROUTINE trvpds(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvOut d);
+
+/**
+ * Dot product of the difference vectors P2 - P1 and P4 - P3.
+ *
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[in]  x3,y3,z3  P3
+ * @param[in]  x4,y4,z4  P4
+ * @param[out] s         dot product, in the square of the length unit
+ */
+TRELVIN_ROUTINE trvpri(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn x3,
+                       TrvIn y3, TrvIn z3, TrvIn x4, TrvIn y4, TrvIn z4, TrvOut s);
+
+/**
+ * Cross product (P2 - P1) x (P4 - P3).
+ *
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[in]  x3,y3,z3  P3
+ * @param[in]  x4,y4,z4  P4
+ * @param[out] c         array of 3: components of the product, in the square of the length unit
+ */
+TRELVIN_ROUTINE trvpre(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn x3,
+                       TrvIn y3, TrvIn z3, TrvIn x4, TrvIn y4, TrvIn z4, TrvArrayOut c);
+
+/**
+ * Difference vector of two points, and whether they coincide.
+ *
+ * @param[in]  x1,y1,z1  first point
+ * @param[in]  x2,y2,z2  second point
+ * @param[out] dx,dy,dz  second point minus first; always written
+ * @param[out] status    1 each difference is within the tolerance, 0 otherwise
+ */
+TRELVIN_ROUTINE trvcnt(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvOut dx,
+                       TrvOut dy, TrvOut dz, TrvIntOut status);
+
+/**
+ * Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.
+ *
+ * @param[in]  dx,dy,dz  vector
+ * @param[out] status    1 all components are zero of either sign, 0 otherwise (a NaN included)
+ */
+TRELVIN_ROUTINE trvcnt1(TrvIn dx, TrvIn dy, TrvIn dz, TrvIntOut status);
+
+/**
+ * Point P1 + t*(P2 - P1) on the line through two points.
+ *
+ * @param[in]  x1,y1,z1  P1, found at t = 0
+ * @param[in]  x2,y2,z2  P2, found at t = 1
+ * @param[in]  t         fraction of the segment, not a length; any value
+ * @param[out] x,y,z     point; unwritten when status is 1
+ * @param[out] status    0 done; 1 P1 and P2 coincide within the tolerance (trvcnt)
+ */
+TRELVIN_ROUTINE trv123(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn t,
+                       TrvOut x, TrvOut y, TrvOut z, TrvIntOut status);
+
+/**
+ * Midpoint of two points.
+ *
+ * @param[in]  x1,y1,z1  first point
+ * @param[in]  x2,y2,z2  second point
+ * @param[out] xm,ym,zm  midpoint
+ */
+TRELVIN_ROUTINE trvmed(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvOut xm,
+                       TrvOut ym, TrvOut zm);
+
+/**
+ * Determinant of the 2 x 2 matrix with rows (a, b) and (c, d).
+ *
+ * @param[in]  a,b,c,d  elements, row by row
+ * @param[out] det      a*d - b*c
+ */
+TRELVIN_ROUTINE trvdtr2(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut det);
+
+/**
+ * Determinant of a 3 x 3 matrix, expanded along its first row.
+ *
+ * @param[in]  a1,a2,a3  first row
+ * @param[in]  b1,b2,b3  second row
+ * @param[in]  c1,c2,c3  third row
+ * @param[out] det       determinant
+ */
+TRELVIN_ROUTINE trvdtr3(TrvIn a1, TrvIn a2, TrvIn a3, TrvIn b1, TrvIn b2, TrvIn b3, TrvIn c1,
+                        TrvIn c2, TrvIn c3, TrvOut det);
+
+/**
+ * Divides two coefficients by a third, or gives zeros where it vanishes.
+ *
+ * The first quotient is that of the last coefficient, the second that of the middle one.
+ *
+ * @param[in]  a,b,c  coefficients of a relation, a leading
+ * @param[out] q1     c/a, or 0 when a is within the tolerance or NaN
+ * @param[out] q2     b/a, or 0 likewise
+ */
+TRELVIN_ROUTINE trvgrc(TrvIn a, TrvIn b, TrvIn c, TrvOut q1, TrvOut q2);
+
+/**
+ * Linear interpolation, or extrapolation, through two samples.
+ *
+ * y = ((y2 - y1)*(x - x1)) / (x2 - x1) + y1.
+ *
+ * @param[in]  x1,x2  abscissas of the samples
+ * @param[in]  y1,y2  ordinates of the samples
+ * @param[in]  x      abscissa asked for
+ * @param[out] y      ordinate; infinite or NaN where x1 = x2
+ */
+TRELVIN_ROUTINE trvint(TrvIn x1, TrvIn x2, TrvIn y1, TrvIn y2, TrvIn x, TrvOut y);
+
+/**
+ * Sign of a value.
+ *
+ * @param[in]  u1        ignored, as u3, u4 and u5 are
+ * @param[in]  v         value
+ * @param[in]  u3,u4,u5  ignored
+ * @param[out] status    1 v is positive; 2 v is zero, negative or NaN
+ */
+TRELVIN_ROUTINE trvvin(TrvIn u1, TrvIn v, TrvIn u3, TrvIn u4, TrvIn u5, TrvIntOut status);
+
+/**
+ * Interval of an ascending table that holds a value.
+ *
+ * @param[in]  n  number of entries
+ * @param[in]  A  array of n, ascending
+ * @param[in]  x  value
+ * @param[out] i  first i with A(i) <= x < A(i+1); 0 when there is none, so also for x = A(n)
+ */
+TRELVIN_ROUTINE trvpos(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut i);
+
+/**
+ * Entry of an ascending table that equals a value, or the interval that holds it.
+ *
+ * An equal entry anywhere in the table goes before an interval.
+ *
+ * @param[in]  n       number of entries
+ * @param[in]  A       array of n, ascending
+ * @param[in]  x       value
+ * @param[out] status  1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither
+ * @param[out] i       first such position; 0 when status is 0
+ */
+TRELVIN_ROUTINE trvpos1(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut status, TrvIntOut i);
+
+/* Straight lines ----------------------------------------------------------------------------- */
+
+/**
+ * Line through two points.
+ *
+ * a = y2 - y1, b = -(x2 - x1), c = y1*x2 - y2*x1: the normal (a, b) points to the right of the
+ * direction from P1 to P2 and is as long as the segment.
+ *
+ * @param[in]  x1,y1  P1
+ * @param[in]  x2,y2  P2
+ * @param[out] a,b,c  line; all zero where the points are equal
+ */
+TRELVIN_ROUTINE trvln3(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut a, TrvOut b, TrvOut c);
+
+/**
+ * Line through a point at an angle to the x axis.
+ *
+ * An angle closer than 1e-5 to pi/2 or -pi/2 gives the vertical line (1, 0, -x0), and so does a
+ * NaN. Every other angle, 3*pi/2 included, gives (tan(phi), -1, y0 - tan(phi)*x0).
+ *
+ * @param[in]  x0,y0  point
+ * @param[in]  phi    angle in radians, counter-clockwise
+ * @param[out] a,b,c  line
+ */
+TRELVIN_ROUTINE trvln1(TrvIn x0, TrvIn y0, TrvIn phi, TrvOut a, TrvOut b, TrvOut c);
+
+/**
+ * Line through a point with a direction.
+ *
+ * (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, -x0) where dx is exactly zero; no
+ * tolerance applies.
+ *
+ * @param[in]  x0,y0  point
+ * @param[in]  dx,dy  direction, of any length
+ * @param[in]  u      ignored
+ * @param[out] a,b,c  line
+ */
+TRELVIN_ROUTINE trvln4(TrvIn x0, TrvIn y0, TrvIn dx, TrvIn dy, TrvIn u, TrvOut a, TrvOut b,
+                       TrvOut c);
+
+/**
+ * Parallel of a line at a signed distance.
+ *
+ * Points of the new line have the distance d from the given one in the sense of trvlds.
+ *
+ * @param[in]  a,b,c     line
+ * @param[in]  d         distance, positive towards the normal (a, b)
+ * @param[out] a2,b2,c2  parallel: (a, b, c - sqrt(a*a + b*b)*d)
+ */
+TRELVIN_ROUTINE trvln2(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut a2, TrvOut b2, TrvOut c2);
+
+/**
+ * Internal bisector of the angle at P0 between the rays to P1 and P2.
+ *
+ * The normal (a, b) is the difference of the unit vectors towards P1 and P2, times both lengths.
+ *
+ * @param[in]  x0,y0  vertex P0
+ * @param[in]  x1,y1  P1
+ * @param[in]  x2,y2  P2
+ * @param[out] a,b,c  line; all zero where a ray has no length or both have one direction
+ */
+TRELVIN_ROUTINE trvln5(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut a,
+                       TrvOut b, TrvOut c);
+
+/**
+ * Signed distance of a point from a line.
+ *
+ * d = ((a*x + b*y) + c) / sqrt(a*a + b*b), positive on the side the normal (a, b) points to.
+ *
+ * @param[in]  x,y    point
+ * @param[in]  a,b,c  line
+ * @param[out] d      signed distance; infinite or NaN where a = b = 0
+ */
+TRELVIN_ROUTINE trvlds(TrvIn x, TrvIn y, TrvIn a, TrvIn b, TrvIn c, TrvOut d);
+
+/**
+ * Intersection of two lines.
+ *
+ * The lines count as parallel when the determinant a1*b2 - a2*b1 is within the tolerance. It is not
+ * scaled: lines with small coefficients count as parallel sooner.
+ *
+ * @param[in]  a1,b1,c1  first line
+ * @param[in]  a2,b2,c2  second line
+ * @param[out] status    0 one point; 1 the same line; 2 parallel and distinct
+ * @param[out] x,y       point; unwritten when status is 1 or 2
+ */
+TRELVIN_ROUTINE trvlni(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c2, TrvIntOut status,
+                       TrvOut x, TrvOut y);
+
+/**
+ * Which components of two triples differ by more than the tolerance.
+ *
+ * @param[in]  p1,p2,p3  first triple
+ * @param[in]  q1,q2,q3  second triple
+ * @param[out] code      0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and
+ *                       third; 7 first and third
+ */
+TRELVIN_ROUTINE trvpsn(TrvIn p1, TrvIn p2, TrvIn p3, TrvIn q1, TrvIn q2, TrvIn q3, TrvIntOut code);
+
+/**
+ * Whether a point lies on the line of space through P0 with direction D.
+ *
+ * The components of D above the tolerance tell which coordinate of P places it along the line; each
+ * other coordinate must then agree with the line's.
+ *
+ * @param[in]  x0,y0,z0  P0
+ * @param[in]  dx,dy,dz  direction D, of any length
+ * @param[in]  px,py,pz  point P
+ * @param[in]  tol       largest coordinate difference allowed, itself included
+ * @param[out] code      which components of D count, as trvpsn names them for P0 and P0 + D
+ * @param[out] on        1 P lies on the line, 0 otherwise; always 0 when code is 0
+ */
+TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn dz, TrvIn px,
+                       TrvIn py, TrvIn pz, TrvIn tol, TrvIntOut code, TrvIntOut on);
+
+/**
+ * Line of two planes, and whether it agrees with a point at a retained station.
+ *
+ * The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the tolerance.
+ * Its station there is not the coordinate of P but that of the previous call: X, Y and Z are kept
+ * between calls, zero after loading, and each call replaces the two it computes. The point agrees
+ * when its other two coordinates are those of the line at the station.
+ *
+ * @param[in]  a1,b1,c1,d1  first plane
+ * @param[in]  a2,b2,c2,d2  second plane
+ * @param[in]  px,py,pz     point P
+ * @param[out] ex           b1*c2 - c1*b2
+ * @param[out] ey           a1*c2 - c1*a2, the second component of the cross product negated
+ * @param[in]  ez           third component: read, neither computed nor written
+ * @param[in]  tol          largest coordinate difference allowed, itself included
+ * @param[out] code         which of ex, ey, ez are above the tolerance, as trvpsn names them
+ * @param[out] on           1 P agrees with the line at the station, 0 otherwise
+ */
+TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b2, TrvIn c2,
+                       TrvIn d2, TrvIn px, TrvIn py, TrvIn pz, TrvOut ex, TrvOut ey, TrvIn ez,
+                       TrvIn tol, TrvIntOut code, TrvIntOut on);
+
+/* Angles and directions ---------------------------------------------------------------------- */
+
+/**
+ * Angle at P0 between the rays to P1 and P2, in the plane.
+ *
+ * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
+ * -1 the angle is NaN, as can happen for collinear points.
+ *
+ * @param[in]  x0,y0  vertex P0
+ * @param[in]  x1,y1  P1
+ * @param[in]  x2,y2  P2
+ * @param[out] phi    angle in [0, pi]; 0 where a ray's length is within the tolerance
+ */
+TRELVIN_ROUTINE trvphi(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut phi);
+
+/**
+ * Angle at P0 between the rays to P1 and P2, in space; otherwise as trvphi.
+ *
+ * @param[in]  x0,y0,z0  vertex P0
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[out] phi       angle in [0, pi]; 0 where a ray's length is within the tolerance
+ */
+TRELVIN_ROUTINE trvphi3(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                        TrvIn y2, TrvIn z2, TrvOut phi);
+
+/**
+ * Angle between two vectors; otherwise as trvphi.
+ *
+ * @param[in]  ux,uy,uz  u
+ * @param[in]  vx,vy,vz  v
+ * @param[out] phi       angle in [0, pi]; 0 where a vector's length is within the tolerance
+ */
+TRELVIN_ROUTINE trvphi1(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn vz, TrvOut phi);
+
+/**
+ * Angle between two lines given by their directions.
+ *
+ * @param[in]  ux,uy,uz  direction of the first line
+ * @param[in]  vx,vy,vz  direction of the second line
+ * @param[out] phi       angle in [0, pi/2]; unwritten when a direction has no length
+ * @param[out] status    -1 a direction's length is within the tolerance; unwritten otherwise, so
+ *                       the caller sets it beforehand
+ */
+TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn vz, TrvOut phi,
+                        TrvIntOut status);
+
+/**
+ * Cosine and sine of the angle between P2 - P1 and P4 - P3.
+ *
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[in]  x3,y3,z3  P3
+ * @param[in]  x4,y4,z4  P4
+ * @param[out] cphi      cosine; unwritten when status is 1
+ * @param[out] sphi      sine, never negative; unwritten when status is 1
+ * @param[out] status    0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt)
+ */
+TRELVIN_ROUTINE trvtrg(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn x3,
+                       TrvIn y3, TrvIn z3, TrvIn x4, TrvIn y4, TrvIn z4, TrvOut cphi, TrvOut sphi,
+                       TrvIntOut status);
+
+/**
+ * Relation of two directions.
+ *
+ * The cosine of their angle decides, within the tolerance; a later code goes before an earlier one.
+ *
+ * @param[in]  ux,uy,uz  u
+ * @param[in]  vx,vy,vz  v
+ * @param[out] code      0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all
+ *                       components of u, or of v, are within the tolerance
+ */
+TRELVIN_ROUTINE trvdir(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn vz, TrvIntOut code);
+
+/**
+ * Relation of two planes.
+ *
+ * Planes with parallel normals are distinct when the ratio of their normals, taken at the last
+ * component above the tolerance, and that of their constants (0 where d2 is within the tolerance)
+ * differ by more than the tolerance and d1 or d2 is above it.
+ *
+ * @param[in]  a1,b1,c1,d1  first plane
+ * @param[in]  a2,b2,c2,d2  second plane
+ * @param[out] code         0 they cross; 1 parallel, normals in the same direction; 2 parallel,
+ *                          normals opposite; 3 coincident, normals in the same direction; 4
+ *                          coincident, normals opposite; 5 perpendicular; 6 a normal is zero
+ */
+TRELVIN_ROUTINE trvdirp(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b2, TrvIn c2,
+                        TrvIn d2, TrvIntOut code);
+
+/**
+ * Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
+ *
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[in]  x3,y3,z3  P3
+ * @param[in]  x4,y4,z4  P4
+ * @param[out] ax,ay,az  angles in [0, pi], seen along the x, y and z axis; 0 where a projection's
+ *                       length is within the tolerance (trvphi1)
+ */
+TRELVIN_ROUTINE trvmov(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn x3,
+                       TrvIn y3, TrvIn z3, TrvIn x4, TrvIn y4, TrvIn z4, TrvOut ax, TrvOut ay,
+                       TrvOut az);
+
+/**
+ * Moves the origin of plane points to (x0, y0), in place.
+ *
+ * @param[inout] X,Y    arrays of n: coordinates, less x0 and y0 afterwards
+ * @param[in]    n      number of points; below 1 nothing happens
+ * @param[in]    x0,y0  new origin; may be one of the points
+ */
+TRELVIN_ROUTINE trvtra(TrvArrayInOut X, TrvArrayInOut Y, TrvIntIn n, TrvIn x0, TrvIn y0);
+
+#endif

@@ -1,0 +1,12 @@
+/**
+ * @file
+ * All routines of Trelvin. A host that needs one family may include that family's header alone.
+ */
+#ifndef TRELVIN_TRELVIN_H
+#define TRELVIN_TRELVIN_H
+
+#include "trelvin/plane.h"
+#include "trelvin/properties.h"
+#include "trelvin/sections.h"
+
+#endif

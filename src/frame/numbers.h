@@ -1,0 +1,27 @@
+// Element types and numbers that all rooms of the library share.
+#pragma once
+
+#include <cfloat>
+#include <cmath>
+#include <cstdint>
+
+namespace trelvin {
+
+using Real = float;
+using Integer = std::int32_t;
+
+// Every operation on Reals rounds to single precision; extended intermediates would change results.
+static_assert(FLT_EVAL_METHOD == 0, "compile with SSE2 arithmetic");
+
+constexpr Real tolerance = 1e-5F;
+constexpr Real pi = 3.1415927F;
+constexpr Real two_pi = 6.2831855F;
+constexpr Real half_pi = 1.5707964F;
+
+// Zero within the tolerance, the tolerance itself included. A NaN is not negligible.
+inline bool negligible(Real value) { return std::fabs(value) <= tolerance; }
+
+// Clear of zero. A NaN is neither negligible nor significant.
+inline bool significant(Real value) { return std::fabs(value) > tolerance; }
+
+}  // namespace trelvin

@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# Installs what building and testing Trelvin needs on Debian 12, and nothing that is there already.
+set -euo pipefail
+
+packages=(
+  cmake ninja-build g++ clang python3                  # native builds, generated files
+  g++-mingw-w64-i686-win32 wine wine32:i386            # the Windows DLL, and running it
+  googletest libclang-rt-14-dev clang-format clang-tidy # tests, sanitizers, formatting
+)
+
+installed() {
+  [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+  echo "setup: this script installs Debian packages; on another system provide the equivalents of:" >&2
+  echo "setup:   ${packages[*]}" >&2
+  exit 1
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+  installed "$package" || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+echo "setup: installing ${missing[*]}"
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  if ! command -v sudo >/dev/null; then
+    echo "setup: run as root, or install sudo; missing: ${missing[*]}" >&2
+    exit 1
+  fi
+  as_root=(sudo)
+fi
+export DEBIAN_FRONTEND=noninteractive
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+
+# The 32-bit Windows host programs run under a 32-bit Wine.
+[[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
+install() {
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -q --no-install-recommends "$@" >"$log" 2>&1
+}
+# One stale index does not matter if the packages can be had all the same; the installation will tell.
+"${as_root[@]}" apt-get update -q >"$log" 2>&1 || { echo "setup: package lists partly out of date:" >&2; grep '^E:' "$log" >&2 || true; }
+# Where a 64-bit library is newer or older than its 32-bit twin on offer, the resolver refuses until
+# the release is named.
+release=$(. /etc/os-release && echo "${VERSION_CODENAME:-stable}")
+install "${missing[@]}" ||
+  install -t "$release" --allow-downgrades "${missing[@]}" || {
+    tail -n 20 "$log" >&2
+    echo "setup: apt-get could not install: ${missing[*]}" >&2
+    exit 1
+  }
+echo "setup: done"
