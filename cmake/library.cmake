@@ -29,7 +29,8 @@ if(WIN32)
                                  ${CMAKE_CURRENT_BINARY_DIR}/version.rc)
   # Hosts of the 1990s keep the stack aligned to 4 bytes only.
   target_compile_options(trelvin PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-mstackrealign>)
-  target_link_options(trelvin PRIVATE -static -s -Wl,--dynamicbase -Wl,--nxcompat)
+  target_link_options(trelvin PRIVATE -static -s -Wl,--dynamicbase -Wl,--nxcompat
+                                      -Wl,--no-insert-timestamp)
   set_target_properties(trelvin PROPERTIES OUTPUT_NAME Trelvin PREFIX "" VERSION "" SOVERSION ""
                                            IMPORT_PREFIX "lib")
 

@@ -33,8 +33,11 @@ def export_table(routines):
 
 
 def routine_list(routines):
-    lines = ["// Generated from include/trelvin by tools/generate.py: ROUTINE(name) for each routine."]
-    lines += [f"ROUTINE({routine.name})" for routine in routines]
+    lines = [
+        "// Generated from include/trelvin by tools/generate.py:",
+        "// ROUTINE(name, number of arguments) for each routine.",
+    ]
+    lines += [f"ROUTINE({routine.name}, {len(routine.arguments)})" for routine in routines]
     return "\n".join(lines) + "\n"
 
 

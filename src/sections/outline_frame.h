@@ -47,7 +47,7 @@ class OutlineFrame {
     nv_[p] = static_cast<Integer>(vertices.size());
     code_[p] = kind_polygon;
     sign_[p] = sign;
-    for (const TrvArrayOut z : z_) z[p] = 0;
+    for (Real *z : z_) z[p] = 0;
     q1_[p] = q;
     q2_[p] = q;
     for (const Vertex &vertex : vertices) {

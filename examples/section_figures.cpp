@@ -1,0 +1,47 @@
+#include "section_figures.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace host {
+namespace {
+
+constexpr std::size_t longest = 512;  // the largest double has 309 digits before its point
+
+std::string without_negative_zero(std::string text) {
+  const bool zero = text.find_first_of("123456789") == std::string::npos;
+  if (zero && text[0] == '-') text.erase(0, 1);
+  return text;
+}
+
+}  // namespace
+
+std::string fixed(double value, int decimals) {
+  char text[longest];
+  const auto end =
+      std::to_chars(text, text + longest, value, std::chars_format::fixed, decimals).ptr;
+  return without_negative_zero({text, end});
+}
+
+std::string significant(double value, int digits) {
+  char text[longest];
+  const auto end =
+      std::to_chars(text, text + longest, value, std::chars_format::general, digits).ptr;
+  return without_negative_zero({text, end});
+}
+
+std::string shortest(float value) {
+  char text[longest];
+  return {text, std::to_chars(text, text + longest, value, std::chars_format::fixed).ptr};
+}
+
+int decimals_for(double size, int digits) {
+  int decimals = digits - 1;
+  size = std::fabs(size);
+  if (size == 0) return 0;
+  for (; size >= 10 && decimals > 0; size /= 10) --decimals;
+  for (; size < 1; size *= 10) ++decimals;
+  return decimals;
+}
+
+}  // namespace host

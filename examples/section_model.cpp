@@ -1,0 +1,70 @@
+#include "section_model.h"
+
+#include <trelvin/properties.h>
+
+#include <cmath>
+#include <limits>
+
+namespace host {
+
+Properties properties_of(const Section &section) {
+  constexpr float no_value = 0;  // value and angle are for concentrated areas only
+  constexpr float no_angle = 0;
+  Properties p{};
+  for (Part part : section.parts) {
+    float *const x = part.x.data();
+    float *const y = part.y.data();
+    float area = 0;
+    trvair(x, y, part.n, part.kind, no_value, part.factor, area);
+    p.area += area;
+
+    float sx = 0;
+    float sy = 0;
+    trvstm(x, y, part.n, part.kind, no_value, part.factor, sx, sy);
+    p.sx += sx;
+    p.sy += sy;
+
+    // A circular segment comes without its own centroidal product of inertia. The sum is right
+    // because segments occur in mirrored pairs only, whose products cancel.
+    float ix = 0;
+    float iy = 0;
+    float ixy = 0;
+    trvinm(x, y, part.n, part.kind, no_value, no_angle, part.factor, ix, iy, ixy);
+    p.origin.x += ix;
+    p.origin.y += iy;
+    p.origin.xy += ixy;
+  }
+
+  p.xs = p.sy / p.area;
+  p.ys = p.sx / p.area;
+  p.centroidal.x = p.origin.x - p.area * p.ys * p.ys;
+  p.centroidal.y = p.origin.y - p.area * p.xs * p.xs;
+  p.centroidal.xy = p.origin.xy - p.area * p.xs * p.ys;
+
+  // What is left of a product below single precision is rounding; where both moments are equal it
+  // would turn the axes all the same.
+  constexpr double noise = 4 * std::numeric_limits<float>::epsilon();
+  if (std::fabs(p.centroidal.xy) <= noise * (p.centroidal.x + p.centroidal.y)) p.centroidal.xy = 0;
+
+  float i1;
+  float i2;
+  float alpha;
+  trvinp(static_cast<float>(p.centroidal.x), static_cast<float>(p.centroidal.y),
+         static_cast<float>(p.centroidal.xy), i1, i2, alpha);
+  p.i1 = i1;
+  p.i2 = i2;
+  p.alpha = alpha;
+  p.rx = std::sqrt(p.centroidal.x / p.area);
+  p.ry = std::sqrt(p.centroidal.y / p.area);
+  return p;
+}
+
+bool are_representable(const Properties &p) {
+  using Single = std::numeric_limits<float>;
+  for (const double value : {p.area, p.centroidal.x, p.centroidal.y, p.i1, p.i2}) {
+    if (!(value >= Single::min() && value <= Single::max())) return false;
+  }
+  return true;
+}
+
+}  // namespace host

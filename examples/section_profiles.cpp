@@ -1,0 +1,254 @@
+#include "section_profiles.h"
+
+#include <trelvin/sections.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace host {
+namespace {
+
+// Outlines ---------------------------------------------------------------------------------------
+
+// What an outline routine hands back, with room for the largest outline.
+struct Frame {
+  std::int32_t np;
+  std::array<std::int32_t, 3> nv;
+  std::array<float, 20> x, y;
+  std::array<std::int32_t, 3> code;
+  std::array<float, 3> sign, z1, z2, z3, z4, z5, q1, q2;
+};
+
+template <class Routine, class... Inputs>
+Frame frame(Routine routine, const Inputs &...inputs) {
+  constexpr float q = 1;  // comes back with each polygon; nothing here needs it
+  Frame f{};
+  routine(inputs..., q, f.np, f.nv.data(), f.x.data(), f.y.data(), f.code.data(), f.sign.data(),
+          f.z1.data(), f.z2.data(), f.z3.data(), f.z4.data(), f.z5.data(), f.q1.data(),
+          f.q2.data());
+  return f;
+}
+
+Part polygon_part(float factor, std::vector<float> x, std::vector<float> y) {
+  const auto n = static_cast<std::int32_t>(x.size());
+  x.push_back(0);
+  y.push_back(0);
+  return {polygon, factor, n, std::move(x), std::move(y)};
+}
+
+// The library closes a polygon by writing behind its last vertex, where in a frame the next polygon
+// starts. So each one moves into arrays of its own.
+Section section_of(const Frame &f) {
+  Section section;
+  auto x = f.x.begin();
+  auto y = f.y.begin();
+  for (std::size_t p = 0; p < static_cast<std::size_t>(f.np); ++p) {
+    Ring ring;
+    for (std::int32_t i = 0; i < f.nv[p]; ++i) ring.push_back({x[i], y[i]});
+    section.outline.push_back(std::move(ring));
+    section.parts.push_back(polygon_part(f.sign[p], {x, x + f.nv[p]}, {y, y + f.nv[p]}));
+    x += f.nv[p];
+    y += f.nv[p];
+  }
+  return section;
+}
+
+Section flat_bar(const float *d) {
+  Frame f = frame(trvsec_b, static_cast<std::int32_t>(d[0]), d[1]);
+  f.nv[0] = 4;  // the routine says 12 and writes 4
+  return section_of(f);
+}
+
+// The hot-rolled I -------------------------------------------------------------------------------
+
+Part mirrored(Part part, bool left_right, bool top_bottom) {
+  if (left_right) {
+    for (float &x : part.x) x = -x;
+  }
+  if (top_bottom) {
+    for (float &y : part.y) y = -y;
+  }
+  if (part.kind == polygon && left_right != top_bottom) {  // counter-clockwise again
+    std::reverse(part.x.begin(), part.x.begin() + part.n);
+    std::reverse(part.y.begin(), part.y.begin() + part.n);
+  }
+  return part;
+}
+
+// The fillet in the corner (x, y) at the top right: a square less a quarter disc, which is the
+// triangle of its centre and the tangent points and the segment beyond their chord.
+std::array<Part, 3> fillet(float x, float y, float r) {
+  const float xc = x + r;
+  const float yc = y - r;
+  return {polygon_part(1, {x, x, xc, xc}, {y, yc, yc, y}),
+          polygon_part(-1, {xc, xc, x}, {yc, y, yc}),
+          {smaller_segment, -1, 3, {xc, xc, x}, {yc, y, yc}}};
+}
+
+// The point at the distance r from a corner along the edge to its neighbour; edges run along axes.
+Vertex tangent_point(const Vertex &corner, const Vertex &neighbour, double r) {
+  const double dx = neighbour.x - corner.x;
+  const double dy = neighbour.y - corner.y;
+  const double length = std::fabs(dx) + std::fabs(dy);
+  return {corner.x + r * (dx / length), corner.y + r * (dy / length)};
+}
+
+Section rolled(const float *d) {
+  const float H = d[0], B = d[1], TW = d[2], TF = d[3], R = d[4];
+  Section section = section_of(frame(trvsec_ia, H, B, B, TF, TF, TW));
+
+  for (const Part &part : fillet(0.5F * TW, 0.5F * H - TF, R)) {
+    for (const bool left_right : {false, true}) {
+      for (const bool top_bottom : {false, true}) {
+        section.parts.push_back(mirrored(part, left_right, top_bottom));
+      }
+    }
+  }
+
+  Ring rounded;
+  const Ring sharp = std::move(section.outline[0]);
+  for (std::size_t i = 0; i < sharp.size(); ++i) {
+    const Vertex &corner = sharp[i];
+    const bool at_web = std::fabs(corner.x) < 0.5 * B;
+    if (!at_web) {
+      rounded.push_back(corner);
+      continue;
+    }
+    rounded.push_back(tangent_point(corner, sharp[i - 1], R));
+    rounded.push_back(tangent_point(corner, sharp[i + 1], R));
+    rounded.back().arc = R;
+  }
+  section.outline[0] = std::move(rounded);
+  return section;
+}
+
+// Dimensions that fit together -------------------------------------------------------------------
+
+template <std::size_t n>
+std::array<float, n> first(const float *d) {
+  std::array<float, n> dimensions;
+  std::copy(d, d + n, dimensions.begin());
+  return dimensions;
+}
+
+const char *fault_of_i_section(const float *d) {
+  const auto [H, B1, B2, T1, T2, TW] = first<6>(d);
+  if (T1 + T2 >= H) return "flanges T1 and T2 leave no room for a web in H";
+  if (TW > std::min(B1, B2)) return "web TW is wider than a flange";
+  return nullptr;
+}
+
+const char *fault_of_t(const float *d) {
+  const auto [B, H, TF, TW] = first<4>(d);
+  if (TF >= H) return "flange TF leaves no room for a stem in H";
+  if (TW > B) return "stem TW is wider than the flange B";
+  return nullptr;
+}
+
+const char *fault_of_bar(const float *d) {
+  if (d[0] != std::floor(d[0])) return "width B of a flat bar must be a whole number";
+  if (d[0] >= 2147483648.0F) return "width B of a flat bar is above 2147483647";
+  return nullptr;
+}
+
+const char *fault_of_h1b(const float *d) {
+  const auto [W, D, P, T1, T2, TW, TP] = first<7>(d);
+  if (T1 + T2 >= D) return "flanges T1 and T2 leave no room between them in D";
+  if (TW >= P) return "web TW leaves no cell in the flanges' height P";
+  if (W <= D - 2 * std::min(T1, T2)) return "cover plate W does not reach the flanges";
+  return nullptr;
+}
+
+const char *fault_of_box(const float *d) {
+  const auto [BT, BB, TT, TB, H, TW, G] = first<7>(d);
+  if (TT + TB >= H) return "flanges TT and TB leave no room for webs in H";
+  if (G + 2 * TW > std::min(BT, BB)) return "webs G + 2 TW stand wider than a flange";
+  return nullptr;
+}
+
+const char *fault_of_rhs(const float *d) {
+  const auto [B, H, T] = first<3>(d);
+  if (2 * T >= std::min(B, H)) return "walls T leave no room inside B and H";
+  return nullptr;
+}
+
+const char *fault_of_l2(const float *d) {
+  const auto [B, H, G, T, TV] = first<5>(d);
+  if (TV >= B) return "vertical leg TV is as thick as the horizontal one is long, B";
+  if (T >= H) return "horizontal leg T is as thick as the vertical one is long, H";
+  return nullptr;
+}
+
+const char *fault_of_tab(const float *d) {
+  const auto [B, H, BW, E, T, TW, TB] = first<7>(d);
+  if (2 * TW >= BW) return "webs TW leave no room between them in BW";
+  if (E + TB >= H) return "bottom plate E + TB leaves no cell in H";
+  if (B <= BW - 2 * TW) return "top plate B does not reach the webs";
+  return nullptr;
+}
+
+const char *fault_of_h2b(const float *d) {
+  const auto [B, W, HI, TW1, TW2, TM, TF] = first<7>(d);
+  if (TW1 + TW2 >= W) return "webs TW1 and TW2 leave no room between them in W";
+  if (TM >= HI) return "middle plate TM leaves no cells in HI";
+  if (W > B) return "webs W stand wider than the flanges B";
+  return nullptr;
+}
+
+const char *fault_of_rolled(const float *d) {
+  const auto [H, B, TW, TF, R] = first<5>(d);
+  if (2 * TF >= H) return "flanges TF leave no room for a web in H";
+  if (TW > B) return "web TW is wider than the flange B";
+  if (2 * TF + 2 * R > H) return "fillets R do not fit between the flanges";
+  if (TW + 2 * R > B) return "fillets R do not fit on the flange B";
+  return nullptr;
+}
+
+}  // namespace
+
+const std::vector<Profile> &profiles() {
+  static const std::vector<Profile> all{
+      {"ia", "I section with unequal flanges, 1 at the bottom", {"H", "B1", "B2", "T1", "T2", "TW"},
+       fault_of_i_section,
+       [](const float *d) {
+         return section_of(frame(trvsec_ia, d[0], d[1], d[2], d[3], d[4], d[5]));
+       }},
+      {"h", "I section on its side, flange 1 on the left", {"H", "B1", "B2", "T1", "T2", "TW"},
+       fault_of_i_section,
+       [](const float *d) {
+         return section_of(frame(trvsec_h, d[0], d[1], d[2], d[3], d[4], d[5]));
+       }},
+      {"t", "T section, flange at the top", {"B", "H", "TF", "TW"}, fault_of_t,
+       [](const float *d) { return section_of(frame(trvsec_t, d[0], d[1], d[2], d[3])); }},
+      {"b", "flat bar, B a whole number", {"B", "H"}, fault_of_bar, flat_bar},
+      {"h1b", "I section on its side under a cover plate",
+       {"W", "D", "P", "T1", "T2", "TW", "TP"}, fault_of_h1b,
+       [](const float *d) {
+         return section_of(frame(trvsec_h1b, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
+       }},
+      {"box", "box girder with overhanging flanges", {"BT", "BB", "TT", "TB", "H", "TW", "G"},
+       fault_of_box,
+       [](const float *d) {
+         return section_of(frame(trvsec_box, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
+       }},
+      {"rhs", "rectangular hollow section with sharp corners", {"B", "H", "T"}, fault_of_rhs,
+       [](const float *d) { return section_of(frame(trvsec_rhs, d[0], d[1], d[2])); }},
+      {"l2", "two equal angles back to back", {"B", "H", "G", "T", "TV"}, fault_of_l2,
+       [](const float *d) { return section_of(frame(trvsec_l2, d[0], d[1], d[2], d[3], d[4])); }},
+      {"tab", "top plate on a closed cell", {"B", "H", "BW", "E", "T", "TW", "TB"}, fault_of_tab,
+       [](const float *d) {
+         return section_of(frame(trvsec_tab, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
+       }},
+      {"h2b", "two flanges, two webs and a middle plate",
+       {"B", "W", "HI", "TW1", "TW2", "TM", "TF"}, fault_of_h2b,
+       [](const float *d) {
+         return section_of(frame(trvsec_h2b, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
+       }},
+      {"rolled", "hot-rolled I section with root fillets", {"H", "B", "TW", "TF", "R"},
+       fault_of_rolled, rolled},
+  };
+  return all;
+}
+
+}  // namespace host

@@ -1,0 +1,115 @@
+#include "section_report.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "section_figures.h"
+
+namespace host {
+namespace {
+
+constexpr int digits = 7;  // what single precision holds
+
+struct Row {
+  std::string heading;
+  std::string symbol;
+  std::string value;
+  std::string unit;
+  std::string other_value;
+  std::string other_unit;
+};
+
+std::string padded(const std::string &text, std::size_t width) {
+  return text + std::string(width - std::min(width, text.size()), ' ');
+}
+
+std::string right_aligned(const std::string &text, std::size_t width) {
+  return std::string(width - std::min(width, text.size()), ' ') + text;
+}
+
+// Rows of one unit, mm to some power, with the decimals that suit a figure of the given size. Below
+// that a figure is rounding and shows as zero.
+class Rows {
+ public:
+  void add(std::string heading, int power, double size,
+           const std::vector<std::pair<std::string, double>> &figures) {
+    double cm = 1;
+    for (int i = 0; i < power; ++i) cm *= 10;
+    const std::string exponent = power == 1 ? "" : std::to_string(power);
+    for (const auto &[symbol, value] : figures) {
+      rows_.push_back({std::exchange(heading, ""), symbol,
+                       fixed(value, decimals_for(size, digits)), "mm" + exponent,
+                       fixed(value / cm, decimals_for(size / cm, digits)), "cm" + exponent});
+    }
+  }
+
+  void add_angle(const std::string &symbol, double radians) {
+    constexpr double degrees = 180 / 3.14159265358979323846;
+    rows_.push_back({"", symbol, fixed(radians, 6), "rad", fixed(radians * degrees, 4), "deg"});
+  }
+
+  std::string text() const {
+    std::size_t width = 0;
+    std::size_t other_width = 0;
+    for (const Row &row : rows_) {
+      width = std::max(width, row.value.size());
+      other_width = std::max(other_width, row.other_value.size());
+    }
+    std::string text;
+    for (const Row &row : rows_) {
+      text += padded(row.heading, 33) + padded(row.symbol, 8) + right_aligned(row.value, width) +
+              ' ' + padded(row.unit, 7) + right_aligned(row.other_value, other_width) + ' ' +
+              row.other_unit + '\n';
+    }
+    return text;
+  }
+
+ private:
+  std::vector<Row> rows_;
+};
+
+}  // namespace
+
+std::string table(const std::string &title, const Properties &p) {
+  const double length = std::max(p.rx, p.ry);
+  const double second = std::max(p.origin.x, p.origin.y);
+  Rows rows;
+  rows.add("Area", 2, p.area, {{"A", p.area}});
+  rows.add("Centroid", 1, length, {{"xs", p.xs}, {"ys", p.ys}});
+  rows.add("First moments, origin", 3, p.area * length, {{"Sx", p.sx}, {"Sy", p.sy}});
+  rows.add("Second moments, origin", 4, second,
+           {{"Ix", p.origin.x}, {"Iy", p.origin.y}, {"Ixy", p.origin.xy}});
+  rows.add("Second moments, centroid", 4, second,
+           {{"Ix", p.centroidal.x}, {"Iy", p.centroidal.y}, {"Ixy", p.centroidal.xy}});
+  rows.add("Principal moments, axes 1 and 2", 4, second, {{"I1", p.i1}, {"I2", p.i2}});
+  rows.add_angle("alpha", p.alpha);
+  rows.add("Radii of gyration", 1, length, {{"rx", p.rx}, {"ry", p.ry}});
+  return title + '\n' + std::string(title.size(), '-') + '\n' + rows.text();
+}
+
+std::string json(const Properties &p) {
+  const auto field = [](std::string_view name, double value) {
+    return '"' + std::string(name) + "\": " + significant(value, 9);
+  };
+  return "{\n  " + field("area", p.area) +                //
+         ",\n  " + field("xs", p.xs) +                    //
+         ",\n  " + field("ys", p.ys) +                    //
+         ",\n  " + field("Sx", p.sx) +                    //
+         ",\n  " + field("Sy", p.sy) +                    //
+         ",\n  " + field("Ix", p.origin.x) +              //
+         ",\n  " + field("Iy", p.origin.y) +              //
+         ",\n  " + field("Ixy", p.origin.xy) +            //
+         ",\n  \"centroidal\": {" +                       //
+         field("Ix", p.centroidal.x) + ", " +             //
+         field("Iy", p.centroidal.y) + ", " +             //
+         field("Ixy", p.centroidal.xy) + "}" +            //
+         ",\n  " + field("I1", p.i1) +                    //
+         ",\n  " + field("I2", p.i2) +                    //
+         ",\n  " + field("alpha", p.alpha) +              //
+         ",\n  " + field("rx", p.rx) +                    //
+         ",\n  " + field("ry", p.ry) + "\n}\n";
+}
+
+}  // namespace host
