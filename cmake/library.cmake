@@ -1,14 +1,28 @@
 # The library: libtrelvin.so, or Trelvin.dll with its import library.
 add_library(
   trelvin SHARED
+  src/circles/classification.cpp
+  src/circles/constructions.cpp
+  src/circles/equations.cpp
+  src/circles/measures.cpp
+  src/circles/stations.cpp
+  src/circles/trace.cpp
   src/frame/functions.cpp
+  src/lists/matching.cpp
+  src/lists/ordering.cpp
   src/plane/angles.cpp
   src/plane/lines.cpp
   src/plane/points.cpp
   src/properties/composite.cpp
   src/properties/polygons.cpp
   src/properties/segments.cpp
-  src/sections/outlines.cpp)
+  src/sections/channels.cpp
+  src/sections/outlines.cpp
+  src/sections/plates.cpp
+  src/space/frames.cpp
+  src/space/lines.cpp
+  src/space/planes.cpp
+  src/space/rotations.cpp)
 add_library(Trelvin::trelvin ALIAS trelvin)
 target_include_directories(trelvin PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                           $<INSTALL_INTERFACE:include>)
@@ -45,6 +59,10 @@ if(WIN32)
     TARGET trelvin POST_BUILD VERBATIM
     COMMAND ${CMAKE_DLLTOOL} --kill-at --input-def ${CMAKE_CURRENT_BINARY_DIR}/import.def
             --output-lib $<TARGET_LINKER_FILE:trelvin>)
+else()
+  target_link_options(trelvin PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/src/frame/trelvin.map)
+  set_property(TARGET trelvin APPEND PROPERTY LINK_DEPENDS
+                                              ${PROJECT_SOURCE_DIR}/src/frame/trelvin.map)
 endif()
 
 include(GNUInstallDirs)

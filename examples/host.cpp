@@ -1,5 +1,5 @@
-#include <cstdio>
 #include <trelvin/trelvin.h>
+#include <cstdio>
 
 int main() {
   float a, b, c, d;

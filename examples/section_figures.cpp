@@ -17,15 +17,18 @@ std::string without_negative_zero(std::string text) {
 }  // namespace
 
 std::string fixed(double value, int decimals) {
+  double step = 1;
+  for (; decimals < 0; ++decimals) step *= 10;
+  if (step > 1) value = std::round(value / step) * step;
   char text[longest];
-  const auto end =
+  const char *const end =
       std::to_chars(text, text + longest, value, std::chars_format::fixed, decimals).ptr;
   return without_negative_zero({text, end});
 }
 
 std::string significant(double value, int digits) {
   char text[longest];
-  const auto end =
+  const char *const end =
       std::to_chars(text, text + longest, value, std::chars_format::general, digits).ptr;
   return without_negative_zero({text, end});
 }
@@ -36,12 +39,8 @@ std::string shortest(float value) {
 }
 
 int decimals_for(double size, int digits) {
-  int decimals = digits - 1;
-  size = std::fabs(size);
   if (size == 0) return 0;
-  for (; size >= 10 && decimals > 0; size /= 10) --decimals;
-  for (; size < 1; size *= 10) ++decimals;
-  return decimals;
+  return digits - 1 - static_cast<int>(std::floor(std::log10(std::fabs(size))));
 }
 
 }  // namespace host

@@ -5,7 +5,7 @@
 
 namespace host {
 
-// With so many decimals.
+// With so many decimals; a negative count rounds before the point.
 std::string fixed(double value, int decimals);
 
 // With at most so many significant digits, as %g would.
@@ -14,7 +14,7 @@ std::string significant(double value, int digits);
 // As short as the number allows.
 std::string shortest(float value);
 
-// Decimals that give a number of this size so many significant digits.
+// Decimals, negative for a large number, that leave one of this size so many significant digits.
 int decimals_for(double size, int digits);
 
 }  // namespace host

@@ -41,8 +41,8 @@ Part polygon_part(float factor, std::vector<float> x, std::vector<float> y) {
 // starts. So each one moves into arrays of its own.
 Section section_of(const Frame &f) {
   Section section;
-  auto x = f.x.begin();
-  auto y = f.y.begin();
+  const float *x = f.x.data();
+  const float *y = f.y.data();
   for (std::size_t p = 0; p < static_cast<std::size_t>(f.np); ++p) {
     Ring ring;
     for (std::int32_t i = 0; i < f.nv[p]; ++i) ring.push_back({x[i], y[i]});
@@ -209,44 +209,69 @@ const char *fault_of_rolled(const float *d) {
 
 const std::vector<Profile> &profiles() {
   static const std::vector<Profile> all{
-      {"ia", "I section with unequal flanges, 1 at the bottom", {"H", "B1", "B2", "T1", "T2", "TW"},
+      {"ia",
+       "I section with unequal flanges, 1 at the bottom",
+       {"H", "B1", "B2", "T1", "T2", "TW"},
        fault_of_i_section,
        [](const float *d) {
          return section_of(frame(trvsec_ia, d[0], d[1], d[2], d[3], d[4], d[5]));
        }},
-      {"h", "I section on its side, flange 1 on the left", {"H", "B1", "B2", "T1", "T2", "TW"},
+      {"h",
+       "I section on its side, flange 1 on the left",
+       {"H", "B1", "B2", "T1", "T2", "TW"},
        fault_of_i_section,
        [](const float *d) {
          return section_of(frame(trvsec_h, d[0], d[1], d[2], d[3], d[4], d[5]));
        }},
-      {"t", "T section, flange at the top", {"B", "H", "TF", "TW"}, fault_of_t,
+      {"t",
+       "T section, flange at the top",
+       {"B", "H", "TF", "TW"},
+       fault_of_t,
        [](const float *d) { return section_of(frame(trvsec_t, d[0], d[1], d[2], d[3])); }},
-      {"b", "flat bar, B a whole number", {"B", "H"}, fault_of_bar, flat_bar},
-      {"h1b", "I section on its side under a cover plate",
-       {"W", "D", "P", "T1", "T2", "TW", "TP"}, fault_of_h1b,
+      {"b", "flat bar of whole width B", {"B", "H"}, fault_of_bar, flat_bar},
+      {"h1b",
+       "I section on its side under a cover plate",
+       {"W", "D", "P", "T1", "T2", "TW", "TP"},
+       fault_of_h1b,
        [](const float *d) {
          return section_of(frame(trvsec_h1b, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
        }},
-      {"box", "box girder with overhanging flanges", {"BT", "BB", "TT", "TB", "H", "TW", "G"},
+      {"box",
+       "box girder with overhanging flanges",
+       {"BT", "BB", "TT", "TB", "H", "TW", "G"},
        fault_of_box,
        [](const float *d) {
          return section_of(frame(trvsec_box, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
        }},
-      {"rhs", "rectangular hollow section with sharp corners", {"B", "H", "T"}, fault_of_rhs,
+      {"rhs",
+       "rectangular hollow section with sharp corners",
+       {"B", "H", "T"},
+       fault_of_rhs,
        [](const float *d) { return section_of(frame(trvsec_rhs, d[0], d[1], d[2])); }},
-      {"l2", "two equal angles back to back", {"B", "H", "G", "T", "TV"}, fault_of_l2,
+      {"l2",
+       "two equal angles back to back",
+       {"B", "H", "G", "T", "TV"},
+       fault_of_l2,
        [](const float *d) { return section_of(frame(trvsec_l2, d[0], d[1], d[2], d[3], d[4])); }},
-      {"tab", "top plate on a closed cell", {"B", "H", "BW", "E", "T", "TW", "TB"}, fault_of_tab,
+      {"tab",
+       "top plate on a closed cell",
+       {"B", "H", "BW", "E", "T", "TW", "TB"},
+       fault_of_tab,
        [](const float *d) {
          return section_of(frame(trvsec_tab, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
        }},
-      {"h2b", "two flanges, two webs and a middle plate",
-       {"B", "W", "HI", "TW1", "TW2", "TM", "TF"}, fault_of_h2b,
+      {"h2b",
+       "two flanges, two webs and a middle plate",
+       {"B", "W", "HI", "TW1", "TW2", "TM", "TF"},
+       fault_of_h2b,
        [](const float *d) {
          return section_of(frame(trvsec_h2b, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
        }},
-      {"rolled", "hot-rolled I section with root fillets", {"H", "B", "TW", "TF", "R"},
-       fault_of_rolled, rolled},
+      {"rolled",
+       "hot-rolled I section with root fillets",
+       {"H", "B", "TW", "TF", "R"},
+       fault_of_rolled,
+       rolled},
   };
   return all;
 }

@@ -10,6 +10,8 @@
 namespace host {
 namespace {
 
+using Figures = std::vector<std::pair<std::string_view, double>>;
+
 constexpr int digits = 7;  // what single precision holds
 
 struct Row {
@@ -29,19 +31,23 @@ std::string right_aligned(const std::string &text, std::size_t width) {
   return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
-// Rows of one unit, mm to some power, with the decimals that suit a figure of the given size. Below
-// that a figure is rounding and shows as zero.
+// With the decimals that suit a figure of the given size: below that a figure is rounding and shows
+// as zero. Sizes that no section in mm has would fill the line with zeros.
+std::string figure(double value, double size) {
+  const int decimals = decimals_for(size, digits);
+  return decimals < -9 || decimals > 15 ? significant(value, digits) : fixed(value, decimals);
+}
+
 class Rows {
  public:
-  void add(std::string heading, int power, double size,
-           const std::vector<std::pair<std::string, double>> &figures) {
+  // Rows of one unit, mm to a power, for figures that share a size.
+  void add(std::string heading, int power, double size, const Figures &figures) {
     double cm = 1;
     for (int i = 0; i < power; ++i) cm *= 10;
     const std::string exponent = power == 1 ? "" : std::to_string(power);
     for (const auto &[symbol, value] : figures) {
-      rows_.push_back({std::exchange(heading, ""), symbol,
-                       fixed(value, decimals_for(size, digits)), "mm" + exponent,
-                       fixed(value / cm, decimals_for(size / cm, digits)), "cm" + exponent});
+      rows_.push_back({std::exchange(heading, ""), std::string(symbol), figure(value, size),
+                       "mm" + exponent, figure(value / cm, size / cm), "cm" + exponent});
     }
   }
 
@@ -50,7 +56,7 @@ class Rows {
     rows_.push_back({"", symbol, fixed(radians, 6), "rad", fixed(radians * degrees, 4), "deg"});
   }
 
-  std::string text() const {
+  [[nodiscard]] std::string text() const {
     std::size_t width = 0;
     std::size_t other_width = 0;
     for (const Row &row : rows_) {
@@ -69,6 +75,16 @@ class Rows {
  private:
   std::vector<Row> rows_;
 };
+
+// The members of a JSON object.
+std::string members(const Figures &figures, const std::string &separator) {
+  std::string text;
+  for (const auto &[name, value] : figures) {
+    if (!text.empty()) text += separator;
+    text += '"' + std::string(name) + "\": " + significant(value, 9);
+  }
+  return text;
+}
 
 }  // namespace
 
@@ -90,26 +106,22 @@ std::string table(const std::string &title, const Properties &p) {
 }
 
 std::string json(const Properties &p) {
-  const auto field = [](std::string_view name, double value) {
-    return '"' + std::string(name) + "\": " + significant(value, 9);
-  };
-  return "{\n  " + field("area", p.area) +                //
-         ",\n  " + field("xs", p.xs) +                    //
-         ",\n  " + field("ys", p.ys) +                    //
-         ",\n  " + field("Sx", p.sx) +                    //
-         ",\n  " + field("Sy", p.sy) +                    //
-         ",\n  " + field("Ix", p.origin.x) +              //
-         ",\n  " + field("Iy", p.origin.y) +              //
-         ",\n  " + field("Ixy", p.origin.xy) +            //
-         ",\n  \"centroidal\": {" +                       //
-         field("Ix", p.centroidal.x) + ", " +             //
-         field("Iy", p.centroidal.y) + ", " +             //
-         field("Ixy", p.centroidal.xy) + "}" +            //
-         ",\n  " + field("I1", p.i1) +                    //
-         ",\n  " + field("I2", p.i2) +                    //
-         ",\n  " + field("alpha", p.alpha) +              //
-         ",\n  " + field("rx", p.rx) +                    //
-         ",\n  " + field("ry", p.ry) + "\n}\n";
+  return "{\n  " +
+         members({{"area", p.area},
+                  {"xs", p.xs},
+                  {"ys", p.ys},
+                  {"Sx", p.sx},
+                  {"Sy", p.sy},
+                  {"Ix", p.origin.x},
+                  {"Iy", p.origin.y},
+                  {"Ixy", p.origin.xy}},
+                 ",\n  ") +
+         ",\n  \"centroidal\": {" +
+         members({{"Ix", p.centroidal.x}, {"Iy", p.centroidal.y}, {"Ixy", p.centroidal.xy}}, ", ") +
+         "},\n  " +
+         members({{"I1", p.i1}, {"I2", p.i2}, {"alpha", p.alpha}, {"rx", p.rx}, {"ry", p.ry}},
+                 ",\n  ") +
+         "\n}\n";
 }
 
 }  // namespace host

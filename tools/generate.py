@@ -5,6 +5,7 @@
     tools/generate.py --check    write nothing; fail when a contract is faulty or a file out of date
 """
 
+import re
 import sys
 
 import headers
@@ -35,9 +36,11 @@ def export_table(routines):
 def routine_list(routines):
     lines = [
         "// Generated from include/trelvin by tools/generate.py:",
-        "// ROUTINE(name, number of arguments) for each routine.",
+        "// ROUTINE(name, number of arguments, their names) for each routine.",
     ]
-    lines += [f"ROUTINE({routine.name}, {len(routine.arguments)})" for routine in routines]
+    for routine in routines:
+        names = " ".join(argument.name for argument in routine.arguments)
+        lines.append(f'ROUTINE({routine.name}, {len(routine.arguments)}, "{names}")')
     return "\n".join(lines) + "\n"
 
 
@@ -63,7 +66,20 @@ def index(routines):
     return "\n".join(lines) + "\n"
 
 
+def readme(_routines):
+    """The README, with the example hosts as they stand in their files."""
+
+    def block(match):
+        file = match.group(2)
+        language = file.rsplit(".", 1)[1]
+        return f"{match.group(1)}\n```{language}\n{(headers.ROOT / file).read_text()}```\n"
+
+    text = (headers.ROOT / "README.md").read_text()
+    return re.sub(r"(<!-- file: (\S+) -->)\n(?:```.*?```\n)?", block, text, flags=re.S)
+
+
 OUTPUTS = {
+    "README.md": readme,
     "src/frame/Trelvin.def": export_table,
     "tests/routines.inc": routine_list,
     "docs/routines.md": index,

@@ -15,6 +15,7 @@ TYPES = {
     "TrvIntIn": (False, True, "in"),
     "TrvIntOut": (False, True, "out"),
     "TrvIntInOut": (False, True, "inout"),
+    "TrvFunctionIn": (False, False, "in"),
     "TrvArrayIn": (True, False, "in"),
     "TrvArrayOut": (True, False, "out"),
     "TrvArrayInOut": (True, False, "inout"),

@@ -14,6 +14,7 @@
  *   Integer         TrvIntIn         TrvIntOut         TrvIntInOut
  *   Real array      TrvArrayIn       TrvArrayOut       TrvArrayInOut
  *   Integer array   TrvIntArrayIn    TrvIntArrayOut    TrvIntArrayInOut
+ *   function        TrvFunctionIn
  *
  * Unless a contract says otherwise:
  * - Lengths are in whatever unit the host uses throughout, angles in radians.
@@ -63,6 +64,9 @@ typedef const int32_t *TrvIntIn;
 typedef int32_t *TrvIntOut;
 typedef int32_t *TrvIntInOut;
 #endif
+
+/* A function of the host's, of the library's own calling convention: a Real for a position. */
+typedef float(TRELVIN_CALL *TrvFunctionIn)(TrvIntIn position);
 
 typedef const float *TrvArrayIn;
 typedef float *TrvArrayOut;

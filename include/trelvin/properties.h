@@ -3,18 +3,17 @@
  * Area properties of polygons, circular segments and composite sections.
  *
  * All values are taken about the coordinate axes through the origin: Sx = integral of y dA,
- * Sy = integral of x dA, Ix = integral of y*y dA, Iy = integral of x*x dA, Ixy = integral of x*y dA.
- * With coordinates in the length unit L, areas are in L^2, first moments in L^3, second in L^4.
+ * Sy = integral of x dA, Ix = integral of y*y dA, Iy = integral of x*x dA, Ixy = integral of x*y
+ * dA. With coordinates in the length unit L, areas are in L^2, first moments in L^3, second in L^4.
  *
  * A section is the sum of its parts. Each part is described by two arrays x and y, a count n and a
  * kind, and contributes with a factor, -1 for a hole:
  *
  *   kind  part                       points
  *   1     area `value` at a point    1 the point
- *   2     polygon                    1 ... n the vertices, counter-clockwise; element n+1 is written
- *   3     full circle                1 the centre, 2 a point on the circle
- *   4     smaller circular segment   1 the centre, 2 and 3 the ends of the chord
- *   5     larger circular segment    as 4
+ *   2     polygon                    1 ... n the vertices, counter-clockwise; element n+1 is
+ * written 3     full circle                1 the centre, 2 a point on the circle 4     smaller
+ * circular segment   1 the centre, 2 and 3 the ends of the chord 5     larger circular segment as 4
  *
  * A part of any other kind leaves the outputs as the caller set them, times the factor.
  */
@@ -88,8 +87,8 @@ TRELVIN_ROUTINE trvacp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * @param[in]  kind   5 the larger segment; any other value the smaller one
  * @param[out] ix     second moment about the x axis
  * @param[out] iy     second moment about the y axis
- * @param[out] ixy    area*xs*ys, without the segment's own centroidal product of inertia: exact only
- *                    for a chord parallel to an axis
+ * @param[out] ixy    area*xs*ys, without the segment's own centroidal product of inertia: exact
+ * only for a chord parallel to an axis
  */
 TRELVIN_ROUTINE trvicp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn kind,
                        TrvOut ix, TrvOut iy, TrvOut ixy);

@@ -1,6 +1,6 @@
 /**
  * @file
- * Outlines of steel profiles.
+ * Steel sections: buckling of plates, outlines of profiles, channels.
  *
  * An outline is a list of closed polygons, centred on the middle of the profile's bounding box (not
  * on its centroid), x to the right and y upwards, lengths in the host's unit. Every outline routine
@@ -24,6 +24,59 @@
 #define TRELVIN_SECTIONS_H
 
 #include "trelvin/frame.h"
+
+/* Plate buckling ----------------------------------------------------------------------------- */
+
+/**
+ * Reduction factor of an internal compression element, EN 1993-1-5, 4.4(2).
+ *
+ * Slenderness b / (((28.4*r2/r1) * sqrt(ks)) * t); no reduction up to 0.5 + sqrt(0.085 -
+ * 0.055*psi), else (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1. There is no lower
+ * bound.
+ *
+ * @param[in]  b      width
+ * @param[in]  t      thickness, in the unit of b
+ * @param[in]  r1,r2  material: epsilon = r2/r1, that is sqrt(235/fy) with fy in N/mm2
+ * @param[in]  psi    stress ratio
+ * @param[in]  ks     buckling factor k_sigma
+ * @param[out] rho    reduction factor
+ */
+TRELVIN_ROUTINE trvro2(TrvIn b, TrvIn t, TrvIn r1, TrvIn r2, TrvIn psi, TrvIn ks, TrvOut rho);
+
+/**
+ * Effective width of an edge fold on a plate it stiffens, EN 1993-1-3, 5.5.3.2.
+ *
+ * The buckling factor is 0.5 up to c/bp = 0.35 and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. Beyond, the
+ * factor of the previous call stands; it is retained, zero after loading, which gives ceff = 0.
+ *
+ * @param[in]  c      width of the fold
+ * @param[in]  bp     width of the plate
+ * @param[in]  t      thickness
+ * @param[in]  r1,r2  material, as trvro2
+ * @param[out] ceff   effective width
+ */
+TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ceff);
+
+/**
+ * Effective widths at the edges of an internal element, EN 1993-1-5, table 4.1.
+ *
+ * Compression is positive. Where the cases of the table meet, the later one stands: a stress s2
+ * just below zero gives shares of 0.4 and 0.6. Nothing is computed at s2 = -3*s1 exactly.
+ *
+ * @param[in]  bl     width for the slenderness
+ * @param[in]  w      width to reduce: the compressed part where s2 is tension
+ * @param[in]  t      thickness
+ * @param[in]  r1,r2  material, as trvro2
+ * @param[in]  s1     stress at the more compressed edge
+ * @param[in]  s2     stress at the other edge
+ * @param[out] be1    effective width at the edge of s1
+ * @param[out] be2    effective width at the other edge; both unwritten when both stresses are
+ * within the tolerance, s1 is not positive, or s2 = -3*s1
+ */
+TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1, TrvIn s2,
+                       TrvOut be1, TrvOut be2);
+
+/* Outlines ----------------------------------------------------------------------------------- */
 
 /**
  * I section with unequal flanges.
@@ -189,5 +242,33 @@ TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, Trv
                            TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2);
+
+/* Channels ----------------------------------------------------------------------------------- */
+
+/**
+ * Distance of a channel's shear centre from its centroid.
+ *
+ * Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is lipped
+ * when C is above the tolerance.
+ *
+ * @param[in]  B   outer width of the flanges
+ * @param[in]  H   outer depth
+ * @param[in]  C   outer length of the lips, turned inwards; 0 for a plain channel
+ * @param[in]  t   wall thickness
+ * @param[out] e0  distance along the flanges; centroid and shear centre are on either side of the
+ * web
+ */
+TRELVIN_ROUTINE trvshc_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut e0);
+
+/**
+ * Warping constant of a channel; otherwise as trvshc_c.
+ *
+ * @param[in]  B   outer width of the flanges
+ * @param[in]  H   outer depth
+ * @param[in]  C   outer length of the lips, turned inwards; 0 for a plain channel
+ * @param[in]  t   wall thickness
+ * @param[out] Iw  warping constant, in the sixth power of the length unit
+ */
+TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw);
 
 #endif

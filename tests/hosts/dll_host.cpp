@@ -138,7 +138,7 @@ int main() {
     std::printf("FAILED  Trelvin.dll cannot be loaded: error %lu\n", GetLastError());
     return 1;
   }
-#define ROUTINE(name, count) check_routine(library, #name, count);
+#define ROUTINE(name, count, arguments) check_routine(library, #name, count);
 #include "routines.inc"
 #undef ROUTINE
   check_figures(library);

@@ -1,24 +1,90 @@
-#include <cmath>
-
 #include "support.h"
 #include "trelvin/plane.h"
 
 using namespace trelvin_test;
 
-TEST(Points, DistanceInSpace) {
-  float d = 0;
-  trvpds(1, 2, 3, 3, 5, 9, d);
-  EXPECT_EQ(d, 7);
+TEST(Points, DistanceProductsAndDeterminants) {
+  EXPECT_EQ(outputs(trvpds, 1, 2, 3, 3, 5, 9), Values{7});
+  // (2, -3, 5) and (4, -7, 6), neither starting from the origin.
+  EXPECT_EQ(outputs(trvpri, 1, 1, 1, 3, -2, 6, -1, 0, 2, 3, -7, 8), Values{59});
+  float c[] = {0, 0, 0, unwritten};
+  trvpre(1, 1, 1, 3, -2, 6, -1, 0, 2, 3, -7, 8, c);
+  EXPECT_EQ(Values(c, c + 4), (Values{17, 8, -2, unwritten}));
+  EXPECT_EQ(outputs(trvdtr2, 1, 2, 3, 5), Values{-1});
+  // By Sarrus: 24 - 10 + 3 - 45 - 4 + 4.
+  EXPECT_EQ(outputs(trvdtr3, 2, -1, 3, 1, 3, 2, 5, 1, 4), Values{-28});
 }
 
-TEST(Points, CoincidenceHoldsAtTheToleranceItself) {
-  float dx = 0;
-  float dy = 0;
-  float dz = 0;
-  std::int32_t status = unwritten_int;
-  trvcnt(0, 0, 0, tolerance, -tolerance, tolerance, dx, dy, dz, status);
-  EXPECT_EQ(status, 1);
-  EXPECT_EQ(dy, -tolerance);  // differences are written all the same
-  trvcnt(0, 0, 0, 0, 0, std::nextafter(tolerance, 1.0F), dx, dy, dz, status);
-  EXPECT_EQ(status, 0);
+TEST(Points, CoincidenceHoldsAtTheToleranceItselfAndNullAtZeroOnly) {
+  const float t = tolerance;
+  EXPECT_EQ(outputs(trvcnt, 0, 0, 0, t, -t, t), (Values{t, -t, t, 1}));
+  EXPECT_EQ(outputs(trvcnt, 1, 2, 3, 1, 2, 5), (Values{0, 0, 2, 0}));
+  EXPECT_EQ(outputs(trvcnt1, 0, -0.0, 0), Values{1});
+  for (int i = 0; i < 3; ++i) {
+    for (const float component : {beyond, -beyond, 1e-30F, not_a_number}) {
+      float v[] = {0, 0, 0};
+      v[i] = component;
+      EXPECT_EQ(outputs(trvcnt, 0, 0, 0, v[0], v[1], v[2])[3], component == 1e-30F ? 1 : 0);
+      EXPECT_EQ(outputs(trvcnt1, v[0], v[1], v[2]), Values{0});
+    }
+  }
+}
+
+TEST(Points, AlongTheLineOfTwoPoints) {
+  EXPECT_EQ(outputs(trv123, 0, 0, 0, tolerance, tolerance, tolerance, 0.5),
+            (Values{unwritten, unwritten, unwritten, 1}));
+  EXPECT_EQ(outputs(trv123, 1, 2, 3, 3, -2, 9, -1.5), (Values{-2, 8, -6, 0}));
+  EXPECT_EQ(outputs(trvmed, 1, 2, 3, 3, -4, 8), (Values{2, -1, 5.5}));
+}
+
+TEST(Points, QuotientsArePairedCrosswise) {
+  EXPECT_EQ(outputs(trvgrc, -2, 4, 6), (Values{-3, -2}));
+  EXPECT_EQ(outputs(trvgrc, -beyond, 0, -beyond), (Values{1, 0}));
+  for (const float vanishing : {tolerance, -tolerance, not_a_number})
+    EXPECT_EQ(outputs(trvgrc, vanishing, 4, 6), (Values{0, 0}));
+}
+
+TEST(Points, InterpolatesAndExtrapolates) {
+  EXPECT_EQ(outputs(trvint, 2, 4, 10, 20, 2.5), Values{12.5});
+  EXPECT_EQ(outputs(trvint, 2, 4, 10, 20, 6), Values{30});
+  EXPECT_EQ(outputs(trvint, 2, 2, 10, 20, 6), Values{infinity});
+}
+
+TEST(Points, SignOfAValue) {
+  EXPECT_EQ(outputs(trvvin, -1, 1e-40F, not_a_number, -1, -1), Values{1});
+  for (const float v : {0.0F, -1.0F, not_a_number})
+    EXPECT_EQ(outputs(trvvin, 1, v, 1, 1, 1), Values{2});
+}
+
+TEST(Points, PositionInATable) {
+  const float table[] = {0, 1, 2};
+  struct Case {
+    std::int32_t n;
+    float x;
+    std::int32_t interval, status, i;
+  };
+  const Case cases[] = {
+      {3, 0, 1, 1, 1},
+      {3, 1, 2, 1, 2},
+      {3, 0.5F, 1, 2, 1},
+      {3, 1.5F, 2, 2, 2},
+      {3, 2, 0, 1, 3},
+      {3, 2.5F, 0, 0, 0},
+      {3, tolerance, 1, 1, 1},
+      {3, beyond, 1, 2, 1},
+      {3, -tolerance, 0, 1, 1},
+      {3, -beyond, 0, 0, 0},
+      {3, not_a_number, 0, 0, 0},
+      {1, 0, 0, 1, 1},
+      {1, 0.5F, 0, 0, 0},
+      {0, 0, 0, 0, 0},
+      {-1, 0, 0, 0, 0},
+      {3, 0.999995F, 1, 1, 2},  // an equal entry goes before the interval
+  };
+  for (const Case &t : cases) {
+    std::int32_t interval = unwritten_int, status = unwritten_int, i = unwritten_int;
+    trvpos(t.n, table, t.x, interval);
+    trvpos1(t.n, table, t.x, status, i);
+    EXPECT_TRUE(interval == t.interval && status == t.status && i == t.i) << &t - cases;
+  }
 }

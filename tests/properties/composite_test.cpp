@@ -1,1 +1,90 @@
+#include <array>
+
 #include "support.h"
+#include "trelvin/properties.h"
+
+using namespace trelvin_test;
+
+namespace {
+
+struct Part {
+  std::array<float, 5> x, y;
+  std::int32_t n, kind;
+  float value = 0, angle = 0;
+};
+
+// Area, sx, sy, ix, iy, ixy, from what the outputs held before.
+Values properties(Part p, float factor, std::array<float, 6> r) {
+  trvair(p.x.data(), p.y.data(), p.n, p.kind, p.value, factor, r[0]);
+  trvstm(p.x.data(), p.y.data(), p.n, p.kind, p.value, factor, r[1], r[2]);
+  trvinm(p.x.data(), p.y.data(), p.n, p.kind, p.value, p.angle, factor, r[3], r[4], r[5]);
+  return {r.begin(), r.end()};
+}
+
+}  // namespace
+
+TEST(Composite, EveryKindOfPart) {
+  const double disc = 25 * pi, own = 625 * pi / 4;
+  const double area = pi / 4 - 0.5, s = 1.0 / 6, i = pi / 16 - 1.0 / 12, rest = pi - area;
+  const std::pair<Part, Values> cases[] = {
+      {{{3}, {4}, 0, 1, 2}, {2, 8, 6, 37, 24, 30}},
+      {{{0, 4, 4, 0}, {0, 0, 3, 3}, 4, 2}, {12, 18, 24, 36, 64, 36}},
+      {{{2, 5}, {-3, 1}, 0, 3},
+       {disc, -3 * disc, 2 * disc, own + 9 * disc, own + 4 * disc, -6 * disc}},
+      {{{2, 3, 2}, {0, 0, 1}, 0, 4},
+       {area, s, s + 2 * area, i, i + 4 * s + 4 * area, s * (s / area + 2)}},
+      {{{2, 3, 2}, {0, 0, 1}, 0, 5},
+       {rest, -s, 2 * rest - s, pi / 4 - i, pi / 4 - i - 4 * s + 4 * rest, s * (s / rest - 2)}},
+      {{{3}, {4}, 0, 0, 2}, {9, 10, 11, 5, 6, 6}},
+      {{{3}, {4}, 0, 6, 2}, {9, 10, 11, 5, 6, 6}},
+  };
+  for (const auto &[part, figures] : cases) {
+    for (const float factor : {1.0F, -0.5F}) {
+      Values expected = figures;
+      for (double &value : expected) value *= factor;
+      expect_near(properties(part, factor, {9, 10, 11, 5, 6, 6}), expected, 1e-6);
+    }
+  }
+}
+
+TEST(Composite, OwnMomentsTurnOneAfterTheOther) {
+  // A twelfth of a turn: squares 3/4 and 1/4, doubled sine root(3)/2.
+  const double t = std::sqrt(3) / 2, ix = 7 - 2 * t, iy = 3 + ix / 4 + 2 * t;
+  const double ixy = ((ix - iy) / 2 + 2) * t;
+  expect_near(properties({{3}, {4}, 0, 1, 2, static_cast<float>(pi / 6)}, -1, {0, 0, 0, 8, 4, 2}),
+              {-2, -8, -6, -ix - 32, -iy - 18, -ixy - 24}, 1e-6);
+  // A quarter turn makes 2 and 1 equal, not 1 and 2.
+  expect_near(properties({{}, {}, 0, 1, 0, half_pi}, 1, {0, 0, 0, 2, 1, 0}), {0, 0, 0, 1, 1, 0},
+              1e-6);
+  // The squared cosine of 2^100, from a table of many digits.
+  EXPECT_NEAR(properties({{}, {}, 0, 1, 0, std::ldexp(1.0F, 100)}, 1, {0, 0, 0, 1, 0, 0})[3],
+              0.23929575844, 1e-7);
+}
+
+TEST(Composite, PrincipalMoments) {
+  // Mean 3.5, half the difference 1.5: a circle of radius 2.5.
+  const double alpha = std::atan2(4, 3) / 2;
+  expect_near(outputs(trvinp, 5, 2, 2), {6, 1, -alpha}, 1e-6);
+  expect_near(outputs(trvinp, 2, 5, 2), {1, 6, alpha}, 1e-6);
+  expect_near(outputs(trvinp, 2, 5, -2), {1, 6, -alpha}, 1e-6);
+  expect_near(outputs(trvinp, 1, 1, 0.5), {0.5, 1.5, pi / 4}, 1e-7);
+  expect_near(outputs(trvinp, 0.75, -0.75, 1), {1.25, -1.25, -alpha}, 1e-6);  // infinite ratio
+  EXPECT_EQ(outputs(trvinp, 3, -3, 0), (Values{3, -3, 0}));                   // no ratio
+  EXPECT_EQ(outputs(trvinp, 0.75, 0.25, 1e-8F), (Values{0.75, 0.25, 0}));
+  EXPECT_NE(outputs(trvinp, 0.75, 0.25, std::nextafter(1e-8F, 1.0F))[2], 0);
+  EXPECT_LT(outputs(trvinp, 0, 1e-12F, 1e-12F)[2], 0.6);
+  EXPECT_GT(outputs(trvinp, 0, std::nextafter(1e-12F, 0.0F), 1e-12F)[2], 0.7);
+}
+
+TEST(Composite, TrapezoidsLeaveOutTheLastInteriorSample) {
+  const auto integral = [](std::vector<float> f, float a, float b) {
+    float result = unwritten;
+    trvinr(static_cast<std::int32_t>(f.size()), f.data(), a, b, result);
+    return result;
+  };
+  EXPECT_EQ(integral({1, 2, 4, 8, 16, 33}, 1, 11), 62);  // 2 ((1 + 33)/2 + 2 + 4 + 8)
+  EXPECT_EQ(integral({1, 2, 4, 8}, 3, 0), -6.5F);
+  EXPECT_EQ(integral({1, 100, 1}, 0, 2), 1);
+  EXPECT_EQ(integral({1, 3}, 0, 2), 4);
+  EXPECT_EQ(integral({1}, 0, 2), infinity);
+}

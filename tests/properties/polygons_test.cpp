@@ -1,1 +1,69 @@
 #include "support.h"
+#include "trelvin/properties.h"
+
+using namespace trelvin_test;
+
+namespace {
+
+using Reals = std::vector<float>;
+
+// Area, sx, sy, ix, iy, ixy; shows on the way that one element is written behind the outline.
+Values properties(const Reals &x, const Reals &y) {
+  const auto call = [&](auto routine, auto &...results) {
+    const std::size_t n = x.size();
+    Reals px = x, py = y;
+    px.resize(n + 2, unwritten);
+    py.resize(n + 2, unwritten);
+    routine(px.data(), py.data(), static_cast<std::int32_t>(n), results...);
+    EXPECT_TRUE(px[n] == px[0] && py[n] == py[0]);
+    EXPECT_TRUE(px[n + 1] == unwritten && py[n + 1] == unwritten);
+  };
+  Reals r(6, unwritten);
+  call(trvapl, r[0]);
+  call(trvspl, r[1], r[2]);
+  call(trvipl, r[3], r[4], r[5]);
+  return {r.begin(), r.end()};
+}
+
+}  // namespace
+
+TEST(Polygons, FiguresOnPaper) {
+  EXPECT_EQ(properties({0, 4, 4, 0}, {0, 0, 3, 3}), (Values{12, 18, 24, 36, 64, 36}));
+  EXPECT_EQ(properties({0, 4, 4, 0, 0}, {0, 0, 3, 3, 0}), (Values{12, 18, 24, 36, 64, 36}));
+  EXPECT_EQ(properties({0, 0, 4, 4}, {0, 3, 3, 0}), (Values{-12, -18, -24, -36, -64, -36}));
+  EXPECT_EQ(properties({0, 4, 0}, {0, 0, 3}), (Values{6, 6, 8, 9, 16, 6}));
+  for (const Reals &x : {Reals{}, Reals{3}, Reals{3, 5}})
+    EXPECT_EQ(properties(x, x), (Values{0, 0, 0, 0, 0, 0}));
+}
+
+TEST(Polygons, ManyVertices) {
+  for (const int n : {15, 16, 17, 100}) {
+    Reals x, y;
+    for (int i = 0; i < n; ++i) {
+      x.push_back(static_cast<float>(3 + 2 * std::cos(2 * pi * i / n)));
+      y.push_back(static_cast<float>(-1 + 2 * std::sin(2 * pi * i / n)));
+    }
+    // n triangles with their tips at the centre (3, -1).
+    const double half_base = 2 * std::sin(pi / n), height = 2 * std::cos(pi / n);
+    const double area = n * half_base * height;
+    const double own = area / 4 * (height * height + half_base * half_base / 3);
+    expect_near(properties(x, y), {area, -area, 3 * area, own + area, own + 9 * area, -3 * area},
+                1e-6);
+  }
+}
+
+TEST(Polygons, FarFromTheOrigin) {
+  // Coordinates with 7 binary places: moved, none is rounded, so the area keeps every digit.
+  Reals x = {0.0078125F, 7, 7.1328125F, 1.5F, 1.2578125F, 0.25F};
+  Reals y = {0.125F, 0.0078125F, 1.25F, 1.3359375F, 6, 5.9921875F};
+  const Values p = properties(x, y);
+  for (float &element : x) element += 1e5F;
+  for (float &element : y) element -= 1e5F;
+  const Values far = properties(x, y);
+  EXPECT_EQ(far[0], p[0]);
+  const double d = 1e5, area = p[0], sx = p[1], sy = p[2], term = d * d * area;
+  expect_near(far,
+              {area, sx - d * area, sy + d * area, p[3] - 2 * d * sx + term,
+               p[4] + 2 * d * sy + term, p[5] + d * (sx - sy) - term},
+              1e-6);
+}

@@ -1,0 +1,537 @@
+/**
+ * @file
+ * Rotations, frames, planes and lines of space.
+ *
+ * A frame matrix is nine Reals, the unit axes e1, e2, e3 of a right-handed local frame by their
+ * global components. A plane is the quadruple (a, b, c, d) of a*x + b*y + c*z + d = 0; its normal
+ * (a, b, c) is as long as its construction makes it.
+ *
+ * The relation of two lines of space, as trvdirl finds it:
+ *
+ *   0  they cross, not at a right angle     4  the same line, opposite sense
+ *   1  parallel and distinct, same sense    5  they cross at a right angle
+ *   2  parallel and distinct, opposite      6  skew
+ *   3  the same line, same sense            7  a line's two points coincide
+ *
+ * The three-point test trvpsl retains a cosine between calls, and every routine that runs the test
+ * shares it: all that build a frame or a plane from three points or relate two lines.
+ */
+#ifndef TRELVIN_SPACE_H
+#define TRELVIN_SPACE_H
+
+#include "trelvin/frame.h"
+
+/* Rotations ---------------------------------------------------------------------------------- */
+
+/**
+ * Turns plane points about the origin, in place.
+ *
+ * @param[in]    mode   1 turns clockwise; any other value counter-clockwise
+ * @param[inout] x,y    arrays of n: coordinates
+ * @param[in]    n      number of points; below 1 nothing happens
+ * @param[in]    angle  angle in radians
+ */
+TRELVIN_ROUTINE trvrot(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIn angle);
+
+/**
+ * Turns points about the x axis, in place.
+ *
+ * @param[in]    mode   1 turns z towards y; any other value y towards z, right-handed about +x
+ * @param[in]    x      not read
+ * @param[inout] y,z    arrays of n: coordinates
+ * @param[in]    n      number of points; below 1 nothing happens
+ * @param[in]    angle  angle in radians
+ */
+TRELVIN_ROUTINE trvrotx(TrvIntIn mode, TrvArrayIn x, TrvArrayInOut y, TrvArrayInOut z, TrvIntIn n,
+                        TrvIn angle);
+
+/**
+ * Turns points about the y axis, in place.
+ *
+ * Unlike its sisters it turns left-handedly about its axis unless mode is 1.
+ *
+ * @param[in]    mode   1 turns z towards x; any other value x towards z, left-handed about +y
+ * @param[inout] x      array of n: coordinates
+ * @param[in]    y      not read
+ * @param[inout] z      array of n: coordinates
+ * @param[in]    n      number of points; below 1 nothing happens
+ * @param[in]    angle  angle in radians
+ */
+TRELVIN_ROUTINE trvroty(TrvIntIn mode, TrvArrayInOut x, TrvArrayIn y, TrvArrayInOut z, TrvIntIn n,
+                        TrvIn angle);
+
+/**
+ * Turns points about the z axis, in place.
+ *
+ * @param[in]    mode   1 turns y towards x; any other value x towards y, right-handed about +z
+ * @param[inout] x,y    arrays of n: coordinates
+ * @param[in]    z      not read
+ * @param[in]    n      number of points; below 1 nothing happens
+ * @param[in]    angle  angle in radians
+ */
+TRELVIN_ROUTINE trvrotz(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvArrayIn z, TrvIntIn n,
+                        TrvIn angle);
+
+/* Frames and transformations ----------------------------------------------------------------- */
+
+/**
+ * Three-point test: whether P0, P1 and P2 span a plane.
+ *
+ * The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance. Where P2 agrees with
+ * P0 or P1 within the tolerance in each coordinate yet lies farther than that from it, the cosine
+ * of the previous call stands (0 after loading). P0 = P1 is not tested and gives 0.
+ *
+ * @param[in]  x0,y0,z0  P0
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[out] status    0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4
+ * beyond P0; 5 beyond P1
+ */
+TRELVIN_ROUTINE trvpsl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                       TrvIn y2, TrvIn z2, TrvIntOut status);
+
+/**
+ * Moves the origin of points to (dx, dy, dz), in place.
+ *
+ * @param[inout] X,Y,Z     arrays of n: coordinates, less dx, dy and dz afterwards
+ * @param[in]    n         number of points; below 1 nothing happens
+ * @param[in]    dx,dy,dz  new origin; may be one of the points
+ */
+TRELVIN_ROUTINE trv3tra(TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z, TrvIntIn n, TrvIn dx,
+                        TrvIn dy, TrvIn dz);
+
+/**
+ * Applies a frame matrix to one point, in place.
+ *
+ * @param[inout] p                           array of 3: coordinates
+ * @param[in]    a1,a2,a3,a4,a5,a6,a7,a8,a9  frame matrix
+ * @param[in]    mode                        1 local coordinates to global orientation (the
+ *                                           transpose); any other value global to local
+ */
+TRELVIN_ROUTINE trvtrn(TrvArrayInOut p, TrvIn a1, TrvIn a2, TrvIn a3, TrvIn a4, TrvIn a5, TrvIn a6,
+                       TrvIn a7, TrvIn a8, TrvIn a9, TrvIntIn mode);
+
+/**
+ * Frame of the plane through three points.
+ *
+ * e1 runs from P0 to P1; e3 is the normal, turned towards +y if its y component is above the
+ * tolerance, else likewise towards +z, else towards +x; e2 = e3 x e1. An axis whose length is below
+ * 1e-5 before it is normalised stays zero; so P0 = P1 gives status 0 and a frame of zeros.
+ *
+ * @param[in]  x0,y0,z0     P0
+ * @param[in]  x1,y1,z1     P1
+ * @param[in]  x2,y2,z2     P2
+ * @param[out] e1x,e1y,e1z  first axis
+ * @param[out] e2x,e2y,e2z  second axis
+ * @param[out] e3x,e3y,e3z  third axis; all nine are zero when status is -2
+ * @param[out] status       0 done; -2 the three-point test trvpsl is not 0
+ */
+TRELVIN_ROUTINE trvaxe(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                       TrvIn y2, TrvIn z2, TrvOut e1x, TrvOut e1y, TrvOut e1z, TrvOut e2x,
+                       TrvOut e2y, TrvOut e2z, TrvOut e3x, TrvOut e3y, TrvOut e3z,
+                       TrvIntOut status);
+
+/**
+ * Frame of an axis from P0 to P1.
+ *
+ * At angle 0, e2 is the global y axis freed of its component along e1, and e3 = e1 x e2; a positive
+ * angle turns both right-handedly about e1. An axis parallel to y has no such e2: e2 and e3 are
+ * then not finite, with status 0.
+ *
+ * @param[in]  x0,y0,z0     P0
+ * @param[in]  x1,y1,z1     P1
+ * @param[in]  angle        turn of e2 and e3 about e1 in radians
+ * @param[out] e1x,e1y,e1z  first axis
+ * @param[out] e2x,e2y,e2z  second axis
+ * @param[out] e3x,e3y,e3z  third axis; all nine are zero when status is -2
+ * @param[out] status       0 done; -2 the distance of P0 and P1 is within the tolerance
+ */
+TRELVIN_ROUTINE trvaxel(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn angle,
+                        TrvOut e1x, TrvOut e1y, TrvOut e1z, TrvOut e2x, TrvOut e2y, TrvOut e2z,
+                        TrvOut e3x, TrvOut e3y, TrvOut e3z, TrvIntOut status);
+
+/**
+ * Shifts points and turns them about the global axes x, y and z, in this order and in place.
+ *
+ * Each turn is that of trvrotx, trvroty and trvrotz with mode 2. A shift whose components are all
+ * within the tolerance is left out, and so is a turn by an angle within it.
+ *
+ * @param[inout] X,Y,Z     arrays of n: coordinates
+ * @param[in]    n         number of points
+ * @param[in]    x0,y0,z0  shift, added
+ * @param[in]    ax,ay,az  angles in radians
+ */
+TRELVIN_ROUTINE trvptr(TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z, TrvIntIn n, TrvIn x0,
+                       TrvIn y0, TrvIn z0, TrvIn ax, TrvIn ay, TrvIn az);
+
+/**
+ * Shifts points and turns them in the frame of three points, in place.
+ *
+ * In local coordinates each point is shifted by (dx, dy, dz), then turned about the local axes x, y
+ * and z as trvrotx, trvroty and trvrotz turn with mode 2. No angle is left out.
+ *
+ * @param[in]    x0,y0,z0  P0, the origin of the frame
+ * @param[in]    x1,y1,z1  P1
+ * @param[in]    x2,y2,z2  P2
+ * @param[inout] X,Y,Z     arrays of n: coordinates; untouched when status is -2
+ * @param[in]    n         number of points
+ * @param[in]    dx,dy,dz  shift in local coordinates, before the turns
+ * @param[in]    ax,ay,az  angles in radians
+ * @param[out]   status    0 done; -2 no frame (trvaxe)
+ */
+TRELVIN_ROUTINE trvptrl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                        TrvIn y2, TrvIn z2, TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z,
+                        TrvIntIn n, TrvIn dx, TrvIn dy, TrvIn dz, TrvIn ax, TrvIn ay, TrvIn az,
+                        TrvIntOut status);
+
+/**
+ * Turns points about the axis from P0 through P1, in place.
+ *
+ * An axis parallel to the global y axis gives points that are not finite, with status 0 (trvaxel).
+ *
+ * @param[in]    x0,y0,z0  P0
+ * @param[in]    x1,y1,z1  P1
+ * @param[inout] X,Y,Z     arrays of n: coordinates; untouched when status is -2
+ * @param[in]    n         number of points; below 1 only the status is written
+ * @param[in]    angle     angle in radians, right-handed about the direction from P0 to P1
+ * @param[out]   status    0 done; -2 the distance of P0 and P1 is within the tolerance
+ */
+TRELVIN_ROUTINE trvpra(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvArrayInOut X,
+                       TrvArrayInOut Y, TrvArrayInOut Z, TrvIntIn n, TrvIn angle, TrvIntOut status);
+
+/**
+ * Turns points of a plane in the frame of the three points that span it, then shifts them, in
+ * place.
+ *
+ * Unlike trvptrl, the shift is global and comes after the turns.
+ *
+ * @param[in]    x0,y0,z0  P0, the origin of the frame
+ * @param[in]    x1,y1,z1  P1
+ * @param[in]    x2,y2,z2  P2
+ * @param[in]    dx,dy,dz  shift in global coordinates, after the turns
+ * @param[in]    ax,ay,az  angles in radians about the local axes, as in trvptrl
+ * @param[in]    n         number of points
+ * @param[inout] X,Y,Z     arrays of n: coordinates; untouched unless status is 0
+ * @param[in]    tol       largest residual of a point of the plane, as trvpsp takes it
+ * @param[out]   status    0 done; -1 the points span no plane; i > 0 point i is the first off it
+ */
+TRELVIN_ROUTINE trvppc(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                       TrvIn y2, TrvIn z2, TrvIn dx, TrvIn dy, TrvIn dz, TrvIn ax, TrvIn ay,
+                       TrvIn az, TrvIntIn n, TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z,
+                       TrvIn tol, TrvIntOut status);
+
+/* Planes ------------------------------------------------------------------------------------- */
+
+/**
+ * Plane through a point, spanned by two directions.
+ *
+ * (a, b, c) = u x w, not normalised; all four are zero where u and w are parallel.
+ *
+ * @param[in]  x,y,z     point
+ * @param[in]  ux,uy,uz  direction u
+ * @param[in]  wx,wy,wz  direction w
+ * @param[out] a,b,c,d   plane
+ */
+TRELVIN_ROUTINE trvplg(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy,
+                       TrvIn wz, TrvOut a, TrvOut b, TrvOut c, TrvOut d);
+
+/**
+ * Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
+ *
+ * @param[in]  x0,y0,z0  P0
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[out] a,b,c,d   plane; all zero when status is not 0
+ * @param[out] status    0 done; 1 to 5 as the three-point test trvpsl tells
+ */
+TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                       TrvIn y2, TrvIn z2, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
+                       TrvIntOut status);
+
+/**
+ * Plane through a point, parallel to two lines.
+ *
+ * @param[in]  x,y,z     point
+ * @param[in]  xa,ya,za  A, on the first line
+ * @param[in]  xb,yb,zb  B, on the first line
+ * @param[in]  xc,yc,zc  C, on the second line
+ * @param[in]  xd,yd,zd  D, on the second line
+ * @param[out] a,b,c,d   plane; all zero when status is not 0, and where the lines are parallel
+ * @param[out] status    0 done, also for parallel lines; 3, 4 or 7 the relation of the lines
+ */
+TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb,
+                       TrvIn zb, TrvIn xc, TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd,
+                       TrvOut a, TrvOut b, TrvOut c, TrvOut d, TrvIntOut status);
+
+/**
+ * Plane that contains one line and is parallel to another: trvpl2 through A.
+ *
+ * @param[in]  xa,ya,za  A, on the first line
+ * @param[in]  xb,yb,zb  B, on the first line
+ * @param[in]  xc,yc,zc  C, on the second line
+ * @param[in]  xd,yd,zd  D, on the second line
+ * @param[out] a,b,c,d   plane; all zero when status is not 0, and where the lines are parallel
+ * @param[out] status    0 done, also for parallel lines; 3, 4 or 7 the relation of the lines
+ */
+TRELVIN_ROUTINE trvpl3(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
+                       TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd, TrvOut a, TrvOut b,
+                       TrvOut c, TrvOut d, TrvIntOut status);
+
+/**
+ * Plane through a point, perpendicular to a segment.
+ *
+ * @param[in]  x,y,z     point
+ * @param[in]  xa,ya,za  A
+ * @param[in]  xb,yb,zb  B; the normal is B - A
+ * @param[out] a,b,c,d   plane; all zero when status is 1
+ * @param[out] status    0 done; 1 A and B coincide (trvcnt)
+ */
+TRELVIN_ROUTINE trvpl4(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb,
+                       TrvIn zb, TrvOut a, TrvOut b, TrvOut c, TrvOut d, TrvIntOut status);
+
+/**
+ * Plane with given intercepts on the axes.
+ *
+ * @param[in]  ix,iy,iz  intercepts
+ * @param[out] a,b,c,d   plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
+ * @param[out] status    0 done; 1 an intercept is not above the tolerance
+ */
+TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
+                       TrvIntOut status);
+
+/**
+ * Plane of two lines, each given by a point and a direction.
+ *
+ * @param[in]  xa,ya,za  A, on the first line
+ * @param[in]  ux,uy,uz  direction of the first line
+ * @param[in]  xc,yc,zc  C, on the second line
+ * @param[in]  wx,wy,wz  direction of the second line
+ * @param[out] a,b,c,d   plane; all zero for parallel lines; unwritten when the lines' relation is
+ * 3, 4, 6 or 7
+ * @param[out] status    0 done, also for parallel lines; 3, 4, 6 or 7 the relation of the lines
+ */
+TRELVIN_ROUTINE trvpl6(TrvIn xa, TrvIn ya, TrvIn za, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn xc,
+                       TrvIn yc, TrvIn zc, TrvIn wx, TrvIn wy, TrvIn wz, TrvOut a, TrvOut b,
+                       TrvOut c, TrvOut d, TrvIntOut status);
+
+/**
+ * Plane of three points turned about the line from P0 to P1.
+ *
+ * The normal is a unit vector; at angle 0 it is the third axis of trvaxe.
+ *
+ * @param[in]  x0,y0,z0  P0
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[in]  angle     angle in radians, right-handed about the direction from P0 to P1
+ * @param[out] a,b,c,d   plane; all zero when status is not 0
+ * @param[out] status    0 done; 1 to 5 as trvpl1; 1 also where the frame has no normal (trvpl4)
+ */
+TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                       TrvIn y2, TrvIn z2, TrvIn angle, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
+                       TrvIntOut status);
+
+/**
+ * Whether a point lies on the plane of three points.
+ *
+ * @param[in]  x0,y0,z0  P0
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[in]  x,y,z     point
+ * @param[in]  tol       largest residual allowed, itself included: the distance times the length of
+ *                       (P1 - P0) x (P2 - P0)
+ * @param[out] status    0 it does; -1 it does not, or the points span no plane
+ */
+TRELVIN_ROUTINE trvpsp(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                       TrvIn y2, TrvIn z2, TrvIn x, TrvIn y, TrvIn z, TrvIn tol, TrvIntOut status);
+
+/**
+ * Signed distance of a point from a plane.
+ *
+ * @param[in]  x,y,z    point
+ * @param[in]  a,b,c,d  plane
+ * @param[out] dist     distance, positive on the side the normal points to; not finite where the
+ *                      normal is zero
+ */
+TRELVIN_ROUTINE trvpld(TrvIn x, TrvIn y, TrvIn z, TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut dist);
+
+/**
+ * Whether a point lies on a plane.
+ *
+ * @param[in]  x,y,z    point
+ * @param[in]  a,b,c,d  plane
+ * @param[in]  tol      largest distance allowed, itself included
+ * @param[out] status   0 it does; -1 it does not; 1 the normal is exactly zero
+ */
+TRELVIN_ROUTINE trvpspg(TrvIn x, TrvIn y, TrvIn z, TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIn tol,
+                        TrvIntOut status);
+
+/**
+ * Relation of two directions, taken as lines through the origin.
+ *
+ * @param[in]  ux,uy,uz  u
+ * @param[in]  wx,wy,wz  w
+ * @param[in]  v7,v8     ignored
+ * @param[out] status    -1 u is exactly zero; else the relation of the lines: 0, 3, 4, 5 or 7
+ */
+TRELVIN_ROUTINE trvplv(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy, TrvIn wz, TrvIn v7,
+                       TrvIn v8, TrvIntOut status);
+
+/**
+ * Points of a list on a plane, by a running residual.
+ *
+ * The residual starts at d and is not reset between points: each point adds a*x, b*y and c*z to it,
+ * and is found when it is exactly zero then.
+ *
+ * @param[in]    X,Y,Z  arrays of n: coordinates
+ * @param[in]    a,b,c  normal of the plane
+ * @param[inout] d      constant of the plane; the last residual afterwards; untouched when n < 1
+ * @param[in]    n      number of points
+ * @param[out]   count  how many are found
+ * @param[out]   index  array of up to n: their positions, ascending; unwritten beyond count
+ */
+TRELVIN_ROUTINE trvpnp(TrvArrayIn X, TrvArrayIn Y, TrvArrayIn Z, TrvIn a, TrvIn b, TrvIn c,
+                       TrvInOut d, TrvIntIn n, TrvIntOut count, TrvIntArrayOut index);
+
+/* Lines -------------------------------------------------------------------------------------- */
+
+/**
+ * Relation of two lines.
+ *
+ * The same line means that C or D is on the line AB by the three-point test. Skew means that the
+ * triple product of B - A, D - C and C - A is above the tolerance; it is not scaled, so long lines
+ * count as skew sooner.
+ *
+ * @param[in]  xa,ya,za  A, on the first line
+ * @param[in]  xb,yb,zb  B, on the first line
+ * @param[in]  xc,yc,zc  C, on the second line
+ * @param[in]  xd,yd,zd  D, on the second line
+ * @param[out] status    relation, 0 to 7
+ */
+TRELVIN_ROUTINE trvdirl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
+                        TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd, TrvIntOut status);
+
+/**
+ * Whether three segments span space.
+ *
+ * @param[in]  xa,ya,za  A
+ * @param[in]  xb,yb,zb  B
+ * @param[in]  xc,yc,zc  C
+ * @param[in]  xd,yd,zd  D
+ * @param[in]  xe,ye,ze  E
+ * @param[in]  xf,yf,zf  F
+ * @param[out] status    1 the triple product of B - A, D - C and F - E is above the tolerance; 0
+ * not
+ */
+TRELVIN_ROUTINE trv3sp(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
+                       TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd, TrvIn xe, TrvIn ye,
+                       TrvIn ze, TrvIn xf, TrvIn yf, TrvIn zf, TrvIntOut status);
+
+/**
+ * Distance of a point from a line.
+ *
+ * The vector from Q to A takes A's y coordinate for its z component, so the figure is the distance
+ * only where the z of A equals its y.
+ *
+ * @param[in]  xa,ya,za  A
+ * @param[in]  xb,yb,zb  B
+ * @param[in]  xq,yq,zq  Q
+ * @param[out] status    always 0
+ * @param[out] dist      distance, never negative; the distance from A where A and B coincide
+ */
+TRELVIN_ROUTINE trv3ldb(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xq,
+                        TrvIn yq, TrvIn zq, TrvIntOut status, TrvOut dist);
+
+/**
+ * Signed distance of a point from a line, in the plane of both.
+ *
+ * The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe turns towards +y, else
+ * +z, else +x.
+ *
+ * @param[in]  xa,ya,za  A
+ * @param[in]  xb,yb,zb  B
+ * @param[in]  xq,yq,zq  Q
+ * @param[out] status    always 0
+ * @param[out] dist      distance; 0 where Q is on the line; the distance from A where A and B
+ *                       coincide
+ */
+TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xq,
+                        TrvIn yq, TrvIn zq, TrvIntOut status, TrvOut dist);
+
+/**
+ * Intersection of the lines A + t*u and C + s*w.
+ *
+ * Works in the frame of A, A + u and C + w, with A as the origin, and leaves A and C in it. Where
+ * C + w is on the first line there is no such frame, and the point is meaningless with status 0.
+ *
+ * @param[inout] xa,ya,za  A; zero afterwards; untouched when status is not 0
+ * @param[in]    ux,uy,uz  direction of the first line
+ * @param[inout] xc,yc,zc  C; C - A afterwards; untouched when status is not 0
+ * @param[in]    wx,wy,wz  direction of the second line
+ * @param[out]   status    0 done, also for parallel lines; else the status of trvpl6
+ * @param[out]   xi,yi,zi  point; unwritten when status is not 0; for parallel lines the caller's xi
+ *                         and yi, taken as local coordinates
+ */
+TRELVIN_ROUTINE trv3lni(TrvInOut xa, TrvInOut ya, TrvInOut za, TrvIn ux, TrvIn uy, TrvIn uz,
+                        TrvInOut xc, TrvInOut yc, TrvInOut zc, TrvIn wx, TrvIn wy, TrvIn wz,
+                        TrvIntOut status, TrvOut xi, TrvOut yi, TrvOut zi);
+
+/**
+ * Intersection of the line P + t*u with a plane.
+ *
+ * @param[in]  x,y,z     P
+ * @param[in]  ux,uy,uz  direction u
+ * @param[in]  a,b,c,d   plane
+ * @param[out] xi,yi,zi  point; unwritten when status is 3 or 4
+ * @param[out] status    0 done; 3 the line is parallel to the plane; 4 u or the normal is within
+ * the tolerance in each component
+ */
+TRELVIN_ROUTINE trvpli(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn a, TrvIn b,
+                       TrvIn c, TrvIn d, TrvOut xi, TrvOut yi, TrvOut zi, TrvIntOut status);
+
+/**
+ * Position of a plane against the axes.
+ *
+ * A plane whose normal is zero is reported as 7 or 10.
+ *
+ * @param[in]  a,b,c,d   plane
+ * @param[out] position  1 general; 2, 3, 4 parallel to the x, y, z axis; 5, 6, 7 normal to the z,
+ * x, y axis; 8, 9, 10 likewise and through the origin
+ */
+TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position);
+
+/**
+ * Points of a list near a line.
+ *
+ * @param[in]  xa,ya,za  A
+ * @param[in]  xb,yb,zb  B
+ * @param[in]  X,Y       arrays of n: x and y coordinates
+ * @param[in]  zf        function that gives the z coordinate of the point at a position
+ * @param[in]  n         number of points
+ * @param[in]  tol       largest distance allowed, itself included, as trv3ldb measures it
+ * @param[out] status    0; unwritten when n < 1
+ * @param[out] count     how many are found
+ * @param[out] index     array of up to n: their positions, ascending; unwritten beyond count
+ */
+TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvArrayIn X,
+                       TrvArrayIn Y, TrvFunctionIn zf, TrvIntIn n, TrvIn tol, TrvIntOut status,
+                       TrvIntOut count, TrvIntArrayOut index);
+
+/**
+ * Carries a point along when the line through it is moved.
+ *
+ * P and Q1 move by dP and dQ1; Q2 keeps its place on their line in proportion.
+ *
+ * @param[in]    xp,yp,zp     P
+ * @param[in]    x1,y1,z1     Q1
+ * @param[inout] x2,y2,z2     Q2; untouched when status is 0
+ * @param[in]    dxp,dyp,dzp  move of P
+ * @param[in]    dx1,dy1,dz1  move of Q1
+ * @param[out]   status       0 not moved: the three points are not collinear, or Q1 is at P; else
+ *                            moved: the relation of the lines from Q2 and from Q1 to P, 4 where
+ * they are on opposite sides of P
+ */
+TRELVIN_ROUTINE trvlpc(TrvIn xp, TrvIn yp, TrvIn zp, TrvIn x1, TrvIn y1, TrvIn z1, TrvInOut x2,
+                       TrvInOut y2, TrvInOut z2, TrvIn dxp, TrvIn dyp, TrvIn dzp, TrvIn dx1,
+                       TrvIn dy1, TrvIn dz1, TrvIntOut status);
+
+#endif

@@ -1,0 +1,57 @@
+// The trace file: records of lines, in Windows-1253, readable as a table.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "frame/numbers.h"
+
+namespace trelvin {
+
+// A text in Windows-1253, one byte a character.
+template <std::size_t size>
+struct EncodedText {
+  char bytes[size];
+  constexpr std::string_view view() const { return {bytes, size}; }
+};
+
+// Not defined: reached at compile time, it names the character that has no byte.
+void no_byte_in_windows_1253(char16_t character);
+
+// Encodes ASCII and the Greek capitals; any other character does not compile.
+template <std::size_t length>
+constexpr EncodedText<length - 1> windows_1253(const char16_t (&text)[length]) {
+  EncodedText<length - 1> encoded = {};
+  for (std::size_t i = 0; i + 1 < length; ++i) {
+    const char16_t character = text[i];
+    if (character < 0x80) {
+      encoded.bytes[i] = static_cast<char>(character);
+    } else if (character >= u'Α' && character <= u'Ω') {
+      encoded.bytes[i] = static_cast<char>(character - u'Α' + 0xC1);
+    } else {
+      no_byte_in_windows_1253(character);
+    }
+  }
+  return encoded;
+}
+
+// What one call writes. Lines start with a blank; values stand right-aligned in fixed fields.
+class TraceRecord {
+ public:
+  TraceRecord &begin_line();
+  TraceRecord &text(std::string_view text);
+  TraceRecord &integer(Integer value);
+  TraceRecord &real(Real value);  // 9 significant digits, which give the same bits back
+
+  // Appends the record to OUTPUT.TXT and makes sure that it is there when the call returns. A
+  // failure leaves no trace, in either sense: the next record tries again.
+  void append_to_file();
+
+ private:
+  void field(std::string_view text, std::size_t width);
+
+  char buffer_[512];
+  std::size_t length_ = 0;
+};
+
+}  // namespace trelvin

@@ -1,0 +1,244 @@
+"""Tests of the example host section_properties, run as a program.
+
+section_properties_test.py [unittest options] -- COMMAND...
+or with the command in the variable SECTION_PROPERTIES: "wine .../section_properties.exe".
+"""
+import json
+import math
+import os
+import re
+import shlex
+import subprocess
+import sys
+import tempfile
+import unittest
+import xml.etree.ElementTree as ElementTree
+
+try:
+    import resource
+except ImportError:  # not on Windows
+    resource = None
+
+COMMAND = shlex.split(os.environ.get("SECTION_PROPERTIES", ""))
+if "--" in sys.argv:
+    COMMAND = sys.argv[sys.argv.index("--") + 1:]
+    del sys.argv[sys.argv.index("--"):]
+COMMAND = [os.path.abspath(word) if os.path.exists(word) else word for word in COMMAND]
+TOLERANCE = 2e-6  # a few single-precision roundings
+
+# EN 10365: h b tw tf r in mm; A cm2, strong axis Iy cm4 and iy cm, weak axis Iz cm4 and iz cm.
+ROLLED = {
+    "IPE 200": ("200 100 5.6 8.5 12", "28.48", "1943", "8.26", "142.4", "2.24"),
+    "IPE 300": ("300 150 7.1 10.7 15", "53.81", "8356", "12.46", "603.8", "3.35"),
+    "HE 200 B": ("200 200 9 15 18", "78.08", "5696", "8.54", "2003", "5.07"),
+    "HE 300 A": ("290 300 8.5 14 27", "112.5", "1.826e4", "12.74", "6310", "7.49"),
+}
+
+# Profiles as plates (left, right, bottom, top), measured from wherever is handy; their polygons:
+# solids and holes.
+OUTLINES = {
+    "ia 400 310 150 22 11 8.5": (
+        [(-155, 155, 0, 22), (-4.25, 4.25, 22, 389), (-75, 75, 389, 400)], 1, 0),
+    "h 400 310 150 22 11 8.5": (
+        [(0, 22, -155, 155), (22, 389, -4.25, 4.25), (389, 400, -75, 75)], 1, 0),
+    "t 180 260 17 9.5": ([(-4.75, 4.75, 0, 243), (-90, 90, 243, 260)], 1, 0),
+    "b 130 17.5": ([(0, 130, 0, 17.5)], 1, 0),
+    "h1b 250 200 160 9 22 8 15": (
+        [(-125, 125, 160, 175), (-100, -91, 0, 160), (78, 100, 0, 160), (-91, 78, 76, 84)], 1, 1),
+    "h1b 180 200 160 30 40 8 15": (  # a plate inside the flanges' outer faces
+        [(-90, 90, 160, 175), (-100, -70, 0, 160), (60, 100, 0, 160), (-70, 60, 76, 84)], 1, 1),
+    "box 3000 2000 20 25 1500 12 1600": (
+        [(-1500, 1500, 1480, 1500), (-1000, 1000, 0, 25), (-812, -800, 25, 1480),
+         (800, 812, 25, 1480)], 1, 1),
+    "rhs 120 200 7.5": (
+        [(0, 120, 0, 7.5), (0, 120, 192.5, 200), (0, 7.5, 7.5, 192.5),
+         (112.5, 120, 7.5, 192.5)], 1, 1),
+    "l2 100 150 12 10 14": (
+        [(-106, -6, 140, 150), (6, 106, 140, 150), (-20, -6, 0, 140), (6, 20, 0, 140)], 2, 0),
+    "tab 500 400 300 60 15 10 12": (
+        [(-250, 250, 400, 415), (-150, -140, 0, 400), (140, 150, 0, 400),
+         (-140, 140, 60, 72)], 1, 1),
+    "h2b 300 240 260 10 30 12 15": (
+        [(-150, 150, 0, 15), (-150, 150, 275, 290), (-120, -110, 15, 275), (90, 120, 15, 275),
+         (-110, 90, 139, 151)], 1, 2),
+}
+
+# What is wrong, and what the message must name.
+BAD_INPUT = {
+    "": "profile", "q 1 2 3": "'q'", "rhs 100 100": "takes 3", "rhs 100 100 5 5": "takes 3",
+    "rhs 100 100 12mm": "'12mm'", "rhs nan 100 5": "B = 'nan'", "rhs 100 inf 5": "H = 'inf'",
+    "rhs 100 100 1e999": "1e999", "rhs 100 100 1e39": "1e39", "rhs 100 100 1e-60": "1e-60",
+    "rhs 100 100 0": "T = '0'", "rhs 100 -5 5": "H = '-5'", "rhs '' 100 5": "B = ''",
+    "rhs 100 ' 100' 5": "H = ' 100'", "rhs 100 100 5 --nosuch": "--nosuch",
+    "rhs 100 100 5 --svg": "--svg", "rhs 100 100 5 --svg --json": "--svg",
+    "rhs 100 100 60 --svg out.svg": "walls T", "rhs 100 100 50": "walls T",
+    "rhs 1e15 1e15 1e10": "single precision", "rhs 1e-15 1e-15 1e-16": "single precision",
+    "ia 30 100 100 20 20 5": "flanges T1 and T2", "ia 300 100 50 10 10 60": "web TW",
+    "h 30 100 100 20 20 5": "flanges T1 and T2", "t 100 50 60 8": "flange TF",
+    "t 10 50 6 18": "stem TW", "b 100.5 10": "whole number", "b 3e9 10": "2147483647",
+    "h1b 250 200 160 9 200 8 15": "flanges T1 and T2", "h1b 150 200 160 9 22 8 15": "cover plate",
+    "h1b 250 200 160 9 22 170 15": "web TW", "box 3000 2000 20 25 40 12 1600": "flanges TT",
+    "box 3000 1600 20 25 1500 12 1600": "webs", "l2 100 150 12 10 140": "TV",
+    "l2 100 150 12 160 14": "horizontal leg T", "tab 500 400 300 390 15 10 12": "bottom plate",
+    "tab 500 400 300 60 15 150 12": "webs TW", "tab 200 400 300 60 15 10 12": "top plate",
+    "h2b 300 240 260 100 140 12 15": "webs TW1", "h2b 300 240 260 10 30 260 15": "middle plate",
+    "h2b 200 240 260 10 30 12 15": "webs W", "rolled 300 150 7.1 10.7 75": "fillets R",
+    "rolled 80 150 7.1 10.7 30": "fillets R", "rhs 100 100 5 --svg missing/out.svg": "missing/out",
+    "rhs 100 100 5 --svg .": "'.'",
+}
+
+
+def run(arguments, folder=None, stdout=subprocess.PIPE, **options):
+    return subprocess.run(COMMAND + shlex.split(arguments), cwd=folder, stdout=stdout,
+                          stderr=subprocess.PIPE, encoding="utf-8", check=False, **options)
+
+
+def figures(arguments):
+    result = run(arguments + " --json")
+    if result.returncode != 0:
+        raise AssertionError(result.stderr)
+    return json.loads(result.stdout)
+
+
+def add_plates(plates):
+    """Moments about the middle of the bounding box: A, Sx, Sy, Ix, Iy, Ixy."""
+    x0 = (min(p[0] for p in plates) + max(p[1] for p in plates)) / 2
+    y0 = (min(p[2] for p in plates) + max(p[3] for p in plates)) / 2
+    sums = [0.0] * 6
+    for left, right, bottom, top in plates:
+        b, h = right - left, top - bottom
+        x, y = (left + right) / 2 - x0, (bottom + top) / 2 - y0
+        area = b * h
+        for i, term in enumerate((area, area * y, area * x, b * h**3 / 12 + area * y * y,
+                                  h * b**3 / 12 + area * x * x, area * x * y)):
+            sums[i] += term
+    return sums
+
+
+def drawn_steel(arguments, folder):
+    """The closed subpaths of the steel, without their M and Z."""
+    result = run(arguments + " --svg a.svg", folder)
+    if result.returncode != 0:
+        raise AssertionError(result.stderr)
+    picture = ElementTree.parse(os.path.join(folder, "a.svg"))
+    (path,) = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"]
+    return re.findall("M([^MZ]*)Z", path)
+
+
+def enclosed_area(ring):
+    return sum(x1 * y2 - x2 * y1 for (x1, y1), (x2, y2) in zip(ring, ring[1:] + ring[:1])) / 2
+
+
+class SectionProperties(unittest.TestCase):
+    def test_rolled_sections_have_the_published_values(self):
+        for name, (dimensions, *published) in ROLLED.items():
+            with self.subTest(name):
+                f = figures("rolled " + dimensions)
+                found = (f["area"] / 1e2, f["Ix"] / 1e4, f["rx"] / 10, f["Iy"] / 1e4, f["ry"] / 10)
+                for value, figure in zip(found, published):
+                    digits = len(figure.split("e")[0].replace(".", ""))
+                    self.assertEqual(float(f"{value:.{digits}g}"), float(figure))
+                self.assertEqual((f["Ixy"], f["alpha"], f["I1"] > f["I2"]), (0, 0, True))
+
+    def test_outlines_are_the_sum_of_their_plates(self):
+        for profile, (plates, _, _) in OUTLINES.items():
+            with self.subTest(profile):
+                f = figures(profile)
+                area, sx, sy, ix, iy, ixy = add_plates(plates)
+                xs, ys = sy / area, sx / area
+                cx, cy, cxy = ix - sx * ys, iy - sy * xs, ixy - sx * xs
+                radius = math.hypot((cx - cy) / 2, cxy) * (1 if cx > cy else -1)
+                length = math.sqrt((ix + iy) / area)
+                for found, expected, scale in (
+                        (f["area"], area, area), (f["xs"], xs, length), (f["ys"], ys, length),
+                        (f["Sx"], sx, area * length), (f["Sy"], sy, area * length),
+                        (f["Ix"], ix, ix), (f["Iy"], iy, iy), (f["Ixy"], ixy, ix + iy),
+                        (f["centroidal"]["Ix"], cx, cx), (f["centroidal"]["Iy"], cy, cy),
+                        (f["centroidal"]["Ixy"], cxy, cx + cy),
+                        (f["I1"], (cx + cy) / 2 + radius, cx + cy),
+                        (f["I2"], (cx + cy) / 2 - radius, cx + cy),
+                        (f["alpha"], math.atan(2 * cxy / (cy - cx)) / 2, 1),
+                        (f["rx"], math.sqrt(cx / area), length),
+                        (f["ry"], math.sqrt(cy / area), length)):
+                    self.assertAlmostEqual(found, expected, delta=TOLERANCE * scale)
+
+    def test_table_shows_the_figures(self):
+        table = run("rolled 300 150 7.1 10.7 15").stdout
+        for row in (r"^rolled  H = 300, B = 150, TW = 7\.1, TF = 10\.7, R = 15 mm\n",
+                    r"Area +A +5381\.2\d\d mm2 +53\.812\d\d cm2", r"ys +0\.0+ mm ",
+                    r"I1 +8356\d{4} mm4 +8356\.\d+ cm4", r"ry +33\.49\d+ mm +3\.349\d+ cm"):
+            self.assertRegex(table, row)
+        leftover = "ia 433.2 168.3 64.1 9.1 8.3 7.7"  # rounding leaves a tiny negative Sy
+        self.assertNotRegex(run(leftover).stdout, r"-0\.?0* ")
+
+    def test_rounding_does_not_turn_the_axes(self):
+        f = figures("box 1058.7 875.4 5.4 17.6 727.29 4.4 802.6")  # symmetric, Ix nearly Iy
+        self.assertEqual((f["centroidal"]["Ixy"], f["alpha"]), (0, 0))
+
+    def test_picture_shows_the_steel(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for profile, (plates, solids, holes) in OUTLINES.items():
+                with self.subTest(profile):
+                    rings = [ring.split("L") for ring in drawn_steel(profile, folder)]
+                    rings = [[tuple(map(float, v.split())) for v in ring] for ring in rings]
+                    self.assertEqual(len(rings), solids + holes)
+                    xs = [x for ring in rings for x, _ in ring]
+                    width = max(p[1] for p in plates) - min(p[0] for p in plates)
+                    mm = width / (max(xs) - min(xs))
+                    areas = [-enclosed_area(ring) * mm * mm for ring in rings]  # y downwards
+                    steel = add_plates(plates)[0]
+                    self.assertAlmostEqual(sum(areas[:solids]) - sum(areas[solids:]), steel,
+                                           delta=0.01 * steel)
+            (rolled,) = drawn_steel("rolled 300 150 7.1 10.7 15", folder)
+            self.assertEqual(rolled.count("A20.00 20.00 0 0 1"), 4)  # at 4/3 px a mm
+            self.assertEqual(os.listdir(folder), ["a.svg"])
+            # A heavy flange at the lower right pulls axis 1 down there: clockwise, positive in SVG.
+            drawn_steel("h1b 250 200 160 9 22 8 15", folder)
+            with open(os.path.join(folder, "a.svg"), encoding="utf-8") as picture:
+                self.assertRegex(picture.read(), r'transform="rotate\(9\.2\d+ ')
+
+    def test_bad_input_is_told_in_a_line(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for arguments, named in BAD_INPUT.items():
+                with self.subTest(arguments):
+                    result = run(arguments, folder)
+                    message = result.stderr.splitlines()
+                    self.assertEqual((result.returncode, result.stdout), (2, ""))
+                    self.assertRegex(message[0], "^section_properties: .*" + re.escape(named))
+                    self.assertTrue(len(message) == 1 or "usage: section_properties " in message[1])
+                    self.assertEqual(os.listdir(folder), [])
+        self.assertIn("rhs B H T", run("rhs 100 100").stderr)
+
+    def test_help_lists_every_profile(self):
+        result = run("--help")
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        for profile in list(OUTLINES) + ["rolled 1 2 3 4 5"]:
+            name, *dimensions = profile.split()
+            self.assertRegex(result.stdout, f"\n  {name}( [A-Z]+[12]?){{{len(dimensions)}}}  ")
+
+    @unittest.skipIf(resource is None or ".exe" in "".join(COMMAND), "needs a limit on file sizes")
+    def test_a_picture_that_fails_leaves_the_old_one(self):
+        with tempfile.TemporaryDirectory() as folder:
+            old = os.path.join(folder, "old.svg")
+            with open(old, "w", encoding="utf-8") as file:
+                file.write("old")
+            result = run("rhs 100 100 5 --svg old.svg", folder, restore_signals=False,
+                         preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (999, 999)))
+            self.assertEqual((result.returncode, result.stdout), (2, ""))
+            self.assertEqual(os.listdir(folder), ["old.svg"])
+            with open(old, encoding="utf-8") as file:
+                self.assertEqual(file.read(), "old")
+
+    @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
+    def test_output_that_fails_is_an_error(self):
+        with open("/dev/full", "wb") as full:
+            result = run("rhs 100 100 5", stdout=full)
+        self.assertEqual(result.returncode, 1)
+        self.assertTrue(result.stderr.startswith("section_properties: cannot write"))
+
+
+if __name__ == "__main__":
+    if not COMMAND:
+        sys.exit(__doc__)
+    os.environ.setdefault("WINEDEBUG", "-all")
+    unittest.main()

@@ -1,0 +1,150 @@
+// Counts how often each status value occurs in the digest's calls. Every value that a contract
+// names must occur, and no other.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <map>
+#include <sstream>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "hosts/random_calls.h"
+#include "hosts/sequence_of_routines.h"
+
+namespace {
+
+struct Status {
+  const char *routine;
+  const char *argument;
+  std::vector<std::int32_t> values;  // ascending; the last ones of a position may go on
+  bool open = false;                 // a position: larger values are in order too
+};
+
+const std::vector<Status> statuses = {
+    {"trvcnt", "status", {0, 1}},
+    {"trvcnt1", "status", {0, 1}},
+    {"trv123", "status", {0, 1}},
+    {"trvvin", "status", {1, 2}},
+    {"trvpos", "i", {0, 1, 2}, true},
+    {"trvpos1", "status", {0, 1, 2}},
+    {"trvlni", "status", {0, 1, 2}},
+    {"trvpsn", "code", {0, 1, 2, 3, 4, 5, 6, 7}},
+    {"trvln6", "code", {0, 1, 2, 3, 4, 5, 6, 7}},
+    {"trvln6", "on", {0, 1}},
+    {"trvln7", "code", {0, 1, 2, 3, 4, 5, 6, 7}},
+    {"trvln7", "on", {0, 1}},
+    {"trvphip", "status", {-1}},
+    {"trvtrg", "status", {0, 1}},
+    {"trvdir", "code", {0, 1, 2, 3, 4}},
+    {"trvdirp", "code", {0, 1, 2, 3, 4, 5, 6}},
+    {"trvlci", "n", {0, 1, 2}},
+    {"trvc12", "n", {0, 1, 2}},
+    {"trvcer2", "n", {0, 1, 2}},
+    {"trvcer1", "n", {0, 1, 2}},
+    {"trvcin", "position", {1, 2, 3, 4}},
+    {"trvcer3", "status", {0, 1}},
+    {"trvcer8", "status", {0, 1}},
+    {"trvcer6", "status", {0, 1}},
+    {"trvcer9", "status", {0, 1}},
+    {"trvarc1", "status", {0, 1}},
+    {"trvapp", "mark", {-1, 1, 2}},
+    {"trvcer4", "status", {0, 1}},
+    {"trvcer10", "status", {0, 1, 2}},
+    {"trvcer5", "status", {0, 1}},
+    {"trvpsl", "status", {0, 1, 2, 3, 4, 5}},
+    {"trvaxe", "status", {-2, 0}},
+    {"trvaxel", "status", {-2, 0}},
+    {"trvptrl", "status", {-2, 0}},
+    {"trvpra", "status", {-2, 0}},
+    {"trvppc", "status", {-1, 0, 1, 2}, true},
+    {"trvpl1", "status", {0, 1, 2, 3, 4, 5}},
+    {"trvpl2", "status", {0, 3, 4, 7}},
+    {"trvpl3", "status", {0, 3, 4, 7}},
+    {"trvpl4", "status", {0, 1}},
+    {"trvpl5", "status", {0, 1}},
+    {"trvpl6", "status", {0, 3, 4, 6, 7}},
+    {"trvpl7", "status", {0, 1, 2, 3, 4, 5}},
+    {"trvpsp", "status", {-1, 0}},
+    {"trvpspg", "status", {-1, 0, 1}},
+    {"trvplv", "status", {-1, 0, 3, 4, 5, 7}},
+    {"trvdirl", "status", {0, 1, 2, 3, 4, 5, 6, 7}},
+    {"trv3sp", "status", {0, 1}},
+    {"trv3ldb", "status", {0}},
+    {"trv3lda", "status", {0}},
+    {"trv3lni", "status", {0, 3, 4, 6, 7}},
+    {"trvpli", "status", {0, 3, 4}},
+    {"trvplp", "position", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}},
+    {"trvpnl", "status", {0}},
+    {"trvlpc", "status", {0, 3, 4, 6, 7}},
+    {"trvpor", "status", {-1, 0}},
+};
+
+std::size_t position_of(const std::string &name, const std::string &names) {
+  std::istringstream words(names);
+  std::string word;
+  std::size_t position = 0;
+  while (words >> word && word != name) ++position;
+  return position;
+}
+
+// First Integer behind each argument; zero for arguments that are none.
+template <class Storages>
+std::vector<std::int32_t> integers(const Storages &storages) {
+  const auto first = [](auto storage) -> std::int32_t {
+    if constexpr (std::is_same_v<decltype(storage), random_calls::Storage<std::int32_t>>) {
+      return *storage.address();
+    } else {
+      return 0;
+    }
+  };
+  return std::apply([&](const auto &...storage) { return std::vector{first(storage)...}; },
+                    storages);
+}
+
+}  // namespace
+
+int main() {
+  int faults = 0;
+  for_each_routine([&](const RoutineCalls &calls, auto routine) {
+    std::vector<std::pair<const Status *, std::map<std::int32_t, int>>> counted;
+    for (const Status &status : statuses) {
+      if (std::string(status.routine) == calls.name) counted.push_back({&status, {}});
+    }
+    if (counted.empty()) return;
+    random_calls::run(
+        calls.seed, calls.count, calls.shape, routine, [&](const auto &before, const auto &after) {
+          const auto old_values = integers(before);
+          const auto values = integers(after);
+          for (auto &[status, counts] : counted) {
+            const auto i = position_of(status->argument, calls.arguments);
+            const bool named =
+                std::binary_search(status->values.begin(), status->values.end(), values[i]);
+            // A value from before the call that no contract names was left unwritten.
+            if (named || values[i] != old_values[i]) ++counts[values[i]];
+          }
+        });
+    for (const auto &[status, counts] : counted) {
+      std::printf("%-9s %-8s", calls.name, status->argument);
+      for (const auto &[value, count] : counts) std::printf("  %d: %d", value, count);
+      for (const std::int32_t value : status->values) {
+        if (counts.find(value) == counts.end()) {
+          ++faults;
+          std::printf("  %d NEVER", value);
+        }
+      }
+      for (const auto &[value, count] : counts) {
+        const bool named = std::binary_search(status->values.begin(), status->values.end(), value);
+        if (!named && !(status->open && value > status->values.back())) {
+          ++faults;
+          std::printf("  %d UNNAMED", value);
+        }
+      }
+      std::printf("\n");
+    }
+  });
+  std::printf("%d status outputs, %d faults\n", static_cast<int>(statuses.size()), faults);
+  return faults == 0 ? 0 : 1;
+}
