@@ -3,14 +3,18 @@ add_library(
   trelvin SHARED
   src/circles/classification.cpp
   src/circles/constructions.cpp
+  src/circles/corners.cpp
   src/circles/equations.cpp
   src/circles/measures.cpp
   src/circles/stations.cpp
   src/circles/trace.cpp
   src/frame/functions.cpp
+  src/lists/crossings.cpp
   src/lists/matching.cpp
+  src/lists/merging.cpp
   src/lists/ordering.cpp
   src/plane/angles.cpp
+  src/plane/arrays.cpp
   src/plane/lines.cpp
   src/plane/points.cpp
   src/properties/composite.cpp
@@ -19,6 +23,7 @@ add_library(
   src/sections/channels.cpp
   src/sections/outlines.cpp
   src/sections/plates.cpp
+  src/sections/thin_walled.cpp
   src/space/frames.cpp
   src/space/lines.cpp
   src/space/planes.cpp

@@ -39,8 +39,18 @@ std::string shortest(float value) {
 }
 
 int decimals_for(double size, int digits) {
-  if (size == 0) return 0;
-  return digits - 1 - static_cast<int>(std::floor(std::log10(std::fabs(size))));
+  int decimals = digits - 1;
+  double leading = std::fabs(size);
+  if (leading == 0) return 0;
+  while (leading >= 10) {
+    leading /= 10;
+    --decimals;
+  }
+  while (leading < 1) {
+    leading *= 10;
+    ++decimals;
+  }
+  return decimals;
 }
 
 }  // namespace host

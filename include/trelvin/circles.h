@@ -301,4 +301,69 @@ TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
                         TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvOut xo, TrvOut yo,
                         TrvIntOut status);
 
+/**
+ * Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
+ * chord.
+ *
+ * T is on the parallel at the distance e from the chord towards the arc's middle point, O on the
+ * arc on that side. Lengths, and the sine of the angle, are compared with 1e-4.
+ *
+ * @param[inout] xc,yc   centre C; rewritten with its value to rounding when status is 1
+ * @param[inout] xa,ya   first end A; likewise
+ * @param[inout] xb,yb   second end B; likewise
+ * @param[in]    s       station: distance from A along the chord, not negative
+ * @param[in]    side    factor of the half angle that turns A clockwise to the arc's middle point
+ * @param[in]    e       distance of the parallel from the chord, not negative
+ * @param[in]    angle   direction of the line in radians, measured from the chord
+ * @param[out]   xp,yp   station P
+ * @param[out]   xt,yt   crossing T with the parallel
+ * @param[out]   xo,yo   crossing O with the arc
+ * @param[out]   len     length of PO
+ * @param[out]   status  1 done; 0 refused, nothing else is written: s or e is negative, the radius,
+ * the chord or its rest beyond s is at most 1e-4, the radii of A and B differ by more, side picks
+ * no side, the line is parallel to the chord, or it meets the circle in fewer than two points
+ * (trvlci)
+ */
+TRELVIN_ROUTINE trvcer7(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
+                        TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvIn angle, TrvOut xp,
+                        TrvOut yp, TrvOut xt, TrvOut yt, TrvOut xo, TrvOut yo, TrvOut len,
+                        TrvIntOut status);
+
+/* Corners and boxes -------------------------------------------------------------------------- */
+
+/**
+ * Rounds the corner at P0 between the segments to P1 and to P2.
+ *
+ * Formed in double precision and rounded once.
+ *
+ * @param[in]  x0,y0    corner P0
+ * @param[in]  x1,y1    P1
+ * @param[in]  x2,y2    P2
+ * @param[in]  r        radius
+ * @param[out] xc,yc    centre of the arc
+ * @param[out] xt1,yt1  where the arc touches the segment to P1
+ * @param[out] xt2,yt2  where it touches the segment to P2
+ * @param[out] status   1 done; 0 refused, nothing else is written: r or a segment is not above the
+ *                      tolerance, the sine of the angle is within it, or a tangent point falls
+ * beyond its segment by more
+ */
+TRELVIN_ROUTINE trvard(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIn r,
+                       TrvOut xc, TrvOut yc, TrvOut xt1, TrvOut yt1, TrvOut xt2, TrvOut yt2,
+                       TrvIntOut status);
+
+/**
+ * Bounding box of the arc that a point sweeps about a centre.
+ *
+ * Formed in double precision and rounded once.
+ *
+ * @param[in]  xc,yc      centre
+ * @param[in]  xa,ya      start of the arc
+ * @param[in]  sweep      angle in radians, counter-clockwise when positive; from 2*pi on, either
+ * way, the full circle
+ * @param[out] xmin,ymin  lower left corner
+ * @param[out] xmax,ymax  upper right corner
+ */
+TRELVIN_ROUTINE trvenv(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn sweep, TrvOut xmin,
+                       TrvOut ymin, TrvOut xmax, TrvOut ymax);
+
 #endif

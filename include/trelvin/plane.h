@@ -169,7 +169,7 @@ TRELVIN_ROUTINE trvpos1(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut status, Trv
 /**
  * Line through two points.
  *
- * a = y2 - y1, b = -(x2 - x1), c = y1*x2 - y2*x1: the normal (a, b) points to the right of the
+ * a = y2 - y1, b = 0 - (x2 - x1), c = y1*x2 - y2*x1: the normal (a, b) points to the right of the
  * direction from P1 to P2 and is as long as the segment.
  *
  * @param[in]  x1,y1  P1
@@ -181,7 +181,8 @@ TRELVIN_ROUTINE trvln3(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut a, TrvOut 
 /**
  * Line through a point at an angle to the x axis.
  *
- * An angle closer than 1e-5 to pi/2 or -pi/2 gives the vertical line (1, 0, -x0), and so does a
+ * An angle closer than 1e-5 to pi/2 or -pi/2 gives the vertical line (1, 0, 0 - x0), and
+ * so does a
  * NaN. Every other angle, 3*pi/2 included, gives (tan(phi), -1, y0 - tan(phi)*x0).
  *
  * @param[in]  x0,y0  point
@@ -193,7 +194,7 @@ TRELVIN_ROUTINE trvln1(TrvIn x0, TrvIn y0, TrvIn phi, TrvOut a, TrvOut b, TrvOut
 /**
  * Line through a point with a direction.
  *
- * (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, -x0) where dx is exactly zero; no
+ * (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) where dx is exactly zero; no
  * tolerance applies.
  *
  * @param[in]  x0,y0  point
@@ -223,7 +224,8 @@ TRELVIN_ROUTINE trvln2(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut a2, TrvOut b2,
  * @param[in]  x0,y0  vertex P0
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
- * @param[out] a,b,c  line; all zero where a ray has no length or both have one direction
+ * @param[out] a,b,c  line; all zero where a ray has no length, and to rounding where both have
+ *                    one direction
  */
 TRELVIN_ROUTINE trvln5(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut a,
                        TrvOut b, TrvOut c);
@@ -242,8 +244,9 @@ TRELVIN_ROUTINE trvlds(TrvIn x, TrvIn y, TrvIn a, TrvIn b, TrvIn c, TrvOut d);
 /**
  * Intersection of two lines.
  *
- * The lines count as parallel when the determinant a1*b2 - a2*b1 is within the tolerance. It is not
- * scaled: lines with small coefficients count as parallel sooner.
+ * The lines cross when the determinant a1*b2 - a2*b1 is above the tolerance; else they are distinct
+ * when b1*c2 - b2*c1 or a2*c1 - a1*c2 is. Neither is scaled: lines with small coefficients count
+ * as parallel, and as the same line, sooner.
  *
  * @param[in]  a1,b1,c1  first line
  * @param[in]  a2,b2,c2  second line
@@ -252,6 +255,18 @@ TRELVIN_ROUTINE trvlds(TrvIn x, TrvIn y, TrvIn a, TrvIn b, TrvIn c, TrvOut d);
  */
 TRELVIN_ROUTINE trvlni(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c2, TrvIntOut status,
                        TrvOut x, TrvOut y);
+
+/**
+ * Distance of two parallel lines.
+ *
+ * @param[in]  a1,b1,c1  first line
+ * @param[in]  a2,b2,c2  second line
+ * @param[out] d         signed distance for which trvln2 makes the second line of the first:
+ * positive towards the normal (a1, b1); 0 when status is 1; unwritten when it is 0
+ * @param[out] status    0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells
+ */
+TRELVIN_ROUTINE trvlul(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c2, TrvOut d,
+                       TrvIntOut status);
 
 /**
  * Which components of two triples differ by more than the tolerance.
@@ -285,7 +300,8 @@ TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn d
  * The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the tolerance.
  * Its station there is not the coordinate of P but that of the previous call: X, Y and Z are kept
  * between calls, zero after loading, and each call replaces the two it computes. The point agrees
- * when its other two coordinates are those of the line at the station.
+ * when its other two coordinates are those computed at the station; along y, with the sign of ey,
+ * z is that of the line at minus the station.
  *
  * @param[in]  a1,b1,c1,d1  first plane
  * @param[in]  a2,b2,c2,d2  second plane
@@ -349,6 +365,35 @@ TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
                         TrvIntOut status);
 
 /**
+ * Directed angle at P0 from the ray to P1 to the ray to P2.
+ *
+ * Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third axis of
+ * trvaxe: towards +y if its y component is above the tolerance, else likewise towards +z, else
+ * towards +x. So it is counter-clockwise in the plane z = 0. Formed in double precision and rounded
+ * once, it is as accurate near 0, pi and 2*pi as elsewhere.
+ *
+ * @param[in]  x0,y0,z0  vertex P0
+ * @param[in]  x1,y1,z1  P1
+ * @param[in]  x2,y2,z2  P2
+ * @param[out] chi       angle in [0, 2*pi); unwritten when status is 1
+ * @param[out] status    0 done; 1 P1 or P2 coincides with P0 (trvcnt)
+ */
+TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                       TrvIn y2, TrvIn z2, TrvOut chi, TrvIntOut status);
+
+/**
+ * Convexity of a closed outline, of either orientation.
+ *
+ * A vertex within the tolerance of the line through its neighbours counts as straight.
+ *
+ * @param[in]  X,Y     arrays of n: vertices, the first not repeated
+ * @param[in]  n       number of vertices
+ * @param[out] status  1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a
+ * side whose length is within the tolerance
+ */
+TRELVIN_ROUTINE trvcnv(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIntOut status);
+
+/**
  * Cosine and sine of the angle between P2 - P1 and P4 - P3.
  *
  * @param[in]  x1,y1,z1  P1
@@ -379,8 +424,8 @@ TRELVIN_ROUTINE trvdir(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn v
  * Relation of two planes.
  *
  * Planes with parallel normals are distinct when the ratio of their normals, taken at the last
- * component above the tolerance, and that of their constants (0 where d2 is within the tolerance)
- * differ by more than the tolerance and d1 or d2 is above it.
+ * component of the second one above the tolerance, and that of their constants (0 where d2 is
+ * within the tolerance) differ by more than the tolerance and d1 or d2 is above it.
  *
  * @param[in]  a1,b1,c1,d1  first plane
  * @param[in]  a2,b2,c2,d2  second plane
@@ -413,5 +458,26 @@ TRELVIN_ROUTINE trvmov(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
  * @param[in]    x0,y0  new origin; may be one of the points
  */
 TRELVIN_ROUTINE trvtra(TrvArrayInOut X, TrvArrayInOut Y, TrvIntIn n, TrvIn x0, TrvIn y0);
+
+/* Arrays ------------------------------------------------------------------------------------- */
+
+/**
+ * Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+ *
+ * @param[inout] V  array of n
+ * @param[in]    n  number of elements; below 2 nothing happens
+ */
+TRELVIN_ROUTINE trvinv(TrvIntArrayInOut V, TrvIntIn n);
+
+/**
+ * Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+ *
+ * @param[inout] V  array with room for n+m: the list
+ * @param[inout] n  number of its elements; n+m afterwards
+ * @param[in]    k  position after which to insert, 0 for the front; outside 0 ... n nothing happens
+ * @param[in]    A  array of m: what to insert
+ * @param[in]    m  number of elements to insert; below 1 nothing happens
+ */
+TRELVIN_ROUTINE trvadr(TrvIntArrayInOut V, TrvIntInOut n, TrvIntIn k, TrvIntArrayIn A, TrvIntIn m);
 
 #endif

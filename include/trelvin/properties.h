@@ -9,11 +9,14 @@
  * A section is the sum of its parts. Each part is described by two arrays x and y, a count n and a
  * kind, and contributes with a factor, -1 for a hole:
  *
- *   kind  part                       points
- *   1     area `value` at a point    1 the point
- *   2     polygon                    1 ... n the vertices, counter-clockwise; element n+1 is
- * written 3     full circle                1 the centre, 2 a point on the circle 4     smaller
- * circular segment   1 the centre, 2 and 3 the ends of the chord 5     larger circular segment as 4
+ *   kind  part                      points
+ *   1     area `value` at a point   1 the point
+ *   2     polygon                   1 ... n the vertices, counter-clockwise
+ *   3     full circle               1 the centre, 2 a point on the circle
+ *   4     smaller circular segment  1 the centre, 2 and 3 the ends of the chord
+ *   5     larger circular segment   as 4
+ *
+ * For a polygon element n+1 of both arrays is overwritten with vertex 1.
  *
  * A part of any other kind leaves the outputs as the caller set them, times the factor.
  */
@@ -65,8 +68,10 @@ TRELVIN_ROUTINE trvipl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut ix, 
 /**
  * Area and centroid of a circular segment, the region between an arc and its chord.
  *
- * The radius is the distance of P1 from the centre; P2 only fixes the angle, that of trvphi. The
- * order of P1 and P2 does not matter. A chord through the centre, or P1 = P2, gives a NaN centroid.
+ * The radius is the distance of P1 from the centre; P2 fixes the angle, that of trvphi, and the
+ * chord's direction. The order of P1 and P2 does not matter when both lie on the circle. The
+ * centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller segment whose
+ * angle is 0.
  *
  * @param[in]  xc,yc  centre
  * @param[in]  x1,y1  first end of the chord P1
@@ -126,8 +131,13 @@ TRELVIN_ROUTINE trvstm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
  * Second moments of a part of a section.
  *
  * A part of kind 1 brings its own centroidal moments in ix, iy and ixy, which are turned by `angle`
- * and shifted to the origin. Turning by a non-zero angle takes each new value into the next:
- * iy uses the turned ix, and ixy both, so the result is not the plain tensor rotation.
+ * and shifted to the origin. Turning takes each new value into the next, so it is not the plain
+ * tensor rotation: with s, c and t the sine and cosine of the angle and the sine of its double, in
+ * order
+ *
+ *   ix  = ix*c^2 + iy*s^2 - ixy*t
+ *   iy  = iy*c^2 + s^2*ix + ixy*t
+ *   ixy = ((ix - iy)*0.5 + ixy)*t
  *
  * @param[inout] x,y        points of the part; element n+1 is written for kind 2
  * @param[in]    n          number of vertices, for kind 2

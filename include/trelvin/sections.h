@@ -243,6 +243,48 @@ TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, Trv
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2);
 
+/**
+ * I section with unequal flanges, an eccentric web and 45-degree fillets.
+ *
+ * @param[in]  H      height
+ * @param[in]  B1,T1  width and thickness of flange 1, at the bottom
+ * @param[in]  B2,T2  width and thickness of flange 2, at the top
+ * @param[in]  TW     web thickness
+ * @param[in]  S1,S2  legs of the fillets between the web and flange 1, flange 2; 0 for none
+ * @param[in]  E      distance of the web from the middle, to the right
+ * @param[in]  q      value handed on with each polygon
+ * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2  outline frame: np = 1, nv = (16)
+ */
+TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn S1,
+                         TrvIn S2, TrvIn E, TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X,
+                         TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1,
+                         TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5,
+                         TrvArrayOut q1, TrvArrayOut q2);
+
+/**
+ * Channel open to the right, with lips turned inwards and folds turned back towards the web.
+ *
+ * Lengths are outer ones. A lip no longer than its flange is thick is none, and without a lip there
+ * is no fold; a fold no longer than its lip is thick is none.
+ *
+ * @param[in]  H        depth
+ * @param[in]  B1,B2    widths of flange 1, at the bottom, and flange 2, at the top
+ * @param[in]  C1,C2    lengths of their lips
+ * @param[in]  D1,D2    lengths of the folds at the lips' ends
+ * @param[in]  TW       web thickness
+ * @param[in]  T1,T2    thicknesses of the flanges
+ * @param[in]  TC1,TC2  thicknesses of the lips
+ * @param[in]  TD1,TD2  thicknesses of the folds
+ * @param[in]  q        value handed on with each polygon
+ * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2  outline frame: np = 1, nv = (16)
+ */
+TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn D1, TrvIn D2,
+                         TrvIn TW, TrvIn T1, TrvIn T2, TrvIn TC1, TrvIn TC2, TrvIn TD1, TrvIn TD2,
+                         TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                         TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                         TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                         TrvArrayOut q2);
+
 /* Channels ----------------------------------------------------------------------------------- */
 
 /**
@@ -270,5 +312,80 @@ TRELVIN_ROUTINE trvshc_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut e0);
  * @param[out] Iw  warping constant, in the sixth power of the length unit
  */
 TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw);
+
+/* Sections of thin plates -------------------------------------------------------------------- */
+
+/**
+ * Properties of an open section of thin plates.
+ *
+ * Each plate is given by its centre line and its thickness. The first starts anywhere, each further
+ * one at an end of an earlier one, within the tolerance in each coordinate. Area, moments and
+ * moduli are those of the plates as rectangles about their centre lines, overlaps at the joints
+ * counted twice; shear centre, warping constant and sectorial coordinates are those of the centre
+ * lines (V. Z. Vlasov, Thin-walled elastic beams). Formed in double precision and rounded once.
+ *
+ * @param[in]  n               number of plates
+ * @param[in]  X1,Y1           arrays of n: starts of the centre lines
+ * @param[in]  X2,Y2           arrays of n: ends of the centre lines
+ * @param[in]  T               array of n: thicknesses
+ * @param[out] A               area
+ * @param[out] xs,ys           centroid
+ * @param[out] Ix,Iy,Ixy       second moments about the centroid
+ * @param[out] I1,I2,alpha     principal moments and direction, as trvinp gives them
+ * @param[out] rx,ry           radii of gyration
+ * @param[out] Wx1,Wx2         elastic moduli of the top and the bottom fibre
+ * @param[out] Wy1,Wy2         elastic moduli of the right and the left fibre
+ * @param[out] Wpx,Wpy         plastic moduli about the equal-area axes
+ * @param[out] xp,yp           equal-area axes: the vertical one at xp, the horizontal one at yp
+ * @param[out] It              torsion constant: sum of l*t^3/3
+ * @param[out] Wt              torsion modulus: It over the greatest thickness
+ * @param[out] xm,ym           shear centre; the centroid where all plates are on one line
+ * @param[out] Iw              warping constant
+ * @param[out] r0              polar radius of gyration about the shear centre
+ * @param[out] W1,W2           arrays of n: normalised sectorial coordinate at the plates' starts
+ * and ends, counter-clockwise positive
+ * @param[out] status          0 done; -1 refused, nothing else is written: n < 1, or a length or a
+ *                             thickness not above the tolerance; k > 0 plate k starts at no earlier
+ * end or closes a cell: what is listed up to yp is written, the rest is not
+ */
+TRELVIN_ROUTINE trvmxt(TrvIntIn n, TrvArrayIn X1, TrvArrayIn Y1, TrvArrayIn X2, TrvArrayIn Y2,
+                       TrvArrayIn T, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
+                       TrvOut Ixy, TrvOut I1, TrvOut I2, TrvOut alpha, TrvOut rx, TrvOut ry,
+                       TrvOut Wx1, TrvOut Wx2, TrvOut Wy1, TrvOut Wy2, TrvOut Wpx, TrvOut Wpy,
+                       TrvOut xp, TrvOut yp, TrvOut It, TrvOut Wt, TrvOut xm, TrvOut ym, TrvOut Iw,
+                       TrvOut r0, TrvArrayOut W1, TrvArrayOut W2, TrvIntOut status);
+
+/**
+ * Properties of a flat bar, centred on the origin; otherwise as trvmxt.
+ *
+ * Torsion by Saint-Venant's series for the rectangle (S. Timoshenko, J. N. Goodier, Theory of
+ * elasticity, article 109), to single precision; Iw = (B*H)^3/144, that of the warping across the
+ * thickness.
+ *
+ * @param[in]  B            width, along x
+ * @param[in]  H            height, along y
+ * @param[out] A            area
+ * @param[out] xs,ys        centroid: 0
+ * @param[out] Ix,Iy,Ixy    second moments about the centroid
+ * @param[out] I1,I2,alpha  principal moments and direction, as trvinp gives them
+ * @param[out] rx,ry        radii of gyration
+ * @param[out] Wx1,Wx2      elastic moduli of the top and the bottom fibre
+ * @param[out] Wy1,Wy2      elastic moduli of the right and the left fibre
+ * @param[out] Wpx,Wpy      plastic moduli
+ * @param[out] xp,yp        equal-area axes: 0
+ * @param[out] It           torsion constant
+ * @param[out] Wt           torsion modulus: torque over the greatest shear stress
+ * @param[out] xm,ym        shear centre: 0
+ * @param[out] Iw           warping constant
+ * @param[out] r0           polar radius of gyration
+ * @param[out] W1,W2        arrays of 1: sectorial coordinate at the centre line's ends: 0
+ * @param[out] status       0 done; -1 refused, nothing else is written: a side not above the
+ * tolerance
+ */
+TRELVIN_ROUTINE trvmxt_fb(TrvIn B, TrvIn H, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
+                          TrvOut Ixy, TrvOut I1, TrvOut I2, TrvOut alpha, TrvOut rx, TrvOut ry,
+                          TrvOut Wx1, TrvOut Wx2, TrvOut Wy1, TrvOut Wy2, TrvOut Wpx, TrvOut Wpy,
+                          TrvOut xp, TrvOut yp, TrvOut It, TrvOut Wt, TrvOut xm, TrvOut ym,
+                          TrvOut Iw, TrvOut r0, TrvArrayOut W1, TrvArrayOut W2, TrvIntOut status);
 
 #endif

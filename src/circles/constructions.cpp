@@ -52,10 +52,9 @@ Real chord_angle(const Point &b) {
   return b.y < 0 ? 0 - angle : angle;
 }
 
-bool is_arc(const ArcLengths &lengths) {
-  return !(lengths.radius <= tolerance) &&
-         !(std::fabs(lengths.radius - lengths.radius_b) > tolerance) &&
-         !(lengths.chord <= tolerance);
+bool is_arc(const ArcLengths &lengths, Real tol = tolerance) {
+  return !(lengths.radius <= tol) && !(std::fabs(lengths.radius - lengths.radius_b) > tol) &&
+         !(lengths.chord <= tol);
 }
 
 struct Crossings {
@@ -210,5 +209,45 @@ TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
   local.give(B, xb, yb);
   local.give(C, xc, yc);
   local.give(result, xo, yo);
+  status = 1;
+}
+
+TRELVIN_ROUTINE trvcer7(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
+                        TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvIn angle, TrvOut xp,
+                        TrvOut yp, TrvOut xt, TrvOut yt, TrvOut xo, TrvOut yo, TrvOut len,
+                        TrvIntOut status) {
+  constexpr Real coarse = 1e-4F;
+  status = 0;
+  if (s < 0 || e < 0 || side == 0) return;
+  const Arc arc = {{xc, yc}, {xa, ya}, {xb, yb}};
+  const ArcLengths lengths = measure(arc);
+  if (!is_arc(lengths, coarse) || lengths.chord - s <= coarse) return;
+  if (std::fabs(sine(angle)) <= coarse) return;
+
+  // Clockwise from A the circle runs on the left of the chord, wherever the centre is.
+  const bool left = side > 0;
+  const Real height = left ? e : -e;
+
+  enum { A, B, C, P, T, O, points };
+  ChordFrame<points> local = {{xa, xb, xc, xa, xa, xa}, {ya, yb, yc, ya, ya, ya}, 0};
+  local.set_origin(arc.a);
+  local.turn_by(chord_angle(local.at(B)));
+  local.set(P, {s, 0});
+  const Line line = line_at_angle(local.at(P), angle);
+  const Crossings q = cross_circle(local.at(C), lengths.radius, line);
+  if (q.n < 2) return;
+  const bool first = left == (q.q1.y > q.q2.y);
+  local.set(O, first ? q.q1 : q.q2);
+  Integer unasked;  // the line is not parallel to the chord
+  trvlni(line.a, line.b, line.c, 0, 1, -height, unasked, local.x[T], local.y[T]);
+
+  len = distance(local.at(P), local.at(O));
+  local.leave(arc.a);
+  local.give(A, xa, ya);
+  local.give(B, xb, yb);
+  local.give(C, xc, yc);
+  local.give(P, xp, yp);
+  local.give(T, xt, yt);
+  local.give(O, xo, yo);
   status = 1;
 }

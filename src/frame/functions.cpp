@@ -54,7 +54,7 @@ ReducedAngle reduce(double magnitude) {
 
 }  // namespace
 
-SineCosine sine_cosine_of_large(Real angle) {
+WideSineCosine sine_cosine_of_large(Real angle) {
   const ReducedAngle reduced = reduce(std::fabs(static_cast<double>(angle)));
   double s = std::sin(reduced.rest);
   double c = std::cos(reduced.rest);
@@ -71,7 +71,7 @@ SineCosine sine_cosine_of_large(Real angle) {
     s = turned;
   }
   if (angle < 0) s = -s;
-  return {static_cast<Real>(s), static_cast<Real>(c)};
+  return {s, c};
 }
 
 }  // namespace trelvin

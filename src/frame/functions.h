@@ -17,26 +17,39 @@ struct SineCosine {
   Real cosine;
 };
 
+struct WideSineCosine {
+  double sine;
+  double cosine;
+};
+
 // Sine and cosine of an angle of magnitude at least `large_angle`, infinity excluded.
-SineCosine sine_cosine_of_large(Real angle);
+WideSineCosine sine_cosine_of_large(Real angle);
 
 constexpr Real large_angle = 16;
 
 inline bool is_large(Real angle) { return std::fabs(angle) >= large_angle && !std::isinf(angle); }
 
 inline SineCosine sine_cosine(Real angle) {
-  if (is_large(angle)) return sine_cosine_of_large(angle);
   const double wide = angle;
-  return {static_cast<Real>(std::sin(wide)), static_cast<Real>(std::cos(wide))};
+  const WideSineCosine both = is_large(angle) ? sine_cosine_of_large(angle)
+                                              : WideSineCosine{std::sin(wide), std::cos(wide)};
+  return {static_cast<Real>(both.sine), static_cast<Real>(both.cosine)};
 }
 
 inline Real sine(Real angle) { return sine_cosine(angle).sine; }
 
-inline Real tangent(Real angle) { return static_cast<Real>(std::tan(static_cast<double>(angle))); }
+inline Real tangent(Real angle) {
+  if (!is_large(angle)) return static_cast<Real>(std::tan(static_cast<double>(angle)));
+  const WideSineCosine both = sine_cosine_of_large(angle);
+  return static_cast<Real>(both.sine / both.cosine);
+}
 
 inline Real arc_tangent(Real slope) {
   return static_cast<Real>(std::atan(static_cast<double>(slope)));
 }
+
+// Angle of the direction (x, y) in [-pi, pi].
+inline double arc_tangent(double y, double x) { return std::atan2(y, x); }
 
 inline Real arc_cosine(Real cosine) {
   return static_cast<Real>(std::acos(static_cast<double>(cosine)));

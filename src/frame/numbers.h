@@ -17,6 +17,7 @@ constexpr Real tolerance = 1e-5F;
 constexpr Real pi = 3.1415927F;
 constexpr Real two_pi = 6.2831855F;
 constexpr Real half_pi = 1.5707964F;
+constexpr double full_turn = 6.283185307179586;  // for what is formed in double precision
 
 // Zero within the tolerance, the tolerance itself included. A NaN is not negligible.
 inline bool negligible(Real value) { return std::fabs(value) <= tolerance; }

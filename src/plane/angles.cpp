@@ -58,6 +58,65 @@ TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
   phi = arc_cosine(std::fabs(dot) / length1 / length2);
 }
 
+TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
+                       TrvIn y2, TrvIn z2, TrvOut chi, TrvIntOut status) {
+  Real ignored[3];
+  Integer at_p1;
+  Integer at_p2;
+  trvcnt(x0, y0, z0, x1, y1, z1, ignored[0], ignored[1], ignored[2], at_p1);
+  trvcnt(x0, y0, z0, x2, y2, z2, ignored[0], ignored[1], ignored[2], at_p2);
+  status = at_p1 == 1 || at_p2 == 1 ? 1 : 0;
+  if (status == 1) return;
+  const double u[] = {double{x1} - x0, double{y1} - y0, double{z1} - z0};
+  const double v[] = {double{x2} - x0, double{y2} - y0, double{z2} - z0};
+  const double m[] = {u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2],
+                      u[0] * v[1] - u[1] * v[0]};
+  const double sine = std::sqrt(m[0] * m[0] + m[1] * m[1] + m[2] * m[2]);
+  const double angle = arc_tangent(sine, u[0] * v[0] + u[1] * v[1] + u[2] * v[2]);
+  const double deciding = std::fabs(m[1]) > tolerance   ? m[1]
+                          : std::fabs(m[2]) > tolerance ? m[2]
+                                                        : m[0];
+  chi = static_cast<Real>(deciding < 0 ? full_turn - angle : angle);
+  if (chi >= two_pi) chi = std::nextafter(two_pi, Real{0});  // the last Real before the full turn
+}
+
+TRELVIN_ROUTINE trvcnv(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIntOut status) {
+  status = -1;
+  if (n < 3) return;
+  const auto next = [&](Integer i) { return i + 1 < n ? i + 1 : 0; };
+  for (Integer i = 0; i < n; ++i) {
+    Real side;
+    trvpds(X[i], Y[i], 0, X[next(i)], Y[next(i)], 0, side);
+    if (side <= tolerance) return;
+  }
+  // Once around in all, and no turn against that sense. A vertex close to the line through its
+  // neighbours does not turn, unless it turns back.
+  double turned = 0;
+  bool turns_left = false;
+  bool turns_right = false;
+  bool turns_back = false;
+  for (Integer i = 0; i < n; ++i) {
+    const Integer j = next(i);
+    const Integer k = next(j);
+    const double ux = double{X[j]} - X[i];
+    const double uy = double{Y[j]} - Y[i];
+    const double vx = double{X[k]} - X[j];
+    const double vy = double{Y[k]} - Y[j];
+    const double cross = ux * vy - uy * vx;
+    const double dot = ux * vx + uy * vy;
+    turned += arc_tangent(cross, dot);
+    const double base = std::sqrt((ux + vx) * (ux + vx) + (uy + vy) * (uy + vy));
+    if (std::fabs(cross) > tolerance * base) {
+      (cross > 0 ? turns_left : turns_right) = true;
+    } else if (dot < 0) {
+      turns_back = true;
+    }
+  }
+  const double once = std::fabs(turned) / full_turn;
+  const bool against = turned > 0 ? turns_right : turns_left;
+  status = once > 0.5 && once < 1.5 && !against && !turns_back ? 1 : 0;
+}
+
 TRELVIN_ROUTINE trvtrg(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn x3,
                        TrvIn y3, TrvIn z3, TrvIn x4, TrvIn y4, TrvIn z4, TrvOut cphi, TrvOut sphi,
                        TrvIntOut status) {

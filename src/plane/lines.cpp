@@ -84,6 +84,21 @@ TRELVIN_ROUTINE trvlni(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
   }
 }
 
+TRELVIN_ROUTINE trvlul(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c2, TrvOut d,
+                       TrvIntOut status) {
+  Real x;
+  Real y;
+  trvlni(a1, b1, c1, a2, b2, c2, status, x, y);
+  if (status == 1) {
+    d = 0;
+  } else if (status == 2) {
+    // The second line is k times a parallel of the first.
+    const Real square = a1 * a1 + b1 * b1;
+    const Real k = (a1 * a2 + b1 * b2) / square;
+    d = (c1 - c2 / k) / square_root(square);
+  }
+}
+
 TRELVIN_ROUTINE trvpsn(TrvIn p1, TrvIn p2, TrvIn p3, TrvIn q1, TrvIn q2, TrvIn q3, TrvIntOut code) {
   // Indexed by the components that differ: 1 the first, 2 the second, 4 the third.
   constexpr Integer codes[] = {0, 2, 3, 5, 4, 7, 6, 1};

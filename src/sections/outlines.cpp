@@ -210,3 +210,71 @@ TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, Trv
       .hole(q, {{left, cell}, {left, middle}, {right, middle}, {right, cell}})
       .hole(q, {{left, -middle}, {left, -cell}, {right, -cell}, {right, -middle}});
 }
+
+TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn S1,
+                         TrvIn S2, TrvIn E, TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X,
+                         TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1,
+                         TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5,
+                         TrvArrayOut q1, TrvArrayOut q2) {
+  const Real h = 0.5F * H;
+  const Real left = E - 0.5F * TW;
+  const Real right = E + 0.5F * TW;
+  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
+      .solid(q, {{-0.5F * B2, h},
+                 {-0.5F * B2, h - T2},
+                 {left - S2, h - T2},
+                 {left, h - T2 - S2},
+                 {left, T1 - h + S1},
+                 {left - S1, T1 - h},
+                 {-0.5F * B1, T1 - h},
+                 {-0.5F * B1, -h},
+                 {0.5F * B1, -h},
+                 {0.5F * B1, T1 - h},
+                 {right + S1, T1 - h},
+                 {right, T1 - h + S1},
+                 {right, h - T2 - S2},
+                 {right + S2, h - T2},
+                 {0.5F * B2, h - T2},
+                 {0.5F * B2, h}});
+}
+
+TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn D1, TrvIn D2,
+                         TrvIn TW, TrvIn T1, TrvIn T2, TrvIn TC1, TrvIn TC2, TrvIn TD1, TrvIn TD2,
+                         TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                         TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                         TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                         TrvArrayOut q2) {
+  const Real h = 0.5F * H;
+  const Real left = -0.5F * (B1 > B2 ? B1 : B2);
+
+  // The edge of a flange, seen from the web: out to the lip, up to its end, back along the fold.
+  struct Edge {
+    Real face, lip, fold;       // distances from the back of the web
+    Real lip_end, fold_inside;  // heights above the flange's outer face
+  };
+  const auto edge = [](Real B, Real C, Real D, Real T, Real TC, Real TD) {
+    const bool has_lip = C > T;
+    const bool has_fold = has_lip && D > TC;
+    const Real lip_end = has_lip ? C : T;
+    return Edge{B, B - TC, has_fold ? B - D : B - TC, lip_end, has_fold ? lip_end - TD : lip_end};
+  };
+  const Edge e1 = edge(B1, C1, D1, T1, TC1, TD1);
+  const Edge e2 = edge(B2, C2, D2, T2, TC2, TD2);
+  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
+      .solid(q, {{left, -h},
+                 {left + e1.face, -h},
+                 {left + e1.face, e1.lip_end - h},
+                 {left + e1.fold, e1.lip_end - h},
+                 {left + e1.fold, e1.fold_inside - h},
+                 {left + e1.lip, e1.fold_inside - h},
+                 {left + e1.lip, T1 - h},
+                 {left + TW, T1 - h},
+                 {left + TW, h - T2},
+                 {left + e2.lip, h - T2},
+                 {left + e2.lip, h - e2.fold_inside},
+                 {left + e2.fold, h - e2.fold_inside},
+                 {left + e2.fold, h - e2.lip_end},
+                 {left + e2.face, h - e2.lip_end},
+                 {left + e2.face, h},
+                 {left, h}});
+}

@@ -80,6 +80,15 @@ const std::vector<Status> statuses = {
     {"trvpnl", "status", {0}},
     {"trvlpc", "status", {0, 3, 4, 6, 7}},
     {"trvpor", "status", {-1, 0}},
+    {"trvlul", "status", {0, 1, 2}},
+    {"trvchi", "status", {0, 1}},
+    {"trvcnv", "status", {-1, 0, 1}},
+    {"trvmxt", "status", {-1, 0, 2, 3}, true},
+    {"trvmxt_fb", "status", {-1, 0}},
+    {"trvcer7", "status", {0, 1}},
+    {"trvard", "status", {0, 1}},
+    {"trvptp1", "status", {0, 1, 2}},
+    {"trvpin", "status", {-1, 0, 1}},
 };
 
 std::size_t position_of(const std::string &name, const std::string &names) {

@@ -85,12 +85,12 @@ class Storage {
  public:
   Element *address() { return words_.data() + spare; }
 
-  void fill(Sequence &sequence, int mood) {
+  void fill(Sequence &sequence, int mood, int largest_count) {
     for (Element &word : words_) {
       if constexpr (std::is_same_v<Element, float>) {
         word = draw_real(sequence, mood);
       } else {
-        word = sequence.between(-2, longest);
+        word = sequence.between(-2, largest_count);
       }
     }
   }
@@ -109,13 +109,13 @@ class Storage {
   }
 
  private:
-  static constexpr int longest = 40;
-  static constexpr int spare = 8;
-  std::array<Element, spare + longest * 2 + spare> words_ = {};
+  static constexpr std::size_t spare = 8;
+  static constexpr std::size_t room = 80;
+  std::array<Element, spare + room + spare> words_ = {};
 };
 
 struct FunctionStorage {
-  void fill(Sequence & /*sequence*/, int /*mood*/) {}
+  void fill(Sequence & /*sequence*/, int /*mood*/, int /*largest_count*/) {}
   template <class Visit>
   void visit_bits(Visit /*visit*/) const {}
 };
@@ -138,12 +138,14 @@ Argument as_argument(ItsStorage &storage) {
   }
 }
 
-// The addresses of a call's single Reals, in order; null for every other argument.
-using Scalars = std::vector<float *>;
+// The addresses of a call's single Reals, or of its Real arrays, in the order of its arguments;
+// null for every other argument.
+using Addresses = std::vector<float *>;
 
-template <class Argument, class ItsStorage>
-float *scalar_address(ItsStorage &storage) {
-  if constexpr (std::is_reference_v<Argument> && std::is_same_v<ElementOf<Argument>, float>) {
+template <class Argument, bool single, class ItsStorage>
+float *address_of_real(ItsStorage &storage) {
+  if constexpr (std::is_reference_v<Argument> == single &&
+                std::is_same_v<ElementOf<Argument>, float>) {
     return storage.address();
   } else {
     return nullptr;
@@ -152,7 +154,7 @@ float *scalar_address(ItsStorage &storage) {
 
 // Puts points in special positions: each group of two or three Reals may become a combination of
 // groups before it, so that points coincide, lie on lines and span parallels.
-inline void relate_points(Sequence &sequence, const Scalars &reals) {
+inline void relate_points(Sequence &sequence, const Addresses &reals) {
   const int size = sequence.between(2, 3);
   const auto groups = static_cast<int>(reals.size()) / size;
   const auto at = [&](int group, int i) -> float * {
@@ -177,7 +179,7 @@ inline void relate_points(Sequence &sequence, const Scalars &reals) {
 
 // Makes an arc of the first six Reals, centre and two ends, by points of the circle of radius 65
 // that have whole coordinates; the Reals after them become lengths up to the chord's, or angles.
-inline void make_arc(Sequence &sequence, const Scalars &reals) {
+inline void make_arc(Sequence &sequence, const Addresses &reals) {
   constexpr int whole[][2] = {{65, 0}, {63, 16}, {60, 25}, {56, 33}, {52, 39}, {39, 52}};
   const float scale = sequence.one_of({1.0F, 0.25F, 1.0F / 65536, 1.0F / 1048576, 4.0F, 0.015625F});
   const auto draw_offset = [&](float *x, float *y) {
@@ -211,7 +213,31 @@ inline void make_arc(Sequence &sequence, const Scalars &reals) {
   }
 }
 
-enum class Shape { free, arc };
+// Makes an open section of the five arrays behind the first argument, starts, ends and thicknesses
+// of plates; now and then a plate closes a cell or hangs loose.
+inline void make_plates(Sequence &sequence, const Addresses &arrays) {
+  constexpr int plates = 40;
+  const auto place = [&](int k, bool second, int coordinate) -> float & {
+    return arrays[static_cast<std::size_t>(1 + (second ? 2 : 0) + coordinate)][k];
+  };
+  const bool along_axes = sequence.one_in(2);
+  for (int k = 0; k < plates; ++k) {
+    const int from = k == 0 || sequence.one_in(60) ? k : sequence.between(0, k - 1);
+    const bool from_end = sequence.one_in(2);
+    const int free = along_axes ? sequence.between(0, 1) : 2;
+    for (int coordinate = 0; coordinate < 2; ++coordinate) {
+      const float start = from == k ? static_cast<float>(sequence.between(-50, 50))
+                                    : place(from, from_end, coordinate);
+      const auto step = static_cast<float>(sequence.between(-4000, 4000)) * 0.125F;
+      place(k, false, coordinate) = start;
+      place(k, true, coordinate) = free == 2 || free == coordinate ? start + step : start;
+    }
+    arrays[5][k] = static_cast<float>(sequence.between(1, 200)) * 0.125F;
+  }
+}
+
+// What the arguments of a routine stand for, where chance would hardly find it.
+enum class Shape { free, arc, pairs, plates };
 
 // Draws `calls` sets of arguments, calls the routine on each, and hands `visit` the storages as the
 // call has left them, together with a copy from before it.
@@ -224,10 +250,13 @@ void run(std::uint64_t seed, int calls, Shape shape, void(TRELVIN_CALL *routine)
     std::apply(
         [&](auto &...storage) {
           const int mood = sequence.between(0, moods - 1);
-          (storage.fill(sequence, mood), ...);
-          const Scalars reals = {scalar_address<Arguments>(storage)...};
+          // Pairs of two lists need room for the product of their counts.
+          (storage.fill(sequence, mood, shape == Shape::pairs ? 8 : 40), ...);
+          const Addresses reals = {address_of_real<Arguments, true>(storage)...};
           if (shape == Shape::arc && !sequence.one_in(4)) {
             make_arc(sequence, reals);
+          } else if (shape == Shape::plates && !sequence.one_in(4)) {
+            make_plates(sequence, {address_of_real<Arguments, false>(storage)...});
           } else if (sequence.one_in(2)) {
             relate_points(sequence, reals);
           }

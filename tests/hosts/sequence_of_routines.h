@@ -17,10 +17,14 @@ struct RoutineCalls {
   random_calls::Shape shape;
 };
 
-// Arcs that really are arcs do not come about by chance.
 inline random_calls::Shape shape_of(std::string_view arguments) {
-  return arguments.substr(0, 17) == "xc yc xa ya xb yb" ? random_calls::Shape::arc
-                                                        : random_calls::Shape::free;
+  using random_calls::Shape;
+  const auto holds = [&](std::string_view names) {
+    return arguments.find(names) != std::string_view::npos;
+  };
+  if (arguments.substr(0, 17) == "xc yc xa ya xb yb") return Shape::arc;
+  if (arguments.substr(0, 15) == "n X1 Y1 X2 Y2 T") return Shape::plates;
+  return holds(" IA IB") || holds(" IAB JAB") ? Shape::pairs : Shape::free;
 }
 
 template <class Visit>

@@ -71,8 +71,8 @@ TEST(Angles, RelationOfPlanes) {
 }
 
 TEST(Angles, BetweenProjections) {
-  // (1, 1, 1) with (2, -2, 0) and with (2, 0, 0), which has no length across the x axis.
-  expect_near(outputs(trvmov, 5, 6, 7, 6, 7, 8, 3, 2, 1, 5, 0, 1), {0.75 * pi, pi / 4, pi / 2},
+  // (1, 1, 1) with (-2, 2, 0) and with (2, 0, 0), which has no length across the x axis.
+  expect_near(outputs(trvmov, 5, 6, 7, 6, 7, 8, 3, 2, 1, 1, 4, 1), {pi / 4, 0.75 * pi, pi / 2},
               1e-7);
   expect_near(outputs(trvmov, 5, 6, 7, 6, 7, 8, 3, 2, 1, 5, 2, 1), {0, pi / 4, pi / 4}, 1e-7);
 }

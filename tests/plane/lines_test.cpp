@@ -114,8 +114,8 @@ TEST(Lines, TwoPlanesAgreeWithAPointAtTheRetainedStation) {
     float a1, b1, c1, d1, a2, b2, c2, d2;
   };
   const float n = not_a_number;
-  const Planes oblique = {2, 1, 3, 3, 4, 3, 5, 1};      // (0, 3, -2) and onwards by (2, -1, -1)
-  const Planes upright = {2, 1, 0, -23, 1, 3, 0, -34};  // x = 7, y = 9
+  const Planes oblique = {2, 1, 3, 2, 4, 3, 5, -2};     // (0, 4, -2) and onwards by (2, -1, -1)
+  const Planes upright = {2, 1, 0, -23, 3, 4, 0, -57};  // x = 7, y = 9
   const Planes across = {1, 1, 2, -8, 4, 2, 4, -22};    // x = 3, y + 2 z = 5
   const Planes none = {n, n, n, n, n, n, n, n};
   float ex = unwritten, ey = unwritten;
@@ -127,24 +127,24 @@ TEST(Lines, TwoPlanesAgreeWithAPointAtTheRetainedStation) {
     EXPECT_TRUE(codes == code && result == on) << x << " " << y << " " << z;
   };
   // Along x, from the station 0 that loading left, wherever the point is.
-  expect(oblique, 0, n, 3.25F, -2.25F, 5, 1);
+  expect(oblique, 0, n, 4.25F, -2.25F, 5, 1);
   EXPECT_TRUE(ex == -4 && ey == -2);
-  expect(oblique, 2, 6, 0, -5, 1, 0);
-  expect(oblique, 0, 0, 3.26F, -2, 5, 0);
-  expect(oblique, 0, 0, 3, -2.26F, 5, 0);
+  expect(oblique, 2, 6, 1, -5, 1, 0);
+  expect(oblique, 0, 0, 4.26F, -2, 5, 0);
+  expect(oblique, 0, 0, 4, -2.26F, 5, 0);
   // Along z only if the caller says so.
   expect(upright, 0, 7, 9, 0, 0, 0);
   expect(upright, 5, 7.25F, 8.75F, n, 4, 1);
   expect(upright, 5, 7.26F, 9, 0, 4, 0);
   expect(upright, 5, 7, 9.26F, 0, 4, 0);
   // Now x = 7 is retained: what agreed before no longer does.
-  expect(oblique, 0, 0, 3, -2, 5, 0);
-  expect(oblique, 0, 0, -0.5F, -5.5F, 5, 1);
+  expect(oblique, 0, 0, 4, -2, 5, 0);
+  expect(oblique, 0, 0, 0.5F, -5.5F, 5, 1);
   expect(none, n, 0, 0, 0, 0, 0);
-  // Along y, at the retained -0.5, z is that of the line at 0.5.
-  expect(across, 0, 3.25F, n, 2.5F, 3, 1);
-  expect(across, 0, 3.26F, 0, 2.25F, 3, 0);
-  expect(across, 0, 3, 0, 2.51F, 3, 0);
+  // Along y, at the retained 0.5, z is that of the line at -0.5.
+  expect(across, 0, 3.25F, n, 3, 3, 1);
+  expect(across, 0, 3.26F, 0, 2.75F, 3, 0);
+  expect(across, 0, 3, 0, 3.01F, 3, 0);
   expect(none, n, 0, 0, 0, 0, 0);
-  expect(oblique, 0, 0, 1.5F, -3.5F, 5, 1);
+  expect(oblique, 0, 0, 2.5F, -3.5F, 5, 1);
 }
