@@ -21,16 +21,16 @@ std::string fixed(double value, int decimals) {
   for (; decimals < 0; ++decimals) step *= 10;
   if (step > 1) value = std::round(value / step) * step;
   char text[longest];
-  const char *const end =
+  char *const end =
       std::to_chars(text, text + longest, value, std::chars_format::fixed, decimals).ptr;
-  return without_negative_zero({text, end});
+  return without_negative_zero(std::string(text, end));
 }
 
 std::string significant(double value, int digits) {
   char text[longest];
-  const char *const end =
+  char *const end =
       std::to_chars(text, text + longest, value, std::chars_format::general, digits).ptr;
-  return without_negative_zero({text, end});
+  return without_negative_zero(std::string(text, end));
 }
 
 std::string shortest(float value) {

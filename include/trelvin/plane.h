@@ -368,9 +368,9 @@ TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
  * Directed angle at P0 from the ray to P1 to the ray to P2.
  *
  * Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third axis of
- * trvaxe: towards +y if its y component is above the tolerance, else likewise towards +z, else
- * towards +x. So it is counter-clockwise in the plane z = 0. Formed in double precision and rounded
- * once, it is as accurate near 0, pi and 2*pi as elsewhere.
+ * trvaxe: the first of its components y, z, x that is above the tolerance becomes positive, or the
+ * first that is not zero. So it is counter-clockwise in the plane z = 0. Formed in double precision
+ * and rounded once, it is as accurate near 0, pi and 2*pi as elsewhere.
  *
  * @param[in]  x0,y0,z0  vertex P0
  * @param[in]  x1,y1,z1  P1

@@ -79,7 +79,8 @@ TRELVIN_ROUTINE trvrotz(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvArra
  *
  * The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance. Where P2 agrees with
  * P0 or P1 within the tolerance in each coordinate yet lies farther than that from it, the cosine
- * of the previous call stands (0 after loading). P0 = P1 is not tested and gives 0.
+ * of the last call that found one stands (0 after loading). P0 = P1 is not tested and gives 0, as
+ * does any P2 on the line whose distances from both come out equal.
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1
@@ -114,9 +115,10 @@ TRELVIN_ROUTINE trvtrn(TrvArrayInOut p, TrvIn a1, TrvIn a2, TrvIn a3, TrvIn a4, 
 /**
  * Frame of the plane through three points.
  *
- * e1 runs from P0 to P1; e3 is the normal, turned towards +y if its y component is above the
- * tolerance, else likewise towards +z, else towards +x; e2 = e3 x e1. An axis whose length is below
- * 1e-5 before it is normalised stays zero; so P0 = P1 gives status 0 and a frame of zeros.
+ * e1 runs from P0 to P1; e3 is the normal, turned towards +y if the y component of (P1 - P0) x (P2
+ * - P0) is above the tolerance, else likewise towards +z, else towards +x; e2 = e3 x e1. An axis
+ * whose length is below 1e-5 before it is normalised stays zero: all three where P0 = P1, the last
+ * two where the points are very close; the status is 0 then.
  *
  * @param[in]  x0,y0,z0     P0
  * @param[in]  x1,y1,z1     P1
@@ -153,8 +155,8 @@ TRELVIN_ROUTINE trvaxel(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn 
 /**
  * Shifts points and turns them about the global axes x, y and z, in this order and in place.
  *
- * Each turn is that of trvrotx, trvroty and trvrotz with mode 2. A shift whose components are all
- * within the tolerance is left out, and so is a turn by an angle within it.
+ * Each turn is that of trvrotx, trvroty and trvrotz with mode 2. A shift none of whose components
+ * is above the tolerance is left out, and so is a turn whose angle is not.
  *
  * @param[inout] X,Y,Z     arrays of n: coordinates
  * @param[in]    n         number of points
@@ -168,7 +170,8 @@ TRELVIN_ROUTINE trvptr(TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z, TrvInt
  * Shifts points and turns them in the frame of three points, in place.
  *
  * In local coordinates each point is shifted by (dx, dy, dz), then turned about the local axes x, y
- * and z as trvrotx, trvroty and trvrotz turn with mode 2. No angle is left out.
+ * and z as trvrotx, trvroty and trvrotz turn with mode 2. No angle is left out. Where the frame has
+ * a zero axis (trvaxe), the points lose that coordinate.
  *
  * @param[in]    x0,y0,z0  P0, the origin of the frame
  * @param[in]    x1,y1,z1  P1
@@ -203,7 +206,8 @@ TRELVIN_ROUTINE trvpra(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * Turns points of a plane in the frame of the three points that span it, then shifts them, in
  * place.
  *
- * Unlike trvptrl, the shift is global and comes after the turns.
+ * Unlike trvptrl, the shift is global and comes after the turns. Where the frame has a zero axis
+ * (trvaxe), the points lose that coordinate.
  *
  * @param[in]    x0,y0,z0  P0, the origin of the frame
  * @param[in]    x1,y1,z1  P1
@@ -241,7 +245,7 @@ TRELVIN_ROUTINE trvplg(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, 
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
- * @param[out] a,b,c,d   plane; all zero when status is not 0
+ * @param[out] a,b,c,d   plane; all zero when status is not 0, and where P0 = P1
  * @param[out] status    0 done; 1 to 5 as the three-point test trvpsl tells
  */
 TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
@@ -256,7 +260,8 @@ TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  xb,yb,zb  B, on the first line
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  xd,yd,zd  D, on the second line
- * @param[out] a,b,c,d   plane; all zero when status is not 0, and where the lines are parallel
+ * @param[out] a,b,c,d   plane; all zero when status is not 0; its normal is zero, or nearly, where
+ * the lines are parallel
  * @param[out] status    0 done, also for parallel lines; 3, 4 or 7 the relation of the lines
  */
 TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb,
@@ -270,7 +275,8 @@ TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  * @param[in]  xb,yb,zb  B, on the first line
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  xd,yd,zd  D, on the second line
- * @param[out] a,b,c,d   plane; all zero when status is not 0, and where the lines are parallel
+ * @param[out] a,b,c,d   plane; all zero when status is not 0; its normal is zero, or nearly, where
+ * the lines are parallel
  * @param[out] status    0 done, also for parallel lines; 3, 4 or 7 the relation of the lines
  */
 TRELVIN_ROUTINE trvpl3(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
@@ -306,8 +312,9 @@ TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut 
  * @param[in]  ux,uy,uz  direction of the first line
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  wx,wy,wz  direction of the second line
- * @param[out] a,b,c,d   plane; all zero for parallel lines; unwritten when the lines' relation is
- * 3, 4, 6 or 7
+ * @param[out] a,b,c,d   plane; its normal is zero, or nearly, for parallel lines; unwritten when
+ * the lines' relation is 3, 4, 6 or 7; all zero where trvpl2, asking again after a call that leaves
+ * another cosine (trvpsl), finds 3 or 4
  * @param[out] status    0 done, also for parallel lines; 3, 4, 6 or 7 the relation of the lines
  */
 TRELVIN_ROUTINE trvpl6(TrvIn xa, TrvIn ya, TrvIn za, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn xc,
@@ -317,14 +324,15 @@ TRELVIN_ROUTINE trvpl6(TrvIn xa, TrvIn ya, TrvIn za, TrvIn ux, TrvIn uy, TrvIn u
 /**
  * Plane of three points turned about the line from P0 to P1.
  *
- * The normal is a unit vector; at angle 0 it is the third axis of trvaxe.
+ * The normal is a unit vector, formed by adding it to P0 and taking P0 off again; at angle 0 it is
+ * the third axis of trvaxe.
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
  * @param[in]  angle     angle in radians, right-handed about the direction from P0 to P1
  * @param[out] a,b,c,d   plane; all zero when status is not 0
- * @param[out] status    0 done; 1 to 5 as trvpl1; 1 also where the frame has no normal (trvpl4)
+ * @param[out] status    0 done; 1 to 5 as trvpl1; 1 also where P0 and P0 + normal coincide (trvpl4)
  */
 TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIn angle, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
@@ -339,7 +347,8 @@ TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  x,y,z     point
  * @param[in]  tol       largest residual allowed, itself included: the distance times the length of
  *                       (P1 - P0) x (P2 - P0)
- * @param[out] status    0 it does; -1 it does not, or the points span no plane
+ * @param[out] status    0 it does, and any point does where P0 = P1; -1 it does not, or trvpl1
+ * finds no plane
  */
 TRELVIN_ROUTINE trvpsp(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIn x, TrvIn y, TrvIn z, TrvIn tol, TrvIntOut status);
@@ -451,8 +460,8 @@ TRELVIN_ROUTINE trv3ldb(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * @param[in]  xb,yb,zb  B
  * @param[in]  xq,yq,zq  Q
  * @param[out] status    always 0
- * @param[out] dist      distance; 0 where Q is on the line; the distance from A where A and B
- *                       coincide
+ * @param[out] dist      distance; 0 where Q is on the line or very close to a short one (trvaxe);
+ * the distance from A where A and B coincide
  */
 TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xq,
                         TrvIn yq, TrvIn zq, TrvIntOut status, TrvOut dist);
@@ -461,7 +470,7 @@ TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * Intersection of the lines A + t*u and C + s*w.
  *
  * Works in the frame of A, A + u and C + w, with A as the origin, and leaves A and C in it. Where
- * C + w is on the first line there is no such frame, and the point is meaningless with status 0.
+ * C + w is on the first line there is no such frame, and the point is A with status 0.
  *
  * @param[inout] xa,ya,za  A; zero afterwards; untouched when status is not 0
  * @param[in]    ux,uy,uz  direction of the first line
@@ -527,8 +536,8 @@ TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
  * @param[in]    dxp,dyp,dzp  move of P
  * @param[in]    dx1,dy1,dz1  move of Q1
  * @param[out]   status       0 not moved: the three points are not collinear, or Q1 is at P; else
- *                            moved: the relation of the lines from Q2 and from Q1 to P, 4 where
- * they are on opposite sides of P
+ *                            moved: 3 Q1 and Q2 are on one side of P, 4 on either side, 7 Q2 is at
+ * P, 6 rounding takes the three for skew lines (trvdirl)
  */
 TRELVIN_ROUTINE trvlpc(TrvIn xp, TrvIn yp, TrvIn zp, TrvIn x1, TrvIn y1, TrvIn z1, TrvInOut x2,
                        TrvInOut y2, TrvInOut z2, TrvIn dxp, TrvIn dyp, TrvIn dzp, TrvIn dx1,

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <initializer_list>
 
 #include "frame/functions.h"
 #include "frame/numbers.h"
@@ -73,9 +74,12 @@ TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
                       u[0] * v[1] - u[1] * v[0]};
   const double sine = std::sqrt(m[0] * m[0] + m[1] * m[1] + m[2] * m[2]);
   const double angle = arc_tangent(sine, u[0] * v[0] + u[1] * v[1] + u[2] * v[2]);
-  const double deciding = std::fabs(m[1]) > tolerance   ? m[1]
-                          : std::fabs(m[2]) > tolerance ? m[2]
-                                                        : m[0];
+  double deciding = 0;
+  for (const double limit : {static_cast<double>(tolerance), 0.0}) {
+    for (const double component : {m[1], m[2], m[0]}) {
+      if (deciding == 0 && std::fabs(component) > limit) deciding = component;
+    }
+  }
   chi = static_cast<Real>(deciding < 0 ? full_turn - angle : angle);
   if (chi >= two_pi) chi = std::nextafter(two_pi, Real{0});  // the last Real before the full turn
 }

@@ -1,4 +1,3 @@
-#include <cmath>
 #include <initializer_list>
 
 #include "frame/functions.h"

@@ -2,6 +2,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <system_error>
 
 #include "support.h"
 #include "trelvin/circles.h"
@@ -13,15 +14,22 @@ namespace {
 constexpr float u = unwritten;
 constexpr const char *file_name = "OUTPUT.TXT";
 
-// The file stays open to the end of the process, so what a test leaves is removed by the next run.
 class Trace : public testing::Test {
  protected:
   void SetUp() override {
-    const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-    std::filesystem::remove_all("trace_" + name);
-    std::filesystem::create_directory("trace_" + name);
-    std::filesystem::current_path("trace_" + name);
+    std::filesystem::remove_all(directory_);
+    std::filesystem::create_directory(directory_);
+    std::filesystem::current_path(directory_);
   }
+  void TearDown() override {
+    std::filesystem::current_path("..");
+    std::error_code in_use;  // Windows keeps a file that is open, to the next run
+    std::filesystem::remove_all(directory_, in_use);
+  }
+
+ private:
+  const std::string directory_ =
+      std::string("trace_") + testing::UnitTest::GetInstance()->current_test_info()->name();
 };
 
 // Position and points.

@@ -84,3 +84,54 @@ TEST(Angles, NewOriginMayBeOneOfThePoints) {
   EXPECT_EQ(Values(x, x + 4), (Values{0, 1, 3, unwritten}));
   EXPECT_EQ(Values(y, y + 4), (Values{-2, 0, 2, unwritten}));
 }
+
+TEST(Angles, DirectedAnglesAreAccurateAllAround) {
+  // Counter-clockwise in the plane; tiny departures from 0, pi and 2*pi survive.
+  for (const double small : {1e-6, 1e-3}) {
+    const auto directed = [](double x, double y) {
+      return outputs(trvchi, 5, 5, 0, 6, 5, 0, 5 + x, 5 + y, 0);
+    };
+    const double up = static_cast<float>(5 + small) - 5.0;  // what a Real holds of it
+    EXPECT_NEAR(directed(1, small)[0], std::atan2(up, 1), 1e-7 * small);
+    EXPECT_NEAR(directed(-1, small)[0], pi - std::atan2(up, 1), 3e-7);
+    const double down = 5.0 - static_cast<float>(5 - small);
+    EXPECT_NEAR(directed(1, -small)[0], 2 * pi - std::atan2(down, 1), 5e-7);
+  }
+  EXPECT_LT(outputs(trvchi, 0, 0, 0, 1, 0, 0, 1, -1e-12, 0)[0], 2 * pi);
+  EXPECT_NEAR(outputs(trvchi, 0, 0, 0, 0, 1, 0, 1, 0, 0)[0], 1.5 * pi, 1e-6);
+  // From x to z the normal points to -y, so that way round is taken as three quarters.
+  EXPECT_NEAR(outputs(trvchi, 1, 1, 1, 2, 1, 1, 1, 1, 2)[0], 1.5 * pi, 1e-6);
+  EXPECT_NEAR(outputs(trvchi, 1, 1, 1, 1, 1, 2, 2, 1, 1)[0], 0.5 * pi, 1e-6);
+  EXPECT_EQ(outputs(trvchi, 1, 1, 1, 1 + 5e-6, 1, 1, 2, 1, 1), (Values{unwritten, 1}));
+  EXPECT_EQ(outputs(trvchi, 1, 1, 1, 2, 1, 1, 1, 1, 1), (Values{unwritten, 1}));
+}
+
+TEST(Angles, ConvexOutlinesWindOnceAndTurnOneWay) {
+  const auto convex = [](std::vector<float> x, std::vector<float> y) {
+    std::int32_t either_way[2];
+    for (std::int32_t &status : either_way) {
+      trvcnv(x.data(), y.data(), static_cast<std::int32_t>(x.size()), status);
+      std::reverse(x.begin(), x.end());
+      std::reverse(y.begin(), y.end());
+    }
+    EXPECT_EQ(either_way[0], either_way[1]);
+    return either_way[0];
+  };
+  EXPECT_EQ(convex({0, 1, 2, 2, 0}, {0, 0, 0, 1, 1}), 1);        // straight at (1, 0)
+  EXPECT_EQ(convex({0, 2, 2, 1, 0}, {0, 0, 2, 1, 2}), 0);        // a notch
+  EXPECT_EQ(convex({0, 1, -1, 1, 0.5F}, {0, 1, 0, -1, 3}), 0);   // crosses itself
+  EXPECT_EQ(convex({0, 2, 3, 2, 2, 0}, {0, 0, 0, 0, 2, 2}), 0);  // a spike
+  EXPECT_EQ(convex({0, 1, 1, 0}, {0, 0, 0.000005F, 1}), -1);     // a side too short
+  EXPECT_EQ(convex({0, 1}, {0, 1}), -1);
+  std::vector<float> star_x, star_y, round_x, round_y;
+  for (int i = 0; i < 5; ++i) {
+    star_x.push_back(static_cast<float>(std::cos(4 * pi * i / 5)));
+    star_y.push_back(static_cast<float>(std::sin(4 * pi * i / 5)));
+  }
+  EXPECT_EQ(convex(star_x, star_y), 0);  // turns one way, but twice around
+  for (int i = 0; i < 5000; ++i) {
+    round_x.push_back(static_cast<float>(std::cos(2 * pi * i / 5000)));
+    round_y.push_back(static_cast<float>(std::sin(2 * pi * i / 5000)));
+  }
+  EXPECT_EQ(convex(round_x, round_y), 1);  // each vertex is straight within the tolerance
+}

@@ -148,3 +148,14 @@ TEST(Lines, TwoPlanesAgreeWithAPointAtTheRetainedStation) {
   expect(none, n, 0, 0, 0, 0, 0);
   expect(oblique, 0, 0, 2.5F, -3.5F, 5, 1);
 }
+
+TEST(Lines, ParallelsAreAsFarApartAsTheParallelTells) {
+  for (const double scale : {1.0, -2.5, 40.0}) {
+    const Values second = outputs(trvln2, 3, -4, 5, -7);
+    const Values apart =
+        outputs(trvlul, 3, -4, 5, scale * second[0], scale * second[1], scale * second[2]);
+    expect_near(apart, {-7, 2}, 1e-6);
+    EXPECT_EQ(outputs(trvlul, 3, -4, 5, scale * 3, scale * -4, scale * 5), (Values{0, 1}));
+  }
+  EXPECT_EQ(outputs(trvlul, 3, -4, 5, 3, 4, 5), (Values{unwritten, 0}));
+}

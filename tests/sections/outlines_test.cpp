@@ -128,3 +128,29 @@ TEST(Outlines, BitsOfQAreHandedOn) {
           {{120, 10, 0, 45}, {120, 10, 0, -45}, {6, 80, -47, 0}, {8, 80, 46, 0}, {86, 4, -1, 0}},
           {{1, -60, 50}, {13, -44, 40}, {17, -44, -2}});
 }
+
+TEST(Outlines, ISectionWithAMovedWebAndFillets) {
+  Outline(trvsec_i, 100.F, 60.F, 40.F, 10.F, 8.F, 6.F, 0.F, 0.F, 3.F, q)
+      .expect({16}, bits(q), {{60, 10, 0, -45}, {6, 82, 3, 1}, {40, 8, 0, 46}}, {{1, -20, 50}});
+  Outline filleted(trvsec_i, 100.F, 60.F, 40.F, 10.F, 8.F, 6.F, 4.F, 2.F, 3.F, q);
+  float area = 0;
+  trvapl(filleted.x, filleted.y, filleted.nv[0], area);
+  EXPECT_EQ(area, 600 + 492 + 320 + 4 * 4 + 2 * 2);
+  EXPECT_TRUE(filleted.x[10] == 10 && filleted.x[13] == 8 && filleted.y[4] == -36);
+}
+
+TEST(Outlines, ChannelsWithLipsAndFolds) {
+  Outline(trvsec_c, 200.F, 80.F, 60.F, 25.F, 20.F, 12.F, 10.F, 3.F, 4.F, 5.F, 2.F, 2.5F, 1.5F, 2.F,
+          q)
+      .expect({16}, bits(q),
+              {{3, 191, -38.5, -0.5},
+               {80, 4, 0, -98},
+               {60, 5, -10, 97.5},
+               {2, 21, 39, -85.5},
+               {2.5, 15, 18.75, 87.5},
+               {10, 1.5, 33, -75.75},
+               {7.5, 2, 13.75, 81}},
+              {{1, -40, -100}, {3, 40, -75}, {9, -37, 95}});
+  Outline(trvsec_c, 200.F, 60.F, 80.F, 4.F, 0.F, 12.F, 10.F, 3.F, 4.F, 5.F, 2.F, 2.5F, 1.5F, 2.F, q)
+      .expect({16}, bits(q), {{3, 191, -38.5, -0.5}, {60, 4, -10, -98}, {80, 5, 0, 97.5}}, {});
+}

@@ -42,13 +42,19 @@ TEST(Plates, EdgeFoldRetainsItsBucklingFactor) {
 TEST(Plates, SharesOfTheEffectiveWidth) {
   const double t = tolerance, past = std::nextafter(-100.0F, -101.0F);
   // Both stresses, the factor of EN 1993-1-5, table 4.1, and both widths.
-  const double cases[][5] = {
-      {100, 100, 4, 39, 39},          {100, 0, 7.81, 33.4, 50.1},
-      {beyond, t, 4, 39, 39},         {not_a_number, t, 7.81, 33.4, 50.1},
-      {100, -50, 13.4, 34.5, 51.75},  {2 * t, -t, 13.4, 34.5, 51.75},
-      {100, -100, 23.9, 35.6, 53.4},  {100, past, 23.9, 35.6, 53.4},
-      {100, -400, 1, 50, 50},         {2 * t, -beyond, 23.9, 35.6, 53.4},
-      {100, -200, 53.82, 37.8, 56.7}, {100, 50, 8.2 / 1.55, 35.888889, 44.861111}};
+  const double cases[][5] = {{100, 100, 4, 39, 39},
+                             {100, 0, 7.81, 33.4, 50.1},
+                             {beyond, t, 4, 39, 39},
+                             {not_a_number, t, 7.81, 33.4, 50.1},
+                             {100, -50, 13.4, 34.5, 51.75},
+                             {2 * t, -t, 13.4, 34.5, 51.75},
+                             {100, -100, 23.9, 35.6, 53.4},
+                             {100, past, 23.9, 35.6, 53.4},
+                             {100, -400, 1, 50, 50},
+                             {4e-6, -1.3e-5, 1, 50, 50},
+                             {2 * t, -beyond, 23.9, 35.6, 53.4},
+                             {100, -200, 53.82, 37.8, 56.7},
+                             {100, 50, 8.2 / 1.55, 35.888889, 44.861111}};
   for (const auto &[s1, s2, ks, be1, be2] : cases)
     expect_near(outputs(trvef2, slender(ks), 100, 1, 1, 1, s1, s2), {be1, be2}, 2e-6);
   const double nothing[][2] = {{t, -t}, {-t, t}, {0, beyond}, {-1, -1},
