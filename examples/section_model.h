@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace host {
@@ -37,6 +39,12 @@ struct SecondMoments {
   double xy;
 };
 
+// Of an open section of thin plates.
+struct Torsion {
+  double it, iw;  // torsion and warping constant
+  double xm, ym;  // shear centre
+};
+
 // In mm and radians, with the names of trelvin/properties.h.
 struct Properties {
   double area;
@@ -46,6 +54,8 @@ struct Properties {
   SecondMoments centroidal;
   double i1, i2, alpha;  // axis 1 is turned by alpha from x
   double rx, ry;         // radii of gyration
+  std::optional<Torsion> torsion;
+  std::string note;  // for people
 };
 
 // The section's properties, in double precision as sums of what the library gives for each part.

@@ -230,9 +230,10 @@ std::string picture(const std::string &title, const std::string &subtitle, const
          "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n" +
          text(30, 38, title,
               left + attribute("font-size", "18") + attribute("font-weight", "bold")) +
-         text(30, 60, subtitle, left) + steel_area(section.outline, at) + origin_axes(box, at) +
-         principal_axes(box, at, p) + centroid_mark(at.x(p.xs), at.y(p.ys)) + dimensions(box, at) +
-         legend(p) + "</svg>\n";
+         text(30, 60, subtitle,
+              left + attribute("font-size", subtitle.size() > 100 ? "11" : "14")) +
+         steel_area(section.outline, at) + origin_axes(box, at) + principal_axes(box, at, p) +
+         centroid_mark(at.x(p.xs), at.y(p.ys)) + dimensions(box, at) + legend(p) + "</svg>\n";
 }
 
 }  // namespace host

@@ -139,6 +139,29 @@ const char *fault_of_i_section(const float *d) {
   return nullptr;
 }
 
+const char *fault_of_filleted_i(const float *d) {
+  const auto [H, B1, B2, T1, T2, TW, S1, S2, E] = first<9>(d);
+  if (T1 + T2 + S1 + S2 >= H) return "flanges and fillets leave no room for a web in H";
+  if (2 * E + TW + 2 * S1 > B1)
+    return "web TW with its fillets S1, E off the middle, is off flange 1";
+  if (2 * E + TW + 2 * S2 > B2)
+    return "web TW with its fillets S2, E off the middle, is off flange 2";
+  return nullptr;
+}
+
+const char *fault_of_c(const float *d) {
+  const auto [H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2, TD1, TD2] = first<14>(d);
+  const auto is_in_the_way = [&](float B, float C, float D, float T, float TC, float TD) {
+    if (C <= T) return TW >= B;
+    if (D <= TC) return TW + TC >= B;
+    return TW + D >= B || T + TD >= C || TC <= 0 || TD <= 0;
+  };
+  if (std::max(C1, T1) + std::max(C2, T2) >= H) return "flanges and lips leave no room in H";
+  if (is_in_the_way(B1, C1, D1, T1, TC1, TD1)) return "lip or fold 1 does not fit on flange B1";
+  if (is_in_the_way(B2, C2, D2, T2, TC2, TD2)) return "lip or fold 2 does not fit on flange B2";
+  return nullptr;
+}
+
 const char *fault_of_t(const float *d) {
   const auto [B, H, TF, TW] = first<4>(d);
   if (TF >= H) return "flange TF leaves no room for a stem in H";
@@ -223,12 +246,29 @@ const std::vector<Profile> &profiles() {
        [](const float *d) {
          return section_of(frame(trvsec_h, d[0], d[1], d[2], d[3], d[4], d[5]));
        }},
+      {"i",
+       "as ia, the web moved by E, with 45-degree fillets S",
+       {"H", "B1", "B2", "T1", "T2", "TW", "S1", "S2", "E"},
+       fault_of_filleted_i,
+       [](const float *d) {
+         return section_of(frame(trvsec_i, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7], d[8]));
+       },
+       {"S1", "S2", "E"}},
       {"t",
        "T section, flange at the top",
        {"B", "H", "TF", "TW"},
        fault_of_t,
        [](const float *d) { return section_of(frame(trvsec_t, d[0], d[1], d[2], d[3])); }},
       {"b", "flat bar of whole width B", {"B", "H"}, fault_of_bar, flat_bar},
+      {"c",
+       "channel with lips C and folds D, or without",
+       {"H", "B1", "B2", "C1", "C2", "D1", "D2", "TW", "T1", "T2", "TC1", "TC2", "TD1", "TD2"},
+       fault_of_c,
+       [](const float *d) {
+         return section_of(frame(trvsec_c, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7], d[8],
+                                 d[9], d[10], d[11], d[12], d[13]));
+       },
+       {"C1", "C2", "D1", "D2", "TC1", "TC2", "TD1", "TD2"}},
       {"h1b",
        "I section on its side under a cover plate",
        {"W", "D", "P", "T1", "T2", "TW", "TP"},

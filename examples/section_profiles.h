@@ -15,6 +15,7 @@ struct Profile {
   // Why the dimensions cannot form a section, or nullptr when they can.
   const char *(*fault)(const float *dimensions);
   Section (*section)(const float *dimensions);
+  std::vector<std::string_view> may_be_zero = {};
 };
 
 const std::vector<Profile> &profiles();

@@ -1,4 +1,5 @@
 // Properties of a steel section: a host of Trelvin for the command line.
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -13,6 +14,7 @@
 #include "section_figures.h"
 #include "section_model.h"
 #include "section_picture.h"
+#include "section_plates.h"
 #include "section_profiles.h"
 #include "section_report.h"
 
@@ -55,9 +57,14 @@ std::string usage() {
       "Profiles and their dimensions:\n";
   for (const Profile &profile : profiles()) {
     std::string call = usage_of(profile);
+    if (call.size() >= 28) {
+      text += "  " + call + '\n';
+      call.clear();
+    }
     call.resize(28, ' ');
     text += "  " + call + std::string(profile.description) + '\n';
   }
+  text += "  plates FILE                 thin plates, a line each: x1 y1 x2 y2 t\n";
   return text;
 }
 
@@ -105,14 +112,15 @@ const Profile &find_profile(const std::vector<std::string> &words) {
   throw BadInput("unknown profile '" + words[0] + "'", usage());
 }
 
-float read_dimension(const std::string &word, std::string_view name) {
+float read_dimension(const std::string &word, std::string_view name, bool may_be_zero) {
   float value = 0;
   const char *const end = word.data() + word.size();
   const auto [rest, error] = std::from_chars(word.data(), end, value);
   if (error == std::errc::result_out_of_range) {
     throw BadInput(std::string(name) + " = " + word + " is beyond single precision");
   }
-  if (error != std::errc() || rest != end || !std::isfinite(value) || value <= 0) {
+  if (error != std::errc() || rest != end || !std::isfinite(value) || value < 0 ||
+      (value == 0 && !may_be_zero)) {
     throw BadInput(std::string(name) + " = '" + word + "' is not a positive number of mm");
   }
   return value;
@@ -128,7 +136,10 @@ std::vector<float> read_dimensions(const Profile &profile, const std::vector<std
   }
   std::vector<float> values;
   for (std::size_t i = 0; i < needed; ++i) {
-    values.push_back(read_dimension(words[i + 1], profile.dimensions[i]));
+    const auto &zero = profile.may_be_zero;
+    const bool may_be_zero =
+        std::find(zero.begin(), zero.end(), profile.dimensions[i]) != zero.end();
+    values.push_back(read_dimension(words[i + 1], profile.dimensions[i], may_be_zero));
   }
   if (const char *const fault = profile.fault(values.data())) {
     throw BadInput(std::string(profile.name) + ": " + fault);
@@ -176,27 +187,54 @@ int print(const std::string &text) {
   return bad_output;
 }
 
+// A section to report on, and how to head the report.
+struct Task {
+  std::string name;
+  std::string description;
+  std::string dimensions;
+  Section section;
+  Properties properties;
+};
+
+Task profile_task(const std::vector<std::string> &words) {
+  const Profile &profile = find_profile(words);
+  const std::vector<float> values = read_dimensions(profile, words);
+  Section section = profile.section(values.data());
+  const Properties properties = properties_of(section);
+  return {std::string(profile.name), std::string(profile.description),
+          dimensions_text(profile, values), std::move(section), properties};
+}
+
+Task plates_task(const std::vector<std::string> &words) {
+  if (words.size() != 2) {
+    throw BadInput("plates takes a file", "usage: section_properties plates FILE\n");
+  }
+  try {
+    const std::vector<Plate> plates = read_plates(words[1]);
+    return {"plates", "section of thin plates", std::to_string(plates.size()) + " plates",
+            section_of(plates), properties_of(plates)};
+  } catch (const BadPlates &wrong) {
+    throw BadInput(wrong.what());
+  }
+}
+
 int run(const std::vector<std::string> &arguments) {
   const Request request = read_command_line(arguments);
   if (request.help) return print(usage());
 
-  const Profile &profile = find_profile(request.words);
-  const std::vector<float> values = read_dimensions(profile, request.words);
-  const Section section = profile.section(values.data());
-  const Properties properties = properties_of(section);
-  if (!are_representable(properties)) {
+  const Task task = request.words.size() > 0 && request.words[0] == "plates"
+                        ? plates_task(request.words)
+                        : profile_task(request.words);
+  if (!are_representable(task.properties)) {
     throw BadInput("the section is too large or too small for single precision");
   }
-
-  const std::string dimensions = dimensions_text(profile, values);
-  if (!request.svg.empty()) {
-    const std::string title = std::string(profile.name) + ": " + std::string(profile.description);
-    if (!write_file(request.svg, picture(title, dimensions, section, properties))) {
-      throw BadInput("cannot write '" + request.svg + "'");
-    }
+  if (!request.svg.empty() &&
+      !write_file(request.svg, picture(task.name + ": " + task.description, task.dimensions,
+                                       task.section, task.properties))) {
+    throw BadInput("cannot write '" + request.svg + "'");
   }
-  return print(request.json ? json(properties)
-                            : table(std::string(profile.name) + "  " + dimensions, properties));
+  return print(request.json ? json(task.properties)
+                            : table(task.name + "  " + task.dimensions, task.properties));
 }
 
 template <class Character>

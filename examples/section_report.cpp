@@ -102,10 +102,24 @@ std::string table(const std::string &title, const Properties &p) {
   rows.add("Principal moments, axes 1 and 2", 4, second, {{"I1", p.i1}, {"I2", p.i2}});
   rows.add_angle("alpha", p.alpha);
   rows.add("Radii of gyration", 1, length, {{"rx", p.rx}, {"ry", p.ry}});
-  return title + '\n' + std::string(title.size(), '-') + '\n' + rows.text();
+  if (p.torsion) {
+    rows.add("Shear centre", 1, length, {{"xm", p.torsion->xm}, {"ym", p.torsion->ym}});
+    rows.add("Torsion constant", 4, p.torsion->it, {{"It", p.torsion->it}});
+    rows.add("Warping constant", 6, second * length * length, {{"Iw", p.torsion->iw}});
+  }
+  return title + '\n' + std::string(title.size(), '-') + '\n' + rows.text() +
+         (p.note.empty() ? "" : p.note + '\n');
 }
 
 std::string json(const Properties &p) {
+  std::string torsion;
+  if (p.torsion) {
+    torsion = ",\n  " + members({{"xm", p.torsion->xm},
+                                 {"ym", p.torsion->ym},
+                                 {"It", p.torsion->it},
+                                 {"Iw", p.torsion->iw}},
+                                ",\n  ");
+  }
   return "{\n  " +
          members({{"area", p.area},
                   {"xs", p.xs},
@@ -121,7 +135,7 @@ std::string json(const Properties &p) {
          "},\n  " +
          members({{"I1", p.i1}, {"I2", p.i2}, {"alpha", p.alpha}, {"rx", p.rx}, {"ry", p.ry}},
                  ",\n  ") +
-         "\n}\n";
+         torsion + "\n}\n";
 }
 
 }  // namespace host

@@ -29,7 +29,8 @@ TRELVIN_ROUTINE trvcer(TrvIn xc, TrvIn yc, TrvIn r, TrvOut D, TrvOut E, TrvOut F
  *
  * The line is solved for x where |a| is above the tolerance, else it is taken as horizontal. The
  * points are one when the discriminant of the quadratic is within the tolerance; it grows with the
- * fourth power of the coordinates, so small circles are touched rather than cut.
+ * fourth power of the coordinates, so small circles are touched rather than cut. A NaN discriminant
+ * gives two points that are NaN.
  *
  * @param[in]  a,b,c  line a*x + b*y + c = 0
  * @param[in]  D,E,F  circle
@@ -57,7 +58,7 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * Centres of the circles of a radius through two points.
  *
  * A horizontal chord (|y2 - y1| < 1e-5) writes both candidates and the choice but leaves n at 0;
- * its candidates are NaN where the radius is less than half the chord.
+ * its candidates' y are NaN where the radius is less than half the chord.
  *
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
@@ -67,9 +68,9 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * @param[out] xa,ya  first candidate
  * @param[out] xb,yb  second candidate
  * @param[out] xc,yc  chosen centre; unwritten where a NaN decides
- * @param[out] n      number of centres. 0: P1 = P2 exactly, r within the tolerance, or r less than
- *                    half the chord; nothing else is written then, but for a horizontal chord. 1:
- * both candidates are the same. 2: two
+ * @param[out] n      number of centres. 0: P1 = P2 exactly, r at most 1e-5, r less than half the
+ * chord, or a NaN discriminant; nothing else is written then, but for a horizontal chord. 1: both
+ * candidates are the same. 2: two
  */
 TRELVIN_ROUTINE trvcer2(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, TrvIn r, TrvOut xa,
                         TrvOut ya, TrvOut xb, TrvOut yb, TrvOut xc, TrvOut yc, TrvIntOut n);
@@ -125,8 +126,9 @@ TRELVIN_ROUTINE trvcer3(TrvIn x0, TrvIn y0, TrvInOut x, TrvInOut y, TrvIn angle,
 /**
  * Point of an arc above a station of its chord, perpendicular to the chord.
  *
- * Lengths are compared with 0.001. Where the perpendicular meets the circle in fewer than two
- * points (trvlci), the points of the previous call stand; they are retained, zero after loading.
+ * Lengths are compared with 0.001. Where the perpendicular touches the circle (trvlci), the second
+ * intersection is that of the previous call; where it misses it, both are. They are retained, zero
+ * after loading.
  *
  * @param[in]  xc,yc   centre C
  * @param[in]  xa,ya   first end A
@@ -150,13 +152,16 @@ TRELVIN_ROUTINE trvcer8(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
  * @param[in]  side    as trvcer8
  * @param[in]  d       station: distance from A along the chord
  * @param[out] x,y     point; unwritten when status is 0
- * @param[out] status  1 done; 0 as trvcer8, and where d is the diameter within 0.001
+ * @param[out] status  1 done; 0 as trvcer8, and where d is closer than 0.001 to the diameter
  */
 TRELVIN_ROUTINE trvcer6(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn yb, TrvIntIn side,
                         TrvIn d, TrvOut x, TrvOut y, TrvIntOut status);
 
 /**
  * Points of an arc above the two edges of a strip on its chord; otherwise as trvcer8.
+ *
+ * Both edges share one pair of intersections: what the second edge does not find is what the first
+ * one has left.
  *
  * @param[in]  xc,yc   centre C
  * @param[in]  xa,ya   first end A
@@ -293,9 +298,8 @@ TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, Trv
  * @param[in]    side    factor of the half angle that turns A clockwise to the arc's middle point
  * @param[in]    e       distance of T from the chord
  * @param[out]   xo,yo   point; unwritten when status is 0
- * @param[out]   status  1 done; 0 s is negative, e, the radius, the chord or its rest beyond s is
- *                       within the tolerance, the radii of A and B differ by more, or the line
- * touches the circle
+ * @param[out]   status  1 done; 0 s is negative; e, the radius, the chord or its rest beyond s is
+ * at most 1e-5; the radii of A and B differ by more; or the line touches the circle
  */
 TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvOut xo, TrvOut yo,

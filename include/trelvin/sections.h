@@ -30,7 +30,7 @@
 /**
  * Reduction factor of an internal compression element, EN 1993-1-5, 4.4(2).
  *
- * Slenderness b / (((28.4*r2/r1) * sqrt(ks)) * t); no reduction up to 0.5 + sqrt(0.085 -
+ * Slenderness b / ((((r2/r1) * 28.4) * sqrt(ks)) * t); no reduction up to 0.5 + sqrt(0.085 -
  * 0.055*psi), else (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1. There is no lower
  * bound.
  *
@@ -71,7 +71,8 @@ TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ce
  * @param[in]  s2     stress at the other edge
  * @param[out] be1    effective width at the edge of s1
  * @param[out] be2    effective width at the other edge; both unwritten when both stresses are
- * within the tolerance, s1 is not positive, or s2 = -3*s1
+ * within the tolerance, s1 is not positive, s2 is above s1 by more than the tolerance, or
+ *                  s2 = -3*s1
  */
 TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1, TrvIn s2,
                        TrvOut be1, TrvOut be2);

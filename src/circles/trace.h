@@ -44,7 +44,7 @@ class TraceRecord {
   TraceRecord &real(Real value);  // 9 significant digits, which give the same bits back
 
   // Appends the record to OUTPUT.TXT and makes sure that it is there when the call returns. A
-  // failure leaves no trace, in either sense: the next record tries again.
+  // failure goes unreported; the next record tries again.
   void append_to_file();
 
  private:

@@ -41,6 +41,11 @@ OUTLINES = {
         [(-155, 155, 0, 22), (-4.25, 4.25, 22, 389), (-75, 75, 389, 400)], 1, 0),
     "h 400 310 150 22 11 8.5": (
         [(0, 22, -155, 155), (22, 389, -4.25, 4.25), (389, 400, -75, 75)], 1, 0),
+    "i 400 310 150 22 11 8.5 0 0 12": (
+        [(-155, 155, 0, 22), (7.75, 16.25, 22, 389), (-75, 75, 389, 400)], 1, 0),
+    "c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2": (
+        [(0, 3, 4, 195), (0, 80, 0, 4), (0, 60, 195, 200), (78, 80, 4, 25), (57.5, 60, 180, 195),
+         (68, 78, 23.5, 25), (50, 57.5, 180, 182)], 1, 0),
     "t 180 260 17 9.5": ([(-4.75, 4.75, 0, 243), (-90, 90, 243, 260)], 1, 0),
     "b 130 17.5": ([(0, 130, 0, 17.5)], 1, 0),
     "h1b 250 200 160 9 22 8 15": (
@@ -74,7 +79,11 @@ BAD_INPUT = {
     "rhs 100 100 60 --svg out.svg": "walls T", "rhs 100 100 50": "walls T",
     "rhs 1e15 1e15 1e10": "single precision", "rhs 1e-15 1e-15 1e-16": "single precision",
     "ia 30 100 100 20 20 5": "flanges T1 and T2", "ia 300 100 50 10 10 60": "web TW",
-    "h 30 100 100 20 20 5": "flanges T1 and T2", "t 100 50 60 8": "flange TF",
+    "h 30 100 100 20 20 5": "flanges T1 and T2",
+    "i 400 310 150 22 11 8.5 200 200 0": "fillets", "i 400 310 150 22 11 8.5 0 0 80": "flange 2",
+    "c 200 80 60 25 180 12 10 3 4 5 2 2.5 1.5 2": "lips",
+    "c 200 80 60 25 20 12 58 3 4 5 2 2.5 1.5 2": "fold 2", "plates": "file",
+    "plates missing.txt": "'missing.txt'", "t 100 50 60 8": "flange TF",
     "t 10 50 6 18": "stem TW", "b 100.5 10": "whole number", "b 3e9 10": "2147483647",
     "h1b 250 200 160 9 200 8 15": "flanges T1 and T2", "h1b 150 200 160 9 22 8 15": "cover plate",
     "h1b 250 200 160 9 22 170 15": "web TW", "box 3000 2000 20 25 40 12 1600": "flanges TT",
@@ -129,7 +138,31 @@ def enclosed_area(ring):
     return sum(x1 * y2 - x2 * y1 for (x1, y1), (x2, y2) in zip(ring, ring[1:] + ring[:1])) / 2
 
 
+# The plates of a lipped channel, with a hole in its list.
+PLATES = "0 -99 0 99 2  # web\n0 99 78 99 2\n\n0 -99 78 -99 2\n78 99 78 75 2\n78 -99 78 -75 2\n"
+
+
 class SectionProperties(unittest.TestCase):
+    def test_plates_come_from_a_file(self):
+        with tempfile.TemporaryDirectory() as folder:
+            def answer(text):
+                with open(os.path.join(folder, "p.txt"), "w", encoding="utf-8") as file:
+                    file.write(text)
+                return run("plates p.txt --json --svg p.svg", folder)
+
+            f = json.loads(answer(PLATES).stdout)
+            t, h, b, c = 2, 198, 78, 24  # centre lines
+            area = t * (h + 2 * b + 2 * c)
+            ix = t * (h**3 / 12 + 2 * b * h * h / 4 + 2 * (c**3 / 12 + c * (h / 2 - c / 2) ** 2))
+            ix += 2 * b * t**3 / 12
+            xs = t * (b * b + 2 * c * b) / area
+            for name, expected in (("area", area), ("Ix", ix), ("xs", xs), ("It", area * 4 / 3)):
+                self.assertAlmostEqual(f[name] / expected, 1, delta=TOLERANCE)
+            self.assertLess(f["xm"], -30)  # beyond the web
+            for ending in ("0 0 1", "0 0 0 x 2", "0 0 0 0 2"):
+                self.assertEqual(answer(PLATES + ending).returncode, 2)
+            self.assertNotIn("It", json.loads(answer(PLATES + "78 -75 78 75 2").stdout))
+
     def test_rolled_sections_have_the_published_values(self):
         for name, (dimensions, *published) in ROLLED.items():
             with self.subTest(name):
@@ -214,7 +247,7 @@ class SectionProperties(unittest.TestCase):
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         for profile in list(OUTLINES) + ["rolled 1 2 3 4 5"]:
             name, *dimensions = profile.split()
-            self.assertRegex(result.stdout, f"\n  {name}( [A-Z]+[12]?){{{len(dimensions)}}}  ")
+            self.assertRegex(result.stdout, f"\n  {name}( [A-Z]+[12]?){{{len(dimensions)}}}\\s ")
 
     @unittest.skipIf(resource is None or ".exe" in "".join(COMMAND), "needs a limit on file sizes")
     def test_a_picture_that_fails_leaves_the_old_one(self):
