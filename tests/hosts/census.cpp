@@ -5,10 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <map>
-#include <sstream>
 #include <string>
-#include <tuple>
-#include <utility>
 #include <vector>
 
 #include "hosts/random_calls.h"
@@ -91,69 +88,47 @@ const std::vector<Status> statuses = {
     {"trvpin", "status", {-1, 0, 1}},
 };
 
-std::size_t position_of(const std::string &name, const std::string &names) {
-  std::istringstream words(names);
-  std::string word;
-  std::size_t position = 0;
-  while (words >> word && word != name) ++position;
-  return position;
+bool is_named(const Status &status, std::int32_t value) {
+  return std::binary_search(status.values.begin(), status.values.end(), value);
 }
 
-// First Integer behind each argument; zero for arguments that are none.
-template <class Storages>
-std::vector<std::int32_t> integers(const Storages &storages) {
-  const auto first = [](auto storage) -> std::int32_t {
-    if constexpr (std::is_same_v<decltype(storage), random_calls::Storage<std::int32_t>>) {
-      return *storage.address();
-    } else {
-      return 0;
-    }
-  };
-  return std::apply([&](const auto &...storage) { return std::vector{first(storage)...}; },
-                    storages);
+std::map<std::int32_t, int> count(const random_calls::Routine &routine, const Status &status) {
+  const auto &names = routine.names;
+  const auto i = static_cast<std::size_t>(std::find(names.begin(), names.end(), status.argument) -
+                                          names.begin());
+  std::map<std::int32_t, int> counts;
+  random_calls::run(routine, calls_per_routine, [&](const auto &before, auto &after) {
+    const std::int32_t value = *after.at(i).integer_address();
+    // A value from before the call that no contract names was left unwritten.
+    if (is_named(status, value) || value != before[i]) ++counts[value];
+  });
+  return counts;
 }
 
 }  // namespace
 
 int main() {
   int faults = 0;
-  for_each_routine([&](const RoutineCalls &calls, auto routine) {
-    std::vector<std::pair<const Status *, std::map<std::int32_t, int>>> counted;
-    for (const Status &status : statuses) {
-      if (std::string(status.routine) == calls.name) counted.push_back({&status, {}});
+  const auto routines = all_routines();
+  for (const Status &status : statuses) {
+    const auto routine = std::find_if(routines.begin(), routines.end(), [&](const auto &candidate) {
+      return std::string(status.routine) == candidate.name;
+    });
+    const auto counts = count(*routine, status);
+    std::printf("%-9s %-8s", status.routine, status.argument);
+    for (const auto &[value, times] : counts) {
+      const bool in_order =
+          is_named(status, value) || (status.open && value > status.values.back());
+      std::printf("  %d: %d%s", value, times, in_order ? "" : " UNNAMED");
+      faults += in_order ? 0 : 1;
     }
-    if (counted.empty()) return;
-    random_calls::run(
-        calls.seed, calls.count, calls.shape, routine, [&](const auto &before, const auto &after) {
-          const auto old_values = integers(before);
-          const auto values = integers(after);
-          for (auto &[status, counts] : counted) {
-            const auto i = position_of(status->argument, calls.arguments);
-            const bool named =
-                std::binary_search(status->values.begin(), status->values.end(), values[i]);
-            // A value from before the call that no contract names was left unwritten.
-            if (named || values[i] != old_values[i]) ++counts[values[i]];
-          }
-        });
-    for (const auto &[status, counts] : counted) {
-      std::printf("%-9s %-8s", calls.name, status->argument);
-      for (const auto &[value, count] : counts) std::printf("  %d: %d", value, count);
-      for (const std::int32_t value : status->values) {
-        if (counts.find(value) == counts.end()) {
-          ++faults;
-          std::printf("  %d NEVER", value);
-        }
-      }
-      for (const auto &[value, count] : counts) {
-        const bool named = std::binary_search(status->values.begin(), status->values.end(), value);
-        if (!named && !(status->open && value > status->values.back())) {
-          ++faults;
-          std::printf("  %d UNNAMED", value);
-        }
-      }
-      std::printf("\n");
+    for (const std::int32_t value : status.values) {
+      if (counts.find(value) != counts.end()) continue;
+      std::printf("  %d: NEVER", value);
+      ++faults;
     }
-  });
+    std::printf("\n");
+  }
   std::printf("%d status outputs, %d faults\n", static_cast<int>(statuses.size()), faults);
   return faults == 0 ? 0 : 1;
 }

@@ -6,9 +6,11 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <initializer_list>
-#include <tuple>
+#include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "trelvin/frame.h"
@@ -79,62 +81,64 @@ inline float TRELVIN_CALL level_of_position(const std::int32_t &position) {
   return static_cast<float>(position % 5 - 2);
 }
 
-// Storage behind one argument: room for arrays, with spare elements before and behind.
-template <class Element>
-class Storage {
- public:
-  Element *address() { return words_.data() + spare; }
+// What stands behind one argument: room for arrays, with spare elements before and behind.
+struct Argument {
+  enum Kind { real, integer, function } kind;
+  bool single;  // or an array
+
+  static constexpr std::size_t spare = 8;
+  static constexpr std::size_t room = 80;
+  std::array<float, spare + room + spare> reals = {};
+  std::array<std::int32_t, spare + room + spare> integers = {};
+
+  float *real_address() { return reals.data() + spare; }
+  std::int32_t *integer_address() { return integers.data() + spare; }
 
   void fill(Sequence &sequence, int mood, int largest_count) {
-    for (Element &word : words_) {
-      if constexpr (std::is_same_v<Element, float>) {
-        word = draw_real(sequence, mood);
-      } else {
-        word = sequence.between(-2, largest_count);
-      }
+    if (kind == real) {
+      for (float &value : reals) value = draw_real(sequence, mood);
+    } else if (kind == integer) {
+      for (std::int32_t &value : integers) value = sequence.between(-2, largest_count);
     }
   }
 
   // All bits, with one NaN for all: which NaN an operation gives is the platform's business.
   template <class Visit>
   void visit_bits(Visit visit) const {
-    for (const Element word : words_) {
-      std::uint32_t bits = 0;
-      std::memcpy(&bits, &word, sizeof bits);
-      if constexpr (std::is_same_v<Element, float>) {
-        if (std::isnan(word)) bits = 0x7FC00000;
-      }
-      visit(bits);
+    for (std::size_t i = 0; i < reals.size() && kind != function; ++i) {
+      auto bits = static_cast<std::uint32_t>(integers[i]);
+      if (kind == real) std::memcpy(&bits, &reals[i], sizeof bits);
+      visit(kind == real && std::isnan(reals[i]) ? 0x7FC00000U : bits);
     }
   }
-
- private:
-  static constexpr std::size_t spare = 8;
-  static constexpr std::size_t room = 80;
-  std::array<Element, spare + room + spare> words_ = {};
 };
 
-struct FunctionStorage {
-  void fill(Sequence & /*sequence*/, int /*mood*/, int /*largest_count*/) {}
-  template <class Visit>
-  void visit_bits(Visit /*visit*/) const {}
-};
+using Arguments = std::vector<Argument>;
 
-template <class Argument>
-using ElementOf = std::remove_const_t<std::remove_pointer_t<std::remove_reference_t<Argument>>>;
-
-template <class Argument>
-using StorageOf = std::conditional_t<std::is_same_v<Argument, TrvFunctionIn>, FunctionStorage,
-                                     Storage<ElementOf<Argument>>>;
-
-template <class Argument, class ItsStorage>
-Argument as_argument(ItsStorage &storage) {
-  if constexpr (std::is_same_v<Argument, TrvFunctionIn>) {
-    return level_of_position;
-  } else if constexpr (std::is_reference_v<Argument>) {
-    return *storage.address();
+template <class Type>
+Argument argument_of() {
+  if constexpr (std::is_same_v<Type, TrvFunctionIn>) {
+    return {Argument::function, true};
   } else {
-    return storage.address();
+    using Element = std::remove_const_t<std::remove_pointer_t<std::remove_reference_t<Type>>>;
+    return {std::is_same_v<Element, float> ? Argument::real : Argument::integer,
+            std::is_reference_v<Type>};
+  }
+}
+
+template <class Type>
+Type as(Argument &argument) {
+  using Element = std::remove_const_t<std::remove_pointer_t<std::remove_reference_t<Type>>>;
+  if constexpr (std::is_same_v<Type, TrvFunctionIn>) {
+    return level_of_position;
+  } else if constexpr (std::is_same_v<Type, const float &> || std::is_same_v<Type, float &>) {
+    return *argument.real_address();
+  } else if constexpr (std::is_reference_v<Type>) {
+    return *argument.integer_address();
+  } else if constexpr (std::is_same_v<Element, float>) {
+    return argument.real_address();
+  } else {
+    return argument.integer_address();
   }
 }
 
@@ -142,14 +146,13 @@ Argument as_argument(ItsStorage &storage) {
 // null for every other argument.
 using Addresses = std::vector<float *>;
 
-template <class Argument, bool single, class ItsStorage>
-float *address_of_real(ItsStorage &storage) {
-  if constexpr (std::is_reference_v<Argument> == single &&
-                std::is_same_v<ElementOf<Argument>, float>) {
-    return storage.address();
-  } else {
-    return nullptr;
+inline Addresses addresses_of_reals(Arguments &arguments, bool single) {
+  Addresses addresses;
+  for (Argument &argument : arguments) {
+    const bool wanted = argument.kind == Argument::real && argument.single == single;
+    addresses.push_back(wanted ? argument.real_address() : nullptr);
   }
+  return addresses;
 }
 
 // Puts points in special positions: each group of two or three Reals may become a combination of
@@ -237,34 +240,58 @@ inline void make_plates(Sequence &sequence, const Addresses &arrays) {
 }
 
 // What the arguments of a routine stand for, where chance would hardly find it.
-enum class Shape { free, arc, pairs, plates };
+enum class Shape { free, arc, pairs, plates, whole };
 
-// Draws `calls` sets of arguments, calls the routine on each, and hands `visit` the storages as the
-// call has left them, together with a copy from before it.
-template <class Visit, class... Arguments>
-void run(std::uint64_t seed, int calls, Shape shape, void(TRELVIN_CALL *routine)(Arguments...),
-         Visit visit) {
-  Sequence sequence(seed);
+// A routine as the calls need it, whatever its arguments.
+struct Routine {
+  const char *name;
+  Arguments arguments;
+  std::function<void(Arguments &)> call;
+  std::vector<std::string> names;  // of the arguments
+  Shape shape;
+  std::uint64_t seed;
+};
+
+template <class... Types, std::size_t... i>
+Routine routine_of(const char *name, void(TRELVIN_CALL *routine)(Types...),
+                   std::index_sequence<i...> /*positions*/) {
+  return {name,
+          {argument_of<Types>()...},
+          [routine](Arguments &arguments) { routine(as<Types>(arguments[i])...); },
+          {},
+          Shape::free,
+          0};
+}
+
+template <class... Types>
+Routine routine_of(const char *name, void(TRELVIN_CALL *routine)(Types...)) {
+  return routine_of(name, routine, std::index_sequence_for<Types...>());
+}
+
+// Draws sets of arguments and calls the routine on each. `visit` gets the arguments as the call has
+// left them, and the first Integer behind each from before it.
+inline void run(const Routine &routine, int calls,
+                const std::function<void(const std::vector<std::int32_t> &, Arguments &)> &visit) {
+  Sequence sequence(routine.seed);
+  Arguments arguments = routine.arguments;
+  std::vector<std::int32_t> integers_before(arguments.size());
   for (int call = 0; call < calls; ++call) {
-    std::tuple<StorageOf<Arguments>...> storages;
-    std::apply(
-        [&](auto &...storage) {
-          const int mood = sequence.between(0, moods - 1);
-          // Pairs of two lists need room for the product of their counts.
-          (storage.fill(sequence, mood, shape == Shape::pairs ? 8 : 40), ...);
-          const Addresses reals = {address_of_real<Arguments, true>(storage)...};
-          if (shape == Shape::arc && !sequence.one_in(4)) {
-            make_arc(sequence, reals);
-          } else if (shape == Shape::plates && !sequence.one_in(4)) {
-            make_plates(sequence, {address_of_real<Arguments, false>(storage)...});
-          } else if (sequence.one_in(2)) {
-            relate_points(sequence, reals);
-          }
-        },
-        storages);
-    const auto before = storages;
-    std::apply([&](auto &...storage) { routine(as_argument<Arguments>(storage)...); }, storages);
-    visit(before, storages);
+    const int mood = routine.shape == Shape::whole ? grid : sequence.between(0, moods - 1);
+    // Pairs of two lists need room for the product of their counts.
+    const int largest_count = routine.shape == Shape::pairs ? 8 : 40;
+    for (Argument &argument : arguments) argument.fill(sequence, mood, largest_count);
+    if (routine.shape == Shape::arc && !sequence.one_in(4)) {
+      make_arc(sequence, addresses_of_reals(arguments, true));
+    } else if (routine.shape == Shape::plates && !sequence.one_in(4)) {
+      make_plates(sequence, addresses_of_reals(arguments, false));
+    } else if (sequence.one_in(2)) {
+      relate_points(sequence, addresses_of_reals(arguments, true));
+    }
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+      integers_before[i] = *arguments[i].integer_address();
+    }
+    routine.call(arguments);
+    visit(integers_before, arguments);
   }
 }
 

@@ -1,37 +1,37 @@
 // The calls that the digest hashes and the census counts: every routine, with its own seed.
 #pragma once
 
-#include <cstdint>
-#include <string_view>
+#include <algorithm>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include "hosts/random_calls.h"
 #include "trelvin/trelvin.h"
 
 constexpr int calls_per_routine = 2500;
 
-struct RoutineCalls {
-  const char *name;
-  const char *arguments;  // their names, separated by blanks
-  std::uint64_t seed;
-  int count;
-  random_calls::Shape shape;
-};
-
-inline random_calls::Shape shape_of(std::string_view arguments) {
+inline random_calls::Shape shape_of(const std::string &names) {
   using random_calls::Shape;
-  const auto holds = [&](std::string_view names) {
-    return arguments.find(names) != std::string_view::npos;
-  };
-  if (arguments.substr(0, 17) == "xc yc xa ya xb yb") return Shape::arc;
-  if (arguments.substr(0, 15) == "n X1 Y1 X2 Y2 T") return Shape::plates;
+  const auto starts = [&](const std::string &start) { return names.rfind(start, 0) == 0; };
+  const auto holds = [&](const std::string &part) { return names.find(part) != std::string::npos; };
+  if (starts("xc yc xa ya xb yb")) return Shape::arc;
+  if (starts("n X1 Y1 X2 Y2 T")) return Shape::plates;
+  if (starts("a1 b1 c1 d1 a2 b2 c2 d2 px")) return Shape::whole;  // it would retain a NaN for good
   return holds(" IA IB") || holds(" IAB JAB") ? Shape::pairs : Shape::free;
 }
 
-template <class Visit>
-void for_each_routine(Visit visit) {
-  std::uint64_t seed = 20;
-#define ROUTINE(name, count, arguments) \
-  visit(RoutineCalls{#name, arguments, ++seed, calls_per_routine, shape_of(arguments)}, name);
+inline std::vector<random_calls::Routine> all_routines() {
+  std::vector<random_calls::Routine> routines;
+  const auto add = [&](random_calls::Routine routine, const std::string &names) {
+    std::istringstream words(names);
+    for (std::string word; words >> word;) routine.names.push_back(word);
+    routine.shape = shape_of(names);
+    routine.seed = 20 + routines.size();
+    routines.push_back(std::move(routine));
+  };
+#define ROUTINE(name, count, names) add(random_calls::routine_of(#name, name), names);
 #include "routines.inc"
 #undef ROUTINE
+  return routines;
 }
