@@ -151,10 +151,10 @@ const char *fault_of_filleted_i(const float *d) {
 
 const char *fault_of_c(const float *d) {
   const auto [H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2, TD1, TD2] = first<14>(d);
-  const auto is_in_the_way = [&](float B, float C, float D, float T, float TC, float TD) {
-    if (C <= T) return TW >= B;
-    if (D <= TC) return TW + TC >= B;
-    return TW + D >= B || T + TD >= C || TC <= 0 || TD <= 0;
+  const auto is_in_the_way = [web = TW](float B, float C, float D, float T, float TC, float TD) {
+    if (C <= T) return web >= B;
+    if (D <= TC) return web + TC >= B;
+    return web + D >= B || T + TD >= C || TC <= 0 || TD <= 0;
   };
   if (std::max(C1, T1) + std::max(C2, T2) >= H) return "flanges and lips leave no room in H";
   if (is_in_the_way(B1, C1, D1, T1, TC1, TD1)) return "lip or fold 1 does not fit on flange B1";
