@@ -54,10 +54,12 @@ class Scale {
         middle_y_(0.5 * (box.bottom + box.top)),
         height_(std::max(pixels_ * (box.top - box.bottom), smallest_height)) {}
 
-  double x(double mm) const { return drawing_centre + pixels_ * (mm - middle_x_); }
-  double y(double mm) const { return space_above + 0.5 * height_ - pixels_ * (mm - middle_y_); }
-  double length(double mm) const { return pixels_ * mm; }
-  double sheet_height() const { return space_above + height_ + space_below; }
+  [[nodiscard]] double x(double mm) const { return drawing_centre + pixels_ * (mm - middle_x_); }
+  [[nodiscard]] double y(double mm) const {
+    return space_above + 0.5 * height_ - pixels_ * (mm - middle_y_);
+  }
+  [[nodiscard]] double length(double mm) const { return pixels_ * mm; }
+  [[nodiscard]] double sheet_height() const { return space_above + height_ + space_below; }
 
  private:
   double pixels_;
@@ -97,7 +99,7 @@ std::string steel_area(const std::vector<Ring> &outline, const Scale &at) {
       if (!path.empty()) path += ' ';
       if (v.arc > 0) {
         const std::string radius = px(at.length(v.arc));
-        path += 'A' + radius + ' ' + radius + " 0 0 1 ";
+        path.append("A").append(radius).append(" ").append(radius).append(" 0 0 1 ");
       } else {
         path += command;
       }

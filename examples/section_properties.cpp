@@ -222,7 +222,7 @@ int run(const std::vector<std::string> &arguments) {
   const Request request = read_command_line(arguments);
   if (request.help) return print(usage());
 
-  const Task task = request.words.size() > 0 && request.words[0] == "plates"
+  const Task task = !request.words.empty() && request.words[0] == "plates"
                         ? plates_task(request.words)
                         : profile_task(request.words);
   if (!are_representable(task.properties)) {

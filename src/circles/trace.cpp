@@ -58,7 +58,7 @@ TraceRecord &TraceRecord::text(std::string_view text) {
 
 TraceRecord &TraceRecord::integer(Integer value) {
   char digits[integer_width];
-  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+  char *const end = std::to_chars(digits, digits + sizeof digits, value).ptr;
   field({digits, static_cast<std::size_t>(end - digits)}, integer_width);
   return *this;
 }
@@ -70,7 +70,7 @@ TraceRecord &TraceRecord::real(Real value) {
   } else if (std::isinf(value)) {
     field(value < 0 ? "-Infinity" : "Infinity", real_width);
   } else {
-    const auto end =
+    char *const end =
         std::to_chars(digits, digits + sizeof digits, value, std::chars_format::scientific, 8).ptr;
     field({digits, static_cast<std::size_t>(end - digits)}, real_width);
   }

@@ -12,7 +12,7 @@ namespace trelvin {
 template <std::size_t size>
 struct EncodedText {
   char bytes[size];
-  constexpr std::string_view view() const { return {bytes, size}; }
+  [[nodiscard]] constexpr std::string_view view() const { return {bytes, size}; }
 };
 
 // Not defined: reached at compile time, it names the character that has no byte.
@@ -48,7 +48,7 @@ class TraceRecord {
   void append_to_file();
 
  private:
-  void field(std::string_view text, std::size_t width);
+  void field(std::string_view value, std::size_t width);
 
   char buffer_[512];
   std::size_t length_ = 0;

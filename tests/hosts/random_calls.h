@@ -161,7 +161,8 @@ inline void relate_points(Sequence &sequence, const Addresses &reals) {
   const int size = sequence.between(2, 3);
   const auto groups = static_cast<int>(reals.size()) / size;
   const auto at = [&](int group, int i) -> float * {
-    return reals[static_cast<std::size_t>(group * size + i)];
+    return reals[static_cast<std::size_t>(group) * static_cast<std::size_t>(size) +
+                 static_cast<std::size_t>(i)];
   };
   for (int group = 1; group < groups; ++group) {
     const int from = sequence.between(0, group - 1);
@@ -221,7 +222,7 @@ inline void make_arc(Sequence &sequence, const Addresses &reals) {
 inline void make_plates(Sequence &sequence, const Addresses &arrays) {
   constexpr int plates = 40;
   const auto place = [&](int k, bool second, int coordinate) -> float & {
-    return arrays[static_cast<std::size_t>(1 + (second ? 2 : 0) + coordinate)][k];
+    return arrays[(second ? 3U : 1U) + static_cast<std::size_t>(coordinate)][k];
   };
   const bool along_axes = sequence.one_in(2);
   for (int k = 0; k < plates; ++k) {

@@ -9,9 +9,11 @@
 
 using namespace trelvin_test;
 
-// AddressSanitizer is to fail an allocation as the C library does.
+// AddressSanitizer is to fail an allocation as the C library does. The name is its own.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" const char *__asan_default_options();
 extern "C" const char *__asan_default_options() { return "allocator_may_return_null=1"; }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
