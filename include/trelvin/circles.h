@@ -47,7 +47,7 @@ TRELVIN_ROUTINE trvlci(TrvIn a, TrvIn b, TrvIn c, TrvIn D, TrvIn E, TrvIn F, Trv
  * @param[in]  D1,E1,F1  first circle
  * @param[in]  D2,E2,F2  second circle
  * @param[out] n         number of points; 0 for concentric circles: |D2 - D1| + |E2 - E1| within
- * the tolerance
+ *                       the tolerance
  * @param[out] x1,y1     first point; unwritten when n is 0
  * @param[out] x2,y2     second point; unwritten when n is 0 or 1
  */
@@ -69,8 +69,8 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * @param[out] xb,yb  second candidate
  * @param[out] xc,yc  chosen centre; unwritten where a NaN decides
  * @param[out] n      number of centres. 0: P1 = P2 exactly, r at most 1e-5, r less than half the
- * chord, or a NaN discriminant; nothing else is written then, but for a horizontal chord. 1: both
- * candidates are the same. 2: two
+ *                    chord, or a NaN discriminant; nothing else is written then, but for a
+ *                    horizontal chord. 1: both candidates are the same. 2: two
  */
 TRELVIN_ROUTINE trvcer2(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, TrvIn r, TrvOut xa,
                         TrvOut ya, TrvOut xb, TrvOut yb, TrvOut xc, TrvOut yc, TrvIntOut n);
@@ -101,7 +101,7 @@ TRELVIN_ROUTINE trvcer1(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, T
  * @param[in]  X,Y       arrays of 2: the centre, and a point on the circle
  * @param[in]  a,b,c     line a*x + b*y + c = 0
  * @param[out] position  1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3
- * cut, centre below it; 4 cut, centre on or above it
+ *                       cut, centre below it; 4 cut, centre on or above it
  * @param[out] x1,y1     first intersection; unwritten where trvlci finds none
  * @param[out] x2,y2     second intersection; unwritten where trvlci finds none or one
  */
@@ -115,7 +115,7 @@ TRELVIN_ROUTINE trvcin(TrvArrayIn X, TrvArrayIn Y, TrvIn a, TrvIn b, TrvIn c, Tr
  *
  * @param[in]    x0,y0   centre
  * @param[inout] x,y     point; comes back rounded by the way to the centre and back; relative to
- * the centre when status is 0
+ *                       the centre when status is 0
  * @param[in]    angle   angle in radians, counter-clockwise
  * @param[out]   xr,yr   turned point; unwritten when status is 0
  * @param[out]   status  1 done; 0 the point's distance from the centre is within the tolerance
@@ -138,7 +138,7 @@ TRELVIN_ROUTINE trvcer3(TrvIn x0, TrvIn y0, TrvInOut x, TrvInOut y, TrvIn angle,
  * @param[in]  d       station: distance from A along the chord
  * @param[out] x,y     point; unwritten when status is 0
  * @param[out] status  1 done; 0 the radius or the chord is at most 0.001, the radii of A and B
- * differ by more, or the station is not farther than that from both ends
+ *                     differ by more, or the station is not farther than that from both ends
  */
 TRELVIN_ROUTINE trvcer8(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn yb, TrvIntIn side,
                         TrvIn d, TrvOut x, TrvOut y, TrvIntOut status);
@@ -255,7 +255,7 @@ TRELVIN_ROUTINE trvapp(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * @param[in]    angle   direction of the line in radians, measured from the chord (trvln1)
  * @param[out]   xo,yo   point; unwritten when status is 0
  * @param[out]   status  1 done; 0 the radius or the chord is within the tolerance, the radii of A
- * and B differ by more, A and B coincide, or the line touches the circle
+ *                       and B differ by more, A and B coincide, or the line touches the circle
  */
 TRELVIN_ROUTINE trvcer4(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIn angle, TrvOut xo, TrvOut yo, TrvIntOut status);
@@ -274,8 +274,9 @@ TRELVIN_ROUTINE trvcer4(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  * @param[in]    angle   direction of the line in radians, measured from the chord (trvln1)
  * @param[out]   xo,yo   crossing; unwritten when refused
  * @param[out]   status  0 refused: the radius or the chord is within the tolerance, or the radii of
- * A and B differ by more. 0 as well where the crossing is on the chord's line but not at A or B
- * (trvpsl above 2); else 0 a crossing, 1 the same line, 2 parallel
+ *                       A and B differ by more. 0 as well where the crossing is on the chord's line
+ *                       but not at A or B (trvpsl above 2); else 0 a crossing, 1 the same line, 2
+ *                       parallel
  */
 TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                          TrvInOut yb, TrvIn turn, TrvIn angle, TrvOut xo, TrvOut yo,
@@ -299,7 +300,8 @@ TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, Trv
  * @param[in]    e       distance of T from the chord
  * @param[out]   xo,yo   point; unwritten when status is 0
  * @param[out]   status  1 done; 0 s is negative; e, the radius, the chord or its rest beyond s is
- * at most 1e-5; the radii of A and B differ by more; or the line touches the circle
+ *                       at most 1e-5; the radii of A and B differ by more; or the line touches the
+ *                       circle
  */
 TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvOut xo, TrvOut yo,
@@ -324,9 +326,9 @@ TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  * @param[out]   xo,yo   crossing O with the arc
  * @param[out]   len     length of PO
  * @param[out]   status  1 done; 0 refused, nothing else is written: s or e is negative, the radius,
- * the chord or its rest beyond s is at most 1e-4, the radii of A and B differ by more, side picks
- * no side, the line is parallel to the chord, or it meets the circle in fewer than two points
- * (trvlci)
+ *                       the chord or its rest beyond s is at most 1e-4, the radii of A and B differ
+ *                       by more, side picks no side, the line is parallel to the chord, or it meets
+ *                       the circle in fewer than two points (trvlci)
  */
 TRELVIN_ROUTINE trvcer7(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvIn angle, TrvOut xp,
@@ -349,7 +351,7 @@ TRELVIN_ROUTINE trvcer7(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  * @param[out] xt2,yt2  where it touches the segment to P2
  * @param[out] status   1 done; 0 refused, nothing else is written: r or a segment is not above the
  *                      tolerance, the sine of the angle is within it, or a tangent point falls
- * beyond its segment by more
+ *                      beyond its segment by more
  */
 TRELVIN_ROUTINE trvard(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIn r,
                        TrvOut xc, TrvOut yc, TrvOut xt1, TrvOut yt1, TrvOut xt2, TrvOut yt2,
@@ -363,7 +365,7 @@ TRELVIN_ROUTINE trvard(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * @param[in]  xc,yc      centre
  * @param[in]  xa,ya      start of the arc
  * @param[in]  sweep      angle in radians, counter-clockwise when positive; from 2*pi on, either
- * way, the full circle
+ *                        way, the full circle
  * @param[out] xmin,ymin  lower left corner
  * @param[out] xmax,ymax  upper right corner
  */

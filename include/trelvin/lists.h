@@ -39,8 +39,8 @@ TRELVIN_ROUTINE trvord1(TrvIntArrayInOut V, TrvIntIn n);
  *
  * @param[in]  V    array of n
  * @param[in]  n    number of entries
- * @param[out] IDX  array of n: IDX(k) is the position of the k-th smallest entry; unwritten when
- *                  n < 1 or memory is short; IDX(k) alone is unwritten when no entry compares (NaN)
+ * @param[out] IDX  array of n: IDX(k) is the position of the k-th smallest entry; unwritten when n
+ *                  < 1 or memory is short; IDX(k) alone is unwritten when no entry compares (NaN)
  */
 TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
 
@@ -95,7 +95,7 @@ TRELVIN_ROUTINE trvsel1(TrvIntIn n, TrvIntArrayIn V, TrvIntIn key, TrvIntOut cou
  * @param[in]  B      array of nb
  * @param[out] count  number of pairs
  * @param[out] IA,IB  arrays of na+nb, and of count where that is more: positions in A and in B, by
- * A then B; entries up to na+nb that are no pair are zero
+ *                    A then B; entries up to na+nb that are no pair are zero
  * @param[in]  tol    largest difference, itself included
  */
 TRELVIN_ROUTINE trvmer13(TrvIntIn na, TrvArrayIn A, TrvIntIn nb, TrvArrayIn B, TrvIntOut count,
@@ -291,10 +291,10 @@ TRELVIN_ROUTINE trvppp(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn y0, TrvIntO
  * @param[out] count   number of crossings; 0 when status is -1
  * @param[out] XI,YI   arrays of up to n: points
  * @param[out] T       array of up to n: their places on the segment, ascending from 0 at P1 to 1 at
- * P2
+ *                     P2
  * @param[out] EDGE    array of up to n: the edges crossed; edge i runs from vertex i to vertex i+1
  * @param[out] status  1 P1 is inside, by the even-odd rule of trvppp; 0 it is not; -1 refused: n <
- * 3, or P1 and P2 coincide within the tolerance in both coordinates
+ *                     3, or P1 and P2 coincide within the tolerance in both coordinates
  */
 TRELVIN_ROUTINE trvpin(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn x1, TrvIn y1, TrvIn x2,
                        TrvIn y2, TrvIntOut count, TrvArrayOut XI, TrvArrayOut YI, TrvArrayOut T,

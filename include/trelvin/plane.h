@@ -224,8 +224,8 @@ TRELVIN_ROUTINE trvln2(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut a2, TrvOut b2,
  * @param[in]  x0,y0  vertex P0
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
- * @param[out] a,b,c  line; all zero where a ray has no length, and to rounding where both have
- *                    one direction
+ * @param[out] a,b,c  line; all zero where a ray has no length, and to rounding where both have one
+ *                    direction
  */
 TRELVIN_ROUTINE trvln5(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut a,
                        TrvOut b, TrvOut c);
@@ -262,7 +262,8 @@ TRELVIN_ROUTINE trvlni(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
  * @param[in]  a1,b1,c1  first line
  * @param[in]  a2,b2,c2  second line
  * @param[out] d         signed distance for which trvln2 makes the second line of the first:
- * positive towards the normal (a1, b1); 0 when status is 1; unwritten when it is 0
+ *                       positive towards the normal (a1, b1); 0 when status is 1; unwritten when it
+ *                       is 0
  * @param[out] status    0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells
  */
 TRELVIN_ROUTINE trvlul(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c2, TrvOut d,
@@ -389,7 +390,7 @@ TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  X,Y     arrays of n: vertices, the first not repeated
  * @param[in]  n       number of vertices
  * @param[out] status  1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a
- * side whose length is within the tolerance
+ *                     side whose length is within the tolerance
  */
 TRELVIN_ROUTINE trvcnv(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIntOut status);
 

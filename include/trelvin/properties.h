@@ -93,7 +93,7 @@ TRELVIN_ROUTINE trvacp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * @param[out] ix     second moment about the x axis
  * @param[out] iy     second moment about the y axis
  * @param[out] ixy    area*xs*ys, without the segment's own centroidal product of inertia: exact
- * only for a chord parallel to an axis
+ *                    only for a chord parallel to an axis
  */
 TRELVIN_ROUTINE trvicp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn kind,
                        TrvOut ix, TrvOut iy, TrvOut ixy);

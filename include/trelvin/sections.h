@@ -71,8 +71,8 @@ TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ce
  * @param[in]  s2     stress at the other edge
  * @param[out] be1    effective width at the edge of s1
  * @param[out] be2    effective width at the other edge; both unwritten when both stresses are
- * within the tolerance, s1 is not positive, s2 is above s1 by more than the tolerance, or
- *                  s2 = -3*s1
+ *                    within the tolerance, s1 is not positive, s2 is above s1 by more than the
+ *                    tolerance, or s2 = -3*s1
  */
 TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1, TrvIn s2,
                        TrvOut be1, TrvOut be2);
@@ -151,8 +151,8 @@ TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArray
  * @param[in]  T1,T2  thicknesses of the left and the right flange
  * @param[in]  TW     web thickness
  * @param[in]  q      value handed on with each polygon
- * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2  outline frame:
- *             np = 2, nv = (12, 4): solid and cell
+ * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2
+ *             outline frame: np = 2, nv = (12, 4): solid and cell
  */
 TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn TP,
                            TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
@@ -169,8 +169,8 @@ TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn 
  * @param[in]  TW     thickness of each web
  * @param[in]  G      clear distance of the webs
  * @param[in]  q      value handed on with each polygon
- * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2  outline frame:
- *             np = 2, nv = (12, 4): solid and cell
+ * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2
+ *             outline frame: np = 2, nv = (12, 4): solid and cell
  */
 TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvIn TW, TrvIn G,
                            TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
@@ -184,8 +184,8 @@ TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvI
  * @param[in]  B,H  width and height
  * @param[in]  T    wall thickness
  * @param[in]  q    value handed on with each polygon
- * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2  outline frame:
- *             np = 2, nv = (4, 4): solid and cell
+ * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2
+ *             outline frame: np = 2, nv = (4, 4): solid and cell
  */
 TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, TrvIntArrayOut nv,
                            TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign,
@@ -199,8 +199,8 @@ TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, Trv
  * @param[in]  H,TV  height and thickness of a vertical leg
  * @param[in]  G     gap between the vertical legs
  * @param[in]  q     value handed on with each polygon
- * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2  outline frame:
- *             np = 2, nv = (6, 6): two solids
+ * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2
+ *             outline frame: np = 2, nv = (6, 6): two solids
  */
 TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q, TrvIntOut np,
                           TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code,
@@ -217,8 +217,8 @@ TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q,
  * @param[in]  TW   thickness of each web
  * @param[in]  TB   thickness of the bottom plate
  * @param[in]  q    value handed on with each polygon
- * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2  outline frame:
- *             np = 2, nv = (12, 4): solid and cell
+ * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2
+ *             outline frame: np = 2, nv = (12, 4): solid and cell
  */
 TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn TW, TrvIn TB,
                            TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
@@ -235,8 +235,8 @@ TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn T
  * @param[in]  TW1,TW2  thicknesses of the left and the right web
  * @param[in]  TM       thickness of the middle plate, at mid-height
  * @param[in]  q        value handed on with each polygon
- * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2  outline frame:
- *             np = 3, nv = (12, 4, 4): solid, upper and lower cell
+ * @param[out] np,nv,X,Y,code,sign,z1,z2,z3,z4,z5,q1,q2
+ *             outline frame: np = 3, nv = (12, 4, 4): solid, upper and lower cell
  */
 TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, TrvIn TM, TrvIn TF,
                            TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
@@ -299,7 +299,7 @@ TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn 
  * @param[in]  C   outer length of the lips, turned inwards; 0 for a plain channel
  * @param[in]  t   wall thickness
  * @param[out] e0  distance along the flanges; centroid and shear centre are on either side of the
- * web
+ *                 web
  */
 TRELVIN_ROUTINE trvshc_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut e0);
 
@@ -344,10 +344,11 @@ TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw);
  * @param[out] Iw              warping constant
  * @param[out] r0              polar radius of gyration about the shear centre
  * @param[out] W1,W2           arrays of n: normalised sectorial coordinate at the plates' starts
- * and ends, counter-clockwise positive
+ *                             and ends, counter-clockwise positive
  * @param[out] status          0 done; -1 refused, nothing else is written: n < 1, or a length or a
  *                             thickness not above the tolerance; k > 0 plate k starts at no earlier
- * end or closes a cell: what is listed up to yp is written, the rest is not
+ *                             end or closes a cell: what is listed up to yp is written, the rest is
+ *                             not
  */
 TRELVIN_ROUTINE trvmxt(TrvIntIn n, TrvArrayIn X1, TrvArrayIn Y1, TrvArrayIn X2, TrvArrayIn Y2,
                        TrvArrayIn T, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
@@ -381,7 +382,7 @@ TRELVIN_ROUTINE trvmxt(TrvIntIn n, TrvArrayIn X1, TrvArrayIn Y1, TrvArrayIn X2, 
  * @param[out] r0           polar radius of gyration
  * @param[out] W1,W2        arrays of 1: sectorial coordinate at the centre line's ends: 0
  * @param[out] status       0 done; -1 refused, nothing else is written: a side not above the
- * tolerance
+ *                          tolerance
  */
 TRELVIN_ROUTINE trvmxt_fb(TrvIn B, TrvIn H, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
                           TrvOut Ixy, TrvOut I1, TrvOut I2, TrvOut alpha, TrvOut rx, TrvOut ry,

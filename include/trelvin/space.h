@@ -86,7 +86,7 @@ TRELVIN_ROUTINE trvrotz(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvArra
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
  * @param[out] status    0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4
- * beyond P0; 5 beyond P1
+ *                       beyond P0; 5 beyond P1
  */
 TRELVIN_ROUTINE trvpsl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIntOut status);
@@ -261,7 +261,7 @@ TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  xd,yd,zd  D, on the second line
  * @param[out] a,b,c,d   plane; all zero when status is not 0; its normal is zero, or nearly, where
- * the lines are parallel
+ *                       the lines are parallel
  * @param[out] status    0 done, also for parallel lines; 3, 4 or 7 the relation of the lines
  */
 TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb,
@@ -276,7 +276,7 @@ TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  xd,yd,zd  D, on the second line
  * @param[out] a,b,c,d   plane; all zero when status is not 0; its normal is zero, or nearly, where
- * the lines are parallel
+ *                       the lines are parallel
  * @param[out] status    0 done, also for parallel lines; 3, 4 or 7 the relation of the lines
  */
 TRELVIN_ROUTINE trvpl3(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
@@ -313,8 +313,8 @@ TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut 
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  wx,wy,wz  direction of the second line
  * @param[out] a,b,c,d   plane; its normal is zero, or nearly, for parallel lines; unwritten when
- * the lines' relation is 3, 4, 6 or 7; all zero where trvpl2, asking again after a call that leaves
- * another cosine (trvpsl), finds 3 or 4
+ *                       the lines' relation is 3, 4, 6 or 7; all zero where trvpl2, asking again
+ *                       after a call that leaves another cosine (trvpsl), finds 3 or 4
  * @param[out] status    0 done, also for parallel lines; 3, 4, 6 or 7 the relation of the lines
  */
 TRELVIN_ROUTINE trvpl6(TrvIn xa, TrvIn ya, TrvIn za, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn xc,
@@ -348,7 +348,7 @@ TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  tol       largest residual allowed, itself included: the distance times the length of
  *                       (P1 - P0) x (P2 - P0)
  * @param[out] status    0 it does, and any point does where P0 = P1; -1 it does not, or trvpl1
- * finds no plane
+ *                       finds no plane
  */
 TRELVIN_ROUTINE trvpsp(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIn x, TrvIn y, TrvIn z, TrvIn tol, TrvIntOut status);
@@ -429,7 +429,7 @@ TRELVIN_ROUTINE trvdirl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * @param[in]  xe,ye,ze  E
  * @param[in]  xf,yf,zf  F
  * @param[out] status    1 the triple product of B - A, D - C and F - E is above the tolerance; 0
- * not
+ *                       not
  */
 TRELVIN_ROUTINE trv3sp(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
                        TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd, TrvIn xe, TrvIn ye,
@@ -461,7 +461,7 @@ TRELVIN_ROUTINE trv3ldb(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * @param[in]  xq,yq,zq  Q
  * @param[out] status    always 0
  * @param[out] dist      distance; 0 where Q is on the line or very close to a short one (trvaxe);
- * the distance from A where A and B coincide
+ *                       the distance from A where A and B coincide
  */
 TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xq,
                         TrvIn yq, TrvIn zq, TrvIntOut status, TrvOut dist);
@@ -492,7 +492,7 @@ TRELVIN_ROUTINE trv3lni(TrvInOut xa, TrvInOut ya, TrvInOut za, TrvIn ux, TrvIn u
  * @param[in]  a,b,c,d   plane
  * @param[out] xi,yi,zi  point; unwritten when status is 3 or 4
  * @param[out] status    0 done; 3 the line is parallel to the plane; 4 u or the normal is within
- * the tolerance in each component
+ *                       the tolerance in each component
  */
 TRELVIN_ROUTINE trvpli(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn a, TrvIn b,
                        TrvIn c, TrvIn d, TrvOut xi, TrvOut yi, TrvOut zi, TrvIntOut status);
@@ -504,7 +504,7 @@ TRELVIN_ROUTINE trvpli(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, 
  *
  * @param[in]  a,b,c,d   plane
  * @param[out] position  1 general; 2, 3, 4 parallel to the x, y, z axis; 5, 6, 7 normal to the z,
- * x, y axis; 8, 9, 10 likewise and through the origin
+ *                       x, y axis; 8, 9, 10 likewise and through the origin
  */
 TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position);
 
@@ -537,7 +537,7 @@ TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
  * @param[in]    dx1,dy1,dz1  move of Q1
  * @param[out]   status       0 not moved: the three points are not collinear, or Q1 is at P; else
  *                            moved: 3 Q1 and Q2 are on one side of P, 4 on either side, 7 Q2 is at
- * P, 6 rounding takes the three for skew lines (trvdirl)
+ *                            P, 6 rounding takes the three for skew lines (trvdirl)
  */
 TRELVIN_ROUTINE trvlpc(TrvIn xp, TrvIn yp, TrvIn zp, TrvIn x1, TrvIn y1, TrvIn z1, TrvInOut x2,
                        TrvInOut y2, TrvInOut z2, TrvIn dxp, TrvIn dyp, TrvIn dzp, TrvIn dx1,
