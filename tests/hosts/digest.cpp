@@ -1,5 +1,5 @@
-// Calls every routine on a fixed pseudo-random sequence and prints one hash of all the bits that
-// the calls leave in their arguments. Builds that agree print the same hash.
+// Calls every routine on a fixed pseudo-random sequence and hashes all the bits that the calls leave
+// in their arguments. Every build prints what digest.txt beside this file holds, the golden bits.
 //
 //     digest            a line a routine, then the hash of all
 //     digest ROUTINE    every call of one routine, to find where two builds part

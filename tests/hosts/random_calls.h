@@ -240,8 +240,24 @@ inline void make_plates(Sequence &sequence, const Addresses &arrays) {
   }
 }
 
+// Makes a plate element of steel of the seven Reals: widths, thickness, material and the stresses at
+// its edges, with ratios within, on and just beside every border between stress distributions.
+inline void make_plate_stresses(Sequence &sequence, const Addresses &reals) {
+  *reals[0] = static_cast<float>(sequence.between(1, 4000)) * 0.5F;
+  *reals[1] = static_cast<float>(sequence.between(1, 4000)) * 0.5F;
+  *reals[2] = static_cast<float>(sequence.between(4, 160)) * 0.25F;
+  *reals[3] = static_cast<float>(sequence.between(10, 25));
+  *reals[4] = static_cast<float>(sequence.between(10, 25));
+  const auto s1 = static_cast<float>(sequence.between(1, 3550)) * 0.125F;
+  const float ratio = sequence.one_of({1.0F, 0.0F, -1.0F, -3.0F, -1.0F / 3, 0.5F});
+  const auto inside = static_cast<float>(sequence.between(-4000, 1000)) * 0.001F;
+  const float beside = sequence.one_of({0.0F, 1e-5F, -1e-5F, 1e-6F, -1e-6F, 1e-3F, -1e-3F});
+  *reals[5] = s1;
+  *reals[6] = sequence.one_in(2) ? s1 * inside : s1 * ratio + beside;
+}
+
 // What the arguments of a routine stand for, where chance would hardly find it.
-enum class Shape { free, arc, pairs, plates, whole };
+enum class Shape { free, arc, pairs, plates, plate_stresses, whole };
 
 // A routine as the calls need it, whatever its arguments.
 struct Routine {
@@ -285,6 +301,8 @@ inline void run(const Routine &routine, int calls,
       make_arc(sequence, addresses_of_reals(arguments, true));
     } else if (routine.shape == Shape::plates && !sequence.one_in(4)) {
       make_plates(sequence, addresses_of_reals(arguments, false));
+    } else if (routine.shape == Shape::plate_stresses && !sequence.one_in(4)) {
+      make_plate_stresses(sequence, addresses_of_reals(arguments, true));
     } else if (sequence.one_in(2)) {
       relate_points(sequence, addresses_of_reals(arguments, true));
     }

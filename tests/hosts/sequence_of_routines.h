@@ -17,6 +17,7 @@ inline random_calls::Shape shape_of(const std::string &names) {
   const auto holds = [&](const std::string &part) { return names.find(part) != std::string::npos; };
   if (starts("xc yc xa ya xb yb")) return Shape::arc;
   if (starts("n X1 Y1 X2 Y2 T")) return Shape::plates;
+  if (starts("bl w t r1 r2 s1 s2")) return Shape::plate_stresses;
   if (starts("a1 b1 c1 d1 a2 b2 c2 d2 px")) return Shape::whole;  // it would retain a NaN for good
   return holds(" IA IB") || holds(" IAB JAB") ? Shape::pairs : Shape::free;
 }
