@@ -8,7 +8,7 @@ add_library(
   src/circles/measures.cpp
   src/circles/stations.cpp
   src/circles/trace.cpp
-  src/frame/functions.cpp
+  src/numeric/functions.cpp
   src/lists/crossings.cpp
   src/lists/matching.cpp
   src/lists/merging.cpp
@@ -43,8 +43,8 @@ target_compile_options(trelvin PRIVATE -ffp-contract=off -fno-math-errno -fno-ex
 
 if(WIN32)
   enable_language(RC)
-  configure_file(src/frame/version.rc.in version.rc @ONLY)
-  target_sources(trelvin PRIVATE src/frame/library_entry.cpp src/frame/Trelvin.def
+  configure_file(src/entries/version.rc.in version.rc @ONLY)
+  target_sources(trelvin PRIVATE src/entries/library_entry.cpp src/entries/Trelvin.def
                                  ${CMAKE_CURRENT_BINARY_DIR}/version.rc)
   # Hosts of the 1990s keep the stack aligned to 4 bytes only.
   target_compile_options(trelvin PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-mstackrealign>)
@@ -55,19 +55,19 @@ if(WIN32)
 
   # The linker's own import library names each routine as the export table does; compilers ask for
   # the decorated name without its underscore, so the library is made from those names instead.
-  file(STRINGS src/frame/Trelvin.def decorated REGEX "\"_trv")
+  file(STRINGS src/entries/Trelvin.def decorated REGEX "\"_trv")
   list(TRANSFORM decorated REPLACE ".*\"_(trv[^\"]*)\".*" "  \\1")
   list(JOIN decorated "\n" decorated)
   file(CONFIGURE OUTPUT import.def CONTENT "LIBRARY Trelvin.dll\nEXPORTS\n@decorated@\n" @ONLY)
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/frame/Trelvin.def)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/entries/Trelvin.def)
   add_custom_command(
     TARGET trelvin POST_BUILD VERBATIM
     COMMAND ${CMAKE_DLLTOOL} --kill-at --input-def ${CMAKE_CURRENT_BINARY_DIR}/import.def
             --output-lib $<TARGET_LINKER_FILE:trelvin>)
 else()
-  target_link_options(trelvin PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/src/frame/trelvin.map)
+  target_link_options(trelvin PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/src/entries/trelvin.map)
   set_property(TARGET trelvin APPEND PROPERTY LINK_DEPENDS
-                                              ${PROJECT_SOURCE_DIR}/src/frame/trelvin.map)
+                                              ${PROJECT_SOURCE_DIR}/src/entries/trelvin.map)
 endif()
 
 include(GNUInstallDirs)

@@ -10,7 +10,7 @@
 #include <tuple>
 #include <vector>
 
-#include "trelvin/frame.h"
+#include "trelvin/calling.h"
 
 namespace trelvin_test {
 

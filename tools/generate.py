@@ -80,7 +80,7 @@ def readme(_routines):
 
 OUTPUTS = {
     "README.md": readme,
-    "src/frame/Trelvin.def": export_table,
+    "src/entries/Trelvin.def": export_table,
     "tests/routines.inc": routine_list,
     "docs/routines.md": index,
 }

@@ -11,7 +11,7 @@
 #ifndef TRELVIN_CIRCLES_H
 #define TRELVIN_CIRCLES_H
 
-#include "trelvin/frame.h"
+#include "trelvin/calling.h"
 
 /* Equations and intersections ---------------------------------------------------------------- */
 

@@ -7,7 +7,7 @@
 #ifndef TRELVIN_LISTS_H
 #define TRELVIN_LISTS_H
 
-#include "trelvin/frame.h"
+#include "trelvin/calling.h"
 
 /* Ordering ----------------------------------------------------------------------------------- */
 

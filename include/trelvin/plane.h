@@ -9,7 +9,7 @@
 #ifndef TRELVIN_PLANE_H
 #define TRELVIN_PLANE_H
 
-#include "trelvin/frame.h"
+#include "trelvin/calling.h"
 
 /* Points and vectors ------------------------------------------------------------------------- */
 

@@ -23,7 +23,7 @@
 #ifndef TRELVIN_PROPERTIES_H
 #define TRELVIN_PROPERTIES_H
 
-#include "trelvin/frame.h"
+#include "trelvin/calling.h"
 
 /* Polygons ----------------------------------------------------------------------------------- */
 

@@ -23,7 +23,7 @@
 #ifndef TRELVIN_SECTIONS_H
 #define TRELVIN_SECTIONS_H
 
-#include "trelvin/frame.h"
+#include "trelvin/calling.h"
 
 /* Plate buckling ----------------------------------------------------------------------------- */
 

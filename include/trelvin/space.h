@@ -19,7 +19,7 @@
 #ifndef TRELVIN_SPACE_H
 #define TRELVIN_SPACE_H
 
-#include "trelvin/frame.h"
+#include "trelvin/calling.h"
 
 /* Rotations ---------------------------------------------------------------------------------- */
 

@@ -1,7 +1,7 @@
 // An arc by its centre and ends, as the routines on stations and chords take it.
 #pragma once
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/plane.h"
 
 namespace trelvin {

@@ -1,5 +1,5 @@
 #include "circles/trace.h"
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/circles.h"
 #include "trelvin/plane.h"
 

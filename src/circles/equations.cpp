@@ -1,7 +1,7 @@
 #include <cmath>
 
-#include "frame/functions.h"
-#include "frame/numbers.h"
+#include "numeric/functions.h"
+#include "numeric/real.h"
 #include "trelvin/circles.h"
 #include "trelvin/plane.h"
 

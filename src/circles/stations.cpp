@@ -1,8 +1,8 @@
 #include <cmath>
 
 #include "circles/arc.h"
-#include "frame/functions.h"
-#include "frame/numbers.h"
+#include "numeric/functions.h"
+#include "numeric/real.h"
 #include "trelvin/circles.h"
 #include "trelvin/plane.h"
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 
 namespace trelvin {
 

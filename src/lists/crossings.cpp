@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/lists.h"
 
 using namespace trelvin;

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/lists.h"
 
 using namespace trelvin;

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/lists.h"
 
 using namespace trelvin;

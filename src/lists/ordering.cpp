@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/lists.h"
 #include "trelvin/plane.h"
 

@@ -1,8 +1,8 @@
 #include <cmath>
 #include <initializer_list>
 
-#include "frame/functions.h"
-#include "frame/numbers.h"
+#include "numeric/functions.h"
+#include "numeric/real.h"
 #include "trelvin/plane.h"
 
 using namespace trelvin;

@@ -2,7 +2,7 @@
 #include <cstddef>
 #include <cstring>
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/plane.h"
 
 using namespace trelvin;

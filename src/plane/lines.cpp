@@ -1,8 +1,8 @@
 // Negated terms are formed as 0 - x, so that a vanishing x gives the positive zero.
 #include <cmath>
 
-#include "frame/functions.h"
-#include "frame/numbers.h"
+#include "numeric/functions.h"
+#include "numeric/real.h"
 #include "trelvin/plane.h"
 
 using namespace trelvin;

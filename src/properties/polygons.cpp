@@ -2,7 +2,7 @@
 //
 // Terms and sums are double precision: the differences of coordinates and their leading products
 // are then exact, and an outline far from the origin does not cancel to noise.
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/properties.h"
 
 using namespace trelvin;

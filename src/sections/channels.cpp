@@ -1,4 +1,4 @@
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/sections.h"
 
 using namespace trelvin;

@@ -4,8 +4,8 @@
 #include <array>
 #include <initializer_list>
 
-#include "frame/numbers.h"
-#include "trelvin/frame.h"
+#include "numeric/real.h"
+#include "trelvin/calling.h"
 
 namespace trelvin {
 

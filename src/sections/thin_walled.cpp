@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "frame/functions.h"
-#include "frame/numbers.h"
+#include "numeric/functions.h"
+#include "numeric/real.h"
 #include "trelvin/plane.h"
 #include "trelvin/properties.h"
 #include "trelvin/sections.h"

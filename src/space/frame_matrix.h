@@ -1,7 +1,7 @@
 // The nine elements of a frame, passed around together.
 #pragma once
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 #include "trelvin/space.h"
 
 namespace trelvin {

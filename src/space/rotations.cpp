@@ -1,5 +1,5 @@
-#include "frame/functions.h"
-#include "frame/numbers.h"
+#include "numeric/functions.h"
+#include "numeric/real.h"
 #include "trelvin/space.h"
 
 using namespace trelvin;

@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "trelvin/frame.h"
+#include "trelvin/calling.h"
 
 namespace random_calls {
 

@@ -25,8 +25,8 @@
  *   NaN that IEEE arithmetic gives.
  * - The library serves one thread at a time.
  */
-#ifndef TRELVIN_FRAME_H
-#define TRELVIN_FRAME_H
+#ifndef TRELVIN_CALLING_H
+#define TRELVIN_CALLING_H
 
 #include <stdint.h>
 

@@ -8,7 +8,7 @@
 
 #include <cmath>
 
-#include "frame/numbers.h"
+#include "numeric/real.h"
 
 namespace trelvin {
 

@@ -1,4 +1,4 @@
-#include "frame/functions.h"
+#include "numeric/functions.h"
 
 #include <array>
 #include <cmath>
