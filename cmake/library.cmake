@@ -1,33 +1,7 @@
 # The library: libtrelvin.so, or Trelvin.dll with its import library.
-add_library(
-  trelvin SHARED
-  src/circles/classification.cpp
-  src/circles/constructions.cpp
-  src/circles/corners.cpp
-  src/circles/equations.cpp
-  src/circles/measures.cpp
-  src/circles/stations.cpp
-  src/circles/trace.cpp
-  src/numeric/functions.cpp
-  src/lists/crossings.cpp
-  src/lists/matching.cpp
-  src/lists/merging.cpp
-  src/lists/ordering.cpp
-  src/plane/angles.cpp
-  src/plane/arrays.cpp
-  src/plane/lines.cpp
-  src/plane/points.cpp
-  src/properties/composite.cpp
-  src/properties/polygons.cpp
-  src/properties/segments.cpp
-  src/sections/channels.cpp
-  src/sections/outlines.cpp
-  src/sections/plates.cpp
-  src/sections/thin_walled.cpp
-  src/space/frames.cpp
-  src/space/lines.cpp
-  src/space/planes.cpp
-  src/space/rotations.cpp)
+file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.cpp)
+list(FILTER sources EXCLUDE REGEX library_entry.cpp)
+add_library(trelvin SHARED ${sources})
 add_library(Trelvin::trelvin ALIAS trelvin)
 target_include_directories(trelvin PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                           $<INSTALL_INTERFACE:include>)

@@ -1,4 +1,4 @@
-// Element types and numbers that all rooms of the library share.
+// Element types, constants and tests of magnitude that all rooms of the library share.
 #pragma once
 
 #include <cfloat>
@@ -19,10 +19,10 @@ constexpr Real two_pi = 6.2831855F;
 constexpr Real half_pi = 1.5707964F;
 constexpr double full_turn = 6.283185307179586;  // for what is formed in double precision
 
-// Zero within the tolerance, the tolerance itself included. A NaN is not negligible.
+// Tests against the tolerance include it. A NaN is neither negligible nor significant, and not
+// within any limit.
 inline bool negligible(Real value) { return std::fabs(value) <= tolerance; }
-
-// Clear of zero. A NaN is neither negligible nor significant.
 inline bool significant(Real value) { return std::fabs(value) > tolerance; }
+inline bool within(Real limit, Real difference) { return limit >= std::fabs(difference); }
 
 }  // namespace trelvin

@@ -1,0 +1,7 @@
+#include "entries/retained.h"
+
+namespace trelvin {
+
+Retained retained;
+
+}  // namespace trelvin
