@@ -5,6 +5,10 @@
  * A plane line is the triple (a, b, c) of a*x + b*y + c = 0, of whatever length its construction
  * gives; only trvlds divides by sqrt(a*a + b*b). A plane of space is the quadruple (a, b, c, d) of
  * a*x + b*y + c*z + d = 0.
+ *
+ * Lines and planes by their coefficients lose digits far from the origin: the constant grows with
+ * the coordinates and cancels again. 1e5 units away a distance from a line (trvlds) has no digit
+ * left, nor has an intersection (trvlni). Take a local origin first (trvtra, trv3tra).
  */
 #ifndef TRELVIN_PLANE_H
 #define TRELVIN_PLANE_H
@@ -18,6 +22,8 @@
  *
  * d = sqrt((dx*dx + dy*dy) + dz*dz). For a distance in the plane pass z1 = z2.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x1,y1,z1  first point
  * @param[in]  x2,y2,z2  second point
  * @param[out] d         distance
@@ -26,6 +32,8 @@ TRELVIN_ROUTINE trvpds(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
 
 /**
  * Dot product of the difference vectors P2 - P1 and P4 - P3.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
@@ -39,6 +47,8 @@ TRELVIN_ROUTINE trvpri(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
 /**
  * Cross product (P2 - P1) x (P4 - P3).
  *
+ * Retains: nothing.
+ *
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
  * @param[in]  x3,y3,z3  P3
@@ -51,10 +61,12 @@ TRELVIN_ROUTINE trvpre(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
 /**
  * Difference vector of two points, and whether they coincide.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x1,y1,z1  first point
  * @param[in]  x2,y2,z2  second point
  * @param[out] dx,dy,dz  second point minus first; always written
- * @param[out] status    1 each difference is within the tolerance, 0 otherwise
+ * @param[out] status    1 each difference is within the tolerance; 0 otherwise
  */
 TRELVIN_ROUTINE trvcnt(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvOut dx,
                        TrvOut dy, TrvOut dz, TrvIntOut status);
@@ -62,13 +74,17 @@ TRELVIN_ROUTINE trvcnt(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
 /**
  * Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.
  *
+ * Retains: nothing.
+ *
  * @param[in]  dx,dy,dz  vector
- * @param[out] status    1 all components are zero of either sign, 0 otherwise (a NaN included)
+ * @param[out] status    1 all components are zero of either sign; 0 otherwise (a NaN included)
  */
 TRELVIN_ROUTINE trvcnt1(TrvIn dx, TrvIn dy, TrvIn dz, TrvIntOut status);
 
 /**
  * Point P1 + t*(P2 - P1) on the line through two points.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x1,y1,z1  P1, found at t = 0
  * @param[in]  x2,y2,z2  P2, found at t = 1
@@ -82,6 +98,8 @@ TRELVIN_ROUTINE trv123(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
 /**
  * Midpoint of two points.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x1,y1,z1  first point
  * @param[in]  x2,y2,z2  second point
  * @param[out] xm,ym,zm  midpoint
@@ -92,6 +110,8 @@ TRELVIN_ROUTINE trvmed(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
 /**
  * Determinant of the 2 x 2 matrix with rows (a, b) and (c, d).
  *
+ * Retains: nothing.
+ *
  * @param[in]  a,b,c,d  elements, row by row
  * @param[out] det      a*d - b*c
  */
@@ -99,6 +119,8 @@ TRELVIN_ROUTINE trvdtr2(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut det);
 
 /**
  * Determinant of a 3 x 3 matrix, expanded along its first row.
+ *
+ * Retains: nothing.
  *
  * @param[in]  a1,a2,a3  first row
  * @param[in]  b1,b2,b3  second row
@@ -113,6 +135,8 @@ TRELVIN_ROUTINE trvdtr3(TrvIn a1, TrvIn a2, TrvIn a3, TrvIn b1, TrvIn b2, TrvIn 
  *
  * The first quotient is that of the last coefficient, the second that of the middle one.
  *
+ * Retains: nothing.
+ *
  * @param[in]  a,b,c  coefficients of a relation, a leading
  * @param[out] q1     c/a, or 0 when a is within the tolerance or NaN
  * @param[out] q2     b/a, or 0 likewise
@@ -124,6 +148,8 @@ TRELVIN_ROUTINE trvgrc(TrvIn a, TrvIn b, TrvIn c, TrvOut q1, TrvOut q2);
  *
  * y = ((y2 - y1)*(x - x1)) / (x2 - x1) + y1.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x1,x2  abscissas of the samples
  * @param[in]  y1,y2  ordinates of the samples
  * @param[in]  x      abscissa asked for
@@ -133,6 +159,8 @@ TRELVIN_ROUTINE trvint(TrvIn x1, TrvIn x2, TrvIn y1, TrvIn y2, TrvIn x, TrvOut y
 
 /**
  * Sign of a value.
+ *
+ * Retains: nothing.
  *
  * @param[in]  u1        ignored, as u3, u4 and u5 are
  * @param[in]  v         value
@@ -144,10 +172,12 @@ TRELVIN_ROUTINE trvvin(TrvIn u1, TrvIn v, TrvIn u3, TrvIn u4, TrvIn u5, TrvIntOu
 /**
  * Interval of an ascending table that holds a value.
  *
+ * Retains: nothing.
+ *
  * @param[in]  n  number of entries
- * @param[in]  A  array of n, ascending
+ * @param[in]  A  array of n: entries, ascending
  * @param[in]  x  value
- * @param[out] i  first i with A(i) <= x < A(i+1); 0 when there is none, so also for x = A(n)
+ * @param[out] i  first i with A(i) <= x < A(i+1); 0 when there is none, as for x = A(n)
  */
 TRELVIN_ROUTINE trvpos(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut i);
 
@@ -156,8 +186,10 @@ TRELVIN_ROUTINE trvpos(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut i);
  *
  * An equal entry anywhere in the table goes before an interval.
  *
+ * Retains: nothing.
+ *
  * @param[in]  n       number of entries
- * @param[in]  A       array of n, ascending
+ * @param[in]  A       array of n: entries, ascending
  * @param[in]  x       value
  * @param[out] status  1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither
  * @param[out] i       first such position; 0 when status is 0
@@ -172,6 +204,8 @@ TRELVIN_ROUTINE trvpos1(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut status, Trv
  * a = y2 - y1, b = 0 - (x2 - x1), c = y1*x2 - y2*x1: the normal (a, b) points to the right of the
  * direction from P1 to P2 and is as long as the segment.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
  * @param[out] a,b,c  line; all zero where the points are equal
@@ -181,9 +215,10 @@ TRELVIN_ROUTINE trvln3(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut a, TrvOut 
 /**
  * Line through a point at an angle to the x axis.
  *
- * An angle closer than 1e-5 to pi/2 or -pi/2 gives the vertical line (1, 0, 0 - x0), and
- * so does a
+ * An angle closer than 1e-5 to pi/2 or -pi/2 gives the vertical line (1, 0, 0 - x0), and so does a
  * NaN. Every other angle, 3*pi/2 included, gives (tan(phi), -1, y0 - tan(phi)*x0).
+ *
+ * Retains: nothing.
  *
  * @param[in]  x0,y0  point
  * @param[in]  phi    angle in radians, counter-clockwise
@@ -196,6 +231,8 @@ TRELVIN_ROUTINE trvln1(TrvIn x0, TrvIn y0, TrvIn phi, TrvOut a, TrvOut b, TrvOut
  *
  * (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) where dx is exactly zero; no
  * tolerance applies.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x0,y0  point
  * @param[in]  dx,dy  direction, of any length
@@ -210,6 +247,8 @@ TRELVIN_ROUTINE trvln4(TrvIn x0, TrvIn y0, TrvIn dx, TrvIn dy, TrvIn u, TrvOut a
  *
  * Points of the new line have the distance d from the given one in the sense of trvlds.
  *
+ * Retains: nothing.
+ *
  * @param[in]  a,b,c     line
  * @param[in]  d         distance, positive towards the normal (a, b)
  * @param[out] a2,b2,c2  parallel: (a, b, c - sqrt(a*a + b*b)*d)
@@ -220,6 +259,8 @@ TRELVIN_ROUTINE trvln2(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut a2, TrvOut b2,
  * Internal bisector of the angle at P0 between the rays to P1 and P2.
  *
  * The normal (a, b) is the difference of the unit vectors towards P1 and P2, times both lengths.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x0,y0  vertex P0
  * @param[in]  x1,y1  P1
@@ -235,6 +276,8 @@ TRELVIN_ROUTINE trvln5(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  *
  * d = ((a*x + b*y) + c) / sqrt(a*a + b*b), positive on the side the normal (a, b) points to.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x,y    point
  * @param[in]  a,b,c  line
  * @param[out] d      signed distance; infinite or NaN where a = b = 0
@@ -248,6 +291,8 @@ TRELVIN_ROUTINE trvlds(TrvIn x, TrvIn y, TrvIn a, TrvIn b, TrvIn c, TrvOut d);
  * when b1*c2 - b2*c1 or a2*c1 - a1*c2 is. Neither is scaled: lines with small coefficients count
  * as parallel, and as the same line, sooner.
  *
+ * Retains: nothing.
+ *
  * @param[in]  a1,b1,c1  first line
  * @param[in]  a2,b2,c2  second line
  * @param[out] status    0 one point; 1 the same line; 2 parallel and distinct
@@ -259,11 +304,13 @@ TRELVIN_ROUTINE trvlni(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
 /**
  * Distance of two parallel lines.
  *
+ * Retains: nothing.
+ *
  * @param[in]  a1,b1,c1  first line
  * @param[in]  a2,b2,c2  second line
  * @param[out] d         signed distance for which trvln2 makes the second line of the first:
  *                       positive towards the normal (a1, b1); 0 when status is 1; unwritten when it
- *                       is 0
+ *                       is 0; formed in double precision and rounded once
  * @param[out] status    0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells
  */
 TRELVIN_ROUTINE trvlul(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c2, TrvOut d,
@@ -271,6 +318,8 @@ TRELVIN_ROUTINE trvlul(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
 
 /**
  * Which components of two triples differ by more than the tolerance.
+ *
+ * Retains: nothing.
  *
  * @param[in]  p1,p2,p3  first triple
  * @param[in]  q1,q2,q3  second triple
@@ -285,12 +334,15 @@ TRELVIN_ROUTINE trvpsn(TrvIn p1, TrvIn p2, TrvIn p3, TrvIn q1, TrvIn q2, TrvIn q
  * The components of D above the tolerance tell which coordinate of P places it along the line; each
  * other coordinate must then agree with the line's.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  dx,dy,dz  direction D, of any length
  * @param[in]  px,py,pz  point P
  * @param[in]  tol       largest coordinate difference allowed, itself included
- * @param[out] code      which components of D count, as trvpsn names them for P0 and P0 + D
- * @param[out] on        1 P lies on the line, 0 otherwise; always 0 when code is 0
+ * @param[out] code      components of (P0 + D) - P0 above the tolerance: 0 none; 1 all; 2 x; 3 y; 4
+ *                       z; 5 x and y; 6 y and z; 7 x and z
+ * @param[out] on        1 P lies on the line; 0 it does not, and always when code is 0
  */
 TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn dz, TrvIn px,
                        TrvIn py, TrvIn pz, TrvIn tol, TrvIntOut code, TrvIntOut on);
@@ -299,10 +351,13 @@ TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn d
  * Line of two planes, and whether it agrees with a point at a retained station.
  *
  * The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the tolerance.
- * Its station there is not the coordinate of P but that of the previous call: X, Y and Z are kept
- * between calls, zero after loading, and each call replaces the two it computes. The point agrees
- * when its other two coordinates are those computed at the station; along y, with the sign of ey,
- * z is that of the line at minus the station.
+ * Its station there is not the coordinate of P but that of the previous call: X, Y and Z are zero
+ * after loading, and each call replaces the two it computes. The point agrees when its other two
+ * coordinates are those computed at the station; along y, with the sign of ey, z is that of the
+ * line at minus the station. One call with planes that are nearly parallel, infinite or NaN can
+ * leave a station that is infinite or NaN; no later call recovers from it.
+ *
+ * Retains: the station X, Y, Z, shared with no other routine.
  *
  * @param[in]  a1,b1,c1,d1  first plane
  * @param[in]  a2,b2,c2,d2  second plane
@@ -311,8 +366,9 @@ TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn d
  * @param[out] ey           a1*c2 - c1*a2, the second component of the cross product negated
  * @param[in]  ez           third component: read, neither computed nor written
  * @param[in]  tol          largest coordinate difference allowed, itself included
- * @param[out] code         which of ex, ey, ez are above the tolerance, as trvpsn names them
- * @param[out] on           1 P agrees with the line at the station, 0 otherwise
+ * @param[out] code         components of (ex, ey, ez) above the tolerance: 0 none; 1 all; 2 ex; 3
+ *                          ey; 4 ez; 5 ex and ey; 6 ey and ez; 7 ex and ez
+ * @param[out] on           1 P agrees with the line at the station; 0 it does not
  */
 TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b2, TrvIn c2,
                        TrvIn d2, TrvIn px, TrvIn py, TrvIn pz, TrvOut ex, TrvOut ey, TrvIn ez,
@@ -324,7 +380,10 @@ TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b
  * Angle at P0 between the rays to P1 and P2, in the plane.
  *
  * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
- * -1 the angle is NaN, as can happen for collinear points.
+ * -1 the angle is NaN, as can happen for collinear points. Angles below some 1e-4, or that close to
+ * pi, come out as 0, as pi or as NaN; trvchi is accurate there.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x0,y0  vertex P0
  * @param[in]  x1,y1  P1
@@ -334,7 +393,13 @@ TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b
 TRELVIN_ROUTINE trvphi(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut phi);
 
 /**
- * Angle at P0 between the rays to P1 and P2, in space; otherwise as trvphi.
+ * Angle at P0 between the rays to P1 and P2, in space.
+ *
+ * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
+ * -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi or as NaN;
+ * trvchi is accurate there.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x0,y0,z0  vertex P0
  * @param[in]  x1,y1,z1  P1
@@ -345,7 +410,13 @@ TRELVIN_ROUTINE trvphi3(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn 
                         TrvIn y2, TrvIn z2, TrvOut phi);
 
 /**
- * Angle between two vectors; otherwise as trvphi.
+ * Angle between two vectors.
+ *
+ * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
+ * -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi or as NaN;
+ * trvchi is accurate there.
+ *
+ * Retains: nothing.
  *
  * @param[in]  ux,uy,uz  u
  * @param[in]  vx,vy,vz  v
@@ -356,11 +427,13 @@ TRELVIN_ROUTINE trvphi1(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
 /**
  * Angle between two lines given by their directions.
  *
+ * Retains: nothing.
+ *
  * @param[in]  ux,uy,uz  direction of the first line
  * @param[in]  vx,vy,vz  direction of the second line
  * @param[out] phi       angle in [0, pi/2]; unwritten when a direction has no length
- * @param[out] status    -1 a direction's length is within the tolerance; unwritten otherwise, so
- *                       the caller sets it beforehand
+ * @param[out] status    -1 a direction's length is within the tolerance; unwritten otherwise: set
+ *                       it beforehand
  */
 TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn vz, TrvOut phi,
                         TrvIntOut status);
@@ -372,6 +445,8 @@ TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
  * trvaxe: the first of its components y, z, x that is above the tolerance becomes positive, or the
  * first that is not zero. So it is counter-clockwise in the plane z = 0. Formed in double precision
  * and rounded once, it is as accurate near 0, pi and 2*pi as elsewhere.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x0,y0,z0  vertex P0
  * @param[in]  x1,y1,z1  P1
@@ -385,7 +460,11 @@ TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 /**
  * Convexity of a closed outline, of either orientation.
  *
- * A vertex within the tolerance of the line through its neighbours counts as straight.
+ * A vertex within the tolerance of the line through its neighbours counts as straight, unless the
+ * outline turns back there: spikes, and outlines all of whose vertices lie on one line, are not
+ * convex, nor is one with a NaN or an infinite vertex.
+ *
+ * Retains: nothing.
  *
  * @param[in]  X,Y     arrays of n: vertices, the first not repeated
  * @param[in]  n       number of vertices
@@ -396,6 +475,8 @@ TRELVIN_ROUTINE trvcnv(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIntOut status)
 
 /**
  * Cosine and sine of the angle between P2 - P1 and P4 - P3.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
@@ -414,6 +495,8 @@ TRELVIN_ROUTINE trvtrg(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
  *
  * The cosine of their angle decides, within the tolerance; a later code goes before an earlier one.
  *
+ * Retains: nothing.
+ *
  * @param[in]  ux,uy,uz  u
  * @param[in]  vx,vy,vz  v
  * @param[out] code      0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all
@@ -428,6 +511,8 @@ TRELVIN_ROUTINE trvdir(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn v
  * component of the second one above the tolerance, and that of their constants (0 where d2 is
  * within the tolerance) differ by more than the tolerance and d1 or d2 is above it.
  *
+ * Retains: nothing.
+ *
  * @param[in]  a1,b1,c1,d1  first plane
  * @param[in]  a2,b2,c2,d2  second plane
  * @param[out] code         0 they cross; 1 parallel, normals in the same direction; 2 parallel,
@@ -439,6 +524,8 @@ TRELVIN_ROUTINE trvdirp(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn 
 
 /**
  * Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
@@ -454,6 +541,8 @@ TRELVIN_ROUTINE trvmov(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
 /**
  * Moves the origin of plane points to (x0, y0), in place.
  *
+ * Retains: nothing.
+ *
  * @param[inout] X,Y    arrays of n: coordinates, less x0 and y0 afterwards
  * @param[in]    n      number of points; below 1 nothing happens
  * @param[in]    x0,y0  new origin; may be one of the points
@@ -465,7 +554,9 @@ TRELVIN_ROUTINE trvtra(TrvArrayInOut X, TrvArrayInOut Y, TrvIntIn n, TrvIn x0, T
 /**
  * Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
  *
- * @param[inout] V  array of n
+ * Retains: nothing.
+ *
+ * @param[inout] V  array of n: the list
  * @param[in]    n  number of elements; below 2 nothing happens
  */
 TRELVIN_ROUTINE trvinv(TrvIntArrayInOut V, TrvIntIn n);
@@ -473,9 +564,11 @@ TRELVIN_ROUTINE trvinv(TrvIntArrayInOut V, TrvIntIn n);
 /**
  * Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
  *
- * @param[inout] V  array with room for n+m: the list
+ * Retains: nothing.
+ *
+ * @param[inout] V  array of n+m: the list, with room for what is inserted
  * @param[inout] n  number of its elements; n+m afterwards
- * @param[in]    k  position after which to insert, 0 for the front; outside 0 ... n nothing happens
+ * @param[in]    k  position after which to insert, 0 for the front; nothing happens outside 0 ... n
  * @param[in]    A  array of m: what to insert
  * @param[in]    m  number of elements to insert; below 1 nothing happens
  */

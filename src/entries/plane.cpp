@@ -190,8 +190,7 @@ TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b
   const Plane p2 = {a2, b2, c2, d2};
   const Vector2 known = direction_of_planes(p1, p2);
   const Vector3 e = {known.x, known.y, ez};
-  const bool agrees =
-      agrees_at_last_station(p1, p2, e, {px, py, pz}, tol, retained.line_of_planes);
+  const bool agrees = agrees_at_last_station(p1, p2, e, {px, py, pz}, tol, retained.line_of_planes);
   ex = e.x;
   ey = e.y;
   code = code_of(significant_components(e));

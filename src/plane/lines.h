@@ -48,15 +48,14 @@ inline Line bisector(Point2 vertex, Point2 p, Point2 q) {
   const Vector2 v = q - vertex;
   const Real length_u = length(u);
   const Real length_v = length(v);
-  return {u.x * length_v - v.x * length_u, u.y * length_v - v.y * length_u,
-          length_u * (v.x * vertex.x + v.y * vertex.y) -
-              length_v * (u.x * vertex.x + u.y * vertex.y)};
+  return {
+      u.x * length_v - v.x * length_u, u.y * length_v - v.y * length_u,
+      length_u * (v.x * vertex.x + v.y * vertex.y) - length_v * (u.x * vertex.x + u.y * vertex.y)};
 }
 
 // Positive on the side that the normal (a, b) points to.
 inline Real signed_distance(const Line &line, Point2 p) {
-  return (line.a * p.x + line.b * p.y + line.c) /
-         square_root(line.a * line.a + line.b * line.b);
+  return (line.a * p.x + line.b * p.y + line.c) / square_root(line.a * line.a + line.b * line.b);
 }
 
 enum class LineRelation : Integer { crossing, same, parallel };
@@ -77,11 +76,12 @@ inline LineIntersection intersect(const Line &l, const Line &m) {
   return {apart ? LineRelation::parallel : LineRelation::same, {}};
 }
 
-// Signed distance for which `parallel_at` makes the second of two parallel lines of the first.
+// Signed distance for which `parallel_at` makes the second of two parallel lines of the first. In
+// double precision, since the constants nearly cancel.
 inline Real distance_of_parallels(const Line &l, const Line &m) {
-  const Real square = l.a * l.a + l.b * l.b;
-  const Real k = (l.a * m.a + l.b * m.b) / square;
-  return (l.c - m.c / k) / square_root(square);
+  const double square = double{l.a} * l.a + double{l.b} * l.b;
+  const double k = (double{l.a} * m.a + double{l.b} * m.b) / square;
+  return static_cast<Real>((l.c - m.c / k) / std::sqrt(square));
 }
 
 }  // namespace trelvin

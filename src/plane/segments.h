@@ -28,9 +28,8 @@ struct Sector {
   [[nodiscard]] bool holds(Point2 p, LastCosine &last) const {
     if (signed_distance(first_ray, p) * signed_distance(second_ray, p) < 0) return false;
     const Point2 foot = intersect(perpendicular_through(p, first_ray), first_ray).point;
-    const ThreePoints place = relation_of_three_points({vertex.x, vertex.y, 0},
-                                                       {first.x, first.y, 0}, {foot.x, foot.y, 0},
-                                                       last);
+    const ThreePoints place = relation_of_three_points(
+        {vertex.x, vertex.y, 0}, {first.x, first.y, 0}, {foot.x, foot.y, 0}, last);
     return place != ThreePoints::beyond_first;
   }
 };

@@ -11,7 +11,14 @@ struct LastCosine {
   Real value = 0;
 };
 
-enum class ThreePoints : Integer { span_plane, at_first, at_second, between, beyond_first, beyond_second };
+enum class ThreePoints : Integer {
+  span_plane,
+  at_first,
+  at_second,
+  between,
+  beyond_first,
+  beyond_second
+};
 
 inline ThreePoints relation_of_three_points(Point3 p0, Point3 p1, Point3 p2, LastCosine &last) {
   // A point that coincides with P0 or P1 by coordinates gives no cosine, yet may lie too far off
