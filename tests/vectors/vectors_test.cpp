@@ -3,19 +3,19 @@
 
 using namespace trelvin_test;
 
-TEST(Points, DistanceProductsAndDeterminants) {
+TEST(Vectors, DistanceProductsAndDeterminants) {
   EXPECT_EQ(outputs(trvpds, 1, 2, 3, 3, 5, 9), Values{7});
   // (2, -3, 5) and (4, -7, 6), neither starting from the origin.
-  EXPECT_EQ(outputs(trvpri, 1, 1, 1, 3, -2, 6, -1, 0, 2, 3, -7, 8), Values{59});
+  EXPECT_EQ(outputs(trvpri, 1, 2, 4, 3, -1, 9, -1, 0, 2, 3, -7, 8), Values{59});
   float c[] = {0, 0, 0, unwritten};
-  trvpre(1, 1, 1, 3, -2, 6, -1, 0, 2, 3, -7, 8, c);
+  trvpre(1, 2, 4, 3, -1, 9, -1, 0, 2, 3, -7, 8, c);
   EXPECT_EQ(Values(c, c + 4), (Values{17, 8, -2, unwritten}));
   EXPECT_EQ(outputs(trvdtr2, 1, 2, 3, 5), Values{-1});
   // By Sarrus: 24 - 10 + 3 - 45 - 4 + 4.
   EXPECT_EQ(outputs(trvdtr3, 2, -1, 3, 1, 3, 2, 5, 1, 4), Values{-28});
 }
 
-TEST(Points, CoincidenceHoldsAtTheToleranceItselfAndNullAtZeroOnly) {
+TEST(Vectors, CoincidenceHoldsAtTheToleranceItselfAndNullAtZeroOnly) {
   const float t = tolerance;
   EXPECT_EQ(outputs(trvcnt, 0, 0, 0, t, -t, t), (Values{t, -t, t, 1}));
   EXPECT_EQ(outputs(trvcnt, 1, 2, 3, 1, 2, 5), (Values{0, 0, 2, 0}));
@@ -30,33 +30,33 @@ TEST(Points, CoincidenceHoldsAtTheToleranceItselfAndNullAtZeroOnly) {
   }
 }
 
-TEST(Points, AlongTheLineOfTwoPoints) {
+TEST(Vectors, AlongTheLineOfTwoPoints) {
   EXPECT_EQ(outputs(trv123, 0, 0, 0, tolerance, tolerance, tolerance, 0.5),
             (Values{unwritten, unwritten, unwritten, 1}));
   EXPECT_EQ(outputs(trv123, 1, 2, 3, 3, -2, 9, -1.5), (Values{-2, 8, -6, 0}));
   EXPECT_EQ(outputs(trvmed, 1, 2, 3, 3, -4, 8), (Values{2, -1, 5.5}));
 }
 
-TEST(Points, QuotientsArePairedCrosswise) {
+TEST(Vectors, QuotientsArePairedCrosswise) {
   EXPECT_EQ(outputs(trvgrc, -2, 4, 6), (Values{-3, -2}));
   EXPECT_EQ(outputs(trvgrc, -beyond, 0, -beyond), (Values{1, 0}));
   for (const float vanishing : {tolerance, -tolerance, not_a_number})
     EXPECT_EQ(outputs(trvgrc, vanishing, 4, 6), (Values{0, 0}));
 }
 
-TEST(Points, InterpolatesAndExtrapolates) {
+TEST(Vectors, InterpolatesAndExtrapolates) {
   EXPECT_EQ(outputs(trvint, 2, 4, 10, 20, 2.5), Values{12.5});
   EXPECT_EQ(outputs(trvint, 2, 4, 10, 20, 6), Values{30});
   EXPECT_EQ(outputs(trvint, 2, 2, 10, 20, 6), Values{infinity});
 }
 
-TEST(Points, SignOfAValue) {
+TEST(Vectors, SignOfAValue) {
   EXPECT_EQ(outputs(trvvin, -1, 1e-40F, not_a_number, -1, -1), Values{1});
   for (const float v : {0.0F, -1.0F, not_a_number})
     EXPECT_EQ(outputs(trvvin, 1, v, 1, 1, 1), Values{2});
 }
 
-TEST(Points, PositionInATable) {
+TEST(Vectors, PositionInATable) {
   const float table[] = {0, 1, 2};
   struct Case {
     std::int32_t n;
