@@ -1,0 +1,189 @@
+#include "plot.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+
+#include "report.h"
+
+namespace bench {
+namespace {
+
+constexpr int columns = 3;
+constexpr double panel_width = 390;
+constexpr double panel_height = 300;
+constexpr double left = 52, right = 14, top = 58, bottom = 34;  // margins of a panel
+
+struct Series {
+  std::string name;
+  std::vector<std::array<double, 2>> points;  // decimal logarithms of size and nanoseconds
+  bool predicted_end = false;
+};
+
+struct Panel {
+  std::string title;
+  std::vector<Series> series;
+};
+
+std::string number(double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.1f", value);
+  return text;
+}
+
+std::string text(double x, double y, const std::string &content, const std::string &attributes) {
+  return "<text x=\"" + number(x) + "\" y=\"" + number(y) + "\" " + attributes + '>' + content +
+         "</text>\n";
+}
+
+std::string line(double x1, double y1, double x2, double y2, const std::string &attributes) {
+  return "<line x1=\"" + number(x1) + "\" y1=\"" + number(y1) + "\" x2=\"" + number(x2) +
+         "\" y2=\"" + number(y2) + "\" " + attributes + "/>\n";
+}
+
+void add_rows(std::vector<Panel> &panels, const std::vector<Row> &rows, bool dll) {
+  for (const Row &row : rows) {
+    auto panel = std::find_if(panels.begin(), panels.end(),
+                              [&](const Panel &p) { return p.title == row.task; });
+    if (panel == panels.end()) {
+      if (dll) continue;
+      panel = panels.insert(panel, {row.task, {}});
+    }
+    for (const Figure &figure : row.figures) {
+      if (dll && figure.contender != "Trelvin") continue;
+      const std::string name = dll ? "Trelvin.dll" : figure.contender;
+      auto series = std::find_if(panel->series.begin(), panel->series.end(),
+                                 [&](const Series &s) { return s.name == name; });
+      if (series == panel->series.end()) series = panel->series.insert(series, {name, {}});
+      series->points.push_back({std::log10(row.size), std::log10(per_item(row, figure))});
+      series->predicted_end = figure.predicted;
+    }
+  }
+}
+
+// One colour a name throughout the picture.
+std::string colour(const std::string &name, std::vector<std::string> &known) {
+  if (name.rfind("Trelvin", 0) == 0) return "#c0262d";
+  static const std::array<const char *, 8> palette{"#2f6690", "#e08e1b", "#3a7d44", "#7b4b94",
+                                                   "#17a2a2", "#8a5a2b", "#5b6770", "#b5527f"};
+  const auto at = std::find(known.begin(), known.end(), name);
+  const auto index = static_cast<std::size_t>(at - known.begin());
+  if (at == known.end()) known.push_back(name);
+  return palette[index % palette.size()];
+}
+
+// Maps logarithms to pixels of a panel.
+class Axes {
+ public:
+  explicit Axes(const Panel &panel) {
+    for (const Series &series : panel.series) {
+      for (const auto &[x, y] : series.points) {
+        x_low_ = std::min(x_low_, x);
+        x_high_ = std::max(x_high_, x);
+        y_low_ = std::min(y_low_, std::floor(y));
+        y_high_ = std::max(y_high_, std::ceil(y));
+      }
+    }
+    if (y_high_ <= y_low_) y_high_ = y_low_ + 1;
+  }
+  [[nodiscard]] double x(double value) const {
+    return left + (value - x_low_) / (x_high_ - x_low_) * (panel_width - left - right);
+  }
+  [[nodiscard]] double y(double value) const {
+    return panel_height - bottom -
+           (value - y_low_) / (y_high_ - y_low_) * (panel_height - top - bottom);
+  }
+
+  // Lines and labels at the powers of ten.
+  [[nodiscard]] std::string grid() const {
+    const std::string rule = "stroke=\"#d9dee3\"";
+    std::string svg;
+    for (double v = y_low_; v <= y_high_ + 0.5; ++v) {
+      svg += line(left, y(v), panel_width - right, y(v), rule);
+      svg += text(left - 6, y(v) + 4, power_of_ten(v), "text-anchor=\"end\"");
+    }
+    for (double v = std::ceil(x_low_); v <= x_high_; ++v) {
+      svg += line(x(v), top, x(v), panel_height - bottom, rule);
+      svg += text(x(v), panel_height - bottom + 16, power_of_ten(v), "text-anchor=\"middle\"");
+    }
+    return svg;
+  }
+
+ private:
+  static std::string power_of_ten(double exponent) {
+    char label[32];
+    std::snprintf(label, sizeof label, "%g", std::pow(10, exponent));
+    return label;
+  }
+  double x_low_ = 1e9, x_high_ = -1e9, y_low_ = 1e9, y_high_ = -1e9;
+};
+
+std::string curve(const Series &series, const Axes &axes, const std::string &stroke) {
+  const bool own = series.name.rfind("Trelvin", 0) == 0;
+  std::string svg =
+      "<polyline fill=\"none\" stroke=\"" + stroke + "\" stroke-width=\"" + (own ? "2.6" : "1.4") +
+      "\"" + (series.name == "Trelvin.dll" ? " stroke-dasharray=\"5 3\"" : "") + " points=\"";
+  for (const auto &[x, y] : series.points) {
+    svg += number(axes.x(x)) + ',' + number(axes.y(y)) + ' ';
+  }
+  svg += "\"/>\n";
+  for (std::size_t k = 0; k < series.points.size(); ++k) {
+    const bool hollow = series.predicted_end && k + 1 == series.points.size();
+    svg += "<circle cx=\"" + number(axes.x(series.points[k][0])) + "\" cy=\"" +
+           number(axes.y(series.points[k][1])) + "\" r=\"3\" stroke=\"" + stroke + "\" fill=\"" +
+           (hollow ? "white" : stroke) + "\"/>\n";
+  }
+  return svg;
+}
+
+std::string panel_svg(const Panel &panel, std::vector<std::string> &known) {
+  const Axes axes(panel);
+  std::string svg = text(left, 18, panel.title, "font-weight=\"bold\" font-size=\"13\"");
+  svg += axes.grid();
+  double legend_x = left;
+  double legend_y = 34;
+  for (const Series &series : panel.series) {
+    const std::string stroke = colour(series.name, known);
+    const double width = 20 + 6.6 * static_cast<double>(series.name.size());
+    if (legend_x + width > panel_width - right) {
+      legend_x = left;
+      legend_y += 14;
+    }
+    svg += line(legend_x, legend_y - 4, legend_x + 12, legend_y - 4,
+                "stroke-width=\"3\" stroke=\"" + stroke + '"');
+    svg += text(legend_x + 15, legend_y, series.name, "");
+    legend_x += width;
+    svg += curve(series, axes, stroke);
+  }
+  return svg;
+}
+
+}  // namespace
+
+std::string plot(const std::vector<Row> &rows, const std::vector<Row> &dll) {
+  std::vector<Panel> panels;
+  add_rows(panels, rows, false);
+  add_rows(panels, dll, true);
+  panels.erase(std::remove_if(panels.begin(), panels.end(),
+                              [](const Panel &p) { return p.series[0].points.size() < 2; }),
+               panels.end());
+
+  const auto lines = (panels.size() + columns - 1) / columns;
+  const double height = 30 + panel_height * static_cast<double>(lines);
+  std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
+                    number(columns * panel_width) + "\" height=\"" + number(height) +
+                    "\" font-family=\"sans-serif\" font-size=\"11\" fill=\"#1d2733\">\n"
+                    "<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
+  svg += text(left, 20, "Nanoseconds an item against the number of items", "font-size=\"14\"");
+  std::vector<std::string> known;
+  for (std::size_t k = 0; k < panels.size(); ++k) {
+    const double x = static_cast<double>(k % columns) * panel_width;
+    const double y = 30 + static_cast<double>(k / columns) * panel_height;
+    svg += "<g transform=\"translate(" + number(x) + ' ' + number(y) + ")\">\n" +
+           panel_svg(panels[k], known) + "</g>\n";
+  }
+  return svg + "</svg>\n";
+}
+
+}  // namespace bench

@@ -1,0 +1,231 @@
+// Properties of sections.
+#include <trelvin/properties.h>
+#include <trelvin/sections.h>
+
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "task.h"
+
+namespace bench {
+namespace {
+
+constexpr const char *family = "Sections";
+
+// A hot-rolled I section, from its dimensions to its principal moments -----------------------------
+
+struct Profile {
+  float H, B, TW, TF, R;
+};
+
+// IPE 200, 300, 400, 500 and HEA 200, 300, 400, 500: a host goes through a catalogue, not through
+// one profile again and again.
+constexpr std::array<Profile, 8> catalogue{{{200, 100, 5.6F, 8.5F, 12},
+                                            {300, 150, 7.1F, 10.7F, 15},
+                                            {400, 180, 8.6F, 13.5F, 21},
+                                            {500, 200, 10.2F, 16, 21},
+                                            {190, 200, 6.5F, 10, 18},
+                                            {290, 300, 8.5F, 14, 27},
+                                            {390, 300, 11, 19, 27},
+                                            {490, 300, 12, 23, 27}}};
+
+constexpr std::int32_t polygon = 2;
+constexpr std::int32_t smaller_segment = 4;
+
+struct Sums {
+  double area, sx, sy, ix, iy, ixy;
+};
+
+void add_part(float *x, float *y, std::int32_t n, std::int32_t kind, float factor, Sums &sums) {
+  float area = 0;
+  float sx = 0;
+  float sy = 0;
+  float ix = 0;
+  float iy = 0;
+  float ixy = 0;
+  trvair(x, y, n, kind, 0, factor, area);
+  trvstm(x, y, n, kind, 0, factor, sx, sy);
+  trvinm(x, y, n, kind, 0, 0, factor, ix, iy, ixy);
+  sums.area += area;
+  sums.sx += sx;
+  sums.sy += sy;
+  sums.ix += ix;
+  sums.iy += iy;
+  sums.ixy += ixy;
+}
+
+void add_outline(const Profile &p, Sums &sums) {
+  std::int32_t np;
+  std::int32_t nv;
+  std::int32_t code;
+  float x[20], y[20];
+  float sign, z1, z2, z3, z4, z5, q1, q2;
+  trvsec_ia(p.H, p.B, p.B, p.TF, p.TF, p.TW, 1, np, &nv, x, y, &code, &sign, &z1, &z2, &z3, &z4,
+            &z5, &q1, &q2);
+  add_part(x, y, nv, polygon, sign, sums);
+}
+
+// A fillet is a square less a quarter disc, which is the triangle of its centre and the tangent
+// points and the segment beyond their chord. In every second quarter the order of the vertices is
+// reversed, to be counter-clockwise.
+void add_fillets(const Profile &p, Sums &sums) {
+  for (int quarter = 0; quarter < 4; ++quarter) {
+    const float across = quarter % 2 == 0 ? 1.0F : -1.0F;
+    const float up = quarter < 2 ? 1.0F : -1.0F;
+    const float x = across * (0.5F * p.TW);
+    const float y = up * (0.5F * p.H - p.TF);
+    const float xc = across * (0.5F * p.TW + p.R);
+    const float yc = up * (0.5F * p.H - p.TF - p.R);
+    const bool reversed = across != up;
+    float square_x[5] = {x, x, xc, xc};
+    float square_y[5] = {y, yc, yc, y};
+    float triangle_x[4] = {xc, xc, x};
+    float triangle_y[4] = {yc, y, yc};
+    if (reversed) {
+      std::swap(square_x[1], square_x[3]);
+      std::swap(square_y[1], square_y[3]);
+      std::swap(triangle_x[1], triangle_x[2]);
+      std::swap(triangle_y[1], triangle_y[2]);
+    }
+    add_part(square_x, square_y, 4, polygon, 1, sums);
+    add_part(triangle_x, triangle_y, 3, polygon, -1, sums);
+    float segment_x[3] = {xc, xc, x};
+    float segment_y[3] = {yc, y, yc};
+    add_part(segment_x, segment_y, 3, smaller_segment, -1, sums);
+  }
+}
+
+struct Principal {
+  double area;
+  float i1, i2, alpha;
+};
+
+Principal properties_of(const Profile &profile) {
+  Sums sums{};
+  add_outline(profile, sums);
+  add_fillets(profile, sums);
+  const double xs = sums.sy / sums.area;
+  const double ys = sums.sx / sums.area;
+  Principal p{};
+  p.area = sums.area;
+  trvinp(static_cast<float>(sums.ix - sums.area * ys * ys),
+         static_cast<float>(sums.iy - sums.area * xs * xs),
+         static_cast<float>(sums.ixy - sums.area * xs * ys), p.i1, p.i2, p.alpha);
+  return p;
+}
+
+struct Rolled : Job {
+  void run() {
+    for (std::size_t k = 0; k < catalogue.size(); ++k) results[k] = properties_of(catalogue[k]);
+  }
+  [[nodiscard]] std::vector<double> answer() const {
+    std::vector<double> all;
+    for (const Principal &p : results) all.insert(all.end(), {p.area, p.i1, p.i2});
+    return all;
+  }
+  std::array<Principal, catalogue.size()> results{};
+};
+
+// The moment of four fillets about an axis of the section. The corner's edge along the axis is at
+// the distance `edge`; the fillet lies towards the axis for positive r, away from it for negative.
+double moment_of_fillets(double r, double edge) {
+  constexpr double pi = 3.14159265358979;
+  const double area = (1 - pi / 4) * r * r;
+  const double first = (1.0 / 2 - pi / 4 + 1.0 / 3) * r * r * r;  // about the edge
+  const double second = (1.0 / 3 - 5 * pi / 16 + 2.0 / 3) * r * r * r * r;
+  return 4 * (area * edge * edge - 2 * edge * first + second);
+}
+
+// Rectangles, and fillets by integrals on paper.
+std::vector<double> true_properties() {
+  constexpr double pi = 3.14159265358979;
+  std::vector<double> all;
+  for (const Profile &p : catalogue) {
+    const double h = double{p.H} - 2 * p.TF;
+    all.push_back(2.0 * p.B * p.TF + h * p.TW + (4 - pi) * p.R * p.R);
+    all.push_back((p.B * std::pow(p.H, 3.0) - (double{p.B} - p.TW) * h * h * h) / 12 +
+                  moment_of_fillets(p.R, h / 2));
+    all.push_back((2 * p.TF * std::pow(p.B, 3.0) + h * std::pow(p.TW, 3.0)) / 12 +
+                  moment_of_fillets(-p.R, p.TW / 2.0));
+  }
+  return all;
+}
+
+// Thin plates -------------------------------------------------------------------------------------
+
+// All that trvmxt and trvmxt_fb hand back.
+struct Figures {
+  float A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt,
+      xm, ym, Iw, r0, W1[3], W2[3];
+  std::int32_t status;
+};
+
+template <class Routine, class... Inputs>
+void compute(Routine routine, Figures &f, const Inputs &...inputs) {
+  routine(inputs..., f.A, f.xs, f.ys, f.Ix, f.Iy, f.Ixy, f.I1, f.I2, f.alpha, f.rx, f.ry, f.Wx1,
+          f.Wx2, f.Wy1, f.Wy2, f.Wpx, f.Wpy, f.xp, f.yp, f.It, f.Wt, f.xm, f.ym, f.Iw, f.r0, f.W1,
+          f.W2, f.status);
+}
+
+struct Plates : Job {
+  void run() { compute(trvmxt, figures, 3, x1, y1, x2, y2, t); }
+  [[nodiscard]] std::vector<double> answer() const {
+    return {figures.A, figures.Ix, figures.Iy, figures.It};
+  }
+  // A channel, from tip to tip.
+  float x1[3] = {100, 0, 0}, y1[3] = {0, 0, 200};
+  float x2[3] = {0, 0, 100}, y2[3] = {0, 200, 200};
+  float t[3] = {10, 6, 10};
+  Figures figures{};
+};
+
+struct FlatBar : Job {
+  void run() { compute(trvmxt_fb, figures, width, height); }
+  [[nodiscard]] std::vector<double> answer() const {
+    return {figures.A, figures.Ix, figures.Iy, figures.It};
+  }
+  float width = 100, height = 10;
+  Figures figures{};
+};
+
+template <class Work>
+Task own(std::string name, Work work, std::vector<double> truth, std::vector<Goal> goals) {
+  Task task{family, std::move(name), {1}, [work](int) {
+              return std::vector<Contender>{contender("Trelvin", work)};
+            }};
+  task.goals = std::move(goals);
+  task.truth = [truth = std::move(truth)](int) { return truth; };
+  return task;
+}
+
+}  // namespace
+
+void add_sections(std::vector<Task> &tasks) {
+  // A million sections a second.
+  Task rolled = own("rolled section (whole job)", Rolled(), true_properties(),
+                    {{Goal::Kind::per_item, 1, 1000}});
+  rolled.calls = static_cast<int>(catalogue.size());
+  rolled.relative = 1e-5;
+  tasks.push_back(std::move(rolled));
+
+  // Flanges 100 x 10 and a web 200 x 6, on centre lines; the centroid is 2*1000*50/3200 from the
+  // web.
+  const double xs = 2 * 1000 * 50 / 3200.0;
+  const double ix = 2 * (1000 * 100.0 * 100 + 100 * 1000 / 12.0) + 6 * 8e6 / 12;
+  const double iy =
+      2 * (10 * 1e6 / 12 + 1000 * (50 - xs) * (50 - xs)) + 200 * 216 / 12.0 + 1200 * xs * xs;
+  Task plates =
+      own("trvmxt (3 plates)", Plates(), {3200, ix, iy, (2 * 100 * 1000 + 200 * 216) / 3.0},
+          {{Goal::Kind::per_item, 1, 800}});
+  plates.relative = 1e-5;
+  tasks.push_back(std::move(plates));
+
+  // The torsion constant from the published table of b/t = 10: 0.312.
+  Task bar = own("trvmxt_fb", FlatBar(), {1000, 1e5 / 12, 1e7 / 12, 0.312 * 100 * 1000},
+                 {{Goal::Kind::per_item, 1, 1000, "", 0, true}});
+  bar.relative = 2e-3;
+  tasks.push_back(std::move(bar));
+}
+
+}  // namespace bench
