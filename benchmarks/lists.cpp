@@ -10,7 +10,8 @@
 namespace bench {
 namespace {
 
-constexpr const char *family = "Lists";
+constexpr const char *one_list = "Ordering";
+constexpr const char *two_lists = "Two lists";
 constexpr double millisecond = 1e6;  // in nanoseconds
 constexpr int large = 100000;
 const std::vector<int> sizes = {1000, 10000, large};
@@ -22,8 +23,8 @@ std::vector<double> as_doubles(const Integers &values) { return {values.begin(),
 template <class Element>
 struct Sorting : Job {
   static constexpr bool fresh = true;
-  Sorting(const std::vector<Element> &values, Sorter<Element> with)
-      : start(values), sorter(std::move(with)) {}
+  Sorting(std::vector<Element> values, Sorter<Element> with)
+      : start(std::move(values)), sorter(std::move(with)) {}
   void prepare() { work = start; }
   void run() { sorter.sort(work.data(), work.size()); }
   [[nodiscard]] std::vector<double> answer() const { return {work.begin(), work.end()}; }
@@ -40,6 +41,7 @@ std::vector<Contender> sorting(const std::vector<Element> &values,
       {"std::sort", [](Element *v, std::size_t n) { std::sort(v, v + n); }}};
   sorters.insert(sorters.end(), peers.begin(), peers.end());
   std::vector<Contender> all;
+  all.reserve(sorters.size());
   for (const auto &sorter : sorters) all.push_back(contender(sorter.name, Sorting(values, sorter)));
   return all;
 }
@@ -49,7 +51,7 @@ const std::vector<Goal> goals_of_sorts = {{Goal::Kind::ratio, large, 0.2, "std::
 
 void add_sorts(std::vector<Task> &tasks, const Peers &peers) {
   tasks.push_back(
-      {family, "trvord", sizes,
+      {one_list, "trvord", sizes,
        [peers](int n) {
          return sorting<float>(
              Random(1).reals(n, -1000, 1000),
@@ -57,7 +59,7 @@ void add_sorts(std::vector<Task> &tasks, const Peers &peers) {
              peers.sort_reals);
        },
        goals_of_sorts});
-  tasks.push_back({family, "trvord1", sizes,
+  tasks.push_back({one_list, "trvord1", sizes,
                    [peers](int n) {
                      Integers values(static_cast<std::size_t>(n));
                      Random random(2);
@@ -108,6 +110,7 @@ Orderer by_crossing(const Orderer &orderer) {
 
 std::vector<Contender> ordering(const Reals &keys, const std::vector<Orderer> &orderers) {
   std::vector<Contender> all;
+  all.reserve(orderers.size());
   for (const Orderer &orderer : orderers) {
     all.push_back(contender(orderer.name, Ordering(keys, orderer)));
   }
@@ -133,7 +136,7 @@ void add_orders(std::vector<Task> &tasks, const Peers &peers) {
   std::vector<Orderer> others{{"std::sort", order_by_comparison}};
   others.insert(others.end(), peers.order.begin(), peers.order.end());
   const std::vector<Goal> goals{{Goal::Kind::ratio, large, 0.2, "std::sort"}};
-  tasks.push_back({family, "trvordi", sizes,
+  tasks.push_back({one_list, "trvordi", sizes,
                    [others](int n) {
                      std::vector<Orderer> orderers{
                          {"Trelvin", [](const Reals &v, Integers &o) {
@@ -145,7 +148,7 @@ void add_orders(std::vector<Task> &tasks, const Peers &peers) {
                    },
                    goals});
   tasks.push_back(
-      {family, "trvpor", sizes, [others](int n) { return crossings(n, others); }, goals});
+      {one_list, "trvpor", sizes, [others](int n) { return crossings(n, others); }, goals});
 }
 
 // Two lists --------------------------------------------------------------------------------------
@@ -284,7 +287,8 @@ void subtract(TwoLists<std::int32_t> &l, Integers &result, Integers & /*places*/
   std::int32_t n = count_of(l.a.size());
   std::int32_t removed = 0;
   trvmer15(n, l.a.data(), count_of(l.b.size()), l.b.data(), removed);
-  result.assign(l.a.begin(), l.a.begin() + n);
+  l.a.resize(static_cast<std::size_t>(n));
+  result.swap(l.a);
 }
 
 // Those entries of A whose presence in B is as wanted, by the standard's two ways.
@@ -309,7 +313,7 @@ template <class Element>
 Task merging(std::string name, TwoLists<Element> (*data)(int),
              std::vector<std::pair<std::string, typename Merging<Element>::Work>> works,
              std::vector<Goal> goals) {
-  return {family, std::move(name), sizes,
+  return {two_lists, std::move(name), sizes,
           [data, works = std::move(works)](int n) {
             std::vector<Contender> all;
             for (const auto &[who, work] : works) {

@@ -16,7 +16,7 @@ namespace bench {
 
 bool has_avx2() {
 #if defined(__x86_64__) || defined(__i386__)
-  return __builtin_cpu_supports("avx2") != 0;
+  return static_cast<bool>(__builtin_cpu_supports("avx2"));
 #else
   return false;
 #endif

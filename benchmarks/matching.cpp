@@ -62,16 +62,16 @@ Integers inverse(const Integers &order) {
 
 struct Matching : Job {
   Matching(const Lists &lists, Matcher with)
-      : a(lists.a), b(lists.b.points), matcher(std::move(with)) {}
-  void run() {
-    ia.clear();
-    ib.clear();
-    matcher.match(a, b, tol, ia, ib);
-  }
+      : a(lists.a),
+        b(lists.b.points),
+        ia(2 * a.size()),
+        ib(2 * a.size()),
+        matcher(std::move(with)) {}
+  void run() { found = matcher.match(a, b, tol, ia, ib); }
   // By A, as the routine gives them; a peer's order is free.
   [[nodiscard]] std::vector<double> answer() const {
     std::vector<std::pair<double, double>> pairs;
-    for (std::size_t k = 0; k < ia.size(); ++k) pairs.emplace_back(ia[k], ib[k]);
+    for (std::size_t k = 0; k < found; ++k) pairs.emplace_back(ia[k], ib[k]);
     if (matcher.name != "Trelvin") std::sort(pairs.begin(), pairs.end());
     std::vector<double> all;
     for (const auto &[i, j] : pairs) {
@@ -82,18 +82,16 @@ struct Matching : Job {
   }
   Cloud a, b;
   Integers ia, ib;
+  std::size_t found = 0;
   Matcher matcher;
 };
 
-void match(const Cloud &a, const Cloud &b, float tolerance, Integers &ia, Integers &ib) {
-  ia.resize(2 * a.size());
-  ib.resize(2 * a.size());
+std::size_t match(const Cloud &a, const Cloud &b, float tolerance, Integers &ia, Integers &ib) {
   std::int32_t count = 0;
   std::int32_t status = 0;
   trvptp1(count_of(a), a.x.data(), a.y.data(), a.z.data(), count_of(b), b.x.data(), b.y.data(),
           b.z.data(), tolerance, count, ia.data(), ib.data(), status);
-  ia.resize(static_cast<std::size_t>(count));
-  ib.resize(static_cast<std::size_t>(count));
+  return static_cast<std::size_t>(count);
 }
 
 std::vector<Contender> matching(int n, const std::vector<Matcher> &peers) {

@@ -25,8 +25,8 @@ struct Orderer {
 
 struct Matcher {
   std::string name;
-  // Appends the positions of the pairs, in any order, to the emptied lists.
-  std::function<void(const Cloud &, const Cloud &, float tol, Integers &, Integers &)> match;
+  // Writes the positions of the pairs, in any order, into arrays with room for them; their number.
+  std::function<std::size_t(const Cloud &, const Cloud &, float tol, Integers &, Integers &)> match;
 };
 
 using OutlineMaker = std::function<Contender(const Outline &)>;

@@ -13,7 +13,7 @@ namespace {
 constexpr int columns = 3;
 constexpr double panel_width = 390;
 constexpr double panel_height = 300;
-constexpr double left = 52, right = 14, top = 58, bottom = 34;  // margins of a panel
+constexpr double left = 52, right = 26, top = 58, bottom = 34;  // margins of a panel
 
 struct Series {
   std::string name;
@@ -32,14 +32,22 @@ std::string number(double value) {
   return text;
 }
 
-std::string text(double x, double y, const std::string &content, const std::string &attributes) {
-  return "<text x=\"" + number(x) + "\" y=\"" + number(y) + "\" " + attributes + '>' + content +
-         "</text>\n";
+std::string attribute(const std::string &name, const std::string &value) {
+  return ' ' + name + "=\"" + value + '"';
+}
+
+std::string attribute(const std::string &name, double value) {
+  return attribute(name, number(value));
+}
+
+std::string text(double x, double y, const std::string &content,
+                 const std::string &attributes = "") {
+  return "<text" + attribute("x", x) + attribute("y", y) + attributes + '>' + content + "</text>\n";
 }
 
 std::string line(double x1, double y1, double x2, double y2, const std::string &attributes) {
-  return "<line x1=\"" + number(x1) + "\" y1=\"" + number(y1) + "\" x2=\"" + number(x2) +
-         "\" y2=\"" + number(y2) + "\" " + attributes + "/>\n";
+  return "<line" + attribute("x1", x1) + attribute("y1", y1) + attribute("x2", x2) +
+         attribute("y2", y2) + attributes + "/>\n";
 }
 
 void add_rows(std::vector<Panel> &panels, const std::vector<Row> &rows, bool dll) {
@@ -97,21 +105,26 @@ class Axes {
 
   // Lines and labels at the powers of ten.
   [[nodiscard]] std::string grid() const {
-    const std::string rule = "stroke=\"#d9dee3\"";
+    const std::string rule = attribute("stroke", "#d9dee3");
+    const std::string at_end = attribute("text-anchor", "end");
+    const std::string centred = attribute("text-anchor", "middle");
     std::string svg;
-    for (double v = y_low_; v <= y_high_ + 0.5; ++v) {
-      svg += line(left, y(v), panel_width - right, y(v), rule);
-      svg += text(left - 6, y(v) + 4, power_of_ten(v), "text-anchor=\"end\"");
+    for (long v = std::lround(y_low_); v <= std::lround(y_high_); ++v) {
+      const double at = y(static_cast<double>(v));
+      svg += line(left, at, panel_width - right, at, rule);
+      svg += text(left - 6, at + 4, power_of_ten(v), at_end);
     }
-    for (double v = std::ceil(x_low_); v <= x_high_; ++v) {
-      svg += line(x(v), top, x(v), panel_height - bottom, rule);
-      svg += text(x(v), panel_height - bottom + 16, power_of_ten(v), "text-anchor=\"middle\"");
+    for (long v = std::lround(std::ceil(x_low_)); v <= std::lround(std::floor(x_high_)); ++v) {
+      const double at = x(static_cast<double>(v));
+      svg += line(at, top, at, panel_height - bottom, rule);
+      svg += text(at, panel_height - bottom + 16, power_of_ten(v), centred);
     }
     return svg;
   }
 
  private:
-  static std::string power_of_ten(double exponent) {
+  static std::string power_of_ten(long exponent) {
+    if (exponent > 4) return "1e" + std::to_string(exponent);
     char label[32];
     std::snprintf(label, sizeof label, "%g", std::pow(10, exponent));
     return label;
@@ -121,38 +134,39 @@ class Axes {
 
 std::string curve(const Series &series, const Axes &axes, const std::string &stroke) {
   const bool own = series.name.rfind("Trelvin", 0) == 0;
-  std::string svg =
-      "<polyline fill=\"none\" stroke=\"" + stroke + "\" stroke-width=\"" + (own ? "2.6" : "1.4") +
-      "\"" + (series.name == "Trelvin.dll" ? " stroke-dasharray=\"5 3\"" : "") + " points=\"";
-  for (const auto &[x, y] : series.points) {
-    svg += number(axes.x(x)) + ',' + number(axes.y(y)) + ' ';
-  }
-  svg += "\"/>\n";
+  std::string points;
+  std::string dots;
   for (std::size_t k = 0; k < series.points.size(); ++k) {
+    const double x = axes.x(series.points[k][0]);
+    const double y = axes.y(series.points[k][1]);
     const bool hollow = series.predicted_end && k + 1 == series.points.size();
-    svg += "<circle cx=\"" + number(axes.x(series.points[k][0])) + "\" cy=\"" +
-           number(axes.y(series.points[k][1])) + "\" r=\"3\" stroke=\"" + stroke + "\" fill=\"" +
-           (hollow ? "white" : stroke) + "\"/>\n";
+    points += number(x) + ',' + number(y) + ' ';
+    dots += "<circle" + attribute("cx", x) + attribute("cy", y) + attribute("r", 3) +
+            attribute("stroke", stroke) + attribute("fill", hollow ? "white" : stroke) + "/>\n";
   }
-  return svg;
+  return "<polyline" + attribute("fill", "none") + attribute("stroke", stroke) +
+         attribute("stroke-width", own ? 2.6 : 1.4) +
+         (series.name == "Trelvin.dll" ? attribute("stroke-dasharray", "5 3") : "") +
+         attribute("points", points) + "/>\n" + dots;
 }
 
 std::string panel_svg(const Panel &panel, std::vector<std::string> &known) {
   const Axes axes(panel);
-  std::string svg = text(left, 18, panel.title, "font-weight=\"bold\" font-size=\"13\"");
+  std::string svg =
+      text(left, 18, panel.title, attribute("font-weight", "bold") + attribute("font-size", 13));
   svg += axes.grid();
   double legend_x = left;
   double legend_y = 34;
   for (const Series &series : panel.series) {
     const std::string stroke = colour(series.name, known);
-    const double width = 20 + 6.6 * static_cast<double>(series.name.size());
+    const double width = 26 + 6.6 * static_cast<double>(series.name.size());
     if (legend_x + width > panel_width - right) {
       legend_x = left;
       legend_y += 14;
     }
     svg += line(legend_x, legend_y - 4, legend_x + 12, legend_y - 4,
-                "stroke-width=\"3\" stroke=\"" + stroke + '"');
-    svg += text(legend_x + 15, legend_y, series.name, "");
+                attribute("stroke-width", 3) + attribute("stroke", stroke));
+    svg += text(legend_x + 15, legend_y, series.name);
     legend_x += width;
     svg += curve(series, axes, stroke);
   }
@@ -171,16 +185,19 @@ std::string plot(const std::vector<Row> &rows, const std::vector<Row> &dll) {
 
   const auto lines = (panels.size() + columns - 1) / columns;
   const double height = 30 + panel_height * static_cast<double>(lines);
-  std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
-                    number(columns * panel_width) + "\" height=\"" + number(height) +
-                    "\" font-family=\"sans-serif\" font-size=\"11\" fill=\"#1d2733\">\n"
-                    "<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
-  svg += text(left, 20, "Nanoseconds an item against the number of items", "font-size=\"14\"");
+  std::string svg = "<svg" + attribute("xmlns", "http://www.w3.org/2000/svg") +
+                    attribute("width", columns * panel_width) + attribute("height", height) +
+                    attribute("font-family", "sans-serif") + attribute("font-size", 11) +
+                    attribute("fill", "#1d2733") + ">\n<rect" + attribute("width", "100%") +
+                    attribute("height", "100%") + attribute("fill", "white") + "/>\n";
+  svg +=
+      text(left, 20, "Nanoseconds an item against the number of items", attribute("font-size", 14));
   std::vector<std::string> known;
   for (std::size_t k = 0; k < panels.size(); ++k) {
-    const double x = static_cast<double>(k % columns) * panel_width;
-    const double y = 30 + static_cast<double>(k / columns) * panel_height;
-    svg += "<g transform=\"translate(" + number(x) + ' ' + number(y) + ")\">\n" +
+    const std::size_t row = k / columns;
+    const double x = panel_width * static_cast<double>(k % columns);
+    const double y = 30 + panel_height * static_cast<double>(row);
+    svg += "<g" + attribute("transform", "translate(" + number(x) + ' ' + number(y) + ')') + ">\n" +
            panel_svg(panels[k], known) + "</g>\n";
   }
   return svg + "</svg>\n";

@@ -32,7 +32,7 @@ std::string duration(double ns) {
   return short_number(ns / 1e9) + " s";
 }
 
-std::string padded(std::string text, std::size_t width, bool left = false) {
+std::string padded(const std::string &text, std::size_t width, bool left = false) {
   const std::string space(width > text.size() ? width - text.size() : 0, ' ');
   return left ? text + space : space + text;
 }

@@ -12,7 +12,6 @@
 namespace bench {
 namespace {
 
-constexpr const char *family = "Scalar routines";
 constexpr std::size_t sets = 256;  // fit the first-level cache, and are too many to be learned
 
 // Calls call(routine, inputs, outputs) for each set.
@@ -97,7 +96,7 @@ BENCH_ROUTINE crossing(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
 template <class Routine, class Call>
 Task against_formula(std::string name, Routine *routine, Routine *formula, std::size_t inputs,
                      std::size_t outputs, Call call) {
-  Task task{family, std::move(name), {1}, [=](int) {
+  Task task{"Scalar routines", std::move(name), {1}, [=](int) {
               const Reals values = arguments(inputs);
               return std::vector<Contender>{
                   contender("Trelvin", Sweep(values, outputs, routine, call)),
@@ -141,7 +140,8 @@ BENCH_ROUTINE turn_alone(TrvIn s, TrvIn c, TrvIn x, TrvIn y, TrvOut xr, TrvOut y
 }
 
 // By the platform's functions in double precision, rounded: as exact as the library's.
-BENCH_ROUTINE turn_by_platform(TrvIn angle, TrvIn, TrvIn x, TrvIn y, TrvOut xr, TrvOut yr) {
+BENCH_ROUTINE turn_by_platform(TrvIn angle, TrvIn /*unused*/, TrvIn x, TrvIn y, TrvOut xr,
+                               TrvOut yr) {
   const auto s = static_cast<float>(std::sin(double{angle}));
   const auto c = static_cast<float>(std::cos(double{angle}));
   xr = c * x - s * y;
@@ -176,7 +176,7 @@ std::vector<Contender> turns() {
 }
 
 void add_sine_and_cosine(std::vector<Task> &tasks) {
-  Task task{family, "trvrot (one point)", {1}, [](int) { return turns(); }};
+  Task task{"Sine and cosine", "trvrot (one point)", {1}, [](int) { return turns(); }};
   task.goals = {{Goal::Kind::excess, 1, 6.7, "turn alone"},
                 {Goal::Kind::excess, 1, 16, "turn alone", 0, true}};
   task.calls = sets;
@@ -199,7 +199,7 @@ LinesAndPlanes lines_and_planes() {
 }
 
 void add_line_and_plane(std::vector<Task> &tasks, const Peers &peers) {
-  Task task{family, "trvpli", {1}, [peers](int) {
+  Task task{"Line and plane", "trvpli", {1}, [peers](int) {
               const LinesAndPlanes data = lines_and_planes();
               std::vector<Contender> all{
                   contender("Trelvin", Sweep(data.values, 3, trvpli, [](auto f, auto i, auto o) {

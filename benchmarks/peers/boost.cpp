@@ -47,7 +47,7 @@ using Tree = bgi::rtree<Entry, bgi::linear<16>>;
 
 // The tree is made from all points at once, which packs it: faster to build and to search than one
 // that grows point by point.
-void match(const Cloud &a, const Cloud &b, float tol, Integers &ia, Integers &ib) {
+std::size_t match(const Cloud &a, const Cloud &b, float tol, Integers &ia, Integers &ib) {
   std::vector<Entry> entries;
   entries.reserve(b.size());
   for (std::size_t j = 0; j < b.size(); ++j) {
@@ -55,16 +55,18 @@ void match(const Cloud &a, const Cloud &b, float tol, Integers &ia, Integers &ib
   }
   const Tree tree(entries);
   std::vector<Entry> found;
+  std::size_t pairs = 0;
   for (std::size_t i = 0; i < a.size(); ++i) {
     const Box box(SpacePoint(a.x[i] - tol, a.y[i] - tol, a.z[i] - tol),
                   SpacePoint(a.x[i] + tol, a.y[i] + tol, a.z[i] + tol));
     found.clear();
     tree.query(bgi::intersects(box), std::back_inserter(found));
     for (const Entry &entry : found) {
-      ia.push_back(static_cast<std::int32_t>(i + 1));
-      ib.push_back(entry.second);
+      ia[pairs] = static_cast<std::int32_t>(i + 1);
+      ib[pairs++] = entry.second;
     }
   }
+  return pairs;
 }
 
 }  // namespace

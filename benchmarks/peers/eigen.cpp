@@ -44,6 +44,17 @@ struct RotateArrays : Job {
   float c, s;
 };
 
+// With the sine and cosine of the angle in every run, as a routine that is given an angle has to.
+struct RotateByAngle : RotateArrays {
+  RotateByAngle(const Cloud &points, float by) : RotateArrays(points, by), angle(by) {}
+  void run() {
+    s = std::sin(angle);
+    c = std::cos(angle);
+    RotateArrays::run();
+  }
+  float angle;
+};
+
 // One matrix with a point a column.
 struct RotateMatrix : Job {
   RotateMatrix(const Cloud &points, float angle)
@@ -118,14 +129,13 @@ struct TransformMatrix : Job {
     m0.row(2) = array_of(points.z).matrix();
     moved = m0;
     for (int i = 0; i < 3; ++i) {
-      for (int k = 0; k < 3; ++k) transform(i, k) = static_cast<float>(affine.m[i][k]);
-      transform(i, 3) = static_cast<float>(affine.t[i]);
+      for (int k = 0; k < 3; ++k) r(i, k) = static_cast<float>(affine.m[i][k]);
+      t(i) = static_cast<float>(affine.t[i]);
     }
   }
   void prepare() { m = m0; }
   void run() {
-    moved.noalias() = transform.linear() * m;
-    moved.colwise() += transform.translation();
+    moved = r.lazyProduct(m).colwise() + t;
     m.swap(moved);
   }
   [[nodiscard]] std::vector<double> answer() const {
@@ -134,7 +144,8 @@ struct TransformMatrix : Job {
     return all;
   }
   Eigen::Matrix3Xf m0, m, moved;
-  Eigen::Transform<float, 3, Eigen::AffineCompact> transform;
+  Eigen::Matrix3f r;
+  Eigen::Vector3f t;
 };
 
 struct Intersections : Job {
@@ -173,6 +184,7 @@ void add_eigen(Peers &peers) {
   peers.rotate.emplace_back(maker<RotateArrays>("Eigen arrays"));
   peers.rotate.emplace_back(maker<RotateMatrix>("Eigen matrix"));
   peers.rotate.emplace_back(maker<RotateColumns>("Eigen in place"));
+  peers.rotate.emplace_back(maker<RotateByAngle>("sincos+Eigen"));
   peers.transform.emplace_back(maker<TransformArrays>("Eigen arrays"));
   peers.transform.emplace_back(maker<TransformMatrix>("Eigen matrix"));
   peers.intersect.emplace_back(maker<Intersections>("Eigen"));
