@@ -59,6 +59,7 @@ struct Judged {
   const Goal *goal;
   std::string text;
   std::optional<double> value;
+  bool predicted = false;
   [[nodiscard]] const char *verdict() const {
     if (!value) return "not measured";
     return *value <= goal->limit ? "met" : "MISSED";
@@ -114,7 +115,8 @@ std::string value_text(const Judged &judged) {
   if (!judged.value) return "-";
   const bool is_time =
       judged.goal->kind != Goal::Kind::ratio && judged.goal->kind != Goal::Kind::growth;
-  return is_time ? duration(*judged.value) : short_number(*judged.value);
+  return (judged.predicted ? "~" : "") +
+         (is_time ? duration(*judged.value) : short_number(*judged.value));
 }
 
 // The goals of a task at a size.
@@ -123,7 +125,9 @@ std::vector<Judged> judge(const Results &results, const Task &task, int size) {
   for (const Goal &goal : task.goals) {
     if (goal.size != size) continue;
     const auto &rows = goal.dll == measures_dll ? results.own : results.dll;
-    all.push_back({&goal, text_of(goal), value_of(goal, rows, task.name)});
+    const Row *row = find_row(rows, task.name, size);
+    all.push_back({&goal, text_of(goal), value_of(goal, rows, task.name),
+                   row != nullptr && row->figures[0].predicted});
   }
   return all;
 }
