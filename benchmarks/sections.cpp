@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char *family = "Sections";
 
-// A hot-rolled I section, from its dimensions to its principal moments -----------------------------
+// A hot-rolled I section, from its dimensions to its principal moments ---------------------------
 
 struct Profile {
   float H, B, TW, TF, R;
