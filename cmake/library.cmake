@@ -15,6 +15,15 @@ set_target_properties(
 # Nothing throws, so no exception can reach a host.
 target_compile_options(trelvin PRIVATE -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti)
 
+# The edge sums are vectors by hand. The compiler's own would load what was stored by elements just
+# before, and wait. One source is for processors that have AVX2, which is found out at run time.
+set(edge_sums src/properties/edge_sums.cpp src/properties/edge_sums_avx2.cpp)
+set_source_files_properties(
+  ${edge_sums} PROPERTIES COMPILE_OPTIONS "-fno-tree-vectorize;-fno-tree-slp-vectorize")
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86|x86_64|AMD64|i[3-6]86)$")
+  set_property(SOURCE src/properties/edge_sums_avx2.cpp APPEND PROPERTY COMPILE_OPTIONS -mavx2)
+endif()
+
 if(WIN32)
   enable_language(RC)
   configure_file(src/entries/version.rc.in version.rc @ONLY)
