@@ -1,24 +1,14 @@
 /**
  * @file
- * Area properties of polygons, circular segments and composite sections.
+ * Area properties of polygons, circular segments and the parts of a section.
  *
- * All values are taken about the coordinate axes through the origin: Sx = integral of y dA,
+ * All moments are taken about the coordinate axes through the origin: Sx = integral of y dA,
  * Sy = integral of x dA, Ix = integral of y*y dA, Iy = integral of x*x dA, Ixy = integral of x*y
  * dA. With coordinates in the length unit L, areas are in L^2, first moments in L^3, second in L^4.
+ * Moments about the centroid (Sy/A, Sx/A) follow by Ix - Sx*Sx/A, Iy - Sy*Sy/A, Ixy - Sx*Sy/A.
  *
- * A section is the sum of its parts. Each part is described by two arrays x and y, a count n and a
- * kind, and contributes with a factor, -1 for a hole:
- *
- *   kind  part                      points
- *   1     area `value` at a point   1 the point
- *   2     polygon                   1 ... n the vertices, counter-clockwise
- *   3     full circle               1 the centre, 2 a point on the circle
- *   4     smaller circular segment  1 the centre, 2 and 3 the ends of the chord
- *   5     larger circular segment   as 4
- *
- * For a polygon element n+1 of both arrays is overwritten with vertex 1.
- *
- * A part of any other kind leaves the outputs as the caller set them, times the factor.
+ * A section is the sum of its parts, which trvair, trvstm and trvinm give one by one, each with a
+ * factor. No routine here retains anything.
  */
 #ifndef TRELVIN_PROPERTIES_H
 #define TRELVIN_PROPERTIES_H
@@ -30,35 +20,61 @@
 /**
  * Area of a polygon.
  *
- * The exact integral over the closed outline, summed in double precision and rounded once, so that
- * an outline far from the origin keeps its figures. Positive for a counter-clockwise outline,
- * negative for a clockwise one; loops of a self-intersecting outline add up with their signs. The
- * last vertex may repeat the first.
+ * The exact integral over the closed outline by Green's theorem, A = integral of x dy along it:
+ * half the sum of (y(i+1) - y(i))*(x(i) + x(i+1)) over the n edges, summed in double precision and
+ * rounded once, so that an outline far from the origin keeps its figures. Positive for a
+ * counter-clockwise outline (x to the right, y up), negative for a clockwise one; loops of a
+ * self-intersecting outline add up with their signs. The last vertex may repeat the first. The time
+ * grows with n.
  *
- * @param[inout] x,y   arrays of n+1: vertices; element n+1 is overwritten with vertex 1, whatever n
- * @param[in]    n     number of vertices; below 1 the area is 0 (a negative n is not allowed)
- * @param[out]   area  signed area
+ * Retains: nothing.
+ *
+ * @param[inout] x,y   arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
+ *                     else, for n = 0 vertex 1 with itself
+ * @param[in]    n     number of vertices; 0 gives 0; a negative n is not allowed, since element n+1
+ *                     would be before the arrays
+ * @param[out]   area  signed area, in L^2
  */
 TRELVIN_ROUTINE trvapl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut area);
 
 /**
- * First moments of a polygon; otherwise as trvapl.
+ * First moments of a polygon.
  *
- * @param[inout] x,y  arrays of n+1: vertices; element n+1 is overwritten with vertex 1
- * @param[in]    n    number of vertices
- * @param[out]   sx   first moment about the x axis
- * @param[out]   sy   first moment about the y axis
+ * The exact integrals over the closed outline by Green's theorem, Sx = -1/2 integral of y^2 dx and
+ * Sy = 1/2 integral of x^2 dy along it, as sums over the edges in double precision, each rounded
+ * once. Right for a counter-clockwise outline, negated for a clockwise one; loops of a
+ * self-intersecting outline add up with their signs. The last vertex may repeat the first. The time
+ * grows with n.
+ *
+ * Retains: nothing.
+ *
+ * @param[inout] x,y  arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
+ *                    else, for n = 0 vertex 1 with itself
+ * @param[in]    n    number of vertices; 0 gives zeros; a negative n is not allowed, since element
+ *                    n+1 would be before the arrays
+ * @param[out]   sx   first moment about the x axis, the integral of y dA, in L^3
+ * @param[out]   sy   first moment about the y axis, the integral of x dA, in L^3
  */
 TRELVIN_ROUTINE trvspl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut sx, TrvOut sy);
 
 /**
- * Second moments of a polygon; otherwise as trvapl.
+ * Second moments of a polygon.
  *
- * @param[inout] x,y  arrays of n+1: vertices; element n+1 is overwritten with vertex 1
- * @param[in]    n    number of vertices
- * @param[out]   ix   second moment about the x axis
- * @param[out]   iy   second moment about the y axis
- * @param[out]   ixy  product of inertia
+ * The exact integrals over the closed outline by Green's theorem, Ix = -1/3 integral of y^3 dx,
+ * Iy = 1/3 integral of x^3 dy and Ixy = 1/2 integral of x^2*y dy along it, as sums over the edges
+ * in double precision, each rounded once. Right for a counter-clockwise outline, negated for a
+ * clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex may
+ * repeat the first. The time grows with n.
+ *
+ * Retains: nothing.
+ *
+ * @param[inout] x,y  arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
+ *                    else, for n = 0 vertex 1 with itself
+ * @param[in]    n    number of vertices; 0 gives zeros; a negative n is not allowed, since element
+ *                    n+1 would be before the arrays
+ * @param[out]   ix   second moment about the x axis, the integral of y*y dA, in L^4
+ * @param[out]   iy   second moment about the y axis, the integral of x*x dA, in L^4
+ * @param[out]   ixy  product of inertia, the integral of x*y dA, in L^4
  */
 TRELVIN_ROUTINE trvipl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut ix, TrvOut iy,
                        TrvOut ixy);
@@ -68,10 +84,15 @@ TRELVIN_ROUTINE trvipl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut ix, 
 /**
  * Area and centroid of a circular segment, the region between an arc and its chord.
  *
- * The radius is the distance of P1 from the centre; P2 fixes the angle, that of trvphi, and the
- * chord's direction. The order of P1 and P2 does not matter when both lie on the circle. The
- * centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller segment whose
- * angle is 0.
+ * The radius r is the distance of P1 from the centre; P2 fixes the angle phi, that of trvphi, and
+ * the chord's direction. The order of P1 and P2 does not matter when both lie on the circle. The
+ * larger segment has the angle 2*pi - phi. The area is r^2*(phi - sin phi)/2, and the centroid lies
+ * 4*r*sin^3(phi/2)/(3*(phi - sin phi)) from the centre, across the chord for the smaller segment.
+ *
+ * The centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller segment whose
+ * angle is 0; the area is a number then.
+ *
+ * Retains: nothing.
  *
  * @param[in]  xc,yc  centre
  * @param[in]  x1,y1  first end of the chord P1
@@ -84,16 +105,25 @@ TRELVIN_ROUTINE trvacp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
                        TrvOut area, TrvOut xs, TrvOut ys);
 
 /**
- * Second moments of a circular segment; otherwise as trvacp.
+ * Second moments of a circular segment, the region between an arc and its chord.
+ *
+ * The segment is that of trvacp: its radius is the distance of P1 from the centre; P2 fixes the
+ * angle and the chord's direction. Its moments about its axis of symmetry and about the parallel of
+ * the chord through its centroid are turned to the axes of x and y and shifted to the origin.
+ *
+ * All three are NaN for a chord through the centre, for P1 = P2, and for a smaller segment whose
+ * angle is 0.
+ *
+ * Retains: nothing.
  *
  * @param[in]  xc,yc  centre
  * @param[in]  x1,y1  first end of the chord P1
  * @param[in]  x2,y2  second end of the chord P2
  * @param[in]  kind   5 the larger segment; any other value the smaller one
- * @param[out] ix     second moment about the x axis
- * @param[out] iy     second moment about the y axis
- * @param[out] ixy    area*xs*ys, without the segment's own centroidal product of inertia: exact
- *                    only for a chord parallel to an axis
+ * @param[out] ix     second moment about the x axis, the integral of y*y dA
+ * @param[out] iy     second moment about the y axis, the integral of x*x dA
+ * @param[out] ixy    area*xs*ys, without the segment's own product of inertia about its centroid:
+ *                    the integral of x*y dA only for a chord parallel to an axis
  */
 TRELVIN_ROUTINE trvicp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn kind,
                        TrvOut ix, TrvOut iy, TrvOut ixy);
@@ -103,12 +133,26 @@ TRELVIN_ROUTINE trvicp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
 /**
  * Area of a part of a section.
  *
- * @param[inout] x,y     points of the part; element n+1 is written for kind 2
- * @param[in]    n       number of vertices, for kind 2
- * @param[in]    kind    kind of the part
- * @param[in]    value   area, for kind 1
- * @param[in]    factor  multiplies the result
- * @param[inout] area    area of the part; for an unknown kind the caller's value, times the factor
+ * A polygon is that of trvapl, negative when it is listed clockwise; the segments are those of
+ * trvacp.
+ *
+ * Retains: nothing.
+ *
+ * @param[inout] x,y     arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
+ *                       element n+1 is overwritten with vertex 1 for kind 2, nothing is written
+ *                       otherwise; nothing is read for an unknown kind
+ * @param[in]    n       number of vertices for kind 2, ignored otherwise; 0 gives 0; a negative n
+ *                       is not allowed, since element n+1 would be before the arrays
+ * @param[in]    kind    1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
+ *                       counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle;
+ *                       4 smaller circular segment, point 1 the centre, 2 and 3 the ends of its
+ *                       chord; 5 larger circular segment, likewise; any other value is an unknown
+ *                       kind
+ * @param[in]    value   area for kind 1, ignored otherwise
+ * @param[in]    factor  multiplies the result. A hole is a part with the factor -1, a polygon then
+ *                       still counter-clockwise: a clockwise one with -1 adds
+ * @param[inout] area    area of the part, times the factor; for an unknown kind the caller's value,
+ *                       times the factor
  */
 TRELVIN_ROUTINE trvair(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn kind, TrvIn value,
                        TrvIn factor, TrvInOut area);
@@ -116,13 +160,26 @@ TRELVIN_ROUTINE trvair(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
 /**
  * First moments of a part of a section.
  *
- * @param[inout] x,y     points of the part; element n+1 is written for kind 2
- * @param[in]    n       number of vertices, for kind 2
- * @param[in]    kind    kind of the part
- * @param[in]    value   area, for kind 1
- * @param[in]    factor  multiplies the results
- * @param[inout] sx,sy   first moments about the x and the y axis; for an unknown kind the caller's
- *                       values, times the factor
+ * A polygon is that of trvspl, its moments negated when it is listed clockwise; the segments are
+ * those of trvacp.
+ *
+ * Retains: nothing.
+ *
+ * @param[inout] x,y     arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
+ *                       element n+1 is overwritten with vertex 1 for kind 2, nothing is written
+ *                       otherwise; nothing is read for an unknown kind
+ * @param[in]    n       number of vertices for kind 2, ignored otherwise; 0 gives zeros; a negative
+ *                       n is not allowed, since element n+1 would be before the arrays
+ * @param[in]    kind    1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
+ *                       counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle;
+ *                       4 smaller circular segment, point 1 the centre, 2 and 3 the ends of its
+ *                       chord; 5 larger circular segment, likewise; any other value is an unknown
+ *                       kind
+ * @param[in]    value   area for kind 1, ignored otherwise
+ * @param[in]    factor  multiplies the results. A hole is a part with the factor -1, a polygon then
+ *                       still counter-clockwise: a clockwise one with -1 adds
+ * @param[inout] sx,sy   first moments about the x and the y axis, times the factor; for an unknown
+ *                       kind the caller's values, times the factor
  */
 TRELVIN_ROUTINE trvstm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn kind, TrvIn value,
                        TrvIn factor, TrvInOut sx, TrvInOut sy);
@@ -130,24 +187,40 @@ TRELVIN_ROUTINE trvstm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
 /**
  * Second moments of a part of a section.
  *
+ * A polygon is that of trvipl, its moments negated when it is listed clockwise; the segments are
+ * those of trvicp.
+ *
  * A part of kind 1 brings its own centroidal moments in ix, iy and ixy, which are turned by `angle`
- * and shifted to the origin. Turning takes each new value into the next, so it is not the plain
- * tensor rotation: with s, c and t the sine and cosine of the angle and the sine of its double, in
+ * and shifted to the origin. Turning takes each new value into the next, so it is not the rotation
+ * of a tensor: with s, c and t the sine and cosine of the angle and the sine of its double, in
  * order
  *
  *   ix  = ix*c^2 + iy*s^2 - ixy*t
  *   iy  = iy*c^2 + s^2*ix + ixy*t
  *   ixy = ((ix - iy)*0.5 + ixy)*t
  *
- * @param[inout] x,y        points of the part; element n+1 is written for kind 2
- * @param[in]    n          number of vertices, for kind 2
- * @param[in]    kind       kind of the part
- * @param[in]    value      area, for kind 1
- * @param[in]    angle      turn of the part's own axes in radians, for kind 1
- * @param[in]    factor     multiplies the results
- * @param[inout] ix,iy,ixy  second moments about the axes; ixy for kinds 4 and 5 as trvicp gives it;
- *                          for kind 1 the part's own moments on entry; for an unknown kind the
- *                          caller's values, times the factor
+ * but nothing is turned, ixy neither, for an angle of exactly 0.
+ *
+ * Retains: nothing.
+ *
+ * @param[inout] x,y        arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
+ *                          element n+1 is overwritten with vertex 1 for kind 2, nothing is written
+ *                          otherwise; nothing is read for an unknown kind
+ * @param[in]    n          number of vertices for kind 2, ignored otherwise; 0 gives zeros; a
+ *                          negative n is not allowed, since element n+1 would be before the arrays
+ * @param[in]    kind       1 area concentrated at point 1, or a region with that centroid by its
+ *                          own moments; 2 polygon, points 1 to n the vertices, counter-clockwise;
+ *                          3 full circle, point 1 the centre, 2 on the circle; 4 smaller circular
+ *                          segment, point 1 the centre, 2 and 3 the ends of its chord; 5 larger
+ *                          circular segment, likewise; any other value is an unknown kind
+ * @param[in]    value      area for kind 1, ignored otherwise
+ * @param[in]    angle      turn of the own axes in radians for kind 1, ignored otherwise
+ * @param[in]    factor     multiplies the results. A hole is a part with the factor -1, a polygon
+ *                          then still counter-clockwise: a clockwise one with -1 adds
+ * @param[inout] ix,iy,ixy  second moments about the axes, times the factor; ixy for kinds 4 and 5
+ *                          without the segment's own product of inertia, as trvicp gives it; for
+ *                          kind 1 the own moments on entry; for an unknown kind the caller's
+ *                          values, times the factor
  */
 TRELVIN_ROUTINE trvinm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn kind, TrvIn value,
                        TrvIn angle, TrvIn factor, TrvInOut ix, TrvInOut iy, TrvInOut ixy);
@@ -157,13 +230,24 @@ TRELVIN_ROUTINE trvinm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
 /**
  * Principal moments and their direction.
  *
- * The axes count as principal already when |ixy/(ix + iy)| is at most 1e-8 or NaN. With
- * |iy - ix| < 1e-12 the direction is an eighth of a turn.
+ * The principal axes are those of x and y turned counter-clockwise by alpha, with
  *
- * @param[in]  ix,iy,ixy  second moments
+ *   tan(2*alpha) = 2*ixy/(iy - ix)
+ *   i1 = ix*cos^2(alpha) - 2*ixy*sin(alpha)*cos(alpha) + iy*sin^2(alpha)
+ *   i2 = ix*sin^2(alpha) + 2*ixy*sin(alpha)*cos(alpha) + iy*cos^2(alpha)
+ *
+ * Since alpha is at most an eighth of a turn, i1 is the larger one when ix is larger than iy.
+ *
+ * The axes count as principal already, i1 = ix, i2 = iy and alpha = 0, when |ixy/(ix + iy)| is at
+ * most 1e-8 or NaN. Else with |iy - ix| < 1e-12 alpha is an eighth of a turn, i1 the mean of ix and
+ * iy less ixy, i2 the mean and ixy.
+ *
+ * Retains: nothing.
+ *
+ * @param[in]  ix,iy,ixy  second moments about the axes, usually those through the centroid
  * @param[out] i1         moment about the axis turned by alpha from the x axis
- * @param[out] i2         moment about the axis perpendicular to it; either may be the larger
- * @param[out] alpha      angle from the x axis in radians, counter-clockwise, within +-pi/4
+ * @param[out] i2         moment about the axis turned by alpha from the y axis
+ * @param[out] alpha      angle in radians, counter-clockwise, within +-pi/4
  */
 TRELVIN_ROUTINE trvinp(TrvIn ix, TrvIn iy, TrvIn ixy, TrvOut i1, TrvOut i2, TrvOut alpha);
 
@@ -171,8 +255,12 @@ TRELVIN_ROUTINE trvinp(TrvIn ix, TrvIn iy, TrvIn ixy, TrvOut i1, TrvOut i2, TrvO
  * Integral of equally spaced samples over [a, b] by the trapezoidal rule.
  *
  * The last interior sample f(n-1) does not enter the sum, and for n = 3 no interior sample does.
+ * The time grows with n.
  *
- * @param[in]  n       number of samples, at least 2; n = 1 divides by zero
+ * Retains: nothing.
+ *
+ * @param[in]  n       number of samples, at least 2; 1 divides by zero; a smaller n is not allowed,
+ *                     since f(n) would be before the array
  * @param[in]  f       array of n: samples
  * @param[in]  a,b     limits
  * @param[out] result  (b - a)/(n - 1) * ((f(1) + f(n))/2 + f(2) + ... + f(n-2))

@@ -23,7 +23,7 @@ Values properties(Part p, float factor, std::array<float, 6> r) {
 
 }  // namespace
 
-TEST(Composite, EveryKindOfPart) {
+TEST(SectionParts, EveryKind) {
   const double disc = 25 * pi, own = 625 * pi / 4;
   const double area = pi / 4 - 0.5, s = 1.0 / 6, i = pi / 16 - 1.0 / 12, rest = pi - area;
   const std::pair<Part, Values> cases[] = {
@@ -33,7 +33,7 @@ TEST(Composite, EveryKindOfPart) {
        {disc, -3 * disc, 2 * disc, own + 9 * disc, own + 4 * disc, -6 * disc}},
       {{{2, 2, 3}, {0, 1, 0}, 0, 4},
        {area, s, s + 2 * area, i, i + 4 * s + 4 * area, s * (s / area + 2)}},
-      {{{2, 2, 3}, {0, 1, 0}, 0, 5},
+      {{{2, 3, 2}, {0, 0, 1}, 0, 5},  // the ends the other way round
        {rest, -s, 2 * rest - s, pi / 4 - i, pi / 4 - i - 4 * s + 4 * rest, s * (s / rest - 2)}},
       {{{3}, {4}, 0, 0, 2}, {9, 10, 11, 5, 6, 6}},
       {{{3}, {4}, 0, 6, 2}, {9, 10, 11, 5, 6, 6}},
@@ -47,7 +47,7 @@ TEST(Composite, EveryKindOfPart) {
   }
 }
 
-TEST(Composite, OwnMomentsTurnOneAfterTheOther) {
+TEST(SectionParts, OwnMomentsTurnOneAfterTheOther) {
   // A twelfth of a turn: squares 3/4 and 1/4, doubled sine root(3)/2.
   const double t = std::sqrt(3) / 2, ix = 7 - 2 * t, iy = 3 + ix / 4 + 2 * t;
   const double ixy = ((ix - iy) / 2 + 2) * t;
@@ -61,7 +61,7 @@ TEST(Composite, OwnMomentsTurnOneAfterTheOther) {
               0.23929575844, 1e-7);
 }
 
-TEST(Composite, PrincipalMoments) {
+TEST(PrincipalMoments, OfKnownCircles) {
   // Mean 3.5, half the difference 1.5: a circle of radius 2.5.
   const double alpha = std::atan2(4, 3) / 2;
   expect_near(outputs(trvinp, 5, 2, 2), {6, 1, -alpha}, 1e-6);
@@ -70,13 +70,9 @@ TEST(Composite, PrincipalMoments) {
   expect_near(outputs(trvinp, 1, 1, 0.5), {0.5, 1.5, pi / 4}, 1e-7);
   expect_near(outputs(trvinp, 0.75, -0.75, 1), {1.25, -1.25, -alpha}, 1e-6);  // infinite ratio
   EXPECT_EQ(outputs(trvinp, 3, -3, 0), (Values{3, -3, 0}));                   // no ratio
-  EXPECT_EQ(outputs(trvinp, 0.75, 0.25, 1e-8F), (Values{0.75, 0.25, 0}));
-  EXPECT_NE(outputs(trvinp, 0.75, 0.25, std::nextafter(1e-8F, 1.0F))[2], 0);
-  EXPECT_LT(outputs(trvinp, 0, 1e-12F, 1e-12F)[2], 0.6);
-  EXPECT_GT(outputs(trvinp, 0, std::nextafter(1e-12F, 0.0F), 1e-12F)[2], 0.7);
 }
 
-TEST(Composite, TrapezoidsLeaveOutTheLastInteriorSample) {
+TEST(Quadrature, TrapezoidsLeaveOutTheLastInteriorSample) {
   const auto integral = [](std::vector<float> f, float a, float b) {
     float result = unwritten;
     trvinr(static_cast<std::int32_t>(f.size()), f.data(), a, b, result);
