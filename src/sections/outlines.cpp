@@ -1,280 +1,225 @@
-#include "sections/outline_frame.h"
-#include "trelvin/sections.h"
+#include "sections/outlines.h"
 
-using namespace trelvin;
+namespace trelvin {
+namespace {
 
-TRELVIN_ROUTINE trvsec_ia(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn q,
-                          TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
-                          TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
-                          TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
-                          TrvArrayOut q2) {
-  const Real h = 0.5F * H;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-0.5F * B2, h},
-                 {-0.5F * B2, h - T2},
-                 {-0.5F * TW, h - T2},
-                 {-0.5F * TW, T1 - h},
-                 {-0.5F * B1, T1 - h},
-                 {-0.5F * B1, -h},
-                 {0.5F * B1, -h},
-                 {0.5F * B1, T1 - h},
-                 {0.5F * TW, T1 - h},
-                 {0.5F * TW, h - T2},
-                 {0.5F * B2, h - T2},
-                 {0.5F * B2, h}});
+std::array<Point2, 4> rectangle(Real left, Real right, Real top, Real bottom) {
+  return {{{left, top}, {left, bottom}, {right, bottom}, {right, top}}};
 }
 
-TRELVIN_ROUTINE trvsec_h(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn q,
-                         TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
-                         TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
-                         TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
-                         TrvArrayOut q2) {
-  const Real h = 0.5F * H;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-h, 0.5F * B1},
-                 {-h, -0.5F * B1},
-                 {T1 - h, -0.5F * B1},
-                 {T1 - h, -0.5F * TW},
-                 {h - T2, -0.5F * TW},
-                 {h - T2, -0.5F * B2},
-                 {h, -0.5F * B2},
-                 {h, 0.5F * B2},
-                 {h - T2, 0.5F * B2},
-                 {h - T2, 0.5F * TW},
-                 {T1 - h, 0.5F * TW},
-                 {T1 - h, 0.5F * B1}});
+struct Flange {
+  Real half_width;
+  Real outer, inner;  // heights of its faces
+};
+
+// Two flanges and what is between them, from `left` to `right`.
+std::array<Point2, 12> i_shape(const Flange &top, Real left, Real right, const Flange &bottom) {
+  return {{{-top.half_width, top.outer},
+           {-top.half_width, top.inner},
+           {left, top.inner},
+           {left, bottom.inner},
+           {-bottom.half_width, bottom.inner},
+           {-bottom.half_width, bottom.outer},
+           {bottom.half_width, bottom.outer},
+           {bottom.half_width, bottom.inner},
+           {right, bottom.inner},
+           {right, top.inner},
+           {top.half_width, top.inner},
+           {top.half_width, top.outer}}};
 }
 
-TRELVIN_ROUTINE trvsec_t(TrvIn B, TrvIn H, TrvIn TF, TrvIn TW, TrvIn q, TrvIntOut np,
-                         TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code,
-                         TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3,
-                         TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
-  const Real h = 0.5F * H;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-0.5F * B, h},
-                 {-0.5F * B, h - TF},
-                 {-0.5F * TW, h - TF},
-                 {-0.5F * TW, -h},
-                 {0.5F * TW, -h},
-                 {0.5F * TW, h - TF},
-                 {0.5F * B, h - TF},
-                 {0.5F * B, h}});
+// A plate on two legs with a bar between them. The legs' inner faces are `left` and `right`, the
+// bar's underside is at the height `bar`.
+std::array<Point2, 12> plate_on_legs(const Flange &plate, Real half_width_of_legs, Real foot,
+                                     Real left, Real right, Real bar) {
+  return {{{-plate.half_width, plate.outer},
+           {-plate.half_width, plate.inner},
+           {-half_width_of_legs, plate.inner},
+           {-half_width_of_legs, foot},
+           {left, foot},
+           {left, bar},
+           {right, bar},
+           {right, foot},
+           {half_width_of_legs, foot},
+           {half_width_of_legs, plate.inner},
+           {plate.half_width, plate.inner},
+           {plate.half_width, plate.outer}}};
 }
 
-TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArrayOut nv,
-                         TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign,
-                         TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4,
-                         TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
+}  // namespace
+
+Outline i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
+  const Real h = 0.5F * H;
+  const Real web = 0.5F * TW;
+  return Outline().solid(i_shape({0.5F * B2, h, h - T2}, -web, web, {0.5F * B1, -h, T1 - h}));
+}
+
+Outline sideways_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
+  const Real h = 0.5F * H;
+  const Real web = 0.5F * TW;
+  const auto upright = i_shape({0.5F * B1, -h, T1 - h}, -web, web, {0.5F * B2, h, h - T2});
+  // Reflected in the line x = y, from the last vertex on.
+  std::array<Point2, 12> sideways;
+  for (std::size_t i = 0; i < 12; ++i) sideways[(i + 1) % 12] = {upright[i].y, upright[i].x};
+  return Outline().solid(sideways);
+}
+
+Outline t_outline(Real B, Real H, Real TF, Real TW) {
+  const Real h = 0.5F * H;
+  const Real flange = 0.5F * B;
+  const Real stem = 0.5F * TW;
+  return Outline().solid(std::array<Point2, 8>{{{-flange, h},
+                                                {-flange, h - TF},
+                                                {-stem, h - TF},
+                                                {-stem, -h},
+                                                {stem, -h},
+                                                {stem, h - TF},
+                                                {flange, h - TF},
+                                                {flange, h}}});
+}
+
+Outline bar_outline(Integer B, Real H) {
   const Real x = 0.5F * static_cast<Real>(B);
   const Real y = 0.5F * H;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-x, y}, {-x, -y}, {x, -y}, {x, y}});
-  nv[0] = 12;  // hosts provide for 12 vertices and read 4
+  Outline bar = Outline().solid(rectangle(-x, x, y, -y));
+  bar.polygon[0].told_vertices = 12;
+  return bar;
 }
 
-TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn TP,
-                           TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
-                           TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
-                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
-                           TrvArrayOut q2) {
+Outline covered_i_outline(Real W, Real D, Real P, Real T1, Real T2, Real TW, Real TP) {
   const Real top = 0.5F * (P + TP);
   const Real plate = 0.5F * (P - TP);
   const Real web_bottom = 0.5F * (P - TW) - top;
   const Real web_top = 0.5F * (TW - P) + plate;
   const Real left = T1 - 0.5F * D;
   const Real right = 0.5F * D - T2;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-0.5F * W, top},
-                 {-0.5F * W, plate},
-                 {-0.5F * D, plate},
-                 {-0.5F * D, -top},
-                 {left, -top},
-                 {left, web_bottom},
-                 {right, web_bottom},
-                 {right, -top},
-                 {0.5F * D, -top},
-                 {0.5F * D, plate},
-                 {0.5F * W, plate},
-                 {0.5F * W, top}})
-      .hole(q, {{left, plate}, {left, web_top}, {right, web_top}, {right, plate}});
+  return Outline()
+      .solid(plate_on_legs({0.5F * W, top, plate}, 0.5F * D, -top, left, right, web_bottom))
+      .hole(rectangle(left, right, plate, web_top));
 }
 
-TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvIn TW, TrvIn G,
-                           TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
-                           TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
-                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
-                           TrvArrayOut q2) {
+Outline box_outline(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G) {
   const Real h = 0.5F * H;
   const Real under_top = h - TT;
   const Real over_bottom = TB - h;
-  const Real web_left = 0.5F * (BB - 2 * TW - G) - 0.5F * BB;
-  const Real web_right = 0.5F * BT - 0.5F * (BT - 2 * TW - G);
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-0.5F * BT, h},
-                 {-0.5F * BT, under_top},
-                 {web_left, under_top},
-                 {web_left, over_bottom},
-                 {-0.5F * BB, over_bottom},
-                 {-0.5F * BB, -h},
-                 {0.5F * BB, -h},
-                 {0.5F * BB, over_bottom},
-                 {web_right, over_bottom},
-                 {web_right, under_top},
-                 {0.5F * BT, under_top},
-                 {0.5F * BT, h}})
-      .hole(q, {{-0.5F * G, under_top},
-                {-0.5F * G, over_bottom},
-                {0.5F * G, over_bottom},
-                {0.5F * G, under_top}});
+  const Real left = 0.5F * (BB - 2 * TW - G) - 0.5F * BB;
+  const Real right = 0.5F * BT - 0.5F * (BT - 2 * TW - G);
+  return Outline()
+      .solid(i_shape({0.5F * BT, h, under_top}, left, right, {0.5F * BB, -h, over_bottom}))
+      .hole(rectangle(-0.5F * G, 0.5F * G, under_top, over_bottom));
 }
 
-TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, TrvIntArrayOut nv,
-                           TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign,
-                           TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4,
-                           TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
+Outline tube_outline(Real B, Real H, Real T) {
   const Real x = 0.5F * B;
   const Real y = 0.5F * H;
   const Real inner_x = 0.5F * (B - 2 * T);
   const Real inner_y = 0.5F * (H - 2 * T);
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-x, y}, {-x, -y}, {x, -y}, {x, y}})
-      .hole(q,
-            {{-inner_x, inner_y}, {-inner_x, -inner_y}, {inner_x, -inner_y}, {inner_x, inner_y}});
+  return Outline()
+      .solid(rectangle(-x, x, y, -y))
+      .hole(rectangle(-inner_x, inner_x, inner_y, -inner_y));
 }
 
-TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q, TrvIntOut np,
-                          TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code,
-                          TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3,
-                          TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
+Outline twin_angles_outline(Real B, Real H, Real G, Real T, Real TV) {
   const Real h = 0.5F * H;
   const Real g = 0.5F * G;
   const Real outer = (2 * B + G) * 0.5F;
   const Real inner = TV + g;
   const Real under = h - T;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-outer, h}, {-outer, under}, {-inner, under}, {-inner, -h}, {-g, -h}, {-g, h}})
-      .solid(q, {{g, h}, {g, -h}, {inner, -h}, {inner, under}, {outer, under}, {outer, h}});
+  const std::array<Point2, 6> left = {
+      {{-outer, h}, {-outer, under}, {-inner, under}, {-inner, -h}, {-g, -h}, {-g, h}}};
+  const std::array<Point2, 6> right = {
+      {{g, h}, {g, -h}, {inner, -h}, {inner, under}, {outer, under}, {outer, h}}};
+  return Outline().solid(left).solid(right);
 }
 
-TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn TW, TrvIn TB,
-                           TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
-                           TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
-                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
-                           TrvArrayOut q2) {
+Outline plate_on_cell_outline(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB) {
   const Real h = (H + T) * 0.5F;
   const Real under_top = h - T;
   const Real under_bottom = h - H - T + E;
   const Real over_bottom = E - h + TB;
   const Real left = -0.5F * BW + TW;
   const Real right = 0.5F * BW - TW;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-0.5F * B, h},
-                 {-0.5F * B, under_top},
-                 {-0.5F * BW, under_top},
-                 {-0.5F * BW, -h},
-                 {left, -h},
-                 {left, under_bottom},
-                 {right, under_bottom},
-                 {right, -h},
-                 {0.5F * BW, -h},
-                 {0.5F * BW, under_top},
-                 {0.5F * B, under_top},
-                 {0.5F * B, h}})
-      .hole(q, {{left, under_top}, {left, over_bottom}, {right, over_bottom}, {right, under_top}});
+  return Outline()
+      .solid(plate_on_legs({0.5F * B, h, under_top}, 0.5F * BW, -h, left, right, under_bottom))
+      .hole(rectangle(left, right, under_top, over_bottom));
 }
 
-TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, TrvIn TM, TrvIn TF,
-                           TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
-                           TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
-                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
-                           TrvArrayOut q2) {
+Outline two_cell_outline(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF) {
   const Real outer = (2 * TF + HI) * 0.5F;
   const Real inner = outer - TF;
-  const Real cell = HI * 0.5F;  // equals `inner` but for rounding; hosts know both forms
+  const Real cell = HI * 0.5F;  // `inner` but for rounding; both forms stay
   const Real middle = TM * 0.5F;
-  const Real left = TW1 - 0.5F * W;
-  const Real right = 0.5F * W - TW2;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-0.5F * B, outer},
-                 {-0.5F * B, inner},
-                 {-0.5F * W, inner},
-                 {-0.5F * W, -inner},
-                 {-0.5F * B, -inner},
-                 {-0.5F * B, -outer},
-                 {0.5F * B, -outer},
-                 {0.5F * B, -inner},
-                 {0.5F * W, -inner},
-                 {0.5F * W, inner},
-                 {0.5F * B, inner},
-                 {0.5F * B, outer}})
-      .hole(q, {{left, cell}, {left, middle}, {right, middle}, {right, cell}})
-      .hole(q, {{left, -middle}, {left, -cell}, {right, -cell}, {right, -middle}});
+  const Real web = 0.5F * W;
+  const Real left = TW1 - web;
+  const Real right = web - TW2;
+  return Outline()
+      .solid(i_shape({0.5F * B, outer, inner}, -web, web, {0.5F * B, -outer, -inner}))
+      .hole(rectangle(left, right, cell, middle))
+      .hole(rectangle(left, right, -middle, -cell));
 }
 
-TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn S1,
-                         TrvIn S2, TrvIn E, TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X,
-                         TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1,
-                         TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5,
-                         TrvArrayOut q1, TrvArrayOut q2) {
+Outline filleted_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
+                           Real E) {
   const Real h = 0.5F * H;
   const Real left = E - 0.5F * TW;
   const Real right = E + 0.5F * TW;
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{-0.5F * B2, h},
-                 {-0.5F * B2, h - T2},
-                 {left - S2, h - T2},
-                 {left, h - T2 - S2},
-                 {left, T1 - h + S1},
-                 {left - S1, T1 - h},
-                 {-0.5F * B1, T1 - h},
-                 {-0.5F * B1, -h},
-                 {0.5F * B1, -h},
-                 {0.5F * B1, T1 - h},
-                 {right + S1, T1 - h},
-                 {right, T1 - h + S1},
-                 {right, h - T2 - S2},
-                 {right + S2, h - T2},
-                 {0.5F * B2, h - T2},
-                 {0.5F * B2, h}});
+  return Outline().solid(std::array<Point2, 16>{{{-0.5F * B2, h},
+                                                 {-0.5F * B2, h - T2},
+                                                 {left - S2, h - T2},
+                                                 {left, h - T2 - S2},
+                                                 {left, T1 - h + S1},
+                                                 {left - S1, T1 - h},
+                                                 {-0.5F * B1, T1 - h},
+                                                 {-0.5F * B1, -h},
+                                                 {0.5F * B1, -h},
+                                                 {0.5F * B1, T1 - h},
+                                                 {right + S1, T1 - h},
+                                                 {right, T1 - h + S1},
+                                                 {right, h - T2 - S2},
+                                                 {right + S2, h - T2},
+                                                 {0.5F * B2, h - T2},
+                                                 {0.5F * B2, h}}});
 }
 
-TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn D1, TrvIn D2,
-                         TrvIn TW, TrvIn T1, TrvIn T2, TrvIn TC1, TrvIn TC2, TrvIn TD1, TrvIn TD2,
-                         TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
-                         TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
-                         TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
-                         TrvArrayOut q2) {
+namespace {
+
+// The edge of a flange, seen from the web: out to the lip, up to its end, back along the fold.
+struct Edge {
+  Real face, lip, fold;       // distances from the back of the web
+  Real lip_end, fold_inside;  // heights above the flange's outer face
+};
+
+Edge edge_of(const LippedFlange &f) {
+  const bool has_lip = f.C > f.T;
+  const bool has_fold = has_lip && f.D > f.TC;
+  const Real lip_end = has_lip ? f.C : f.T;
+  return {f.B, f.B - f.TC, has_fold ? f.B - f.D : f.B - f.TC, lip_end,
+          has_fold ? lip_end - f.TD : lip_end};
+}
+
+}  // namespace
+
+Outline channel_outline(Real H, Real TW, const LippedFlange &bottom, const LippedFlange &top) {
   const Real h = 0.5F * H;
-  const Real left = -0.5F * (B1 > B2 ? B1 : B2);
-
-  // The edge of a flange, seen from the web: out to the lip, up to its end, back along the fold.
-  struct Edge {
-    Real face, lip, fold;       // distances from the back of the web
-    Real lip_end, fold_inside;  // heights above the flange's outer face
-  };
-  const auto edge = [](Real B, Real C, Real D, Real T, Real TC, Real TD) {
-    const bool has_lip = C > T;
-    const bool has_fold = has_lip && D > TC;
-    const Real lip_end = has_lip ? C : T;
-    return Edge{B, B - TC, has_fold ? B - D : B - TC, lip_end, has_fold ? lip_end - TD : lip_end};
-  };
-  const Edge e1 = edge(B1, C1, D1, T1, TC1, TD1);
-  const Edge e2 = edge(B2, C2, D2, T2, TC2, TD2);
-  OutlineFrame(np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2)
-      .solid(q, {{left, -h},
-                 {left + e1.face, -h},
-                 {left + e1.face, e1.lip_end - h},
-                 {left + e1.fold, e1.lip_end - h},
-                 {left + e1.fold, e1.fold_inside - h},
-                 {left + e1.lip, e1.fold_inside - h},
-                 {left + e1.lip, T1 - h},
-                 {left + TW, T1 - h},
-                 {left + TW, h - T2},
-                 {left + e2.lip, h - T2},
-                 {left + e2.lip, h - e2.fold_inside},
-                 {left + e2.fold, h - e2.fold_inside},
-                 {left + e2.fold, h - e2.lip_end},
-                 {left + e2.face, h - e2.lip_end},
-                 {left + e2.face, h},
-                 {left, h}});
+  const Real left = -0.5F * (bottom.B > top.B ? bottom.B : top.B);
+  const Edge e1 = edge_of(bottom);
+  const Edge e2 = edge_of(top);
+  return Outline().solid(std::array<Point2, 16>{{{left, -h},
+                                                 {left + e1.face, -h},
+                                                 {left + e1.face, e1.lip_end - h},
+                                                 {left + e1.fold, e1.lip_end - h},
+                                                 {left + e1.fold, e1.fold_inside - h},
+                                                 {left + e1.lip, e1.fold_inside - h},
+                                                 {left + e1.lip, bottom.T - h},
+                                                 {left + TW, bottom.T - h},
+                                                 {left + TW, h - top.T},
+                                                 {left + e2.lip, h - top.T},
+                                                 {left + e2.lip, h - e2.fold_inside},
+                                                 {left + e2.fold, h - e2.fold_inside},
+                                                 {left + e2.fold, h - e2.lip_end},
+                                                 {left + e2.face, h - e2.lip_end},
+                                                 {left + e2.face, h},
+                                                 {left, h}}});
 }
+
+}  // namespace trelvin

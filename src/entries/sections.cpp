@@ -1,0 +1,255 @@
+#include "trelvin/sections.h"
+
+#include <array>
+#include <cstddef>
+
+#include "entries/door.h"
+#include "sections/bending.h"
+#include "sections/buckling.h"
+#include "sections/channels.h"
+#include "sections/flat_bar.h"
+#include "sections/joints.h"
+#include "sections/outlines.h"
+#include "sections/torsion.h"
+
+using namespace trelvin;
+
+/* Plate buckling ----------------------------------------------------------------------------- */
+
+TRELVIN_ROUTINE trvro2(TrvIn b, TrvIn t, TrvIn r1, TrvIn r2, TrvIn psi, TrvIn ks, TrvOut rho) {
+  const Door door;
+  rho = reduction_factor(b, t, r1, r2, psi, ks);
+}
+
+TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ceff) {
+  const Door door;
+  ceff = effective_width_of_fold(c, bp, t, r1, r2, retained.edge_fold);
+}
+
+TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1, TrvIn s2,
+                       TrvOut be1, TrvOut be2) {
+  const Door door;
+  const auto widths = effective_widths(bl, w, t, r1, r2, s1, s2);
+  if (!widths) return;
+  be1 = widths->at_first;
+  be2 = widths->at_second;
+}
+
+/* Outlines ----------------------------------------------------------------------------------- */
+
+namespace {
+
+// The outputs that all outline routines share, in their order.
+struct OutlineWriter {
+  TrvIntOut np;
+  TrvIntArrayOut nv;
+  TrvArrayOut x, y;
+  TrvIntArrayOut code;
+  TrvArrayOut sign;
+  std::array<TrvArrayOut, 5> z;
+  TrvArrayOut q1, q2;
+
+  void write(const Outline &outline, const Real q) const {
+    constexpr Integer kind_polygon = 2;
+    np = outline.polygons;
+    for (Integer p = 0; p < outline.polygons; ++p) {
+      const auto [told_vertices, is_hole] = outline.polygon[static_cast<std::size_t>(p)];
+      nv[p] = told_vertices;
+      code[p] = kind_polygon;
+      sign[p] = is_hole ? -1 : 1;
+      for (Real *const zeros : z) zeros[p] = 0;
+      q1[p] = is_hole ? -q : q;
+      q2[p] = q1[p];
+    }
+    for (std::size_t i = 0; i < outline.vertices; ++i) {
+      x[i] = outline.vertex[i].x;
+      y[i] = outline.vertex[i].y;
+    }
+  }
+};
+
+}  // namespace
+
+TRELVIN_ROUTINE trvsec_ia(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn q,
+                          TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                          TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                          TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                          TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(i_outline(H, B1, B2, T1, T2, TW), q);
+}
+
+TRELVIN_ROUTINE trvsec_h(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn q,
+                         TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                         TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                         TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                         TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(sideways_i_outline(H, B1, B2, T1, T2, TW), q);
+}
+
+TRELVIN_ROUTINE trvsec_t(TrvIn B, TrvIn H, TrvIn TF, TrvIn TW, TrvIn q, TrvIntOut np,
+                         TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code,
+                         TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3,
+                         TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(t_outline(B, H, TF, TW), q);
+}
+
+TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArrayOut nv,
+                         TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign,
+                         TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4,
+                         TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(bar_outline(B, H), q);
+}
+
+TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn TP,
+                           TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                           TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                           TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(covered_i_outline(W, D, P, T1, T2, TW, TP), q);
+}
+
+TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvIn TW, TrvIn G,
+                           TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                           TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                           TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(box_outline(BT, BB, TT, TB, H, TW, G), q);
+}
+
+TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, TrvIntArrayOut nv,
+                           TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign,
+                           TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4,
+                           TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(tube_outline(B, H, T), q);
+}
+
+TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q, TrvIntOut np,
+                          TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y, TrvIntArrayOut code,
+                          TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3,
+                          TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(twin_angles_outline(B, H, G, T, TV), q);
+}
+
+TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn TW, TrvIn TB,
+                           TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                           TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                           TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(plate_on_cell_outline(B, H, BW, E, T, TW, TB), q);
+}
+
+TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, TrvIn TM, TrvIn TF,
+                           TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                           TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                           TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(two_cell_outline(B, W, HI, TW1, TW2, TM, TF), q);
+}
+
+TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn S1,
+                         TrvIn S2, TrvIn E, TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X,
+                         TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1,
+                         TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5,
+                         TrvArrayOut q1, TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(filleted_i_outline(H, B1, B2, T1, T2, TW, S1, S2, E), q);
+}
+
+TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn D1, TrvIn D2,
+                         TrvIn TW, TrvIn T1, TrvIn T2, TrvIn TC1, TrvIn TC2, TrvIn TD1, TrvIn TD2,
+                         TrvIn q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X, TrvArrayOut Y,
+                         TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+                         TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
+                         TrvArrayOut q2) {
+  const Door door;
+  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
+  writer.write(channel_outline(H, TW, {B1, C1, D1, T1, TC1, TD1}, {B2, C2, D2, T2, TC2, TD2}), q);
+}
+
+/* Channels ----------------------------------------------------------------------------------- */
+
+TRELVIN_ROUTINE trvshc_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut e0) {
+  const Door door;
+  e0 = shear_centre_distance({B, H, C, t});
+}
+
+TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw) {
+  const Door door;
+  Iw = warping_constant({B, H, C, t});
+}
+
+/* Sections of thin plates -------------------------------------------------------------------- */
+
+namespace {
+
+// Rounds figures into the outputs that follow in the same order.
+template <std::size_t n, class... Outputs>
+void write(const std::array<double, n> &figures, Outputs &...outputs) {
+  static_assert(sizeof...(Outputs) == n);
+  std::size_t i = 0;
+  ((outputs = static_cast<Real>(figures[i++])), ...);
+}
+
+}  // namespace
+
+TRELVIN_ROUTINE trvmxt(TrvIntIn n, TrvArrayIn X1, TrvArrayIn Y1, TrvArrayIn X2, TrvArrayIn Y2,
+                       TrvArrayIn T, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
+                       TrvOut Ixy, TrvOut I1, TrvOut I2, TrvOut alpha, TrvOut rx, TrvOut ry,
+                       TrvOut Wx1, TrvOut Wx2, TrvOut Wy1, TrvOut Wy2, TrvOut Wpx, TrvOut Wpy,
+                       TrvOut xp, TrvOut yp, TrvOut It, TrvOut Wt, TrvOut xm, TrvOut ym, TrvOut Iw,
+                       TrvOut r0, TrvArrayOut W1, TrvArrayOut W2, TrvIntOut status) {
+  const Door door;
+  const PlateArrays plates = {n, X1, Y1, X2, Y2, T};
+  if (!are_plates(plates)) {
+    status = -1;
+    return;
+  }
+  const PlateMoments m = moments_of(plates);
+  write(bending_figures(plates, m).in_order(), A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1,
+        Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp);
+  const auto [fault, plate] = joints_of(plates);
+  if (fault == Joints::Fault::none)
+    write(torsion_figures(plates, m, W1, W2).in_order(), It, Wt, xm, ym, Iw, r0);
+  status = fault == Joints::Fault::meeting ? plates.n + plate : plate;
+}
+
+TRELVIN_ROUTINE trvmxt_fb(TrvIn B, TrvIn H, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
+                          TrvOut Ixy, TrvOut I1, TrvOut I2, TrvOut alpha, TrvOut rx, TrvOut ry,
+                          TrvOut Wx1, TrvOut Wx2, TrvOut Wy1, TrvOut Wy2, TrvOut Wpx, TrvOut Wpy,
+                          TrvOut xp, TrvOut yp, TrvOut It, TrvOut Wt, TrvOut xm, TrvOut ym,
+                          TrvOut Iw, TrvOut r0, TrvArrayOut W1, TrvArrayOut W2, TrvIntOut status) {
+  const Door door;
+  const Real b = B;
+  const Real h = H;
+  if (!is_size(b) || !is_size(h)) {
+    status = -1;
+    return;
+  }
+  write(bending_of_bar(b, h).in_order(), A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2,
+        Wy1, Wy2, Wpx, Wpy, xp, yp);
+  write(torsion_of_bar(b, h).in_order(), It, Wt, xm, ym, Iw, r0);
+  W1[0] = 0;
+  W2[0] = 0;
+  status = 0;
+}

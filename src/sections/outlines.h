@@ -1,0 +1,66 @@
+// Outlines of steel profiles, as lists of polygons about the middle of the bounding box.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "vectors/vectors.h"
+
+namespace trelvin {
+
+// Polygons run counter-clockwise, holes too.
+class Outline {
+ public:
+  static constexpr std::size_t most_polygons = 3;
+  static constexpr std::size_t most_vertices = 20;
+
+  struct Polygon {
+    Integer told_vertices;  // as hosts are told
+    bool is_hole;
+  };
+
+  Integer polygons = 0;
+  std::array<Polygon, most_polygons> polygon;
+  std::size_t vertices = 0;  // of all polygons
+  std::array<Point2, most_vertices> vertex;
+
+  template <std::size_t n>
+  Outline &solid(const std::array<Point2, n> &corners) {
+    return add(corners, false);
+  }
+  template <std::size_t n>
+  Outline &hole(const std::array<Point2, n> &corners) {
+    return add(corners, true);
+  }
+
+ private:
+  template <std::size_t n>
+  Outline &add(const std::array<Point2, n> &corners, bool is_hole) {
+    polygon[static_cast<std::size_t>(polygons++)] = {static_cast<Integer>(n), is_hole};
+    for (const Point2 corner : corners) vertex[vertices++] = corner;
+    return *this;
+  }
+};
+
+// The dimensions are those of trelvin/sections.h.
+Outline i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
+Outline sideways_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
+Outline t_outline(Real B, Real H, Real TF, Real TW);
+Outline bar_outline(Integer B, Real H);
+Outline covered_i_outline(Real W, Real D, Real P, Real T1, Real T2, Real TW, Real TP);
+Outline box_outline(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G);
+Outline tube_outline(Real B, Real H, Real T);
+Outline twin_angles_outline(Real B, Real H, Real G, Real T, Real TV);
+Outline plate_on_cell_outline(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB);
+Outline two_cell_outline(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF);
+Outline filleted_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
+                           Real E);
+
+// A channel's flange with its lip and the fold at the lip's end.
+struct LippedFlange {
+  Real B, C, D;    // lengths of flange, lip and fold
+  Real T, TC, TD;  // their thicknesses
+};
+Outline channel_outline(Real H, Real TW, const LippedFlange &bottom, const LippedFlange &top);
+
+}  // namespace trelvin
