@@ -25,15 +25,13 @@ Properties properties_of(const Section &section) {
     p.sx += sx;
     p.sy += sy;
 
-    // A circular segment comes without its own centroidal product of inertia. The sum is right
-    // because segments occur in mirrored pairs only, whose products cancel.
     float ix = 0;
     float iy = 0;
     float ixy = 0;
     trvinm(x, y, part.n, part.kind, no_value, no_angle, part.factor, ix, iy, ixy);
     p.origin.x += ix;
     p.origin.y += iy;
-    p.origin.xy += ixy;
+    p.origin.xy += ixy + part.factor * part.own_product;
   }
 
   p.xs = p.sy / p.area;

@@ -18,6 +18,7 @@ struct Part {
   std::int32_t n;
   std::vector<float> x;  // a polygon has an element to spare, which the library writes
   std::vector<float> y;
+  double own_product = 0;  // of a segment about its centroid, which the library leaves out
 };
 
 struct Vertex {

@@ -90,9 +90,12 @@ Properties properties_of(const std::vector<Plate> &plates) {
   p.ry = ry;
   if (status == 0) {
     p.torsion = {It, Iw, xm, ym};
-  } else {
+  } else if (status <= n) {
     p.note = "No torsion: plate " + std::to_string(status) +
              " starts at no end of an earlier one, or closes a cell.";
+  } else {
+    p.note = "No torsion: plate " + std::to_string(status - n) +
+             " meets an earlier one elsewhere than at its start, or closes a cell.";
   }
   return p;
 }

@@ -60,7 +60,7 @@ Section flat_bar(const float *d) {
   return section_of(f);
 }
 
-// The hot-rolled I -------------------------------------------------------------------------------
+// Root fillets ---------------------------------------------------------------------------------
 
 Part mirrored(Part part, bool left_right, bool top_bottom) {
   if (left_right) {
@@ -73,6 +73,7 @@ Part mirrored(Part part, bool left_right, bool top_bottom) {
     std::reverse(part.x.begin(), part.x.begin() + part.n);
     std::reverse(part.y.begin(), part.y.begin() + part.n);
   }
+  if (left_right != top_bottom) part.own_product = -part.own_product;
   return part;
 }
 
@@ -81,9 +82,14 @@ Part mirrored(Part part, bool left_right, bool top_bottom) {
 std::array<Part, 3> fillet(float x, float y, float r) {
   const float xc = x + r;
   const float yc = y - r;
+  // Quarter disc less triangle, about the centre r^4/8 - r^4/24, moved to the centroid by their
+  // first moments r^3/3 - r^3/6.
+  constexpr double pi = 3.14159265358979323846;
+  constexpr double product = 1.0 / 36 / (pi / 4 - 0.5) - 1.0 / 12;
+  const double r2 = static_cast<double>(r) * r;
   return {polygon_part(1, {x, x, xc, xc}, {y, yc, yc, y}),
           polygon_part(-1, {xc, xc, x}, {yc, y, yc}),
-          {smaller_segment, -1, 3, {xc, xc, x}, {yc, y, yc}}};
+          {smaller_segment, -1, 3, {xc, xc, x}, {yc, y, yc}, product * r2 * r2}};
 }
 
 // The point at the distance r from a corner along the edge to its neighbour; edges run along axes.
@@ -92,6 +98,23 @@ Vertex tangent_point(const Vertex &corner, const Vertex &neighbour, double r) {
   const double dy = neighbour.y - corner.y;
   const double length = std::fabs(dx) + std::fabs(dy);
   return {corner.x + r * (dx / length), corner.y + r * (dy / length)};
+}
+
+// A ring with arcs in place of some of its corners.
+template <class Choice>
+Ring rounded(const Ring &sharp, double r, Choice is_rounded) {
+  Ring ring;
+  for (std::size_t i = 0; i < sharp.size(); ++i) {
+    const Vertex &corner = sharp[i];
+    if (!is_rounded(corner)) {
+      ring.push_back(corner);
+      continue;
+    }
+    ring.push_back(tangent_point(corner, sharp[i - 1], r));
+    ring.push_back(tangent_point(corner, sharp[i + 1], r));
+    ring.back().arc = r;
+  }
+  return ring;
 }
 
 Section rolled(const float *d) {
@@ -105,21 +128,29 @@ Section rolled(const float *d) {
       }
     }
   }
+  const auto at_web = [&](const Vertex &corner) { return std::fabs(corner.x) < 0.5 * B; };
+  section.outline[0] = rounded(section.outline[0], R, at_web);
+  return section;
+}
 
-  Ring rounded;
-  const Ring sharp = std::move(section.outline[0]);
-  for (std::size_t i = 0; i < sharp.size(); ++i) {
-    const Vertex &corner = sharp[i];
-    const bool at_web = std::fabs(corner.x) < 0.5 * B;
-    if (!at_web) {
-      rounded.push_back(corner);
-      continue;
+// The toes are sharp.
+Section angle(const float *d) {
+  const float B = d[0], H = d[1], T = d[2], R = d[3];
+  const float x = 0.5F * B, y = 0.5F * H;
+  const std::vector<float> xs = {-x, -x, x, x, T - x, T - x};
+  const std::vector<float> ys = {y, -y, -y, T - y, T - y, y};
+  Section section;
+  section.parts.push_back(polygon_part(1, xs, ys));
+  Ring ring;
+  for (std::size_t i = 0; i < xs.size(); ++i) ring.push_back({xs[i], ys[i]});
+  if (R > 0) {
+    for (const Part &part : fillet(T - x, y - T, R)) {
+      section.parts.push_back(mirrored(part, false, true));
     }
-    rounded.push_back(tangent_point(corner, sharp[i - 1], R));
-    rounded.push_back(tangent_point(corner, sharp[i + 1], R));
-    rounded.back().arc = R;
+    const Vertex root = ring[4];
+    ring = rounded(ring, R, [&](const Vertex &v) { return v.x == root.x && v.y == root.y; });
   }
-  section.outline[0] = std::move(rounded);
+  section.outline.push_back(std::move(ring));
   return section;
 }
 
@@ -193,6 +224,13 @@ const char *fault_of_box(const float *d) {
 const char *fault_of_rhs(const float *d) {
   const auto [B, H, T] = first<3>(d);
   if (2 * T >= std::min(B, H)) return "walls T leave no room inside B and H";
+  return nullptr;
+}
+
+const char *fault_of_angle(const float *d) {
+  const auto [B, H, T, R] = first<4>(d);
+  if (T >= std::min(B, H)) return "legs are as thick as one of them is long, T";
+  if (T + R > std::min(B, H)) return "fillet R does not fit between the legs";
   return nullptr;
 }
 
@@ -288,6 +326,12 @@ const std::vector<Profile> &profiles() {
        {"B", "H", "T"},
        fault_of_rhs,
        [](const float *d) { return section_of(frame(trvsec_rhs, d[0], d[1], d[2])); }},
+      {"l",
+       "angle with sharp toes and a root fillet, or without",
+       {"B", "H", "T", "R"},
+       fault_of_angle,
+       angle,
+       {"R"}},
       {"l2",
        "two equal angles back to back",
        {"B", "H", "G", "T", "TV"},

@@ -58,6 +58,7 @@ OUTLINES = {
     "rhs 120 200 7.5": (
         [(0, 120, 0, 7.5), (0, 120, 192.5, 200), (0, 7.5, 7.5, 192.5),
          (112.5, 120, 7.5, 192.5)], 1, 1),
+    "l 150 100 12 0": ([(0, 12, 0, 100), (12, 150, 0, 12)], 1, 0),
     "l2 100 150 12 10 14": (
         [(-106, -6, 140, 150), (6, 106, 140, 150), (-20, -6, 0, 140), (6, 20, 0, 140)], 2, 0),
     "tab 500 400 300 60 15 10 12": (
@@ -88,6 +89,7 @@ BAD_INPUT = {
     "h1b 250 200 160 9 200 8 15": "flanges T1 and T2", "h1b 150 200 160 9 22 8 15": "cover plate",
     "h1b 250 200 160 9 22 170 15": "web TW", "box 3000 2000 20 25 40 12 1600": "flanges TT",
     "box 3000 1600 20 25 1500 12 1600": "webs", "l2 100 150 12 10 140": "TV",
+    "l 100 60 60 0": "thick", "l 100 60 50 12": "fillet R",
     "l2 100 150 12 160 14": "horizontal leg T", "tab 500 400 300 390 15 10 12": "bottom plate",
     "tab 500 400 300 60 15 150 12": "webs TW", "tab 200 400 300 60 15 10 12": "top plate",
     "h2b 300 240 260 100 140 12 15": "webs TW1", "h2b 300 240 260 10 30 260 15": "middle plate",
@@ -161,7 +163,8 @@ class SectionProperties(unittest.TestCase):
             self.assertLess(f["xm"], -30)  # beyond the web
             for ending in ("0 0 1", "0 0 0 x 2", "0 0 0 0 2"):
                 self.assertEqual(answer(PLATES + ending).returncode, 2)
-            self.assertNotIn("It", json.loads(answer(PLATES + "78 -75 78 75 2").stdout))
+            for closing in ("78 -75 78 75 2", "78 -75 20 99 2", "78 -75 20 120 2"):
+                self.assertNotIn("It", json.loads(answer(PLATES + closing).stdout))
 
     def test_rolled_sections_have_the_published_values(self):
         for name, (dimensions, *published) in ROLLED.items():
@@ -172,6 +175,15 @@ class SectionProperties(unittest.TestCase):
                     digits = len(figure.split("e")[0].replace(".", ""))
                     self.assertEqual(float(f"{value:.{digits}g}"), float(figure))
                 self.assertEqual((f["Ixy"], f["alpha"], f["I1"] > f["I2"]), (0, 0, True))
+
+    def test_an_angle_has_the_published_values(self):
+        # EN 10056-1. Its toes have the radius 6, here they are sharp: two spandrels are taken off.
+        f = figures("l 100 100 10 12")
+        spandrel, inset = (1 - math.pi / 4) * 36, 6 * (10 - 3 * math.pi) / (12 - 3 * math.pi)
+        x, y = 50 - inset - f["xs"], -40 - inset - f["ys"]  # of one, from the centroid
+        self.assertAlmostEqual((f["area"] - 2 * spandrel) / 1e2, 19.2, delta=0.05)
+        self.assertAlmostEqual((f["I1"] - spandrel * (x - y) ** 2) / 1e4, 280, delta=0.5)
+        self.assertAlmostEqual((f["I2"] - spandrel * (x + y) ** 2) / 1e4, 73.0, delta=0.05)
 
     def test_outlines_are_the_sum_of_their_plates(self):
         for profile, (plates, _, _) in OUTLINES.items():
