@@ -178,7 +178,7 @@ BendingFigures bending_figures(const PlateArrays &plates, const PlateMoments &m)
   const Spread sideways(plates, Spread::Axis::x);
   const Range height = upwards.range();
   const Range width = sideways.range();
-  const PrincipalMoments principal = principal_moments(m.xx, m.yy, m.xy);
+  const PrincipalAxes principal = principal_axes(m.xx, m.yy, m.xy);
   BendingFigures f;
   f.A = m.area;
   f.xs = m.xs;

@@ -7,7 +7,7 @@
 
 namespace trelvin {
 
-PrincipalMoments principal_moments(double Ix, double Iy, double Ixy) {
+PrincipalAxes principal_axes(double Ix, double Iy, double Ixy) {
   // Sums that should cancel leave some rounding, which must not turn the axes.
   const double rounding = 1e-8 * (Ix + Iy);
   if (!(std::fabs(Ixy) > rounding)) return {Ix, Iy, 0};

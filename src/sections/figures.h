@@ -26,11 +26,11 @@ struct TorsionFigures {
   [[nodiscard]] std::array<double, 6> in_order() const { return {It, Wt, xm, ym, Iw, r0}; }
 };
 
-struct PrincipalMoments {
+struct PrincipalAxes {
   double first, second;
   double alpha;  // axis 1 from the x axis, within an eighth of a turn
 };
 
-PrincipalMoments principal_moments(double Ix, double Iy, double Ixy);
+PrincipalAxes principal_axes(double Ix, double Iy, double Ixy);
 
 }  // namespace trelvin
