@@ -1,0 +1,40 @@
+// Where lines of space meet planes and each other.
+#pragma once
+
+#include "space/planes.h"
+#include "vectors/angles.h"
+#include "vectors/three_points.h"
+#include "vectors/vectors.h"
+
+namespace trelvin {
+
+struct PlaneIntersection {
+  DirectionRelation relation;  // of the line and the normal
+  Point3 point;                // unless they are perpendicular, or one is null
+
+  explicit operator bool() const {
+    return relation != DirectionRelation::perpendicular && relation != DirectionRelation::null;
+  }
+};
+
+inline PlaneIntersection intersect(Point3 p, Vector3 u, const Plane &plane) {
+  const PlaneIntersection none = {relation_of_directions(u, plane.normal()), {}};
+  if (!none) return none;
+  const Real t = -residual(plane, p) / dot(plane.normal(), u);
+  return {none.relation, {p.x + u.x * t, p.y + u.y * t, p.z + u.z * t}};
+}
+
+struct SpaceIntersection {
+  PlaneOfLinesStatus status;
+  Vector3 a, c;  // the lines' points, from the first of them
+  Point3 point;
+
+  explicit operator bool() const { return status == PlaneOfLinesStatus::done; }
+};
+
+// Of the lines from a along u and from c along w. The point of parallel lines is `instead`, by local
+// coordinates.
+SpaceIntersection intersect(Point3 a, Vector3 u, Point3 c, Vector3 w, Point2 instead,
+                            LastCosine &last);
+
+}  // namespace trelvin

@@ -1,0 +1,58 @@
+// Straight lines of space.
+#pragma once
+
+#include <optional>
+
+#include "vectors/three_points.h"
+#include "vectors/vectors.h"
+
+namespace trelvin {
+
+// The line through two points, and the sense from the first to the second.
+struct SpaceLine {
+  Point3 start, end;
+  [[nodiscard]] Vector3 along() const { return end - start; }
+};
+
+enum class SpaceLineRelation : Integer {
+  crossing,
+  parallel,
+  parallel_opposite,
+  same,
+  same_opposite,
+  perpendicular,  // and crossing
+  skew,
+  null
+};
+
+// Runs the three-point test twice, on the first line with the start and the end of the second.
+SpaceLineRelation relation_of_lines(const SpaceLine &first, const SpaceLine &second,
+                                    LastCosine &last);
+
+// No scaling: the product grows with the lengths.
+inline bool span_space(Vector3 u, Vector3 v, Vector3 w) {
+  return significant(determinant(u, v, w));
+}
+
+// Taken from start - q, which has start.y in place of start.z.
+inline Real distance(const SpaceLine &line, Point3 q) {
+  const Vector3 u = line.along();
+  if (negligible(u)) return distance(line.start, q);
+  const Vector3 v = {line.start.x - q.x, line.start.y - q.y, line.start.y - q.z};
+  return length(cross(v, u)) / length(u);
+}
+
+// In the plane of both, whose normal is turned towards +y, else +z, else +x.
+Real signed_distance(const SpaceLine &line, Point3 q, LastCosine &last);
+
+struct CarriedPoint {
+  SpaceLineRelation relation;  // of the lines from both points to P
+  Point3 point;
+};
+
+// Moves P and q1 and keeps the place of q2 on their line; nothing where they are not on one line, or
+// q1 is at P.
+std::optional<CarriedPoint> carry_along(Point3 p, Point3 q1, Point3 q2, Vector3 move_of_p,
+                                        Vector3 move_of_q1, LastCosine &last);
+
+}  // namespace trelvin

@@ -1,0 +1,29 @@
+// Turning points about the axes.
+#pragma once
+
+#include "vectors/transforms.h"
+
+namespace trelvin {
+
+// Turns the first coordinates towards the second, one point after the other.
+inline void turn(PlaneArrays points, Integer n, Turn by) {
+  for (Integer i = 0; i < n; ++i) by.apply(points.x[i], points.y[i]);
+}
+
+// Turns about the axes x, y and z, in this order.
+struct AxisTurns {
+  Turn x, y, z;
+
+  [[nodiscard]] Point3 of(Point3 p) const {
+    x.apply(p.y, p.z);
+    y.apply(p.x, p.z);  // x towards z, not z towards x: left-handed, unlike the others
+    z.apply(p.x, p.y);
+    return p;
+  }
+};
+
+inline AxisTurns turns_by(Real ax, Real ay, Real az) {
+  return {turn_by(ax), turn_by(ay), turn_by(az)};
+}
+
+}  // namespace trelvin
