@@ -5,8 +5,12 @@
  * A circle in equation form is the triple (D, E, F) of x*x + y*y + D*x + E*y + F = 0. An arc is
  * given by its centre C and its ends A and B, B as far from C as A within the routine's tolerance.
  *
- * A side is an Integer that is taken as a factor: its sign picks one of two points, and zero counts
- * as stated.
+ * Far from the origin the equation loses digits: F is the small difference of large squares, and
+ * all routines that cut a line with a circle go through it, trvcer7 excepted.
+ * Take an origin near the circle where its distance is many times the radius (trvtra).
+ *
+ * trvapp and trvcer10 run the three-point test (trvpsl) and so read and rewrite the cosine that it
+ * retains: a call of theirs can decide a later one of trvpsl.
  */
 #ifndef TRELVIN_CIRCLES_H
 #define TRELVIN_CIRCLES_H
@@ -18,6 +22,8 @@
 /**
  * Circle from its centre and radius: D = -2*xc, E = -2*yc, F = xc*xc + yc*yc - r*r.
  *
+ * Retains: nothing.
+ *
  * @param[in]  xc,yc  centre
  * @param[in]  r      radius, of any sign
  * @param[out] D,E,F  circle
@@ -27,28 +33,33 @@ TRELVIN_ROUTINE trvcer(TrvIn xc, TrvIn yc, TrvIn r, TrvOut D, TrvOut E, TrvOut F
 /**
  * Intersection of a line and a circle.
  *
- * The line is solved for x where |a| is above the tolerance, else it is taken as horizontal. The
- * points are one when the discriminant of the quadratic is within the tolerance; it grows with the
- * fourth power of the coordinates, so small circles are touched rather than cut. A NaN discriminant
- * gives two points that are NaN.
+ * The line is solved for x where |a| is above the tolerance, else it is taken as horizontal. There
+ * is one point when the discriminant of the quadratic is within the tolerance. It grows with the
+ * fourth power of a and b and the square of the radius, so small circles are touched rather than
+ * cut. A NaN discriminant gives two points with NaN.
+ *
+ * Retains: nothing.
  *
  * @param[in]  a,b,c  line a*x + b*y + c = 0
  * @param[in]  D,E,F  circle
- * @param[out] n      number of points, 0, 1 or 2
- * @param[out] x1,y1  first point, of the larger root; unwritten when n is 0
+ * @param[out] n      number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it
+ * @param[out] x1,y1  first point, of the larger root: the larger y, or the larger x where the line
+ *                    is taken as horizontal; unwritten when n is 0
  * @param[out] x2,y2  second point; unwritten when n is 0 or 1
  */
 TRELVIN_ROUTINE trvlci(TrvIn a, TrvIn b, TrvIn c, TrvIn D, TrvIn E, TrvIn F, TrvIntOut n, TrvOut x1,
                        TrvOut y1, TrvOut x2, TrvOut y2);
 
 /**
- * Intersection of two circles: trvlci of their radical line and the first circle.
+ * Intersection of two circles: that of their radical line with the first circle (trvlci).
+ *
+ * Retains: nothing.
  *
  * @param[in]  D1,E1,F1  first circle
  * @param[in]  D2,E2,F2  second circle
- * @param[out] n         number of points; 0 for concentric circles: |D2 - D1| + |E2 - E1| within
- *                       the tolerance
- * @param[out] x1,y1     first point; unwritten when n is 0
+ * @param[out] n         number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is
+ *                       within the tolerance; 1 the circles touch; 2 they cut each other
+ * @param[out] x1,y1     first point, as of trvlci; unwritten when n is 0
  * @param[out] x2,y2     second point; unwritten when n is 0 or 1
  */
 TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F2, TrvIntOut n,
@@ -60,17 +71,19 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * A horizontal chord (|y2 - y1| < 1e-5) writes both candidates and the choice but leaves n at 0;
  * its candidates' y are NaN where the radius is less than half the chord.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
  * @param[in]  side   positive picks the candidate on the side of trvln3's normal of P1 and P2,
  *                    negative the other one, zero the first candidate
  * @param[in]  r      radius
- * @param[out] xa,ya  first candidate
- * @param[out] xb,yb  second candidate
- * @param[out] xc,yc  chosen centre; unwritten where a NaN decides
- * @param[out] n      number of centres. 0: P1 = P2 exactly, r at most 1e-5, r less than half the
- *                    chord, or a NaN discriminant; nothing else is written then, but for a
- *                    horizontal chord. 1: both candidates are the same. 2: two
+ * @param[out] xa,ya  first candidate; unwritten when n is 0, unless the chord is horizontal
+ * @param[out] xb,yb  second candidate; likewise
+ * @param[out] xc,yc  chosen centre; likewise, and unwritten where a NaN decides
+ * @param[out] n      number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the
+ *                    chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates
+ *                    are the same point; 2 two
  */
 TRELVIN_ROUTINE trvcer2(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, TrvIn r, TrvOut xa,
                         TrvOut ya, TrvOut xb, TrvOut yb, TrvOut xc, TrvOut yc, TrvIntOut n);
@@ -78,13 +91,21 @@ TRELVIN_ROUTINE trvcer2(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, T
 /**
  * Circle through two points with a given sagitta.
  *
+ * r = d / (2*sin(pi - 2*atan(d / (2*h)))) for the chord d, which is h/2 + d*d/(8*h).
+ *
+ * Retains: nothing.
+ *
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
- * @param[in]  side   as trvcer2
+ * @param[in]  side   positive picks the centre on the side of trvln3's normal of P1 and P2,
+ *                    negative the other one, zero the first candidate of trvcer2
  * @param[in]  h      sagitta: height of the arc above the middle of the chord
  * @param[out] r      radius; unwritten when h < 1e-5
- * @param[out] xc,yc  centre; unwritten when h < 1e-5 or as trvcer2 leaves it
- * @param[out] n      0 when h < 1e-5; else as trvcer2, 0 for a horizontal chord included
+ * @param[out] xc,yc  chosen centre; unwritten when n is 0, unless the chord is horizontal, or where
+ *                    a NaN decides
+ * @param[out] n      number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or
+ *                    less than half the chord, the discriminant is NaN, or the chord is horizontal;
+ *                    1 both candidates are the same point; 2 two
  */
 TRELVIN_ROUTINE trvcer1(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, TrvIn h, TrvOut r,
                         TrvOut xc, TrvOut yc, TrvIntOut n);
@@ -93,17 +114,23 @@ TRELVIN_ROUTINE trvcer1(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, T
  * Classifies a circle cut by a line, with a trace.
  *
  * The region is that of the centre's y, whatever the line; the line decides only whether the circle
- * is cut. Each call appends three lines to OUTPUT.TXT in the current directory, in Windows-1253: a
- * heading, the class, and what it means, with the points of a cut circle. The file is opened by the
- * first call, never emptied, and complete after each call; where it cannot be written, the call
- * computes as always and the next one tries again.
+ * is cut. Each call appends three lines to OUTPUT.TXT, in Windows-1253: a heading, the class, and
+ * what it means, with the points of a cut circle.
  *
- * @param[in]  X,Y       arrays of 2: the centre, and a point on the circle
+ * The first call opens the file in the directory that is current then; it stays open, wherever the
+ * current directory goes, until the library is unloaded. It is never emptied, and complete after
+ * each call. The record of a call goes out in one write, behind what other processes append. Where
+ * it cannot be written the call computes as always and the file is closed; the next call opens it
+ * again and starts on a line of its own.
+ *
+ * Retains: the open trace file.
+ *
+ * @param[in]  X,Y       arrays of 2: the centre, then a point on the circle
  * @param[in]  a,b,c     line a*x + b*y + c = 0
  * @param[out] position  1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3
  *                       cut, centre below it; 4 cut, centre on or above it
- * @param[out] x1,y1     first intersection; unwritten where trvlci finds none
- * @param[out] x2,y2     second intersection; unwritten where trvlci finds none or one
+ * @param[out] x1,y1     first intersection (trvlci); unwritten where the line misses the circle
+ * @param[out] x2,y2     second intersection; unwritten where it misses or touches the circle
  */
 TRELVIN_ROUTINE trvcin(TrvArrayIn X, TrvArrayIn Y, TrvIn a, TrvIn b, TrvIn c, TrvIntOut position,
                        TrvOut x1, TrvOut y1, TrvOut x2, TrvOut y2);
@@ -112,6 +139,8 @@ TRELVIN_ROUTINE trvcin(TrvArrayIn X, TrvArrayIn Y, TrvIn a, TrvIn b, TrvIn c, Tr
 
 /**
  * Turns a point about a centre.
+ *
+ * Retains: nothing.
  *
  * @param[in]    x0,y0   centre
  * @param[inout] x,y     point; comes back rounded by the way to the centre and back; relative to
@@ -127,8 +156,9 @@ TRELVIN_ROUTINE trvcer3(TrvIn x0, TrvIn y0, TrvInOut x, TrvInOut y, TrvIn angle,
  * Point of an arc above a station of its chord, perpendicular to the chord.
  *
  * Lengths are compared with 0.001. Where the perpendicular touches the circle (trvlci), the second
- * intersection is that of the previous call; where it misses it, both are. They are retained, zero
- * after loading.
+ * intersection is that of an earlier call; where it misses it, both are.
+ *
+ * Retains: both intersections, shared with no routine, zero after loading.
  *
  * @param[in]  xc,yc   centre C
  * @param[in]  xa,ya   first end A
@@ -144,35 +174,49 @@ TRELVIN_ROUTINE trvcer8(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
                         TrvIn d, TrvOut x, TrvOut y, TrvIntOut status);
 
 /**
- * Point of an arc on the ray from its centre through a station of its chord; otherwise as trvcer8.
+ * Point of an arc on the line from its centre through a station of its chord.
+ *
+ * Lengths are compared with 0.001. Where the line touches the circle (trvlci), the second
+ * intersection is that of an earlier call; where it misses it, both are. Where the station is at
+ * the centre there is no line, and the point is the second intersection of an earlier call.
+ *
+ * Retains: both intersections, shared with no routine, zero after loading.
  *
  * @param[in]  xc,yc   centre C
  * @param[in]  xa,ya   first end A
  * @param[in]  xb,yb   second end B
- * @param[in]  side    as trvcer8
+ * @param[in]  side    with the first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
+ *                     negative, else the other one
  * @param[in]  d       station: distance from A along the chord
  * @param[out] x,y     point; unwritten when status is 0
- * @param[out] status  1 done; 0 as trvcer8, and where d is closer than 0.001 to the diameter
+ * @param[out] status  1 done; 0 the radius or the chord is at most 0.001, the radii of A and B
+ *                     differ by more, the station is not farther than that from both ends, or d is
+ *                     closer than that to the diameter
  */
 TRELVIN_ROUTINE trvcer6(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn yb, TrvIntIn side,
                         TrvIn d, TrvOut x, TrvOut y, TrvIntOut status);
 
 /**
- * Points of an arc above the two edges of a strip on its chord; otherwise as trvcer8.
+ * Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
  *
- * Both edges share one pair of intersections: what the second edge does not find is what the first
- * one has left.
+ * Lengths are compared with 0.001. Both edges share one pair of intersections: where a
+ * perpendicular touches the circle (trvlci), the second intersection is that of the edge or the
+ * call before; where it misses it, both are.
+ *
+ * Retains: both intersections, shared with no routine, zero after loading.
  *
  * @param[in]  xc,yc   centre C
  * @param[in]  xa,ya   first end A
  * @param[in]  xb,yb   second end B
- * @param[in]  side    as trvcer8
- * @param[in]  d       station of the strip's middle
+ * @param[in]  side    with an edge's first intersection Q: Q itself where side * ((A - C) x (Q -
+ *                     C)) is negative, else the other one
+ * @param[in]  d       station of the strip's middle: distance from A along the chord
  * @param[in]  w       width of the strip
  * @param[out] x1,y1   point above the station d - w/2; unwritten when status is 0
  * @param[out] x2,y2   point above the station d + w/2; unwritten when status is 0
- * @param[out] status  1 done; 0 as trvcer8, and where the width is at most 0.001 or the strip comes
- *                     closer than 0.001 to an end of the chord
+ * @param[out] status  1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is
+ *                     at most 0.001, the radii of A and B differ by more, or the strip comes closer
+ *                     than that to an end of the chord
  */
 TRELVIN_ROUTINE trvcer9(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn yb, TrvIntIn side,
                         TrvIn d, TrvIn w, TrvOut x1, TrvOut y1, TrvOut x2, TrvOut y2,
@@ -183,10 +227,13 @@ TRELVIN_ROUTINE trvcer9(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
 /**
  * Lengths of the two arcs between two points of a circle.
  *
+ * Retains: nothing.
+ *
  * @param[in]  xc,yc   centre
  * @param[in]  xa,ya   A; its distance from the centre is the radius
  * @param[in]  xb,yb   B
- * @param[out] s1      length of the shorter arc; unwritten when status is 0
+ * @param[out] s1      length of the shorter arc: the angle at C (trvphi3) times the radius;
+ *                     unwritten when status is 0
  * @param[out] s2      length of the longer arc; unwritten when status is 0
  * @param[out] status  1 done; 0 the radius, or the distance of A and B, is within the tolerance
  */
@@ -196,8 +243,11 @@ TRELVIN_ROUTINE trvarc1(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
 /**
  * Signed angle of a direction against the x axis.
  *
+ * Retains: nothing.
+ *
  * @param[in]  dx,dy  direction
- * @param[out] phi    angle in radians: negative where dy is below -1e-5; positive or zero elsewhere
+ * @param[out] phi    angle in radians in [-pi, pi]: negative where dy is below -1e-5, positive or
+ *                    zero elsewhere; 0 where the direction's length is within the tolerance
  */
 TRELVIN_ROUTINE trvaxph(TrvIn dx, TrvIn dy, TrvOut phi);
 
@@ -206,6 +256,8 @@ TRELVIN_ROUTINE trvaxph(TrvIn dx, TrvIn dy, TrvOut phi);
  *
  * Distances are taken from the segment's line in the plane of x and y, lengths in space. A distance
  * greater than the length it belongs to gives a NaN station.
+ *
+ * Retains: nothing.
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1, start of the segment
@@ -224,17 +276,20 @@ TRELVIN_ROUTINE trvhin(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 /**
  * Marks points by a sector.
  *
- * A point is marked 2 where its signed distances from the rays' lines (trvln3, trvlds) have
- * opposite signs, or where its foot on the first line lies beyond the vertex. Where the first ray
- * is too short for trvlni to find the foot, that of the previous point stands; it is retained, zero
- * after loading.
+ * A point is outside where its signed distances from the rays' lines (trvln3, trvlds) have opposite
+ * signs, or where its foot on the first line lies beyond the vertex (trvpsl). A NaN in a point puts
+ * it inside, one in the vertex or the first ray all points; with one in the second ray the foot
+ * decides alone. Takes time in proportion to n.
+ *
+ * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
  *
  * @param[in]  x0,y0  vertex P0
  * @param[in]  x1,y1  point on the first ray
  * @param[in]  x2,y2  point on the second ray
  * @param[in]  n      number of points
  * @param[in]  X,Y    arrays of n: points
- * @param[out] mark   array of n: 1 or 2; -1 for all where the rays' angle is within the tolerance
+ * @param[out] mark   array of n: 1 inside; 2 outside; -1 no sector: the rays' angle is within the
+ *                    tolerance, which it is for all points alike
  */
 TRELVIN_ROUTINE trvapp(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn n,
                        TrvArrayIn X, TrvArrayIn Y, TrvIntArrayOut mark);
@@ -246,13 +301,16 @@ TRELVIN_ROUTINE trvapp(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  *
  * Of the two points in which the line meets the circle, the one across the chord from the centre;
  * points on the chord count as across. A line that misses the circle is not refused: the result of
- * the previous call stands, carried through this call's frame; it is retained, zero after loading.
+ * an earlier call stands, as if it had been found in this chord's frame, and is carried out of it.
+ *
+ * Retains: the point, shared with no routine, zero after loading.
  *
  * @param[inout] xc,yc   centre C; rewritten with its value to rounding when status is 1
  * @param[inout] xa,ya   first end A; likewise
  * @param[inout] xb,yb   second end B; likewise
  * @param[in]    s       station: distance from A along the chord, beyond its ends too
- * @param[in]    angle   direction of the line in radians, measured from the chord (trvln1)
+ * @param[in]    angle   direction of the line in radians, measured from the chord A to B,
+ *                       counter-clockwise (trvln1)
  * @param[out]   xo,yo   point; unwritten when status is 0
  * @param[out]   status  1 done; 0 the radius or the chord is within the tolerance, the radii of A
  *                       and B differ by more, A and B coincide, or the line touches the circle
@@ -264,19 +322,22 @@ TRELVIN_ROUTINE trvcer4(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  * Crossing of an arc's chord with a line through its turned end.
  *
  * A is turned about the centre; the line runs through the turned point. Where it is parallel to the
- * chord the crossing of the previous call stands, in the chord's frame; it is retained, zero after
- * loading.
+ * chord, or along it, the crossing of an earlier call stands, in the chord's frame.
+ *
+ * Retains: the crossing, shared with no routine, zero after loading; and the cosine of the
+ * three-point test, shared with all that run it (trvpsl).
  *
  * @param[inout] xc,yc   centre C; rewritten with its value to rounding unless refused
  * @param[inout] xa,ya   first end A; likewise
  * @param[inout] xb,yb   second end B; likewise
  * @param[in]    turn    angle in radians by which A is turned about C, counter-clockwise
- * @param[in]    angle   direction of the line in radians, measured from the chord (trvln1)
+ * @param[in]    angle   direction of the line in radians, measured from the chord A to B,
+ *                       counter-clockwise (trvln1)
  * @param[out]   xo,yo   crossing; unwritten when refused
  * @param[out]   status  0 refused: the radius or the chord is within the tolerance, or the radii of
- *                       A and B differ by more. 0 as well where the crossing is on the chord's line
- *                       but not at A or B (trvpsl above 2); else 0 a crossing, 1 the same line, 2
- *                       parallel
+ *                       A and B differ by more, but also a crossing, and a retained one that is on
+ *                       the chord's line but not at A or B (trvpsl above 2); 1 the line runs along
+ *                       the chord; 2 it is parallel to it
  */
 TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                          TrvInOut yb, TrvIn turn, TrvIn angle, TrvOut xo, TrvOut yo,
@@ -287,10 +348,12 @@ TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, Trv
  *
  * T is at the distance e from the chord's middle towards the arc's middle point. Of the two points
  * in which the line from the station through T meets the circle, the one on T's side of the chord.
- * A line that misses the circle is not refused: the result of the previous call stands, carried
- * through this call's frame. Where A and B, or the chord's middle and the arc's, agree within the
- * tolerance in each coordinate yet lie farther apart, the previous call's station and T stand. All
- * are retained, zero after loading.
+ * A line that misses the circle is not refused: the result of an earlier call stands, as if it had
+ * been found in this chord's frame, and is carried out of it. Where A and B, or the chord's middle
+ * and the arc's, agree within the tolerance in each coordinate yet lie farther apart, the station,
+ * or T, of an earlier call stands.
+ *
+ * Retains: the station, T and the point, shared with no routine, zero after loading.
  *
  * @param[inout] xc,yc   centre C; rewritten with its value to rounding when status is 1
  * @param[inout] xa,ya   first end A; likewise, and also when the line touches the circle
@@ -311,24 +374,30 @@ TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  * Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
  * chord.
  *
- * T is on the parallel at the distance e from the chord towards the arc's middle point, O on the
- * arc on that side. Lengths, and the sine of the angle, are compared with 1e-4.
+ * T is on the parallel at the distance e from the chord on the given side, O on the circle on that
+ * side. Formed in double precision and rounded once. Lengths, and the sine of the angle, are
+ * compared with 1e-4; radii may differ by the rounding of the coordinates besides, 3.6e-7 times the
+ * largest coordinate of the arc. A NaN is refused.
  *
- * @param[inout] xc,yc   centre C; rewritten with its value to rounding when status is 1
+ * Retains: nothing.
+ *
+ * @param[inout] xc,yc   centre C; comes back as it went in
  * @param[inout] xa,ya   first end A; likewise
  * @param[inout] xb,yb   second end B; likewise
  * @param[in]    s       station: distance from A along the chord, not negative
- * @param[in]    side    factor of the half angle that turns A clockwise to the arc's middle point
- * @param[in]    e       distance of the parallel from the chord, not negative
- * @param[in]    angle   direction of the line in radians, measured from the chord
- * @param[out]   xp,yp   station P
- * @param[out]   xt,yt   crossing T with the parallel
- * @param[out]   xo,yo   crossing O with the arc
- * @param[out]   len     length of PO
- * @param[out]   status  1 done; 0 refused, nothing else is written: s or e is negative, the radius,
- *                       the chord or its rest beyond s is at most 1e-4, the radii of A and B differ
- *                       by more, side picks no side, the line is parallel to the chord, or it meets
- *                       the circle in fewer than two points (trvlci)
+ * @param[in]    side    only its sign counts: positive picks the left of the chord A to B, to which
+ *                       clockwise from A the circle runs; negative the right
+ * @param[in]    e       distance of the parallel from the chord, not negative; 0 puts T at P
+ * @param[in]    angle   direction of the line in radians, measured from the chord A to B,
+ *                       counter-clockwise; the line runs both ways
+ * @param[out]   xp,yp   station P; unwritten when status is 0
+ * @param[out]   xt,yt   crossing T with the parallel; unwritten when status is 0
+ * @param[out]   xo,yo   crossing O with the circle about C through A; unwritten when status is 0
+ * @param[out]   len     length of PO; unwritten when status is 0
+ * @param[out]   status  1 done; 0 refused: s or e is negative, the radius or the chord's rest
+ *                       beyond s is at most 1e-4, the radii of A and B differ by more and the
+ *                       rounding, side is 0, the line is parallel to the chord, or it cuts less
+ *                       than twice 1e-4 off the circle
  */
 TRELVIN_ROUTINE trvcer7(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvIn angle, TrvOut xp,
@@ -342,16 +411,18 @@ TRELVIN_ROUTINE trvcer7(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  *
  * Formed in double precision and rounded once.
  *
+ * Retains: nothing.
+ *
  * @param[in]  x0,y0    corner P0
  * @param[in]  x1,y1    P1
  * @param[in]  x2,y2    P2
  * @param[in]  r        radius
- * @param[out] xc,yc    centre of the arc
- * @param[out] xt1,yt1  where the arc touches the segment to P1
- * @param[out] xt2,yt2  where it touches the segment to P2
- * @param[out] status   1 done; 0 refused, nothing else is written: r or a segment is not above the
- *                      tolerance, the sine of the angle is within it, or a tangent point falls
- *                      beyond its segment by more
+ * @param[out] xc,yc    centre of the arc; unwritten when status is 0
+ * @param[out] xt1,yt1  where the arc touches the segment to P1; unwritten when status is 0
+ * @param[out] xt2,yt2  where it touches the segment to P2; unwritten when status is 0
+ * @param[out] status   1 done; 0 refused: r or a segment is not above the tolerance, the sine of
+ *                      the angle between the segments is within it, or the arc touches one beyond
+ *                      its end by more
  */
 TRELVIN_ROUTINE trvard(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIn r,
                        TrvOut xc, TrvOut yc, TrvOut xt1, TrvOut yt1, TrvOut xt2, TrvOut yt2,
@@ -360,7 +431,9 @@ TRELVIN_ROUTINE trvard(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
 /**
  * Bounding box of the arc that a point sweeps about a centre.
  *
- * Formed in double precision and rounded once.
+ * Formed in double precision and rounded once. A NaN in any input makes all outputs NaN.
+ *
+ * Retains: nothing.
  *
  * @param[in]  xc,yc      centre
  * @param[in]  xa,ya      start of the arc

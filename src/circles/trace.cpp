@@ -1,12 +1,25 @@
 #include "circles/trace.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <cstdio>
+
+#include "circles/decimal.h"
+
+#ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#endif
 
 namespace trelvin {
 namespace {
+
+constexpr const char *file_name = "OUTPUT.TXT";
 
 #ifdef _WIN32
 constexpr std::string_view line_end = "\r\n";
@@ -14,40 +27,38 @@ constexpr std::string_view line_end = "\r\n";
 constexpr std::string_view line_end = "\n";
 #endif
 
-constexpr std::size_t integer_width = 12;
+constexpr std::size_t digit_width = 12;
 constexpr std::size_t real_width = 16;
 
-// Open from the first record to the end of the process or the unloading of the library.
-class TraceFile {
+// The system's last error, which stays as the host had it.
+class HostError {
  public:
-  TraceFile() = default;
-  TraceFile(const TraceFile &) = delete;
-  TraceFile &operator=(const TraceFile &) = delete;
-  ~TraceFile() { close(); }
-
-  void append(const char *bytes, std::size_t size) {
-    if (file_ == nullptr) file_ = std::fopen("OUTPUT.TXT", "ab");
-    if (file_ == nullptr) return;
-    if (std::fwrite(bytes, 1, size, file_) != size || std::fflush(file_) != 0) close();
-  }
+#ifdef _WIN32
+  HostError() : error_(GetLastError()) {}
+  ~HostError() { SetLastError(error_); }
+#else
+  HostError() : error_(errno) {}
+  ~HostError() { errno = error_; }
+#endif
+  HostError(const HostError &) = delete;
+  HostError &operator=(const HostError &) = delete;
 
  private:
-  void close() {
-    if (file_ != nullptr) std::fclose(file_);
-    file_ = nullptr;
-  }
-
-  std::FILE *file_ = nullptr;
+#ifdef _WIN32
+  DWORD error_;
+#else
+  int error_;
+#endif
 };
-
-TraceFile trace_file;
 
 }  // namespace
 
 TraceRecord &TraceRecord::begin_line() {
-  if (length_ > 0) text(line_end);
+  if (length_ > line_end.size()) end_line();
   return text(" ");
 }
+
+void TraceRecord::end_line() { text(line_end); }
 
 TraceRecord &TraceRecord::text(std::string_view text) {
   const std::size_t size = std::min(text.size(), sizeof buffer_ - length_);
@@ -56,25 +67,25 @@ TraceRecord &TraceRecord::text(std::string_view text) {
   return *this;
 }
 
-TraceRecord &TraceRecord::integer(Integer value) {
-  char digits[integer_width];
-  char *const end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  field({digits, static_cast<std::size_t>(end - digits)}, integer_width);
+TraceRecord &TraceRecord::digit(Integer value) {
+  const char character = static_cast<char>('0' + value);
+  field({&character, 1}, digit_width);
   return *this;
 }
 
 TraceRecord &TraceRecord::real(Real value) {
-  char digits[real_width];
   if (std::isnan(value)) {
     field("NaN", real_width);
   } else if (std::isinf(value)) {
     field(value < 0 ? "-Infinity" : "Infinity", real_width);
   } else {
-    char *const end =
-        std::to_chars(digits, digits + sizeof digits, value, std::chars_format::scientific, 8).ptr;
-    field({digits, static_cast<std::size_t>(end - digits)}, real_width);
+    field(scientific(value).view(), real_width);
   }
   return *this;
+}
+
+std::string_view TraceRecord::lines() const {
+  return {buffer_ + line_end.size(), length_ - line_end.size()};
 }
 
 void TraceRecord::field(std::string_view value, std::size_t width) {
@@ -82,9 +93,49 @@ void TraceRecord::field(std::string_view value, std::size_t width) {
   text(value);
 }
 
-void TraceRecord::append_to_file() {
-  text(line_end);
-  trace_file.append(buffer_, length_);
+void TraceFile::append(const TraceRecord &record) {
+  const HostError host_error;
+  if (!write(torn_ ? record.lines_after_end() : record.lines())) close();
 }
+
+#ifdef _WIN32
+
+bool TraceFile::write(std::string_view bytes) {
+  if (!open_) {
+    handle_ = CreateFileA(file_name, FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                          OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    open_ = handle_ != INVALID_HANDLE_VALUE;
+    if (!open_) return false;
+  }
+  DWORD written = 0;
+  WriteFile(handle_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+  if (written > 0) torn_ = written < bytes.size();
+  return written == bytes.size();
+}
+
+void TraceFile::close() {
+  if (open_) CloseHandle(handle_);
+  open_ = false;
+}
+
+#else
+
+bool TraceFile::write(std::string_view bytes) {
+  if (!open_) {
+    handle_ = ::open(file_name, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
+    open_ = handle_ >= 0;
+    if (!open_) return false;
+  }
+  const ssize_t written = ::write(handle_, bytes.data(), bytes.size());
+  if (written > 0) torn_ = static_cast<std::size_t>(written) < bytes.size();
+  return written == static_cast<ssize_t>(bytes.size());
+}
+
+void TraceFile::close() {
+  if (open_) ::close(handle_);
+  open_ = false;
+}
+
+#endif
 
 }  // namespace trelvin

@@ -38,20 +38,45 @@ constexpr EncodedText<length - 1> windows_1253(const char16_t (&text)[length]) {
 // What one call writes. Lines start with a blank; values stand right-aligned in fixed fields.
 class TraceRecord {
  public:
+  TraceRecord() { end_line(); }
+
   TraceRecord &begin_line();
   TraceRecord &text(std::string_view text);
-  TraceRecord &integer(Integer value);
-  TraceRecord &real(Real value);  // 9 significant digits, which give the same bits back
+  TraceRecord &digit(Integer value);
+  TraceRecord &real(Real value);
+  void end_line();
 
-  // Appends the record to OUTPUT.TXT and makes sure that it is there when the call returns. A
-  // failure goes unreported; the next record tries again.
-  void append_to_file();
+  // The lines, and with the end of a line before them.
+  [[nodiscard]] std::string_view lines() const;
+  [[nodiscard]] std::string_view lines_after_end() const { return {buffer_, length_}; }
 
  private:
   void field(std::string_view value, std::size_t width);
 
-  char buffer_[512];
+  char buffer_[256];
   std::size_t length_ = 0;
+};
+
+// OUTPUT.TXT of the directory that is current at the first record. It stays open from then on.
+class TraceFile {
+ public:
+  // Appends the record in one piece, behind what other processes append, and leaves it there when
+  // the call returns. A failure goes unreported and closes the file; the next record opens it
+  // again, and does not continue a line that the failure may have torn.
+  void append(const TraceRecord &record);
+  void close();
+
+ private:
+#ifdef _WIN32
+  using Handle = void *;
+#else
+  using Handle = int;
+#endif
+  bool write(std::string_view bytes);
+
+  Handle handle_ = {};
+  bool open_ = false;
+  bool torn_ = false;
 };
 
 }  // namespace trelvin

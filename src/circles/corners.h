@@ -1,0 +1,25 @@
+// Rounded corners and the boxes of arcs, formed in double precision and rounded once.
+#pragma once
+
+#include <optional>
+
+#include "vectors/vectors.h"
+
+namespace trelvin {
+
+// The arc that touches two segments from a corner.
+struct RoundedCorner {
+  Point2 centre;
+  Point2 touch1, touch2;
+};
+
+std::optional<RoundedCorner> round_corner(Point2 corner, Point2 p1, Point2 p2, Real radius);
+
+struct Box {
+  Point2 lower, upper;
+};
+
+// Of the arc that a point sweeps about a centre. A NaN anywhere is everywhere in the box.
+Box box_of_sweep(Point2 centre, Point2 start, Real sweep);
+
+}  // namespace trelvin

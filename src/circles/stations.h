@@ -1,0 +1,38 @@
+// Points of an arc that belong to stations of its chord.
+#pragma once
+
+#include <optional>
+
+#include "circles/arcs.h"
+#include "circles/circles.h"
+
+namespace trelvin {
+
+// The crossings of a projecting line and the circle as they were found last. What a line does not
+// find, because it touches or misses the circle, stands as an earlier one found it.
+struct LastCrossings {
+  Point2 first = {};
+  Point2 second = {};
+
+  void take(const Crossings &found) {
+    if (found.count > 0) first = found.first;
+    if (found.count > 1) second = found.second;
+  }
+};
+
+// At the distance d from A along the chord, on the perpendicular to the chord.
+std::optional<Point2> point_above_station(const Arc &arc, Integer side, Real d,
+                                          LastCrossings &last);
+
+// On the ray from the centre instead.
+std::optional<Point2> point_on_ray(const Arc &arc, Integer side, Real d, LastCrossings &last);
+
+// Above both edges of a strip of the width w, with its middle at d.
+struct StripPoints {
+  Point2 first, second;  // as seen from A
+};
+
+std::optional<StripPoints> points_above_strip(const Arc &arc, Integer side, Real d, Real w,
+                                              LastCrossings &last);
+
+}  // namespace trelvin
