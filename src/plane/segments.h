@@ -24,7 +24,8 @@ struct Sector {
   Point2 vertex, first;
   Line first_ray, second_ray;
 
-  // Between the lines, and with its foot on the first ray's side of the vertex.
+  // Between the lines, and with its foot on the first ray's side of the vertex. The perpendicular of
+  // a ray that is longer than the tolerance always crosses it; with a NaN nothing is beyond.
   [[nodiscard]] bool holds(Point2 p, LastCosine &last) const {
     if (signed_distance(first_ray, p) * signed_distance(second_ray, p) < 0) return false;
     const Point2 foot = intersect(perpendicular_through(p, first_ray), first_ray).point;

@@ -1,8 +1,16 @@
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <system_error>
+#ifndef _WIN32
+#include <sys/resource.h>
+#endif
 
 #include "support.h"
 #include "trelvin/circles.h"
@@ -72,8 +80,6 @@ TEST_F(Trace, IsAppendedByteForByte) {
   };
   const std::string below = "\xCD \xC1\xD1\xCD\xC7\xD4\xC9\xCA\xC7 \xD0\xC5\xD1\xC9\xCF\xD7\xC7";
   const std::string larger = segment + "2\xD0-\xD6 \xD3\xD4\xC7" + positive;
-  // The region is that of the centre, whatever the line.
-  expect(classify(1, 7, 5, 0, 1, 0), {1, u, u, u, u}, record("1", circle + positive));
   expect(classify(1, 5, 5, 0, 1, 0), {1, 1, 0, u, u}, record("1", circle + positive));
   expect(classify(1, 0, 5, 0, 1, -7), {2, u, u, u, u}, record("2", circle + below));
   expect(classify(1, -7, 5, 1, 0, -4), {3, 4, -3, 4, -11},
@@ -89,9 +95,47 @@ TEST_F(Trace, IsAppendedByteForByte) {
                                                      ";x3;             NaN;y3;             NaN"));
 }
 
+TEST_F(Trace, RegionIsThatOfTheCentreWhateverTheSideOfTheLine) {
+  for (const int k : {1, -1}) {  // the line's normal turned round, too
+    EXPECT_EQ(classify(1, 7, 5, 0, k, -20 * k)[0], 1);
+    EXPECT_EQ(classify(1, -7, 5, 0, k, 20 * k)[0], 2);
+    EXPECT_EQ(classify(1, -7, 5, 0, k, 9 * k)[0], 3);
+    EXPECT_EQ(classify(1, 7, 5, 0, k, -9 * k)[0], 4);
+  }
+}
+
+TEST_F(Trace, NumbersAreThoseOfTheCLibrary) {
+  std::mt19937 random(3);
+  std::string expected;
+  for (int i = 0; i < 2000; ++i) {
+    const auto bits = static_cast<std::uint32_t>(random() % 0x3F000000U);  // up to 0.5
+    float y = 0;
+    std::memcpy(&y, &bits, sizeof y);
+    const Values found = classify(0, 0, 1, 0, 1, -y);
+    char points[120];
+    std::snprintf(points, sizeof points, ";x2;%16.8e;y2;%16.8e;x3;%16.8e;y3;%16.8e", found[1],
+                  found[2], found[3], found[4]);
+    expected += record("4", segment + "2\xD0-\xD6 \xD3\xD4\xC7" + positive + points);
+  }
+  EXPECT_EQ(trace(), expected);
+}
+
+TEST_F(Trace, StaysWithTheFolderOfTheFirstCall) {
+  const std::string one = record("1", circle + positive);
+  classify(1, 7, 5, 0, 1, 0);
+  std::filesystem::create_directory("other");
+  std::filesystem::current_path("other");
+  classify(1, 7, 5, 0, 1, 0);
+  EXPECT_FALSE(std::filesystem::exists(file_name));
+  std::filesystem::current_path("..");
+  EXPECT_EQ(trace(), one + one);
+}
+
 TEST_F(Trace, CallComputesWithoutAFileAndTheNextTriesAgain) {
   std::filesystem::create_directory(file_name);
+  errno = 7;
   EXPECT_EQ(classify(1, 0, 5, 0, 1, 0), (Values{4, 6, 0, -4, 0}));
+  EXPECT_EQ(errno, 7);  // the host's
   std::filesystem::remove(file_name);
 #ifndef _WIN32
   std::filesystem::create_symlink("/dev/full", file_name);  // opens, but takes nothing
@@ -101,3 +145,18 @@ TEST_F(Trace, CallComputesWithoutAFileAndTheNextTriesAgain) {
   classify(1, 7, 5, 0, 1, 0);
   EXPECT_EQ(trace(), record("1", circle + positive));
 }
+
+#ifndef _WIN32
+TEST_F(Trace, TornRecordIsNotContinued) {
+  const std::string one = record("1", circle + positive);
+  rlimit limit = {};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  const rlimit full = {20, limit.rlim_max};
+  std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &full);
+  for (int i = 0; i < 2; ++i) classify(1, 7, 5, 0, 1, 0);
+  setrlimit(RLIMIT_FSIZE, &limit);
+  for (int i = 0; i < 2; ++i) classify(1, 7, 5, 0, 1, 0);
+  EXPECT_EQ(trace(), one.substr(0, 20) + "\n" + one + one);
+}
+#endif

@@ -45,3 +45,35 @@ TEST(ArcMeasures, SectorMarksByTheSignsOfBothDistances) {
   trvapp(1, 2, 2, 3, 5, 6, 9, x, y, mark);  // both rays of one direction
   EXPECT_TRUE(std::count(mark, mark + 9, -1) == 9 && mark[9] == unwritten_int);
 }
+
+TEST(ArcMeasures, NotANumberInASectorLeavesPointsInside) {
+  const auto marks = [](std::array<float, 6> rays, float x, float y) {
+    std::int32_t mark = unwritten_int;
+    trvapp(rays[0], rays[1], rays[2], rays[3], rays[4], rays[5], 1, &x, &y, &mark);
+    return mark;
+  };
+  const std::array<float, 6> rays = {1, 2, 3, 3, 2, 6};
+  EXPECT_EQ(marks(rays, -5, 1), 2);
+  EXPECT_EQ(marks(rays, not_a_number, 1), 1);
+  for (const std::size_t i : {0U, 1U, 2U, 3U}) {
+    std::array<float, 6> spoilt = rays;
+    spoilt[i] = not_a_number;
+    EXPECT_EQ(marks(spoilt, -5, 1), 1) << i;
+  }
+  EXPECT_EQ(marks({1, 2, 3, 3, not_a_number, 6}, -5, 1), 2);  // by the foot alone
+  EXPECT_EQ(marks({1, 2, 3, 3, not_a_number, 6}, 5, 3), 1);
+}
+
+TEST(ArcMeasures, ThreePointTestsShareTheirCosine) {
+  // A foot that coincides with the vertex by coordinates, not by its distance: the cosine of an
+  // earlier test decides whether it lies beyond.
+  const float x = 9e-6F, y = -9e-6F;
+  std::int32_t mark = unwritten_int, status = unwritten_int;
+  trvapp(0, 0, 5, -5, 4, 3, 1, &x, &y, &mark);
+  EXPECT_EQ(mark, 1);
+  float arc[] = {1, 2, -3, -1, 5, -1}, crossing[2];
+  trvcer10(arc[0], arc[1], arc[2], arc[3], arc[4], arc[5], half_pi, 0.46364761F, crossing[0],
+           crossing[1], status);  // beyond B
+  trvapp(0, 0, 5, -5, 4, 3, 1, &x, &y, &mark);
+  EXPECT_EQ(mark, 2);
+}

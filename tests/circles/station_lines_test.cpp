@@ -1,0 +1,99 @@
+#include <array>
+
+#include "support.h"
+#include "trelvin/circles.h"
+
+using namespace trelvin_test;
+
+namespace {
+
+double distance(double x1, double y1, double x2, double y2) { return std::hypot(x2 - x1, y2 - y1); }
+
+using Arc = std::array<double, 6>;  // centre and ends
+
+// Station, crossing with the parallel, crossing with the arc, length and status.
+Values cross(const Arc &arc, double s, int side, double e, double angle) {
+  return outputs(trvcer7, arc[0], arc[1], arc[2], arc[3], arc[4], arc[5], s, side, e, angle);
+}
+
+const Arc small = {0, 0, -3, 4, 3, 4};  // of the circle of radius 5; it rises to (0, 5)
+const Values refused = {unwritten, unwritten, unwritten, unwritten,
+                        unwritten, unwritten, unwritten, 0};
+
+}  // namespace
+
+TEST(StationLines, CrossParallelAndArcBothWays) {
+  expect_near(cross(small, 2, 1, 0.5, pi / 4), {-1, 4, -0.5, 4.5, 0, 5, std::sqrt(2), 1}, 2e-7);
+  expect_near(cross(small, 3, -1, 2, half_pi), {0, 4, 0, 2, 0, -5, 9, 1}, 4e-7);
+  expect_near(cross({1, 1, 1, -4, 1, 6}, 5, 1, 1, half_pi), {1, 1, 0, 1, -4, 1, 5, 1}, 4e-7);
+  // Through (1, -1) along (2, 3), either way, to (5, 5) and to what is as far as the chord allows.
+  const Arc level = {1, 2, -3, -1, 5, -1};
+  const double up = std::atan2(3, 2), root = std::sqrt(13);
+  for (const double angle : {up, up - pi}) {
+    expect_near(cross(level, 4, 1, 3, angle), {1, -1, 3, 2, 5, 5, 2 * root, 1}, 3e-7);
+    expect_near(cross(level, 4, -1, 0.5, angle),
+                {1, -1, 2 / 3.0, -1.5, -3 / 13.0, -37 / 13.0, 8 / root, 1}, 3e-7);
+  }
+}
+
+TEST(StationLines, StationIsOnTheChordHoweverItIsTurned) {
+  for (double turned = 1e-6; turned < 1.5; turned *= 1.7) {
+    const auto place = [&](double angle) {
+      return std::array{static_cast<float>(3.1 + 10 * std::cos(angle + turned)),
+                        static_cast<float>(-1.7 + 10 * std::sin(angle + turned))};
+    };
+    const auto a = place(2.6416), b = place(0.5);  // level but for `turned`
+    const Values p = cross({3.1F, -1.7F, a[0], a[1], b[0], b[1]}, 8, 1, 0, 1.2);
+    const double chord = distance(a[0], a[1], b[0], b[1]), ulps = 4 * 4.8e-7;
+    EXPECT_NEAR(distance(a[0], a[1], p[0], p[1]), 8, ulps) << turned;
+    EXPECT_NEAR(distance(p[0], p[1], b[0], b[1]), chord - 8, ulps) << turned;
+    EXPECT_NEAR(((p[1] - a[1]) * (b[0] - a[0]) - (p[0] - a[0]) * (b[1] - a[1])) / chord, 0, ulps);
+    EXPECT_EQ(Values(p.begin() + 2, p.begin() + 4), Values(p.begin(), p.begin() + 2));  // e = 0
+    EXPECT_NEAR(distance(3.1F, -1.7F, p[4], p[5]), distance(3.1F, -1.7F, a[0], a[1]), ulps);
+  }
+}
+
+TEST(StationLines, SameFromTheOtherEndAndForAnySideOfThatSign) {
+  const Arc arc = {1, 2, -3, -1, 4, 6}, reversed = {1, 2, 4, 6, -3, -1};
+  const double chord = std::hypot(7, 7);
+  for (const double angle : {0.3, 1.9, -0.7, 17.0, 300.5}) {
+    const Values forth = cross(arc, 2.75, 3, 0.4, angle);
+    EXPECT_EQ(forth.back(), 1);
+    EXPECT_EQ(forth, cross(arc, 2.75, 1, 0.4, angle));
+    expect_near(cross(reversed, chord - 2.75, -1, 0.4, angle), forth, 2e-6);
+  }
+}
+
+TEST(StationLines, RadiiMayDifferByTheRoundingOfTheCoordinates) {
+  for (const double x : {1e3, 1e4, 2e4, 1e5}) {
+    const auto place = [&](double angle) {
+      return std::array{static_cast<float>(x + 300 * std::cos(angle)),
+                        static_cast<float>(-x + 300 * std::sin(angle))};
+    };
+    for (double angle = 0; angle < 6; angle += 0.37) {
+      const auto a = place(angle), b = place(angle - 1.3);
+      EXPECT_EQ(cross({x, -x, a[0], a[1], b[0], b[1]}, 100, 1, 20, 1.1).back(), 1) << x;
+    }
+  }
+  EXPECT_EQ(cross({1e4, -1e4, 9700, -1e4, 10300.003, -1e4}, 100, 1, 20, 1.1).back(), 1);
+  EXPECT_EQ(cross({1e4, -1e4, 9700, -1e4, 10300.006, -1e4}, 100, 1, 20, 1.1), refused);
+  EXPECT_EQ(cross({0, 0, -5, 0, 5.0001, 0}, 1, 1, 1, 1).back(), 1);
+  EXPECT_EQ(cross({0, 0, -5, 0, 5.00011, 0}, 1, 1, 1, 1), refused);
+}
+
+TEST(StationLines, Refusals) {
+  const auto round = [](double r, double s, double angle) {  // from A, opposite B
+    return cross({0, 0, -r, 0, r, 0}, s, 1, 0, angle);
+  };
+  for (const Values &values :
+       {cross(small, -1e-30, 1, 1, 1), cross(small, 1, 1, -1e-30, 1), cross(small, 1, 0, 1, 1),
+        cross(small, 5.99991, 1, 1, 1), cross(small, 1, 1, 1, 1e-4), round(1e-4, 5e-5, 1),
+        round(5, 0.9e-9, half_pi), cross(small, not_a_number, 1, 1, 1), round(5, 1, infinity)}) {
+    EXPECT_EQ(values, refused);
+  }
+  for (const Values &values :
+       {cross(small, 0, 1, 1, 1), cross(small, 5.99989, 1, 1, 1), cross(small, 1, 1, 1, 1.01e-4),
+        round(1.1e-4, 1.1e-4, 1), round(5, 1.1e-9, half_pi)}) {
+    EXPECT_EQ(values.back(), 1);
+  }
+}
