@@ -1,9 +1,8 @@
-// The mathematics functions of the library, correctly rounded to Real on every platform.
+// The mathematics functions of the library, by its own arithmetic on every platform.
 //
-// The platforms' own single-precision functions differ in their last bit. Their double-precision
-// functions, rounded once, do not: an error of a few units in the 53rd bit is far below half a unit
-// in the 24th. Large angles are the exception, since some platforms reduce them with too few digits
-// of pi; they are brought into the first quadrants here.
+// The platforms' functions differ in their last bits, and some of them compute in extended
+// registers. These use additions, multiplications, divisions and square roots in double precision
+// only, in a fixed order, so that every platform and compiler gives the same bits.
 #pragma once
 
 #include <cmath>
@@ -22,39 +21,24 @@ struct WideSineCosine {
   double cosine;
 };
 
-// Sine and cosine of an angle of magnitude at least `large_angle`, infinity excluded.
-WideSineCosine sine_cosine_of_large(Real angle);
-
-constexpr Real large_angle = 16;
-
-inline bool is_large(Real angle) { return std::fabs(angle) >= large_angle && !std::isinf(angle); }
-
-inline SineCosine sine_cosine(Real angle) {
-  const double wide = angle;
-  const WideSineCosine both = is_large(angle) ? sine_cosine_of_large(angle)
-                                              : WideSineCosine{std::sin(wide), std::cos(wide)};
-  return {static_cast<Real>(both.sine), static_cast<Real>(both.cosine)};
-}
+// Correctly rounded for every Real: the exhaustive check finds no difference.
+SineCosine sine_cosine(Real angle);
+Real tangent(Real angle);
+Real arc_tangent(Real slope);
+Real arc_cosine(Real cosine);
 
 inline Real sine(Real angle) { return sine_cosine(angle).sine; }
 
-inline Real tangent(Real angle) {
-  if (!is_large(angle)) return static_cast<Real>(std::tan(static_cast<double>(angle)));
-  const WideSineCosine both = sine_cosine_of_large(angle);
-  return static_cast<Real>(both.sine / both.cosine);
-}
-
-inline Real arc_tangent(Real slope) {
-  return static_cast<Real>(std::atan(static_cast<double>(slope)));
-}
-
-// Angle of the direction (x, y) in [-pi, pi].
-inline double arc_tangent(double y, double x) { return std::atan2(y, x); }
-
-inline Real arc_cosine(Real cosine) {
-  return static_cast<Real>(std::acos(static_cast<double>(cosine)));
-}
-
+// The square root is the machine's instruction, correctly rounded by itself.
 inline Real square_root(Real value) { return std::sqrt(value); }
+
+// In double precision, within about one unit in the last place.
+
+// Angles within three turns either way.
+WideSineCosine wide_sine_cosine(double angle);
+// Angle of the direction (x, y) in [-pi, pi], the signs of zeros counting.
+double arc_tangent(double y, double x);
+double hyperbolic_cosine(double value);
+double hyperbolic_tangent(double value);
 
 }  // namespace trelvin
