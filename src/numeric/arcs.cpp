@@ -2,6 +2,7 @@
 //
 // Both subtract an angle with a known sine and cosine, by the theorem of subtraction, and take the
 // small difference by a short polynomial.
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -16,6 +17,17 @@ constexpr double wide_pi = 0x1.921fb54442d18p+1;
 constexpr double pi_beyond_wide = 0x1.1a62633145c07p-53;
 constexpr double wide_half_pi = 0x1.921fb54442d18p+0;
 
+// Slopes from here on have the arc tangent half_pi.
+constexpr std::uint32_t vertical_slope_bits = 0x4D000000;  // 2^27
+constexpr double vertical_slope = 0x1p60;                  // in double precision
+
+// The arguments with results so close to halfway between two Reals that rounding them twice, to
+// double precision and to Real, goes wrong.
+constexpr std::uint32_t hard_slope_bits = 0x3D8D6B23;
+constexpr Real arc_of_hard_slope = 0x1.1a6386p-4F;
+constexpr Real hard_cosine = 0x1.04c444p-12F;
+constexpr Real arc_of_hard_cosine = 0x1.920f6ap+0F;
+
 // A direction (run, rise) and its angle.
 struct Direction {
   double run;
@@ -26,7 +38,6 @@ struct Direction {
 // Middles of the quarters of each power of two from 1/16 to 16, as slopes, between the horizontal
 // and the vertical.
 constexpr std::uint32_t quarters = 32;
-constexpr std::uint32_t before_first_quarter = ((1023 - 4) << 2) - 1;
 constexpr std::array<double, quarters> angles_of_quarters = {
     0x1.1f86dbf082d59p-4, 0x1.5f2324fd2d7b2p-4, 0x1.9e94153cfdcf1p-4, 0x1.ddd21701eba6ep-4,
     0x1.1e1fafb043727p-3, 0x1.5c9811e3ec26ap-3, 0x1.9a6a8e96c8626p-3, 0x1.d77d5df205736p-3,
@@ -51,16 +62,16 @@ constexpr std::array<Direction, quarters + 2> tabulate() {
 
 constexpr std::array<Direction, quarters + 2> directions = tabulate();
 
-// Arc tangent of a slope from zero on, or of a NaN.
-inline double arc_tangent_of(double slope) {
-  const double x = slope > 0x1p60 ? 0x1p60 : slope;  // infinity included
-  const auto quarter = static_cast<std::uint32_t>(bits_of(x) >> 50);
-  const std::uint32_t i = quarter <= before_first_quarter ? 0
-                          : quarter > before_first_quarter + quarters
-                              ? quarters + 1
-                              : quarter - before_first_quarter;
-  const Direction &d = directions[i];
-  const double t = (x * d.run - d.rise) / (d.run + x * d.rise);
+// The place in the table of a slope with the leading bits, which hold the exponent and a quarter.
+inline std::uint32_t place(std::uint32_t leading_bits, std::uint32_t exponent_bias) {
+  const std::uint32_t before_first = ((exponent_bias - 4) << 2) - 1;
+  return std::clamp(leading_bits, before_first, before_first + quarters + 1) - before_first;
+}
+
+// Arc tangent of a slope from zero on.
+inline double arc_tangent_of(double slope, std::uint32_t place) {
+  const Direction &d = directions[place];
+  const double t = (slope * d.run - d.rise) / (d.run + slope * d.rise);
   const double t2 = t * t;
   const double t4 = t2 * t2;
   const double bend =
@@ -119,25 +130,35 @@ inline double arc_cosine_of(double magnitude) {
 }  // namespace
 
 Real arc_tangent(Real slope) {
-  return static_cast<Real>(std::copysign(arc_tangent_of(std::fabs(double{slope})), double{slope}));
+  const std::uint32_t bits = magnitude_bits(slope);
+  if (bits < smallest_bending_bits) return slope;
+  if (bits == hard_slope_bits) return with_sign_of(slope, arc_of_hard_slope);
+  if (bits > vertical_slope_bits)
+    return bits > infinity_bits ? slope + slope : with_sign_of(slope, half_pi);
+  const double angle = arc_tangent_of(double{real_of(bits)}, place(bits >> 21, 127));
+  return with_sign_of(slope, static_cast<Real>(angle));
 }
 
 double arc_tangent(double y, double x) {
-  const double rise = std::fabs(y);
-  const double run = std::fabs(x);
+  const double rise = magnitude_of(y);
+  const double run = magnitude_of(x);
   double angle = 0;
   if (rise == run) {  // zeros and infinities included
     angle = rise == 0 ? 0 : wide_half_pi / 2;
+  } else if (run == 0) {
+    angle = wide_half_pi;
   } else {
-    angle = run == 0 ? wide_half_pi : arc_tangent_of(rise / run);
+    const double slope = std::min(rise / run, vertical_slope);
+    angle = arc_tangent_of(slope, place(static_cast<std::uint32_t>(bits_of(slope) >> 50), 1023));
   }
   if (std::signbit(x)) angle = (wide_pi - angle) + pi_beyond_wide;
-  return std::copysign(angle, y);
+  return with_sign_of(y, angle);
 }
 
 Real arc_cosine(Real cosine) {
-  const double magnitude = std::fabs(double{cosine});
+  const double magnitude = std::fabs(cosine);
   if (!(magnitude <= 1)) return (cosine - cosine) / (cosine - cosine);
+  if (cosine == hard_cosine) return arc_of_hard_cosine;
   const double angle = arc_cosine_of(magnitude);
   return static_cast<Real>(cosine < 0 ? (wide_pi - angle) + pi_beyond_wide : angle);
 }

@@ -20,13 +20,40 @@ inline std::uint64_t bits_of(double value) {
   return bits;
 }
 
+inline Real real_of(std::uint32_t bits) {
+  Real value = 0;
+  std::memcpy(&value, &bits, sizeof value);
+  return value;
+}
+
 inline double double_of(std::uint64_t bits) {
   double value = 0;
   std::memcpy(&value, &bits, sizeof value);
   return value;
 }
 
-constexpr std::uint32_t magnitude_bits = 0x7FFFFFFF;  // all but the sign
+constexpr std::uint32_t magnitude_mask = 0x7FFFFFFF;  // all but the sign
+constexpr std::uint32_t sign_mask = 0x80000000;
+constexpr std::uint32_t infinity_bits = 0x7F800000;
+
+inline std::uint32_t magnitude_bits(Real value) { return bits_of(value) & magnitude_mask; }
+
+// The compiler's own absolute value of a double goes through the x87 on 32-bit platforms.
+inline double magnitude_of(double value) { return double_of(bits_of(value) << 1 >> 1); }
+
+// For a magnitude, whose sign is clear.
+inline Real with_sign_of(Real signed_value, Real magnitude) {
+  return real_of(bits_of(magnitude) | (bits_of(signed_value) & sign_mask));
+}
+
+inline double with_sign_of(double signed_value, double magnitude) {
+  constexpr std::uint64_t sign = std::uint64_t{1} << 63;
+  return double_of(bits_of(magnitude) | (bits_of(signed_value) & sign));
+}
+
+// The functions with a value of x + O(x^3) round to x below this magnitude, 2^-12; cosines round
+// to 1.
+constexpr std::uint32_t smallest_bending_bits = 0x39800000;
 
 // Added to a double of magnitude below 2^31, it rounds the sum to an integer, which then stands in
 // the lowest bits.

@@ -115,36 +115,50 @@ ReducedAngle reduce_large(Real magnitude) {
   return {parts, quarters * 0x1.921fb54442d18p+0};
 }
 
-// Magnitudes of ordinary angles, as bits. The sine and tangent of a smaller angle round to it.
-constexpr std::uint32_t smallest_ordinary = 0x39800000;  // 2^-12
-constexpr std::uint32_t smallest_large = 0x41800000;     // 16
-constexpr std::uint32_t infinite = 0x7F800000;
+constexpr std::uint32_t smallest_large_bits = 0x41800000;  // 16
 
+// Not so small that nothing bends, nor large.
 inline bool is_ordinary(Real angle) {
-  return (bits_of(angle) & magnitude_bits) - smallest_ordinary < smallest_large - smallest_ordinary;
+  return magnitude_bits(angle) - smallest_bending_bits <
+         smallest_large_bits - smallest_bending_bits;
 }
 
-inline bool is_small(Real angle) { return (bits_of(angle) & magnitude_bits) < smallest_ordinary; }
+// Large angles with a sine or cosine so close to halfway between two Reals that rounding it twice,
+// to double precision and to Real, goes wrong.
+struct HardAngle {
+  Real angle;
+  SineCosine both;
+};
+constexpr std::array<HardAngle, 4> hard_angles = {
+    {{0x1.33333p+13F, {-0x1.63f4bap-2F, -0x1.e01216p-1F}},
+     {0x1.4555p+51F, {-0x1.b0ea44p-1F, 0x1.115d7ep-1F}},
+     {0x1.3170fp+63F, {0x1.5ac1eep-4F, 0x1.fe2976p-1F}},
+     {0x1.2b9622p+67F, {-0x1.f983c2p-3F, 0x1.f0285ep-1F}}}};
 
-inline bool is_finite(Real angle) { return (bits_of(angle) & magnitude_bits) < infinite; }
-
-WideSineCosine sine_cosine_of_large(Real angle) {
-  const WideSineCosine both = sine_cosine_of(reduce_large(std::fabs(angle)));
-  return {angle < 0 ? -both.sine : both.sine, both.cosine};
-}
-
-SineCosine sine_cosine_of_other(Real angle) {
-  if (is_small(angle)) return {angle, 1};
-  if (!is_finite(angle)) return {angle - angle, angle - angle};
-  const WideSineCosine both = sine_cosine_of_large(angle);
+// Of a positive angle.
+SineCosine sine_cosine_of_large(Real angle) {
+  for (const HardAngle &hard : hard_angles) {
+    if (angle == hard.angle) return hard.both;
+  }
+  const WideSineCosine both = sine_cosine_of(reduce_large(angle));
   return {static_cast<Real>(both.sine), static_cast<Real>(both.cosine)};
 }
 
+SineCosine sine_cosine_of_other(Real angle) {
+  const std::uint32_t bits = magnitude_bits(angle);
+  if (bits < smallest_bending_bits) return {angle, 1};
+  if (bits >= infinity_bits) return {angle - angle, angle - angle};
+  const SineCosine both = sine_cosine_of_large(real_of(bits));
+  return {angle < 0 ? -both.sine : both.sine, both.cosine};
+}
+
 Real tangent_of_other(Real angle) {
-  if (is_small(angle)) return angle;
-  if (!is_finite(angle)) return angle - angle;
-  const WideSineCosine both = sine_cosine_of_large(angle);
-  return static_cast<Real>(both.sine / both.cosine);
+  const std::uint32_t bits = magnitude_bits(angle);
+  if (bits < smallest_bending_bits) return angle;
+  if (bits >= infinity_bits) return angle - angle;
+  const WideSineCosine both = sine_cosine_of(reduce_large(real_of(bits)));
+  const auto tangent = static_cast<Real>(both.sine / both.cosine);
+  return angle < 0 ? -tangent : tangent;
 }
 
 }  // namespace

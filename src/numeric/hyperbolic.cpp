@@ -1,5 +1,4 @@
 // Hyperbolic cosine and tangent.
-#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -42,7 +41,7 @@ Exponential exponential(double exponent) {
 
 double hyperbolic_cosine(double value) {
   constexpr double largest = 0x1.633ce8fb9f87dp+9;
-  const double magnitude = std::fabs(value);
+  const double magnitude = magnitude_of(value);
   if (magnitude > largest) return std::numeric_limits<double>::infinity();
   const Exponential e = exponential(magnitude);
   const double quarter = e.quarter + e.quarter * e.beyond;
@@ -50,12 +49,13 @@ double hyperbolic_cosine(double value) {
 }
 
 double hyperbolic_tangent(double value) {
-  const double magnitude = std::fabs(value);
-  if (magnitude > 22) return std::copysign(1, value);  // to the last bit
+  const double magnitude = magnitude_of(value);
+  if (magnitude > 22) return with_sign_of(value, 1.0);  // to the last bit
   const Exponential e = exponential(2 * magnitude);
   const double power = 4 * e.quarter;
   const double grown_less_one = (power - 1) + power * e.beyond;
-  return std::copysign(grown_less_one / (grown_less_one + 2), value);
+  if (grown_less_one > 2) return with_sign_of(value, 1 - 2 / (grown_less_one + 2));
+  return with_sign_of(value, grown_less_one / (grown_less_one + 2));
 }
 
 }  // namespace trelvin
