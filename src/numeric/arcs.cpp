@@ -151,7 +151,7 @@ double arc_tangent(double y, double x) {
     const double slope = std::min(rise / run, vertical_slope);
     angle = arc_tangent_of(slope, place(static_cast<std::uint32_t>(bits_of(slope) >> 50), 1023));
   }
-  if (std::signbit(x)) angle = (wide_pi - angle) + pi_beyond_wide;
+  if (has_sign(x)) angle = (wide_pi - angle) + pi_beyond_wide;
   return with_sign_of(y, angle);
 }
 

@@ -39,7 +39,12 @@ constexpr std::uint32_t infinity_bits = 0x7F800000;
 inline std::uint32_t magnitude_bits(Real value) { return bits_of(value) & magnitude_mask; }
 
 // The compiler's own absolute value of a double goes through the x87 on 32-bit platforms.
-inline double magnitude_of(double value) { return double_of(bits_of(value) << 1 >> 1); }
+inline double magnitude_of(double value) {
+  const double opposite = 0 - value;
+  return value > opposite ? value : opposite;
+}
+
+inline bool has_sign(double value) { return bits_of(value) >> 63 != 0; }
 
 // For a magnitude, whose sign is clear.
 inline Real with_sign_of(Real signed_value, Real magnitude) {
@@ -47,8 +52,7 @@ inline Real with_sign_of(Real signed_value, Real magnitude) {
 }
 
 inline double with_sign_of(double signed_value, double magnitude) {
-  constexpr std::uint64_t sign = std::uint64_t{1} << 63;
-  return double_of(bits_of(magnitude) | (bits_of(signed_value) & sign));
+  return magnitude * (has_sign(signed_value) ? -1.0 : 1.0);
 }
 
 // The functions with a value of x + O(x^3) round to x below this magnitude, 2^-12; cosines round
