@@ -17,9 +17,9 @@ constexpr double wide_pi = 0x1.921fb54442d18p+1;
 constexpr double pi_beyond_wide = 0x1.1a62633145c07p-53;
 constexpr double wide_half_pi = 0x1.921fb54442d18p+0;
 
-// Slopes from here on have the arc tangent half_pi.
+// Slopes beyond these have the arc tangent of infinity, in single and in double precision.
 constexpr std::uint32_t vertical_slope_bits = 0x4D000000;  // 2^27
-constexpr double vertical_slope = 0x1p60;                  // in double precision
+constexpr double vertical_slope = 0x1p60;
 
 // The arguments with results so close to halfway between two Reals that rounding them twice, to
 // double precision and to Real, goes wrong.
@@ -81,36 +81,36 @@ inline double arc_tangent_of(double slope, std::uint32_t place) {
   return d.angle + (t + bend);
 }
 
-// An angle with a sine of i/32: its cosine, and twice the angle.
+// An angle with a sine of i/32, i from 0 to 23: its cosine, and twice the angle.
 struct HalfAngle {
   double cosine;
   double twice;
 };
 
-constexpr std::array<HalfAngle, 24> half_angles = {{{0x1p+0, 0x0p+0},
-                                                    {0x1.ffbffbff7fec0p-1, 0x1.000aabde0b9c8p-4},
-                                                    {0x1.feffbfdfebf1fp-1, 0x1.002abde953619p-3},
-                                                    {0x1.fdbeba917c3f5p-1, 0x1.809092913e52ep-3},
-                                                    {0x1.fbfbf7ebc755fp-1, 0x1.00abe0c129e1ep-2},
-                                                    {0x1.f9b61d0237250p-1, 0x1.41510cb011423p-2},
-                                                    {0x1.f6eb62d27730dp-1, 0x1.82494ed0e78fcp-2},
-                                                    {0x1.f3998f1b1886cp-1, 0x1.c3a6f13aae84bp-2},
-                                                    {0x1.efbdeb14f4edap-1, 0x1.02be9ce0b87cdp-1},
-                                                    {0x1.eb5537b1434dap-1, 0x1.23f0523c5dc2bp-1},
-                                                    {0x1.e65b9edeba38ep-1, 0x1.457393b90e2aap-1},
-                                                    {0x1.e0cca12e97895p-1, 0x1.675441329986ep-1},
-                                                    {0x1.daa2fefaae1d8p-1, 0x1.899f4edc962d3p-1},
-                                                    {0x1.d3d89be176072p-1, 0x1.ac62fec0b2a92p-1},
-                                                    {0x1.cc665b0328622p-1, 0x1.cfaf27460fe9fp-1},
-                                                    {0x1.c443f1d4d22afp-1, 0x1.f3958aecddef4p-1},
-                                                    {0x1.bb67ae8584caap-1, 0x1.0c152382d7366p+0},
-                                                    {0x1.b1c62db2564fep-1, 0x1.1ec230c714a96p+0},
-                                                    {0x1.a751f9447b724p-1, 0x1.31df40fbd31cdp+0},
-                                                    {0x1.9bfb076d236ebp-1, 0x1.457bf318fe517p+0},
-                                                    {0x1.8fae0c15ad38ap-1, 0x1.59aad71ced00fp+0},
-                                                    {0x1.8253878ae2e09p-1, 0x1.6e825383cc40bp+0},
-                                                    {0x1.73ce704fb7b23p-1, 0x1.841deb5114bb4p+0},
-                                                    {0x1.63fa3f3c02962p-1, 0x1.9aa01babef75ep+0}}};
+constexpr HalfAngle half_angles[] = {{0x1p+0, 0x0p+0},
+                                     {0x1.ffbffbff7fec0p-1, 0x1.000aabde0b9c8p-4},
+                                     {0x1.feffbfdfebf1fp-1, 0x1.002abde953619p-3},
+                                     {0x1.fdbeba917c3f5p-1, 0x1.809092913e52ep-3},
+                                     {0x1.fbfbf7ebc755fp-1, 0x1.00abe0c129e1ep-2},
+                                     {0x1.f9b61d0237250p-1, 0x1.41510cb011423p-2},
+                                     {0x1.f6eb62d27730dp-1, 0x1.82494ed0e78fcp-2},
+                                     {0x1.f3998f1b1886cp-1, 0x1.c3a6f13aae84bp-2},
+                                     {0x1.efbdeb14f4edap-1, 0x1.02be9ce0b87cdp-1},
+                                     {0x1.eb5537b1434dap-1, 0x1.23f0523c5dc2bp-1},
+                                     {0x1.e65b9edeba38ep-1, 0x1.457393b90e2aap-1},
+                                     {0x1.e0cca12e97895p-1, 0x1.675441329986ep-1},
+                                     {0x1.daa2fefaae1d8p-1, 0x1.899f4edc962d3p-1},
+                                     {0x1.d3d89be176072p-1, 0x1.ac62fec0b2a92p-1},
+                                     {0x1.cc665b0328622p-1, 0x1.cfaf27460fe9fp-1},
+                                     {0x1.c443f1d4d22afp-1, 0x1.f3958aecddef4p-1},
+                                     {0x1.bb67ae8584caap-1, 0x1.0c152382d7366p+0},
+                                     {0x1.b1c62db2564fep-1, 0x1.1ec230c714a96p+0},
+                                     {0x1.a751f9447b724p-1, 0x1.31df40fbd31cdp+0},
+                                     {0x1.9bfb076d236ebp-1, 0x1.457bf318fe517p+0},
+                                     {0x1.8fae0c15ad38ap-1, 0x1.59aad71ced00fp+0},
+                                     {0x1.8253878ae2e09p-1, 0x1.6e825383cc40bp+0},
+                                     {0x1.73ce704fb7b23p-1, 0x1.841deb5114bb4p+0},
+                                     {0x1.63fa3f3c02962p-1, 0x1.9aa01babef75ep+0}};
 
 // Arc cosine of a magnitude from 0 to 1, in the first quadrant. Half of that angle has its sine and
 // cosine from the half-angle formulas, without cancellation.
@@ -118,13 +118,13 @@ inline double arc_cosine_of(double magnitude) {
   const double half_sine = std::sqrt((1 - magnitude) * 0.5);
   const double half_cosine = std::sqrt((1 + magnitude) * 0.5);
   const double scaled = half_sine * 32 + rounding_shift;
-  const HalfAngle &near = half_angles[static_cast<std::uint32_t>(bits_of(scaled))];
-  const double s = half_sine * near.cosine - half_cosine * ((scaled - rounding_shift) * 0x1p-5);
+  const HalfAngle &closest = half_angles[static_cast<std::uint32_t>(bits_of(scaled))];
+  const double s = half_sine * closest.cosine - half_cosine * ((scaled - rounding_shift) * 0x1p-5);
   const double s2 = s * s;
   const double bend = s * s2 *
                       ((0x1.5555555555552p-3 + s2 * 0x1.3333333355dc4p-4) +
                        s2 * s2 * (0x1.6db6d51e9041dp-5 + s2 * 0x1.f23af7de917d5p-6));
-  return near.twice + 2 * (s + bend);
+  return closest.twice + 2 * (s + bend);
 }
 
 }  // namespace
