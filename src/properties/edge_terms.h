@@ -88,7 +88,7 @@ inline void add(const Edge<Number> &e, Number (&sums)[SecondMomentSums::count]) 
 // Lanes side by side: element k of vector v is that of lane v*width + k.
 template <class Vector, int count>
 struct Lanes {
-  static constexpr Integer width = sizeof(Vector) / sizeof(double);
+  static constexpr Integer width = sizeof(Vector) / 8;  // numbers of 8 bytes
   static constexpr Integer vectors = lanes / width;
   Vector sums[vectors][count];
 
