@@ -45,8 +45,8 @@ template <>
 }
 #endif
 
-// An edge, or neighbouring edges. Both ends are loaded: shuffling the second ends together from the
-// first ones of two loads costs more.
+// An edge, or neighbouring edges. Both ends are loaded and converted: to shuffle the second ends
+// together from the first takes about as long.
 template <class Number>
 struct Edge {
   Number x1, y1;
