@@ -5,13 +5,9 @@
 #include <limits>
 
 #include "circles/wide_vectors.h"
+#include "numeric/functions.h"
 
 namespace trelvin {
-namespace {
-
-WideSineCosine sine_cosine_of_sweep(double sweep) { return {std::sin(sweep), std::cos(sweep)}; }
-
-}  // namespace
 
 std::optional<RoundedCorner> round_corner(Point2 corner, Point2 p1, Point2 p2, Real radius) {
   const WideVector to_p1 = wide_difference(p1, corner);
@@ -44,7 +40,7 @@ Box box_of_sweep(Point2 centre, Point2 start, Real sweep) {
   }
 
   // The ends, and where the arc passes the directions of the axes.
-  const auto [s, c] = sine_cosine_of_sweep(turn);
+  const auto [s, c] = wide_sine_cosine(turn);
   const WideVector to = {from.x * c - from.y * s, from.x * s + from.y * c};
   WideVector lower = {std::min(from.x, to.x), std::min(from.y, to.y)};
   WideVector upper = {std::max(from.x, to.x), std::max(from.y, to.y)};

@@ -32,13 +32,13 @@ inline Real sine(Real angle) { return sine_cosine(angle).sine; }
 // The square root is the machine's instruction, correctly rounded by itself.
 inline Real square_root(Real value) { return std::sqrt(value); }
 
-// In double precision, within two units in the last place, the hyperbolic tangent within three.
+// In double precision, within two units in the last place.
 
 // Angles within three turns either way.
 WideSineCosine wide_sine_cosine(double angle);
 // Angle of the direction (x, y) in [-pi, pi], the signs of zeros counting.
 double arc_tangent(double y, double x);
-double hyperbolic_cosine(double value);
-double hyperbolic_tangent(double value);
+// exp(-value), for values from 0 to 700.
+double decay(double value);
 
 }  // namespace trelvin

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/functions.h"
+
 namespace trelvin {
 
 BendingFigures bending_of_bar(double b, double h) {
@@ -33,7 +35,7 @@ SaintVenant saint_venant(double ratio) {
   constexpr double all_twist = 1.0045237627951387;  // the sum of 1/k^5, 31/32 of zeta(5)
   constexpr double last_argument = 40;              // terms beyond are below the sums' last bits
   // With q = exp(-a), tanh(a) is 1 - 2q^2/(1 + q^2) and 1/cosh(a) is 2q/(1 + q^2).
-  const double first = quarter_turn * ratio > last_argument ? 0 : std::exp(-quarter_turn * ratio);
+  const double first = quarter_turn * ratio > last_argument ? 0 : decay(quarter_turn * ratio);
   SaintVenant sums = {all_twist, 0};
   double q = first;
   for (int k = 1; k * quarter_turn * ratio <= last_argument; k += 2) {

@@ -6,8 +6,7 @@
 using namespace trelvin_test;
 using trelvin::arc_cosine;
 using trelvin::arc_tangent;
-using trelvin::hyperbolic_cosine;
-using trelvin::hyperbolic_tangent;
+using trelvin::decay;
 using trelvin::sine;
 using trelvin::sine_cosine;
 using trelvin::tangent;
@@ -120,14 +119,10 @@ TEST(Functions, SineAndCosineInDoublePrecision) {
   EXPECT_TRUE(std::signbit(wide_sine_cosine(-0.0).sine));
 }
 
-TEST(Functions, Hyperbolic) {
-  EXPECT_DOUBLE_EQ(hyperbolic_cosine(1), 1.5430806348152438);
-  EXPECT_DOUBLE_EQ(hyperbolic_cosine(-710), 1.1169973830808555e+308);
-  EXPECT_EQ(hyperbolic_cosine(711), std::numeric_limits<double>::infinity());
-  EXPECT_EQ(hyperbolic_cosine(0), 1);
-  EXPECT_DOUBLE_EQ(hyperbolic_tangent(1), 0.7615941559557649);
-  EXPECT_DOUBLE_EQ(hyperbolic_tangent(-0x1p-30), -9.3132257461547852e-10);
-  EXPECT_EQ(hyperbolic_tangent(1e300), 1);
-  EXPECT_TRUE(std::isnan(hyperbolic_cosine(double{not_a_number})));
-  EXPECT_TRUE(std::isnan(hyperbolic_tangent(double{not_a_number})));
+TEST(Functions, Decay) {
+  EXPECT_EQ(decay(0), 1);
+  EXPECT_DOUBLE_EQ(decay(1), 0.36787944117144233);
+  EXPECT_DOUBLE_EQ(decay(0.001), 0.99900049983337502);
+  EXPECT_DOUBLE_EQ(decay(40), 4.2483542552915889e-18);
+  EXPECT_DOUBLE_EQ(decay(700), 9.8596765437597708e-305);
 }
