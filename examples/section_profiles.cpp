@@ -12,7 +12,7 @@ namespace {
 // Outlines ---------------------------------------------------------------------------------------
 
 // What an outline routine hands back, with room for the largest outline.
-struct Frame {
+struct Outline {
   std::int32_t np;
   std::array<std::int32_t, 3> nv;
   std::array<float, 20> x, y;
@@ -21,9 +21,9 @@ struct Frame {
 };
 
 template <class Routine, class... Inputs>
-Frame frame(Routine routine, const Inputs &...inputs) {
+Outline outline_from(Routine routine, const Inputs &...inputs) {
   constexpr float q = 1;  // comes back with each polygon; nothing here needs it
-  Frame f{};
+  Outline f{};
   routine(inputs..., q, f.np, f.nv.data(), f.x.data(), f.y.data(), f.code.data(), f.sign.data(),
           f.z1.data(), f.z2.data(), f.z3.data(), f.z4.data(), f.z5.data(), f.q1.data(),
           f.q2.data());
@@ -37,9 +37,9 @@ Part polygon_part(float factor, std::vector<float> x, std::vector<float> y) {
   return {polygon, factor, n, std::move(x), std::move(y)};
 }
 
-// The library closes a polygon by writing behind its last vertex, where in a frame the next polygon
+// The library closes a polygon by writing behind its last vertex, where in the list the next polygon
 // starts. So each one moves into arrays of its own.
-Section section_of(const Frame &f) {
+Section section_of(const Outline &f) {
   Section section;
   const float *x = f.x.data();
   const float *y = f.y.data();
@@ -55,7 +55,7 @@ Section section_of(const Frame &f) {
 }
 
 Section flat_bar(const float *d) {
-  Frame f = frame(trvsec_b, static_cast<std::int32_t>(d[0]), d[1]);
+  Outline f = outline_from(trvsec_b, static_cast<std::int32_t>(d[0]), d[1]);
   f.nv[0] = 4;  // the routine says 12 and writes 4
   return section_of(f);
 }
@@ -119,7 +119,7 @@ Ring rounded(const Ring &sharp, double r, Choice is_rounded) {
 
 Section rolled(const float *d) {
   const float H = d[0], B = d[1], TW = d[2], TF = d[3], R = d[4];
-  Section section = section_of(frame(trvsec_ia, H, B, B, TF, TF, TW));
+  Section section = section_of(outline_from(trvsec_ia, H, B, B, TF, TF, TW));
 
   for (const Part &part : fillet(0.5F * TW, 0.5F * H - TF, R)) {
     for (const bool left_right : {false, true}) {
@@ -275,36 +275,37 @@ const std::vector<Profile> &profiles() {
        {"H", "B1", "B2", "T1", "T2", "TW"},
        fault_of_i_section,
        [](const float *d) {
-         return section_of(frame(trvsec_ia, d[0], d[1], d[2], d[3], d[4], d[5]));
+         return section_of(outline_from(trvsec_ia, d[0], d[1], d[2], d[3], d[4], d[5]));
        }},
       {"h",
        "I section on its side, flange 1 on the left",
        {"H", "B1", "B2", "T1", "T2", "TW"},
        fault_of_i_section,
        [](const float *d) {
-         return section_of(frame(trvsec_h, d[0], d[1], d[2], d[3], d[4], d[5]));
+         return section_of(outline_from(trvsec_h, d[0], d[1], d[2], d[3], d[4], d[5]));
        }},
       {"i",
        "as ia, the web moved by E, with 45-degree fillets S",
        {"H", "B1", "B2", "T1", "T2", "TW", "S1", "S2", "E"},
        fault_of_filleted_i,
        [](const float *d) {
-         return section_of(frame(trvsec_i, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7], d[8]));
+         return section_of(
+             outline_from(trvsec_i, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7], d[8]));
        },
        {"S1", "S2", "E"}},
       {"t",
        "T section, flange at the top",
        {"B", "H", "TF", "TW"},
        fault_of_t,
-       [](const float *d) { return section_of(frame(trvsec_t, d[0], d[1], d[2], d[3])); }},
+       [](const float *d) { return section_of(outline_from(trvsec_t, d[0], d[1], d[2], d[3])); }},
       {"b", "flat bar of whole width B", {"B", "H"}, fault_of_bar, flat_bar},
       {"c",
        "channel with lips C and folds D, or without",
        {"H", "B1", "B2", "C1", "C2", "D1", "D2", "TW", "T1", "T2", "TC1", "TC2", "TD1", "TD2"},
        fault_of_c,
        [](const float *d) {
-         return section_of(frame(trvsec_c, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7], d[8],
-                                 d[9], d[10], d[11], d[12], d[13]));
+         return section_of(outline_from(trvsec_c, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7],
+                                        d[8], d[9], d[10], d[11], d[12], d[13]));
        },
        {"C1", "C2", "D1", "D2", "TC1", "TC2", "TD1", "TD2"}},
       {"h1b",
@@ -312,20 +313,20 @@ const std::vector<Profile> &profiles() {
        {"W", "D", "P", "T1", "T2", "TW", "TP"},
        fault_of_h1b,
        [](const float *d) {
-         return section_of(frame(trvsec_h1b, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
+         return section_of(outline_from(trvsec_h1b, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
        }},
       {"box",
        "box girder with overhanging flanges",
        {"BT", "BB", "TT", "TB", "H", "TW", "G"},
        fault_of_box,
        [](const float *d) {
-         return section_of(frame(trvsec_box, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
+         return section_of(outline_from(trvsec_box, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
        }},
       {"rhs",
        "rectangular hollow section with sharp corners",
        {"B", "H", "T"},
        fault_of_rhs,
-       [](const float *d) { return section_of(frame(trvsec_rhs, d[0], d[1], d[2])); }},
+       [](const float *d) { return section_of(outline_from(trvsec_rhs, d[0], d[1], d[2])); }},
       {"l",
        "angle with sharp toes and a root fillet, or without",
        {"B", "H", "T", "R"},
@@ -336,20 +337,22 @@ const std::vector<Profile> &profiles() {
        "two equal angles back to back",
        {"B", "H", "G", "T", "TV"},
        fault_of_l2,
-       [](const float *d) { return section_of(frame(trvsec_l2, d[0], d[1], d[2], d[3], d[4])); }},
+       [](const float *d) {
+         return section_of(outline_from(trvsec_l2, d[0], d[1], d[2], d[3], d[4]));
+       }},
       {"tab",
        "top plate on a closed cell",
        {"B", "H", "BW", "E", "T", "TW", "TB"},
        fault_of_tab,
        [](const float *d) {
-         return section_of(frame(trvsec_tab, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
+         return section_of(outline_from(trvsec_tab, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
        }},
       {"h2b",
        "two flanges, two webs and a middle plate",
        {"B", "W", "HI", "TW1", "TW2", "TM", "TF"},
        fault_of_h2b,
        [](const float *d) {
-         return section_of(frame(trvsec_h2b, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
+         return section_of(outline_from(trvsec_h2b, d[0], d[1], d[2], d[3], d[4], d[5], d[6]));
        }},
       {"rolled",
        "hot-rolled I section with root fillets",

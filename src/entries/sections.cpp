@@ -39,34 +39,25 @@ TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1,
 
 namespace {
 
-// The outputs that all outline routines share, in their order.
-struct OutlineWriter {
-  TrvIntOut np;
-  TrvIntArrayOut nv;
-  TrvArrayOut x, y;
-  TrvIntArrayOut code;
-  TrvArrayOut sign;
-  std::array<TrvArrayOut, 5> z;
-  TrvArrayOut q1, q2;
-
-  void write(const Outline &outline, const Real q) const {
-    constexpr Integer kind_polygon = 2;
-    np = outline.polygons;
-    for (Integer p = 0; p < outline.polygons; ++p) {
-      const auto [told_vertices, is_hole] = outline.polygon[static_cast<std::size_t>(p)];
-      nv[p] = told_vertices;
-      code[p] = kind_polygon;
-      sign[p] = is_hole ? -1 : 1;
-      for (Real *const zeros : z) zeros[p] = 0;
-      q1[p] = is_hole ? -q : q;
-      q2[p] = q1[p];
-    }
-    for (std::size_t i = 0; i < outline.vertices; ++i) {
-      x[i] = outline.vertex[i].x;
-      y[i] = outline.vertex[i].y;
-    }
+// Writes the outputs that all outline routines share.
+void write(const Outline &outline, Real q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X,
+           TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
+           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
+  constexpr Integer kind_polygon = 2;
+  np = outline.polygons;
+  for (Integer p = 0; p < outline.polygons; ++p) {
+    const auto [told_vertices, is_hole] = outline.polygon[static_cast<std::size_t>(p)];
+    nv[p] = told_vertices;
+    code[p] = kind_polygon;
+    sign[p] = is_hole ? -1 : 1;
+    z1[p] = z2[p] = z3[p] = z4[p] = z5[p] = 0;
+    q1[p] = q2[p] = is_hole ? -q : q;
   }
-};
+  for (std::size_t i = 0; i < outline.vertices; ++i) {
+    X[i] = outline.vertex[i].x;
+    Y[i] = outline.vertex[i].y;
+  }
+}
 
 }  // namespace
 
@@ -76,8 +67,7 @@ TRELVIN_ROUTINE trvsec_ia(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn
                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                           TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(i_outline(H, B1, B2, T1, T2, TW), q);
+  write(i_outline(H, B1, B2, T1, T2, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_h(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn q,
@@ -86,8 +76,8 @@ TRELVIN_ROUTINE trvsec_h(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
                          TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                          TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(sideways_i_outline(H, B1, B2, T1, T2, TW), q);
+  write(sideways_i_outline(H, B1, B2, T1, T2, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5,
+        q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_t(TrvIn B, TrvIn H, TrvIn TF, TrvIn TW, TrvIn q, TrvIntOut np,
@@ -95,8 +85,7 @@ TRELVIN_ROUTINE trvsec_t(TrvIn B, TrvIn H, TrvIn TF, TrvIn TW, TrvIn q, TrvIntOu
                          TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3,
                          TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(t_outline(B, H, TF, TW), q);
+  write(t_outline(B, H, TF, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArrayOut nv,
@@ -104,8 +93,7 @@ TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArray
                          TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4,
                          TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(bar_outline(B, H), q);
+  write(bar_outline(B, H), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn TP,
@@ -114,8 +102,8 @@ TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn 
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(covered_i_outline(W, D, P, T1, T2, TW, TP), q);
+  write(covered_i_outline(W, D, P, T1, T2, TW, TP), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5,
+        q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvIn TW, TrvIn G,
@@ -124,8 +112,8 @@ TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvI
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(box_outline(BT, BB, TT, TB, H, TW, G), q);
+  write(box_outline(BT, BB, TT, TB, H, TW, G), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1,
+        q2);
 }
 
 TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, TrvIntArrayOut nv,
@@ -133,8 +121,7 @@ TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, Trv
                            TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4,
                            TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(tube_outline(B, H, T), q);
+  write(tube_outline(B, H, T), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q, TrvIntOut np,
@@ -142,8 +129,8 @@ TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q,
                           TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3,
                           TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(twin_angles_outline(B, H, G, T, TV), q);
+  write(twin_angles_outline(B, H, G, T, TV), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1,
+        q2);
 }
 
 TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn TW, TrvIn TB,
@@ -152,8 +139,8 @@ TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn T
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(plate_on_cell_outline(B, H, BW, E, T, TW, TB), q);
+  write(plate_on_cell_outline(B, H, BW, E, T, TW, TB), q, np, nv, X, Y, code, sign, z1, z2, z3, z4,
+        z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, TrvIn TM, TrvIn TF,
@@ -162,8 +149,8 @@ TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, Trv
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(two_cell_outline(B, W, HI, TW1, TW2, TM, TF), q);
+  write(two_cell_outline(B, W, HI, TW1, TW2, TM, TF), q, np, nv, X, Y, code, sign, z1, z2, z3, z4,
+        z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn S1,
@@ -172,8 +159,8 @@ TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
                          TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5,
                          TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(filleted_i_outline(H, B1, B2, T1, T2, TW, S1, S2, E), q);
+  write(filleted_i_outline(H, B1, B2, T1, T2, TW, S1, S2, E), q, np, nv, X, Y, code, sign, z1, z2,
+        z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn D1, TrvIn D2,
@@ -183,8 +170,8 @@ TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn 
                          TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                          TrvArrayOut q2) {
   const Door door;
-  const OutlineWriter writer = {np, nv, X, Y, code, sign, {z1, z2, z3, z4, z5}, q1, q2};
-  writer.write(channel_outline(H, TW, {B1, C1, D1, T1, TC1, TD1}, {B2, C2, D2, T2, TC2, TD2}), q);
+  write(channel_outline(H, TW, {B1, C1, D1, T1, TC1, TD1}, {B2, C2, D2, T2, TC2, TD2}), q, np, nv,
+        X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 /* Channels ----------------------------------------------------------------------------------- */

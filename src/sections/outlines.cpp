@@ -3,8 +3,8 @@
 namespace trelvin {
 namespace {
 
-std::array<Point2, 4> rectangle(Real left, Real right, Real top, Real bottom) {
-  return {{{left, top}, {left, bottom}, {right, bottom}, {right, top}}};
+std::array<Point2, 4> rectangle(Real left, Real right, Real upper, Real lower) {
+  return {{{left, upper}, {left, lower}, {right, lower}, {right, upper}}};
 }
 
 struct Flange {
@@ -51,7 +51,9 @@ std::array<Point2, 12> plate_on_legs(const Flange &plate, Real half_width_of_leg
 Outline i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
   const Real h = 0.5F * H;
   const Real web = 0.5F * TW;
-  return Outline().solid(i_shape({0.5F * B2, h, h - T2}, -web, web, {0.5F * B1, -h, T1 - h}));
+  Outline outline;
+  outline.solid(i_shape({0.5F * B2, h, h - T2}, -web, web, {0.5F * B1, -h, T1 - h}));
+  return outline;
 }
 
 Outline sideways_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
@@ -61,27 +63,32 @@ Outline sideways_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) 
   // Reflected in the line x = y, from the last vertex on.
   std::array<Point2, 12> sideways;
   for (std::size_t i = 0; i < 12; ++i) sideways[(i + 1) % 12] = {upright[i].y, upright[i].x};
-  return Outline().solid(sideways);
+  Outline outline;
+  outline.solid(sideways);
+  return outline;
 }
 
 Outline t_outline(Real B, Real H, Real TF, Real TW) {
   const Real h = 0.5F * H;
   const Real flange = 0.5F * B;
   const Real stem = 0.5F * TW;
-  return Outline().solid(std::array<Point2, 8>{{{-flange, h},
-                                                {-flange, h - TF},
-                                                {-stem, h - TF},
-                                                {-stem, -h},
-                                                {stem, -h},
-                                                {stem, h - TF},
-                                                {flange, h - TF},
-                                                {flange, h}}});
+  Outline outline;
+  outline.solid(std::array<Point2, 8>{{{-flange, h},
+                                       {-flange, h - TF},
+                                       {-stem, h - TF},
+                                       {-stem, -h},
+                                       {stem, -h},
+                                       {stem, h - TF},
+                                       {flange, h - TF},
+                                       {flange, h}}});
+  return outline;
 }
 
 Outline bar_outline(Integer B, Real H) {
   const Real x = 0.5F * static_cast<Real>(B);
   const Real y = 0.5F * H;
-  Outline bar = Outline().solid(rectangle(-x, x, y, -y));
+  Outline bar;
+  bar.solid(rectangle(-x, x, y, -y));
   bar.polygon[0].told_vertices = 12;
   return bar;
 }
@@ -93,9 +100,10 @@ Outline covered_i_outline(Real W, Real D, Real P, Real T1, Real T2, Real TW, Rea
   const Real web_top = 0.5F * (TW - P) + plate;
   const Real left = T1 - 0.5F * D;
   const Real right = 0.5F * D - T2;
-  return Outline()
-      .solid(plate_on_legs({0.5F * W, top, plate}, 0.5F * D, -top, left, right, web_bottom))
-      .hole(rectangle(left, right, plate, web_top));
+  Outline outline;
+  outline.solid(plate_on_legs({0.5F * W, top, plate}, 0.5F * D, -top, left, right, web_bottom));
+  outline.hole(rectangle(left, right, plate, web_top));
+  return outline;
 }
 
 Outline box_outline(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G) {
@@ -104,9 +112,10 @@ Outline box_outline(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G)
   const Real over_bottom = TB - h;
   const Real left = 0.5F * (BB - 2 * TW - G) - 0.5F * BB;
   const Real right = 0.5F * BT - 0.5F * (BT - 2 * TW - G);
-  return Outline()
-      .solid(i_shape({0.5F * BT, h, under_top}, left, right, {0.5F * BB, -h, over_bottom}))
-      .hole(rectangle(-0.5F * G, 0.5F * G, under_top, over_bottom));
+  Outline outline;
+  outline.solid(i_shape({0.5F * BT, h, under_top}, left, right, {0.5F * BB, -h, over_bottom}));
+  outline.hole(rectangle(-0.5F * G, 0.5F * G, under_top, over_bottom));
+  return outline;
 }
 
 Outline tube_outline(Real B, Real H, Real T) {
@@ -114,9 +123,10 @@ Outline tube_outline(Real B, Real H, Real T) {
   const Real y = 0.5F * H;
   const Real inner_x = 0.5F * (B - 2 * T);
   const Real inner_y = 0.5F * (H - 2 * T);
-  return Outline()
-      .solid(rectangle(-x, x, y, -y))
-      .hole(rectangle(-inner_x, inner_x, inner_y, -inner_y));
+  Outline outline;
+  outline.solid(rectangle(-x, x, y, -y));
+  outline.hole(rectangle(-inner_x, inner_x, inner_y, -inner_y));
+  return outline;
 }
 
 Outline twin_angles_outline(Real B, Real H, Real G, Real T, Real TV) {
@@ -129,7 +139,10 @@ Outline twin_angles_outline(Real B, Real H, Real G, Real T, Real TV) {
       {{-outer, h}, {-outer, under}, {-inner, under}, {-inner, -h}, {-g, -h}, {-g, h}}};
   const std::array<Point2, 6> right = {
       {{g, h}, {g, -h}, {inner, -h}, {inner, under}, {outer, under}, {outer, h}}};
-  return Outline().solid(left).solid(right);
+  Outline outline;
+  outline.solid(left);
+  outline.solid(right);
+  return outline;
 }
 
 Outline plate_on_cell_outline(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB) {
@@ -139,9 +152,10 @@ Outline plate_on_cell_outline(Real B, Real H, Real BW, Real E, Real T, Real TW, 
   const Real over_bottom = E - h + TB;
   const Real left = -0.5F * BW + TW;
   const Real right = 0.5F * BW - TW;
-  return Outline()
-      .solid(plate_on_legs({0.5F * B, h, under_top}, 0.5F * BW, -h, left, right, under_bottom))
-      .hole(rectangle(left, right, under_top, over_bottom));
+  Outline outline;
+  outline.solid(plate_on_legs({0.5F * B, h, under_top}, 0.5F * BW, -h, left, right, under_bottom));
+  outline.hole(rectangle(left, right, under_top, over_bottom));
+  return outline;
 }
 
 Outline two_cell_outline(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF) {
@@ -152,10 +166,11 @@ Outline two_cell_outline(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, R
   const Real web = 0.5F * W;
   const Real left = TW1 - web;
   const Real right = web - TW2;
-  return Outline()
-      .solid(i_shape({0.5F * B, outer, inner}, -web, web, {0.5F * B, -outer, -inner}))
-      .hole(rectangle(left, right, cell, middle))
-      .hole(rectangle(left, right, -middle, -cell));
+  Outline outline;
+  outline.solid(i_shape({0.5F * B, outer, inner}, -web, web, {0.5F * B, -outer, -inner}));
+  outline.hole(rectangle(left, right, cell, middle));
+  outline.hole(rectangle(left, right, -middle, -cell));
+  return outline;
 }
 
 Outline filleted_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
@@ -163,22 +178,24 @@ Outline filleted_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, 
   const Real h = 0.5F * H;
   const Real left = E - 0.5F * TW;
   const Real right = E + 0.5F * TW;
-  return Outline().solid(std::array<Point2, 16>{{{-0.5F * B2, h},
-                                                 {-0.5F * B2, h - T2},
-                                                 {left - S2, h - T2},
-                                                 {left, h - T2 - S2},
-                                                 {left, T1 - h + S1},
-                                                 {left - S1, T1 - h},
-                                                 {-0.5F * B1, T1 - h},
-                                                 {-0.5F * B1, -h},
-                                                 {0.5F * B1, -h},
-                                                 {0.5F * B1, T1 - h},
-                                                 {right + S1, T1 - h},
-                                                 {right, T1 - h + S1},
-                                                 {right, h - T2 - S2},
-                                                 {right + S2, h - T2},
-                                                 {0.5F * B2, h - T2},
-                                                 {0.5F * B2, h}}});
+  Outline outline;
+  outline.solid(std::array<Point2, 16>{{{-0.5F * B2, h},
+                                        {-0.5F * B2, h - T2},
+                                        {left - S2, h - T2},
+                                        {left, h - T2 - S2},
+                                        {left, T1 - h + S1},
+                                        {left - S1, T1 - h},
+                                        {-0.5F * B1, T1 - h},
+                                        {-0.5F * B1, -h},
+                                        {0.5F * B1, -h},
+                                        {0.5F * B1, T1 - h},
+                                        {right + S1, T1 - h},
+                                        {right, T1 - h + S1},
+                                        {right, h - T2 - S2},
+                                        {right + S2, h - T2},
+                                        {0.5F * B2, h - T2},
+                                        {0.5F * B2, h}}});
+  return outline;
 }
 
 namespace {
@@ -204,22 +221,24 @@ Outline channel_outline(Real H, Real TW, const LippedFlange &bottom, const Lippe
   const Real left = -0.5F * (bottom.B > top.B ? bottom.B : top.B);
   const Edge e1 = edge_of(bottom);
   const Edge e2 = edge_of(top);
-  return Outline().solid(std::array<Point2, 16>{{{left, -h},
-                                                 {left + e1.face, -h},
-                                                 {left + e1.face, e1.lip_end - h},
-                                                 {left + e1.fold, e1.lip_end - h},
-                                                 {left + e1.fold, e1.fold_inside - h},
-                                                 {left + e1.lip, e1.fold_inside - h},
-                                                 {left + e1.lip, bottom.T - h},
-                                                 {left + TW, bottom.T - h},
-                                                 {left + TW, h - top.T},
-                                                 {left + e2.lip, h - top.T},
-                                                 {left + e2.lip, h - e2.fold_inside},
-                                                 {left + e2.fold, h - e2.fold_inside},
-                                                 {left + e2.fold, h - e2.lip_end},
-                                                 {left + e2.face, h - e2.lip_end},
-                                                 {left + e2.face, h},
-                                                 {left, h}}});
+  Outline outline;
+  outline.solid(std::array<Point2, 16>{{{left, -h},
+                                        {left + e1.face, -h},
+                                        {left + e1.face, e1.lip_end - h},
+                                        {left + e1.fold, e1.lip_end - h},
+                                        {left + e1.fold, e1.fold_inside - h},
+                                        {left + e1.lip, e1.fold_inside - h},
+                                        {left + e1.lip, bottom.T - h},
+                                        {left + TW, bottom.T - h},
+                                        {left + TW, h - top.T},
+                                        {left + e2.lip, h - top.T},
+                                        {left + e2.lip, h - e2.fold_inside},
+                                        {left + e2.fold, h - e2.fold_inside},
+                                        {left + e2.fold, h - e2.lip_end},
+                                        {left + e2.face, h - e2.lip_end},
+                                        {left + e2.face, h},
+                                        {left, h}}});
+  return outline;
 }
 
 }  // namespace trelvin

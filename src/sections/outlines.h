@@ -25,20 +25,19 @@ class Outline {
   std::array<Point2, most_vertices> vertex;
 
   template <std::size_t n>
-  Outline &solid(const std::array<Point2, n> &corners) {
-    return add(corners, false);
+  void solid(const std::array<Point2, n> &corners) {
+    add(corners, false);
   }
   template <std::size_t n>
-  Outline &hole(const std::array<Point2, n> &corners) {
-    return add(corners, true);
+  void hole(const std::array<Point2, n> &corners) {
+    add(corners, true);
   }
 
  private:
   template <std::size_t n>
-  Outline &add(const std::array<Point2, n> &corners, bool is_hole) {
+  void add(const std::array<Point2, n> &corners, bool is_hole) {
     polygon[static_cast<std::size_t>(polygons++)] = {static_cast<Integer>(n), is_hole};
     for (const Point2 corner : corners) vertex[vertices++] = corner;
-    return *this;
   }
 };
 
