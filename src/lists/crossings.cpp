@@ -1,84 +1,190 @@
+#include "lists/crossings.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
+#include <utility>
 
-#include "numeric/real.h"
-#include "trelvin/lists.h"
+#include "lists/ordering.h"
 
-using namespace trelvin;
-
+namespace trelvin {
 namespace {
 
-// The crossings of an outline with the line y = y0, in the order of its edges, each edge counted
-// from its lower end, included, to its upper end, excluded.
+// In double precision, where products of differences of moderate coordinates are exact.
+struct WideVector {
+  double x, y;
+};
+
+WideVector wide_difference(Point2 end, Point2 start) {
+  return {double{end.x} - start.x, double{end.y} - start.y};
+}
+double cross(WideVector u, WideVector v) { return u.x * v.y - u.y * v.x; }
+double dot(WideVector u, WideVector v) { return u.x * v.x + u.y * v.y; }
+
+Point2 vertex(const OutlineVertices &outline, Integer i) { return {outline.x[i], outline.y[i]}; }
+
+Integer after(const OutlineVertices &outline, Integer i) { return i + 1 < outline.n ? i + 1 : 0; }
+
+// Visits the lower and the upper end of each edge that crosses the line y = y0, in the order of the
+// edges, each counted from its lower end, included, to its upper end, excluded.
 template <class Visit>
-void cross_horizontal(TrvArrayIn X, TrvArrayIn Y, Integer n, Real y0, Visit visit) {
-  for (Integer i = 0; i < n; ++i) {
-    const Integer j = i + 1 < n ? i + 1 : 0;
-    if ((Y[i] <= y0) == (Y[j] <= y0)) continue;
-    const Integer low = Y[i] < Y[j] ? i : j;
-    const Integer high = low == i ? j : i;
-    const double share = (double{y0} - Y[low]) / (double{Y[high]} - Y[low]);
-    visit(X[low] + share * (double{X[high]} - X[low]));
+void visit_crossing_edges(const OutlineVertices &outline, Real y0, Visit visit) {
+  for (Integer i = 0; i < outline.n; ++i) {
+    const Point2 p = vertex(outline, i);
+    const Point2 q = vertex(outline, after(outline, i));
+    if ((p.y <= y0) == (q.y <= y0)) continue;
+    if (p.y < q.y) {
+      visit(p, q);
+    } else {
+      visit(q, p);
+    }
   }
 }
+
+// Vertices of the outline, one after the other, on the line of a segment.
+struct Run {
+  double from = std::numeric_limits<double>::infinity();  // places on the segment
+  double to = -std::numeric_limits<double>::infinity();
+  Point2 start = {};  // at `from`
+
+  [[nodiscard]] bool empty() const { return from > to; }
+};
+
+struct Place {
+  double x, y, t;
+};
+
+// A segment from p1 to p2 and its line.
+struct Segment {
+  Point2 p1, p2;
+  WideVector d = wide_difference(p2, p1);
+
+  // Positive to the left.
+  [[nodiscard]] double side(Point2 p) const { return cross(d, wide_difference(p, p1)); }
+
+  void extend(Run &run, Point2 p) const {
+    const double t = dot(wide_difference(p, p1), d) / dot(d, d);
+    if (t < run.from) {
+      run.from = t;
+      run.start = p;
+    }
+    run.to = std::max(run.to, t);
+  }
+
+  // Where the segment first meets a run, whichever way the outline runs.
+  [[nodiscard]] std::optional<Place> meet(const Run &run) const {
+    if (!(run.from <= 1 && run.to >= 0)) return std::nullopt;
+    if (run.from <= 0) return Place{p1.x, p1.y, 0};
+    return Place{run.start.x, run.start.y, run.from};
+  }
+
+  // Where it meets an edge from a to b that crosses its line. The sides of its ends decide: the place
+  // is rounded, and off the segment now and then where an end is on the edge.
+  [[nodiscard]] std::optional<Place> meet(Point2 a, Point2 b) const {
+    const WideVector edge = wide_difference(b, a);
+    const double side1 = cross(edge, wide_difference(p1, a));
+    const double side2 = cross(edge, wide_difference(p2, a));
+    if (!((side1 <= 0 && side2 >= 0) || (side1 >= 0 && side2 <= 0))) return std::nullopt;
+    const double share = side(a) / (side(a) - side(b));
+    const double x = a.x + share * edge.x;
+    const double y = a.y + share * edge.y;
+    const double t = ((x - p1.x) * d.x + (y - p1.y) * d.y) / dot(d, d);
+    if (std::isnan(t)) return std::nullopt;
+    return Place{x, y, t > 0 ? std::min(t, 1.0) : 0};
+  }
+};
+
+// A heap sort, since the arrays move together and there is nowhere to put them meanwhile.
+struct CrossingSort {
+  const CrossingArrays &c;
+
+  [[nodiscard]] bool before(Integer i, Integer j) const {
+    return c.t[i] < c.t[j] || (c.t[i] == c.t[j] && c.edge[i] < c.edge[j]);
+  }
+
+  void swap(Integer i, Integer j) const {
+    std::swap(c.x[i], c.x[j]);
+    std::swap(c.y[i], c.y[j]);
+    std::swap(c.t[i], c.t[j]);
+    std::swap(c.edge[i], c.edge[j]);
+  }
+
+  void sift(Integer parent, Integer n) const {
+    while (parent < n / 2) {
+      Integer child = 2 * parent + 1;
+      if (child + 1 < n && before(child, child + 1)) ++child;
+      if (!before(parent, child)) return;
+      swap(parent, child);
+      parent = child;
+    }
+  }
+
+  void run(Integer n) const {
+    for (Integer parent = n / 2; parent-- > 0;) sift(parent, n);
+    for (Integer last = n - 1; last > 0; --last) {
+      swap(0, last);
+      sift(0, last);
+    }
+  }
+};
 
 }  // namespace
 
-TRELVIN_ROUTINE trvppp(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn y0, TrvIntOut count,
-                       TrvArrayOut XC) {
+Integer cross_level(const OutlineVertices &outline, Real y0, Real *crossings) {
   Integer found = 0;
-  if (n >= 3) {
-    cross_horizontal(X, Y, n, y0, [&](double x) { XC[found++] = static_cast<Real>(x); });
-    std::sort(XC, XC + found, [](Real a, Real b) { return a < b; });
-  }
-  count = found;
+  visit_crossing_edges(outline, y0, [&](Point2 low, Point2 high) {
+    const WideVector edge = wide_difference(high, low);
+    const double share = (double{y0} - low.y) / edge.y;
+    crossings[found++] = static_cast<Real>(low.x + share * edge.x);
+  });
+  sort(crossings, found);
+  return found;
 }
 
-TRELVIN_ROUTINE trvpin(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn x1, TrvIn y1, TrvIn x2,
-                       TrvIn y2, TrvIntOut count, TrvArrayOut XI, TrvArrayOut YI, TrvArrayOut T,
-                       TrvIntArrayOut EDGE, TrvIntOut status) {
-  count = 0;
-  status = -1;
-  if (n < 3 || (negligible(x2 - x1) && negligible(y2 - y1))) return;
-
-  Integer to_the_right = 0;
-  cross_horizontal(X, Y, n, y1, [&](double x) { to_the_right += x > x1 ? 1 : 0; });
-  status = to_the_right % 2;
-
-  // A vertex on the line belongs to the side that the outline comes from.
-  const double dx = double{x2} - x1;
-  const double dy = double{y2} - y1;
-  const auto side = [&](Integer i) { return dx * (double{Y[i]} - y1) - dy * (double{X[i]} - x1); };
-  bool left = false;
-  for (Integer i = n; i-- > 0;) {
-    if (side(i) != 0) {
-      left = side(i) > 0;
-      break;
-    }
-  }
-  Integer found = 0;
-  for (Integer i = 0; i < n; ++i) {
-    const Integer j = i + 1 < n ? i + 1 : 0;
-    const double from = side(i);
-    const double to = side(j);
-    if (from != 0) left = from > 0;
-    if (to == 0 || (to > 0) == left) continue;
-    const double share = from / (from - to);
-    const double x = X[i] + share * (double{X[j]} - X[i]);
-    const double y = Y[i] + share * (double{Y[j]} - Y[i]);
-    const double t = ((x - x1) * dx + (y - y1) * dy) / (dx * dx + dy * dy);
-    if (!(t >= 0 && t <= 1)) continue;
-    Integer place = found++;
-    for (; place > 0 && T[place - 1] > static_cast<Real>(t); --place) {
-      XI[place] = XI[place - 1];
-      YI[place] = YI[place - 1];
-      T[place] = T[place - 1];
-      EDGE[place] = EDGE[place - 1];
-    }
-    XI[place] = static_cast<Real>(x);
-    YI[place] = static_cast<Real>(y);
-    T[place] = static_cast<Real>(t);
-    EDGE[place] = i + 1;
-  }
-  count = found;
+bool inside(const OutlineVertices &outline, Point2 p) {
+  bool odd = false;
+  visit_crossing_edges(outline, p.y, [&](Point2 low, Point2 high) {
+    const bool to_the_right = cross(wide_difference(high, low), wide_difference(p, low)) > 0;
+    odd = odd != to_the_right;
+  });
+  return odd;
 }
+
+Integer cross_segment(const OutlineVertices &outline, Point2 p1, Point2 p2,
+                      const CrossingArrays &crossings) {
+  const Segment segment = {p1, p2};
+  const auto side = [&](Integer i) { return segment.side(vertex(outline, i)); };
+  Integer start = outline.n - 1;
+  while (start >= 0 && side(start) == 0) --start;
+  if (start < 0) return 0;
+
+  bool left = side(start) > 0;
+  Run run;  // since the outline was last off the line
+  Integer found = 0;
+  Integer from = start;
+  for (Integer steps = 0; steps < outline.n; ++steps) {
+    const Integer to = after(outline, from);
+    const Integer edge = std::exchange(from, to);
+    const Point2 p = vertex(outline, to);
+    if (side(to) == 0) {
+      segment.extend(run, p);
+      continue;
+    }
+    if ((side(to) > 0) != left) {
+      const auto place = run.empty() ? segment.meet(vertex(outline, edge), p) : segment.meet(run);
+      if (place) {
+        crossings.x[found] = static_cast<Real>(place->x);
+        crossings.y[found] = static_cast<Real>(place->y);
+        crossings.t[found] = static_cast<Real>(place->t);
+        crossings.edge[found++] = edge + 1;
+      }
+      left = !left;
+    }
+    run = {};
+  }
+  CrossingSort{crossings}.run(found);
+  return found;
+}
+
+}  // namespace trelvin

@@ -1,181 +1,167 @@
-// Merging of lists, in time that grows little faster than their lengths and without the heap.
+#include "lists/merging.h"
+
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <cstring>
 
-#include "numeric/real.h"
-#include "trelvin/lists.h"
+#include "lists/cell_index.h"
+#include "lists/keys.h"
+#include "lists/ordering.h"
+#include "lists/work_array.h"
 
-using namespace trelvin;
+namespace trelvin {
+
+Integer merge(Integer *list, Integer n) {
+  if (n < 1) return n;
+  sort(list, n);
+  return static_cast<Integer>(std::unique(list, list + n) - list);
+}
+
+Integer merge(Real *list, Integer n, Real tol) {
+  if (n < 1) return n;
+  sort(list, n);
+  Integer left = 1;
+  for (Integer i = 1; i < n; ++i) {
+    if (!agree(list[i], list[left - 1], tol)) list[left++] = list[i];
+  }
+  return left;
+}
+
+Integer merge_outline(const PlaneArrays &vertices, Integer n, Real tol) {
+  if (n < 1) return n;
+  const auto same = [&](Integer i, Integer j) {
+    const Point2 p = vertices[i];
+    const Point2 q = vertices[j];
+    return agree(p.x, q.x, tol) && agree(p.y, q.y, tol);
+  };
+  Integer left = 1;
+  for (Integer i = 1; i < n; ++i) {
+    if (!same(i, left - 1)) vertices.set(left++, vertices[i]);
+  }
+  while (left > 1 && same(left - 1, 0)) --left;
+  return left;
+}
 
 namespace {
 
-bool agree(Real a, Real b, Real tol) { return a == b || std::fabs(a - b) <= tol; }
-
-// An order of all Reals: NaNs last, -0 before 0.
-bool comes_before(Real a, Real b) {
-  if (std::isnan(a) || std::isnan(b)) return !std::isnan(a) && std::isnan(b);
-  return a < b || (a == b && std::signbit(a) && !std::signbit(b));
-}
-
-// Tells of each entry of A, in order, whether B holds it. Works through A by blocks that fit on the
-// stack: each is sorted once and then searched for every entry of B.
-template <class Visit>
-void tell_common(const Integer *A, Integer na, const Integer *B, Integer nb, Visit visit) {
-  constexpr Integer block_size = 8192;
-  struct Entry {
-    Integer value;
-    Integer place;
-  };
-  Entry block[block_size];
-  bool held[block_size];
-  for (Integer start = 0; start < na; start += block_size) {
-    const Integer size = std::min(block_size, na - start);
-    for (Integer i = 0; i < size; ++i) {
-      block[i] = {A[start + i], i};
-      held[i] = false;
-    }
-    std::sort(block, block + size,
-              [](const Entry &p, const Entry &q) { return p.value < q.value; });
-    for (Integer j = 0; j < nb; ++j) {
-      Entry *entry = std::lower_bound(
-          block, block + size, B[j], [](const Entry &p, Integer value) { return p.value < value; });
-      if (entry == block + size || entry->value != B[j] || held[entry->place]) continue;
-      for (; entry != block + size && entry->value == B[j]; ++entry) held[entry->place] = true;
-    }
-    for (Integer i = 0; i < size; ++i) visit(A[start + i], held[i]);
-  }
+// The first of `count` indexed entries that agrees with what lies at p, or `count`.
+template <class Agrees>
+Integer first_agreeing(const CellIndex &index, Point3 p, Integer count, Agrees agrees) {
+  Integer first = count;
+  index.visit_candidates(p, [&](Integer i) {
+    if (i >= first) return false;
+    if (agrees(i)) first = i;
+    return i < first;
+  });
+  return first;
 }
 
 }  // namespace
 
-TRELVIN_ROUTINE trvmer2(TrvIntArrayInOut V, TrvIntInOut n) {
-  if (n < 1) return;
-  std::sort(V, V + n);
-  n = static_cast<Integer>(std::unique(V, V + n) - V);
-}
-
-TRELVIN_ROUTINE trvmer3(TrvArrayInOut V, TrvIntInOut n) { trvmer12(V, n, tolerance); }
-
-TRELVIN_ROUTINE trvmer12(TrvArrayInOut V, TrvIntInOut n, TrvIn tol) {
-  if (n < 1) return;
-  std::sort(V, V + n, comes_before);
-  Integer kept = 1;
-  for (Integer i = 1; i < n; ++i) {
-    if (!agree(V[i], V[kept - 1], tol)) V[kept++] = V[i];
+Integer join_new(RealList a, RealList b, Real tol, Real *joined, Integer *positions_of_b) {
+  Integer count = std::max(a.n, 0);
+  std::copy_n(a.values, count, joined);
+  CellIndex index(std::int64_t{count} + std::max(b.n, 0), tol);
+  for (Integer i = 0; i < count; ++i) index.enter({joined[i], 0, 0});
+  for (Integer j = 0; j < b.n; ++j) {
+    const Real value = b.values[j];
+    const Integer place = first_agreeing(index, {value, 0, 0}, count,
+                                         [&](Integer i) { return agree(value, joined[i], tol); });
+    if (place == count) {
+      joined[count++] = value;
+      index.enter({value, 0, 0});
+    }
+    positions_of_b[j] = place + 1;
   }
-  n = kept;
+  return count;
 }
 
-TRELVIN_ROUTINE trvmer4(TrvIntIn na, TrvArrayIn A, TrvIntIn nb, TrvArrayIn B, TrvIn tol,
-                        TrvIntOut nout, TrvArrayOut OUT, TrvIntArrayOut IB) {
-  Integer written = std::max(na, 0);
-  std::copy_n(A, written, OUT);
+Integer put_to_places(const PointList (&lists)[3], Real tol, const SpaceArrays &places,
+                      Integer *const (&place_of)[3]) {
+  std::int64_t capacity = 0;
+  for (const PointList &list : lists) capacity += std::max(list.n, 0);
+  CellIndex index(capacity, tol);
+  Integer count = 0;
+  for (int l = 0; l < 3; ++l) {
+    for (Integer i = 0; i < lists[l].n; ++i) {
+      const Point3 p = lists[l][i];
+      const Integer place = first_agreeing(
+          index, p, count, [&](Integer other) { return agree(p, places[other], tol); });
+      if (place == count) {
+        places.set(count++, p);
+        index.enter(p);
+      }
+      place_of[l][i] = place + 1;
+    }
+  }
+  return count;
+}
+
+namespace {
+
+constexpr Integer entries_on_stack = 1024;
+
+// Sorts by value; entries of equal value stay together.
+const Placed *sort_block(Placed *block, Placed *spare, Integer size) {
+  if (spare != nullptr) return sort_by_digits(block, spare, static_cast<std::size_t>(size), 32);
+  std::sort(block, block + size);
+  return block;
+}
+
+// Marks the entries of a sorted block that `b` holds.
+void mark_held(const Placed *block, Integer size, const Integer *b, Integer nb, bool *held) {
   for (Integer j = 0; j < nb; ++j) {
-    Integer place = 0;
-    while (place < written && !agree(B[j], OUT[place], tol)) ++place;
-    if (place == written) OUT[written++] = B[j];
-    IB[j] = place + 1;
+    const Key key = key_of(b[j]);
+    const Placed *entry = std::lower_bound(block, block + size, placed(key, 0));
+    const auto equal = [&] { return entry != block + size && key_of(*entry) == key; };
+    if (!equal() || held[position_of(*entry)]) continue;
+    for (; equal(); ++entry) held[position_of(*entry)] = true;
   }
-  nout = written;
 }
 
-TRELVIN_ROUTINE trvmer14(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayIn B, TrvIntOut nout,
-                         TrvIntArrayOut OUT) {
-  Integer written = 0;
-  tell_common(A, na, B, nb, [&](Integer value, bool held) {
-    if (held) OUT[written++] = value;
-  });
-  nout = written;
-}
-
-TRELVIN_ROUTINE trvmer15(TrvIntInOut na, TrvIntArrayInOut A, TrvIntIn nb, TrvIntArrayIn B,
-                         TrvIntOut count) {
-  Integer kept = 0;
-  tell_common(A, na, B, nb, [&](Integer value, bool held) {
-    if (!held) A[kept++] = value;
-  });
-  count = std::max(na, 0) - kept;
-  if (na > 0) na = kept;
-}
-
-TRELVIN_ROUTINE trvmer16(TrvArrayInOut X, TrvArrayInOut Y, TrvIntInOut n, TrvIn tol) {
-  if (n < 1) return;
-  const auto same = [&](Integer i, Integer j) {
-    return agree(X[i], X[j], tol) && agree(Y[i], Y[j], tol);
-  };
-  Integer kept = 1;
-  for (Integer i = 1; i < n; ++i) {
-    if (same(i, kept - 1)) continue;
-    X[kept] = X[i];
-    Y[kept] = Y[i];
-    ++kept;
-  }
-  while (kept > 1 && same(kept - 1, 0)) --kept;
-  n = kept;
-}
-
-TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA, TrvIntIn nb,
-                        TrvArrayIn XB, TrvArrayIn YB, TrvArrayIn ZB, TrvIn tol, TrvIntOut count,
-                        TrvIntArrayOut IA, TrvIntArrayOut IB, TrvIntOut status) {
-  Integer pairs = 0;
-  Integer partnered = 0;
-  for (Integer i = 0; i < na; ++i) {
-    const Integer before = pairs;
-    for (Integer j = 0; j < nb; ++j) {
-      if (agree(XA[i], XB[j], tol) && agree(YA[i], YB[j], tol) && agree(ZA[i], ZB[j], tol)) {
-        IA[pairs] = i + 1;
-        IB[pairs] = j + 1;
-        ++pairs;
-      }
+// Works through `a` by blocks, in one where there is memory for its sorted copy, and else in such as
+// fit on the stack. Each is searched for every entry of `b`.
+Integer choose(bool wanted, const Integer *a, Integer na, const Integer *b, Integer nb,
+               Integer *chosen) {
+  Placed small_block[entries_on_stack];
+  bool small_held[entries_on_stack];
+  Placed *block = small_block;
+  Placed *spare = nullptr;
+  bool *held = small_held;
+  Integer block_size = entries_on_stack;
+  WorkArray<Placed> large_block;
+  WorkArray<bool> large_held;
+  if (na > entries_on_stack) {
+    const auto size = static_cast<std::uint64_t>(na);
+    large_block = work_array<Placed>(2 * size);
+    large_held = work_array<bool>(size);
+    if (large_block && large_held) {
+      block = large_block.get();
+      spare = block + na;
+      held = large_held.get();
+      block_size = na;
     }
-    if (pairs > before) ++partnered;
   }
-  count = pairs;
-  status = pairs == 0 ? 0 : partnered < na ? 1 : 2;
-}
-
-TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA, TrvIntIn nb,
-                        TrvArrayIn XB, TrvArrayIn YB, TrvArrayIn ZB, TrvIntIn nc, TrvArrayIn XC,
-                        TrvArrayIn YC, TrvArrayIn ZC, TrvIn tol, TrvIntOut nab, TrvIntArrayOut IAB,
-                        TrvIntArrayOut JAB, TrvIntOut nbc, TrvIntArrayOut IBC, TrvIntArrayOut JBC,
-                        TrvIntOut nca, TrvIntArrayOut ICA, TrvIntArrayOut JCA, TrvIntOut nout,
-                        TrvArrayOut XO, TrvArrayOut YO, TrvArrayOut ZO, TrvIntArrayOut MA,
-                        TrvIntArrayOut MB, TrvIntArrayOut MC, TrvIntIn k, TrvIntOut nk,
-                        TrvIntArrayOut PK, TrvIntOut nz, TrvArrayOut ZL) {
-  Integer status;
-  trvptp1(na, XA, YA, ZA, nb, XB, YB, ZB, tol, nab, IAB, JAB, status);
-  trvptp1(nb, XB, YB, ZB, nc, XC, YC, ZC, tol, nbc, IBC, JBC, status);
-  trvptp1(nc, XC, YC, ZC, na, XA, YA, ZA, tol, nca, ICA, JCA, status);
-
-  Integer places = 0;
-  Integer points = 0;
-  Integer at_k = 0;
-  const auto place = [&](Integer n, TrvArrayIn X, TrvArrayIn Y, TrvArrayIn Z, TrvIntArrayOut M) {
-    for (Integer i = 0; i < n; ++i) {
-      Integer p = 0;
-      while (p < places &&
-             !(agree(X[i], XO[p], tol) && agree(Y[i], YO[p], tol) && agree(Z[i], ZO[p], tol))) {
-        ++p;
-      }
-      if (p == places) {
-        XO[p] = X[i];
-        YO[p] = Y[i];
-        ZO[p] = Z[i];
-        ++places;
-      }
-      M[i] = p + 1;
-      ++points;
-      if (M[i] == k) PK[at_k++] = points;
+  Integer count = 0;
+  for (Integer start = 0; start < na; start += std::min(block_size, na - start)) {
+    const Integer size = std::min(block_size, na - start);
+    for (Integer i = 0; i < size; ++i) block[i] = placed(key_of(a[start + i]), i);
+    std::fill_n(held, size, false);
+    mark_held(sort_block(block, spare, size), size, b, nb, held);
+    for (Integer i = 0; i < size; ++i) {
+      if (held[i] == wanted) chosen[count++] = a[start + i];
     }
-  };
-  place(na, XA, YA, ZA, MA);
-  place(nb, XB, YB, ZB, MB);
-  place(nc, XC, YC, ZC, MC);
-  nout = places;
-  nk = at_k;
-  nz = places;
-  std::copy_n(ZO, places, ZL);
-  trvmer12(ZL, nz, tol);
+  }
+  return count;
 }
+
+}  // namespace
+
+Integer common(const Integer *a, Integer na, const Integer *b, Integer nb, Integer *chosen) {
+  return choose(true, a, na, b, nb, chosen);
+}
+
+Integer difference(const Integer *a, Integer na, const Integer *b, Integer nb, Integer *chosen) {
+  return choose(false, a, na, b, nb, chosen);
+}
+
+}  // namespace trelvin

@@ -1,0 +1,30 @@
+// Crossings of closed outlines with lines and segments of the plane.
+#pragma once
+
+#include "vectors/vectors.h"
+
+namespace trelvin {
+
+struct OutlineVertices {
+  const Real *x, *y;
+  Integer n;
+};
+
+// Writes where the line y = y0 crosses an outline, ascending, and returns how often it does.
+Integer cross_level(const OutlineVertices &outline, Real y0, Real *crossings);
+
+// Whether a point is inside by the even-odd rule. One on the outline counts as the point just to its
+// right, or just above where that is on the outline too.
+bool inside(const OutlineVertices &outline, Point2 p);
+
+struct CrossingArrays {
+  Real *x, *y;
+  Real *t;        // places on the segment, from 0 to 1
+  Integer *edge;  // from 1
+};
+
+// Writes where a segment crosses an outline, by place, then by edge, and returns how often it does.
+Integer cross_segment(const OutlineVertices &outline, Point2 p1, Point2 p2,
+                      const CrossingArrays &crossings);
+
+}  // namespace trelvin

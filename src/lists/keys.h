@@ -1,0 +1,74 @@
+// Whole numbers in the order of what they stand for, and their sorting digit by digit.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
+#include "numeric/real.h"
+
+namespace trelvin {
+
+using Key = std::uint32_t;
+
+constexpr Key sign_bit = 0x80000000U;
+
+inline Key key_of(Integer value) { return static_cast<Key>(value) ^ sign_bit; }
+inline Integer integer_of(Key key) { return static_cast<Integer>(key ^ sign_bit); }
+
+inline Key bits_of(Real value) {
+  Key bits;
+  std::memcpy(&bits, &value, sizeof bits);
+  return bits;
+}
+
+// -0 comes just before 0.
+inline Key key_of(Real value) {
+  const Key bits = bits_of(value);
+  return bits ^ ((bits & sign_bit) != 0 ? ~Key{0} : sign_bit);
+}
+
+inline Real real_of(Key key) {
+  const Key bits = key ^ ((key & sign_bit) != 0 ? sign_bit : ~Key{0});
+  Real value;
+  std::memcpy(&value, &bits, sizeof value);
+  return value;
+}
+
+// One key for both zeros.
+inline Key key_of_magnitude(Real value) { return key_of(value + 0.0F); }
+
+// A key with the position of its entry: sorted by key, and by position where keys are equal.
+using Placed = std::uint64_t;
+
+inline Placed placed(Key key, Integer position) {
+  return Placed{key} << 32 | static_cast<Key>(position);
+}
+inline Key key_of(Placed entry) { return static_cast<Key>(entry >> 32); }
+inline Integer position_of(Placed entry) { return static_cast<Integer>(static_cast<Key>(entry)); }
+
+// Sorts ascending by the 32 bits from `lowest_bit` up. What those do not tell apart stays in order.
+// Works in both arrays and returns the one that holds the result.
+template <class Word>
+Word *sort_by_digits(Word *words, Word *spare, std::size_t n, int lowest_bit) {
+  constexpr int digits = 4;
+  constexpr int values = 256;
+  const auto digit = [&](Word word, int d) {
+    return static_cast<std::size_t>(word >> (lowest_bit + 8 * d)) % values;
+  };
+  std::uint32_t places[digits][values] = {};
+  for (std::size_t i = 0; i < n; ++i) {
+    for (int d = 0; d < digits; ++d) ++places[d][digit(words[i], d)];
+  }
+  for (int d = 0; d < digits && n > 0; ++d) {
+    if (places[d][digit(words[0], d)] == n) continue;  // the same digit throughout
+    std::uint32_t before = 0;
+    for (std::uint32_t &place : places[d]) before += std::exchange(place, before);
+    for (std::size_t i = 0; i < n; ++i) spare[places[d][digit(words[i], d)]++] = words[i];
+    std::swap(words, spare);
+  }
+  return words;
+}
+
+}  // namespace trelvin

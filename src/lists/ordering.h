@@ -1,0 +1,38 @@
+// Ordering of lists.
+#pragma once
+
+#include "vectors/vectors.h"
+
+namespace trelvin {
+
+// Ascending as a selection sort leaves it that takes the last of equal smallest entries: a NaN stays
+// where it is, and which of equal zeros comes first follows from the swaps.
+void sort_selecting(Real *list, Integer n);
+
+void sort(Integer *list, Integer n);
+
+// -0 before 0, NaNs last.
+void sort(Real *list, Integer n);
+
+// Positions, from 1, of the entries in ascending order, equal ones from the highest position down. A
+// found entry counts as the largest plus 1 from then on; one that does not compare finds none.
+// Nothing is written where memory is short.
+void order(const Real *list, Integer n, Integer *positions);
+
+struct LineArrays {
+  const Real *a, *b, *c;
+};
+
+bool parallel_and_distinct(const LineArrays &lines, Integer n);
+
+// Positions of parallel lines by their crossing of an axis, as `order` gives them.
+void order_parallels(const LineArrays &lines, Integer n, Integer *positions);
+
+struct Quadrilateral {
+  Point3 corners[4];
+};
+
+// The corners' positions, from 1, in a cyclic order.
+const Integer *cyclic_order(const Quadrilateral &q);
+
+}  // namespace trelvin

@@ -1,0 +1,28 @@
+// Memory for the length of a call.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <type_traits>
+
+namespace trelvin {
+
+struct Release {
+  void operator()(void *memory) const { std::free(memory); }
+};
+
+template <class Element>
+using WorkArray = std::unique_ptr<Element[], Release>;
+
+// Elements of no particular value, or nothing where memory is short; never an exception.
+template <class Element>
+WorkArray<Element> work_array(std::uint64_t size) {
+  static_assert(std::is_trivial_v<Element>);
+  if (size > SIZE_MAX / sizeof(Element)) return nullptr;
+  const auto bytes = static_cast<std::size_t>(size) * sizeof(Element);
+  return WorkArray<Element>(static_cast<Element *>(std::malloc(bytes)));
+}
+
+}  // namespace trelvin
