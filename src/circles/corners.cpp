@@ -30,8 +30,8 @@ std::optional<RoundedCorner> round_corner(Point2 corner, Point2 p1, Point2 p2, R
   return RoundedCorner{rounded(touch1 + normal), rounded(touch1), rounded(touch2)};
 }
 
-Box box_of_sweep(Point2 centre, Point2 start, Real sweep) {
-  const WideVector from = wide_difference(start, centre);
+Box box_of_sweep(Point2 centre, Point2 on_arc, Real sweep) {
+  const WideVector from = wide_difference(on_arc, centre);
   const double r = length(from);
   const double turn = std::clamp<double>(sweep, -full_turn, full_turn);
   if (std::isnan(r) || std::isnan(turn)) {
@@ -44,9 +44,9 @@ Box box_of_sweep(Point2 centre, Point2 start, Real sweep) {
   const WideVector to = {from.x * c - from.y * s, from.x * s + from.y * c};
   WideVector lower = {std::min(from.x, to.x), std::min(from.y, to.y)};
   WideVector upper = {std::max(from.x, to.x), std::max(from.y, to.y)};
-  const double start_angle = arc_tangent(from.y, from.x);
-  const double first = std::min(start_angle, start_angle + turn);
-  const double last = std::max(start_angle, start_angle + turn);
+  const double start = arc_tangent(from.y, from.x);
+  const double first = std::min(start, start + turn);
+  const double last = std::max(start, start + turn);
   constexpr double quarter = full_turn / 4;
   for (int i = -6; i <= 6; ++i) {
     if (i * quarter < first || i * quarter > last) continue;

@@ -20,6 +20,6 @@ struct Box {
 };
 
 // Of the arc that a point sweeps about a centre. A NaN anywhere is everywhere in the box.
-Box box_of_sweep(Point2 centre, Point2 start, Real sweep);
+Box box_of_sweep(Point2 centre, Point2 on_arc, Real sweep);
 
 }  // namespace trelvin
