@@ -1,7 +1,7 @@
-# The library: libtrelvin.so, or Trelvin.dll with its import library.
+# The library: libtrelvin.so, or Trelvin.dll with its import library; or a static one.
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.cpp)
 list(FILTER sources EXCLUDE REGEX library_entry.cpp)
-add_library(trelvin SHARED ${sources})
+add_library(trelvin ${sources})
 add_library(Trelvin::trelvin ALIAS trelvin)
 target_include_directories(trelvin PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                           $<INSTALL_INTERFACE:include>)
@@ -9,11 +9,25 @@ target_include_directories(trelvin PRIVATE src)
 target_link_libraries(trelvin PRIVATE $<BUILD_INTERFACE:trelvin_warnings>)
 set_target_properties(
   trelvin PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+                     POSITION_INDEPENDENT_CODE ON
                      CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 
 # The same bits everywhere: no fused multiply-add, and square roots are the machine's instruction.
-# Nothing throws, so no exception can reach a host.
-target_compile_options(trelvin PRIVATE -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti)
+# Nothing throws, so no exception can reach a host. No path of the building machine gets in.
+target_compile_options(
+  trelvin PRIVATE -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti
+                  -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=.)
+if(TRELVIN_BUILD_FUZZER)
+  target_compile_options(trelvin PRIVATE -fsanitize=fuzzer-no-link)
+endif()
+if(WIN32)
+  # Hosts of the 1990s keep the stack aligned to 4 bytes only.
+  target_compile_options(trelvin PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-mstackrealign>)
+endif()
+
+if(NOT BUILD_SHARED_LIBS)
+  return()
+endif()
 
 # The edge sums are vectors by hand. The compiler's own would load what was stored by elements just
 # before, and wait. One source is for processors that have AVX2, which is found out at run time.
@@ -29,15 +43,22 @@ if(WIN32)
   configure_file(src/entries/version.rc.in version.rc @ONLY)
   target_sources(trelvin PRIVATE src/entries/library_entry.cpp src/entries/Trelvin.def
                                  ${CMAKE_CURRENT_BINARY_DIR}/version.rc)
-  # Hosts of the 1990s keep the stack aligned to 4 bytes only.
-  target_compile_options(trelvin PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-mstackrealign>)
+  # The library has its own entry and no start-up code of the C run-time: nothing in it is built or
+  # torn down at run time, and thread-local storage would keep it from declining thread calls.
   target_link_options(trelvin PRIVATE -static -s -Wl,--dynamicbase -Wl,--nxcompat
                                       -Wl,--no-insert-timestamp)
+  if(TRELVIN_MOVING)
+    set_source_files_properties(src/entries/library_entry.cpp
+                                PROPERTIES COMPILE_DEFINITIONS DllMainCRTStartup=DllMain)
+  else()
+    target_link_options(trelvin PRIVATE -nostartfiles)
+  endif()
   set_target_properties(trelvin PROPERTIES OUTPUT_NAME Trelvin PREFIX "" VERSION "" SOVERSION ""
                                            IMPORT_PREFIX "lib")
 
   # The linker's own import library names each routine as the export table does; compilers ask for
   # the decorated name without its underscore, so the library is made from those names instead.
+  # Its members are named after a prefix, which is drawn at random unless it is given.
   file(STRINGS src/entries/Trelvin.def decorated REGEX "\"_trv")
   list(TRANSFORM decorated REPLACE ".*\"_(trv[^\"]*)\".*" "  \\1")
   list(JOIN decorated "\n" decorated)
@@ -45,16 +66,15 @@ if(WIN32)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/entries/Trelvin.def)
   add_custom_command(
     TARGET trelvin POST_BUILD VERBATIM
-    COMMAND ${CMAKE_DLLTOOL} --kill-at --input-def ${CMAKE_CURRENT_BINARY_DIR}/import.def
+    COMMAND ${CMAKE_DLLTOOL} --kill-at --deterministic-libraries --temp-prefix trelvin
+            --input-def ${CMAKE_CURRENT_BINARY_DIR}/import.def
             --output-lib $<TARGET_LINKER_FILE:trelvin>)
 else()
-  target_link_options(trelvin PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/src/entries/trelvin.map)
+  # Of the C++ run-time only what is called would be asked for, and nothing is. Addresses are bound
+  # at loading and read-only from then on.
+  target_link_options(
+    trelvin PRIVATE -Wl,--as-needed -Wl,-z,relro,-z,now
+                    -Wl,--version-script=${PROJECT_SOURCE_DIR}/src/entries/trelvin.map)
   set_property(TARGET trelvin APPEND PROPERTY LINK_DEPENDS
                                               ${PROJECT_SOURCE_DIR}/src/entries/trelvin.map)
 endif()
-
-include(GNUInstallDirs)
-install(TARGETS trelvin EXPORT TrelvinTargets)
-install(DIRECTORY include/trelvin TYPE INCLUDE)
-install(EXPORT TrelvinTargets NAMESPACE Trelvin:: FILE TrelvinConfig.cmake
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Trelvin)

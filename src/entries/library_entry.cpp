@@ -1,8 +1,8 @@
-// Entry of the Windows library.
+// Entry of the Windows library, called by the loader itself: there is no run-time to start.
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, LPVOID /*reserved*/) {
+extern "C" BOOL WINAPI DllMainCRTStartup(HINSTANCE library, DWORD reason, LPVOID /*reserved*/) {
   if (reason == DLL_PROCESS_ATTACH) DisableThreadLibraryCalls(library);
   return TRUE;
 }

@@ -1,0 +1,122 @@
+"""What the generator reads from contracts, and what it must never change."""
+
+import sys
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
+
+import check_rooms  # noqa: E402
+import contracts  # noqa: E402
+import entries  # noqa: E402
+import headers  # noqa: E402
+
+HEADER = """/**
+ * @file
+ * Things.
+ */
+/**
+ * Adds, in
+ * two lines.
+ *
+ * Retains: the last sum,
+ * shared with none.
+ *
+ * @param[in]  A   array of n+1: terms,
+ *                 all of them
+ * @param[in]  n   how many
+ * @param[out] s   1 done; 0 not
+ */
+TRELVIN_ROUTINE trvsum(TrvArrayIn A /* not (one) of
+                       the host's */, TrvIntIn n, TrvIntOut s);
+"""
+
+
+class Headers(unittest.TestCase):
+    def setUp(self):
+        self.family = headers.read_family("things", HEADER)
+        self.routine = self.family.routines[0]
+
+    def test_a_comment_inside_an_argument_list_is_no_argument(self):
+        self.assertEqual([a.name for a in self.routine.arguments], ["A", "n", "s"])
+        self.assertEqual(self.routine.decorated, "_trvsum@12")
+
+    def test_descriptions_go_on_over_lines(self):
+        self.assertEqual(self.routine.brief, "Adds, in two lines.")
+        self.assertEqual(self.routine.arguments[0].text, "array of n+1: terms, all of them")
+        self.assertEqual(self.routine.retains, "the last sum, shared with none.")
+
+    def test_a_declaration_that_is_not_understood_is_told(self):
+        family = headers.read_family("things", "TRELVIN_ROUTINE trvodd(TrvIn (*f)(TrvIn), TrvOut y);\n")
+        self.assertEqual((len(family.routines), family.unread), (0, 1))
+
+
+class Sizes(unittest.TestCase):
+    COUNTS = {"n": 0, "m": 1, "kind": 2, "count": 3}
+
+    def test_expressions(self):
+        for size, expected in {
+            "20": "20",
+            "n+1": "count(0) + 1",
+            "max(n+m,n*m)": "larger(count(0) + count(1), count(0) * count(1))",
+        }.items():
+            self.assertEqual(contracts.size_of(f"array of {size}: x", self.COUNTS).elements, [expected])
+
+    def test_sizes_by_kind_and_used_counts(self):
+        size = contracts.size_of("arrays of 1, n+1, 2 by kind: points", self.COUNTS)
+        self.assertEqual((size.elements, size.kind), (["1", "count(0) + 1", "2"], "kind"))
+        self.assertEqual(contracts.size_of("array of n, count used: x", self.COUNTS).used, "count")
+
+    def test_everything_else_is_unreadable(self):
+        for text in ("points", "array of k: x", "array of n+: x", "array of n, m: x", "array of n, ascending"):
+            with self.assertRaises(contracts.Unreadable, msg=text):
+                contracts.size_of(text, self.COUNTS)
+
+
+class Values(unittest.TestCase):
+    def test_values(self):
+        for text, named, above in (
+            ("0 done; -1 refused, nothing is written", [-1, 0], None),
+            ("0 done; 1 to 3 as trvpsl tells; 7 skew", [0, 1, 2, 3, 7], None),
+            ("0 done; 3, 4 or 7 the relation of the lines", [0, 3, 4, 7], None),
+            ("0 done; i > 0 point i is off the plane", [0], 0),
+            ("-1 no length; unwritten otherwise", [-1], None),
+        ):
+            values = contracts.values_of(text)
+            self.assertEqual((values.named, values.above), (named, above), text)
+
+    def test_a_meaning_without_a_value_is_unreadable(self):
+        with self.assertRaises(contracts.Unreadable):
+            contracts.values_of("0 done; else as trvlni")
+
+
+class Entries(unittest.TestCase):
+    def test_ordinals_never_move(self):
+        routines = headers.routines_of(headers.read_all())
+        committed = entries.committed_ordinals()
+        self.assertEqual([committed[name] for name in ("trv123", "_trv123@44", "trvpds")], [1, 2, 161])
+        new = headers.Routine("trvaaa", "plane", "", routines[0].arguments)
+        grown = entries.ordinals([new] + routines, committed)
+        self.assertEqual(committed, {name: grown[name] for name in committed})
+        self.assertEqual([grown["trvaaa"], grown["_trvaaa@28"]], [285, 286])
+
+    def test_bodies_end_where_they_end(self):
+        text = "TRELVIN_ROUTINE a(int x) { x; }\nTRELVIN_ROUTINE b(int x) {\n  if (x) {\n  }\n}\n\nvoid c() {\n}\n"
+        self.assertEqual([name for name, _ in entries.bodies_of(text)], ["a", "b"])
+        self.assertNotIn("void", entries.bodies_of(text)[1][1])
+
+
+class Rooms(unittest.TestCase):
+    def test_a_room_stands_on_those_below_it(self):
+        def faults(room, line):
+            return len(list(check_rooms.faults_of((room, "x.cpp"), line + "\n")))
+
+        self.assertEqual(faults("space", '#include "sections/plates.h"'), 0)
+        self.assertEqual(faults("lists", '#include "properties/polygons.h"'), 1)
+        self.assertEqual(faults("plane", '#include "space/planes.h"'), 1)
+        self.assertEqual(faults("plane", "void f(TrvIn x);  // TrvOut"), 1)
+        self.assertEqual(faults("cellar", ""), 1)
+
+
+if __name__ == "__main__":
+    unittest.main()
