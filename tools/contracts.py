@@ -127,3 +127,9 @@ def values_of(text):
         raise Unreadable("no value")
     values.named = sorted(set(values.named))
     return values
+
+
+def least_of(text):
+    """The least value that an Integer input may have: `number of samples, at least 2; ...`."""
+    match = re.match(rf"[^:;]*\bat least ({NUMBER})\b", text)
+    return int(match.group(1)) if match else None

@@ -33,11 +33,12 @@ ROUTINES_HEAD = """\
 //
 // ROUTINE(name, number of arguments, their names)
 // SIZE(name, argument, elements)         of an array, from the single Integers: count(argument)
+// LEAST(name, argument, value)           that is allowed of an Integer input
 // STATUS(name, argument, open, values)   that an Integer output may have; open: larger ones too
 // UNSHARED(name)                         outputs may not share the address of an input
 """
 MACROS = ["ROUTINE(name, count, names)", "SIZE(name, argument, elements)",
-          "STATUS(name, argument, open, ...)", "UNSHARED(name)"]
+          "LEAST(name, argument, value)", "STATUS(name, argument, open, ...)", "UNSHARED(name)"]
 
 
 def routine_list(families):
@@ -76,6 +77,8 @@ def _facts(routine):
                 named = ", ".join(str(value) for value in values.named)
                 larger = "false" if values.above is None else "true"
                 yield f"STATUS({routine.name}, {i}, {larger}, {named})"
+            elif argument.is_integer and contracts.least_of(argument.text) is not None:
+                yield f"LEAST({routine.name}, {i}, {contracts.least_of(argument.text)})"
         except contracts.Unreadable:
             pass  # headers.inexact tells of it
     if "may not share" in routine.text:

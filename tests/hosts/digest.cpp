@@ -8,21 +8,9 @@
 #include <cstdio>
 #include <string>
 
+#include "hosts/hash.h"
 #include "hosts/random_calls.h"
 #include "hosts/sequence_of_routines.h"
-
-namespace {
-
-class Hash {
- public:
-  void add(std::uint32_t word) { value_ = (value_ ^ word) * 0x100000001B3U; }
-  [[nodiscard]] std::uint64_t value() const { return value_; }
-
- private:
-  std::uint64_t value_ = 0xCBF29CE484222325U;
-};
-
-}  // namespace
 
 int main(int argc, char **argv) {
   const std::string only = argc > 1 ? argv[1] : "";
@@ -32,10 +20,9 @@ int main(int argc, char **argv) {
     if (!only.empty() && only != routine.name) continue;
     Hash hash;
     int call = 0;
-    random_calls::run(routine, calls_per_routine, [&](const auto & /*before*/, const auto &after) {
-      for (const random_calls::Argument &argument : after) {
-        argument.visit_bits([&](std::uint32_t bits) { hash.add(bits); });
-      }
+    random_calls::draw(routine, calls_per_routine, [&](random_calls::Arguments &arguments) {
+      routine.call(random_calls::addresses_of(arguments));
+      hash.add(arguments);
       if (!only.empty()) std::printf("%d %016" PRIx64 "\n", ++call, hash.value());
     });
     std::printf("%-10s %016" PRIx64 "\n", routine.name, hash.value());

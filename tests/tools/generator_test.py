@@ -95,10 +95,10 @@ class Entries(unittest.TestCase):
         routines = headers.routines_of(headers.read_all())
         committed = entries.committed_ordinals()
         self.assertEqual([committed[name] for name in ("trv123", "_trv123@44", "trvpds")], [1, 2, 161])
-        new = headers.Routine("trvaaa", "plane", "", routines[0].arguments)
+        new = headers.Routine("trvaaa", "plane", "", [headers.Argument("x", "TrvIn")])
         grown = entries.ordinals([new] + routines, committed)
         self.assertEqual(committed, {name: grown[name] for name in committed})
-        self.assertEqual([grown["trvaaa"], grown["_trvaaa@28"]], [285, 286])
+        self.assertEqual([grown["trvaaa"], grown["_trvaaa@4"]], [285, 286])
 
     def test_bodies_end_where_they_end(self):
         text = "TRELVIN_ROUTINE a(int x) { x; }\nTRELVIN_ROUTINE b(int x) {\n  if (x) {\n  }\n}\n\nvoid c() {\n}\n"

@@ -1,0 +1,79 @@
+# Hosts of the built library.
+if(TRELVIN_MOVING)
+  set(moving --moving)
+endif()
+
+# Every routine with its random calls, compiled once for all hosts.
+add_library(callers OBJECT hosts/random_calls.cpp hosts/sequence_of_routines.cpp)
+target_include_directories(callers PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+target_link_libraries(callers PUBLIC Trelvin::trelvin PRIVATE trelvin_warnings)
+
+function(add_host name)  # NAME SOURCE... ; links what is named in `libraries`
+  add_executable(${name} ${ARGN})
+  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE trelvin_warnings ${libraries})
+endfunction()
+
+function(add_host_test name)  # NAME COMMAND...
+  add_test(NAME ${name} COMMAND ${ARGN})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+endfunction()
+
+set(libraries callers)
+foreach(host digest census guards aliases)
+  add_host(${host} hosts/${host}.cpp)
+endforeach()
+add_host_test(digest digest)
+foreach(host census guards aliases)
+  add_host_test(${host} ${host} ${moving})
+endforeach()
+
+# Flushed subnormals, each rounding, and unmasked exceptions without and with raised flags; the x87
+# unit, which carries results of functions in 32-bit programs, with 24 bits, each rounding, unmasked.
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i.86)$")
+  add_host(states hosts/states.cpp hosts/foreign_call.cpp)
+  set(states 9fc0:037f 3f80:037f 5f80:037f 7f80:037f)
+  if(NOT TRELVIN_MOVING)
+    list(APPEND states 0000:037f 003f:037f)
+  endif()
+  if(WIN32)
+    list(APPEND states 1f80:007f 1f80:077f 1f80:0b7f 1f80:0f7f)
+    if(NOT TRELVIN_MOVING)
+      list(APPEND states 1f80:1332 0000:1332)
+    endif()
+  endif()
+  foreach(state IN LISTS states)
+    string(REPLACE ":" ";" words ${state})
+    add_host_test(states_${state} states ${CMAKE_CURRENT_SOURCE_DIR}/hosts/digest.txt ${words} ${moving})
+  endforeach()
+endif()
+
+if(BUILD_SHARED_LIBS)
+  set(libraries ${CMAKE_DL_LIBS})  # these know the library by name only
+  if(WIN32)
+    add_host(dll_host hosts/dll_host.cpp)
+    add_dependencies(dll_host trelvin)
+    add_host_test(dll_host dll_host)
+  endif()
+  add_host(cycles hosts/cycles.cpp)
+  target_include_directories(cycles PRIVATE ${PROJECT_SOURCE_DIR}/include)
+  add_dependencies(cycles trelvin)
+  if(WIN32)
+    add_host_test(cycles cycles Trelvin.dll ${moving})
+  elseif(NOT CMAKE_CXX_FLAGS MATCHES sanitize)  # which keeps its own books of memory
+    add_host_test(cycles cycles $<TARGET_FILE:trelvin> ${moving})
+  endif()
+
+  if(NOT WIN32)
+    set(libraries Trelvin::trelvin ${CMAKE_DL_LIBS})
+    add_host(interpose hosts/interpose.cpp)
+    set_target_properties(interpose PROPERTIES ENABLE_EXPORTS ON)
+    add_host_test(interpose interpose ${moving})
+  endif()
+endif()
+
+if(TRELVIN_BUILD_FUZZER)
+  set(libraries callers)
+  add_host(fuzz hosts/fuzz.cpp)
+  target_link_options(fuzz PRIVATE -fsanitize=fuzzer)
+endif()
