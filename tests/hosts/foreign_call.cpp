@@ -39,6 +39,7 @@ foreign_call:
   movl  $0x5A5A0004, %r14d
   movl  $0x5A5A0005, %r15d
   ldmxcsr (%rcx)
+  fnclex
   fldcw 4(%rcx)
   movq  (%r10), %rdi
   movq  8(%r10), %rsi
@@ -107,6 +108,7 @@ _foreign_call:
   movl  $0x5A5A0001, %esi
   movl  $0x5A5A0002, %edi
   ldmxcsr (%edx)
+  fnclex
   fldcw 4(%edx)
   call  *8(%ebp)
   movl  20(%ebp), %ecx

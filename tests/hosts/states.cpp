@@ -22,6 +22,7 @@ using random_calls::Arguments;
 using random_calls::Routine;
 
 constexpr std::uint32_t direction_flag = 0x400;
+constexpr std::uint32_t x87_flags = 0x38FF;  // exceptions and stack top; not what comparisons leave
 
 std::map<std::string, std::uint64_t> read_digest(const char *file) {
   std::map<std::string, std::uint64_t> digest;
@@ -41,7 +42,7 @@ const char *call_in_state(const Routine &routine, Arguments &arguments, const Fo
   foreign_call(routine.address, addresses.data(), count, &call);
   if (call.mxcsr != state.mxcsr) return "changes the SSE control and status word";
   if (call.x87_control != state.x87_control) return "changes the x87 control word";
-  if (call.x87_status != 0) return "changes the x87 status word";
+  if ((call.x87_status & x87_flags) != 0) return "changes the x87 status word";
   if ((call.flags & direction_flag) != 0) return "leaves the direction flag set";
   return call.spoiled != 0 ? "spoils the stack or a register of its caller" : nullptr;
 }
