@@ -3,9 +3,11 @@
 //
 //     digest            a line a routine, then the hash of all
 //     digest ROUTINE    every call of one routine, to find where two builds part
+//     digest --calls N  with another number of calls of each routine
 #include <cinttypes>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "hosts/hash.h"
@@ -13,14 +15,19 @@
 #include "hosts/sequence_of_routines.h"
 
 int main(int argc, char **argv) {
-  const std::string only = argc > 1 ? argv[1] : "";
+  std::string only = argc > 1 ? argv[1] : "";
+  int calls = calls_per_routine;
+  if (only == "--calls") {
+    only.clear();
+    calls = argc > 2 ? std::atoi(argv[2]) : calls;
+  }
   Hash all;
   int routines = 0;
   for (const random_calls::Routine &routine : all_routines()) {
     if (!only.empty() && only != routine.name) continue;
     Hash hash;
     int call = 0;
-    random_calls::draw(routine, calls_per_routine, [&](random_calls::Arguments &arguments) {
+    random_calls::draw(routine, calls, [&](random_calls::Arguments &arguments) {
       routine.call(random_calls::addresses_of(arguments));
       hash.add(arguments);
       if (!only.empty()) std::printf("%d %016" PRIx64 "\n", ++call, hash.value());
@@ -30,7 +37,7 @@ int main(int argc, char **argv) {
     all.add(static_cast<std::uint32_t>(hash.value()));
     ++routines;
   }
-  std::printf("digest of %d calls of %d routines: %016" PRIx64 "\n", routines * calls_per_routine,
-              routines, all.value());
+  std::printf("digest of %d calls of %d routines: %016" PRIx64 "\n", routines * calls, routines,
+              all.value());
   return 0;
 }
