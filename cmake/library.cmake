@@ -25,10 +25,6 @@ if(WIN32)
   target_compile_options(trelvin PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-mstackrealign>)
 endif()
 
-if(NOT BUILD_SHARED_LIBS)
-  return()
-endif()
-
 # The edge sums are vectors by hand. The compiler's own would load what was stored by elements just
 # before, and wait. One source is for processors that have AVX2, which is found out at run time.
 set(edge_sums src/properties/edge_sums.cpp src/properties/edge_sums_avx2.cpp)
@@ -36,6 +32,10 @@ set_source_files_properties(
   ${edge_sums} PROPERTIES COMPILE_OPTIONS "-fno-tree-vectorize;-fno-tree-slp-vectorize")
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86|x86_64|AMD64|i[3-6]86)$")
   set_property(SOURCE src/properties/edge_sums_avx2.cpp APPEND PROPERTY COMPILE_OPTIONS -mavx2)
+endif()
+
+if(NOT BUILD_SHARED_LIBS)
+  return()
 endif()
 
 if(WIN32)

@@ -21,13 +21,13 @@
  * - "Within the tolerance" means an absolute value of at most 1e-5, in the unit of the quantity.
  * - An output that a contract calls unwritten keeps what the caller had stored there.
  * - A single output may share its address with a single input: inputs are read before outputs are
- *   written. A single input may be an element of an array that the routine changes. Different arrays
- *   may not overlap, nor may two outputs.
+ *   written. A single input may be an element of an array that the routine changes. Different
+ *   arrays may not overlap, nor may two outputs.
  * - Nothing is guarded beyond the tests a contract names: a division by zero gives the infinity or
  *   NaN that IEEE arithmetic gives.
  * - No state of the processor is required: rounding, subnormals, exception masks and, on 32-bit
- *   Windows, the x87 unit's control word are as the library needs them during a call, and afterwards
- *   as the host had them.
+ *   Windows, the x87 unit's control word are as the library needs them during a call, and
+ *   afterwards as the host had them.
  * - "Retains" names what a call leaves for later calls. Those that retain nothing may run on any
  *   threads at once; those that share what they retain serve one thread at a time.
  */

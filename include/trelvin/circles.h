@@ -362,9 +362,9 @@ TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, Trv
  * @param[in]    side    factor of the half angle that turns A clockwise to the arc's middle point
  * @param[in]    e       distance of T from the chord
  * @param[out]   xo,yo   point; unwritten when status is 0
- * @param[out]   status  1 done; 0 s is negative; e, the radius, the chord or its rest beyond s is
- *                       at most 1e-5; the radii of A and B differ by more; or the line touches the
- *                       circle
+ * @param[out]   status  1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is
+ *                       at most 1e-5, or the radii of A and B differ by more, or the line touches
+ *                       the circle
  */
 TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvOut xo, TrvOut yo,

@@ -340,8 +340,8 @@ TRELVIN_ROUTINE trvpsn(TrvIn p1, TrvIn p2, TrvIn p3, TrvIn q1, TrvIn q2, TrvIn q
  * @param[in]  dx,dy,dz  direction D, of any length
  * @param[in]  px,py,pz  point P
  * @param[in]  tol       largest coordinate difference allowed, itself included
- * @param[out] code      components of (P0 + D) - P0 above the tolerance: 0 none; 1 all; 2 x; 3 y; 4
- *                       z; 5 x and y; 6 y and z; 7 x and z
+ * @param[out] code      0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y;
+ *                       4 z; 5 x and y; 6 y and z; 7 x and z
  * @param[out] on        1 P lies on the line; 0 it does not, and always when code is 0
  */
 TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn dz, TrvIn px,
@@ -366,8 +366,8 @@ TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn d
  * @param[out] ey           a1*c2 - c1*a2, the second component of the cross product negated
  * @param[in]  ez           third component: read, neither computed nor written
  * @param[in]  tol          largest coordinate difference allowed, itself included
- * @param[out] code         components of (ex, ey, ez) above the tolerance: 0 none; 1 all; 2 ex; 3
- *                          ey; 4 ez; 5 ex and ey; 6 ey and ez; 7 ex and ez
+ * @param[out] code         0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex;
+ *                          3 ey; 4 ez; 5 ex and ey; 6 ey and ez; 7 ex and ez
  * @param[out] on           1 P agrees with the line at the station; 0 it does not
  */
 TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b2, TrvIn c2,

@@ -82,13 +82,6 @@ TRELVIN_ROUTINE trvcin(TrvArrayIn X, TrvArrayIn Y, TrvIn a, TrvIn b, TrvIn c, Tr
   retained.trace_file.append(record_of(found));
 }
 
-namespace {
-
-// The trace file is closed when the library is unloaded or the process ends.
-[[gnu::destructor]] void close_trace_file() { retained.trace_file.close(); }
-
-}  // namespace
-
 /* Stations on an arc ------------------------------------------------------------------------- */
 
 TRELVIN_ROUTINE trvcer3(TrvIn x0, TrvIn y0, TrvInOut x, TrvInOut y, TrvIn angle, TrvOut xr,

@@ -12,6 +12,12 @@
 
 namespace trelvin {
 
+#ifdef __GNUC__
+inline bool seldom(bool condition) {
+  return __builtin_expect(static_cast<long>(condition), 0L) != 0;
+}
+#endif
+
 // The processor's floating-point control, as the library needs it for as long as a call lasts.
 //
 // A host may round otherwise, flush subnormals to zero or have exceptions unmasked. Its control words
@@ -28,11 +34,11 @@ class Door {
 #else
     foreign_ = foreign_sse();
 #endif
-    if (__builtin_expect(foreign_, 0)) enter();
+    if (seldom(foreign_)) enter();
   }
 
   ~Door() {
-    if (__builtin_expect(foreign_, 0)) leave();
+    if (seldom(foreign_)) leave();
   }
 
  private:
@@ -41,6 +47,7 @@ class Door {
 
   [[nodiscard]] bool foreign_sse() const { return (mxcsr_ & ~sse_flags) != sse_default; }
 
+  // NOLINTNEXTLINE(readability-convert-member-functions-to-static): not where it keeps the x87's
   void enter() {
     asm volatile("ldmxcsr %0" : : "m"(sse_default) : "memory");
 #ifdef __i386__
@@ -76,11 +83,11 @@ class Door {
 #elif defined(__GNUC__) && defined(__aarch64__)
   Door() {
     asm volatile("mrs %0, fpcr" : "=r"(fpcr_) : : "memory");
-    if (__builtin_expect(fpcr_ != 0, 0)) set(0);
+    if (seldom(fpcr_ != 0)) set(0);
   }
 
   ~Door() {
-    if (__builtin_expect(fpcr_ != 0, 0)) set(fpcr_);
+    if (seldom(fpcr_ != 0)) set(fpcr_);
   }
 
  private:

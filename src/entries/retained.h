@@ -26,4 +26,7 @@ struct Retained {
 
 extern Retained retained;
 
+// Gives back what the library holds of the system, when it is unloaded.
+void release();
+
 }  // namespace trelvin
