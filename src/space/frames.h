@@ -22,9 +22,26 @@ struct Frame {
   }
 };
 
-// Of three points that span a plane: e1 from the first to the second, e3 normal to the plane. Axes
-// found too short to be normalised are zero.
-Frame frame_of_plane(Point3 p0, Point3 p1, Point3 p2);
+// Zero where it is too short.
+inline Vector3 normalised(Vector3 axis) {
+  const Real size = length(axis);
+  return size >= tolerance ? axis / size : Vector3{};
+}
+
+// Towards +y if it has a y component at all, else towards +z, else towards +x.
+inline Vector3 oriented(Vector3 normal) {
+  Real deciding = normal.x;
+  if (significant(normal.z)) deciding = normal.z;
+  if (significant(normal.y)) deciding = normal.y;
+  return deciding < 0 ? -normal : normal;
+}
+
+// Of three points that span a plane: e1 from the first to the second, e3 normal to the plane.
+inline Frame frame_of_plane(Point3 p0, Point3 p1, Point3 p2) {
+  const Vector3 u = p1 - p0;
+  const Vector3 normal = oriented(cross(u, p2 - p0));
+  return {normalised(u), normalised(cross(normal, u)), normalised(normal)};
+}
 
 // The same, or nothing where the three-point test finds no plane.
 inline std::optional<Frame> frame_of_points(Point3 p0, Point3 p1, Point3 p2, LastCosine &last) {
@@ -34,6 +51,21 @@ inline std::optional<Frame> frame_of_points(Point3 p0, Point3 p1, Point3 p2, Las
 
 // Of an axis: e1 along it, e2 and e3 turned about it from where e2 is nearest to the global y axis.
 // Nothing where the points are too near each other.
-std::optional<Frame> frame_of_axis(Point3 p0, Point3 p1, Turn turn);
+inline std::optional<Frame> frame_of_axis(Point3 p0, Point3 p1, Turn turn) {
+  const Vector3 axis = p1 - p0;
+  const Real size = length(axis);
+  if (negligible(size)) return std::nullopt;
+  const Vector3 u = axis / size;
+
+  // The global y axis freed of its component along u, and u x y; neither exists for u along y.
+  const Real q = u.x * u.x + u.z * u.z;
+  const Real r = square_root(q);
+  Vector3 e2 = {-u.x * u.y / r, q / r, -u.z * u.y / r};
+  Vector3 e3 = {-u.z / r, 0, u.x / r};
+  turn.apply(e3.x, e2.x);
+  turn.apply(e3.y, e2.y);
+  turn.apply(e3.z, e2.z);
+  return Frame{u, e2, e3};
+}
 
 }  // namespace trelvin
