@@ -1,6 +1,4 @@
-#include <array>
-
-#include "support.h"
+#include "space/frame_of_sevens.h"
 #include "trelvin/space.h"
 
 using namespace trelvin_test;
@@ -9,26 +7,30 @@ namespace {
 
 using Points = std::array<float, 9>;  // three of them: x, then y, then z
 
-void expect_points(const Points &p, const Values &expected) {
-  expect_near(Values(p.begin(), p.end()), expected, 1e-6);
+Points points(Point p, Point q, Point r) {
+  return {p[0], q[0], r[0], p[1], q[1], r[1], p[2], q[2], r[2]};
+}
+
+void expect_points(const Points &p, const Points &expected) {
+  expect_near(Values(p.begin(), p.end()), Values(expected.begin(), expected.end()), 2e-6);
 }
 
 const Values no_frame = {0, 0, 0, 0, 0, 0, 0, 0, 0, -2};
+const float right = half_pi;
+const float straight = 2 * half_pi;
 
 }  // namespace
 
 TEST(Frames, ThreePointTest) {
-  const auto status = [](float x, float y, float z) {
-    return outputs(trvpsl, 1, 0, 0, -1, 0, 0, x, y, z)[0];
+  const Point a = in_sevens(0, 0, 0), b = in_sevens(2, 0, 0);
+  const auto place = [&](float along, float across) {
+    return outputs_at(trvpsl, a, b, in_sevens(along, across, 0))[0];
   };
-  // At a height h half-way, the cosine is 2*h^2 from -1; two beyond a point, h^2/32 from 1.
-  EXPECT_EQ((Values{status(0, 0.0022F, 0), status(3, 0.0176F, 0), status(-3, 0.0176F, 0)}),
-            (Values{3, 4, 5}));
-  EXPECT_EQ((Values{status(0, 0, 0.0023F), status(3, 0, 0.0182F), status(-3, 0, 0.0182F)}),
-            (Values{0, 0, 0}));
-  EXPECT_EQ((Values{status(1, -tolerance, 0), status(-1, 0, tolerance), status(1, 0, beyond)}),
-            (Values{1, 2, 0}));
-  EXPECT_EQ(status(0, 1000, 0), 0);  // they look like one, but neither is the nearer
+  EXPECT_EQ((Values{place(0, 0), place(2, 0), place(0.5, 0), place(-3, 0), place(4, 0)}),
+            (Values{1, 2, 3, 4, 5}));
+  EXPECT_EQ((Values{place(1, 2), place(-3, 1)}), (Values{0, 0}));
+  EXPECT_EQ(outputs_at(trvpsl, a, a, b),
+            Values{0});  // they look like a line, but nothing is nearer
 }
 
 TEST(Frames, ThreePointTestGoesByTheCosineOfTheCallBeforeWherePointsNearlyAgree) {
@@ -62,6 +64,9 @@ TEST(Frames, NewOriginAndMatrix) {
     trvtrn(v, 1, 2, 3, 4, 5, 6, 7, 8, 9, mode);
     EXPECT_EQ(Values(v, v + 3), mode == 1 ? (Values{741, 852, 963}) : (Values{321, 654, 987}));
   }
+  float own[] = {1, 2, 3};  // its matrix as well
+  trvtrn(own, own[0], own[1], own[2], own[1], own[2], own[0], own[2], own[0], own[1], 2);
+  EXPECT_EQ(Values(own, own + 3), (Values{14, 11, 11}));
 }
 
 TEST(Frames, NormalOfThreePointsIsTurnedTowardsYElseZElseX) {
@@ -72,14 +77,10 @@ TEST(Frames, NormalOfThreePointsIsTurnedTowardsYElseZElseX) {
   EXPECT_EQ(frame(0, 2, 0, 3, 5, 0), (Values{0, 1, 0, -1, 0, 0, 0, 0, 1, 0}));
   EXPECT_EQ(frame(2, 0, 0, 5, 0, 3), (Values{1, 0, 0, 0, 0, -1, 0, 1, 0, 0}));
   EXPECT_EQ(frame(0, 0, 2, 0, 3, 5), (Values{0, 0, 1, 0, -1, 0, 1, 0, 0, 0}));
-  // Normals (0, -t, 1) and (1, 0, -t): t decides only above the tolerance.
-  const float t = tolerance, b = beyond;
-  EXPECT_TRUE(frame(1, 0, 0, 0, 1, t)[8] == 1 && frame(1, 0, 0, 0, 1, b)[8] == -1);
-  EXPECT_TRUE(frame(0, 1, 0, t, 0, 1)[6] == 1 && frame(0, 1, 0, b, 0, 1)[6] == -1);
-  for (const double k : {5, -1}) {  // P2 on either side of the line
-    Values e = outputs(trvaxe, 1, 2, 3, 3, 3, 5, 3 - 2 * k, 3 + 2 * k, 5 + k);
-    for (double &component : e) component *= 3;
-    expect_near(e, {2, 1, 2, 2, -2, -1, 1, 2, -2, 0}, 5e-7);
+  for (const float across : {5.0F, -1.0F}) {  // P2 on either side of the line
+    Values e = outputs_at(trvaxe, in_sevens(0, 0, 0), in_sevens(3, 0, 0), in_sevens(2, across, 0));
+    for (double &component : e) component *= 7;
+    expect_near(e, {2, 3, 6, 3, -6, 2, 6, 2, -3, 0}, 5e-7);
   }
 }
 
@@ -87,8 +88,6 @@ TEST(Frames, ThreePointsWithoutFrameOrWithoutAnAxis) {
   EXPECT_EQ(outputs(trvaxe, 1, 1, 1, 2, 2, 2, 3, 3, 3), no_frame);
   EXPECT_EQ(outputs(trvaxe, 1, 1, 1, 1, 1, 1, 3, 4, 5), Values(10, 0));
   EXPECT_EQ(outputs(trvaxe, 0, 0, 0, not_a_number, 0, 0, 0, 1, 0), Values(10, 0));
-  EXPECT_EQ(outputs(trvaxe, 0, 0, 0, tolerance, 0, 0, 0, 4, 0)[0], 1);
-  EXPECT_EQ(outputs(trvaxe, 0, 0, 0, std::nextafter(tolerance, 0.0F), 0, 0, 0, 4, 0)[0], 0);
   // Long enough sides, but a product of 1e-6.
   EXPECT_EQ(outputs(trvaxe, 0, 0, 0, 0.001F, 0, 0, 0, 0.001F, 0),
             (Values{1, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
@@ -97,12 +96,12 @@ TEST(Frames, ThreePointsWithoutFrameOrWithoutAnAxis) {
 TEST(Frames, OfAnAxis) {
   EXPECT_EQ(outputs(trvaxel, 0, 0, 0, 0, 0, tolerance, 1), no_frame);
   EXPECT_EQ(outputs(trvaxel, 0, 0, 0, beyond, 0, 0, 0), (Values{1, 0, 0, 0, 1, 0, 0, 0, 1, 0}));
-  Values e = outputs(trvaxel, 1, 2, 3, 3, 3, 5, pi / 4);
-  for (double &component : e) component *= 3;
-  expect_near(e, {2, 1, 2, -2, 2, 1, -1, -2, 2, 0}, 5e-7);
-  const Values upright = outputs(trvaxel, 0, 1, 0, 0, 4, 0, 0.5);
-  EXPECT_TRUE(upright[0] == 0 && upright[1] == 1 && upright[2] == 0 && upright[9] == 0);
-  for (std::size_t i = 3; i < 9; ++i) EXPECT_FALSE(std::isfinite(upright[i])) << i;
+  // Along (9, 20, 12), 25 long; y freed of that is (-0.48, 0.6, -0.64). The angle's sine is 0.8.
+  expect_near(outputs(trvaxel, 1, -2, 4, 10, 18, 16, 0.927295218),
+              {0.36, 0.8, 0.48, -0.928, 0.36, 0.096, -0.096, -0.48, 0.872, 0}, 2e-7);
+  const Values column = outputs(trvaxel, 0, 1, 0, 0, 4, 0, 0.5);
+  EXPECT_TRUE(column[0] == 0 && column[1] == 1 && column[2] == 0 && column[9] == 0);
+  for (std::size_t i = 3; i < 9; ++i) EXPECT_FALSE(std::isfinite(column[i])) << i;
 }
 
 TEST(Frames, ShiftAndTurnsAboutTheGlobalAxes) {
@@ -110,62 +109,109 @@ TEST(Frames, ShiftAndTurnsAboutTheGlobalAxes) {
     trvptr(p.data(), &p[3], &p[6], 2, dx, dy, dz, ax, ay, az);
     return p;
   };
-  const float q = half_pi, t = tolerance, b = -beyond;
-  const Points start = {6, 1, 5, 9, 2, 6, 7, 3, 7};
-  // (2, 3, 4) is turned to (2, -4, 3), (-3, -4, 2), (4, -3, 2).
-  expect_points(moved(start, 1, 1, 1, q, q, q), {8, 4, 5, -10, -3, 6, 7, 2, 7});
+  const float t = tolerance, b = -beyond;
+  // (2, 3, 4) after the shift; about x (2, -4, 3), about y (3, -4, -2), about z (-3, 4, -2).
+  expect_points(moved({1, 0, 5, 1, 0, 6, 1, 0, 7}, 1, 2, 3, right, -right, straight),
+                {-3, -2, 5, 4, 3, 6, -2, -1, 7});
   const Points unit = {1, 0, 0, 0, 1, 0, 0, 0, 0};
   EXPECT_EQ(moved(unit, t, -t, not_a_number, t, -t, t), unit);
-  EXPECT_EQ(moved(unit, b, t, t, 0, 0, 0), (Points{1 + b, b, 0, t, 1 + t, 0, t, t, 0}));
-  EXPECT_EQ(moved(unit, t, b, t, 0, 0, 0), (Points{1 + t, t, 0, b, 1 + b, 0, t, t, 0}));
   EXPECT_EQ(moved(unit, t, t, b, 0, 0, 0), (Points{1 + t, t, 0, t, 1 + t, 0, b, b, 0}));
   EXPECT_EQ(moved(unit, 0, 0, 0, b, 0, 0), (Points{1, 0, 0, 0, 1, 0, 0, b, 0}));
   EXPECT_EQ(moved(unit, 0, 0, 0, 0, b, 0), (Points{1, 0, 0, 0, 1, 0, b, 0, 0}));
   EXPECT_EQ(moved(unit, 0, 0, 0, 0, 0, b), (Points{1, -b, 0, b, 1, 0, 0, 0, 0}));
 }
 
-// The frame of (1, 1, 1), (1, 3, 1), (1, 1, 4) has its axes along y, z and x.
-TEST(Frames, LocalShiftComesBeforeTheTurnsAndGlobalShiftAfter) {
+// A right angle about x, one back about y and two about z turn (a, b, c) to (-b, c, -a).
+TEST(Frames, LocalShiftComesBeforeTheTurns) {
   std::int32_t status = unwritten_int;
-  const float q = half_pi;
-  const Points start = {1, 1.5F, 1, 3, 11, 1, 2, 1, 1};
+  const Point o = in_sevens(0, 0, 0), u = in_sevens(1, 0, 0), w = in_sevens(2, 1, 0);
+  const Points start = points(in_sevens(1, 2, -1), in_sevens(0, 5, 0), {7, 8, 9});
   Points p = start;
   float *x = p.data(), *y = &p[3], *z = &p[6];
   trvptrl(1, 1, 1, 2, 2, 2, 3, 3, 3, x, y, z, 3, 1, 1, 1, 1, 1, 1, status);
   EXPECT_TRUE(status == -2 && p == start);
-  // (2, 1, 0) locally, shifted to (2, 1, 1), turned to (2, -1, 1), (-1, -1, 2), (1, -1, 2).
-  trvptrl(1, 1, 1, 1, 3, 1, 1, 1, 4, x, y, z, 1, 0, 0, 1, q, q, q, status);
+  // Shifted to (3, 1, 5) in sevens.
+  trvptrl(o[0], o[1], o[2], u[0], u[1], u[2], w[0], w[1], w[2], x, y, z, 1, 14, -7, 42, right,
+          -right, straight, status);
   EXPECT_EQ(status, 0);
-  expect_points(p, {3, 1.5, 1, 2, 11, 1, 0, 1, 1});
-  trvptrl(1, 1, 1, 1, 3, 1, 1, 1, 4, x, y, z, 2, 0, 0, 0, 0, 0, tolerance, status);
-  EXPECT_NEAR(z[1], 1.0001, 1e-6);  // no angle is too small
+  expect_points(p, points(in_sevens(-1, 5, -3), in_sevens(0, 5, 0), {7, 8, 9}));
+  trvptrl(0, 0, 0, 1, 0, 0, 0, 1, 0, &x[2], &y[2], &z[2], 1, 0, 0, 0, 0, 0, tolerance, status);
+  EXPECT_NEAR(x[2], 7 - 8e-5, 1e-6);  // no angle is too small
+}
 
+TEST(Frames, GlobalShiftComesAfterTheTurnsOfPointsOfAPlane) {
+  const Point o = in_sevens(0, 0, 0), u = in_sevens(1, 0, 0), w = in_sevens(2, 1, 0);
+  const Points start = points(in_sevens(1, 2, 0), in_sevens(0, 5, 0.5), {7, 8, 9});
+  Points p = start;
+  const auto moved = [&](Point p2, std::int32_t n, float tol) {
+    std::int32_t status = unwritten_int;
+    trvppc(o[0], o[1], o[2], u[0], u[1], u[2], p2[0], p2[1], p2[2], 100, 20, 3, right, -right,
+           straight, n, p.data(), &p[3], &p[6], tol, status);
+    return status;
+  };
+  EXPECT_EQ(moved(in_sevens(3, 0, 0), 1, infinity), -1);
+  // The second point is 3.5 off, times the 49 of the normal: 171.5.
+  EXPECT_EQ(moved(w, 2, 171.4F), 2);
+  EXPECT_EQ(moved(w, 0, 0), 0);
+  EXPECT_EQ(p, start);
+  p[1] = not_a_number;
+  EXPECT_EQ(moved(w, 2, infinity), 2);
   p = start;
-  trvppc(1, 1, 1, 2, 2, 2, 3, 3, 3, 0, 0, 1, q, q, q, 3, x, y, z, infinity, status);
-  EXPECT_TRUE(status == -1 && p == start);
-  // The second point is 0.5 off, times the 6 of the normal.
-  trvppc(1, 1, 1, 1, 3, 1, 1, 1, 4, 0, 0, 1, q, q, q, 3, x, y, z, 2.9F, status);
-  EXPECT_TRUE(status == 2 && p == start);
-  trvppc(1, 1, 1, 1, 3, 1, 1, 1, 4, 0, 0, 1, q, q, q, 0, x, y, z, 0, status);
-  EXPECT_TRUE(status == 0 && p == start);
-  // (2, 1, 0) locally, turned to (2, 0, 1), (-1, 0, 2), (0, -1, 2).
-  trvppc(1, 1, 1, 1, 3, 1, 1, 1, 4, 0, 0, 1, q, q, q, 2, x, y, z, 3, status);
-  EXPECT_EQ(status, 0);
-  expect_points(p, {3, 11, 1, 1, 1.5, 1, 1, 2, 1});
+  EXPECT_EQ(moved(w, 2, 171.6F), 0);
+  Point first = in_sevens(-2, 0, -1), second = in_sevens(-5, 0.5, 0);
+  for (Point *turned : {&first, &second}) {
+    *turned = {(*turned)[0] + 100, (*turned)[1] + 20, (*turned)[2] + 3};
+  }
+  expect_points(p, points(first, second, {7, 8, 9}));
 }
 
 TEST(Frames, TurnAboutAnAxis) {
   std::int32_t status = unwritten_int;
-  // On the axis through (1, 2, 3) along (1, 2, 2), and across from that point by (2, 1, -2).
-  const Points start = {3, 3, 7, 6, 3, 7, 7, 1, 7};
+  const Point a = in_sevens(0, 0, 0), b = in_sevens(2, 0, 0);
+  const Points start = points(in_sevens(1, 0, 0), in_sevens(3, 1, 0), {7, 8, 9});
   Points p = start;
   float *x = p.data(), *y = &p[3], *z = &p[6];
   trvpra(1, 2, 3, 1, 2, 3, x, y, z, 2, 1, status);
   EXPECT_TRUE(status == -2 && p == start);
-  trvpra(1, 2, 3, 2, 4, 5, x, y, z, 0, 1, status);
+  trvpra(a[0], a[1], a[2], b[0], b[1], b[2], x, y, z, 0, 1, status);
   EXPECT_TRUE(status == 0 && p == start);
-  trvpra(1, 2, 3, 2, 4, 5, x, y, z, 2, half_pi, status);
-  expect_points(p, {3, -1, 7, 6, 4, 7, 7, 2, 7});
-  trvpra(0, 1, 0, 0, 3, 0, x, y, z, 1, 1, status);  // parallel to y
+  trvpra(a[0], a[1], a[2], b[0], b[1], b[2], x, y, z, 2, right, status);
+  expect_points(p, points(in_sevens(1, 0, 0), in_sevens(3, 0, 1), {7, 8, 9}));
+  trvpra(0, 1, 0, 0, 3, 0, x, y, z, 1, 1, status);  // a column
   EXPECT_FALSE(status != 0 || std::isfinite(x[0]) || std::isfinite(y[0]) || std::isfinite(z[0]));
+}
+
+TEST(Frames, SingleInputsMayBeElementsOfTheArraysThatMove) {
+  std::int32_t status = unwritten_int;
+  const double c = std::cos(0.5), s = std::sin(0.5);
+  const auto expect = [&](const float *got, const Values &expected) {
+    expect_near(Values(got, got + 4), expected, 3e-7);
+  };
+  {  // About the first of four points, by half a radian in their plane.
+    float x[] = {1, 2, 1, 5}, y[] = {1, 1, 3, 5}, z[] = {1, 1, 1, 1};
+    trvptrl(x[0], y[0], z[0], x[1], y[1], z[1], x[2], y[2], z[2], x, y, z, 4, 0, 0, 0, 0, 0, 0.5,
+            status);
+    expect(x, {1, 1 + c, 1 - 2 * s, 1 + 4 * c - 4 * s});
+    expect(y, {1, 1 + s, 1 + 2 * c, 1 + 4 * c + 4 * s});
+  }
+  {  // The same, and then by the second point's coordinates.
+    float x[] = {1, 2, 1, 5}, y[] = {1, 1, 3, 5}, z[] = {1, 1, 1, 1};
+    trvppc(x[0], y[0], z[0], x[1], y[1], z[1], x[2], y[2], z[2], x[1], y[1], z[1], 0, 0, 0.5, 4, x,
+           y, z, 0, status);
+    expect(x, {3, 3 + c, 3 - 2 * s, 3 + 4 * c - 4 * s});
+    expect(z, {2, 2, 2, 2});
+  }
+  {  // About an edge along z, by an angle that is a coordinate.
+    float x[] = {1, 1, 2, 0.5}, y[] = {1, 1, 1, 1}, z[] = {1, 3, 1, 1};
+    trvpra(x[0], y[0], z[0], x[1], y[1], z[1], x, y, z, 4, x[3], status);
+    expect(x, {1, 1, 1 + c, 1 - 0.5 * c});
+    expect(y, {1, 1, 1 + s, 1 - 0.5 * s});
+  }
+  {  // Shift and angle are the coordinates of the last point.
+    float x[] = {1, 0, 0, 2}, y[] = {0, 1, 0, 0}, z[] = {0, 0, 0, 0.5};
+    trvptr(x, y, z, 4, x[3], y[3], z[3], 0, 0, z[3]);
+    expect(x, {3 * c, 2 * c - s, 2 * c, 4 * c});
+    expect(y, {3 * s, 2 * s + c, 2 * s, 4 * s});
+    expect(z, {0.5, 0.5, 0.5, 1});
+  }
 }

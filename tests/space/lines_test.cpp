@@ -1,98 +1,115 @@
-#include <array>
-
-#include "support.h"
+#include "space/frame_of_sevens.h"
 #include "trelvin/space.h"
 
 using namespace trelvin_test;
 
 namespace {
 
-// Of the line from the origin to (xb, 0, 0) and the line from C to D.
-double relation(float xb, float xc, float yc, float zc, float xd, float yd, float zd) {
-  return outputs(trvdirl, 0, 0, 0, xb, 0, 0, xc, yc, zc, xd, yd, zd)[0];
+// Of the line along the first axis of the frame and the line from C to D.
+double relation(Point c, Point d) {
+  return outputs_at(trvdirl, in_sevens(0, 0, 0), in_sevens(1, 0, 0), c, d)[0];
 }
 
 float TRELVIN_CALL height(const std::int32_t &position) {
-  return position == 3 ? 12.0F : static_cast<float>(8 - 4 * position);
+  return position == 1 ? 6.0F : position == 2 ? 10.0F : position == 3 ? -2.0F : 0.0F;
 }
 
 }  // namespace
 
 TEST(SpaceLines, RelationOfTwoLines) {
-  EXPECT_EQ((Values{relation(1, 3, 3, 0, 4, 4, 0), relation(1, 0, 1, 1, 5, 1, 1),
-                    relation(1, 5, 1, 1, 0, 1, 1), relation(1, 2, 0, 0, 3, 0, 0),
-                    relation(1, 3, 0, 0, 2, 0, 0), relation(1, 3, 3, 0, 3, 4, 0),
-                    relation(1, 3, 3, 1, 4, 4, 1), relation(1, 3, 3, 1, 3, 3, 1),
-                    relation(tolerance, 3, 3, 1, 4, 4, 1)}),
-            (Values{0, 1, 2, 3, 4, 5, 6, 7, 7}));
+  const auto p = in_sevens;
+  EXPECT_EQ((Values{relation(p(3, 3, 0), p(4, 4, 0)), relation(p(0, 1, 1), p(5, 1, 1)),
+                    relation(p(5, 1, 1), p(0, 1, 1)), relation(p(2, 0, 0), p(3, 0, 0)),
+                    relation(p(3, 0, 0), p(2, 0, 0)), relation(p(3, 3, 0), p(3, 4, 0)),
+                    relation(p(3, 3, 1), p(4, 4, 1)), relation(p(3, 3, 1), p(3, 3, 1))}),
+            (Values{0, 1, 2, 3, 4, 5, 6, 7}));
+  const Point o = {0, 0, 0}, tiny = {tolerance, -tolerance, 0}, c = {3, 3, 1}, d = {4, 4, 1};
+  EXPECT_EQ(outputs_at(trvdirl, o, tiny, c, d), Values{7});
+  EXPECT_NE(outputs_at(trvdirl, o, Point{beyond, 0, 0}, c, d), Values{7});
+}
+
+TEST(SpaceLines, RelationWithinTheTolerances) {
+  const auto along_x = [](float xc, float yc, float xd, float yd) {
+    return outputs(trvdirl, 0, 0, 0, 1, 0, 0, xc, yc, 0, xd, yd, 0)[0];
+  };
   // Parallel within the tolerance of the cosine, with D alone on the line, or C, or D.
-  EXPECT_EQ((Values{relation(1, 1, 0.004F, 0, 5, 0, 0), relation(1, -4, 0, 0, 1, 0.004F, 0),
-                    relation(1, 0, 0.004F, 0, -5, 0, 0)}),
-            (Values{3, 3, 4}));
-  // Rising by h, the cosine is h^2/2 from that of parallel lines; the last two are nearly upright.
-  EXPECT_EQ((Values{relation(1, 0, 1, 0, 1, 1.0044F, 0), relation(1, 0, 1, 0, 1, 1.0046F, 0),
-                    relation(1, 0, 0, 0, tolerance, 1, 0), relation(1, 0, 0, 0, beyond, 1, 0)}),
-            (Values{1, 0, 5, 0}));
+  EXPECT_EQ(
+      (Values{along_x(1, 0.004F, 5, 0), along_x(-4, 0, 1, 0.004F), along_x(0, 0.004F, -5, 0)}),
+      (Values{3, 3, 4}));
 }
 
 TEST(SpaceLines, SkewDependsOnTheLengthsOfTheSegments) {
-  const float t = tolerance, b = -beyond;
-  EXPECT_EQ((Values{relation(1, 0, 0, t, 0, 1, t), relation(1, 0, 0, b, 0, 1, b),
-                    relation(1000, 0, 0, t, 0, 1, t), relation(0.001F, 0, 0, 1, 0, 0.001F, 1)}),
-            (Values{5, 6, 6, 5}));
-  const auto spans = [](double z) {
-    return outputs(trv3sp, 1, 1, 1, 3, 1, 1, 5, 5, 0, 5, 5.5, 0, 0, 7, 0, 4, 5, z)[0];
+  const auto crossing = [](float xb, float yd, float z) {
+    return outputs(trvdirl, 0, 0, 0, xb, 0, 0, 0, 0, z, 0, yd, z)[0];
   };
-  EXPECT_EQ((Values{spans(t), spans(-t), spans(b), spans(-b)}), (Values{0, 0, 1, 1}));
+  const float t = tolerance, b = -beyond;
+  EXPECT_EQ((Values{crossing(1, 1, t), crossing(1, 1, b), crossing(1000, 1, t),
+                    crossing(0.001F, 0.001F, 1)}),
+            (Values{5, 6, 6, 5}));
+  // Of three vectors in one plane, whichever coordinate is off takes them out of it.
+  const Point o = in_sevens(0, 0, 0), u = in_sevens(1, 0, 0), w = in_sevens(0, 1, 0);
+  const auto out = [&](float x, float y, float z) {
+    const Point p = in_sevens(2, -3, 0);
+    return outputs_at(trv3sp, o, u, o, w, o, Point{p[0] + x, p[1] + y, p[2] + z})[0];
+  };
+  EXPECT_EQ((Values{out(0, 0, 0), out(1, 0, 0), out(0, 1, 0), out(0, 0, 1), out(1, 0, 2)}),
+            (Values{0, 1, 1, 1, 0}));
 }
 
 TEST(SpaceLines, DistanceOfAPoint) {
-  // The line through A along (1, 2, 2), the point 5 times that further and off by (2, 1, -2).
-  EXPECT_EQ(outputs(trv3ldb, 1, 2, 2, 2, 4, 4, 8, 13, 10), (Values{0, 3}));
+  // Across the line through A along (2, 3, 6) are (3, -6, 2) and (6, 2, -3), 7 long.
+  const Point a = {1, 4, 4}, b = {3, 7, 10};
+  EXPECT_EQ(outputs_at(trv3ldb, a, b, Point{4, -2, 6}), (Values{0, 7}));
+  EXPECT_EQ(outputs_at(trv3ldb, a, b, Point{17, 14, 10}), (Values{0, 14}));
   EXPECT_EQ(outputs(trv3ldb, 0, 5, 0, 1, 5, 0, 0, 5, 3), (Values{0, 2}));  // 5 - 3, not 0 - 3
   EXPECT_EQ(outputs(trv3ldb, 1, 2, 9, 1, 2, 9, 3, 5, 15), (Values{0, 7}));
-  EXPECT_EQ(outputs(trv3lda, 1, 2, 9, 1, 2, 9, 3, 5, 15), (Values{0, 7}));
-  EXPECT_EQ(outputs(trv3lda, 1, 2, 9, 2, 4, 11, 3, 6, 13), (Values{0, 0}));
-  expect_near(outputs(trv3lda, 1, 2, 9, 2, 4, 11, 8, 13, 17), {0, -3}, 3e-6);
-  expect_near(outputs(trv3lda, 1, 2, 9, 2, 4, 11, 4, 11, 21), {0, 3}, 3e-6);
-  // To the left of the line, seen against the normal.
-  EXPECT_EQ(outputs(trv3lda, 0, 0, 0, 1, 0, 0, 0, 3, 0), (Values{0, -3}));
+}
+
+TEST(SpaceLines, SignedDistanceInThePlaneOfTheLineAndThePoint) {
+  const Point a = in_sevens(0, 0, 0), b = in_sevens(2, 0, 0);
+  // Negative to the left of the line, seen against the normal.
+  expect_near(outputs_at(trv3lda, a, b, in_sevens(3, 2, 0)), {0, -14}, 3e-6);
+  expect_near(outputs_at(trv3lda, a, b, in_sevens(-1, -3, 0)), {0, 21}, 3e-6);
+  EXPECT_EQ(outputs_at(trv3lda, a, b, in_sevens(1, 0, 0)), (Values{0, 0}));
+  EXPECT_EQ(outputs_at(trv3lda, a, a, in_sevens(0, 1, 0)), (Values{0, 7}));
 }
 
 TEST(SpaceLines, IntersectionOfTwoLinesMovesTheirPoints) {
   using Points = std::array<float, 9>;  // A, C and the intersection
-  const auto intersect = [](Points &p, float ux, float uy, float uz, float wx, float wy, float wz) {
+  const auto intersect = [](Points &p, Point u, Point w) {
     std::int32_t status = unwritten_int;
-    trv3lni(p[0], p[1], p[2], ux, uy, uz, p[3], p[4], p[5], wx, wy, wz, status, p[6], p[7], p[8]);
+    trv3lni(p[0], p[1], p[2], u[0], u[1], u[2], p[3], p[4], p[5], w[0], w[1], w[2], status, p[6],
+            p[7], p[8]);
     return status;
   };
-  Points p = {0, -1, 1, 5, 0, 14, unwritten, unwritten, unwritten};
-  EXPECT_EQ(intersect(p, 1, 2, 2, 1, -1, 3), 0);  // 2 along the first, -3 along the second
-  expect_near(Values(p.begin(), p.end()), {0, 0, 0, 5, 1, 13, 2, 3, 5}, 1e-6);
+  Points p = {1, -2, 4, 8, 1, 25, unwritten, unwritten, unwritten};
+  EXPECT_EQ(intersect(p, {2, 3, 6}, {1, -1, 3}), 0);  // 2 along the first, -3 along the second
+  expect_near(Values(p.begin(), p.end()), {0, 0, 0, 7, 3, 21, 5, 4, 16}, 1e-6);
 
   const Points start = {0, -1, 1, 1, 1, 3, unwritten, unwritten, unwritten};
   p = start;
-  EXPECT_EQ(intersect(p, 1, 2, 2, 2, 4, 4), 3);
-  EXPECT_EQ(intersect(p, 1, 2, 2, -2, -4, -4), 4);
-  EXPECT_EQ(intersect(p, 1, 2, 3, 1, -1, 3), 6);
-  EXPECT_EQ(intersect(p, 1, 2, 2, 0, 0, 0), 7);
+  EXPECT_EQ(intersect(p, {1, 2, 2}, {2, 4, 4}), 3);
+  EXPECT_EQ(intersect(p, {1, 2, 2}, {-2, -4, -4}), 4);
+  EXPECT_EQ(intersect(p, {1, 2, 3}, {1, -1, 3}), 6);
+  EXPECT_EQ(intersect(p, {1, 2, 2}, {0, 0, 0}), 7);
   EXPECT_EQ(p, start);
 
   // Parallel lines in a frame along the axes: the caller's (2, 3) from A.
   p = {1, 1, 1, 0, 2, 1, 2, 3, unwritten};
-  EXPECT_EQ(intersect(p, 1, 0, 0, 4, 0, 0), 0);
+  EXPECT_EQ(intersect(p, {1, 0, 0}, {4, 0, 0}), 0);
   EXPECT_EQ(p, (Points{0, 0, 0, -1, 1, 0, 3, 4, 1}));
   // C + w on the first line: in a frame of zeros everything is at A.
   p = {4, 5, 6, 6, 4, 6, 2, 3, unwritten};
-  EXPECT_EQ(intersect(p, 1, 0, 0, 0, 1, 0), 0);
+  EXPECT_EQ(intersect(p, {1, 0, 0}, {0, 1, 0}), 0);
   EXPECT_EQ(p, (Points{0, 0, 0, 2, -1, 0, 4, 5, 6}));
 }
 
 TEST(SpaceLines, IntersectionWithPlane) {
-  EXPECT_EQ(outputs(trvpli, 1, 2, 3, 1, 1, 2, 1, 2, 3, -32), (Values{3, 4, 7, 0}));
+  EXPECT_EQ(outputs(trvpli, 1, -2, 4, 2, 3, 6, 5, -1, 2, -53), (Values{5, 4, 16, 0}));
   const auto refused = [](double status) {
     return Values{unwritten, unwritten, unwritten, status};
   };
+  EXPECT_EQ(outputs(trvpli, 1, 2, 3, 2, 3, 6, 3, -6, 2, 4), refused(3));
   EXPECT_EQ(outputs(trvpli, 1, 2, 3, 1, 0, tolerance, 0, 0, 1, 0), refused(3));
   EXPECT_EQ(outputs(trvpli, 1, 2, 3, 1, 0, beyond, 0, 0, 1, 0)[3], 0);
   EXPECT_EQ(outputs(trvpli, 1, 2, 3, tolerance, -tolerance, 0, 1, 2, 3, 4), refused(4));
@@ -112,29 +129,36 @@ TEST(SpaceLines, PositionOfAPlane) {
 }
 
 TEST(SpaceLines, PointsNearALine) {
-  // From the x axis, with the heights 4, 0, 12 and -8: 5, 1, 13 and 10.
-  const float x[] = {7, 3, 5, 9}, y[] = {3, 1, 5, 6};
-  std::int32_t status = unwritten_int, count = unwritten_int, index[] = {0, 0, 0, unwritten_int};
-  trvpnl(0, 0, 0, 1, 0, 0, x, y, nullptr, 0, 10, status, count, index);
-  EXPECT_TRUE(status == unwritten_int && count == 0);
-  trvpnl(0, 0, 0, 1, 0, 0, x, y, height, 4, 10, status, count, index);
-  EXPECT_TRUE(status == 0 && count == 3);
-  EXPECT_EQ(Values(index, index + 4), (Values{1, 2, 4, unwritten}));
+  // From the line through A along (2, 3, 6), 7 off by (3, -6, 2), 14 off, on it, and nowhere.
+  const float x[] = {4, 17, -1, not_a_number}, y[] = {-2, 14, 1, 0};
+  const auto found = [&](std::int32_t n, float tol) {
+    std::int32_t status = unwritten_int, count = unwritten_int, index[4] = {};
+    trvpnl(1, 4, 4, 3, 7, 10, x, y, n > 0 ? height : nullptr, n, tol, status, count, index);
+    Values all(index, index + 4);
+    all.push_back(count);
+    all.push_back(status);
+    return all;
+  };
+  EXPECT_EQ(found(0, 7), (Values{0, 0, 0, 0, 0, unwritten}));
+  EXPECT_EQ(found(4, 7), (Values{1, 3, 0, 0, 2, 0}));
+  EXPECT_EQ(found(4, 6.999F), (Values{3, 0, 0, 0, 1, 0}));
+  EXPECT_EQ(found(4, infinity), (Values{1, 2, 3, 0, 3, 0}));
 }
 
 TEST(SpaceLines, PointCarriedAlong) {
-  const auto carried = [](float x1, float y1, float z1, float x2, float y2, float z2) {
+  const auto carried = [](Point q1, Point q2) {
     std::int32_t status = unwritten_int;
-    trvlpc(1, 1, 1, x1, y1, z1, x2, y2, z2, 1, 2, 3, 2, 4, 8, status);
-    return Values{x2, y2, z2, static_cast<double>(status)};
+    trvlpc(1, -2, 4, q1[0], q1[1], q1[2], q2[0], q2[1], q2[2], 1, 2, 3, 2, 4, 8, status);
+    return Values{q2[0], q2[1], q2[2], static_cast<double>(status)};
   };
-  // P is moved to (2, 3, 4), Q1 from (3, 1, 1) to (5, 5, 9).
-  EXPECT_EQ(carried(3, 1, 1, 7, 1, 1), (Values{11, 9, 19, 3}));
-  EXPECT_EQ(carried(3, 1, 1, -1, 1, 1), (Values{-1, 1, -1, 4}));
-  EXPECT_EQ(carried(3, 1, 1, 1, 1, 1), (Values{2, 3, 4, 7}));
-  EXPECT_EQ(carried(1, 1, 1, 7, 1, 1), (Values{7, 1, 1, 0}));
-  EXPECT_EQ(carried(3, 1, 1, 7, 2, 1), (Values{7, 2, 1, 0}));
-  EXPECT_EQ(carried(3, 1, 1, 1, 7, 1), (Values{1, 7, 1, 0}));
+  // P is moved to (2, 0, 7) and Q1 to (5, 5, 18).
+  const Point p = in_sevens(0, 0, 0), q1 = in_sevens(1, 0, 0), off = in_sevens(0, 1, 0);
+  EXPECT_EQ(carried(q1, in_sevens(3, 0, 0)), (Values{11, 15, 40, 3}));
+  EXPECT_EQ(carried(q1, in_sevens(-2, 0, 0)), (Values{-4, -10, -15, 4}));
+  EXPECT_EQ(carried(q1, p), (Values{2, 0, 7, 7}));
+  EXPECT_EQ(carried(p, off), (Values{off[0], off[1], off[2], 0}));
+  EXPECT_EQ(carried(q1, off), (Values{off[0], off[1], off[2], 0}));
+  EXPECT_EQ(carried(q1, in_sevens(3, 1, 0))[3], 0);
   // Far out, rounding makes the lines skew, and the point is moved though it is off the line.
-  EXPECT_EQ(carried(1000.1F, 200.3F, 300.7F, -333.3F, 777.7F, 123.4F)[3], 6);
+  EXPECT_EQ(carried({1000.1F, 200.3F, 300.7F}, {-333.3F, 777.7F, 123.4F})[3], 6);
 }

@@ -1,4 +1,4 @@
-#include "support.h"
+#include "space/frame_of_sevens.h"
 #include "trelvin/plane.h"
 #include "trelvin/space.h"
 
@@ -6,43 +6,43 @@ using namespace trelvin_test;
 
 namespace {
 
-// Through (1, 2, 3), with the normal (1, 0, 2) x (0, 1, -1).
-const Values plane = {-2, 1, 1, -3, 0};
+// The plane of the first two axes through their origin; its normal is 7 times 7 long.
+const Values plane = {42, 14, -21, 70, 0};
 
 Values zeros(double status) { return {0, 0, 0, 0, status}; }
+Values left(double status) { return {unwritten, unwritten, unwritten, unwritten, status}; }
 
 }  // namespace
 
 TEST(Planes, OfThreePointsOrTwoDirections) {
-  EXPECT_EQ(outputs(trvpl1, 1, 2, 3, 2, 2, 5, 1, 3, 2), plane);
-  EXPECT_EQ(outputs(trvplg, 1, 2, 3, 1, 0, 2, 0, 1, -1), Values(plane.begin(), plane.end() - 1));
-  const double on_line[] = {1, 3, 2, 0, 4};  // at P0, at P1, between, before, behind
+  const Point o = in_sevens(0, 0, 0), u = in_sevens(1, 0, 0);
+  EXPECT_EQ(outputs_at(trvpl1, o, u, in_sevens(2, 1, 0)), plane);
+  EXPECT_EQ(outputs(trvplg, 1, -2, 4, 2, 3, 6, 3, -6, 2), Values(plane.begin(), plane.end() - 1));
+  const float on_line[] = {0, 1, 0.5, -1, 2};  // at P0, at P1, between, before, behind
   for (int i = 0; i < 5; ++i) {
-    const double x = on_line[i];
-    EXPECT_EQ(outputs(trvpl1, 1, 2, 3, 3, 4, 5, x, x + 1, x + 2), zeros(i + 1));
-    EXPECT_EQ(outputs(trvpl7, 1, 2, 3, 3, 4, 5, x, x + 1, x + 2, 1), zeros(i + 1));
+    EXPECT_EQ(outputs_at(trvpl1, o, u, in_sevens(on_line[i], 0, 0)), zeros(i + 1));
+    EXPECT_EQ(outputs_at(trvpl7, o, u, in_sevens(on_line[i], 0, 0), 1), zeros(i + 1));
   }
 }
 
 TEST(Planes, OfTwoLines) {
-  // The first line runs from (5, 5, 5) along (1, 0, 2), the other one from (x, 5, z) along w.
-  const auto expect = [](double x, double z, double wx, double wy, double wz,
-                         const Values &through_p, const Values &through_a, const Values &common) {
-    const double xd = x + wx, yd = 5 + wy, zd = z + wz;
-    EXPECT_EQ(outputs(trvpl2, 1, 2, 3, 5, 5, 5, 6, 5, 7, x, 5, z, xd, yd, zd), through_p);
-    EXPECT_EQ(outputs(trvpl3, 5, 5, 5, 6, 5, 7, x, 5, z, xd, yd, zd), through_a);
-    EXPECT_EQ(outputs(trvpl6, 5, 5, 5, 1, 0, 2, x, 5, z, wx, wy, wz), common);
+  // The first line runs from A = (2, 5, 7) along (2, 3, 6), the other one from C along w.
+  const auto expect = [](Point c, Point w, const Values &through_p, const Values &through_a,
+                         const Values &common) {
+    const Point a = {2, 5, 7}, u = {2, 3, 6}, b = {4, 8, 13};
+    const Point d = {c[0] + w[0], c[1] + w[1], c[2] + w[2]};
+    EXPECT_EQ(outputs_at(trvpl2, in_sevens(0, 0, 0), a, b, c, d), through_p);
+    EXPECT_EQ(outputs_at(trvpl3, a, b, c, d), through_a);
+    EXPECT_EQ(outputs_at(trvpl6, a, u, c, w), common);
   };
-  const auto left = [](double status) {
-    return Values{unwritten, unwritten, unwritten, unwritten, status};
-  };
-  const Values at_a = {-2, 1, 1, 0, 0};
-  expect(7, 9, 0, 1, -1, plane, at_a, at_a);
-  expect(7, 9, 2, 0, 4, zeros(3), zeros(3), left(3));
-  expect(7, 9, -2, 0, -4, zeros(4), zeros(4), left(4));
-  expect(7, 5, 0, 1, -1, plane, at_a, left(6));
-  expect(7, 9, 0, 0, 0, zeros(7), zeros(7), left(7));
-  expect(7, 5, 2, 0, 4, zeros(0), zeros(0), zeros(0));
+  const Values at_a = {42, 14, -21, -7, 0};
+  const Point on_line = {6, 11, 19}, across = {3, -6, 2};
+  expect({1, 14, 11}, across, plane, at_a, at_a);
+  expect(on_line, {4, 6, 12}, zeros(3), zeros(3), left(3));
+  expect(on_line, {-4, -6, -12}, zeros(4), zeros(4), left(4));
+  expect({1, 14, 12}, across, plane, at_a, left(6));
+  expect(on_line, {0, 0, 0}, zeros(7), zeros(7), left(7));
+  expect({1, 14, 11}, {4, 6, 12}, zeros(0), zeros(0), zeros(0));
 
   // The relation is taken twice. C agrees with A by its coordinates, so that the cosine of the call
   // before decides whether it is on the line; D, too far out to be nearer to A or B, leaves one.
@@ -50,61 +50,74 @@ TEST(Planes, OfTwoLines) {
 }
 
 TEST(Planes, NormalToASegmentOrByIntercepts) {
-  EXPECT_EQ(outputs(trvpl4, 1, 2, 3, 5, 5, 5, 3, 6, 6), plane);
-  EXPECT_EQ(outputs(trvpl4, 1, 2, 3, 0, 0, 0, tolerance, tolerance, tolerance), zeros(1));
+  EXPECT_EQ(outputs(trvpl4, 1, -2, 4, 5, 6, 8, 47, 20, -13), plane);
+  EXPECT_EQ(outputs(trvpl4, 1, 2, 3, 0, 0, 0, tolerance, -tolerance, tolerance), zeros(1));
+  EXPECT_EQ(outputs(trvpl4, 1, 2, 3, 0, 0, 0, 0, beyond, 0)[4], 0);
   EXPECT_EQ(outputs(trvpl5, 1, -2, 4), (Values{1, -0.5, 0.25, -1, 0}));
-  EXPECT_EQ(outputs(trvpl5, beyond, -beyond, beyond)[4], 0);
   EXPECT_EQ(outputs(trvpl5, not_a_number, 1, 1), zeros(1));
   EXPECT_EQ(outputs(trvpl5, 1, -tolerance, 1), zeros(1));
   EXPECT_EQ(outputs(trvpl5, 1, 1, tolerance), zeros(1));
 }
 
 TEST(Planes, TurnedAboutAnEdge) {
-  // Along x, so that the normal z turns towards -y.
-  expect_near(outputs(trvpl7, 1, 1, 1, 3, 1, 1, 2, 5, 1, pi / 6),
-              {0, -0.5, std::sqrt(0.75), 0.5 - std::sqrt(0.75), 0}, 3e-7);
-  // In the frame (2, 1, 2)/3, (2, -2, -1)/3, (1, 2, -2)/3, by the angle of sine 0.8.
-  expect_near(outputs(trvpl7, 1, 2, 3, 3, 3, 5, 1, 5, 6, 0.927295218),
-              {-1 / 3.0, 2.8 / 3, -0.4 / 3, -3.4 / 3, 0}, 5e-7);
-  EXPECT_EQ(outputs(trvpl7, 1, 2, 3, 1, 2, 3, 5, 6, 9, 1), zeros(1));  // a frame without normal
+  // By the angle of sine 0.8 the normal is 0.6 of the third axis less 0.8 of the second.
+  expect_near(
+      outputs_at(trvpl7, in_sevens(0, 0, 0), in_sevens(3, 0, 0), in_sevens(1, -2, 0), 0.927295218),
+      {1.2 / 7, 6 / 7.0, -3.4 / 7, 24.4 / 7, 0}, 3e-7);
+  // The normal of a frame without axes is zero.
+  EXPECT_EQ(outputs(trvpl7, 1, 2, 3, 1, 2, 3, 5, 6, 9, 1), zeros(1));
 }
 
-TEST(Planes, PointOnPlane) {
-  const auto on_points = [](double z, double tol) {  // with a normal of 4
-    return outputs(trvpsp, 0, 0, 0, 2, 0, 0, 0, 2, 0, 7, -9, z, tol)[0];
+TEST(Planes, PointOnThePlaneOfThreePoints) {
+  // A step along x, y or z changes the residual by 42, 14 or -21.
+  const auto on = [](float x, float y, float z, float tol) {
+    return outputs_at(trvpsp, in_sevens(0, 0, 0), in_sevens(1, 0, 0), in_sevens(2, 1, 0), 9 + x,
+                      -11 + y, 14 + z, tol)[0];
   };
-  EXPECT_EQ((Values{on_points(0.25, 1), on_points(-0.25, 1), on_points(0.25, 0.99),
-                    on_points(-0.25, 0.99), on_points(not_a_number, infinity)}),
-            (Values{0, 0, -1, -1, -1}));
-  EXPECT_EQ(outputs(trvpsp, 0, 0, 0, 2, 0, 0, 4, 0, 0, 7, 0, 0, infinity), Values{-1});
+  EXPECT_EQ((Values{on(0, 0, 0, 0), on(1, 0, 0, 42), on(0, 1, 0, 14), on(0, 0, 1, 21)}),
+            (Values{0, 0, 0, 0}));
+  EXPECT_EQ((Values{on(1, 0, 0, 41.9F), on(0, 1, 0, 13.9F), on(0, 0, 1, 20.9F),
+                    on(not_a_number, 0, 0, infinity)}),
+            (Values{-1, -1, -1, -1}));
+  const Point a = {1, 2, 3}, b = {3, 4, 5}, on_line = {5, 6, 7};
+  EXPECT_EQ(outputs_at(trvpsp, a, b, on_line, 9, 9, 9, infinity), Values{-1});
+}
 
-  // One above 3*y + 4*z = 10, and two below.
-  EXPECT_EQ(outputs(trvpld, 9, 1, 3, 0, 3, 4, -10), Values{1});
-  EXPECT_EQ(outputs(trvpld, 9, 0, 0, 0, 3, 4, -10), Values{-2});
+TEST(Planes, DistanceOfAPoint) {
+  // The normal (2, 3, 6) is 7 long.
+  EXPECT_EQ(outputs(trvpld, 4, 1, -2, 2, 3, 6, -27), Values{-4});
+  EXPECT_EQ(outputs(trvpld, 1, 5, 4, 2, 3, 6, -27), Values{2});
   EXPECT_FALSE(std::isfinite(outputs(trvpld, 1, 2, 3, 0, 0, 0, 1)[0]));
-  EXPECT_EQ(outputs(trvpspg, 9, 0, 0, 0, 3, 4, -10, 2), Values{0});
-  EXPECT_EQ(outputs(trvpspg, 9, 0, 0, 0, 3, 4, -10, 1.99), Values{-1});
+  EXPECT_EQ(outputs(trvpspg, 4, 1, -2, 2, 3, 6, -27, 4), Values{0});
+  EXPECT_EQ(outputs(trvpspg, 4, 1, -2, 2, 3, 6, -27, 3.999), Values{-1});
+  EXPECT_EQ(outputs(trvpspg, 1, 5, 4, 2, 3, 6, -27, 1.999), Values{-1});
+  EXPECT_EQ(outputs(trvpspg, 1, not_a_number, 4, 2, 3, 6, -27, infinity), Values{-1});
+  EXPECT_EQ(outputs(trvpspg, 1, 5, 4, not_a_number, 0, 0, -27, infinity), Values{-1});
   EXPECT_EQ(outputs(trvpspg, 1, 2, 3, 0, 0, 0, 0, infinity), Values{1});
   EXPECT_EQ(outputs(trvpspg, 1e5, 0, 0, 1e-10, 0, 0, 0, infinity), Values{0});
 }
 
 TEST(Planes, RelationOfDirections) {
-  const auto relation = [](double ux, double uy, double wx, double wy) {
-    return outputs(trvplv, ux, uy, 0, wx, wy, 0, not_a_number, 1)[0];
+  const auto relation = [](Point u, Point w) {
+    return outputs_at(trvplv, u, w, not_a_number, 1)[0];
   };
-  EXPECT_EQ((Values{relation(0, 0, 1, 0), relation(0, 0, 0, 0), relation(1, 0, 0, 0),
-                    relation(tolerance, 0, 1, 0), relation(1, 2, 2, 4), relation(1, 2, -2, -4),
-                    relation(1, 2, -2, 1), relation(1, 2, 2, 1)}),
-            (Values{-1, -1, 7, 7, 3, 4, 5, 0}));
+  const Point u = {2, 3, 6}, zero = {0, 0, 0};
+  EXPECT_EQ((Values{relation(zero, u), relation(zero, zero), relation(u, zero),
+                    relation({tolerance, 0, -tolerance}, u)}),
+            (Values{-1, -1, 7, 7}));
+  EXPECT_EQ((Values{relation(u, {4, 6, 12}), relation(u, {-4, -6, -12}), relation(u, {3, -6, 2}),
+                    relation(u, {3, 2, 6})}),
+            (Values{3, 4, 5, 0}));
 }
 
 TEST(Planes, ListOfPointsRunsItsResidualOn) {
-  const float x[] = {1, 1, 0, 0}, y[] = {2, 0, -1, 0}, z[] = {3, 0, 0, 1e-30F};
+  const float x[] = {1, 1, 0, 0}, y[] = {2, 0, -1, 0}, z[] = {3, 0, 1, 1e-30F};
   std::int32_t count = unwritten_int, index[] = {unwritten_int, unwritten_int, unwritten_int};
-  float d = -6;
-  trvpnp(x, y, z, 1, 1, 1, d, 0, count, index);
-  EXPECT_TRUE(count == 0 && d == -6);
-  trvpnp(x, y, z, 1, 1, 1, d, 4, count, index);  // 0, 1, 0, 1e-30
+  float d = -21;
+  trvpnp(x, y, z, 2, 5, 3, d, 0, count, index);
+  EXPECT_TRUE(count == 0 && d == -21);
+  trvpnp(x, y, z, 2, 5, 3, d, 4, count, index);  // 0, 2, 0, 3e-30
   EXPECT_EQ(Values(index, index + 3), (Values{1, 3, unwritten}));
-  EXPECT_TRUE(count == 2 && d == 1e-30F);
+  EXPECT_EQ(count, 2);
+  EXPECT_FLOAT_EQ(d, 3e-30F);
 }
