@@ -139,10 +139,10 @@ TRELVIN_ROUTINE trvppc(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
     status = -1;
     return;
   }
-  const SpaceArrays points = {X, Y, Z};
-  const Integer off = first_off_plane(points, n, plane_through(p0, p1, p2), tol);
+  const Integer off = first_off_plane({X, Y, Z}, n, plane_through(p0, p1, p2), tol);
   if (off == 0) {
-    turn_and_shift(points, n, frame_of_plane(p0, p1, p2), p0, turns_by(ax, ay, az), {dx, dy, dz});
+    turn_and_shift({X, Y, Z}, n, frame_of_plane(p0, p1, p2), p0, turns_by(ax, ay, az),
+                   {dx, dy, dz});
   }
   status = off;
 }

@@ -18,10 +18,12 @@ struct PlaneIntersection {
 };
 
 inline PlaneIntersection intersect(Point3 p, Vector3 u, const Plane &plane) {
-  const PlaneIntersection none = {relation_of_directions(u, plane.normal()), {}};
-  if (!none) return none;
-  const Real t = -residual(plane, p) / dot(plane.normal(), u);
-  return {none.relation, {p.x + u.x * t, p.y + u.y * t, p.z + u.z * t}};
+  PlaneIntersection found = {relation_of_directions(u, plane.normal()), {}};
+  if (found) {
+    const Real t = -residual(plane, p) / dot(plane.normal(), u);
+    found.point = {p.x + u.x * t, p.y + u.y * t, p.z + u.z * t};
+  }
+  return found;
 }
 
 struct SpaceIntersection {
@@ -32,8 +34,8 @@ struct SpaceIntersection {
   explicit operator bool() const { return status == PlaneOfLinesStatus::done; }
 };
 
-// Of the lines from a along u and from c along w. The point of parallel lines is `instead`, by local
-// coordinates.
+// Of the lines from a along u and from c along w. The point of parallel lines is `instead`, by
+// local coordinates.
 SpaceIntersection intersect(Point3 a, Vector3 u, Point3 c, Vector3 w, Point2 instead,
                             LastCosine &last);
 

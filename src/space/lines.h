@@ -50,8 +50,8 @@ struct CarriedPoint {
   Point3 point;
 };
 
-// Moves P and q1 and keeps the place of q2 on their line; nothing where they are not on one line, or
-// q1 is at P.
+// Moves P and q1 and keeps the place of q2 on their line; nothing where the three are not on one
+// line, or q1 is at P.
 std::optional<CarriedPoint> carry_along(Point3 p, Point3 q1, Point3 q2, Vector3 move_of_p,
                                         Vector3 move_of_q1, LastCosine &last);
 

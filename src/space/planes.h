@@ -1,5 +1,5 @@
-// Planes of space, as the coefficients of a*x + b*y + c*z + d = 0; the normal (a, b, c) is as long as
-// the construction makes it.
+// Planes of space, as the coefficients of a*x + b*y + c*z + d = 0; the normal (a, b, c) is as long
+// as the construction makes it.
 #pragma once
 
 #include <optional>
@@ -48,8 +48,8 @@ struct PlaneOfLines {
 PlaneOfLines plane_parallel_to(Point3 p, const SpaceLine &first, const SpaceLine &second,
                                LastCosine &last);
 
-// Of two lines. It relates them twice; where only the second time finds them to be the same line, there
-// is a status, and a plane of zeros.
+// Of two lines. It relates them twice; where only the second time finds them to be the same line,
+// there is that status with a plane of zeros.
 PlaneOfLines plane_of_lines(const SpaceLine &first, const SpaceLine &second, LastCosine &last);
 
 // The residual of a point in two groupings, whose last digits differ.

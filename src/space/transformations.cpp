@@ -40,13 +40,14 @@ void turn_about_axis(SpaceArrays points, Integer n, const Frame &frame, Point3 p
 }
 
 Integer first_off_plane(SpaceArrays points, Integer n, const Plane &plane, Real limit) {
-  const Plane own = plane;  // which no point can alias
-  Integer off = 0;          // counted without leaving the loop, so that it takes points together
-  for (Integer i = 0; i < n; ++i)
-    off += within(limit, residual_with_d_second(own, points[i])) ? 0 : 1;
-  if (off == 0) return 0;
+  const auto off = [&](Integer i) {
+    return !within(limit, residual_with_d_second(plane, points[i]));
+  };
+  Integer count = 0;  // of all, without leaving the loop: so it takes several points at a time
+  for (Integer i = 0; i < n; ++i) count += off(i) ? 1 : 0;
+  if (count == 0) return 0;
   Integer first = 0;
-  while (within(limit, residual_with_d_second(own, points[first]))) ++first;
+  while (!off(first)) ++first;
   return first + 1;
 }
 

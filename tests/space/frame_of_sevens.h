@@ -1,5 +1,5 @@
-// Points in a frame whose axes are along (2, 3, 6), (3, -6, 2) and (6, 2, -3), each 7 long, and whose
-// origin is (1, -2, 4): all is whole, and no coordinate stands for another.
+// Points in a frame whose axes are along (2, 3, 6), (3, -6, 2) and (6, 2, -3), each 7 long, and
+// whose origin is (1, -2, 4): all is whole, and no coordinate stands for another.
 #pragma once
 
 #include <array>
