@@ -129,11 +129,12 @@ TEST(SpaceLines, PositionOfAPlane) {
 }
 
 TEST(SpaceLines, PointsNearALine) {
-  // From the line through A along (2, 3, 6), 7 off by (3, -6, 2), 14 off, on it, and nowhere.
+  // The line along (2, 3, 6) is taken through (1, 4, 4), not A = (1, 4, 9): 7 off, 14 off, on it,
+  // and nowhere.
   const float x[] = {4, 17, -1, not_a_number}, y[] = {-2, 14, 1, 0};
   const auto found = [&](std::int32_t n, float tol) {
     std::int32_t status = unwritten_int, count = unwritten_int, index[4] = {};
-    trvpnl(1, 4, 4, 3, 7, 10, x, y, n > 0 ? height : nullptr, n, tol, status, count, index);
+    trvpnl(1, 4, 9, 3, 7, 15, x, y, n > 0 ? height : nullptr, n, tol, status, count, index);
     Values all(index, index + 4);
     all.push_back(count);
     all.push_back(status);
