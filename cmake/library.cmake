@@ -22,7 +22,9 @@ if(TRELVIN_BUILD_FUZZER)
 endif()
 if(WIN32)
   # Hosts of the 1990s keep the stack aligned to 4 bytes only.
-  target_compile_options(trelvin PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-mstackrealign>)
+  # Nothing throws through it, so it carries no tables for that.
+  target_compile_options(trelvin PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-mstackrealign>
+                                         -fno-asynchronous-unwind-tables)
 endif()
 
 # The edge sums are vectors by hand. The compiler's own would load what was stored by elements just
