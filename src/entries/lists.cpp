@@ -8,6 +8,7 @@
 #include "lists/matching.h"
 #include "lists/merging.h"
 #include "lists/ordering.h"
+#include "lists/points.h"
 
 using namespace trelvin;
 
@@ -71,7 +72,7 @@ TRELVIN_ROUTINE trvmer13(TrvIntIn na, TrvArrayIn A, TrvIntIn nb, TrvArrayIn B, T
   const std::int64_t cleared = std::max(std::int64_t{a.n} + b.n, std::int64_t{0});
   std::fill_n(IA, cleared, 0);
   std::fill_n(IB, cleared, 0);
-  count = pairs_within(limit, a, b, IA, IB);
+  count = pair_up(a, b, limit, IA, IB).pairs;
 }
 
 TRELVIN_ROUTINE trvmer1(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayIn B, TrvIntOut nout,
@@ -134,7 +135,7 @@ TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
                         TrvIntArrayOut IA, TrvIntArrayOut IB, TrvIntOut status) {
   const Door door;
   const PointList a = {XA, YA, ZA, na};
-  const Partners found = agreeing_pairs(tol, a, {XB, YB, ZB, nb}, IA, IB);
+  const Partners found = pair_up(a, PointList{XB, YB, ZB, nb}, tol, IA, IB);
   count = found.pairs;
   status = found.pairs == 0 ? 0 : found.partnered < a.n ? 1 : 2;
 }
@@ -149,30 +150,26 @@ TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
                         TrvIntArrayOut PK, TrvIntOut nz, TrvArrayOut ZL) {
   const Door door;
   const PointList lists[] = {{XA, YA, ZA, na}, {XB, YB, ZB, nb}, {XC, YC, ZC, nc}};
-  Integer *const place_of[] = {MA, MB, MC};
+  const MergedPoints merged = {{IAB, IBC, ICA}, {JAB, JBC, JCA}, {XO, YO, ZO}, {MA, MB, MC}};
   const Real limit = tol;
   const Integer chosen = k;
-
-  const Integer pairs_ab = agreeing_pairs(limit, lists[0], lists[1], IAB, JAB).pairs;
-  const Integer pairs_bc = agreeing_pairs(limit, lists[1], lists[2], IBC, JBC).pairs;
-  const Integer pairs_ca = agreeing_pairs(limit, lists[2], lists[0], ICA, JCA).pairs;
-  const Integer places = put_to_places(lists, limit, {XO, YO, ZO}, place_of);
-  std::copy_n(ZO, places, ZL);
+  const MergedCounts counts = merge_points(lists, limit, merged);
+  std::copy_n(ZO, counts.places, ZL);
 
   Integer points = 0;
   Integer at_chosen = 0;
   for (int list = 0; list < 3; ++list) {
     for (Integer i = 0; i < lists[list].n; ++i) {
       ++points;
-      if (place_of[list][i] == chosen) PK[at_chosen++] = points;
+      if (merged.place_of[list][i] == chosen) PK[at_chosen++] = points;
     }
   }
-  nab = pairs_ab;
-  nbc = pairs_bc;
-  nca = pairs_ca;
-  nout = places;
+  nab = counts.pairs[0];
+  nbc = counts.pairs[1];
+  nca = counts.pairs[2];
+  nout = counts.places;
   nk = at_chosen;
-  nz = merge(ZL, places, limit);
+  nz = merge(ZL, counts.places, limit);
 }
 
 /* Crossings of an outline -------------------------------------------------------------------- */

@@ -39,7 +39,7 @@ inline Real real_of(Key key) {
 // One key for both zeros.
 inline Key key_of_magnitude(Real value) { return key_of(value + 0.0F); }
 
-// A key with the position of its entry: sorted by key, and by position where keys are equal.
+// A key with the position of its entry. In ascending order equal keys go by position.
 using Placed = std::uint64_t;
 
 inline Placed placed(Key key, Integer position) {
@@ -48,14 +48,16 @@ inline Placed placed(Key key, Integer position) {
 inline Key key_of(Placed entry) { return static_cast<Key>(entry >> 32); }
 inline Integer position_of(Placed entry) { return static_cast<Integer>(static_cast<Key>(entry)); }
 
-// Sorts ascending by the 32 bits from `lowest_bit` up. What those do not tell apart stays in order.
+// Sorts ascending by the bits from `lowest_bit` up, no more than 36. What those do not tell apart stays
+// in order.
 // Works in both arrays and returns the one that holds the result.
 template <class Word>
 Word *sort_by_digits(Word *words, Word *spare, std::size_t n, int lowest_bit) {
+  constexpr int width = 9;
   constexpr int digits = 4;
-  constexpr int values = 256;
+  constexpr int values = 1 << width;
   const auto digit = [&](Word word, int d) {
-    return static_cast<std::size_t>(word >> (lowest_bit + 8 * d)) % values;
+    return static_cast<std::size_t>(word >> (lowest_bit + width * d)) % values;
   };
   std::uint32_t places[digits][values] = {};
   for (std::size_t i = 0; i < n; ++i) {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "lists/cell_index.h"
 #include "lists/keys.h"
+#include "lists/matching.h"
 #include "lists/ordering.h"
 #include "lists/work_array.h"
 
@@ -43,115 +43,79 @@ Integer merge_outline(const PlaneArrays &vertices, Integer n, Real tol) {
 
 namespace {
 
-// The first of `count` indexed entries that agrees with what lies at p, or `count`.
-template <class Agrees>
-Integer first_agreeing(const CellIndex &index, Point3 p, Integer count, Agrees agrees) {
-  Integer first = count;
-  index.visit_candidates(p, [&](Integer i) {
-    if (i >= first) return false;
-    if (agrees(i)) first = i;
-    return i < first;
-  });
-  return first;
+// Sorts by key. Without room to spare it takes longer.
+template <class Word>
+const Word *sort_words(Word *words, Word *spare, Integer n, int lowest_bit) {
+  if (spare != nullptr)
+    return sort_by_digits(words, spare, static_cast<std::size_t>(n), lowest_bit);
+  std::sort(words, words + n);
+  return words;
 }
 
-}  // namespace
+// Where two lists are compared: sorted copies of whole lists, or of a block at a time of each.
+struct Workspace {
+  Placed *a, *spare_a;
+  Key *b, *spare_b;
+  bool *held;
+  Integer size_a, size_b;
 
-Integer join_new(RealList a, RealList b, Real tol, Real *joined, Integer *positions_of_b) {
-  Integer count = std::max(a.n, 0);
-  std::copy_n(a.values, count, joined);
-  CellIndex index(std::int64_t{count} + std::max(b.n, 0), tol);
-  for (Integer i = 0; i < count; ++i) index.enter({joined[i], 0, 0});
-  for (Integer j = 0; j < b.n; ++j) {
-    const Real value = b.values[j];
-    const Integer place = first_agreeing(index, {value, 0, 0}, count,
-                                         [&](Integer i) { return agree(value, joined[i], tol); });
-    if (place == count) {
-      joined[count++] = value;
-      index.enter({value, 0, 0});
-    }
-    positions_of_b[j] = place + 1;
-  }
-  return count;
-}
-
-Integer put_to_places(const PointList (&lists)[3], Real tol, const SpaceArrays &places,
-                      Integer *const (&place_of)[3]) {
-  std::int64_t capacity = 0;
-  for (const PointList &list : lists) capacity += std::max(list.n, 0);
-  CellIndex index(capacity, tol);
-  Integer count = 0;
-  for (int l = 0; l < 3; ++l) {
-    for (Integer i = 0; i < lists[l].n; ++i) {
-      const Point3 p = lists[l][i];
-      const Integer place = first_agreeing(
-          index, p, count, [&](Integer other) { return agree(p, places[other], tol); });
-      if (place == count) {
-        places.set(count++, p);
-        index.enter(p);
+  // Tells of `n` entries from `a` on, no more than a block, which of them `b` holds.
+  void mark_held(const Integer *list_a, Integer n, const Integer *list_b, Integer nb) const {
+    for (Integer i = 0; i < n; ++i) a[i] = placed(key_of(list_a[i]), i);
+    const Placed *const sorted_a = sort_words(a, spare_a, n, 32);
+    std::fill_n(held, n, false);
+    for (Integer start = 0, m = 0; start < nb; start += m) {
+      m = std::min(size_b, nb - start);
+      for (Integer j = 0; j < m; ++j) b[j] = key_of(list_b[start + j]);
+      const Key *key = sort_words(b, spare_b, m, 0);
+      const Key *const last = key + m;
+      for (const Placed *entry = sorted_a; entry != sorted_a + n; ++entry) {
+        while (key != last && *key < key_of(*entry)) ++key;
+        if (key == last) break;
+        if (*key == key_of(*entry)) held[position_of(*entry)] = true;
       }
-      place_of[l][i] = place + 1;
     }
   }
-  return count;
-}
 
-namespace {
-
-constexpr Integer entries_on_stack = 1024;
-
-// Sorts by value; entries of equal value stay together.
-const Placed *sort_block(Placed *block, Placed *spare, Integer size) {
-  if (spare != nullptr) return sort_by_digits(block, spare, static_cast<std::size_t>(size), 32);
-  std::sort(block, block + size);
-  return block;
-}
-
-// Marks the entries of a sorted block that `b` holds.
-void mark_held(const Placed *block, Integer size, const Integer *b, Integer nb, bool *held) {
-  for (Integer j = 0; j < nb; ++j) {
-    const Key key = key_of(b[j]);
-    const Placed *entry = std::lower_bound(block, block + size, placed(key, 0));
-    const auto equal = [&] { return entry != block + size && key_of(*entry) == key; };
-    if (!equal() || held[position_of(*entry)]) continue;
-    for (; equal(); ++entry) held[position_of(*entry)] = true;
+  Integer choose(bool wanted, const Integer *list_a, Integer na, const Integer *list_b, Integer nb,
+                 Integer *chosen) const {
+    Integer count = 0;
+    for (Integer start = 0, n = 0; start < na; start += n) {
+      n = std::min(size_a, na - start);
+      mark_held(list_a + start, n, list_b, nb);
+      for (Integer i = 0; i < n; ++i) {
+        if (held[i] == wanted) chosen[count++] = list_a[start + i];
+      }
+    }
+    return count;
   }
-}
+};
 
-// Works through `a` by blocks, in one where there is memory for its sorted copy, and else in such as
-// fit on the stack. Each is searched for every entry of `b`.
 Integer choose(bool wanted, const Integer *a, Integer na, const Integer *b, Integer nb,
                Integer *chosen) {
-  Placed small_block[entries_on_stack];
-  bool small_held[entries_on_stack];
-  Placed *block = small_block;
-  Placed *spare = nullptr;
-  bool *held = small_held;
-  Integer block_size = entries_on_stack;
-  WorkArray<Placed> large_block;
-  WorkArray<bool> large_held;
-  if (na > entries_on_stack) {
-    const auto size = static_cast<std::uint64_t>(na);
-    large_block = work_array<Placed>(2 * size);
-    large_held = work_array<bool>(size);
-    if (large_block && large_held) {
-      block = large_block.get();
-      spare = block + na;
-      held = large_held.get();
-      block_size = na;
+  constexpr Integer block = 512;
+  if (na > block || nb > block) {
+    const auto size_a = static_cast<std::uint64_t>(std::max(na, 0));
+    const auto size_b = static_cast<std::uint64_t>(std::max(nb, 0));
+    const auto work_a = work_array<Placed>(2 * size_a);
+    const auto work_b = work_array<Key>(2 * size_b);
+    const auto held = work_array<bool>(size_a);
+    if (work_a && work_b && held) {
+      const Workspace whole = {work_a.get(),
+                               work_a.get() + size_a,
+                               work_b.get(),
+                               work_b.get() + size_b,
+                               held.get(),
+                               na,
+                               nb};
+      return whole.choose(wanted, a, na, b, nb, chosen);
     }
   }
-  Integer count = 0;
-  for (Integer start = 0; start < na; start += std::min(block_size, na - start)) {
-    const Integer size = std::min(block_size, na - start);
-    for (Integer i = 0; i < size; ++i) block[i] = placed(key_of(a[start + i]), i);
-    std::fill_n(held, size, false);
-    mark_held(sort_block(block, spare, size), size, b, nb, held);
-    for (Integer i = 0; i < size; ++i) {
-      if (held[i] == wanted) chosen[count++] = a[start + i];
-    }
-  }
-  return count;
+  Placed block_a[block];
+  Key block_b[block];
+  bool held[block];
+  const Workspace blocks = {block_a, nullptr, block_b, nullptr, held, block, block};
+  return blocks.choose(wanted, a, na, b, nb, chosen);
 }
 
 }  // namespace

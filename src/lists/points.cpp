@@ -1,0 +1,106 @@
+#include "lists/points.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "lists/candidates.h"
+#include "lists/matching.h"
+
+namespace trelvin {
+namespace {
+
+Point3 point_at(RealList list, Integer i) { return {list.values[i], 0, 0}; }
+Point3 point_at(const PointList &list, Integer i) { return {list.x[i], list.y[i], list.z[i]}; }
+
+// Lists, one after the other.
+template <class List, int count>
+struct Chain {
+  List lists[count];
+  Integer starts[count + 1];
+
+  [[nodiscard]] int list_of(Integer i) const {
+    int list = 0;
+    while (list + 1 < count && i >= starts[list + 1]) ++list;
+    return list;
+  }
+  [[nodiscard]] Range range(int list) const {
+    return {starts[list], starts[list + 1] - starts[list]};
+  }
+  [[nodiscard]] Integer size() const { return starts[count]; }
+  Point3 operator()(Integer i) const {
+    const int list = list_of(i);
+    return point_at(lists[list], i - starts[list]);
+  }
+};
+
+template <class List>
+Chain<List, 2> chain(const List &a, const List &b) {
+  const Integer na = std::max(a.n, 0);
+  return {{a, b}, {0, na, na + std::max(b.n, 0)}};
+}
+
+template <class List, class Match>
+Partners pair_up(const List &a, const List &b, Real tol, Match match, Integer *ia, Integer *ib) {
+  const Chain<List, 2> all = chain(a, b);
+  const Range first = all.range(0);
+  const Range second = all.range(1);
+  const Candidates<Chain<List, 2>> candidates(all.size(), tol, all, std::min(first.n, second.n));
+  const auto paired = [&](Integer i) {
+    return first.holds(i) ? std::optional(second) : std::nullopt;
+  };
+  const auto around = surroundings(candidates, all.size(), match, paired);
+  return pair_up(first, second, all, candidates, around.get(), match, ia, ib);
+}
+
+}  // namespace
+
+Partners pair_up(RealList a, RealList b, Real tol, Integer *ia, Integer *ib) {
+  const auto match = [=](Point3 p, Point3 q) { return std::fabs(p.x - q.x) <= tol; };
+  return pair_up(a, b, tol, match, ia, ib);
+}
+
+Partners pair_up(const PointList &a, const PointList &b, Real tol, Integer *ia, Integer *ib) {
+  const auto match = [=](Point3 p, Point3 q) { return agree(p, q, tol); };
+  return pair_up(a, b, tol, match, ia, ib);
+}
+
+Integer join_new(RealList a, RealList b, Real tol, Real *joined, Integer *positions_of_b) {
+  const Chain<RealList, 2> all = chain(a, b);
+  const Integer na = all.range(0).n;
+  Real *end = std::copy_n(a.values, na, joined);
+  const auto match = [=](Point3 p, Point3 q) { return agree(p.x, q.x, tol); };
+  const auto make = [&](Integer i) { *end++ = all(i).x; };
+  const auto place = [&](Integer i) -> Integer & { return positions_of_b[i - na]; };
+  const Candidates<Chain<RealList, 2>> candidates(all.size(), tol, all, all.range(1).n);
+  const auto paired = [&](Integer i) { return i < na ? std::nullopt : std::optional(Range{0, 0}); };
+  const auto around = surroundings(candidates, all.size(), match, paired);
+  return put_to_places(na, all.size(), all, candidates, around.get(), match, make, place);
+}
+
+MergedCounts merge_points(const PointList (&lists)[3], Real tol, const MergedPoints &merged) {
+  Chain<PointList, 3> all = {{lists[0], lists[1], lists[2]}, {}};
+  for (int k = 0; k < 3; ++k) all.starts[k + 1] = all.starts[k] + std::max(lists[k].n, 0);
+  const auto match = [=](Point3 p, Point3 q) { return agree(p, q, tol); };
+  const Candidates<Chain<PointList, 3>> candidates(all.size(), tol, all, all.size());
+  const auto around = surroundings(candidates, all.size(), match, [&](Integer i) {
+    return std::optional(all.range((all.list_of(i) + 1) % 3));
+  });
+
+  MergedCounts counts = {};
+  for (int k = 0; k < 3; ++k) {
+    counts.pairs[k] = pair_up(all.range(k), all.range((k + 1) % 3), all, candidates, around.get(),
+                              match, merged.first_of_pair[k], merged.second_of_pair[k])
+                          .pairs;
+  }
+  const auto place = [&](Integer i) -> Integer & {
+    const int list = all.list_of(i);
+    return merged.place_of[list][i - all.starts[list]];
+  };
+  Integer made = 0;
+  const auto make = [&](Integer i) { merged.places.set(made++, all(i)); };
+  counts.places = put_to_places(0, all.size(), all, candidates, around.get(), match, make, place);
+  return counts;
+}
+
+}  // namespace trelvin

@@ -1,0 +1,48 @@
+// Matching and merging of lists of numbers or points by their agreement.
+#pragma once
+
+#include "vectors/vectors.h"
+
+namespace trelvin {
+
+struct RealList {
+  const Real *values;
+  Integer n;  // less than 0 is 0
+};
+
+struct PointList {
+  const Real *x, *y, *z;
+  Integer n;  // less than 0 is 0
+};
+
+struct Partners {
+  Integer pairs;
+  Integer partnered;  // entries of the first list in a pair
+};
+
+// Pairs of entries by position in `a`, then in `b`, from 1. Numbers make a pair when their difference
+// is at most the tolerance, so that equal infinities, which have none, do not; points when they agree.
+Partners pair_up(RealList a, RealList b, Real tol, Integer *ia, Integer *ib);
+Partners pair_up(const PointList &a, const PointList &b, Real tol, Integer *ia, Integer *ib);
+
+// Writes `a`, then the entries of `b` that agree with none before them, and for each entry of `b` the
+// first position, from 1, that it agrees with. Returns the number of entries.
+Integer join_new(RealList a, RealList b, Real tol, Real *joined, Integer *positions_of_b);
+
+// Three lists of points, merged: pairs of the first and second, second and third, third and first,
+// and the place of each point, from 1.
+struct MergedPoints {
+  Integer *first_of_pair[3], *second_of_pair[3];
+  SpaceArrays places;
+  Integer *place_of[3];
+};
+
+struct MergedCounts {
+  Integer pairs[3];
+  Integer places;
+};
+
+// A point is at the first place that it agrees with, else it makes a new one.
+MergedCounts merge_points(const PointList (&lists)[3], Real tol, const MergedPoints &merged);
+
+}  // namespace trelvin
