@@ -91,7 +91,7 @@ class Candidates {
     double squares = 0;
     for (Integer i = 0, start = 0; i < n_; ++i) {
       if (key_of(words[i]) != key_of(words[start])) start = i;
-      squares += 2 * (i - start) + 1;
+      squares += 2.0 * (i - start) + 1;
     }
     return squares / n_;
   }

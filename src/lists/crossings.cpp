@@ -79,13 +79,15 @@ struct Segment {
     return Place{run.start.x, run.start.y, run.from};
   }
 
-  // Where it meets an edge from a to b that crosses its line. The sides of its ends decide: the place
-  // is rounded, and off the segment now and then where an end is on the edge.
+  // Where it meets an edge from a to b that crosses its line. The sides of its ends decide, since the
+  // place is rounded, and may be off the segment where an end is next to the edge.
   [[nodiscard]] std::optional<Place> meet(Point2 a, Point2 b) const {
     const WideVector edge = wide_difference(b, a);
     const double side1 = cross(edge, wide_difference(p1, a));
     const double side2 = cross(edge, wide_difference(p2, a));
-    if (!((side1 <= 0 && side2 >= 0) || (side1 >= 0 && side2 <= 0))) return std::nullopt;
+    if (side1 == 0) return Place{p1.x, p1.y, 0};
+    if (side2 == 0) return Place{p2.x, p2.y, 1};
+    if (!((side1 < 0 && side2 > 0) || (side1 > 0 && side2 < 0))) return std::nullopt;
     const double share = side(a) / (side(a) - side(b));
     const double x = a.x + share * edge.x;
     const double y = a.y + share * edge.y;

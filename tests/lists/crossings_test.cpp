@@ -24,6 +24,7 @@ Crossings cross(const Outline &o, float x1, float y1, float x2, float y2) {
   std::int32_t count = unwritten_int;
   std::int32_t status = unwritten_int;
   trvpin(o.x.data(), o.y.data(), o.n(), x1, y1, x2, y2, count, x, y, t, edge, status);
+  EXPECT_GE(count, 0);
   return {{x, x + count}, {y, y + count}, {t, t + count}, {edge, edge + count}, status};
 }
 
@@ -37,6 +38,8 @@ std::vector<float> cross(const Outline &o, float y0) {
 using Reals = std::vector<float>;
 using Integers = std::vector<std::int32_t>;
 
+const Outline triangle = {{1, 7, 4}, {2, 4, 8}};
+
 // A W: two peaks at y = 4, a valley at (4, 1).
 const Outline w = {{0, 8, 7, 4, 1}, {0, 0, 4, 1, 4}};
 
@@ -48,11 +51,21 @@ TEST(Crossings, HorizontalLinesBoundTheInside) {
   EXPECT_EQ(cross(w, 1), (Reals{0.25F, 4, 4, 7.75F}));
   EXPECT_EQ(cross(w, 4), Reals{});  // the upper ends do not
   EXPECT_EQ(cross({{0, 1}, {0, 1}}, 0.5F), Reals{});
+  EXPECT_EQ(cross(triangle, 2), (Reals{1, 1}));  // on the first vertex
+  EXPECT_EQ(cross(triangle, 4), (Reals{2, 7}));
+}
+
+TEST(Crossings, ThoseOfNoPlaceComeLast) {
+  const std::vector<float> found = cross({{0, infinity, 5, 9}, {0, 4, 0, 4}}, 2);
+  ASSERT_EQ(found.size(), 4U);
+  EXPECT_TRUE(found[0] == 4.5F && found[1] == 7);
+  EXPECT_FALSE(found[2] < found[1] || found[3] < found[2]);
 }
 
 TEST(Crossings, SegmentsMeetEachPassageOnce) {
   const Crossings level = cross(w, 9, 2, -1, 2);
   EXPECT_EQ(level.x, (Reals{7.5F, 5, 3, 0.5F}));
+  EXPECT_EQ(level.y, (Reals{2, 2, 2, 2}));
   EXPECT_EQ(level.t, (Reals{0.15F, 0.4F, 0.6F, 0.85F}));
   EXPECT_EQ(level.edge, (Integers{2, 3, 4, 5}));
   EXPECT_EQ(level.status, 0);
@@ -64,8 +77,68 @@ TEST(Crossings, SegmentsMeetEachPassageOnce) {
   EXPECT_EQ(cross(w, -1, 4, 9, 4).x, Reals{});                // touches both peaks
   EXPECT_EQ(cross(w, 4, 0.5F, 4, 9).x.size(), 1U);            // passes through the valley's vertex
   EXPECT_EQ(cross(w, -1, 0, 9, 0).x, Reals{});                // runs along an edge
-  EXPECT_EQ(cross(w, 3, 3, 3.000005F, 3).status, -1);
-  EXPECT_EQ(cross({{0, 1}, {0, 1}}, 0, 0, 5, 5).status, -1);
+}
+
+TEST(Crossings, OfATriangleAndOfItsFirstVertex) {
+  const Crossings steep = cross(triangle, 4, 0, 4, 10);
+  EXPECT_EQ(steep.y, (Reals{3, 8}));
+  EXPECT_EQ(steep.edge, (Integers{1, 3}));
+  const Crossings corner =
+      cross(triangle, 0, 1, 5, 6);  // y = x + 1 passes through the first vertex
+  EXPECT_EQ(corner.x, Reals{1});
+  EXPECT_EQ(corner.y, Reals{2});
+  EXPECT_EQ(corner.edge, Integers{1});
+  EXPECT_EQ(corner.t, Reals{0.2F});
+}
+
+TEST(Crossings, SegmentsThatAreNoneAreRefused) {
+  for (const Crossings &refused :
+       {cross(w, 3, 3, 3.000005F, 3), cross({{0, 1}, {0, 1}}, 0, 0, 5, 5)}) {
+    EXPECT_EQ(refused.status, -1);
+    EXPECT_TRUE(refused.x.empty());
+  }
+  EXPECT_EQ(cross(w, 1, 2, 1.00002F, 2).status, 1);
+}
+
+// To every whole point on the sides of a square from every one around and in it, and back.
+TEST(Crossings, SegmentsThatEndOnASideCrossItOnce) {
+  const Outline square = {{-3, 4, 4, -3}, {-2, -2, 5, 5}};
+  for (int i = 0; i < 64 * 400; ++i) {
+    const int px = i % 8 - 3, py = i / 8 % 8 - 2, qx = i / 64 % 20 - 9, qy = i / 1280 - 8;
+    const bool on_upright = (px == -3 || px == 4) && py > -2 && py < 5;
+    const bool on_level = (py == -2 || py == 5) && px > -3 && px < 4;
+    // What lies beyond a corner, seen from the side, crosses twice.
+    const bool inside = qx > -3 && qx < 4 && qy > -2 && qy < 5;
+    const bool outside = on_upright ? (px < 0 ? qx < px : qx > px) : (py < 0 ? qy < py : qy > py);
+    if (!(on_upright || on_level) || !(inside || outside)) continue;
+    const auto x1 = static_cast<float>(px), y1 = static_cast<float>(py);
+    const auto x2 = static_cast<float>(qx), y2 = static_cast<float>(qy);
+    const Crossings to = cross(square, x2, y2, x1, y1), from = cross(square, x1, y1, x2, y2);
+    ASSERT_TRUE(to.t == Reals{1} && to.x == Reals{x1} && to.y == Reals{y1}) << i;
+    ASSERT_TRUE(from.t == Reals{0} && from.x == Reals{x1} && from.y == Reals{y1}) << i;
+  }
+  const Outline tall = {{-894, 411, 411, -894}, {-836, -836, 634, 634}};
+  EXPECT_EQ(cross(tall, -920, -99, -894, -360).edge, Integers{4});
+}
+
+TEST(Crossings, OnTheOutlineThePointNextToTheRightIsInside) {
+  const Outline square = {{-3, 4, 4, -3}, {-2, -2, 5, 5}};
+  EXPECT_EQ(cross(square, -3, 1, 9, 1).status, 1);
+  EXPECT_EQ(cross(square, 4, 1, 9, 1).status, 0);
+  EXPECT_EQ(cross(square, 1, -2, 9, 1).status, 1);
+  EXPECT_EQ(cross(square, 1, 5, 9, 1).status, 0);
+}
+
+TEST(Crossings, ARunAlongTheSegmentCrossesWhereItIsFirstMet) {
+  // Up through y = 0 by way of the stretch from x = 3 to x = 6, down at x = 9.
+  const Outline step = {{3, 3, 6, 6, 9, 9}, {-4, 0, 0, 3, 3, -4}};
+  const Outline back = {{9, 9, 6, 6, 3, 3}, {-4, 3, 3, 0, 0, -4}};
+  for (const Outline &outline : {step, back}) {
+    EXPECT_EQ(cross(outline, 0, 0, 10, 0).x, (Reals{3, 9}));
+    EXPECT_EQ(cross(outline, 10, 0, 0, 0).x, (Reals{9, 6}));
+    EXPECT_EQ(cross(outline, 4, 0, 14, 0).x, (Reals{4, 9}));
+    EXPECT_EQ(cross(outline, 7, 0, 8, 0).x, Reals{});
+  }
 }
 
 TEST(Crossings, PassagesAlternateBetweenInsideAndOutside) {

@@ -1,10 +1,7 @@
-#ifdef __linux__
-#include <sys/resource.h>
-#endif
-
 #include <array>
+#include <numeric>
 
-#include "support.h"
+#include "lists/odd_lists.h"
 #include "trelvin/lists.h"
 
 using namespace trelvin_test;
@@ -19,21 +16,46 @@ namespace {
 
 constexpr std::int32_t u = unwritten_int;
 
-Values order(const std::vector<float> &list) {
-  std::vector<std::int32_t> positions(list.size(), u);
-  trvordi(list.data(), static_cast<std::int32_t>(list.size()), positions.data());
-  return Values(positions.begin(), positions.end());
+Integers order(const Reals &list) {
+  Integers positions(list.size(), u);
+  trvordi(list.data(), size_of(list), positions.data());
+  return positions;
 }
 
 // The order, then the status.
-Values order_lines(const std::vector<std::array<float, 3>> &lines) {
-  const auto n = static_cast<std::int32_t>(lines.size());
+Integers order_lines(const std::vector<std::array<float, 3>> &lines) {
   float coefficients[3][4];
   for (std::size_t i = 0; i < lines.size(); ++i)
     for (std::size_t j = 0; j < 3; ++j) coefficients[j][i] = lines[i][j];
-  std::vector<std::int32_t> result(lines.size() + 1, u);
-  trvpor(n, coefficients[0], coefficients[1], coefficients[2], result.data(), result.back());
-  return Values(result.begin(), result.end());
+  Integers result(lines.size() + 1, u);
+  trvpor(size_of(lines), coefficients[0], coefficients[1], coefficients[2], result.data(),
+         result.back());
+  return result;
+}
+
+void select_plainly(Reals &v) {
+  for (std::size_t i = 0; i < v.size(); ++i) {
+    std::size_t place = i;
+    for (std::size_t j = i + 1; j < v.size(); ++j)
+      if (v[place] >= v[j]) place = j;
+    std::swap(v[i], v[place]);
+  }
+}
+
+Integers order_plainly(Reals w) {
+  Integers positions(w.size(), u);
+  float done = w.empty() ? 0 : w[0];
+  for (const float entry : w) done = entry > done ? entry : done;
+  done += 1;
+  for (std::size_t k = 0; k < w.size(); ++k) {
+    std::size_t place = k;
+    for (std::size_t j = 0; j < w.size(); ++j)
+      if (w[j] < w[place] || (w[j] == w[place] && j > place)) place = j;
+    if (std::isnan(w[k])) continue;
+    positions[k] = static_cast<std::int32_t>(place + 1);
+    w[place] = done;
+  }
+  return positions;
 }
 
 }  // namespace
@@ -47,79 +69,101 @@ TEST(Ordering, SortsInPlace) {
   }
   EXPECT_EQ(Values(reals, reals + 6), (Values{-1, -1, 2, 3, infinity, -7}));
   EXPECT_EQ(Values(integers, integers + 6), (Values{INT32_MIN, -1, 2, 3, INT32_MAX, -7}));
-  // The last of equal entries is taken; no NaN moves.
-  float list[] = {not_a_number, 0.0F, not_a_number, -0.0F, -1};
-  trvord(list, 5);
-  EXPECT_TRUE(std::isnan(list[0]) && std::isnan(list[2]) && list[1] == -1);
-  EXPECT_TRUE(!std::signbit(list[3]) && std::signbit(list[4]));
+}
+
+TEST(Ordering, TheCountMayBeAnEntry) {
+  Integers list(40);
+  std::iota(list.rbegin(), list.rend(), 1);  // 40 ... 1
+  trvord1(list.data(), list[0]);
+  EXPECT_TRUE(std::is_sorted(list.begin(), list.end()));
+}
+
+TEST(Ordering, OddListsAreSortedAsBySelection) {
+  OddLists lists;
+  for (int trial = 0; trial < 20000; ++trial) {
+    Reals sorted = lists.reals();
+    Reals plain = sorted;
+    select_plainly(plain);
+    trvord(sorted.data(), size_of(sorted));
+    ASSERT_TRUE(same_bits(sorted, plain)) << trial;
+  }
+}
+
+TEST(Ordering, OddListsAreOrderedByRounds) {
+  OddLists lists;
+  for (int trial = 0; trial < 20000; ++trial) {
+    const Reals list = lists.reals();
+    ASSERT_EQ(order(list), order_plainly(list)) << trial;
+  }
 }
 
 TEST(Ordering, Positions) {
-  EXPECT_EQ(order({5, 3, 3}), (Values{3, 2, 1}));
-  EXPECT_EQ(order({2, -1, 4, 3, -1}), (Values{5, 2, 1, 4, 3}));
-  EXPECT_EQ(order({-3, -5}), (Values{2, 1}));
-  EXPECT_EQ(order({1, not_a_number, 0}), (Values{3, u, 1}));
+  EXPECT_EQ(order({2, -1, 4, 3, -1}), (Integers{5, 2, 1, 4, 3}));
+  EXPECT_EQ(order({1, not_a_number, 0}), (Integers{3, u, 1}));
   // The mark of a found entry is the largest plus 1, where that is a number of its own.
-  EXPECT_EQ(order({16777215, 1, 2}), (Values{2, 3, 1}));
-  EXPECT_EQ(order({16777216, 1, 2}), (Values{2, 3, 3}));
+  EXPECT_EQ(order({16777215, 1, 2}), (Integers{2, 3, 1}));
+  EXPECT_EQ(order({16777216, 1, 2}), (Integers{2, 3, 3}));
 }
 
 TEST(Ordering, ParallelLinesByTheirCrossingOfAnAxis) {
-  EXPECT_EQ(order_lines({{0, 1, -3}, {0, -2, -2}, {0, 1, -2}}), (Values{2, 3, 1, 0}));
-  EXPECT_EQ(order_lines({{1, 0, -2}, {-3, 0, 3}}), (Values{2, 1, 0}));
-  EXPECT_EQ(order_lines({{1, 1, -1}, {1, 1, -2}, {1, 1, -2}}), (Values{1, 3, 2, 0}));
-  EXPECT_EQ(order_lines({{2, 3, 4}}), (Values{1, 0}));
+  EXPECT_EQ(order_lines({{0, 1, -3}, {0, -2, -2}, {0, 1, -2}}), (Integers{2, 3, 1, 0}));
+  EXPECT_EQ(order_lines({{1, 0, -2}, {-3, 0, 3}}), (Integers{2, 1, 0}));
+  EXPECT_EQ(order_lines({{1, 2, -1}, {1, 2, -2}, {1, 2, -2}}), (Integers{1, 3, 2, 0}));
+  EXPECT_EQ(order_lines({{2, 3, 4}}), (Integers{1, 0}));
   // A first line on the y axis does not cross it, nor does its parallel: NaN and infinity.
-  EXPECT_EQ(order_lines({{1, 0, -beyond}, {1, 0, -1}}), (Values{1, 2, 0}));
-  EXPECT_EQ(order_lines({{1, 0, 0}, {1, 0, -1}}), (Values{u, 2, 0}));
-  EXPECT_EQ(order_lines({{1, 1, 0}, {1, -1, 0}}), (Values{1, 2, -1}));
-  EXPECT_EQ(order_lines({{1, 1, 0}, {1, 1, -9}, {2, 2, 0}}), (Values{1, 2, 3, -1}));
+  EXPECT_EQ(order_lines({{1, 0, -beyond}, {1, 0, -1}}), (Integers{1, 2, 0}));
+  EXPECT_EQ(order_lines({{1, 0, 0}, {1, 0, -1}}), (Integers{u, 2, 0}));
+  EXPECT_EQ(order_lines({{1, 2, 0}, {1, -3, 0}}), (Integers{1, 2, -1}));
+  EXPECT_EQ(order_lines({{1, 2, 0}, {1, 2, -9}, {2, 4, 0}}), (Integers{1, 2, 3, -1}));
   std::int32_t position = u, status = u;
   trvpor(0, nullptr, nullptr, nullptr, &position, status);
   EXPECT_TRUE(position == u && status == -1);
 }
 
-TEST(Ordering, WithoutMemoryThereIsNoOrder) {
-  const std::int32_t n = 100000, too_many = 1073741825;  // four bytes each make 2^32 + 4
-  const std::vector<float> zeros(n, 0.0F), ones(n, 1.0F);
-  std::vector<float> constants(n, 2.0F);
-  constants[0] = 1;
-  std::vector<std::int32_t> positions(n, u);
 #ifdef __linux__
-  rlimit before;
-  getrlimit(RLIMIT_AS, &before);
-  const rlimit nothing_more = {0, before.rlim_max};
-  setrlimit(RLIMIT_AS, &nothing_more);
+TEST(Ordering, WithoutMemoryListsAreSortedAndThereIsNoOrder) {
+  constexpr std::int32_t n = 100000;
+  Reals reals(n), constants(n);
+  for (std::int32_t i = 0; i < n; ++i) {
+    reals[static_cast<std::size_t>(i)] = static_cast<float>(i * 7919 % n);
+    constants[static_cast<std::size_t>(i)] = static_cast<float>(i + 1);
+  }
+  Integers integers(reals.begin(), reals.end()), positions(n, u);
+  const Reals zeros(n, 0), ones(n, 1);
   std::int32_t status = u;
-  trvpor(n, zeros.data(), ones.data(), constants.data(), positions.data(), status);
-#endif
-  trvordi(constants.data(), too_many, positions.data());
-#ifdef __linux__
-  setrlimit(RLIMIT_AS, &before);
-  EXPECT_EQ(status, 0);
-#endif
+  without_memory([&] {
+    trvord(reals.data(), n);
+    trvord1(integers.data(), n);
+    trvordi(constants.data(), n, positions.data());
+    trvpor(n, zeros.data(), ones.data(), constants.data(), positions.data(), status);
+  });
+  EXPECT_TRUE(std::is_sorted(reals.begin(), reals.end()));
+  EXPECT_TRUE(std::is_sorted(integers.begin(), integers.end()));
   EXPECT_EQ(std::count(positions.begin(), positions.end(), u), n);
+  EXPECT_EQ(status, 0);
 }
+#endif
 
 TEST(Ordering, CornersOfAQuadrilateral) {
-  struct Case {
-    float x[4], y[4];
-    Values order;
-  };
-  const Case cases[] = {{{0, 1, 1, 0}, {0, 0, 1, 1}, {1, 2, 3, 4}},
-                        {{0, 1, 0, 1}, {0, 0, 1, 1}, {1, 2, 4, 3}},
-                        {{0, 1, 1, 0}, {0, 1, 0, 1}, {1, 4, 2, 3}},
-                        {{0, 1, 2, 3}, {0, 0, 0, 5}, {1, 2, 3, 4}}};  // a degenerate triangle
-  for (Case c : cases) {
-    const Case before = c;
-    std::int32_t positions[] = {u, u, u, u};
-    float z[] = {0, 0, 0, 0};
-    for (int i = 0; i < 4; ++i) z[i] = c.x[i] + 2 * c.y[i];
-    trvorv(c.x, c.y, z, positions);
-    EXPECT_EQ(Values(positions, positions + 4), c.order);
-    for (int i = 0; i < 4; ++i) {
-      const int k = positions[i] - 1;
-      EXPECT_TRUE(c.x[i] == before.x[k] && c.y[i] == before.y[k] && z[i] == c.x[i] + 2 * c.y[i]);
+  // In the vertical plane y = 2*x + 3: seen from above they are on one line.
+  const float corners[4][3] = {{1, 5, 10}, {4, 11, 12}, {6, 15, 19}, {2, 7, 16}};
+  const Integers orders[] = {{1, 2, 3, 4}, {1, 2, 4, 3}, {1, 3, 4, 2}};
+  const Integers expected[] = {{1, 2, 3, 4}, {1, 2, 4, 3}, {1, 4, 2, 3}};
+  for (int c = 0; c < 3; ++c) {
+    float x[4], y[4], z[4];
+    for (std::size_t k = 0; k < 4; ++k) {
+      const float *corner = corners[orders[c][k] - 1];
+      x[k] = corner[0], y[k] = corner[1], z[k] = corner[2];
+    }
+    Integers positions(4, u);
+    trvorv(x, y, z, positions.data());
+    EXPECT_EQ(positions, expected[c]);
+    for (int k = 0; k < 4; ++k) {
+      EXPECT_TRUE(x[k] == corners[k][0] && y[k] == corners[k][1] && z[k] == corners[k][2]);
     }
   }
+  float x[] = {0, 1, 2, 3}, y[] = {0, 0, 0, 5}, z[] = {7, 7, 7, 7};  // a degenerate triangle
+  Integers positions(4, u);
+  trvorv(x, y, z, positions.data());
+  EXPECT_EQ(positions, (Integers{1, 2, 3, 4}));
 }
