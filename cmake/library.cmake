@@ -60,7 +60,8 @@ if(WIN32)
 
   # The linker's own import library names each routine as the export table does; compilers ask for
   # the decorated name without its underscore, so the library is made from those names instead.
-  # Its members are named after a prefix, which is drawn at random unless it is given.
+  # Its members are named after a prefix, which is drawn at random unless it is given, and its
+  # symbols after the path it is written to.
   file(STRINGS src/entries/Trelvin.def decorated REGEX "\"_trv")
   list(TRANSFORM decorated REPLACE ".*\"_(trv[^\"]*)\".*" "  \\1")
   list(JOIN decorated "\n" decorated)
@@ -68,9 +69,10 @@ if(WIN32)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/entries/Trelvin.def)
   add_custom_command(
     TARGET trelvin POST_BUILD VERBATIM
+    WORKING_DIRECTORY $<TARGET_LINKER_FILE_DIR:trelvin>
     COMMAND ${CMAKE_DLLTOOL} --kill-at --deterministic-libraries --temp-prefix trelvin
             --input-def ${CMAKE_CURRENT_BINARY_DIR}/import.def
-            --output-lib $<TARGET_LINKER_FILE:trelvin>)
+            --output-lib $<TARGET_LINKER_FILE_NAME:trelvin>)
 else()
   # Of the C++ run-time only what is called would be asked for, and nothing is. Addresses are bound
   # at loading and read-only from then on.
