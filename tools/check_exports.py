@@ -30,8 +30,14 @@ SHARED_LIBRARY = headers.ROOT / "build/native/lib/libtrelvin.so"
 LARGEST_DLL = 200 * 1024
 MEMORY = {"calloc", "free", "malloc", "memcpy", "memmove", "memset"}
 ALLOWED_IMPORTS = {
-    "KERNEL32.dll": {"CloseHandle", "CreateFileA", "CreateFileW", "DisableThreadLibraryCalls",
-                     "SetFilePointer", "WriteFile"},
+    "KERNEL32.dll": {
+        "CloseHandle",
+        "CreateFileA",
+        "CreateFileW",
+        "DisableThreadLibraryCalls",
+        "SetFilePointer",
+        "WriteFile",
+    },
     "msvcrt.dll": MEMORY | {"_errno"},  # the mathematics library's square root asks for it
 }
 BIND_NOW = 8  # of DT_FLAGS
@@ -156,8 +162,10 @@ def main():
         print(f"{'moving: ' if moving and passes else ''}{fault}", file=sys.stderr)
     tolerated = sum(moving and passes for _, passes in faults)
     names = len(entries.committed_ordinals())
-    print(f"{len(routines)} routines, {names} names in Trelvin.dll, {len(faults)} faults, "
-          f"{tolerated} of them tolerated")
+    print(
+        f"{len(routines)} routines, {names} names in Trelvin.dll, {len(faults)} faults, "
+        f"{tolerated} of them tolerated"
+    )
     return 1 if len(faults) > tolerated else 0
 
 

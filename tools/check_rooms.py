@@ -24,7 +24,7 @@ HOST = re.compile(r"\bTrv[A-Z]\w*|\bTRELVIN_\w+")
 
 
 def faults_of(file, text):
-    """What is wrong with one file, given as (room, name), and whether it passes while rooms move."""
+    """What is wrong with a file, given as (room, name), and whether it passes while rooms move."""
     room, name = file
     where = f"src/{room}/{name}"
     if room not in FLOOR:
@@ -49,11 +49,15 @@ def main():
     faults = []
     files = [file for file in sorted((ROOT / "src").rglob("*")) if file.suffix in (".h", ".cpp")]
     for file in files:
-        faults += faults_of((file.parent.relative_to(ROOT / "src").as_posix(), file.name), file.read_text())
+        faults += faults_of(
+            (file.parent.relative_to(ROOT / "src").as_posix(), file.name), file.read_text()
+        )
     for fault, passes in faults:
         print(f"{'moving: ' if moving and passes else ''}{fault}", file=sys.stderr)
     failed = [fault for fault, passes in faults if not (moving and passes)]
-    print(f"{len(files)} files, {len(faults)} faults, {len(faults) - len(failed)} of them tolerated")
+    print(
+        f"{len(files)} files, {len(faults)} faults, {len(faults) - len(failed)} of them tolerated"
+    )
     return 1 if failed else 0
 
 

@@ -34,7 +34,9 @@ def size_of(text, counts):
     for name in filter(None, (used, kind)):
         if name not in counts:
             raise Unreadable(f"{name} is no Integer argument")
-    return Size([_Expression(size, counts).translate() for size in elements], used or "", kind or "")
+    return Size(
+        [_Expression(size, counts).translate() for size in elements], used or "", kind or ""
+    )
 
 
 class _Expression:
@@ -91,7 +93,8 @@ class _Expression:
 
 NUMBER = r"-?\d+"
 ITEM = re.compile(
-    rf"(?:always )?(?:({NUMBER}) to ({NUMBER})|({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?))(?=[\s,:]|$)"
+    rf"(?:always )?(?:({NUMBER}) to ({NUMBER})|({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?))"
+    rf"(?=[\s,:]|$)"
     rf"|\w+ > ({NUMBER})\b|(unwritten)\b"
 )
 

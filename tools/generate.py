@@ -28,8 +28,8 @@ def export_table(families):
 
 
 ROUTINES_HEAD = """\
-// Generated from include/trelvin by tools/generate.py, in the order of tests/hosts/digest.txt, whose
-// sequences belong to the places. An including file defines the macros it wants:
+// Generated from include/trelvin by tools/generate.py, in the order of tests/hosts/digest.txt: each
+// sequence of calls belongs to its place. An including file defines the macros it wants:
 //
 // ROUTINE(name, number of arguments, their names)
 // SIZE(name, argument, elements)         of an array, from the single Integers: count(argument)
@@ -37,8 +37,13 @@ ROUTINES_HEAD = """\
 // STATUS(name, argument, open, values)   that an Integer output may have; open: larger ones too
 // UNSHARED(name)                         outputs may not share the address of an input
 """
-MACROS = ["ROUTINE(name, count, names)", "SIZE(name, argument, elements)",
-          "LEAST(name, argument, value)", "STATUS(name, argument, open, ...)", "UNSHARED(name)"]
+MACROS = [
+    "ROUTINE(name, count, names)",
+    "SIZE(name, argument, elements)",
+    "LEAST(name, argument, value)",
+    "STATUS(name, argument, open, ...)",
+    "UNSHARED(name)",
+]
 
 
 def routine_list(families):
@@ -70,8 +75,8 @@ def _facts(routine):
                 elements = size.elements[0]
                 if size.kind:
                     kind = routine.counts()[size.kind]
-                    elements = f"by_kind(kind({kind}), {{{', '.join(size.elements)}}})"
-                yield f"SIZE({routine.name}, {i}, ({elements}))"
+                    elements = f"by_kind(kind({kind}), {', '.join(size.elements)})"
+                yield f"SIZE({routine.name}, {i}, {elements})"
             elif contracts.names_values(argument):
                 values = contracts.values_of(argument.text)
                 named = ", ".join(str(value) for value in values.named)
@@ -92,8 +97,8 @@ def index(families):
         "",
         "<!-- Generated from include/trelvin by tools/generate.py. -->",
         "",
-        f"The {count} routines by family, in the order of the headers, where each has its contract.",
-        "Every routine takes the address of each argument and returns nothing.",
+        f"The {count} routines by family, in the order of the headers, where each has its",
+        "contract. Every routine takes the address of each argument and returns nothing.",
     ]
     for family in families:
         lines += ["", f"## {family.title}", "", f"[{family.header}](../{family.header})", ""]
@@ -144,7 +149,8 @@ def main():
     families = headers.read_all()
     routines = headers.routines_of(families)
     faults = [(fault, False) for fault in headers.faults(families)]
-    faults += [(fault, False) for fault in entries.export_faults(routines, entries.committed_ordinals())]
+    committed = entries.committed_ordinals()
+    faults += [(fault, False) for fault in entries.export_faults(routines, committed)]
     faults += [(fault, True) for fault in headers.inexact(families)]
     faults += entries.body_faults(families)
     faults += [(fault, False) for fault in outdated(families, check)]

@@ -157,7 +157,8 @@ def main():
     count = len(results)
     for name, found in (("tests", [r[0] for r in results]), ("digest", [r[1] for r in results]),
                         ("either", [any(r) for r in results])):  # fmt: skip
-        print(f"{name}: {sum(found)} of {count} faults found, {100 * sum(found) / max(count, 1):.1f} %")
+        share = 100 * sum(found) / max(count, 1)
+        print(f"{name}: {sum(found)} of {count} faults found, {share:.1f} %")
 
 
 if __name__ == "__main__":

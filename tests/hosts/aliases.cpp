@@ -16,7 +16,6 @@
 namespace {
 
 using random_calls::Addresses;
-using random_calls::Argument;
 using random_calls::Arguments;
 using random_calls::Routine;
 

@@ -70,7 +70,7 @@ Holdings holdings() {
 #endif
 
 bool cycle(const char *name) {
-  const Library library = load(name);
+  auto *const library = load(name);
   if (library == nullptr) return false;
   const auto classify = find<decltype(trvcin)>(library, "trvcin");  // opens a file
   const auto order = find<decltype(trvordi)>(library, "trvordi");   // needs memory

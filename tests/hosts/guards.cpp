@@ -58,10 +58,8 @@ bool has_stated_sizes(const Routine &routine) {
 }
 
 bool has_arrays(const Routine &routine) {
-  for (const Argument &argument : routine.arguments) {
-    if (!argument.single) return true;
-  }
-  return false;
+  return !std::all_of(routine.arguments.begin(), routine.arguments.end(),
+                      [](const Argument &argument) { return argument.single; });
 }
 
 // The elements that the call needs, at one end of the guarded memory.

@@ -70,26 +70,28 @@ Routine routine_of(const char *name, void(TRELVIN_CALL *routine)(Types...),
   return result;
 }
 
-// The words that sizes are made of.
+// The words that sizes are made of. A negative count counts as none.
+using Elements = std::int64_t;
+
 struct Counts {
   Arguments &arguments;
 
-  [[nodiscard]] std::size_t count(std::size_t i) const {
-    return static_cast<std::size_t>(std::max(kind(i), 0));
-  }
+  [[nodiscard]] Elements count(std::size_t i) const { return std::max(kind(i), 0); }
   [[nodiscard]] std::int32_t kind(std::size_t i) const { return *arguments[i].integer_address(); }
 };
 
-[[maybe_unused]] std::size_t larger(std::size_t a, std::size_t b) { return std::max(a, b); }
+[[maybe_unused]] Elements larger(Elements a, Elements b) { return std::max(a, b); }
 
-[[maybe_unused]] std::size_t by_kind(std::int32_t kind, const std::vector<std::size_t> &sizes) {
+template <class... Sizes>
+Elements by_kind(std::int32_t kind, Sizes... of_kinds) {
+  const Elements sizes[] = {of_kinds...};
   const auto i = static_cast<std::size_t>(kind) - 1;
-  return kind >= 1 && i < sizes.size() ? sizes[i] : 0;
+  return i < sizeof...(Sizes) ? sizes[i] : 0;
 }
 
 }  // namespace
 
-std::vector<Routine> all_routines() {
+std::vector<Routine> all_routines() {  // NOLINT(readability-function-size)
   std::vector<Routine> routines;
 #define ROUTINE(name, count, names)                   \
   routines.push_back(routine_of(#name, name, names)); \
@@ -100,7 +102,7 @@ std::vector<Routine> all_routines() {
     const auto count = [&](std::size_t i) { return counts.count(i); }; \
     const auto kind = [&](std::size_t i) { return counts.kind(i); };   \
     static_cast<void>(count), static_cast<void>(kind);                 \
-    return static_cast<std::size_t> elements;                          \
+    return static_cast<std::size_t>(std::max<Elements>(elements, 0));  \
   };
 #define LEAST(name, argument, value) routines.back().least.emplace_back(argument, value);
 #define STATUS(name, argument, open, ...) \

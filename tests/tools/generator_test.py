@@ -47,7 +47,9 @@ class Headers(unittest.TestCase):
         self.assertEqual(self.routine.retains, "the last sum, shared with none.")
 
     def test_a_declaration_that_is_not_understood_is_told(self):
-        family = headers.read_family("things", "TRELVIN_ROUTINE trvodd(TrvIn (*f)(TrvIn), TrvOut y);\n")
+        family = headers.read_family(
+            "things", "TRELVIN_ROUTINE trvodd(TrvIn (*f)(TrvIn), TrvOut y);\n"
+        )
         self.assertEqual((len(family.routines), family.unread), (0, 1))
 
 
@@ -60,7 +62,9 @@ class Sizes(unittest.TestCase):
             "n+1": "count(0) + 1",
             "max(n+m,n*m)": "larger(count(0) + count(1), count(0) * count(1))",
         }.items():
-            self.assertEqual(contracts.size_of(f"array of {size}: x", self.COUNTS).elements, [expected])
+            self.assertEqual(
+                contracts.size_of(f"array of {size}: x", self.COUNTS).elements, [expected]
+            )
 
     def test_sizes_by_kind_and_used_counts(self):
         size = contracts.size_of("arrays of 1, n+1, 2 by kind: points", self.COUNTS)
@@ -68,7 +72,13 @@ class Sizes(unittest.TestCase):
         self.assertEqual(contracts.size_of("array of n, count used: x", self.COUNTS).used, "count")
 
     def test_everything_else_is_unreadable(self):
-        for text in ("points", "array of k: x", "array of n+: x", "array of n, m: x", "array of n, ascending"):
+        for text in (
+            "points",
+            "array of k: x",
+            "array of n+: x",
+            "array of n, m: x",
+            "array of n, ascending",
+        ):
             with self.assertRaises(contracts.Unreadable, msg=text):
                 contracts.size_of(text, self.COUNTS)
 
@@ -94,14 +104,17 @@ class Entries(unittest.TestCase):
     def test_ordinals_never_move(self):
         routines = headers.routines_of(headers.read_all())
         committed = entries.committed_ordinals()
-        self.assertEqual([committed[name] for name in ("trv123", "_trv123@44", "trvpds")], [1, 2, 161])
+        self.assertEqual(
+            [committed[name] for name in ("trv123", "_trv123@44", "trvpds")], [1, 2, 161]
+        )
         new = headers.Routine("trvaaa", "plane", "", [headers.Argument("x", "TrvIn")])
         grown = entries.ordinals([new] + routines, committed)
         self.assertEqual(committed, {name: grown[name] for name in committed})
         self.assertEqual([grown["trvaaa"], grown["_trvaaa@4"]], [285, 286])
 
     def test_bodies_end_where_they_end(self):
-        text = "TRELVIN_ROUTINE a(int x) { x; }\nTRELVIN_ROUTINE b(int x) {\n  if (x) {\n  }\n}\n\nvoid c() {\n}\n"
+        text = "TRELVIN_ROUTINE a(int x) { x; }\nTRELVIN_ROUTINE b(int x) {\n  if (x) {\n  }\n}\n"
+        text += "\nvoid c() {\n}\n"
         self.assertEqual([name for name, _ in entries.bodies_of(text)], ["a", "b"])
         self.assertNotIn("void", entries.bodies_of(text)[1][1])
 
