@@ -93,8 +93,8 @@ class _Expression:
 
 NUMBER = r"-?\d+"
 ITEM = re.compile(
-    rf"(?:always )?(?:({NUMBER}) to ({NUMBER})|({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?))"
-    rf"(?=[\s,:]|$)"
+    rf"(?:always )?(?:({NUMBER}) to ({NUMBER})(?=[\s,:]|$)|({NUMBER}|[a-z]\S*) to [\w*+]+"
+    rf"|({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?)(?=[\s,:]|$))"
     rf"|\w+ > ({NUMBER})\b|(unwritten)\b"
 )
 
@@ -119,9 +119,11 @@ def values_of(text):
         match = ITEM.match(item)
         if not match:
             raise Unreadable(f"`{item}` starts with no value")
-        first, last, listed, above, _ = match.groups()
+        first, last, start, listed, above, _ = match.groups()
         if first:
             values.named += range(int(first), int(last) + 1)
+        elif start:  # a position, up to a count
+            values.above = int(start) - 1 if re.fullmatch(NUMBER, start) else values.above
         elif listed:
             values.named += [int(number) for number in re.findall(NUMBER, listed)]
         elif above:

@@ -31,7 +31,7 @@
  *
  * @param[inout] x,y   arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
  *                     else, for n = 0 vertex 1 with itself
- * @param[in]    n     number of vertices; 0 gives 0; a negative n is not allowed, since element n+1
+ * @param[in]    n     number of vertices, at least 0, which gives 0: for a negative n element n+1
  *                     would be before the arrays
  * @param[out]   area  signed area, in L^2
  */
@@ -50,7 +50,7 @@ TRELVIN_ROUTINE trvapl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut area
  *
  * @param[inout] x,y  arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
  *                    else, for n = 0 vertex 1 with itself
- * @param[in]    n    number of vertices; 0 gives zeros; a negative n is not allowed, since element
+ * @param[in]    n    number of vertices, at least 0, which gives zeros: for a negative n element
  *                    n+1 would be before the arrays
  * @param[out]   sx   first moment about the x axis, the integral of y dA, in L^3
  * @param[out]   sy   first moment about the y axis, the integral of x dA, in L^3
@@ -70,7 +70,7 @@ TRELVIN_ROUTINE trvspl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut sx, 
  *
  * @param[inout] x,y  arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
  *                    else, for n = 0 vertex 1 with itself
- * @param[in]    n    number of vertices; 0 gives zeros; a negative n is not allowed, since element
+ * @param[in]    n    number of vertices, at least 0, which gives zeros: for a negative n element
  *                    n+1 would be before the arrays
  * @param[out]   ix   second moment about the x axis, the integral of y*y dA, in L^4
  * @param[out]   iy   second moment about the y axis, the integral of x*x dA, in L^4
@@ -141,8 +141,8 @@ TRELVIN_ROUTINE trvicp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * @param[inout] x,y     arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
  *                       element n+1 is overwritten with vertex 1 for kind 2, nothing is written
  *                       otherwise; nothing is read for an unknown kind
- * @param[in]    n       number of vertices for kind 2, ignored otherwise; 0 gives 0; a negative n
- *                       is not allowed, since element n+1 would be before the arrays
+ * @param[in]    n       vertices of kind 2, at least 0, which gives 0: for a negative n element
+ *                       n+1 would be before the arrays; ignored for other kinds
  * @param[in]    kind    1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
  *                       counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle;
  *                       4 smaller circular segment, point 1 the centre, 2 and 3 the ends of its
@@ -168,8 +168,8 @@ TRELVIN_ROUTINE trvair(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
  * @param[inout] x,y     arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
  *                       element n+1 is overwritten with vertex 1 for kind 2, nothing is written
  *                       otherwise; nothing is read for an unknown kind
- * @param[in]    n       number of vertices for kind 2, ignored otherwise; 0 gives zeros; a negative
- *                       n is not allowed, since element n+1 would be before the arrays
+ * @param[in]    n       vertices of kind 2, at least 0, which gives zeros: for a negative n element
+ *                       n+1 would be before the arrays; ignored for other kinds
  * @param[in]    kind    1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
  *                       counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle;
  *                       4 smaller circular segment, point 1 the centre, 2 and 3 the ends of its
@@ -206,8 +206,8 @@ TRELVIN_ROUTINE trvstm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
  * @param[inout] x,y        arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
  *                          element n+1 is overwritten with vertex 1 for kind 2, nothing is written
  *                          otherwise; nothing is read for an unknown kind
- * @param[in]    n          number of vertices for kind 2, ignored otherwise; 0 gives zeros; a
- *                          negative n is not allowed, since element n+1 would be before the arrays
+ * @param[in]    n          vertices of kind 2, at least 0, which gives zeros: for a negative n
+ *                          element n+1 would be before the arrays; ignored for other kinds
  * @param[in]    kind       1 area concentrated at point 1, or a region with that centroid by its
  *                          own moments; 2 polygon, points 1 to n the vertices, counter-clockwise;
  *                          3 full circle, point 1 the centre, 2 on the circle; 4 smaller circular

@@ -27,23 +27,8 @@ struct Named {
 
 // Outputs whose values a program cannot read from their contract.
 const std::vector<Named> unread = {
-    {"trvcnt", "status", {0, 1}},
-    {"trvcnt1", "status", {0, 1}},
-    {"trvpos", "i", {0, 1, 2}, true},
-    {"trvln6", "code", {0, 1, 2, 3, 4, 5, 6, 7}},
-    {"trvln7", "code", {0, 1, 2, 3, 4, 5, 6, 7}},
-    {"trvln7", "on", {0, 1}},
-    {"trvlci", "n", {0, 1, 2}},
-    {"trvc12", "n", {0, 1, 2}},
-    {"trvcer2", "n", {0, 1, 2}},
-    {"trvcer1", "n", {0, 1, 2}},
-    {"trvapp", "mark", {-1, 1, 2}},
-    {"trvcer10", "status", {0, 1, 2}},
-    {"trvcer5", "status", {0, 1}},
-    {"trvplv", "status", {-1, 0, 3, 4, 5, 7}},
-    {"trvdirl", "status", {0, 1, 2, 3, 4, 5, 6, 7}},
-    {"trv3lni", "status", {0, 3, 4, 6, 7}},
-    {"trvlpc", "status", {0, 3, 4, 6, 7}},
+    {"trvpos", "i", {0, 1, 2}, true}, {"trvlci", "n", {0, 1, 2}},  {"trvc12", "n", {0, 1, 2}},
+    {"trvcer2", "n", {0, 1, 2}},      {"trvcer1", "n", {0, 1, 2}}, {"trvapp", "mark", {-1, 1, 2}},
 };
 
 bool is_named(const Status &status, std::int32_t value) {
