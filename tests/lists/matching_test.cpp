@@ -1,4 +1,4 @@
-#include "lists/odd_lists.h"
+#include "support.h"
 #include "trelvin/lists.h"
 
 using namespace trelvin_test;
@@ -25,29 +25,6 @@ TEST(Matching, PairsWithinATolerance) {
   EXPECT_EQ(count, 4);
   EXPECT_EQ(Values(ia, ia + 8), (Values{1, 2, 3, 3, 0, 0, 0, u}));
   EXPECT_EQ(Values(ib, ib + 8), (Values{2, 1, 1, 3, 0, 0, 0, u}));
-}
-
-TEST(Matching, PairsOfOddLists) {
-  OddLists lists;
-  for (int trial = 0; trial < 4000; ++trial) {
-    const Reals a = lists.reals(), b = lists.reals();
-    const float tol = lists.tolerance();
-    Integers ia(a.size() + b.size() + a.size() * b.size(), u), ib = ia, plain_a = ia, plain_b = ia;
-    std::fill_n(plain_a.begin(), a.size() + b.size(), 0);
-    std::fill_n(plain_b.begin(), a.size() + b.size(), 0);
-    std::int32_t count = u;
-    std::size_t pairs = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-      for (std::size_t j = 0; j < b.size(); ++j) {
-        if (!(std::fabs(a[i] - b[j]) <= tol)) continue;
-        plain_a[pairs] = static_cast<std::int32_t>(i + 1);
-        plain_b[pairs++] = static_cast<std::int32_t>(j + 1);
-      }
-    }
-    trvmer13(size_of(a), a.data(), size_of(b), b.data(), count, ia.data(), ib.data(), tol);
-    ASSERT_EQ(static_cast<std::size_t>(count), pairs) << trial;
-    ASSERT_TRUE(ia == plain_a && ib == plain_b) << trial;
-  }
 }
 
 TEST(Matching, JoinCopiesBits) {

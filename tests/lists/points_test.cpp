@@ -28,47 +28,35 @@ Points odd_points(OddLists &lists, const Points &from, float tol) {
 
 bool agree(float a, float b, float tol) { return a == b || std::fabs(a - b) <= tol; }
 
-bool agree(const Points &p, std::size_t i, const Points &q, std::size_t j, float tol) {
-  return agree(p.x[i], q.x[j], tol) && agree(p.y[i], q.y[j], tol) && agree(p.z[i], q.z[j], tol);
+auto agreement(const Points &p, const Points &q, float tol) {
+  return [&p, &q, tol](std::size_t i, std::size_t j) {
+    return agree(p.x[i], q.x[j], tol) && agree(p.y[i], q.y[j], tol) && agree(p.z[i], q.z[j], tol);
+  };
 }
 
-struct Pairs {
-  Integers a, b;
-  std::int32_t status;
-};
+using Pairs = std::vector<Integers>;  // the positions in A, those in B
 
-Pairs pair(const Points &a, std::int32_t na, const Points &b, std::int32_t nb, float tol) {
-  const std::size_t room = a.x.size() * b.x.size() + 1;
-  Pairs pairs = {Integers(room, u), Integers(room, u), u};
-  std::int32_t count = u;
-  trvptp1(na, a.x.data(), a.y.data(), a.z.data(), nb, b.x.data(), b.y.data(), b.z.data(), tol,
-          count, pairs.a.data(), pairs.b.data(), pairs.status);
-  const auto found = static_cast<std::size_t>(count);
-  EXPECT_TRUE(pairs.a[found] == u && pairs.b[found] == u);
-  pairs.a.resize(found);
-  pairs.b.resize(found);
-  return pairs;
-}
-Pairs pair(const Points &a, const Points &b, float tol) { return pair(a, a.n(), b, b.n(), tol); }
-
-Pairs pair_plainly(const Points &a, const Points &b, float tol) {
-  Pairs pairs = {{}, {}, 0};
-  std::int32_t partnered = 0;
-  for (std::int32_t i = 0; i < a.n(); ++i) {
-    const std::size_t before = pairs.a.size();
-    for (std::int32_t j = 0; j < b.n(); ++j) {
-      if (!agree(a, static_cast<std::size_t>(i), b, static_cast<std::size_t>(j), tol)) continue;
-      pairs.a.push_back(i + 1);
-      pairs.b.push_back(j + 1);
-    }
-    partnered += pairs.a.size() > before ? 1 : 0;
+template <class Agree>
+Pairs pair_plainly(std::size_t na, std::size_t nb, Agree agrees) {
+  Pairs pairs(2);
+  for (std::size_t k = 0; k < na * nb; ++k) {
+    if (!agrees(k / nb, k % nb)) continue;
+    pairs[0].push_back(static_cast<std::int32_t>(k / nb + 1));
+    pairs[1].push_back(static_cast<std::int32_t>(k % nb + 1));
   }
-  pairs.status = partnered == 0 ? 0 : partnered < a.n() ? 1 : 2;
   return pairs;
 }
 
-bool operator==(const Pairs &p, const Pairs &q) {
-  return p.a == q.a && p.b == q.b && p.status == q.status;
+Pairs pair(const Points &a, const Points &b, float tol, std::int32_t &status) {
+  Pairs pairs(2, Integers(a.x.size() * b.x.size() + 1, u));
+  std::int32_t count = u;
+  trvptp1(a.n(), a.x.data(), a.y.data(), a.z.data(), b.n(), b.x.data(), b.y.data(), b.z.data(), tol,
+          count, pairs[0].data(), pairs[1].data(), status);
+  for (Integers &positions : pairs) {
+    EXPECT_EQ(positions[static_cast<std::size_t>(count)], u);
+    positions.resize(static_cast<std::size_t>(count));
+  }
+  return pairs;
 }
 
 struct Merged {
@@ -106,40 +94,57 @@ Merged merge(const Points (&p)[3], float tol, std::int32_t k) {
 
 }  // namespace
 
-TEST(PointLists, FindTheirPartners) {
+TEST(PointLists, SomeOrAllPointsHavePartners) {
   const Points a = {{0, 1, 2}, {0, 0, 5}, {3, 3, 6}}, b = {{1, 9, 0}, {0, 9, 0}, {3.001F, 9, 3}};
-  EXPECT_TRUE(pair(a, b, 0.01F) == (Pairs{{1, 2}, {3, 1}, 1}));
-  EXPECT_TRUE(pair(a, 2, b, 3, 0.01F) == (Pairs{{1, 2}, {3, 1}, 2}));
-  EXPECT_TRUE(pair(a, 2, b, 2, 1e-4F) == (Pairs{{}, {}, 0}));
-  EXPECT_TRUE(pair(a, -2, b, 3, 9) == (Pairs{{}, {}, 0}));
-  EXPECT_TRUE(pair(a, 3, b, -1, 9) == (Pairs{{}, {}, 0}));
+  std::int32_t status = u;
+  EXPECT_EQ(pair(a, b, 0.01F, status), (Pairs{{1, 2}, {3, 1}}));
+  EXPECT_EQ(status, 1);
+  EXPECT_EQ(pair(a, b, 1e-4F, status), (Pairs{{1}, {3}}));
+  EXPECT_EQ(pair(b, {{1}, {0}, {9}}, 1, status), Pairs(2));
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(pair({{2, 9}, {1, 9}, {3, 9}}, b, 1, status), (Pairs{{1, 2}, {1, 2}}));
+  EXPECT_EQ(status, 2);
+  std::int32_t count = u;
+  trvptp1(-2, a.x.data(), a.y.data(), a.z.data(), 3, b.x.data(), b.y.data(), b.z.data(), 9, count,
+          nullptr, nullptr, status);
+  EXPECT_TRUE(count == 0 && status == 0);
 }
 
-TEST(PointLists, OddPointsFindTheirPartners) {
+TEST(PointLists, OddListsArePairedAsThePlainWay) {
   OddLists lists;
   for (int trial = 0; trial < 3000; ++trial) {
     const float tol = lists.tolerance();
     const Points a = odd_points(lists, {}, tol), b = odd_points(lists, a, tol);
-    ASSERT_TRUE(pair(a, b, tol) == pair_plainly(a, b, tol)) << trial;
+    std::int32_t status = u, count = u;
+    ASSERT_EQ(pair(a, b, tol, status), pair_plainly(a.x.size(), b.x.size(), agreement(a, b, tol)))
+        << trial;
+    Pairs plain = pair_plainly(a.x.size(), b.x.size(), [&](std::size_t i, std::size_t j) {
+      return std::fabs(a.x[i] - b.x[j]) <= tol;  // equal infinities are no pair here
+    });
+    Pairs pairs(2, Integers(a.x.size() * b.x.size() + a.x.size() + b.x.size(), u));
+    trvmer13(a.n(), a.x.data(), b.n(), b.x.data(), count, pairs[0].data(), pairs[1].data(), tol);
+    for (Integers &positions : pairs) positions.resize(static_cast<std::size_t>(count));
+    ASSERT_EQ(pairs, plain) << trial;
   }
 }
 
-TEST(PointLists, WithoutMemoryTheyFindTheirPartnersToo) {
+TEST(PointLists, WithoutMemoryPointsFindTheirPartnersToo) {
   OddLists lists;
   Points a, b;
-  for (std::int32_t i = 0; i < 100000; ++i) {
-    for (Reals *list : {&b.x, &b.y, &b.z}) list->push_back(static_cast<float>(lists.below(30)));
+  for (Reals *list : {&b.x, &b.y, &b.z}) {
+    for (int i = 0; i < 100000; ++i) list->push_back(static_cast<float>(lists.below(30)));
   }
   for (Reals *list : {&a.x, &a.y, &a.z}) *list = {3, 5, 8, 2, 9, 9, 1, 4, 7, 29};
-  const Pairs with = pair(a, b, 1);
-  Integers ia(with.a.size()), ib(with.a.size());
-  std::int32_t count = u, status = u;
+  std::int32_t status = u;
+  const Pairs with = pair(a, b, 1, status);
+  Integers ia(with[0].size()), ib(with[0].size());
+  std::int32_t count = u;
   without_memory([&] {
     trvptp1(a.n(), a.x.data(), a.y.data(), a.z.data(), b.n(), b.x.data(), b.y.data(), b.z.data(), 1,
             count, ia.data(), ib.data(), status);
   });
   EXPECT_GT(count, 500);
-  EXPECT_TRUE((Pairs{ia, ib, status}) == with);
+  EXPECT_EQ((Pairs{ia, ib}), with);
 }
 
 TEST(PointLists, MergeIntoPlacesAndLevels) {
@@ -166,28 +171,29 @@ TEST(PointLists, MergeIntoPlacesAndLevels) {
   EXPECT_TRUE(merge(lists, 0.5F, 5).at_k.empty());
 }
 
-TEST(PointLists, OddPointsMergeInTheirOrder) {
+TEST(PointLists, OddPointsMergeAsThePlainWay) {
   OddLists lists;
   for (int trial = 0; trial < 2000; ++trial) {
     const float tol = lists.tolerance();
-    Points p[3] = {odd_points(lists, {}, tol), {}, {}};
+    Points p[3] = {odd_points(lists, {}, tol), {}, {}}, places;
     p[1] = odd_points(lists, p[0], tol);
     p[2] = odd_points(lists, p[1], tol);
     const Merged m = merge(p, tol, 1);
-    Points places;
     for (std::size_t k = 0; k < 3; ++k) {
       for (std::size_t i = 0; i < p[k].x.size(); ++i) {
         std::size_t place = 0;
-        while (place < places.x.size() && !agree(p[k], i, places, place, tol)) ++place;
-        if (place == places.x.size()) {
-          places.x.push_back(p[k].x[i]);
-          places.y.push_back(p[k].y[i]);
-          places.z.push_back(p[k].z[i]);
-        }
+        const auto agrees = agreement(p[k], places, tol);
+        while (place < places.x.size() && !agrees(i, place)) ++place;
         ASSERT_EQ(m.place_of[k][i], static_cast<std::int32_t>(place + 1)) << trial;
+        if (place < places.x.size()) continue;
+        places.x.push_back(p[k].x[i]);
+        places.y.push_back(p[k].y[i]);
+        places.z.push_back(p[k].z[i]);
       }
-      const Pairs plain = pair_plainly(p[k], p[(k + 1) % 3], tol);
-      ASSERT_TRUE(m.pairs[2 * k] == plain.a && m.pairs[2 * k + 1] == plain.b) << trial;
+      const Points &next = p[(k + 1) % 3];
+      ASSERT_EQ((Pairs{m.pairs[2 * k], m.pairs[2 * k + 1]}),
+                pair_plainly(p[k].x.size(), next.x.size(), agreement(p[k], next, tol)))
+          << trial;
     }
     ASSERT_TRUE(same_bits(m.places.x, places.x) && same_bits(m.places.z, places.z)) << trial;
   }
