@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 #include <utility>
 
 #include "lists/grid.h"
@@ -29,16 +28,16 @@ template <class PointAt>
 class Candidates {
  public:
   // For as many visits as `visits` tells.
-  Candidates(Integer n, Real tol, PointAt at, Integer visits) : n_(n), at_(at) {
+  Candidates(Integer n, Real tol, const PointAt &at, Integer visits) : n_(n), at_(at) {
     constexpr Integer few = 8;  // that are done sooner than cells are made
-    if (n > few && visits > few) build(tol);
+    built_ = n > few && visits > few && build(tol);
   }
 
   // Visits them cell by cell, in each by position. Where `visit` returns false, the cell's others are
   // left out. Returns the number of cells.
   template <class Visit>
   int visit(Point3 p, Visit visit) const {
-    if (!starts_) {
+    if (!built_) {
       for (Integer i = 0; i < n_ && visit(GridEntry{at_(i), i});) ++i;
       return 1;
     }
@@ -49,28 +48,42 @@ class Candidates {
   }
 
   // Points are few to a cell, so that all visits of all points are worth it in advance.
-  [[nodiscard]] bool spread_out() const { return spread_out_; }
+  [[nodiscard]] bool spread_out() const { return built_ && spread_out_; }
 
-  // Calls `look` with each point, in the order of the cells, where memory is used in its order too,
-  // and with a function that visits the candidates for it.
+  // Calls `look` with the position of each point, the point, and a function that visits the candidates
+  // for it, in the order of the cells, where memory is used in its order too.
   template <class Look>
   void look_around(Look look) const {
     for (std::uint32_t cell = 0; cell < cells_; ++cell) {
       for (Integer i = starts_[cell]; i < starts_[cell + 1]; ++i) {
         const GridEntry &entry = entries_[i];
-        look(entry, [&](auto visit_one) {
-          if (entry.one_cell()) {
-            visit_cell(cell, visit_one);
-          } else {
-            visit(entry.point, visit_one);
-          }
-        });
+        look(entry.position(), entry.point, visit_from(entry.point, cell, entry.one_cell()));
+      }
+    }
+  }
+
+  // The same for the points of another list, with room for twice as many words.
+  template <class At, class Look>
+  void look_around_for(Integer n, At at, Placed *room, Look look) const {
+    const Placed *const sorted = sort_by_cell(n, at, room, room + n);
+    constexpr Integer block = 64;  // points got together, since they are far apart in memory
+    Point3 points[block];
+    for (Integer start = 0; start < n; start += block) {
+      const Integer size = std::min(block, n - start);
+      for (Integer k = 0; k < size; ++k) {
+        points[k] = at(GridEntry{{}, position_of(sorted[start + k])}.position());
+      }
+      for (Integer k = 0; k < size; ++k) {
+        const Placed word = sorted[start + k];
+        const GridEntry entry = {points[k], position_of(word)};
+        look(entry.position(), entry.point,
+             visit_from(entry.point, key_of(word), entry.one_cell()));
       }
     }
   }
 
  private:
-  void build(Real tol);
+  bool build(Real tol);
 
   template <class Visit>
   void visit_cell(std::uint32_t cell, Visit &visit) const {
@@ -79,19 +92,35 @@ class Candidates {
     while (entry != end && visit(*entry)) ++entry;
   }
 
-  // Sorts the positions by cell and returns the mean number of points that share a point's cell.
-  double sort_by_cell(Placed *&words, Placed *&spare) const {
-    const auto size = static_cast<std::size_t>(n_);
-    for (Integer i = 0; i < n_; ++i) {
-      const Grid::Cell cell = grid_.cell_of(at_(i));
+  // Visits the candidates for a point of a cell.
+  [[nodiscard]] auto visit_from(Point3 p, std::uint32_t cell, bool one_cell) const {
+    return [this, p, cell, one_cell](auto visit_one) {
+      if (one_cell) {
+        visit_cell(cell, visit_one);
+      } else {
+        visit(p, visit_one);
+      }
+    };
+  }
+
+  // Cells and codes of points, sorted by cell, in one of the arrays.
+  template <class At>
+  Placed *sort_by_cell(Integer n, At at, Placed *words, Placed *spare) const {
+    for (Integer i = 0; i < n; ++i) {
+      const Grid::Cell cell = grid_.cell_of(at(i));
       words[i] = placed(cell.number, GridEntry::encode(i, cell.holds_all));
     }
-    Placed *const sorted = sort_by_digits(words, spare, size, 32);
-    if (sorted != words) std::swap(words, spare);
+    return sort_by_digits(words, spare, static_cast<std::size_t>(n), 32);
+  }
+
+  // Finds where each cell starts and returns the mean number of points that share a point's cell.
+  double find_starts(const Placed *sorted) {
+    std::fill_n(starts_.get(), cells_ + 1, 0);
+    for (Integer i = 0; i < n_; ++i) ++starts_[key_of(sorted[i]) + 1];
     double squares = 0;
-    for (Integer i = 0, start = 0; i < n_; ++i) {
-      if (key_of(words[i]) != key_of(words[start])) start = i;
-      squares += 2.0 * (i - start) + 1;
+    for (std::uint32_t cell = 1; cell <= cells_; ++cell) {
+      squares += double{1} * starts_[cell] * starts_[cell];
+      starts_[cell] += starts_[cell - 1];
     }
     return squares / n_;
   }
@@ -101,37 +130,40 @@ class Candidates {
   Grid grid_ = {0, 1, 1};
   std::uint32_t cells_ = 0;
   bool spread_out_ = false;
+  bool built_ = false;
   WorkArray<Integer> starts_;  // of each cell in the entries, and their end
   WorkArray<GridEntry> entries_;
 };
 
 // Wide cells are best, where points are far apart; where they crowd, narrower ones follow.
 template <class PointAt>
-void Candidates<PointAt>::build(Real tol) {
+bool Candidates<PointAt>::build(Real tol) {
   constexpr double crowd = 12;
-  int bits = 4;
-  while (bits < 30 && n_ >> (bits + 1) != 0) ++bits;
+  int bits = 3;
+  while (bits < 30 && n_ >> bits != 0) ++bits;
+  if (bits < 20) bits = std::min(bits + 1, 18);  // two digits of a sort
   cells_ = std::uint32_t{1} << bits;
   const auto size = static_cast<std::uint64_t>(n_);
-  const auto work = work_array<Placed>(2 * size);
+  // The entries follow each other through the room of the words that they are made of.
+  static_assert(sizeof(GridEntry) == 2 * sizeof(Placed));
   entries_ = work_array<GridEntry>(size);
-  auto starts = work_array<Integer>(std::uint64_t{cells_} + 1);
-  if (!work || !entries_ || !starts) return;
+  starts_ = work_array<Integer>(std::uint64_t{cells_} + 1);
+  if (!entries_ || !starts_) return false;
 
-  Placed *words = work.get();
-  Placed *spare = words + n_;
+  auto *const words = reinterpret_cast<Placed *>(entries_.get());
+  Placed *const upper = words + n_;
+  const Placed *sorted = words;
   for (double width = 32; width >= 4 && !spread_out_; width /= 4) {
     grid_ = Grid(tol, width, bits);
-    spread_out_ = sort_by_cell(words, spare) < crowd;
+    sorted = sort_by_cell(n_, at_, words, upper);
+    spread_out_ = find_starts(sorted) < crowd;
   }
-  std::uint32_t cell = 0;
+  if (sorted != upper) std::copy_n(sorted, n_, upper);
   for (Integer i = 0; i < n_; ++i) {
-    while (cell <= key_of(words[i])) starts[cell++] = i;
-    entries_[i].code = position_of(words[i]);
-    entries_[i].point = at_(entries_[i].position());
+    const Integer code = position_of(upper[i]);
+    entries_[i] = {at_(code < 0 ? ~code : code), code};
   }
-  while (cell <= cells_) starts[cell++] = n_;
-  starts_ = std::move(starts);
+  return true;
 }
 
 // What a point has around it, of the points that match it.
@@ -143,44 +175,82 @@ struct Surroundings {
 
 struct Range {
   Integer start, n;
-  [[nodiscard]] bool holds(Integer i) const { return i >= start && i - start < n; }
+  [[nodiscard]] bool holds(Integer i) const {
+    return static_cast<std::uint32_t>(i - start) < static_cast<std::uint32_t>(n);
+  }
 };
 
-// The surroundings of points where they are quickly had, else nothing. `paired` gives the range of the
-// list that a point's own is paired with, or nothing for a point that nobody asks about.
+// Those of the points of a list, or none. Behind them is room for words, in one piece, since memory
+// that is given back and taken anew at every call costs more than what is done in it.
+class AllSurroundings {
+ public:
+  AllSurroundings() = default;
+  AllSurroundings(Integer n, std::uint64_t words)
+      : memory_(work_array<Placed>(words + 2 * static_cast<std::uint64_t>(n))), n_(n) {}
+
+  explicit operator bool() const { return memory_ != nullptr; }
+  Surroundings &operator[](Integer i) const {
+    return reinterpret_cast<Surroundings *>(memory_.get())[i];
+  }
+  [[nodiscard]] Placed *words() const { return memory_.get() + 2 * static_cast<std::size_t>(n_); }
+
+ private:
+  static_assert(sizeof(Surroundings) <= 2 * sizeof(Placed));
+  WorkArray<Placed> memory_;
+  Integer n_ = 0;
+};
+
+template <class Match, class Visit>
+Surroundings surroundings_of(Integer position, Point3 p, Range paired, Match match, Visit visit) {
+  Surroundings around = {0, 0, position};
+  visit([&](const GridEntry &entry) {
+    const Integer other = entry.position();
+    const bool matches = match(p, entry.point);
+    const bool pairs = matches & paired.holds(other);
+    around.partners += pairs ? 1 : 0;
+    around.partner = pairs ? other : around.partner;
+    around.first = matches ? std::min(around.first, other) : around.first;
+    return true;
+  });
+  return around;
+}
+
+// The surroundings of all points where they are quickly had, else nothing. `paired` gives the range of
+// the list that a point's own is paired with.
 template <class PointAt, class Match, class Paired>
-WorkArray<Surroundings> surroundings(const Candidates<PointAt> &candidates, Integer n, Match match,
-                                     Paired paired) {
-  if (!candidates.spread_out()) return nullptr;
-  auto found = work_array<Surroundings>(static_cast<std::uint64_t>(n));
-  if (!found) return nullptr;
-  candidates.look_around([&](const GridEntry &entry, auto visit) {
-    const std::optional<Range> range = paired(entry.position());
-    if (!range) return;
-    Surroundings around = {0, 0, entry.position()};
-    visit([&](const GridEntry &other) {
-      if (!match(entry.point, other.point)) return true;
-      if (range->holds(other.position())) {
-        ++around.partners;
-        around.partner = other.position();
-      }
-      around.first = std::min(around.first, other.position());
-      return true;
-    });
-    found[entry.position()] = around;
+AllSurroundings surroundings(const Candidates<PointAt> &candidates, Integer n, Match match,
+                             Paired paired) {
+  AllSurroundings found;
+  if (candidates.spread_out()) found = AllSurroundings(n, 0);
+  if (!found) return found;
+  candidates.look_around([&](Integer i, Point3 p, auto visit) {
+    found[i] = surroundings_of(i, p, paired(i), match, visit);
+  });
+  return found;
+}
+
+// Those of the points of another list, which is paired with that of the candidates.
+template <class PointOfA, class PointAt, class Match>
+AllSurroundings surroundings_of_list(Integer na, PointOfA a, const Candidates<PointAt> &candidates,
+                                     Range b, Match match) {
+  AllSurroundings found;
+  if (candidates.spread_out()) found = AllSurroundings(na, 2 * static_cast<std::uint64_t>(na));
+  if (!found) return found;
+  candidates.look_around_for(na, a, found.words(), [&](Integer i, Point3 p, auto visit) {
+    found[i] = surroundings_of(i, p, b, match, visit);
   });
   return found;
 }
 
 // Writes the pairs that `match` of the points of two ranges, by position in the first, then in the
 // second, from 1. The second is what the first is paired with in `around`, if that is known.
-template <class PointAt, class Match>
-Partners pair_up(Range a, Range b, PointAt at, const Candidates<PointAt> &candidates,
-                 const Surroundings *around, Match match, Integer *ia, Integer *ib) {
+template <class PointOfA, class PointAt, class Match>
+Partners pair_up(Range a, Range b, PointOfA at, const Candidates<PointAt> &candidates,
+                 const AllSurroundings &around, Match match, Integer *ia, Integer *ib) {
   Partners found = {0, 0};
   for (Integer i = 0; i < a.n; ++i) {
     const Integer before = found.pairs;
-    if (around != nullptr && around[a.start + i].partners < 2) {
+    if (around && around[a.start + i].partners < 2) {
       const Surroundings &known = around[a.start + i];
       if (known.partners == 1) ib[found.pairs++] = known.partner - b.start + 1;
     } else {
@@ -205,10 +275,10 @@ Partners pair_up(Range a, Range b, PointAt at, const Candidates<PointAt> &candid
 // place(i), a reference, receives its number, from 1. Returns the number of places.
 template <class PointAt, class Match, class Make, class Place>
 Integer put_to_places(Integer settled, Integer n, PointAt at, const Candidates<PointAt> &candidates,
-                      const Surroundings *around, Match match, Make make, Place place) {
+                      const AllSurroundings &around, Match match, Make make, Place place) {
   Integer count = settled;
   const auto has_own = [&](Integer i) { return i < settled || around[i].first == i; };
-  bool plain = around != nullptr;  // whatever is matched first has a place of its own
+  bool plain{around};  // whatever is matched first has a place of its own
   for (Integer i = settled; i < n && plain; ++i) plain = has_own(around[i].first);
   if (plain) {
     for (Integer i = settled; i < n; ++i) {

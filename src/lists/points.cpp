@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 #include "lists/candidates.h"
 #include "lists/matching.h"
@@ -42,15 +41,13 @@ Chain<List, 2> chain(const List &a, const List &b) {
 
 template <class List, class Match>
 Partners pair_up(const List &a, const List &b, Real tol, Match match, Integer *ia, Integer *ib) {
-  const Chain<List, 2> all = chain(a, b);
-  const Range first = all.range(0);
-  const Range second = all.range(1);
-  const Candidates<Chain<List, 2>> candidates(all.size(), tol, all, std::min(first.n, second.n));
-  const auto paired = [&](Integer i) {
-    return first.holds(i) ? std::optional(second) : std::nullopt;
-  };
-  const auto around = surroundings(candidates, all.size(), match, paired);
-  return pair_up(first, second, all, candidates, around.get(), match, ia, ib);
+  const Range range_a = {0, std::max(a.n, 0)};
+  const Range range_b = {0, std::max(b.n, 0)};
+  const auto at_a = [&](Integer i) { return point_at(a, i); };
+  const auto at_b = [&](Integer j) { return point_at(b, j); };
+  const Candidates candidates(range_b.n, tol, at_b, range_a.n);
+  const auto around = surroundings_of_list(range_a.n, at_a, candidates, range_b, match);
+  return pair_up(range_a, range_b, at_a, candidates, around, match, ia, ib);
 }
 
 }  // namespace
@@ -73,9 +70,9 @@ Integer join_new(RealList a, RealList b, Real tol, Real *joined, Integer *positi
   const auto make = [&](Integer i) { *end++ = all(i).x; };
   const auto place = [&](Integer i) -> Integer & { return positions_of_b[i - na]; };
   const Candidates<Chain<RealList, 2>> candidates(all.size(), tol, all, all.range(1).n);
-  const auto paired = [&](Integer i) { return i < na ? std::nullopt : std::optional(Range{0, 0}); };
+  const auto paired = [](Integer) { return Range{0, 0}; };
   const auto around = surroundings(candidates, all.size(), match, paired);
-  return put_to_places(na, all.size(), all, candidates, around.get(), match, make, place);
+  return put_to_places(na, all.size(), all, candidates, around, match, make, place);
 }
 
 MergedCounts merge_points(const PointList (&lists)[3], Real tol, const MergedPoints &merged) {
@@ -83,14 +80,13 @@ MergedCounts merge_points(const PointList (&lists)[3], Real tol, const MergedPoi
   for (int k = 0; k < 3; ++k) all.starts[k + 1] = all.starts[k] + std::max(lists[k].n, 0);
   const auto match = [=](Point3 p, Point3 q) { return agree(p, q, tol); };
   const Candidates<Chain<PointList, 3>> candidates(all.size(), tol, all, all.size());
-  const auto around = surroundings(candidates, all.size(), match, [&](Integer i) {
-    return std::optional(all.range((all.list_of(i) + 1) % 3));
-  });
+  const auto around = surroundings(candidates, all.size(), match,
+                                   [&](Integer i) { return all.range((all.list_of(i) + 1) % 3); });
 
   MergedCounts counts = {};
   for (int k = 0; k < 3; ++k) {
-    counts.pairs[k] = pair_up(all.range(k), all.range((k + 1) % 3), all, candidates, around.get(),
-                              match, merged.first_of_pair[k], merged.second_of_pair[k])
+    counts.pairs[k] = pair_up(all.range(k), all.range((k + 1) % 3), all, candidates, around, match,
+                              merged.first_of_pair[k], merged.second_of_pair[k])
                           .pairs;
   }
   const auto place = [&](Integer i) -> Integer & {
@@ -99,7 +95,7 @@ MergedCounts merge_points(const PointList (&lists)[3], Real tol, const MergedPoi
   };
   Integer made = 0;
   const auto make = [&](Integer i) { merged.places.set(made++, all(i)); };
-  counts.places = put_to_places(0, all.size(), all, candidates, around.get(), match, make, place);
+  counts.places = put_to_places(0, all.size(), all, candidates, around, match, make, place);
   return counts;
 }
 
