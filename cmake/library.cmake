@@ -47,14 +47,8 @@ if(WIN32)
                                  ${CMAKE_CURRENT_BINARY_DIR}/version.rc)
   # The library has its own entry and no start-up code of the C run-time: nothing in it is built or
   # torn down at run time, and thread-local storage would keep it from declining thread calls.
-  target_link_options(trelvin PRIVATE -static -s -Wl,--dynamicbase -Wl,--nxcompat
+  target_link_options(trelvin PRIVATE -static -s -nostartfiles -Wl,--dynamicbase -Wl,--nxcompat
                                       -Wl,--no-insert-timestamp)
-  if(TRELVIN_MOVING)
-    set_source_files_properties(src/entries/library_entry.cpp
-                                PROPERTIES COMPILE_DEFINITIONS DllMainCRTStartup=DllMain)
-  else()
-    target_link_options(trelvin PRIVATE -nostartfiles)
-  endif()
   set_target_properties(trelvin PROPERTIES OUTPUT_NAME Trelvin PREFIX "" VERSION "" SOVERSION ""
                                            IMPORT_PREFIX "lib")
 

@@ -92,9 +92,10 @@ class _Expression:
 # --- values -----------------------------------------------------------------------------------
 
 NUMBER = r"-?\d+"
+BOUND = r"[\w+*-]+"
 ITEM = re.compile(
-    rf"(?:always )?(?:({NUMBER}) to ({NUMBER})(?=[\s,:]|$)|({NUMBER}|[a-z]\S*) to [\w*+]+"
-    rf"|({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?)(?=[\s,:]|$))"
+    rf"(?:always )?(?:({NUMBER}) to ({NUMBER})|({BOUND}) to {BOUND}"
+    rf"|({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?))(?=[\s,:]|$)"
     rf"|\w+ > ({NUMBER})\b|(unwritten)\b"
 )
 
@@ -102,32 +103,39 @@ ITEM = re.compile(
 @dataclass
 class Values:
     named: list  # ascending
-    above: int = None  # every larger value is in order too: a position
+    further: int = None  # the least of those that only the call's counts bound: a position
+
+
+def _unlabelled(text):
+    """`number of points: 0 none; 1 ...` without what stands before its first value."""
+    return text if ITEM.match(text) else re.sub(r"^[^:;]*: (?=-?\d)", "", text)
 
 
 def names_values(argument):
     """Whether an argument is a status: its name says so, or its description starts with a value."""
     if not argument.is_integer or argument.is_array or not argument.is_written:
         return False
-    return argument.name in ("status", "code", "on") or bool(ITEM.match(argument.text))
+    return argument.name in ("status", "code", "on") or bool(ITEM.match(_unlabelled(argument.text)))
 
 
 def values_of(text):
     """The values of `VALUE meaning; VALUE meaning; ...`."""
     values = Values([])
-    for item in text.split("; "):
+    for item in _unlabelled(text).split("; "):
         match = ITEM.match(item)
         if not match:
             raise Unreadable(f"`{item}` starts with no value")
-        first, last, start, listed, above, _ = match.groups()
+        first, last, bound, listed, below, _ = match.groups()
         if first:
             values.named += range(int(first), int(last) + 1)
-        elif start:  # a position, up to a count
-            values.above = int(start) - 1 if re.fullmatch(NUMBER, start) else values.above
         elif listed:
             values.named += [int(number) for number in re.findall(NUMBER, listed)]
-        elif above:
-            values.above = int(above)
+        elif below:
+            values.further = int(below) + 1
+        elif bound and values.further is None:
+            if not re.fullmatch(NUMBER, bound):
+                raise Unreadable(f"`{item}`: no least value")
+            values.further = int(bound)
     if not values.named:
         raise Unreadable("no value")
     values.named = sorted(set(values.named))

@@ -3,8 +3,6 @@
 
     tools/generate.py            write the files that are out of date
     tools/generate.py --check    write nothing; fail when a contract is faulty or a file out of date
-
-With --moving, what a room in the middle of its move may still lack is told and tolerated.
 """
 
 import re
@@ -34,14 +32,15 @@ ROUTINES_HEAD = """\
 // ROUTINE(name, number of arguments, their names)
 // SIZE(name, argument, elements)         of an array, from the single Integers: count(argument)
 // LEAST(name, argument, value)           that is allowed of an Integer input
-// STATUS(name, argument, open, values)   that an Integer output may have; open: larger ones too
+// STATUS(name, argument, further, values)   that an Integer output may have, and from `further` on
+//                                           all larger ones too, or none
 // UNSHARED(name)                         outputs may not share the address of an input
 """
 MACROS = [
     "ROUTINE(name, count, names)",
     "SIZE(name, argument, elements)",
     "LEAST(name, argument, value)",
-    "STATUS(name, argument, open, ...)",
+    "STATUS(name, argument, further, ...)",
     "UNSHARED(name)",
 ]
 
@@ -80,8 +79,8 @@ def _facts(routine):
             elif contracts.names_values(argument):
                 values = contracts.values_of(argument.text)
                 named = ", ".join(str(value) for value in values.named)
-                larger = "false" if values.above is None else "true"
-                yield f"STATUS({routine.name}, {i}, {larger}, {named})"
+                further = "none" if values.further is None else values.further
+                yield f"STATUS({routine.name}, {i}, {further}, {named})"
             elif argument.is_integer and contracts.least_of(argument.text) is not None:
                 yield f"LEAST({routine.name}, {i}, {contracts.least_of(argument.text)})"
         except contracts.Unreadable:
@@ -145,20 +144,19 @@ def outdated(families, check):
 
 
 def main():
-    check, moving = (option in sys.argv[1:] for option in ("--check", "--moving"))
+    check = sys.argv[1:] == ["--check"]
     families = headers.read_all()
     routines = headers.routines_of(families)
-    faults = [(fault, False) for fault in headers.faults(families)]
-    committed = entries.committed_ordinals()
-    faults += [(fault, False) for fault in entries.export_faults(routines, committed)]
-    faults += [(fault, True) for fault in headers.inexact(families)]
-    faults += entries.body_faults(families)
-    faults += [(fault, False) for fault in outdated(families, check)]
-    for fault, passes in faults:
-        print(f"generate: {'moving: ' if moving and passes else ''}{fault}", file=sys.stderr)
-    tolerated = sum(moving and passes for _, passes in faults)
-    print(f"{len(routines)} routines, {len(faults)} faults, {tolerated} of them tolerated")
-    return 1 if len(faults) > tolerated else 0
+    faults = [
+        *headers.faults(families),
+        *headers.inexact(families),
+        *entries.export_faults(routines, entries.committed_ordinals()),
+        *entries.body_faults(families),
+        *outdated(families, check),
+    ]
+    for fault in faults:
+        print(f"generate: {fault}", file=sys.stderr)
+    return 1 if faults else 0
 
 
 if __name__ == "__main__":

@@ -1,8 +1,4 @@
 # Hosts of the built library.
-if(TRELVIN_MOVING)
-  set(moving --moving)
-endif()
-
 # Every routine with its random calls, compiled once for all hosts.
 add_library(callers OBJECT hosts/random_calls.cpp hosts/sequence_of_routines.cpp)
 target_include_directories(callers PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
@@ -25,26 +21,21 @@ foreach(host digest census guards aliases)
 endforeach()
 add_host_test(digest digest)
 foreach(host census guards aliases)
-  add_host_test(${host} ${host} ${moving})
+  add_host_test(${host} ${host})
 endforeach()
 
 # Flushed subnormals, each rounding, and unmasked exceptions without and with raised flags; the x87
-# unit, which carries results of functions in 32-bit programs, with 24 bits, each rounding, unmasked.
+# unit, which carries results of functions in 32-bit programs, with 24 bits, each rounding, and
+# unmasked.
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i.86)$")
   add_host(states hosts/states.cpp hosts/foreign_call.cpp)
-  set(states 9fc0:037f 3f80:037f 5f80:037f 7f80:037f)
-  if(NOT TRELVIN_MOVING)
-    list(APPEND states 0000:037f 003f:037f)
-  endif()
+  set(states 9fc0:037f 3f80:037f 5f80:037f 7f80:037f 0000:037f 003f:037f)
   if(WIN32)
-    list(APPEND states 1f80:007f 1f80:077f 1f80:0b7f 1f80:0f7f)
-    if(NOT TRELVIN_MOVING)
-      list(APPEND states 1f80:1332 0000:1332)
-    endif()
+    list(APPEND states 1f80:007f 1f80:077f 1f80:0b7f 1f80:0f7f 1f80:1332 0000:1332)
   endif()
   foreach(state IN LISTS states)
     string(REPLACE ":" ";" words ${state})
-    add_host_test(states_${state} states ${CMAKE_CURRENT_SOURCE_DIR}/hosts/digest.txt ${words} ${moving})
+    add_host_test(states_${state} states ${CMAKE_CURRENT_SOURCE_DIR}/hosts/digest.txt ${words})
   endforeach()
 endif()
 
@@ -59,16 +50,16 @@ if(BUILD_SHARED_LIBS)
   target_include_directories(cycles PRIVATE ${PROJECT_SOURCE_DIR}/include)
   add_dependencies(cycles trelvin)
   if(WIN32)
-    add_host_test(cycles cycles Trelvin.dll ${moving})
+    add_host_test(cycles cycles Trelvin.dll)
   elseif(NOT CMAKE_CXX_FLAGS MATCHES sanitize)  # which keeps its own books of memory
-    add_host_test(cycles cycles $<TARGET_FILE:trelvin> ${moving})
+    add_host_test(cycles cycles $<TARGET_FILE:trelvin>)
   endif()
 
   if(NOT WIN32)
     set(libraries Trelvin::trelvin ${CMAKE_DL_LIBS})
     add_host(interpose hosts/interpose.cpp)
     set_target_properties(interpose PROPERTIES ENABLE_EXPORTS ON)
-    add_host_test(interpose interpose ${moving})
+    add_host_test(interpose interpose)
   endif()
 endif()
 

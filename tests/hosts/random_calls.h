@@ -58,8 +58,10 @@ enum class Shape { free, arc, pairs, plates, plate_stresses, whole };
 
 // The values that the contract names for an Integer output.
 struct Status {
+  static constexpr std::int32_t none = INT32_MAX;
+
   std::size_t argument;
-  bool open;  // values above all named ones are in order too: a position
+  std::int32_t further;  // this and larger ones are in order too: a position; or `none`
   std::vector<std::int32_t> values;
 };
 

@@ -92,6 +92,7 @@ Elements by_kind(std::int32_t kind, Sizes... of_kinds) {
 }  // namespace
 
 std::vector<Routine> all_routines() {  // NOLINT(readability-function-size)
+  constexpr std::int32_t none = random_calls::Status::none;
   std::vector<Routine> routines;
 #define ROUTINE(name, count, names)                   \
   routines.push_back(routine_of(#name, name, names)); \
@@ -105,8 +106,8 @@ std::vector<Routine> all_routines() {  // NOLINT(readability-function-size)
     return static_cast<std::size_t>(std::max<Elements>(elements, 0));  \
   };
 #define LEAST(name, argument, value) routines.back().least.emplace_back(argument, value);
-#define STATUS(name, argument, open, ...) \
-  routines.back().statuses.push_back({argument, open, {__VA_ARGS__}});
+#define STATUS(name, argument, further, ...) \
+  routines.back().statuses.push_back({argument, further, {__VA_ARGS__}});
 #define UNSHARED(name) routines.back().shares_addresses = false;
 #include "routines.inc"
   return routines;

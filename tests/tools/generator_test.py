@@ -85,15 +85,17 @@ class Sizes(unittest.TestCase):
 
 class Values(unittest.TestCase):
     def test_values(self):
-        for text, named, above in (
+        for text, named, further in (
             ("0 done; -1 refused, nothing is written", [-1, 0], None),
             ("0 done; 1 to 3 as trvpsl tells; 7 skew", [0, 1, 2, 3, 7], None),
             ("0 done; 3, 4 or 7 the relation of the lines", [0, 3, 4, 7], None),
-            ("0 done; i > 0 point i is off the plane", [0], 0),
+            ("0 done; i > 0 point i is off the plane", [0], 1),
+            ("-1 refused; 0 done; 2 to n this plate; n+2 to 2*n plate status - n", [-1, 0], 2),
             ("-1 no length; unwritten otherwise", [-1], None),
+            ("number of points (trvlci): 0 none; 1 or 2", [0, 1, 2], None),
         ):
             values = contracts.values_of(text)
-            self.assertEqual((values.named, values.above), (named, above), text)
+            self.assertEqual((values.named, values.further), (named, further), text)
 
     def test_a_meaning_without_a_value_is_unreadable(self):
         with self.assertRaises(contracts.Unreadable):
