@@ -1,0 +1,5857 @@
+"""The routines. Generated from include/trelvin by tools/generate.py."""
+
+from __future__ import annotations
+
+from enum import IntEnum
+from typing import TYPE_CHECKING, Callable, NamedTuple
+
+from ._call import Routine
+
+if TYPE_CHECKING:
+    from numpy import float32, int32
+    from numpy.typing import ArrayLike, NDArray
+
+_NAN = float("nan")
+
+__all__ = [
+    "trvcer", "TrvcerResult", "trvlci", "TrvlciResult", "trvc12", "Trvc12Result", "trvcer2",
+    "Trvcer2Result", "trvcer1", "Trvcer1Result", "trvcin", "TrvcinResult", "trvcer3",
+    "Trvcer3Result", "Trvcer3Status", "trvcer8", "Trvcer8Result", "Trvcer8Status", "trvcer6",
+    "Trvcer6Result", "Trvcer6Status", "trvcer9", "Trvcer9Result", "Trvcer9Status", "trvarc1",
+    "Trvarc1Result", "Trvarc1Status", "trvaxph", "trvhin", "TrvhinResult", "trvapp", "trvcer4",
+    "Trvcer4Result", "Trvcer4Status", "trvcer10", "Trvcer10Result", "Trvcer10Status", "trvcer5",
+    "Trvcer5Result", "Trvcer5Status", "trvcer7", "Trvcer7Result", "Trvcer7Status", "trvard",
+    "TrvardResult", "TrvardStatus", "trvenv", "TrvenvResult", "trvord", "trvord1", "trvordi",
+    "trvpor", "TrvporResult", "TrvporStatus", "trvorv", "TrvorvResult", "trvmer1",
+    "Trvmer1Result", "trvmer11", "Trvmer11Result", "trvmer4", "Trvmer4Result", "trvmer15",
+    "Trvmer15Result", "trvmer16", "Trvmer16Result", "trvpds", "trvpri", "trvpre", "trvcnt",
+    "TrvcntResult", "TrvcntStatus", "trvcnt1", "Trvcnt1Status", "trv123", "Trv123Result",
+    "Trv123Status", "trvmed", "TrvmedResult", "trvdtr2", "trvdtr3", "trvgrc", "TrvgrcResult",
+    "trvint", "trvvin", "TrvvinStatus", "trvpos", "trvpos1", "Trvpos1Result", "trvln3",
+    "Trvln3Result", "trvln1", "Trvln1Result", "trvln4", "Trvln4Result", "trvln2",
+    "Trvln2Result", "trvln5", "Trvln5Result", "trvlds", "trvlni", "TrvlniResult",
+    "TrvlniStatus", "trvlul", "TrvlulResult", "TrvlulStatus", "trvpsn", "TrvpsnCode", "trvln6",
+    "Trvln6Result", "Trvln6Code", "Trvln6On", "trvln7", "Trvln7Result", "Trvln7Code",
+    "Trvln7On", "trvphi", "trvphi3", "trvphi1", "trvphip", "TrvphipResult", "trvchi",
+    "TrvchiResult", "TrvchiStatus", "trvcnv", "TrvcnvStatus", "trvtrg", "TrvtrgResult",
+    "TrvtrgStatus", "trvdir", "TrvdirCode", "trvdirp", "TrvdirpCode", "trvmov", "TrvmovResult",
+    "trvtra", "TrvtraResult", "trvinv", "trvadr", "TrvadrResult", "trvapl", "TrvaplResult",
+    "trvspl", "TrvsplResult", "trvipl", "TrviplResult", "trvacp", "TrvacpResult", "trvicp",
+    "TrvicpResult", "trvair", "TrvairResult", "trvstm", "TrvstmResult", "trvinm",
+    "TrvinmResult", "trvinp", "TrvinpResult", "trvinr", "trvro2", "trvefr", "trvef2",
+    "Trvef2Result", "trvsec_ia", "TrvsecIaResult", "trvsec_h", "TrvsecHResult", "trvsec_t",
+    "TrvsecTResult", "trvsec_b", "TrvsecBResult", "trvsec_h1b", "TrvsecH1bResult", "trvsec_box",
+    "TrvsecBoxResult", "trvsec_rhs", "TrvsecRhsResult", "trvsec_l2", "TrvsecL2Result",
+    "trvsec_tab", "TrvsecTabResult", "trvsec_h2b", "TrvsecH2bResult", "trvsec_i",
+    "TrvsecIResult", "trvsec_c", "TrvsecCResult", "trvshc_c", "trvwar_c", "trvmxt",
+    "TrvmxtResult", "TrvmxtStatus", "trvmxt_fb", "TrvmxtFbResult", "TrvmxtFbStatus", "trvrot",
+    "TrvrotResult", "trvrotx", "TrvrotxResult", "trvroty", "TrvrotyResult", "trvrotz",
+    "TrvrotzResult", "trvpsl", "TrvpslStatus", "trv3tra", "Trv3traResult", "trvtrn", "trvaxe",
+    "TrvaxeResult", "TrvaxeStatus", "trvaxel", "TrvaxelResult", "TrvaxelStatus", "trvptr",
+    "TrvptrResult", "trvptrl", "TrvptrlResult", "TrvptrlStatus", "trvpra", "TrvpraResult",
+    "TrvpraStatus", "trvppc", "TrvppcResult", "TrvppcStatus", "trvplg", "TrvplgResult",
+    "trvpl1", "Trvpl1Result", "Trvpl1Status", "trvpl2", "Trvpl2Result", "Trvpl2Status",
+    "trvpl3", "Trvpl3Result", "Trvpl3Status", "trvpl4", "Trvpl4Result", "Trvpl4Status",
+    "trvpl5", "Trvpl5Result", "Trvpl5Status", "trvpl6", "Trvpl6Result", "Trvpl6Status",
+    "trvpl7", "Trvpl7Result", "Trvpl7Status", "trvpsp", "trvpld", "trvpspg", "TrvpspgStatus",
+    "trvplv", "TrvplvStatus", "trvpnp", "TrvpnpResult", "trvdirl", "TrvdirlStatus", "trv3sp",
+    "Trv3spStatus", "trv3ldb", "Trv3ldbResult", "trv3lda", "Trv3ldaResult", "trv3lni",
+    "Trv3lniResult", "Trv3lniStatus", "trvpli", "TrvpliResult", "TrvpliStatus", "trvplp",
+    "TrvplpPosition", "trvpnl", "TrvpnlResult", "trvlpc", "TrvlpcResult", "TrvlpcStatus"
+]
+
+MEANINGS: dict[str, dict[str, dict[int, str]]] = {
+    "trvcin": {
+        "position": {
+            1: 'not cut, centre above the x axis',
+            2: 'not cut, centre on or below it',
+            3: 'cut, centre below it',
+            4: 'cut, centre on or above it',
+        },
+    },
+    "trvcer3": {
+        "status": {
+            0: "the point's distance from the centre is within the tolerance",
+            1: 'done',
+        },
+    },
+    "trvcer8": {
+        "status": {
+            0: 'the radius or the chord is at most 0.001, the radii of A and B differ by more, or the station is not farther than that from both ends',
+            1: 'done',
+        },
+    },
+    "trvcer6": {
+        "status": {
+            0: 'the radius or the chord is at most 0.001, the radii of A and B differ by more, the station is not farther than that from both ends, or d is closer than that to the diameter',
+            1: 'done',
+        },
+    },
+    "trvcer9": {
+        "status": {
+            0: "the radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or the strip comes closer than that to an end of the chord",
+            1: 'done',
+        },
+    },
+    "trvarc1": {
+        "status": {
+            0: 'the radius, or the distance of A and B, is within the tolerance',
+            1: 'done',
+        },
+    },
+    "trvcer4": {
+        "status": {
+            0: 'the radius or the chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches the circle',
+            1: 'done',
+        },
+    },
+    "trvcer10": {
+        "status": {
+            0: "refused: the radius or the chord is within the tolerance, or the radii of A and B differ by more, but also a crossing, and a retained one that is on the chord's line but not at A or B (trvpsl above 2)",
+            1: 'the line runs along the chord',
+            2: 'it is parallel to it',
+        },
+    },
+    "trvcer5": {
+        "status": {
+            0: 's is negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more, or the line touches the circle',
+            1: 'done',
+        },
+    },
+    "trvcer7": {
+        "status": {
+            0: "refused: s or e is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is parallel to the chord, or it cuts less than twice 1e-4 off the circle",
+            1: 'done',
+        },
+    },
+    "trvard": {
+        "status": {
+            0: 'refused: r or a segment is not above the tolerance, the sine of the angle between the segments is within it, or the arc touches one beyond its end by more',
+            1: 'done',
+        },
+    },
+    "trvpor": {
+        "status": {
+            -1: 'not a family of parallel and distinct lines, or n < 1',
+            0: 'ordered',
+        },
+    },
+    "trvcnt": {
+        "status": {
+            0: 'otherwise',
+            1: 'each difference is within the tolerance',
+        },
+    },
+    "trvcnt1": {
+        "status": {
+            0: 'otherwise (a NaN included)',
+            1: 'all components are zero of either sign',
+        },
+    },
+    "trv123": {
+        "status": {
+            0: 'done',
+            1: 'P1 and P2 coincide within the tolerance (trvcnt)',
+        },
+    },
+    "trvvin": {
+        "status": {
+            1: 'v is positive',
+            2: 'v is zero, negative or NaN',
+        },
+    },
+    "trvpos1": {
+        "status": {
+            0: 'neither',
+            1: 'A(i) equals x within the tolerance',
+            2: 'A(i) < x < A(i+1)',
+        },
+    },
+    "trvlni": {
+        "status": {
+            0: 'one point',
+            1: 'the same line',
+            2: 'parallel and distinct',
+        },
+    },
+    "trvlul": {
+        "status": {
+            0: 'they cross',
+            1: 'the same line',
+            2: 'parallel and distinct, as trvlni tells',
+        },
+    },
+    "trvpsn": {
+        "code": {
+            0: 'none',
+            1: 'all',
+            2: 'first',
+            3: 'second',
+            4: 'third',
+            5: 'first and second',
+            6: 'second and third',
+            7: 'first and third',
+        },
+    },
+    "trvln6": {
+        "code": {
+            0: 'no component of (P0 + D) - P0 is above the tolerance',
+            1: 'all are',
+            2: 'x',
+            3: 'y',
+            4: 'z',
+            5: 'x and y',
+            6: 'y and z',
+            7: 'x and z',
+        },
+        "on": {
+            0: 'it does not, and always when code is 0',
+            1: 'P lies on the line',
+        },
+    },
+    "trvln7": {
+        "code": {
+            0: 'no component of (ex, ey, ez) is above the tolerance',
+            1: 'all are',
+            2: 'ex',
+            3: 'ey',
+            4: 'ez',
+            5: 'ex and ey',
+            6: 'ey and ez',
+            7: 'ex and ez',
+        },
+        "on": {
+            0: 'it does not',
+            1: 'P agrees with the line at the station',
+        },
+    },
+    "trvphip": {
+        "status": {
+            -1: "a direction's length is within the tolerance",
+        },
+    },
+    "trvchi": {
+        "status": {
+            0: 'done',
+            1: 'P1 or P2 coincides with P0 (trvcnt)',
+        },
+    },
+    "trvcnv": {
+        "status": {
+            -1: 'refused: n < 3, or a side whose length is within the tolerance',
+            0: 'not convex, or winding more than once',
+            1: 'convex',
+        },
+    },
+    "trvtrg": {
+        "status": {
+            0: 'done',
+            1: 'P1 and P2, or P3 and P4, coincide (trvcnt)',
+        },
+    },
+    "trvdir": {
+        "code": {
+            0: 'oblique',
+            1: 'the same direction',
+            2: 'opposite',
+            3: 'perpendicular',
+            4: 'all components of u, or of v, are within the tolerance',
+        },
+    },
+    "trvdirp": {
+        "code": {
+            0: 'they cross',
+            1: 'parallel, normals in the same direction',
+            2: 'parallel, normals opposite',
+            3: 'coincident, normals in the same direction',
+            4: 'coincident, normals opposite',
+            5: 'perpendicular',
+            6: 'a normal is zero',
+        },
+    },
+    "trvmxt": {
+        "status": {
+            -1: 'refused, nothing else is written: n < 1, a coordinate or a thickness that is infinite or NaN, a length or a thickness not above the tolerance',
+            0: 'done',
+            2: 'to n this plate is the first at fault, it starts at no end of an earlier one, or ends at one and closes a cell: what is listed up to xp,yp is written, the rest is not',
+        },
+    },
+    "trvmxt_fb": {
+        "status": {
+            -1: 'refused, nothing else is written: a side that is infinite, NaN or not above the tolerance',
+            0: 'done',
+        },
+    },
+    "trvpsl": {
+        "status": {
+            0: 'they do',
+            1: 'P2 is at P0',
+            2: 'P2 is at P1',
+            3: 'P2 is between P0 and P1',
+            4: 'P2 is beyond P0 on their line',
+            5: 'P2 is beyond P1',
+        },
+    },
+    "trvaxe": {
+        "status": {
+            -2: 'P2 is at P0 or P1, or the three are on one line (trvpsl)',
+            0: 'done',
+        },
+    },
+    "trvaxel": {
+        "status": {
+            -2: 'the distance of P0 and P1 is within the tolerance',
+            0: 'done, also along y',
+        },
+    },
+    "trvptrl": {
+        "status": {
+            -2: 'P2 is at P0 or P1, or the three are on one line (trvpsl)',
+            0: 'done',
+        },
+    },
+    "trvpra": {
+        "status": {
+            -2: 'the distance of P0 and P1 is within the tolerance',
+            0: 'done, also along y',
+        },
+    },
+    "trvppc": {
+        "status": {
+            -1: 'P2 is at P0 or P1, or the three are on one line (trvpsl)',
+            0: 'done',
+            1: 'to n position of the first point off the plane',
+        },
+    },
+    "trvpl1": {
+        "status": {
+            0: 'done',
+            1: 'P2 is at P0',
+            2: 'P2 is at P1',
+            3: 'P2 is between P0 and P1',
+            4: 'P2 is beyond P0 on their line',
+            5: 'P2 is beyond P1',
+        },
+    },
+    "trvpl2": {
+        "status": {
+            0: 'done, also for parallel lines',
+            3: 'the lines are the same, of the same sense',
+            4: 'the same, of opposite sense',
+            7: 'A and B, or C and D, coincide (trvcnt)',
+        },
+    },
+    "trvpl3": {
+        "status": {
+            0: 'done, also for parallel lines',
+            3: 'the lines are the same, of the same sense',
+            4: 'the same, of opposite sense',
+            7: 'A and B, or C and D, coincide (trvcnt)',
+        },
+    },
+    "trvpl4": {
+        "status": {
+            0: 'done',
+            1: 'A and B coincide, each coordinate within the tolerance (trvcnt)',
+        },
+    },
+    "trvpl5": {
+        "status": {
+            0: 'done',
+            1: 'an intercept is within the tolerance or NaN',
+        },
+    },
+    "trvpl6": {
+        "status": {
+            0: 'done, also for parallel lines',
+            3: 'the lines are the same, of the same sense',
+            4: 'the same, of opposite sense',
+            6: 'the lines are skew',
+            7: 'a direction is within the tolerance in each component',
+        },
+    },
+    "trvpl7": {
+        "status": {
+            0: 'done',
+            1: 'P2 is at P0, or P0 and P0 + normal coincide (trvcnt)',
+            2: 'P2 is at P1',
+            3: 'P2 is between P0 and P1',
+            4: 'P2 is beyond P0 on their line',
+            5: 'P2 is beyond P1',
+        },
+    },
+    "trvpsp": {
+        "status": {
+            -1: 'it does not, or the three points span no plane (trvpsl)',
+            0: 'it does, and any point does where P0 = P1',
+        },
+    },
+    "trvpspg": {
+        "status": {
+            -1: 'it does not, or the distance is NaN',
+            0: 'it does',
+            1: 'the normal is exactly zero',
+        },
+    },
+    "trvplv": {
+        "status": {
+            -1: 'u is exactly zero',
+            0: 'oblique',
+            3: 'the same direction',
+            4: 'opposite',
+            5: 'perpendicular',
+            7: 'u or w is within the tolerance in each component',
+        },
+    },
+    "trvdirl": {
+        "status": {
+            0: 'they cross, not at a right angle',
+            1: 'parallel and distinct, of the same sense',
+            2: 'parallel and distinct, of opposite sense',
+            3: 'the same line, of the same sense',
+            4: 'the same line, of opposite sense',
+            5: 'they cross at a right angle',
+            6: 'skew',
+            7: 'A and B, or C and D, coincide, each coordinate within the tolerance',
+        },
+    },
+    "trv3sp": {
+        "status": {
+            0: 'they do not',
+            1: 'the triple product of B - A, D - C and F - E is above the tolerance, in the cube of the length unit',
+        },
+    },
+    "trv3ldb": {
+        "status": {
+            0: 'always',
+        },
+    },
+    "trv3lda": {
+        "status": {
+            0: 'always',
+        },
+    },
+    "trv3lni": {
+        "status": {
+            0: 'done, also for parallel lines',
+            3: 'the lines are the same, of the same sense',
+            4: 'the same, of opposite sense',
+            6: 'the lines are skew',
+            7: 'a direction is within the tolerance in each component',
+        },
+    },
+    "trvpli": {
+        "status": {
+            0: 'done',
+            3: 'the line is parallel to the plane: the cosine of u and the normal is within the tolerance',
+            4: 'u or the normal is within the tolerance in each component',
+        },
+    },
+    "trvplp": {
+        "position": {
+            1: 'general',
+            2: 'parallel to the x axis',
+            3: 'parallel to the y axis',
+            4: 'parallel to the z axis',
+            5: 'normal to the z axis',
+            6: 'normal to the x axis',
+            7: 'normal to the y axis',
+            8: 'the plane z = 0',
+            9: 'the plane x = 0',
+            10: 'the plane y = 0',
+        },
+    },
+    "trvpnl": {
+        "status": {
+            0: 'always',
+        },
+    },
+    "trvlpc": {
+        "status": {
+            0: 'not moved: the three points are not collinear, or Q1 is at P',
+            3: 'moved, Q1 and Q2 on one side of P',
+            4: 'moved, on either side of P',
+            6: 'moved, rounding takes the three for skew lines',
+            7: 'moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance',
+        },
+    },
+}
+
+
+class TrvcerResult(NamedTuple):
+    D: float
+    E: float
+    F: float
+
+
+_trvcer = Routine(
+    "trvcer", TrvcerResult,
+    "in real xc; in real yc; in real r; out real D; out real E; out real F",
+)
+
+
+def trvcer(
+    xc: float, yc: float, r: float
+) -> TrvcerResult:
+    """Circle from its centre and radius: D = -2*xc, E = -2*yc, F = xc*xc + yc*yc - r*r.
+
+    Retains: nothing.
+
+    Arguments:
+      xc, yc: centre
+      r: radius, of any sign
+
+    Returns:
+      D, E, F: circle
+    """
+    return _trvcer.cells(xc, yc, r, _NAN, _NAN, _NAN)
+
+
+class TrvlciResult(NamedTuple):
+    n: int
+    x1: float
+    y1: float
+    x2: float
+    y2: float
+
+
+_trvlci = Routine(
+    "trvlci", TrvlciResult,
+    "in real a; in real b; in real c; in real D; in real E; in real F; out int n; out real "
+    "x1; out real y1; out real x2; out real y2",
+)
+
+
+def trvlci(
+    a: float, b: float, c: float, D: float, E: float, F: float
+) -> TrvlciResult:
+    """Intersection of a line and a circle.
+
+    The line is solved for x where |a| is above the tolerance, else it is taken as horizontal. There
+    is one point when the discriminant of the quadratic is within the tolerance. It grows with the
+    fourth power of a and b and the square of the radius, so small circles are touched rather than
+    cut. A NaN discriminant gives two points with NaN.
+
+    Retains: nothing.
+
+    Arguments:
+      a, b, c: line a*x + b*y + c = 0
+      D, E, F: circle
+
+    Returns:
+      n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it
+      x1, y1: first point, of the larger root: the larger y, or the larger x where the line is
+        taken as horizontal; unwritten when n is 0
+      x2, y2: second point; unwritten when n is 0 or 1
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvlci.cells(a, b, c, D, E, F, 0, _NAN, _NAN, _NAN, _NAN)
+
+
+class Trvc12Result(NamedTuple):
+    n: int
+    x1: float
+    y1: float
+    x2: float
+    y2: float
+
+
+_trvc12 = Routine(
+    "trvc12", Trvc12Result,
+    "in real D1; in real E1; in real F1; in real D2; in real E2; in real F2; out int n; out "
+    "real x1; out real y1; out real x2; out real y2",
+)
+
+
+def trvc12(
+    D1: float, E1: float, F1: float, D2: float, E2: float, F2: float
+) -> Trvc12Result:
+    """Intersection of two circles: that of their radical line with the first circle (trvlci).
+
+    Retains: nothing.
+
+    Arguments:
+      D1, E1, F1: first circle
+      D2, E2, F2: second circle
+
+    Returns:
+      n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the
+        tolerance; 1 the circles touch; 2 they cut each other
+      x1, y1: first point, as of trvlci; unwritten when n is 0
+      x2, y2: second point; unwritten when n is 0 or 1
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvc12.cells(D1, E1, F1, D2, E2, F2, 0, _NAN, _NAN, _NAN, _NAN)
+
+
+class Trvcer2Result(NamedTuple):
+    xa: float
+    ya: float
+    xb: float
+    yb: float
+    xc: float
+    yc: float
+    n: int
+
+
+_trvcer2 = Routine(
+    "trvcer2", Trvcer2Result,
+    "in real x1; in real y1; in real x2; in real y2; in int side; in real r; out real xa; out "
+    "real ya; out real xb; out real yb; out real xc; out real yc; out int n",
+)
+
+
+def trvcer2(
+    x1: float, y1: float, x2: float, y2: float, side: int, r: float
+) -> Trvcer2Result:
+    """Centres of the circles of a radius through two points.
+
+    A horizontal chord (|y2 - y1| < 1e-5) writes both candidates and the choice but leaves n at 0;
+    its candidates' y are NaN where the radius is less than half the chord.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1: P1
+      x2, y2: P2
+      side: positive picks the candidate on the side of trvln3's normal of P1 and P2, negative
+        the other one, zero the first candidate
+      r: radius
+
+    Returns:
+      xa, ya: first candidate; unwritten when n is 0, unless the chord is horizontal
+      xb, yb: second candidate; likewise
+      xc, yc: chosen centre; likewise, and unwritten where a NaN decides
+      n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord,
+        the discriminant is NaN, or the chord is horizontal; 1 both candidates are the same
+        point; 2 two
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer2.cells(x1, y1, x2, y2, side, r, _NAN, _NAN, _NAN, _NAN, _NAN, _NAN, 0)
+
+
+class Trvcer1Result(NamedTuple):
+    r: float
+    xc: float
+    yc: float
+    n: int
+
+
+_trvcer1 = Routine(
+    "trvcer1", Trvcer1Result,
+    "in real x1; in real y1; in real x2; in real y2; in int side; in real h; out real r; out "
+    "real xc; out real yc; out int n",
+)
+
+
+def trvcer1(
+    x1: float, y1: float, x2: float, y2: float, side: int, h: float
+) -> Trvcer1Result:
+    """Circle through two points with a given sagitta.
+
+    r = d / (2*sin(pi - 2*atan(d / (2*h)))) for the chord d, which is h/2 + d*d/(8*h).
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1: P1
+      x2, y2: P2
+      side: positive picks the centre on the side of trvln3's normal of P1 and P2, negative the
+        other one, zero the first candidate of trvcer2
+      h: sagitta: height of the arc above the middle of the chord
+
+    Returns:
+      r: radius; unwritten when h < 1e-5
+      xc, yc: chosen centre; unwritten when n is 0, unless the chord is horizontal, or where a
+        NaN decides
+      n: number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less
+        than half the chord, the discriminant is NaN, or the chord is horizontal; 1 both
+        candidates are the same point; 2 two
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer1.cells(x1, y1, x2, y2, side, h, _NAN, _NAN, _NAN, 0)
+
+
+class TrvcinResult(NamedTuple):
+    position: int
+    x1: float
+    y1: float
+    x2: float
+    y2: float
+
+
+_trvcin = Routine(
+    "trvcin", TrvcinResult,
+    "in real X[2]; in real Y[2]; in real a; in real b; in real c; out int position; out real "
+    "x1; out real y1; out real x2; out real y2",
+    retains=True,
+)
+
+
+def trvcin(
+    X: ArrayLike, Y: ArrayLike, a: float, b: float, c: float
+) -> TrvcinResult:
+    """Classifies a circle cut by a line, with a trace.
+
+    The region is that of the centre's y, whatever the line; the line decides only whether the circle
+    is cut. Each call appends three lines to OUTPUT.TXT, in Windows-1253: a heading, the class, and
+    what it means, with the points of a cut circle.
+
+    The first call opens the file in the directory that is current then; it stays open, wherever the
+    current directory goes, until the library is unloaded. It is never emptied, and complete after
+    each call. The record of a call goes out in one write, behind what other processes append. Where
+    it cannot be written the call computes as always and the file is closed; the next call opens it
+    again and starts on a line of its own.
+
+    Retains: the open trace file.
+
+    Arguments:
+      X, Y: arrays of 2: the centre, then a point on the circle
+      a, b, c: line a*x + b*y + c = 0
+
+    Returns:
+      position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3 cut,
+        centre below it; 4 cut, centre on or above it
+      x1, y1: first intersection (trvlci); unwritten where the line misses the circle
+      x2, y2: second intersection; unwritten where it misses or touches the circle
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcin.call((X, Y, a, b, c,))
+
+
+class Trvcer3Status(IntEnum):
+    DONE = 1
+
+
+class Trvcer3Result(NamedTuple):
+    x: float
+    y: float
+    xr: float
+    yr: float
+    status: int
+
+
+_trvcer3 = Routine(
+    "trvcer3", Trvcer3Result,
+    "in real x0; in real y0; inout real x; inout real y; in real angle; out real xr; out real "
+    "yr; out int status",
+)
+
+
+def trvcer3(
+    x0: float, y0: float, x: float, y: float, angle: float
+) -> Trvcer3Result:
+    """Turns a point about a centre.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0: centre
+      x, y: point; comes back rounded by the way to the centre and back; relative to the centre
+        when status is 0
+      angle: angle in radians, counter-clockwise
+
+    Returns:
+      x, y: point; comes back rounded by the way to the centre and back; relative to the centre
+        when status is 0
+      xr, yr: turned point; unwritten when status is 0
+      status: 1 done; 0 the point's distance from the centre is within the tolerance
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer3.cells(x0, y0, angle, x, y, _NAN, _NAN, 0)
+
+
+class Trvcer8Status(IntEnum):
+    DONE = 1
+
+
+class Trvcer8Result(NamedTuple):
+    x: float
+    y: float
+    status: int
+
+
+_trvcer8 = Routine(
+    "trvcer8", Trvcer8Result,
+    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; in "
+    "real d; out real x; out real y; out int status",
+    retains=True,
+)
+
+
+def trvcer8(
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, side: int, d: float
+) -> Trvcer8Result:
+    """Point of an arc above a station of its chord, perpendicular to the chord.
+
+    Lengths are compared with 0.001. Where the perpendicular touches the circle (trvlci), the second
+    intersection is that of an earlier call; where it misses it, both are.
+
+    Retains: both intersections, shared with no routine, zero after loading.
+
+    Arguments:
+      xc, yc: centre C
+      xa, ya: first end A
+      xb, yb: second end B
+      side: with the first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
+        negative, else the other one
+      d: station: distance from A along the chord
+
+    Returns:
+      x, y: point; unwritten when status is 0
+      status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by
+        more, or the station is not farther than that from both ends
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer8.cells(xc, yc, xa, ya, xb, yb, side, d, _NAN, _NAN, 0)
+
+
+class Trvcer6Status(IntEnum):
+    DONE = 1
+
+
+class Trvcer6Result(NamedTuple):
+    x: float
+    y: float
+    status: int
+
+
+_trvcer6 = Routine(
+    "trvcer6", Trvcer6Result,
+    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; in "
+    "real d; out real x; out real y; out int status",
+    retains=True,
+)
+
+
+def trvcer6(
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, side: int, d: float
+) -> Trvcer6Result:
+    """Point of an arc on the line from its centre through a station of its chord.
+
+    Lengths are compared with 0.001. Where the line touches the circle (trvlci), the second
+    intersection is that of an earlier call; where it misses it, both are. Where the station is at
+    the centre there is no line, and the point is the second intersection of an earlier call.
+
+    Retains: both intersections, shared with no routine, zero after loading.
+
+    Arguments:
+      xc, yc: centre C
+      xa, ya: first end A
+      xb, yb: second end B
+      side: with the first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
+        negative, else the other one
+      d: station: distance from A along the chord
+
+    Returns:
+      x, y: point; unwritten when status is 0
+      status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by
+        more, the station is not farther than that from both ends, or d is closer than that to
+        the diameter
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer6.cells(xc, yc, xa, ya, xb, yb, side, d, _NAN, _NAN, 0)
+
+
+class Trvcer9Status(IntEnum):
+    DONE = 1
+
+
+class Trvcer9Result(NamedTuple):
+    x1: float
+    y1: float
+    x2: float
+    y2: float
+    status: int
+
+
+_trvcer9 = Routine(
+    "trvcer9", Trvcer9Result,
+    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; in "
+    "real d; in real w; out real x1; out real y1; out real x2; out real y2; out int status",
+    retains=True,
+)
+
+
+def trvcer9(
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, side: int, d: float, w:
+    float
+) -> Trvcer9Result:
+    """Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
+
+    Lengths are compared with 0.001. Both edges share one pair of intersections: where a
+    perpendicular touches the circle (trvlci), the second intersection is that of the edge or the
+    call before; where it misses it, both are.
+
+    Retains: both intersections, shared with no routine, zero after loading.
+
+    Arguments:
+      xc, yc: centre C
+      xa, ya: first end A
+      xb, yb: second end B
+      side: with an edge's first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
+        negative, else the other one
+      d: station of the strip's middle: distance from A along the chord
+      w: width of the strip
+
+    Returns:
+      x1, y1: point above the station d - w/2; unwritten when status is 0
+      x2, y2: point above the station d + w/2; unwritten when status is 0
+      status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is at
+        most 0.001, the radii of A and B differ by more, or the strip comes closer than that to
+        an end of the chord
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer9.cells(xc, yc, xa, ya, xb, yb, side, d, w, _NAN, _NAN, _NAN, _NAN, 0)
+
+
+class Trvarc1Status(IntEnum):
+    DONE = 1
+
+
+class Trvarc1Result(NamedTuple):
+    s1: float
+    s2: float
+    status: int
+
+
+_trvarc1 = Routine(
+    "trvarc1", Trvarc1Result,
+    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; out real s1; out "
+    "real s2; out int status",
+)
+
+
+def trvarc1(
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float
+) -> Trvarc1Result:
+    """Lengths of the two arcs between two points of a circle.
+
+    Retains: nothing.
+
+    Arguments:
+      xc, yc: centre
+      xa, ya: A; its distance from the centre is the radius
+      xb, yb: B
+
+    Returns:
+      s1: length of the shorter arc: the angle at C (trvphi3) times the radius; unwritten when
+        status is 0
+      s2: length of the longer arc; unwritten when status is 0
+      status: 1 done; 0 the radius, or the distance of A and B, is within the tolerance
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvarc1.cells(xc, yc, xa, ya, xb, yb, _NAN, _NAN, 0)
+
+
+_trvaxph = Routine(
+    "trvaxph", None,
+    "in real dx; in real dy; out real phi",
+)
+
+
+def trvaxph(
+    dx: float, dy: float
+) -> float:
+    """Signed angle of a direction against the x axis.
+
+    Retains: nothing.
+
+    Arguments:
+      dx, dy: direction
+
+    Returns:
+      phi: angle in radians in [-pi, pi]: negative where dy is below -1e-5, positive or zero
+        elsewhere; 0 where the direction's length is within the tolerance
+    """
+    return _trvaxph.cells(dx, dy, _NAN)
+
+
+class TrvhinResult(NamedTuple):
+    h0: float
+    s0: float
+    h3: float
+    s3: float
+    len_: float
+
+
+_trvhin = Routine(
+    "trvhin", TrvhinResult,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; in real x3; in real y3; in real z3; out real h0; out real s0; out "
+    "real h3; out real s3; out real len_",
+)
+
+
+def trvhin(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float, x3: float, y3: float, z3: float
+) -> TrvhinResult:
+    """Distances and stations of two points against a segment.
+
+    Distances are taken from the segment's line in the plane of x and y, lengths in space. A distance
+    greater than the length it belongs to gives a NaN station.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0, z0: P0
+      x1, y1, z1: P1, start of the segment
+      x2, y2, z2: P2, end of the segment
+      x3, y3, z3: P3
+
+    Returns:
+      h0: distance of P0 from the line
+      s0: station of P0's foot: sqrt(|P0 - P1|^2 - h0^2), from P1
+      h3: distance of P3 from the line
+      s3: station of P3's foot: len - sqrt(|P3 - P2|^2 - h3^2), from P1
+      len_: length of the segment
+    """
+    return _trvhin.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, x3, y3, z3, _NAN, _NAN, _NAN, _NAN,
+        _NAN)
+
+
+_trvapp = Routine(
+    "trvapp", None,
+    "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; in int n = X Y; "
+    "in real X[n]; in real Y[n]; out int mark[n]",
+    retains=True,
+)
+
+
+def trvapp(
+    x0: float, y0: float, x1: float, y1: float, x2: float, y2: float, X: ArrayLike, Y:
+    ArrayLike, *, n: int | None = None
+) -> NDArray[int32]:
+    """Marks points by a sector.
+
+    A point is outside where its signed distances from the rays' lines (trvln3, trvlds) have opposite
+    signs, or where its foot on the first line lies beyond the vertex (trvpsl). A NaN in a point puts
+    it inside, one in the vertex or the first ray all points; with one in the second ray the foot
+    decides alone. Takes time in proportion to n.
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      x0, y0: vertex P0
+      x1, y1: point on the first ray
+      x2, y2: point on the second ray
+      n: number of points
+      X, Y: arrays of n: points
+
+    Returns:
+      mark: array of n: 1 inside; 2 outside; -1 no sector: the rays' angle is within the
+        tolerance, which it is for all points alike
+    """
+    return _trvapp.call((x0, y0, x1, y1, x2, y2, n, X, Y,))
+
+
+class Trvcer4Status(IntEnum):
+    DONE = 1
+
+
+class Trvcer4Result(NamedTuple):
+    xc: float
+    yc: float
+    xa: float
+    ya: float
+    xb: float
+    yb: float
+    xo: float
+    yo: float
+    status: int
+
+
+_trvcer4 = Routine(
+    "trvcer4", Trvcer4Result,
+    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; inout real "
+    "yb; in real s; in real angle; out real xo; out real yo; out int status",
+    retains=True,
+)
+
+
+def trvcer4(
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, angle: float
+) -> Trvcer4Result:
+    """Point of an arc on a line through a station of its chord.
+
+    Of the two points in which the line meets the circle, the one across the chord from the centre;
+    points on the chord count as across. A line that misses the circle is not refused: the result of
+    an earlier call stands, as if it had been found in this chord's frame, and is carried out of it.
+
+    Retains: the point, shared with no routine, zero after loading.
+
+    Arguments:
+      xc, yc: centre C; rewritten with its value to rounding when status is 1
+      xa, ya: first end A; likewise
+      xb, yb: second end B; likewise
+      s: station: distance from A along the chord, beyond its ends too
+      angle: direction of the line in radians, measured from the chord A to B, counter-clockwise
+        (trvln1)
+
+    Returns:
+      xc, yc: centre C; rewritten with its value to rounding when status is 1
+      xa, ya: first end A; likewise
+      xb, yb: second end B; likewise
+      xo, yo: point; unwritten when status is 0
+      status: 1 done; 0 the radius or the chord is within the tolerance, the radii of A and B
+        differ by more, A and B coincide, or the line touches the circle
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer4.cells(s, angle, xc, yc, xa, ya, xb, yb, _NAN, _NAN, 0)
+
+
+class Trvcer10Status(IntEnum):
+    LINE_RUNS_ALONG_THE_CHORD = 1
+
+
+class Trvcer10Result(NamedTuple):
+    xc: float
+    yc: float
+    xa: float
+    ya: float
+    xb: float
+    yb: float
+    xo: float
+    yo: float
+    status: int
+
+
+_trvcer10 = Routine(
+    "trvcer10", Trvcer10Result,
+    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; inout real "
+    "yb; in real turn; in real angle; out real xo; out real yo; out int status",
+    retains=True,
+)
+
+
+def trvcer10(
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, turn: float, angle: float
+) -> Trvcer10Result:
+    """Crossing of an arc's chord with a line through its turned end.
+
+    A is turned about the centre; the line runs through the turned point. Where it is parallel to the
+    chord, or along it, the crossing of an earlier call stands, in the chord's frame.
+
+    Retains: the crossing, shared with no routine, zero after loading; and the cosine of the
+    three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      xc, yc: centre C; rewritten with its value to rounding unless refused
+      xa, ya: first end A; likewise
+      xb, yb: second end B; likewise
+      turn: angle in radians by which A is turned about C, counter-clockwise
+      angle: direction of the line in radians, measured from the chord A to B, counter-clockwise
+        (trvln1)
+
+    Returns:
+      xc, yc: centre C; rewritten with its value to rounding unless refused
+      xa, ya: first end A; likewise
+      xb, yb: second end B; likewise
+      xo, yo: crossing; unwritten when refused
+      status: 0 refused: the radius or the chord is within the tolerance, or the radii of A and
+        B differ by more, but also a crossing, and a retained one that is on the chord's line
+        but not at A or B (trvpsl above 2); 1 the line runs along the chord; 2 it is parallel to
+        it
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer10.cells(turn, angle, xc, yc, xa, ya, xb, yb, _NAN, _NAN, 0)
+
+
+class Trvcer5Status(IntEnum):
+    DONE = 1
+
+
+class Trvcer5Result(NamedTuple):
+    xc: float
+    yc: float
+    xa: float
+    ya: float
+    xb: float
+    yb: float
+    xo: float
+    yo: float
+    status: int
+
+
+_trvcer5 = Routine(
+    "trvcer5", Trvcer5Result,
+    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; inout real "
+    "yb; in real s; in int side; in real e; out real xo; out real yo; out int status",
+    retains=True,
+)
+
+
+def trvcer5(
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int, e:
+    float
+) -> Trvcer5Result:
+    """Point of an arc on the line from a station of its chord towards the sagitta.
+
+    T is at the distance e from the chord's middle towards the arc's middle point. Of the two points
+    in which the line from the station through T meets the circle, the one on T's side of the chord.
+    A line that misses the circle is not refused: the result of an earlier call stands, as if it had
+    been found in this chord's frame, and is carried out of it. Where A and B, or the chord's middle
+    and the arc's, agree within the tolerance in each coordinate yet lie farther apart, the station,
+    or T, of an earlier call stands.
+
+    Retains: the station, T and the point, shared with no routine, zero after loading.
+
+    Arguments:
+      xc, yc: centre C; rewritten with its value to rounding when status is 1
+      xa, ya: first end A; likewise, and also when the line touches the circle
+      xb, yb: second end B; likewise when status is 1
+      s: station: distance from A along the chord, not negative
+      side: factor of the half angle that turns A clockwise to the arc's middle point
+      e: distance of T from the chord
+
+    Returns:
+      xc, yc: centre C; rewritten with its value to rounding when status is 1
+      xa, ya: first end A; likewise, and also when the line touches the circle
+      xb, yb: second end B; likewise when status is 1
+      xo, yo: point; unwritten when status is 0
+      status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is at
+        most 1e-5, or the radii of A and B differ by more, or the line touches the circle
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer5.cells(s, side, e, xc, yc, xa, ya, xb, yb, _NAN, _NAN, 0)
+
+
+class Trvcer7Status(IntEnum):
+    REFUSED = 0
+    DONE = 1
+
+
+class Trvcer7Result(NamedTuple):
+    xc: float
+    yc: float
+    xa: float
+    ya: float
+    xb: float
+    yb: float
+    xp: float
+    yp: float
+    xt: float
+    yt: float
+    xo: float
+    yo: float
+    len_: float
+    status: int
+
+
+_trvcer7 = Routine(
+    "trvcer7", Trvcer7Result,
+    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; inout real "
+    "yb; in real s; in int side; in real e; in real angle; out real xp; out real yp; out real "
+    "xt; out real yt; out real xo; out real yo; out real len_; out int status",
+)
+
+
+def trvcer7(
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int, e:
+    float, angle: float
+) -> Trvcer7Result:
+    """Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
+    chord.
+
+    T is on the parallel at the distance e from the chord on the given side, O on the circle on that
+    side. Formed in double precision and rounded once. Lengths, and the sine of the angle, are
+    compared with 1e-4; radii may differ by the rounding of the coordinates besides, 3.6e-7 times the
+    largest coordinate of the arc. A NaN is refused.
+
+    Retains: nothing.
+
+    Arguments:
+      xc, yc: centre C; comes back as it went in
+      xa, ya: first end A; likewise
+      xb, yb: second end B; likewise
+      s: station: distance from A along the chord, not negative
+      side: only its sign counts: positive picks the left of the chord A to B, to which
+        clockwise from A the circle runs; negative the right
+      e: distance of the parallel from the chord, not negative; 0 puts T at P
+      angle: direction of the line in radians, measured from the chord A to B,
+        counter-clockwise; the line runs both ways
+
+    Returns:
+      xc, yc: centre C; comes back as it went in
+      xa, ya: first end A; likewise
+      xb, yb: second end B; likewise
+      xp, yp: station P; unwritten when status is 0
+      xt, yt: crossing T with the parallel; unwritten when status is 0
+      xo, yo: crossing O with the circle about C through A; unwritten when status is 0
+      len_: length of PO; unwritten when status is 0
+      status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest beyond s is
+        at most 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line
+        is parallel to the chord, or it cuts less than twice 1e-4 off the circle
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvcer7.cells(s, side, e, angle, xc, yc, xa, ya, xb, yb, _NAN, _NAN, _NAN, _NAN,
+        _NAN, _NAN, _NAN, 0)
+
+
+class TrvardStatus(IntEnum):
+    REFUSED = 0
+    DONE = 1
+
+
+class TrvardResult(NamedTuple):
+    xc: float
+    yc: float
+    xt1: float
+    yt1: float
+    xt2: float
+    yt2: float
+    status: int
+
+
+_trvard = Routine(
+    "trvard", TrvardResult,
+    "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; in real r; out "
+    "real xc; out real yc; out real xt1; out real yt1; out real xt2; out real yt2; out int "
+    "status",
+)
+
+
+def trvard(
+    x0: float, y0: float, x1: float, y1: float, x2: float, y2: float, r: float
+) -> TrvardResult:
+    """Rounds the corner at P0 between the segments to P1 and to P2.
+
+    Formed in double precision and rounded once.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0: corner P0
+      x1, y1: P1
+      x2, y2: P2
+      r: radius
+
+    Returns:
+      xc, yc: centre of the arc; unwritten when status is 0
+      xt1, yt1: where the arc touches the segment to P1; unwritten when status is 0
+      xt2, yt2: where it touches the segment to P2; unwritten when status is 0
+      status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine of the
+        angle between the segments is within it, or the arc touches one beyond its end by more
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvard.cells(x0, y0, x1, y1, x2, y2, r, _NAN, _NAN, _NAN, _NAN, _NAN, _NAN, 0)
+
+
+class TrvenvResult(NamedTuple):
+    xmin: float
+    ymin: float
+    xmax: float
+    ymax: float
+
+
+_trvenv = Routine(
+    "trvenv", TrvenvResult,
+    "in real xc; in real yc; in real xa; in real ya; in real sweep; out real xmin; out real "
+    "ymin; out real xmax; out real ymax",
+)
+
+
+def trvenv(
+    xc: float, yc: float, xa: float, ya: float, sweep: float
+) -> TrvenvResult:
+    """Bounding box of the arc that a point sweeps about a centre.
+
+    Formed in double precision and rounded once. A NaN in any input makes all outputs NaN.
+
+    Retains: nothing.
+
+    Arguments:
+      xc, yc: centre
+      xa, ya: start of the arc
+      sweep: angle in radians, counter-clockwise when positive; from 2*pi on, either way, the
+        full circle
+
+    Returns:
+      xmin, ymin: lower left corner
+      xmax, ymax: upper right corner
+    """
+    return _trvenv.cells(xc, yc, xa, ya, sweep, _NAN, _NAN, _NAN, _NAN)
+
+
+_trvord = Routine(
+    "trvord", None,
+    "inout real V[n]; in int n = V",
+    retains=True,
+)
+
+
+def trvord(
+    V: ArrayLike, *, n: int | None = None, in_place: bool = False
+) -> NDArray[float32]:
+    """Sorts Reals ascending, in place.
+
+    A selection sort whose last smallest entry wins: only the signs of equal zeros and the places of
+    NaNs tell. A NaN is never smaller and stays where it is when its turn comes. Quadratic in n.
+
+    Arguments:
+      V: array of n
+      n: number of entries; below 1 nothing happens
+
+    Returns:
+      V: array of n
+    """
+    return _trvord.call((V, n,), in_place)
+
+
+_trvord1 = Routine(
+    "trvord1", None,
+    "inout int V[n]; in int n = V",
+    retains=True,
+)
+
+
+def trvord1(
+    V: ArrayLike, *, n: int | None = None, in_place: bool = False
+) -> NDArray[int32]:
+    """Sorts Integers ascending, in place. Quadratic in n.
+
+    Arguments:
+      V: array of n
+      n: number of entries; below 1 nothing happens
+
+    Returns:
+      V: array of n
+    """
+    return _trvord1.call((V, n,), in_place)
+
+
+_trvordi = Routine(
+    "trvordi", None,
+    "in real V[n]; in int n = V; out int IDX[n]",
+    retains=True,
+)
+
+
+def trvordi(
+    V: ArrayLike, *, n: int | None = None
+) -> NDArray[int32]:
+    """Positions of the entries of a list in ascending order; the list itself stays.
+
+    Equal entries are listed from the highest position to the lowest. An entry that is found is
+    marked by the largest value plus 1: where that sum rounds to the largest value (16777216 and
+    beyond), a position may be repeated. Quadratic in n; allocates n Reals for the call.
+
+    Arguments:
+      V: array of n
+      n: number of entries
+
+    Returns:
+      IDX: array of n: IDX(k) is the position of the k-th smallest entry; unwritten when n < 1
+        or memory is short; IDX(k) alone is unwritten when no entry compares (NaN)
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvordi.call((V, n,))
+
+
+class TrvporStatus(IntEnum):
+    ORDERED = 0
+
+
+class TrvporResult(NamedTuple):
+    IDX: NDArray[int32]
+    status: int
+
+
+_trvpor = Routine(
+    "trvpor", TrvporResult,
+    "in int n = A B C; in real A[n]; in real B[n]; in real C[n]; out int IDX[n]; out int "
+    "status",
+    retains=True,
+)
+
+
+def trvpor(
+    A: ArrayLike, B: ArrayLike, C: ArrayLike, *, n: int | None = None
+) -> TrvporResult:
+    """Order of parallel lines by where they cross an axis.
+
+    That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the y
+    axis and apart from it. Parallel and distinct is what trvlni finds between the first line and
+    each other one.
+
+    Arguments:
+      n: number of lines
+      A, B, C: arrays of n: lines A*x + B*y + C = 0
+
+    Returns:
+      IDX: array of n: positions by ascending crossing, equal ones from the highest position
+        down (trvordi); 1 ... n when status is -1; unwritten when n < 1, or when memory is short
+        for an order
+      status: 0 ordered; -1 not a family of parallel and distinct lines, or n < 1
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvpor.call((n, A, B, C,))
+
+
+class TrvorvResult(NamedTuple):
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    Z: NDArray[float32]
+    ORD: NDArray[int32]
+
+
+_trvorv = Routine(
+    "trvorv", TrvorvResult,
+    "inout real X[4]; inout real Y[4]; inout real Z[4]; out int ORD[4]",
+    retains=True,
+)
+
+
+def trvorv(
+    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, *, in_place: bool = False
+) -> TrvorvResult:
+    """Puts the corners of a quadrilateral of space in cyclic order, in place.
+
+    An order stands when the two triangles on its diagonal from the first corner turn the same way,
+    or one of them is degenerate. Tried are (1, 2, 3, 4), then (1, 2, 4, 3); else it is (1, 4, 2, 3).
+
+    Arguments:
+      X, Y, Z: arrays of 4: corners, rearranged
+
+    Returns:
+      X, Y, Z: arrays of 4: corners, rearranged
+      ORD: array of 4: the corners' old positions in their new order
+    """
+    return _trvorv.call((X, Y, Z,), in_place)
+
+
+class Trvmer1Result(NamedTuple):
+    nout: int
+    OUT: NDArray[int32]
+
+
+_trvmer1 = Routine(
+    "trvmer1", Trvmer1Result,
+    "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; out int "
+    "OUT[na+nb]",
+    retains=True,
+)
+
+
+def trvmer1(
+    A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None
+) -> Trvmer1Result:
+    """Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
+
+    Arguments:
+      na: number of entries of A
+      A: array of na
+      nb: number of entries of B
+      B: array of nb
+
+    Returns:
+      nout: number of entries written
+      OUT: array of na+nb: A, then B
+    """
+    return _trvmer1.call((na, A, nb, B,))
+
+
+class Trvmer11Result(NamedTuple):
+    nout: int
+    OUT: NDArray[int32]
+
+
+_trvmer11 = Routine(
+    "trvmer11", Trvmer11Result,
+    "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; out int "
+    "OUT[na+nb]",
+    retains=True,
+)
+
+
+def trvmer11(
+    A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None
+) -> Trvmer11Result:
+    """Joins two lists end to end: trvmer1 under another name.
+
+    Arguments:
+      na: number of entries of A
+      A: array of na
+      nb: number of entries of B
+      B: array of nb
+
+    Returns:
+      nout: number of entries written
+      OUT: array of na+nb: A, then B
+    """
+    return _trvmer11.call((na, A, nb, B,))
+
+
+class Trvmer4Result(NamedTuple):
+    nout: int
+    OUT: NDArray[float32]
+    IB: NDArray[int32]
+
+
+_trvmer4 = Routine(
+    "trvmer4", Trvmer4Result,
+    "in int na = A; in real A[na]; in int nb = B; in real B[nb]; in real tol; out int nout; "
+    "out real OUT[na+nb]; out int IB[nb]",
+    retains=True,
+)
+
+
+def trvmer4(
+    A: ArrayLike, B: ArrayLike, tol: float, *, na: int | None = None, nb: int | None = None
+) -> Trvmer4Result:
+    """Joins to a list those entries of another that it does not hold yet.
+
+    Arguments:
+      na: number of entries of A
+      A: array of na
+      nb: number of entries of B
+      B: array of nb
+      tol: largest difference of equal entries, itself included
+
+    Returns:
+      nout: number of entries written
+      OUT: array of na+nb: A, then the entries of B that agree with none before them
+      IB: array of nb: for each entry of B the first position in OUT that agrees with it
+    """
+    return _trvmer4.call((na, A, nb, B, tol,))
+
+
+class Trvmer15Result(NamedTuple):
+    na: int
+    A: NDArray[int32]
+    count_: int
+
+
+_trvmer15 = Routine(
+    "trvmer15", Trvmer15Result,
+    "inout int na = A; inout int A[na, na used]; in int nb = B; in int B[nb]; out int count_",
+    retains=True,
+)
+
+
+def trvmer15(
+    A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None, in_place: bool
+    = False
+) -> Trvmer15Result:
+    """Removes from a list the entries that another holds, in place.
+
+    Arguments:
+      na: number of entries of A
+      A: array of na: those that stay, in their order; unspecified beyond the new na
+      nb: number of entries of B
+      B: array of nb
+
+    Returns:
+      na: number of entries of A
+      A: array of na: those that stay, in their order; unspecified beyond the new na
+      count_: how many were removed
+    """
+    return _trvmer15.call((na, A, nb, B,), in_place)
+
+
+class Trvmer16Result(NamedTuple):
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    n: int
+
+
+_trvmer16 = Routine(
+    "trvmer16", Trvmer16Result,
+    "inout real X[n, n used]; inout real Y[n, n used]; inout int n = X Y; in real tol",
+    retains=True,
+)
+
+
+def trvmer16(
+    X: ArrayLike, Y: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
+) -> Trvmer16Result:
+    """Drops repeated vertices of a closed outline, in place.
+
+    A point that agrees with the last one kept is dropped, and at the end those that agree with the
+    first.
+
+    Arguments:
+      X, Y: arrays of n: vertices; unspecified beyond the new n
+      n: number of vertices; below 1 nothing happens
+      tol: largest difference of either coordinate of a repeat, itself included
+
+    Returns:
+      X, Y: arrays of n: vertices; unspecified beyond the new n
+      n: number of vertices; below 1 nothing happens
+    """
+    return _trvmer16.call((X, Y, n, tol,), in_place)
+
+
+_trvpds = Routine(
+    "trvpds", None,
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; out real d",
+)
+
+
+def trvpds(
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float
+) -> float:
+    """Distance between two points.
+
+    d = sqrt((dx*dx + dy*dy) + dz*dz). For a distance in the plane pass z1 = z2.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1, z1: first point
+      x2, y2, z2: second point
+
+    Returns:
+      d: distance
+    """
+    return _trvpds.cells(x1, y1, z1, x2, y2, z2, _NAN)
+
+
+_trvpri = Routine(
+    "trvpri", None,
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; in "
+    "real y3; in real z3; in real x4; in real y4; in real z4; out real s",
+)
+
+
+def trvpri(
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float, z3:
+    float, x4: float, y4: float, z4: float
+) -> float:
+    """Dot product of the difference vectors P2 - P1 and P4 - P3.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+      x3, y3, z3: P3
+      x4, y4, z4: P4
+
+    Returns:
+      s: dot product, in the square of the length unit
+    """
+    return _trvpri.cells(x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4, _NAN)
+
+
+_trvpre = Routine(
+    "trvpre", None,
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; in "
+    "real y3; in real z3; in real x4; in real y4; in real z4; out real c[3]",
+)
+
+
+def trvpre(
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float, z3:
+    float, x4: float, y4: float, z4: float
+) -> NDArray[float32]:
+    """Cross product (P2 - P1) x (P4 - P3).
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+      x3, y3, z3: P3
+      x4, y4, z4: P4
+
+    Returns:
+      c: array of 3: components of the product, in the square of the length unit
+    """
+    return _trvpre.call((x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4,))
+
+
+class TrvcntStatus(IntEnum):
+    EACH_DIFFERENCE_IS_WITHIN_THE_TOLERANCE = 1
+
+
+class TrvcntResult(NamedTuple):
+    dx: float
+    dy: float
+    dz: float
+    status: int
+
+
+_trvcnt = Routine(
+    "trvcnt", TrvcntResult,
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; out real dx; out "
+    "real dy; out real dz; out int status",
+)
+
+
+def trvcnt(
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float
+) -> TrvcntResult:
+    """Difference vector of two points, and whether they coincide.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1, z1: first point
+      x2, y2, z2: second point
+
+    Returns:
+      dx, dy, dz: second point minus first; always written
+      status: 1 each difference is within the tolerance; 0 otherwise
+    """
+    return _trvcnt.cells(x1, y1, z1, x2, y2, z2, _NAN, _NAN, _NAN, 0)
+
+
+class Trvcnt1Status(IntEnum):
+    ALL_COMPONENTS_ARE_ZERO_OF_EITHER_SIGN = 1
+
+
+_trvcnt1 = Routine(
+    "trvcnt1", None,
+    "in real dx; in real dy; in real dz; out int status",
+)
+
+
+def trvcnt1(
+    dx: float, dy: float, dz: float
+) -> int:
+    """Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.
+
+    Retains: nothing.
+
+    Arguments:
+      dx, dy, dz: vector
+
+    Returns:
+      status: 1 all components are zero of either sign; 0 otherwise (a NaN included)
+    """
+    return _trvcnt1.cells(dx, dy, dz, 0)
+
+
+class Trv123Status(IntEnum):
+    DONE = 0
+    P1_AND_P2_COINCIDE_WITHIN_THE_TOLERANCE = 1
+
+
+class Trv123Result(NamedTuple):
+    x: float
+    y: float
+    z: float
+    status: int
+
+
+_trv123 = Routine(
+    "trv123", Trv123Result,
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real t; out "
+    "real x; out real y; out real z; out int status",
+)
+
+
+def trv123(
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, t: float
+) -> Trv123Result:
+    """Point P1 + t*(P2 - P1) on the line through two points.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1, z1: P1, found at t = 0
+      x2, y2, z2: P2, found at t = 1
+      t: fraction of the segment, not a length; any value
+
+    Returns:
+      x, y, z: point; unwritten when status is 1
+      status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt)
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trv123.cells(x1, y1, z1, x2, y2, z2, t, _NAN, _NAN, _NAN, 0)
+
+
+class TrvmedResult(NamedTuple):
+    xm: float
+    ym: float
+    zm: float
+
+
+_trvmed = Routine(
+    "trvmed", TrvmedResult,
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; out real xm; out "
+    "real ym; out real zm",
+)
+
+
+def trvmed(
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float
+) -> TrvmedResult:
+    """Midpoint of two points.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1, z1: first point
+      x2, y2, z2: second point
+
+    Returns:
+      xm, ym, zm: midpoint
+    """
+    return _trvmed.cells(x1, y1, z1, x2, y2, z2, _NAN, _NAN, _NAN)
+
+
+_trvdtr2 = Routine(
+    "trvdtr2", None,
+    "in real a; in real b; in real c; in real d; out real det",
+)
+
+
+def trvdtr2(
+    a: float, b: float, c: float, d: float
+) -> float:
+    """Determinant of the 2 x 2 matrix with rows (a, b) and (c, d).
+
+    Retains: nothing.
+
+    Arguments:
+      a, b, c, d: elements, row by row
+
+    Returns:
+      det: a*d - b*c
+    """
+    return _trvdtr2.cells(a, b, c, d, _NAN)
+
+
+_trvdtr3 = Routine(
+    "trvdtr3", None,
+    "in real a1; in real a2; in real a3; in real b1; in real b2; in real b3; in real c1; in "
+    "real c2; in real c3; out real det",
+)
+
+
+def trvdtr3(
+    a1: float, a2: float, a3: float, b1: float, b2: float, b3: float, c1: float, c2: float, c3:
+    float
+) -> float:
+    """Determinant of a 3 x 3 matrix, expanded along its first row.
+
+    Retains: nothing.
+
+    Arguments:
+      a1, a2, a3: first row
+      b1, b2, b3: second row
+      c1, c2, c3: third row
+
+    Returns:
+      det: determinant
+    """
+    return _trvdtr3.cells(a1, a2, a3, b1, b2, b3, c1, c2, c3, _NAN)
+
+
+class TrvgrcResult(NamedTuple):
+    q1: float
+    q2: float
+
+
+_trvgrc = Routine(
+    "trvgrc", TrvgrcResult,
+    "in real a; in real b; in real c; out real q1; out real q2",
+)
+
+
+def trvgrc(
+    a: float, b: float, c: float
+) -> TrvgrcResult:
+    """Divides two coefficients by a third, or gives zeros where it vanishes.
+
+    The first quotient is that of the last coefficient, the second that of the middle one.
+
+    Retains: nothing.
+
+    Arguments:
+      a, b, c: coefficients of a relation, a leading
+
+    Returns:
+      q1: c/a, or 0 when a is within the tolerance or NaN
+      q2: b/a, or 0 likewise
+    """
+    return _trvgrc.cells(a, b, c, _NAN, _NAN)
+
+
+_trvint = Routine(
+    "trvint", None,
+    "in real x1; in real x2; in real y1; in real y2; in real x; out real y",
+)
+
+
+def trvint(
+    x1: float, x2: float, y1: float, y2: float, x: float
+) -> float:
+    """Linear interpolation, or extrapolation, through two samples.
+
+    y = ((y2 - y1)*(x - x1)) / (x2 - x1) + y1.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, x2: abscissas of the samples
+      y1, y2: ordinates of the samples
+      x: abscissa asked for
+
+    Returns:
+      y: ordinate; infinite or NaN where x1 = x2
+    """
+    return _trvint.cells(x1, x2, y1, y2, x, _NAN)
+
+
+class TrvvinStatus(IntEnum):
+    V_IS_POSITIVE = 1
+
+
+_trvvin = Routine(
+    "trvvin", None,
+    "in real u1; in real v; in real u3; in real u4; in real u5; out int status",
+)
+
+
+def trvvin(
+    u1: float, v: float, u3: float, u4: float, u5: float
+) -> int:
+    """Sign of a value.
+
+    Retains: nothing.
+
+    Arguments:
+      u1: ignored, as u3, u4 and u5 are
+      v: value
+      u3, u4, u5: ignored
+
+    Returns:
+      status: 1 v is positive; 2 v is zero, negative or NaN
+    """
+    return _trvvin.cells(u1, v, u3, u4, u5, 0)
+
+
+_trvpos = Routine(
+    "trvpos", None,
+    "in int n = A; in real A[n]; in real x; out int i",
+)
+
+
+def trvpos(
+    A: ArrayLike, x: float, *, n: int | None = None
+) -> int:
+    """Interval of an ascending table that holds a value.
+
+    Retains: nothing.
+
+    Arguments:
+      n: number of entries
+      A: array of n: entries, ascending
+      x: value
+
+    Returns:
+      i: first i with A(i) <= x < A(i+1); 0 when there is none, as for x = A(n)
+    """
+    return _trvpos.call((n, A, x,))
+
+
+class Trvpos1Result(NamedTuple):
+    status: int
+    i: int
+
+
+_trvpos1 = Routine(
+    "trvpos1", Trvpos1Result,
+    "in int n = A; in real A[n]; in real x; out int status; out int i",
+)
+
+
+def trvpos1(
+    A: ArrayLike, x: float, *, n: int | None = None
+) -> Trvpos1Result:
+    """Entry of an ascending table that equals a value, or the interval that holds it.
+
+    An equal entry anywhere in the table goes before an interval.
+
+    Retains: nothing.
+
+    Arguments:
+      n: number of entries
+      A: array of n: entries, ascending
+      x: value
+
+    Returns:
+      status: 1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither
+      i: first such position; 0 when status is 0
+    """
+    return _trvpos1.call((n, A, x,))
+
+
+class Trvln3Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+
+
+_trvln3 = Routine(
+    "trvln3", Trvln3Result,
+    "in real x1; in real y1; in real x2; in real y2; out real a; out real b; out real c",
+)
+
+
+def trvln3(
+    x1: float, y1: float, x2: float, y2: float
+) -> Trvln3Result:
+    """Line through two points.
+
+    a = y2 - y1, b = 0 - (x2 - x1), c = y1*x2 - y2*x1: the normal (a, b) points to the right of the
+    direction from P1 to P2 and is as long as the segment.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1: P1
+      x2, y2: P2
+
+    Returns:
+      a, b, c: line; all zero where the points are equal
+    """
+    return _trvln3.cells(x1, y1, x2, y2, _NAN, _NAN, _NAN)
+
+
+class Trvln1Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+
+
+_trvln1 = Routine(
+    "trvln1", Trvln1Result,
+    "in real x0; in real y0; in real phi; out real a; out real b; out real c",
+)
+
+
+def trvln1(
+    x0: float, y0: float, phi: float
+) -> Trvln1Result:
+    """Line through a point at an angle to the x axis.
+
+    An angle closer than 1e-5 to pi/2 or -pi/2 gives the vertical line (1, 0, 0 - x0), and so does a
+    NaN. Every other angle, 3*pi/2 included, gives (tan(phi), -1, y0 - tan(phi)*x0).
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0: point
+      phi: angle in radians, counter-clockwise
+
+    Returns:
+      a, b, c: line
+    """
+    return _trvln1.cells(x0, y0, phi, _NAN, _NAN, _NAN)
+
+
+class Trvln4Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+
+
+_trvln4 = Routine(
+    "trvln4", Trvln4Result,
+    "in real x0; in real y0; in real dx; in real dy; in real u; out real a; out real b; out "
+    "real c",
+)
+
+
+def trvln4(
+    x0: float, y0: float, dx: float, dy: float, u: float
+) -> Trvln4Result:
+    """Line through a point with a direction.
+
+    (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) where dx is exactly zero; no
+    tolerance applies.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0: point
+      dx, dy: direction, of any length
+      u: ignored
+
+    Returns:
+      a, b, c: line
+    """
+    return _trvln4.cells(x0, y0, dx, dy, u, _NAN, _NAN, _NAN)
+
+
+class Trvln2Result(NamedTuple):
+    a2: float
+    b2: float
+    c2: float
+
+
+_trvln2 = Routine(
+    "trvln2", Trvln2Result,
+    "in real a; in real b; in real c; in real d; out real a2; out real b2; out real c2",
+)
+
+
+def trvln2(
+    a: float, b: float, c: float, d: float
+) -> Trvln2Result:
+    """Parallel of a line at a signed distance.
+
+    Points of the new line have the distance d from the given one in the sense of trvlds.
+
+    Retains: nothing.
+
+    Arguments:
+      a, b, c: line
+      d: distance, positive towards the normal (a, b)
+
+    Returns:
+      a2, b2, c2: parallel: (a, b, c - sqrt(a*a + b*b)*d)
+    """
+    return _trvln2.cells(a, b, c, d, _NAN, _NAN, _NAN)
+
+
+class Trvln5Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+
+
+_trvln5 = Routine(
+    "trvln5", Trvln5Result,
+    "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; out real a; out "
+    "real b; out real c",
+)
+
+
+def trvln5(
+    x0: float, y0: float, x1: float, y1: float, x2: float, y2: float
+) -> Trvln5Result:
+    """Internal bisector of the angle at P0 between the rays to P1 and P2.
+
+    The normal (a, b) is the difference of the unit vectors towards P1 and P2, times both lengths.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0: vertex P0
+      x1, y1: P1
+      x2, y2: P2
+
+    Returns:
+      a, b, c: line; all zero where a ray has no length, and to rounding where both have one
+        direction
+    """
+    return _trvln5.cells(x0, y0, x1, y1, x2, y2, _NAN, _NAN, _NAN)
+
+
+_trvlds = Routine(
+    "trvlds", None,
+    "in real x; in real y; in real a; in real b; in real c; out real d",
+)
+
+
+def trvlds(
+    x: float, y: float, a: float, b: float, c: float
+) -> float:
+    """Signed distance of a point from a line.
+
+    d = ((a*x + b*y) + c) / sqrt(a*a + b*b), positive on the side the normal (a, b) points to.
+
+    Retains: nothing.
+
+    Arguments:
+      x, y: point
+      a, b, c: line
+
+    Returns:
+      d: signed distance; infinite or NaN where a = b = 0
+    """
+    return _trvlds.cells(x, y, a, b, c, _NAN)
+
+
+class TrvlniStatus(IntEnum):
+    ONE_POINT = 0
+    SAME_LINE = 1
+    PARALLEL_AND_DISTINCT = 2
+
+
+class TrvlniResult(NamedTuple):
+    status: int
+    x: float
+    y: float
+
+
+_trvlni = Routine(
+    "trvlni", TrvlniResult,
+    "in real a1; in real b1; in real c1; in real a2; in real b2; in real c2; out int status; "
+    "out real x; out real y",
+)
+
+
+def trvlni(
+    a1: float, b1: float, c1: float, a2: float, b2: float, c2: float
+) -> TrvlniResult:
+    """Intersection of two lines.
+
+    The lines cross when the determinant a1*b2 - a2*b1 is above the tolerance; else they are distinct
+    when b1*c2 - b2*c1 or a2*c1 - a1*c2 is. Neither is scaled: lines with small coefficients count
+    as parallel, and as the same line, sooner.
+
+    Retains: nothing.
+
+    Arguments:
+      a1, b1, c1: first line
+      a2, b2, c2: second line
+
+    Returns:
+      status: 0 one point; 1 the same line; 2 parallel and distinct
+      x, y: point; unwritten when status is 1 or 2
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvlni.cells(a1, b1, c1, a2, b2, c2, 0, _NAN, _NAN)
+
+
+class TrvlulStatus(IntEnum):
+    THEY_CROSS = 0
+    SAME_LINE = 1
+
+
+class TrvlulResult(NamedTuple):
+    d: float
+    status: int
+
+
+_trvlul = Routine(
+    "trvlul", TrvlulResult,
+    "in real a1; in real b1; in real c1; in real a2; in real b2; in real c2; out real d; out "
+    "int status",
+)
+
+
+def trvlul(
+    a1: float, b1: float, c1: float, a2: float, b2: float, c2: float
+) -> TrvlulResult:
+    """Distance of two parallel lines.
+
+    Retains: nothing.
+
+    Arguments:
+      a1, b1, c1: first line
+      a2, b2, c2: second line
+
+    Returns:
+      d: signed distance for which trvln2 makes the second line of the first: positive towards
+        the normal (a1, b1); 0 when status is 1; unwritten when it is 0; formed in double
+        precision and rounded once
+      status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvlul.cells(a1, b1, c1, a2, b2, c2, _NAN, 0)
+
+
+class TrvpsnCode(IntEnum):
+    NONE = 0
+    ALL = 1
+    FIRST = 2
+    SECOND = 3
+    THIRD = 4
+    FIRST_AND_SECOND = 5
+    SECOND_AND_THIRD = 6
+    FIRST_AND_THIRD = 7
+
+
+_trvpsn = Routine(
+    "trvpsn", None,
+    "in real p1; in real p2; in real p3; in real q1; in real q2; in real q3; out int code",
+)
+
+
+def trvpsn(
+    p1: float, p2: float, p3: float, q1: float, q2: float, q3: float
+) -> int:
+    """Which components of two triples differ by more than the tolerance.
+
+    Retains: nothing.
+
+    Arguments:
+      p1, p2, p3: first triple
+      q1, q2, q3: second triple
+
+    Returns:
+      code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and third; 7
+        first and third
+    """
+    return _trvpsn.cells(p1, p2, p3, q1, q2, q3, 0)
+
+
+class Trvln6Code(IntEnum):
+    NO_COMPONENT_OF = 0
+    ALL_ARE = 1
+    X = 2
+    Y = 3
+    Z = 4
+    X_AND_Y = 5
+    Y_AND_Z = 6
+    X_AND_Z = 7
+
+
+class Trvln6On(IntEnum):
+    P_LIES_ON_THE_LINE = 1
+
+
+class Trvln6Result(NamedTuple):
+    code: int
+    on: int
+
+
+_trvln6 = Routine(
+    "trvln6", Trvln6Result,
+    "in real x0; in real y0; in real z0; in real dx; in real dy; in real dz; in real px; in "
+    "real py; in real pz; in real tol; out int code; out int on",
+)
+
+
+def trvln6(
+    x0: float, y0: float, z0: float, dx: float, dy: float, dz: float, px: float, py: float, pz:
+    float, tol: float
+) -> Trvln6Result:
+    """Whether a point lies on the line of space through P0 with direction D.
+
+    The components of D above the tolerance tell which coordinate of P places it along the line; each
+    other coordinate must then agree with the line's.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0, z0: P0
+      dx, dy, dz: direction D, of any length
+      px, py, pz: point P
+      tol: largest coordinate difference allowed, itself included
+
+    Returns:
+      code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y; 4 z; 5
+        x and y; 6 y and z; 7 x and z
+      on: 1 P lies on the line; 0 it does not, and always when code is 0
+    """
+    return _trvln6.cells(x0, y0, z0, dx, dy, dz, px, py, pz, tol, 0, 0)
+
+
+class Trvln7Code(IntEnum):
+    NO_COMPONENT_OF = 0
+    ALL_ARE = 1
+    EX = 2
+    EY = 3
+    EZ = 4
+    EX_AND_EY = 5
+    EY_AND_EZ = 6
+    EX_AND_EZ = 7
+
+
+class Trvln7On(IntEnum):
+    P_AGREES_WITH_THE_LINE_AT_THE_STATION = 1
+
+
+class Trvln7Result(NamedTuple):
+    ex: float
+    ey: float
+    code: int
+    on: int
+
+
+_trvln7 = Routine(
+    "trvln7", Trvln7Result,
+    "in real a1; in real b1; in real c1; in real d1; in real a2; in real b2; in real c2; in "
+    "real d2; in real px; in real py; in real pz; out real ex; out real ey; in real ez; in "
+    "real tol; out int code; out int on",
+    retains=True,
+)
+
+
+def trvln7(
+    a1: float, b1: float, c1: float, d1: float, a2: float, b2: float, c2: float, d2: float, px:
+    float, py: float, pz: float, ez: float, tol: float
+) -> Trvln7Result:
+    """Line of two planes, and whether it agrees with a point at a retained station.
+
+    The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the tolerance.
+    Its station there is not the coordinate of P but that of the previous call: X, Y and Z are zero
+    after loading, and each call replaces the two it computes. The point agrees when its other two
+    coordinates are those computed at the station; along y, with the sign of ey, z is that of the
+    line at minus the station. One call with planes that are nearly parallel, infinite or NaN can
+    leave a station that is infinite or NaN; no later call recovers from it.
+
+    Retains: the station X, Y, Z, shared with no other routine.
+
+    Arguments:
+      a1, b1, c1, d1: first plane
+      a2, b2, c2, d2: second plane
+      px, py, pz: point P
+      ez: third component: read, neither computed nor written
+      tol: largest coordinate difference allowed, itself included
+
+    Returns:
+      ex: b1*c2 - c1*b2
+      ey: a1*c2 - c1*a2, the second component of the cross product negated
+      code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3 ey; 4 ez;
+        5 ex and ey; 6 ey and ez; 7 ex and ez
+      on: 1 P agrees with the line at the station; 0 it does not
+    """
+    return _trvln7.cells(a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz, ez, tol, _NAN, _NAN, 0, 0)
+
+
+_trvphi = Routine(
+    "trvphi", None,
+    "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; out real phi",
+)
+
+
+def trvphi(
+    x0: float, y0: float, x1: float, y1: float, x2: float, y2: float
+) -> float:
+    """Angle at P0 between the rays to P1 and P2, in the plane.
+
+    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
+    -1 the angle is NaN, as can happen for collinear points. Angles below some 1e-4, or that close to
+    pi, come out as 0, as pi or as NaN; trvchi is accurate there.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0: vertex P0
+      x1, y1: P1
+      x2, y2: P2
+
+    Returns:
+      phi: angle in [0, pi]; 0 where a ray's length is within the tolerance
+    """
+    return _trvphi.cells(x0, y0, x1, y1, x2, y2, _NAN)
+
+
+_trvphi3 = Routine(
+    "trvphi3", None,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; out real phi",
+)
+
+
+def trvphi3(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float
+) -> float:
+    """Angle at P0 between the rays to P1 and P2, in space.
+
+    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
+    -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi or as NaN;
+    trvchi is accurate there.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0, z0: vertex P0
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+
+    Returns:
+      phi: angle in [0, pi]; 0 where a ray's length is within the tolerance
+    """
+    return _trvphi3.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN)
+
+
+_trvphi1 = Routine(
+    "trvphi1", None,
+    "in real ux; in real uy; in real uz; in real vx; in real vy; in real vz; out real phi",
+)
+
+
+def trvphi1(
+    ux: float, uy: float, uz: float, vx: float, vy: float, vz: float
+) -> float:
+    """Angle between two vectors.
+
+    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
+    -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi or as NaN;
+    trvchi is accurate there.
+
+    Retains: nothing.
+
+    Arguments:
+      ux, uy, uz: u
+      vx, vy, vz: v
+
+    Returns:
+      phi: angle in [0, pi]; 0 where a vector's length is within the tolerance
+    """
+    return _trvphi1.cells(ux, uy, uz, vx, vy, vz, _NAN)
+
+
+class TrvphipResult(NamedTuple):
+    phi: float
+    status: int
+
+
+_trvphip = Routine(
+    "trvphip", TrvphipResult,
+    "in real ux; in real uy; in real uz; in real vx; in real vy; in real vz; out real phi; "
+    "out int status",
+)
+
+
+def trvphip(
+    ux: float, uy: float, uz: float, vx: float, vy: float, vz: float
+) -> TrvphipResult:
+    """Angle between two lines given by their directions.
+
+    Retains: nothing.
+
+    Arguments:
+      ux, uy, uz: direction of the first line
+      vx, vy, vz: direction of the second line
+
+    Returns:
+      phi: angle in [0, pi/2]; unwritten when a direction has no length
+      status: -1 a direction's length is within the tolerance; unwritten otherwise: set it
+        beforehand
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvphip.cells(ux, uy, uz, vx, vy, vz, _NAN, 0)
+
+
+class TrvchiStatus(IntEnum):
+    DONE = 0
+
+
+class TrvchiResult(NamedTuple):
+    chi: float
+    status: int
+
+
+_trvchi = Routine(
+    "trvchi", TrvchiResult,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; out real chi; out int status",
+)
+
+
+def trvchi(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float
+) -> TrvchiResult:
+    """Directed angle at P0 from the ray to P1 to the ray to P2.
+
+    Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third axis of
+    trvaxe: the first of its components y, z, x that is above the tolerance becomes positive, or the
+    first that is not zero. So it is counter-clockwise in the plane z = 0. Formed in double precision
+    and rounded once, it is as accurate near 0, pi and 2*pi as elsewhere.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0, z0: vertex P0
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+
+    Returns:
+      chi: angle in [0, 2*pi); unwritten when status is 1
+      status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt)
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvchi.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN, 0)
+
+
+class TrvcnvStatus(IntEnum):
+    REFUSED = -1
+    CONVEX = 1
+
+
+_trvcnv = Routine(
+    "trvcnv", None,
+    "in real X[n]; in real Y[n]; in int n = X Y; out int status",
+)
+
+
+def trvcnv(
+    X: ArrayLike, Y: ArrayLike, *, n: int | None = None
+) -> int:
+    """Convexity of a closed outline, of either orientation.
+
+    A vertex within the tolerance of the line through its neighbours counts as straight, unless the
+    outline turns back there: spikes, and outlines all of whose vertices lie on one line, are not
+    convex, nor is one with a NaN or an infinite vertex.
+
+    Retains: nothing.
+
+    Arguments:
+      X, Y: arrays of n: vertices, the first not repeated
+      n: number of vertices
+
+    Returns:
+      status: 1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a side
+        whose length is within the tolerance
+    """
+    return _trvcnv.call((X, Y, n,))
+
+
+class TrvtrgStatus(IntEnum):
+    DONE = 0
+
+
+class TrvtrgResult(NamedTuple):
+    cphi: float
+    sphi: float
+    status: int
+
+
+_trvtrg = Routine(
+    "trvtrg", TrvtrgResult,
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; in "
+    "real y3; in real z3; in real x4; in real y4; in real z4; out real cphi; out real sphi; "
+    "out int status",
+)
+
+
+def trvtrg(
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float, z3:
+    float, x4: float, y4: float, z4: float
+) -> TrvtrgResult:
+    """Cosine and sine of the angle between P2 - P1 and P4 - P3.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+      x3, y3, z3: P3
+      x4, y4, z4: P4
+
+    Returns:
+      cphi: cosine; unwritten when status is 1
+      sphi: sine, never negative; unwritten when status is 1
+      status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt)
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvtrg.cells(x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4, _NAN, _NAN, 0)
+
+
+class TrvdirCode(IntEnum):
+    OBLIQUE = 0
+    SAME_DIRECTION = 1
+    OPPOSITE = 2
+    PERPENDICULAR = 3
+
+
+_trvdir = Routine(
+    "trvdir", None,
+    "in real ux; in real uy; in real uz; in real vx; in real vy; in real vz; out int code",
+)
+
+
+def trvdir(
+    ux: float, uy: float, uz: float, vx: float, vy: float, vz: float
+) -> int:
+    """Relation of two directions.
+
+    The cosine of their angle decides, within the tolerance; a later code goes before an earlier one.
+
+    Retains: nothing.
+
+    Arguments:
+      ux, uy, uz: u
+      vx, vy, vz: v
+
+    Returns:
+      code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all components of u,
+        or of v, are within the tolerance
+    """
+    return _trvdir.cells(ux, uy, uz, vx, vy, vz, 0)
+
+
+class TrvdirpCode(IntEnum):
+    THEY_CROSS = 0
+    PERPENDICULAR = 5
+    A_NORMAL_IS_ZERO = 6
+
+
+_trvdirp = Routine(
+    "trvdirp", None,
+    "in real a1; in real b1; in real c1; in real d1; in real a2; in real b2; in real c2; in "
+    "real d2; out int code",
+)
+
+
+def trvdirp(
+    a1: float, b1: float, c1: float, d1: float, a2: float, b2: float, c2: float, d2: float
+) -> int:
+    """Relation of two planes.
+
+    Planes with parallel normals are distinct when the ratio of their normals, taken at the last
+    component of the second one above the tolerance, and that of their constants (0 where d2 is
+    within the tolerance) differ by more than the tolerance and d1 or d2 is above it.
+
+    Retains: nothing.
+
+    Arguments:
+      a1, b1, c1, d1: first plane
+      a2, b2, c2, d2: second plane
+
+    Returns:
+      code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel, normals
+        opposite; 3 coincident, normals in the same direction; 4 coincident, normals opposite; 5
+        perpendicular; 6 a normal is zero
+    """
+    return _trvdirp.cells(a1, b1, c1, d1, a2, b2, c2, d2, 0)
+
+
+class TrvmovResult(NamedTuple):
+    ax: float
+    ay: float
+    az: float
+
+
+_trvmov = Routine(
+    "trvmov", TrvmovResult,
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; in "
+    "real y3; in real z3; in real x4; in real y4; in real z4; out real ax; out real ay; out "
+    "real az",
+)
+
+
+def trvmov(
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float, z3:
+    float, x4: float, y4: float, z4: float
+) -> TrvmovResult:
+    """Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
+
+    Retains: nothing.
+
+    Arguments:
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+      x3, y3, z3: P3
+      x4, y4, z4: P4
+
+    Returns:
+      ax, ay, az: angles in [0, pi], seen along the x, y and z axis; 0 where a projection's
+        length is within the tolerance (trvphi1)
+    """
+    return _trvmov.cells(x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4, _NAN, _NAN, _NAN)
+
+
+class TrvtraResult(NamedTuple):
+    X: NDArray[float32]
+    Y: NDArray[float32]
+
+
+_trvtra = Routine(
+    "trvtra", TrvtraResult,
+    "inout real X[n]; inout real Y[n]; in int n = X Y; in real x0; in real y0",
+)
+
+
+def trvtra(
+    X: ArrayLike, Y: ArrayLike, x0: float, y0: float, *, n: int | None = None, in_place: bool =
+    False
+) -> TrvtraResult:
+    """Moves the origin of plane points to (x0, y0), in place.
+
+    Retains: nothing.
+
+    Arguments:
+      X, Y: arrays of n: coordinates, less x0 and y0 afterwards
+      n: number of points; below 1 nothing happens
+      x0, y0: new origin; may be one of the points
+
+    Returns:
+      X, Y: arrays of n: coordinates, less x0 and y0 afterwards
+    """
+    return _trvtra.call((X, Y, n, x0, y0,), in_place)
+
+
+_trvinv = Routine(
+    "trvinv", None,
+    "inout int V[n]; in int n = V",
+)
+
+
+def trvinv(
+    V: ArrayLike, *, n: int | None = None, in_place: bool = False
+) -> NDArray[int32]:
+    """Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+
+    Retains: nothing.
+
+    Arguments:
+      V: array of n: the list
+      n: number of elements; below 2 nothing happens
+
+    Returns:
+      V: array of n: the list
+    """
+    return _trvinv.call((V, n,), in_place)
+
+
+class TrvadrResult(NamedTuple):
+    V: NDArray[int32]
+    n: int
+
+
+_trvadr = Routine(
+    "trvadr", TrvadrResult,
+    "inout int V[n+m]; inout int n = V; in int k; in int A[m]; in int m = A",
+)
+
+
+def trvadr(
+    V: ArrayLike, k: int, A: ArrayLike, *, n: int | None = None, m: int | None = None, in_place:
+    bool = False
+) -> TrvadrResult:
+    """Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+
+    Retains: nothing.
+
+    Arguments:
+      V: array of n+m: the list, with room for what is inserted
+      n: number of its elements; n+m afterwards
+      k: position after which to insert, 0 for the front; nothing happens outside 0 ... n
+      A: array of m: what to insert
+      m: number of elements to insert; below 1 nothing happens
+
+    Returns:
+      V: array of n+m: the list, with room for what is inserted
+      n: number of its elements; n+m afterwards
+    """
+    return _trvadr.call((V, n, k, A, m,), in_place)
+
+
+class TrvaplResult(NamedTuple):
+    x: NDArray[float32]
+    y: NDArray[float32]
+    area: float
+
+
+_trvapl = Routine(
+    "trvapl", TrvaplResult,
+    "inout real x[n+1]; inout real y[n+1]; in int n = x y; out real area",
+)
+
+
+def trvapl(
+    x: ArrayLike, y: ArrayLike, *, n: int | None = None, in_place: bool = False
+) -> TrvaplResult:
+    """Area of a polygon.
+
+    The exact integral over the closed outline by Green's theorem, A = integral of x dy along it:
+    half the sum of (y(i+1) - y(i))*(x(i) + x(i+1)) over the n edges, summed in double precision and
+    rounded once, so that an outline far from the origin keeps its figures. Positive for a
+    counter-clockwise outline (x to the right, y up), negative for a clockwise one; loops of a
+    self-intersecting outline add up with their signs. The last vertex may repeat the first. The time
+    grows with n.
+
+    Retains: nothing.
+
+    Arguments:
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
+        for n = 0 vertex 1 with itself
+      n: number of vertices; 0 gives 0; a negative n is not allowed, since element n+1 would be
+        before the arrays
+
+    Returns:
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
+        for n = 0 vertex 1 with itself
+      area: signed area, in L^2
+    """
+    return _trvapl.call((x, y, n,), in_place)
+
+
+class TrvsplResult(NamedTuple):
+    x: NDArray[float32]
+    y: NDArray[float32]
+    sx: float
+    sy: float
+
+
+_trvspl = Routine(
+    "trvspl", TrvsplResult,
+    "inout real x[n+1]; inout real y[n+1]; in int n = x y; out real sx; out real sy",
+)
+
+
+def trvspl(
+    x: ArrayLike, y: ArrayLike, *, n: int | None = None, in_place: bool = False
+) -> TrvsplResult:
+    """First moments of a polygon.
+
+    The exact integrals over the closed outline by Green's theorem, Sx = -1/2 integral of y^2 dx and
+    Sy = 1/2 integral of x^2 dy along it, as sums over the edges in double precision, each rounded
+    once. Right for a counter-clockwise outline, negated for a clockwise one; loops of a
+    self-intersecting outline add up with their signs. The last vertex may repeat the first. The time
+    grows with n.
+
+    Retains: nothing.
+
+    Arguments:
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
+        for n = 0 vertex 1 with itself
+      n: number of vertices; 0 gives zeros; a negative n is not allowed, since element n+1 would
+        be before the arrays
+
+    Returns:
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
+        for n = 0 vertex 1 with itself
+      sx: first moment about the x axis, the integral of y dA, in L^3
+      sy: first moment about the y axis, the integral of x dA, in L^3
+    """
+    return _trvspl.call((x, y, n,), in_place)
+
+
+class TrviplResult(NamedTuple):
+    x: NDArray[float32]
+    y: NDArray[float32]
+    ix: float
+    iy: float
+    ixy: float
+
+
+_trvipl = Routine(
+    "trvipl", TrviplResult,
+    "inout real x[n+1]; inout real y[n+1]; in int n = x y; out real ix; out real iy; out real "
+    "ixy",
+)
+
+
+def trvipl(
+    x: ArrayLike, y: ArrayLike, *, n: int | None = None, in_place: bool = False
+) -> TrviplResult:
+    """Second moments of a polygon.
+
+    The exact integrals over the closed outline by Green's theorem, Ix = -1/3 integral of y^3 dx,
+    Iy = 1/3 integral of x^3 dy and Ixy = 1/2 integral of x^2*y dy along it, as sums over the edges
+    in double precision, each rounded once. Right for a counter-clockwise outline, negated for a
+    clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex may
+    repeat the first. The time grows with n.
+
+    Retains: nothing.
+
+    Arguments:
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
+        for n = 0 vertex 1 with itself
+      n: number of vertices; 0 gives zeros; a negative n is not allowed, since element n+1 would
+        be before the arrays
+
+    Returns:
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
+        for n = 0 vertex 1 with itself
+      ix: second moment about the x axis, the integral of y*y dA, in L^4
+      iy: second moment about the y axis, the integral of x*x dA, in L^4
+      ixy: product of inertia, the integral of x*y dA, in L^4
+    """
+    return _trvipl.call((x, y, n,), in_place)
+
+
+class TrvacpResult(NamedTuple):
+    area: float
+    xs: float
+    ys: float
+
+
+_trvacp = Routine(
+    "trvacp", TrvacpResult,
+    "in real xc; in real yc; in real x1; in real y1; in real x2; in real y2; in int kind; out "
+    "real area; out real xs; out real ys",
+)
+
+
+def trvacp(
+    xc: float, yc: float, x1: float, y1: float, x2: float, y2: float, kind: int
+) -> TrvacpResult:
+    """Area and centroid of a circular segment, the region between an arc and its chord.
+
+    The radius r is the distance of P1 from the centre; P2 fixes the angle phi, that of trvphi, and
+    the chord's direction. The order of P1 and P2 does not matter when both lie on the circle. The
+    larger segment has the angle 2*pi - phi. The area is r^2*(phi - sin phi)/2, and the centroid lies
+    4*r*sin^3(phi/2)/(3*(phi - sin phi)) from the centre, across the chord for the smaller segment.
+
+    The centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller segment whose
+    angle is 0; the area is a number then.
+
+    Retains: nothing.
+
+    Arguments:
+      xc, yc: centre
+      x1, y1: first end of the chord P1
+      x2, y2: second end of the chord P2
+      kind: 5 the larger segment; any other value the smaller one
+
+    Returns:
+      area: area, positive
+      xs, ys: centroid
+    """
+    return _trvacp.cells(xc, yc, x1, y1, x2, y2, kind, _NAN, _NAN, _NAN)
+
+
+class TrvicpResult(NamedTuple):
+    ix: float
+    iy: float
+    ixy: float
+
+
+_trvicp = Routine(
+    "trvicp", TrvicpResult,
+    "in real xc; in real yc; in real x1; in real y1; in real x2; in real y2; in int kind; out "
+    "real ix; out real iy; out real ixy",
+)
+
+
+def trvicp(
+    xc: float, yc: float, x1: float, y1: float, x2: float, y2: float, kind: int
+) -> TrvicpResult:
+    """Second moments of a circular segment, the region between an arc and its chord.
+
+    The segment is that of trvacp: its radius is the distance of P1 from the centre; P2 fixes the
+    angle and the chord's direction. Its moments about its axis of symmetry and about the parallel of
+    the chord through its centroid are turned to the axes of x and y and shifted to the origin.
+
+    All three are NaN for a chord through the centre, for P1 = P2, and for a smaller segment whose
+    angle is 0.
+
+    Retains: nothing.
+
+    Arguments:
+      xc, yc: centre
+      x1, y1: first end of the chord P1
+      x2, y2: second end of the chord P2
+      kind: 5 the larger segment; any other value the smaller one
+
+    Returns:
+      ix: second moment about the x axis, the integral of y*y dA
+      iy: second moment about the y axis, the integral of x*x dA
+      ixy: area*xs*ys, without the segment's own product of inertia about its centroid: the
+        integral of x*y dA only for a chord parallel to an axis
+    """
+    return _trvicp.cells(xc, yc, x1, y1, x2, y2, kind, _NAN, _NAN, _NAN)
+
+
+class TrvairResult(NamedTuple):
+    x: NDArray[float32]
+    y: NDArray[float32]
+    area: float
+
+
+_trvair = Routine(
+    "trvair", TrvairResult,
+    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; in int n = "
+    "x y; in int kind; in real value; in real factor; inout real area",
+)
+
+
+def trvair(
+    x: ArrayLike, y: ArrayLike, kind: int, value: float, factor: float, area: float, *, n: int |
+    None = None, in_place: bool = False
+) -> TrvairResult:
+    """Area of a part of a section.
+
+    A polygon is that of trvapl, negative when it is listed clockwise; the segments are those of
+    trvacp.
+
+    Retains: nothing.
+
+    Arguments:
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
+        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
+        an unknown kind
+      n: number of vertices for kind 2, ignored otherwise; 0 gives 0; a negative n is not
+        allowed, since element n+1 would be before the arrays
+      kind: 1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
+        counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle; 4 smaller
+        circular segment, point 1 the centre, 2 and 3 the ends of its chord; 5 larger circular
+        segment, likewise; any other value is an unknown kind
+      value: area for kind 1, ignored otherwise
+      factor: multiplies the result. A hole is a part with the factor -1, a polygon then still
+        counter-clockwise: a clockwise one with -1 adds
+      area: area of the part, times the factor; for an unknown kind the caller's value, times
+        the factor
+
+    Returns:
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
+        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
+        an unknown kind
+      area: area of the part, times the factor; for an unknown kind the caller's value, times
+        the factor
+    """
+    return _trvair.call((x, y, n, kind, value, factor, area,), in_place)
+
+
+class TrvstmResult(NamedTuple):
+    x: NDArray[float32]
+    y: NDArray[float32]
+    sx: float
+    sy: float
+
+
+_trvstm = Routine(
+    "trvstm", TrvstmResult,
+    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; in int n = "
+    "x y; in int kind; in real value; in real factor; inout real sx; inout real sy",
+)
+
+
+def trvstm(
+    x: ArrayLike, y: ArrayLike, kind: int, value: float, factor: float, sx: float, sy: float, *,
+    n: int | None = None, in_place: bool = False
+) -> TrvstmResult:
+    """First moments of a part of a section.
+
+    A polygon is that of trvspl, its moments negated when it is listed clockwise; the segments are
+    those of trvacp.
+
+    Retains: nothing.
+
+    Arguments:
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
+        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
+        an unknown kind
+      n: number of vertices for kind 2, ignored otherwise; 0 gives zeros; a negative n is not
+        allowed, since element n+1 would be before the arrays
+      kind: 1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
+        counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle; 4 smaller
+        circular segment, point 1 the centre, 2 and 3 the ends of its chord; 5 larger circular
+        segment, likewise; any other value is an unknown kind
+      value: area for kind 1, ignored otherwise
+      factor: multiplies the results. A hole is a part with the factor -1, a polygon then still
+        counter-clockwise: a clockwise one with -1 adds
+      sx, sy: first moments about the x and the y axis, times the factor; for an unknown kind
+        the caller's values, times the factor
+
+    Returns:
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
+        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
+        an unknown kind
+      sx, sy: first moments about the x and the y axis, times the factor; for an unknown kind
+        the caller's values, times the factor
+    """
+    return _trvstm.call((x, y, n, kind, value, factor, sx, sy,), in_place)
+
+
+class TrvinmResult(NamedTuple):
+    x: NDArray[float32]
+    y: NDArray[float32]
+    ix: float
+    iy: float
+    ixy: float
+
+
+_trvinm = Routine(
+    "trvinm", TrvinmResult,
+    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; in int n = "
+    "x y; in int kind; in real value; in real angle; in real factor; inout real ix; inout "
+    "real iy; inout real ixy",
+)
+
+
+def trvinm(
+    x: ArrayLike, y: ArrayLike, kind: int, value: float, angle: float, factor: float, ix: float,
+    iy: float, ixy: float, *, n: int | None = None, in_place: bool = False
+) -> TrvinmResult:
+    """Second moments of a part of a section.
+
+    A polygon is that of trvipl, its moments negated when it is listed clockwise; the segments are
+    those of trvicp.
+
+    A part of kind 1 brings its own centroidal moments in ix, iy and ixy, which are turned by `angle`
+    and shifted to the origin. Turning takes each new value into the next, so it is not the rotation
+    of a tensor: with s, c and t the sine and cosine of the angle and the sine of its double, in
+    order
+
+      ix  = ix*c^2 + iy*s^2 - ixy*t
+      iy  = iy*c^2 + s^2*ix + ixy*t
+      ixy = ((ix - iy)*0.5 + ixy)*t
+
+    but nothing is turned, ixy neither, for an angle of exactly 0.
+
+    Retains: nothing.
+
+    Arguments:
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
+        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
+        an unknown kind
+      n: number of vertices for kind 2, ignored otherwise; 0 gives zeros; a negative n is not
+        allowed, since element n+1 would be before the arrays
+      kind: 1 area concentrated at point 1, or a region with that centroid by its own moments; 2
+        polygon, points 1 to n the vertices, counter-clockwise; 3 full circle, point 1 the
+        centre, 2 on the circle; 4 smaller circular segment, point 1 the centre, 2 and 3 the
+        ends of its chord; 5 larger circular segment, likewise; any other value is an unknown
+        kind
+      value: area for kind 1, ignored otherwise
+      angle: turn of the own axes in radians for kind 1, ignored otherwise
+      factor: multiplies the results. A hole is a part with the factor -1, a polygon then still
+        counter-clockwise: a clockwise one with -1 adds
+      ix, iy, ixy: second moments about the axes, times the factor; ixy for kinds 4 and 5
+        without the segment's own product of inertia, as trvicp gives it; for kind 1 the own
+        moments on entry; for an unknown kind the caller's values, times the factor
+
+    Returns:
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
+        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
+        an unknown kind
+      ix, iy, ixy: second moments about the axes, times the factor; ixy for kinds 4 and 5
+        without the segment's own product of inertia, as trvicp gives it; for kind 1 the own
+        moments on entry; for an unknown kind the caller's values, times the factor
+    """
+    return _trvinm.call((x, y, n, kind, value, angle, factor, ix, iy, ixy,), in_place)
+
+
+class TrvinpResult(NamedTuple):
+    i1: float
+    i2: float
+    alpha: float
+
+
+_trvinp = Routine(
+    "trvinp", TrvinpResult,
+    "in real ix; in real iy; in real ixy; out real i1; out real i2; out real alpha",
+)
+
+
+def trvinp(
+    ix: float, iy: float, ixy: float
+) -> TrvinpResult:
+    """Principal moments and their direction.
+
+    The principal axes are those of x and y turned counter-clockwise by alpha, with
+
+      tan(2*alpha) = 2*ixy/(iy - ix)
+      i1 = ix*cos^2(alpha) - 2*ixy*sin(alpha)*cos(alpha) + iy*sin^2(alpha)
+      i2 = ix*sin^2(alpha) + 2*ixy*sin(alpha)*cos(alpha) + iy*cos^2(alpha)
+
+    Since alpha is at most an eighth of a turn, i1 is the larger one when ix is larger than iy.
+
+    The axes count as principal already, i1 = ix, i2 = iy and alpha = 0, when |ixy/(ix + iy)| is at
+    most 1e-8 or NaN. Else with |iy - ix| < 1e-12 alpha is an eighth of a turn, i1 the mean of ix and
+    iy less ixy, i2 the mean and ixy.
+
+    Retains: nothing.
+
+    Arguments:
+      ix, iy, ixy: second moments about the axes, usually those through the centroid
+
+    Returns:
+      i1: moment about the axis turned by alpha from the x axis
+      i2: moment about the axis turned by alpha from the y axis
+      alpha: angle in radians, counter-clockwise, within +-pi/4
+    """
+    return _trvinp.cells(ix, iy, ixy, _NAN, _NAN, _NAN)
+
+
+_trvinr = Routine(
+    "trvinr", None,
+    "in int n >= 2 = f; in real f[n]; in real a; in real b; out real result",
+)
+
+
+def trvinr(
+    f: ArrayLike, a: float, b: float, *, n: int | None = None
+) -> float:
+    """Integral of equally spaced samples over [a, b] by the trapezoidal rule.
+
+    The last interior sample f(n-1) does not enter the sum, and for n = 3 no interior sample does.
+    The time grows with n.
+
+    Retains: nothing.
+
+    Arguments:
+      n: number of samples, at least 2; 1 divides by zero; a smaller n is not allowed, since
+        f(n) would be before the array
+      f: array of n: samples
+      a, b: limits
+
+    Returns:
+      result: (b - a)/(n - 1) * ((f(1) + f(n))/2 + f(2) + ... + f(n-2))
+    """
+    return _trvinr.call((n, f, a, b,))
+
+
+_trvro2 = Routine(
+    "trvro2", None,
+    "in real b; in real t; in real r1; in real r2; in real psi; in real ks; out real rho",
+)
+
+
+def trvro2(
+    b: float, t: float, r1: float, r2: float, psi: float, ks: float
+) -> float:
+    """Reduction factor of an internal compression element, EN 1993-1-5, 4.4(2).
+
+    The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). No reduction up to
+    0.5 + sqrt(0.085 - 0.055*psi), else (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1.
+    There is no lower bound. ks = 0 gives 0; psi above 0.085/0.055 takes the second formula.
+
+    Retains: nothing.
+
+    Arguments:
+      b: width
+      t: thickness, in the unit of b
+      r1: square root of the yield strength: sqrt(fy)
+      r2: square root of the reference strength: sqrt(235) for N/mm2, so that epsilon = r2/r1 =
+        sqrt(235/fy)
+      psi: stress ratio, of the stress at the other edge to the greater compression
+      ks: buckling factor k_sigma
+
+    Returns:
+      rho: reduction factor
+    """
+    return _trvro2.cells(b, t, r1, r2, psi, ks, _NAN)
+
+
+_trvefr = Routine(
+    "trvefr", None,
+    "in real c; in real bp; in real t; in real r1; in real r2; out real ceff",
+    retains=True,
+)
+
+
+def trvefr(
+    c: float, bp: float, t: float, r1: float, r2: float
+) -> float:
+    """Effective width of an edge fold on a plate it stiffens, after EN 1993-1-3, 5.5.3.2.
+
+    The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. That departs
+    from the clause, which has 0.5 + 0.83*(c/bp - 0.35)^(2/3) there. Beyond 0.6, or where c/bp is
+    NaN, the factor of the previous call stands; zero after loading, which gives ceff = 0. The
+    reduction is that of trvro2 for psi = 1.
+
+    Retains: the buckling factor, shared with none.
+
+    Arguments:
+      c: width of the fold
+      bp: width of the plate
+      t: thickness
+      r1: square root of the yield strength: sqrt(fy)
+      r2: square root of the reference strength: sqrt(235) for N/mm2
+
+    Returns:
+      ceff: effective width
+    """
+    return _trvefr.cells(c, bp, t, r1, r2, _NAN)
+
+
+class Trvef2Result(NamedTuple):
+    be1: float
+    be2: float
+
+
+_trvef2 = Routine(
+    "trvef2", Trvef2Result,
+    "in real bl; in real w; in real t; in real r1; in real r2; in real s1; in real s2; out "
+    "real be1; out real be2",
+)
+
+
+def trvef2(
+    bl: float, w: float, t: float, r1: float, r2: float, s1: float, s2: float
+) -> Trvef2Result:
+    """Effective widths at the edges of an internal element, EN 1993-1-5, table 4.1.
+
+    Compression is positive. With psi = s2/s1 and the reduction of trvro2 the widths are
+
+      psi           ks                            be1                 be2
+      1             4                             rho*w/2             rho*w/2
+      1 to 0        8.2/(1.05 + psi)              2*rho*w/(5 - psi)   rho*w - be1
+      0             7.81                          2*rho*w/5           rho*w - be1
+      0 to -1       7.81 - 6.29*psi + 9.78*psi^2  0.4*rho*w           0.6*rho*w
+      -1            23.9                          0.4*rho*w           0.6*rho*w
+      -1 to -3      5.98*(1 - psi)^2              0.4*rho*w           0.6*rho*w
+      below -3      none                          w/2                 w/2
+
+    psi counts as 1 or 0 where s1 - s2 or s2 is within the tolerance, as -1 where |s1 + s2| is below
+    it. Cases overlap there: 1 gives way to a ratio below it, 0 to any tension or compression at s2.
+
+    Retains: nothing.
+
+    Arguments:
+      bl: width for the slenderness
+      w: width to reduce; in bending, where s2 is tension, that of the compressed part
+      t: thickness
+      r1: square root of the yield strength: sqrt(fy)
+      r2: square root of the reference strength: sqrt(235) for N/mm2
+      s1: stress at the more compressed edge
+      s2: stress at the other edge
+
+    Returns:
+      be1: effective width at the edge of s1
+      be2: effective width at the other edge; both unwritten when both stresses are within the
+        tolerance, s1 is not positive, s2 is above s1 by more than the tolerance, or s2 = -3*s1
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvef2.cells(bl, w, t, r1, r2, s1, s2, _NAN, _NAN)
+
+
+class TrvsecIaResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_ia = Routine(
+    "trvsec_ia", TrvsecIaResult,
+    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real q; out "
+    "int np; out int nv[1]; out real X[12]; out real Y[12]; out int code[1]; out real "
+    "sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; out real z5[1]; "
+    "out real q1[1]; out real q2[1]",
+)
+
+
+def trvsec_ia(
+    H: float, B1: float, B2: float, T1: float, T2: float, TW: float, q: float
+) -> TrvsecIaResult:
+    """I section with unequal flanges.
+
+    Retains: nothing.
+
+    Arguments:
+      H: height
+      B1, T1: width and thickness of flange 1, at the bottom
+      B2, T2: width and thickness of flange 2, at the top
+      TW: web thickness
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 1
+      nv: array of 1: numbers of vertices: 12
+      X, Y: arrays of 12: vertices about the middle of the bounding box
+      code: array of 1: 2, the part kind "polygon" of trvair
+      sign: array of 1: 1, of a solid, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 1: 0
+      q1, q2: arrays of 1: q
+    """
+    return _trvsec_ia.call((H, B1, B2, T1, T2, TW, q,))
+
+
+class TrvsecHResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_h = Routine(
+    "trvsec_h", TrvsecHResult,
+    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real q; out "
+    "int np; out int nv[1]; out real X[12]; out real Y[12]; out int code[1]; out real "
+    "sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; out real z5[1]; "
+    "out real q1[1]; out real q2[1]",
+)
+
+
+def trvsec_h(
+    H: float, B1: float, B2: float, T1: float, T2: float, TW: float, q: float
+) -> TrvsecHResult:
+    """I section lying on its side.
+
+    Retains: nothing.
+
+    Arguments:
+      H: depth, along x
+      B1, T1: width and thickness of flange 1, on the left
+      B2, T2: width and thickness of flange 2, on the right
+      TW: web thickness
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 1
+      nv: array of 1: numbers of vertices: 12
+      X, Y: arrays of 12: vertices about the middle of the bounding box
+      code: array of 1: 2, the part kind "polygon" of trvair
+      sign: array of 1: 1, of a solid, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 1: 0
+      q1, q2: arrays of 1: q
+    """
+    return _trvsec_h.call((H, B1, B2, T1, T2, TW, q,))
+
+
+class TrvsecTResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_t = Routine(
+    "trvsec_t", TrvsecTResult,
+    "in real B; in real H; in real TF; in real TW; in real q; out int np; out int nv[1]; out "
+    "real X[8]; out real Y[8]; out int code[1]; out real sign[1]; out real z1[1]; out real "
+    "z2[1]; out real z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; out real q2[1]",
+)
+
+
+def trvsec_t(
+    B: float, H: float, TF: float, TW: float, q: float
+) -> TrvsecTResult:
+    """T section, flange at the top.
+
+    Retains: nothing.
+
+    Arguments:
+      B, TF: width and thickness of the flange
+      H: height
+      TW: stem thickness
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 1
+      nv: array of 1: numbers of vertices: 8
+      X, Y: arrays of 8: vertices about the middle of the bounding box
+      code: array of 1: 2, the part kind "polygon" of trvair
+      sign: array of 1: 1, of a solid, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 1: 0
+      q1, q2: arrays of 1: q
+    """
+    return _trvsec_t.call((B, H, TF, TW, q,))
+
+
+class TrvsecBResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_b = Routine(
+    "trvsec_b", TrvsecBResult,
+    "in int B; in real H; in real q; out int np; out int nv[1]; out real X[12]; out real "
+    "Y[12]; out int code[1]; out real sign[1]; out real z1[1]; out real z2[1]; out real "
+    "z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; out real q2[1]",
+)
+
+
+def trvsec_b(
+    B: int, H: float, q: float
+) -> TrvsecBResult:
+    """Flat bar.
+
+    Retains: nothing.
+
+    Arguments:
+      B: width, an Integer
+      H: height
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 1
+      nv: array of 1: numbers of vertices: 12, although X and Y receive 4
+      X, Y: arrays of 12: the 4 vertices; provide for 12 and read 4, the rest is unwritten
+      code: array of 1: 2, the part kind "polygon" of trvair
+      sign: array of 1: 1, of a solid, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 1: 0
+      q1, q2: arrays of 1: q
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvsec_b.call((B, H, q,))
+
+
+class TrvsecH1bResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_h1b = Routine(
+    "trvsec_h1b", TrvsecH1bResult,
+    "in real W; in real D; in real P; in real T1; in real T2; in real TW; in real TP; in real "
+    "q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; out real "
+    "sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real z5[2]; "
+    "out real q1[2]; out real q2[2]",
+)
+
+
+def trvsec_h1b(
+    W: float, D: float, P: float, T1: float, T2: float, TW: float, TP: float, q: float
+) -> TrvsecH1bResult:
+    """I section lying on its side with a cover plate on its flanges' top edges, closing one cell.
+
+    The web lies at the flanges' mid-height.
+
+    Retains: nothing.
+
+    Arguments:
+      W, TP: width and thickness of the cover plate
+      D: depth of the I section, along x
+      P: height of its flanges
+      T1, T2: thicknesses of the left and the right flange
+      TW: web thickness
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 2
+      nv: array of 2: numbers of vertices: 12, 4
+      X, Y: arrays of 16: vertices, of the solid and of its cell
+      code: array of 2: 2, 2, the part kind "polygon" of trvair
+      sign: array of 2: 1, -1, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 2: 0
+      q1, q2: arrays of 2: q, -q
+    """
+    return _trvsec_h1b.call((W, D, P, T1, T2, TW, TP, q,))
+
+
+class TrvsecBoxResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_box = Routine(
+    "trvsec_box", TrvsecBoxResult,
+    "in real BT; in real BB; in real TT; in real TB; in real H; in real TW; in real G; in "
+    "real q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; out "
+    "real sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real "
+    "z5[2]; out real q1[2]; out real q2[2]",
+)
+
+
+def trvsec_box(
+    BT: float, BB: float, TT: float, TB: float, H: float, TW: float, G: float, q: float
+) -> TrvsecBoxResult:
+    """Box girder with overhanging flanges.
+
+    Retains: nothing.
+
+    Arguments:
+      BT, TT: width and thickness of the top flange
+      BB, TB: width and thickness of the bottom flange
+      H: overall height
+      TW: thickness of each web
+      G: clear distance of the webs
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 2
+      nv: array of 2: numbers of vertices: 12, 4
+      X, Y: arrays of 16: vertices, of the solid and of its cell
+      code: array of 2: 2, 2, the part kind "polygon" of trvair
+      sign: array of 2: 1, -1, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 2: 0
+      q1, q2: arrays of 2: q, -q
+    """
+    return _trvsec_box.call((BT, BB, TT, TB, H, TW, G, q,))
+
+
+class TrvsecRhsResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_rhs = Routine(
+    "trvsec_rhs", TrvsecRhsResult,
+    "in real B; in real H; in real T; in real q; out int np; out int nv[2]; out real X[8]; "
+    "out real Y[8]; out int code[2]; out real sign[2]; out real z1[2]; out real z2[2]; out "
+    "real z3[2]; out real z4[2]; out real z5[2]; out real q1[2]; out real q2[2]",
+)
+
+
+def trvsec_rhs(
+    B: float, H: float, T: float, q: float
+) -> TrvsecRhsResult:
+    """Rectangular hollow section with sharp corners.
+
+    Retains: nothing.
+
+    Arguments:
+      B, H: width and height
+      T: wall thickness
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 2
+      nv: array of 2: numbers of vertices: 4, 4
+      X, Y: arrays of 8: vertices, of the solid and of its cell
+      code: array of 2: 2, 2, the part kind "polygon" of trvair
+      sign: array of 2: 1, -1, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 2: 0
+      q1, q2: arrays of 2: q, -q
+    """
+    return _trvsec_rhs.call((B, H, T, q,))
+
+
+class TrvsecL2Result(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_l2 = Routine(
+    "trvsec_l2", TrvsecL2Result,
+    "in real B; in real H; in real G; in real T; in real TV; in real q; out int np; out int "
+    "nv[2]; out real X[12]; out real Y[12]; out int code[2]; out real sign[2]; out real "
+    "z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real z5[2]; out real q1[2]; "
+    "out real q2[2]",
+)
+
+
+def trvsec_l2(
+    B: float, H: float, G: float, T: float, TV: float, q: float
+) -> TrvsecL2Result:
+    """Two equal angles back to back, horizontal legs at the top.
+
+    Retains: nothing.
+
+    Arguments:
+      B, T: length and thickness of a horizontal leg
+      H, TV: height and thickness of a vertical leg
+      G: gap between the vertical legs
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 2
+      nv: array of 2: numbers of vertices: 6, 6
+      X, Y: arrays of 12: vertices, of the left angle and of the right one
+      code: array of 2: 2, 2, the part kind "polygon" of trvair
+      sign: array of 2: 1, 1, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 2: 0
+      q1, q2: arrays of 2: q, q
+    """
+    return _trvsec_l2.call((B, H, G, T, TV, q,))
+
+
+class TrvsecTabResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_tab = Routine(
+    "trvsec_tab", TrvsecTabResult,
+    "in real B; in real H; in real BW; in real E; in real T; in real TW; in real TB; in real "
+    "q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; out real "
+    "sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real z5[2]; "
+    "out real q1[2]; out real q2[2]",
+)
+
+
+def trvsec_tab(
+    B: float, H: float, BW: float, E: float, T: float, TW: float, TB: float, q: float
+) -> TrvsecTabResult:
+    """Top plate on a closed cell of two webs and a bottom plate between them.
+
+    Retains: nothing.
+
+    Arguments:
+      B, T: width and thickness of the top plate
+      H: height of the webs below the plate
+      BW: distance of the webs' outer faces
+      E: height of the bottom plate's underside above the webs' lower ends
+      TW: thickness of each web
+      TB: thickness of the bottom plate
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 2
+      nv: array of 2: numbers of vertices: 12, 4
+      X, Y: arrays of 16: vertices, of the solid and of its cell
+      code: array of 2: 2, 2, the part kind "polygon" of trvair
+      sign: array of 2: 1, -1, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 2: 0
+      q1, q2: arrays of 2: q, -q
+    """
+    return _trvsec_tab.call((B, H, BW, E, T, TW, TB, q,))
+
+
+class TrvsecH2bResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_h2b = Routine(
+    "trvsec_h2b", TrvsecH2bResult,
+    "in real B; in real W; in real HI; in real TW1; in real TW2; in real TM; in real TF; in "
+    "real q; out int np; out int nv[3]; out real X[20]; out real Y[20]; out int code[3]; out "
+    "real sign[3]; out real z1[3]; out real z2[3]; out real z3[3]; out real z4[3]; out real "
+    "z5[3]; out real q1[3]; out real q2[3]",
+)
+
+
+def trvsec_h2b(
+    B: float, W: float, HI: float, TW1: float, TW2: float, TM: float, TF: float, q: float
+) -> TrvsecH2bResult:
+    """Two flanges joined by two webs and a middle plate, closing two cells.
+
+    Retains: nothing.
+
+    Arguments:
+      B, TF: width and thickness of each flange
+      W: distance of the webs' outer faces
+      HI: clear distance of the flanges
+      TW1, TW2: thicknesses of the left and the right web
+      TM: thickness of the middle plate, at mid-height
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 3
+      nv: array of 3: numbers of vertices: 12, 4, 4
+      X, Y: arrays of 20: vertices, of the solid, the upper and the lower cell
+      code: array of 3: 2, 2, 2, the part kind "polygon" of trvair
+      sign: array of 3: 1, -1, -1, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 3: 0
+      q1, q2: arrays of 3: q, -q, -q
+    """
+    return _trvsec_h2b.call((B, W, HI, TW1, TW2, TM, TF, q,))
+
+
+class TrvsecIResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_i = Routine(
+    "trvsec_i", TrvsecIResult,
+    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real S1; in "
+    "real S2; in real E; in real q; out int np; out int nv[1]; out real X[16]; out real "
+    "Y[16]; out int code[1]; out real sign[1]; out real z1[1]; out real z2[1]; out real "
+    "z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; out real q2[1]",
+)
+
+
+def trvsec_i(
+    H: float, B1: float, B2: float, T1: float, T2: float, TW: float, S1: float, S2: float, E:
+    float, q: float
+) -> TrvsecIResult:
+    """I section with unequal flanges, an eccentric web and 45-degree fillets.
+
+    Retains: nothing.
+
+    Arguments:
+      H: height
+      B1, T1: width and thickness of flange 1, at the bottom
+      B2, T2: width and thickness of flange 2, at the top
+      TW: web thickness
+      S1, S2: legs of the fillets between the web and flanges 1, 2; 0 for none
+      E: distance of the web from the middle, to the right
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 1
+      nv: array of 1: numbers of vertices: 16
+      X, Y: arrays of 16: vertices about the middle of the bounding box
+      code: array of 1: 2, the part kind "polygon" of trvair
+      sign: array of 1: 1, of a solid, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 1: 0
+      q1, q2: arrays of 1: q
+    """
+    return _trvsec_i.call((H, B1, B2, T1, T2, TW, S1, S2, E, q,))
+
+
+class TrvsecCResult(NamedTuple):
+    np: int
+    nv: NDArray[int32]
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    code: NDArray[int32]
+    sign: NDArray[float32]
+    z1: NDArray[float32]
+    z2: NDArray[float32]
+    z3: NDArray[float32]
+    z4: NDArray[float32]
+    z5: NDArray[float32]
+    q1: NDArray[float32]
+    q2: NDArray[float32]
+
+
+_trvsec_c = Routine(
+    "trvsec_c", TrvsecCResult,
+    "in real H; in real B1; in real B2; in real C1; in real C2; in real D1; in real D2; in "
+    "real TW; in real T1; in real T2; in real TC1; in real TC2; in real TD1; in real TD2; in "
+    "real q; out int np; out int nv[1]; out real X[16]; out real Y[16]; out int code[1]; out "
+    "real sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; out real "
+    "z5[1]; out real q1[1]; out real q2[1]",
+)
+
+
+def trvsec_c(
+    H: float, B1: float, B2: float, C1: float, C2: float, D1: float, D2: float, TW: float, T1:
+    float, T2: float, TC1: float, TC2: float, TD1: float, TD2: float, q: float
+) -> TrvsecCResult:
+    """Channel open to the right, with lips turned inwards and folds turned back towards the web.
+
+    Lengths are outer ones. A lip no longer than its flange is thick is none, and without a lip there
+    is no fold; a fold no longer than its lip is thick is none.
+
+    Retains: nothing.
+
+    Arguments:
+      H: depth
+      B1, B2: widths of flange 1, at the bottom, and flange 2, at the top
+      C1, C2: lengths of their lips
+      D1, D2: lengths of the folds at the lips' ends
+      TW: web thickness
+      T1, T2: thicknesses of the flanges
+      TC1, TC2: thicknesses of the lips
+      TD1, TD2: thicknesses of the folds
+      q: value handed on with each polygon
+
+    Returns:
+      np: number of polygons: 1
+      nv: array of 1: numbers of vertices: 16
+      X, Y: arrays of 16: vertices about the middle of the bounding box
+      code: array of 1: 2, the part kind "polygon" of trvair
+      sign: array of 1: 1, of a solid, the factor of trvair
+      z1, z2, z3, z4, z5: arrays of 1: 0
+      q1, q2: arrays of 1: q
+    """
+    return _trvsec_c.call((H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2, TD1, TD2, q,))
+
+
+_trvshc_c = Routine(
+    "trvshc_c", None,
+    "in real B; in real H; in real C; in real t; out real e0",
+)
+
+
+def trvshc_c(
+    B: float, H: float, C: float, t: float
+) -> float:
+    """Distance of a channel's shear centre from its centroid.
+
+    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is lipped
+    when C is above the tolerance.
+
+      plain   e0 = b^2/(2*b + h) + 3*b^2/(h + 6*b)
+      lipped  e0 = b*(b + 2*c)/(h + 2*b + 2*c) + b*t*(3*b*h^2 + 6*c*h^2 - 8*c^3)/(12*I)
+              I  = t*(h^3 + 6*(b + c)*h^2 - 12*c^2*h + 8*c^3)/12
+
+    The first term is the centroid's distance from the web, the second the shear centre's on the
+    other side (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix, table
+    A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B, sharp corners).
+
+    Retains: nothing.
+
+    Arguments:
+      B: outer width of the flanges
+      H: outer depth
+      C: outer length of the lips, turned inwards; 0 for a plain channel
+      t: wall thickness
+
+    Returns:
+      e0: distance along the flanges; infinite or NaN where the section has no size
+    """
+    return _trvshc_c.cells(B, H, C, t, _NAN)
+
+
+_trvwar_c = Routine(
+    "trvwar_c", None,
+    "in real B; in real H; in real C; in real t; out real Iw",
+)
+
+
+def trvwar_c(
+    B: float, H: float, C: float, t: float
+) -> float:
+    """Warping constant of a channel.
+
+    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is lipped
+    when C is above the tolerance. With A the area, xg and e the distances of centroid and shear
+    centre from the web, and I the second moment about the axis of symmetry, all as trvshc_c:
+
+      plain   Iw = t*b^3*h^2*(3*b + 2*h)/(12*(h + 6*b))
+      lipped  Iw = t^2/A * (xg*A*h^2*(b^2/3 + e^2 - e*b)/t
+                            + A*(e^2*h^3 + b^2*c^2*(2*c + 3*h))/(3*t)
+                            - I*e^2*(2*h + 4*c)/t
+                            + e*c^2*(8*b^2*c + 2*e*(2*c*(c - h) + b*(2*c - 3*h)))/3
+                            + b^2*h^2*((3*c + b)*(4*c + h) - 6*c^2)/6 - e^2*h^4/4)
+
+    (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix, table A-3; lipped:
+    W.-W. Yu, Cold-formed steel design, appendix B, sharp corners.)
+
+    Retains: nothing.
+
+    Arguments:
+      B: outer width of the flanges
+      H: outer depth
+      C: outer length of the lips, turned inwards; 0 for a plain channel
+      t: wall thickness
+
+    Returns:
+      Iw: warping constant, in the sixth power of the length unit; infinite or NaN where the
+        section has no size
+    """
+    return _trvwar_c.cells(B, H, C, t, _NAN)
+
+
+class TrvmxtStatus(IntEnum):
+    REFUSED = -1
+    DONE = 0
+
+
+class TrvmxtResult(NamedTuple):
+    A: float
+    xs: float
+    ys: float
+    Ix: float
+    Iy: float
+    Ixy: float
+    I1: float
+    I2: float
+    alpha: float
+    rx: float
+    ry: float
+    Wx1: float
+    Wx2: float
+    Wy1: float
+    Wy2: float
+    Wpx: float
+    Wpy: float
+    xp: float
+    yp: float
+    It: float
+    Wt: float
+    xm: float
+    ym: float
+    Iw: float
+    r0: float
+    W1: NDArray[float32]
+    W2: NDArray[float32]
+    status: int
+
+
+_trvmxt = Routine(
+    "trvmxt", TrvmxtResult,
+    "in int n = X1 Y1 X2 Y2 T; in real X1[n]; in real Y1[n]; in real X2[n]; in real Y2[n]; in "
+    "real T[n]; out real A; out real xs; out real ys; out real Ix; out real Iy; out real Ixy; "
+    "out real I1; out real I2; out real alpha; out real rx; out real ry; out real Wx1; out "
+    "real Wx2; out real Wy1; out real Wy2; out real Wpx; out real Wpy; out real xp; out real "
+    "yp; out real It; out real Wt; out real xm; out real ym; out real Iw; out real r0; out "
+    "real W1[n]; out real W2[n]; out int status",
+)
+
+
+def trvmxt(
+    X1: ArrayLike, Y1: ArrayLike, X2: ArrayLike, Y2: ArrayLike, T: ArrayLike, *, n: int | None =
+    None
+) -> TrvmxtResult:
+    """Properties of an open section of thin plates.
+
+    Each plate is given by its centre line and its thickness. The first starts anywhere, each further
+    one at an end of an earlier one, within the tolerance in each coordinate. A plate that others
+    join between its ends is given as two. Plates meet at their ends only: elsewhere none comes to
+    another within 1e-5, or within 2^-22 of the greatest coordinate where that is more.
+
+    Area, moments and moduli are those of the plates as rectangles about their centre lines, overlaps
+    at the joints counted twice. Shear centre, warping constant and sectorial coordinates are those
+    of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed in double precision and
+    rounded once. Time grows with n^2; no memory is taken.
+
+    Retains: nothing.
+
+    Arguments:
+      n: number of plates
+      X1, Y1: arrays of n: starts of the centre lines
+      X2, Y2: arrays of n: ends of the centre lines
+      T: array of n: thicknesses
+
+    Returns:
+      A: area
+      xs, ys: centroid
+      Ix, Iy: second moments about the centroid, of y^2 and of x^2
+      Ixy: product of inertia about the centroid
+      I1: moment about the axis turned by alpha from the x axis
+      I2: moment about the axis perpendicular to it; either may be the larger
+      alpha: angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 where |Ixy|
+        is at most 1e-8*(Ix + Iy), else pi/4 where |Iy - Ix| is
+      rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A)
+      Wx1, Wx2: elastic moduli of the top and the bottom fibre
+      Wy1, Wy2: elastic moduli of the right and the left fibre
+      Wpx, Wpy: plastic moduli about the equal-area axes
+      xp, yp: equal-area axes: the vertical one at xp, the horizontal one at yp; in the middle
+        of a gap between the halves
+      It: torsion constant: sum of l*t^3/3
+      Wt: torsion modulus: It over the greatest thickness
+      xm, ym: shear centre; the centroid where all plates are on one line
+      Iw: warping constant
+      r0: polar radius of gyration about the shear centre
+      W1, W2: arrays of n: normalised sectorial coordinate at the plates' starts and ends,
+        counter-clockwise positive
+      status: -1 refused, nothing else is written: n < 1, a coordinate or a thickness that is
+        infinite or NaN, a length or a thickness not above the tolerance; 0 done; 2 to n this
+        plate is the first at fault, it starts at no end of an earlier one, or ends at one and
+        closes a cell: what is listed up to xp,yp is written, the rest is not; n+2 to 2*n plate
+        status - n is the first at fault, it crosses, touches or overlaps an earlier one
+        elsewhere than at its start, which may close a cell: what is listed up to xp,yp is
+        written, the rest is not
+    """
+    return _trvmxt.call((n, X1, Y1, X2, Y2, T,))
+
+
+class TrvmxtFbStatus(IntEnum):
+    REFUSED = -1
+    DONE = 0
+
+
+class TrvmxtFbResult(NamedTuple):
+    A: float
+    xs: float
+    ys: float
+    Ix: float
+    Iy: float
+    Ixy: float
+    I1: float
+    I2: float
+    alpha: float
+    rx: float
+    ry: float
+    Wx1: float
+    Wx2: float
+    Wy1: float
+    Wy2: float
+    Wpx: float
+    Wpy: float
+    xp: float
+    yp: float
+    It: float
+    Wt: float
+    xm: float
+    ym: float
+    Iw: float
+    r0: float
+    W1: NDArray[float32]
+    W2: NDArray[float32]
+    status: int
+
+
+_trvmxt_fb = Routine(
+    "trvmxt_fb", TrvmxtFbResult,
+    "in real B; in real H; out real A; out real xs; out real ys; out real Ix; out real Iy; "
+    "out real Ixy; out real I1; out real I2; out real alpha; out real rx; out real ry; out "
+    "real Wx1; out real Wx2; out real Wy1; out real Wy2; out real Wpx; out real Wpy; out real "
+    "xp; out real yp; out real It; out real Wt; out real xm; out real ym; out real Iw; out "
+    "real r0; out real W1[1]; out real W2[1]; out int status",
+)
+
+
+def trvmxt_fb(
+    B: float, H: float
+) -> TrvmxtFbResult:
+    """Properties of a flat bar, centred on the origin.
+
+    Torsion by Saint-Venant's series for the rectangle (S. Timoshenko, J. N. Goodier, Theory of
+    elasticity, article 109). Formed in double precision and rounded once.
+
+    Retains: nothing.
+
+    Arguments:
+      B: width, along x
+      H: height, along y
+
+    Returns:
+      A: area
+      xs, ys: centroid: 0
+      Ix, Iy: second moments about the centroid, of y^2 and of x^2
+      Ixy: product of inertia: 0
+      I1, I2: principal moments: Ix, Iy
+      alpha: angle of the axis of I1 from the x axis: 0
+      rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A)
+      Wx1, Wx2: elastic moduli of the top and the bottom fibre
+      Wy1, Wy2: elastic moduli of the right and the left fibre
+      Wpx, Wpy: plastic moduli about the x and the y axis
+      xp, yp: equal-area axes: 0
+      It: torsion constant
+      Wt: torsion modulus: torque over the greatest shear stress
+      xm, ym: shear centre: 0
+      Iw: warping constant of the warping across the thickness: (B*H)^3/144
+      r0: polar radius of gyration
+      W1, W2: arrays of 1: sectorial coordinate at the centre line's ends: 0
+      status: -1 refused, nothing else is written: a side that is infinite, NaN or not above the
+        tolerance; 0 done
+    """
+    return _trvmxt_fb.call((B, H,))
+
+
+class TrvrotResult(NamedTuple):
+    x: NDArray[float32]
+    y: NDArray[float32]
+
+
+_trvrot = Routine(
+    "trvrot", TrvrotResult,
+    "in int mode; inout real x[n]; inout real y[n]; in int n = x y; in real angle",
+)
+
+
+def trvrot(
+    mode: int, x: ArrayLike, y: ArrayLike, angle: float, *, n: int | None = None, in_place: bool
+    = False
+) -> TrvrotResult:
+    """Turns plane points about the origin, in place.
+
+    Takes time in proportion to n and no memory.
+
+    Retains: nothing.
+
+    Arguments:
+      mode: 1 turns clockwise; any other value counter-clockwise
+      x, y: arrays of n: coordinates
+      n: number of points; below 1 nothing happens
+      angle: angle in radians; may be an element of the arrays
+
+    Returns:
+      x, y: arrays of n: coordinates
+    """
+    return _trvrot.call((mode, x, y, n, angle,), in_place)
+
+
+class TrvrotxResult(NamedTuple):
+    y: NDArray[float32]
+    z: NDArray[float32]
+
+
+_trvrotx = Routine(
+    "trvrotx", TrvrotxResult,
+    "in int mode; in real x[0]; inout real y[n]; inout real z[n]; in int n = y z; in real "
+    "angle",
+)
+
+
+def trvrotx(
+    mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
+    in_place: bool = False
+) -> TrvrotxResult:
+    """Turns points about the x axis, in place.
+
+    Takes time in proportion to n and no memory.
+
+    Retains: nothing.
+
+    Arguments:
+      mode: 1 turns z towards y; any other value y towards z, right-handed about +x
+      x: array of 0: not read
+      y, z: arrays of n: coordinates
+      n: number of points; below 1 nothing happens
+      angle: angle in radians; may be an element of the arrays
+
+    Returns:
+      y, z: arrays of n: coordinates
+    """
+    return _trvrotx.call((mode, x, y, z, n, angle,), in_place)
+
+
+class TrvrotyResult(NamedTuple):
+    x: NDArray[float32]
+    z: NDArray[float32]
+
+
+_trvroty = Routine(
+    "trvroty", TrvrotyResult,
+    "in int mode; inout real x[n]; in real y[0]; inout real z[n]; in int n = x z; in real "
+    "angle",
+)
+
+
+def trvroty(
+    mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
+    in_place: bool = False
+) -> TrvrotyResult:
+    """Turns points about the y axis, in place.
+
+    Unlike its sisters it turns left-handedly about its axis unless mode is 1.
+
+    Takes time in proportion to n and no memory.
+
+    Retains: nothing.
+
+    Arguments:
+      mode: 1 turns z towards x; any other value x towards z, left-handed about +y
+      x, z: array of n: coordinates
+      y: array of 0: not read
+      n: number of points; below 1 nothing happens
+      angle: angle in radians; may be an element of the arrays
+
+    Returns:
+      x, z: array of n: coordinates
+    """
+    return _trvroty.call((mode, x, y, z, n, angle,), in_place)
+
+
+class TrvrotzResult(NamedTuple):
+    x: NDArray[float32]
+    y: NDArray[float32]
+
+
+_trvrotz = Routine(
+    "trvrotz", TrvrotzResult,
+    "in int mode; inout real x[n]; inout real y[n]; in real z[0]; in int n = x y; in real "
+    "angle",
+)
+
+
+def trvrotz(
+    mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
+    in_place: bool = False
+) -> TrvrotzResult:
+    """Turns points about the z axis, in place.
+
+    Takes time in proportion to n and no memory.
+
+    Retains: nothing.
+
+    Arguments:
+      mode: 1 turns y towards x; any other value x towards y, right-handed about +z
+      x, y: arrays of n: coordinates
+      z: array of 0: not read
+      n: number of points; below 1 nothing happens
+      angle: angle in radians; may be an element of the arrays
+
+    Returns:
+      x, y: arrays of n: coordinates
+    """
+    return _trvrotz.call((mode, x, y, z, n, angle,), in_place)
+
+
+class TrvpslStatus(IntEnum):
+    THEY_DO = 0
+    P2_IS_AT_P0 = 1
+    P2_IS_AT_P1 = 2
+    P2_IS_BETWEEN_P0_AND_P1 = 3
+    P2_IS_BEYOND_P0_ON_THEIR_LINE = 4
+    P2_IS_BEYOND_P1 = 5
+
+
+_trvpsl = Routine(
+    "trvpsl", None,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; out int status",
+    retains=True,
+)
+
+
+def trvpsl(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float
+) -> int:
+    """Three-point test: whether P0, P1 and P2 span a plane.
+
+    The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance. Where P2 agrees with
+    P0 or P1 within the tolerance in each coordinate yet lies farther than that from it, the cosine
+    of the last call that found one stands (0 after loading). P0 = P1 is not tested and gives 0, as
+    does any P2 on the line whose distances from both come out equal.
+
+    Retains: the cosine, shared with all that run the test: trvaxe, trvptrl, trvppc, trvpl1, trvpl2,
+    trvpl3, trvpl6, trvpl7, trvpsp, trvplv, trvdirl, trv3lda, trv3lni, trvlpc and those of circles.h
+    that say so.
+
+    Arguments:
+      x0, y0, z0: P0
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+
+    Returns:
+      status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond
+        P0 on their line; 5 P2 is beyond P1
+    """
+    return _trvpsl.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, 0)
+
+
+class Trv3traResult(NamedTuple):
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    Z: NDArray[float32]
+
+
+_trv3tra = Routine(
+    "trv3tra", Trv3traResult,
+    "inout real X[n]; inout real Y[n]; inout real Z[n]; in int n = X Y Z; in real dx; in real "
+    "dy; in real dz",
+)
+
+
+def trv3tra(
+    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, dx: float, dy: float, dz: float, *, n: int | None
+    = None, in_place: bool = False
+) -> Trv3traResult:
+    """Moves the origin of points to (dx, dy, dz), in place.
+
+    Takes time in proportion to n and no memory.
+
+    Retains: nothing.
+
+    Arguments:
+      X, Y, Z: arrays of n: coordinates, less dx, dy and dz afterwards
+      n: number of points; below 1 nothing happens
+      dx, dy, dz: new origin; may be one of the points
+
+    Returns:
+      X, Y, Z: arrays of n: coordinates, less dx, dy and dz afterwards
+    """
+    return _trv3tra.call((X, Y, Z, n, dx, dy, dz,), in_place)
+
+
+_trvtrn = Routine(
+    "trvtrn", None,
+    "inout real p[3]; in real a1; in real a2; in real a3; in real a4; in real a5; in real a6; "
+    "in real a7; in real a8; in real a9; in int mode",
+)
+
+
+def trvtrn(
+    p: ArrayLike, a1: float, a2: float, a3: float, a4: float, a5: float, a6: float, a7: float,
+    a8: float, a9: float, mode: int, *, in_place: bool = False
+) -> NDArray[float32]:
+    """Applies a frame matrix to one point, in place.
+
+    Retains: nothing.
+
+    Arguments:
+      p: array of 3: coordinates
+      a1, a2, a3, a4, a5, a6, a7, a8, a9: frame matrix: the unit axes e1, e2 and e3 of a frame
+        by their global components, as trvaxe gives them; may be elements of p
+      mode: 1 local coordinates to global orientation (the transpose); any other value global to
+        local
+
+    Returns:
+      p: array of 3: coordinates
+    """
+    return _trvtrn.call((p, a1, a2, a3, a4, a5, a6, a7, a8, a9, mode,), in_place)
+
+
+class TrvaxeStatus(IntEnum):
+    DONE = 0
+
+
+class TrvaxeResult(NamedTuple):
+    e1x: float
+    e1y: float
+    e1z: float
+    e2x: float
+    e2y: float
+    e2z: float
+    e3x: float
+    e3y: float
+    e3z: float
+    status: int
+
+
+_trvaxe = Routine(
+    "trvaxe", TrvaxeResult,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; out real e1x; out real e1y; out real e1z; out real e2x; out real "
+    "e2y; out real e2z; out real e3x; out real e3y; out real e3z; out int status",
+    retains=True,
+)
+
+
+def trvaxe(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float
+) -> TrvaxeResult:
+    """Frame of the plane through three points.
+
+    e1 runs from P0 to P1; e3 is the normal, turned towards +y if the y component of (P1 - P0) x (P2
+    - P0) is above the tolerance, else likewise towards +z, else towards +x; e2 = e3 x e1. An axis
+    whose length is below 1e-5 before it is normalised stays zero: all three where P0 = P1, the last
+    two where the points are very close; the status is 0 then.
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      x0, y0, z0: P0
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+
+    Returns:
+      e1x, e1y, e1z: first axis
+      e2x, e2y, e2z: second axis
+      e3x, e3y, e3z: third axis; all nine are zero when status is -2
+      status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl)
+    """
+    return _trvaxe.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN, _NAN, _NAN, _NAN, _NAN, _NAN,
+        _NAN, _NAN, _NAN, 0)
+
+
+class TrvaxelStatus(IntEnum):
+    DONE = 0
+
+
+class TrvaxelResult(NamedTuple):
+    e1x: float
+    e1y: float
+    e1z: float
+    e2x: float
+    e2y: float
+    e2z: float
+    e3x: float
+    e3y: float
+    e3z: float
+    status: int
+
+
+_trvaxel = Routine(
+    "trvaxel", TrvaxelResult,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real angle; "
+    "out real e1x; out real e1y; out real e1z; out real e2x; out real e2y; out real e2z; out "
+    "real e3x; out real e3y; out real e3z; out int status",
+)
+
+
+def trvaxel(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, angle: float
+) -> TrvaxelResult:
+    """Frame of an axis from P0 to P1.
+
+    At angle 0, e2 is the global y axis freed of its component along e1, and e3 = e1 x e2; a positive
+    angle turns both right-handedly about e1.
+
+    An axis along y, a column, has no such e2: e2 and e3 are NaN or infinite then, with status 0. Ask
+    trvaxe with a third point instead.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0, z0: P0
+      x1, y1, z1: P1
+      angle: turn of e2 and e3 about e1 in radians
+
+    Returns:
+      e1x, e1y, e1z: first axis
+      e2x, e2y, e2z: second axis
+      e3x, e3y, e3z: third axis; all nine are zero when status is -2
+      status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance
+    """
+    return _trvaxel.cells(x0, y0, z0, x1, y1, z1, angle, _NAN, _NAN, _NAN, _NAN, _NAN, _NAN,
+        _NAN, _NAN, _NAN, 0)
+
+
+class TrvptrResult(NamedTuple):
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    Z: NDArray[float32]
+
+
+_trvptr = Routine(
+    "trvptr", TrvptrResult,
+    "inout real X[n]; inout real Y[n]; inout real Z[n]; in int n = X Y Z; in real x0; in real "
+    "y0; in real z0; in real ax; in real ay; in real az",
+)
+
+
+def trvptr(
+    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, x0: float, y0: float, z0: float, ax: float, ay:
+    float, az: float, *, n: int | None = None, in_place: bool = False
+) -> TrvptrResult:
+    """Shifts points and turns them about the global axes x, y and z, in this order and in place.
+
+    Each turn is that of trvrotx, trvroty and trvrotz with mode 2: right-handed about x and z,
+    left-handed about y. A shift none of whose components is above the tolerance is left out, and so
+    is a turn whose angle is not.
+
+    Takes time in proportion to n and no memory.
+
+    Retains: nothing.
+
+    Arguments:
+      X, Y, Z: arrays of n: coordinates
+      n: number of points; below 1 nothing happens
+      x0, y0, z0: shift, added; may be one of the points
+      ax, ay, az: angles in radians; may be elements of the arrays
+
+    Returns:
+      X, Y, Z: arrays of n: coordinates
+    """
+    return _trvptr.call((X, Y, Z, n, x0, y0, z0, ax, ay, az,), in_place)
+
+
+class TrvptrlStatus(IntEnum):
+    DONE = 0
+
+
+class TrvptrlResult(NamedTuple):
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    Z: NDArray[float32]
+    status: int
+
+
+_trvptrl = Routine(
+    "trvptrl", TrvptrlResult,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; inout real X[n]; inout real Y[n]; inout real Z[n]; in int n = X Y "
+    "Z; in real dx; in real dy; in real dz; in real ax; in real ay; in real az; out int "
+    "status",
+    retains=True,
+)
+
+
+def trvptrl(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float, X: ArrayLike, Y: ArrayLike, Z: ArrayLike, dx: float, dy: float, dz: float, ax: float,
+    ay: float, az: float, *, n: int | None = None, in_place: bool = False
+) -> TrvptrlResult:
+    """Shifts points and turns them in the frame of three points, in place.
+
+    In local coordinates each point is shifted by (dx, dy, dz), then turned about the local axes x, y
+    and z as trvrotx, trvroty and trvrotz turn with mode 2: right-handed about x and z, left-handed
+    about y. No angle is left out. Where the frame has a zero axis (trvaxe), the points lose that
+    coordinate.
+
+    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read before a
+    point is moved. Takes time in proportion to n and no memory.
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      x0, y0, z0: P0, the origin of the frame
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+      X, Y, Z: arrays of n: coordinates; untouched when status is -2
+      n: number of points; below 1 only the status is written
+      dx, dy, dz: shift in local coordinates, before the turns
+      ax, ay, az: angles in radians about the local axes x, y and z
+
+    Returns:
+      X, Y, Z: arrays of n: coordinates; untouched when status is -2
+      status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl)
+    """
+    return _trvptrl.call((x0, y0, z0, x1, y1, z1, x2, y2, z2, X, Y, Z, n, dx, dy, dz, ax, ay,
+        az,), in_place)
+
+
+class TrvpraStatus(IntEnum):
+    DONE = 0
+
+
+class TrvpraResult(NamedTuple):
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    Z: NDArray[float32]
+    status: int
+
+
+_trvpra = Routine(
+    "trvpra", TrvpraResult,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; inout real X[n]; "
+    "inout real Y[n]; inout real Z[n]; in int n = X Y Z; in real angle; out int status",
+)
+
+
+def trvpra(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, X: ArrayLike, Y:
+    ArrayLike, Z: ArrayLike, angle: float, *, n: int | None = None, in_place: bool = False
+) -> TrvpraResult:
+    """Turns points about the axis from P0 through P1, in place.
+
+    An axis along the global y axis, a column, gives points that are NaN or infinite, with status 0
+    (trvaxel). Use trv3tra and trvroty there.
+
+    Single inputs may be elements of the arrays, P0 and P1 two of the points: they are read before a
+    point is moved. Takes time in proportion to n and no memory.
+
+    Retains: nothing.
+
+    Arguments:
+      x0, y0, z0: P0
+      x1, y1, z1: P1
+      X, Y, Z: arrays of n: coordinates; untouched when status is -2
+      n: number of points; below 1 only the status is written
+      angle: angle in radians, right-handed about the direction from P0 to P1
+
+    Returns:
+      X, Y, Z: arrays of n: coordinates; untouched when status is -2
+      status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance
+    """
+    return _trvpra.call((x0, y0, z0, x1, y1, z1, X, Y, Z, n, angle,), in_place)
+
+
+class TrvppcStatus(IntEnum):
+    DONE = 0
+
+
+class TrvppcResult(NamedTuple):
+    X: NDArray[float32]
+    Y: NDArray[float32]
+    Z: NDArray[float32]
+    status: int
+
+
+_trvppc = Routine(
+    "trvppc", TrvppcResult,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; in real dx; in real dy; in real dz; in real ax; in real ay; in real "
+    "az; in int n = X Y Z; inout real X[n]; inout real Y[n]; inout real Z[n]; in real tol; "
+    "out int status",
+    retains=True,
+)
+
+
+def trvppc(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float, dx: float, dy: float, dz: float, ax: float, ay: float, az: float, X: ArrayLike, Y:
+    ArrayLike, Z: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
+) -> TrvppcResult:
+    """Turns points of a plane in the frame of the three points that span it, then shifts them, in
+    place.
+
+    Unlike trvptrl, the shift is global and comes after the turns. Where the frame has a zero axis
+    (trvaxe), the points lose that coordinate.
+
+    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read before a
+    point is moved. Takes time in proportion to n and no memory.
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      x0, y0, z0: P0, the origin of the frame
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+      dx, dy, dz: shift in global coordinates, after the turns
+      ax, ay, az: angles in radians about the local axes x, y and z, right-handed about x and z,
+        left-handed about y
+      n: number of points; below 1 only the status is written
+      X, Y, Z: arrays of n: coordinates; untouched unless status is 0
+      tol: largest residual of a point of the plane, itself included: its distance times the
+        length of (P1 - P0) x (P2 - P0), in the cube of the length unit
+
+    Returns:
+      X, Y, Z: arrays of n: coordinates; untouched unless status is 0
+      status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1 to n
+        position of the first point off the plane
+    """
+    return _trvppc.call((x0, y0, z0, x1, y1, z1, x2, y2, z2, dx, dy, dz, ax, ay, az, n, X, Y, Z,
+        tol,), in_place)
+
+
+class TrvplgResult(NamedTuple):
+    a: float
+    b: float
+    c: float
+    d: float
+
+
+_trvplg = Routine(
+    "trvplg", TrvplgResult,
+    "in real x; in real y; in real z; in real ux; in real uy; in real uz; in real wx; in real "
+    "wy; in real wz; out real a; out real b; out real c; out real d",
+)
+
+
+def trvplg(
+    x: float, y: float, z: float, ux: float, uy: float, uz: float, wx: float, wy: float, wz:
+    float
+) -> TrvplgResult:
+    """Plane through a point, spanned by two directions.
+
+    (a, b, c) = u x w, not normalised; all four are zero where u and w are parallel. Far from the
+    origin d loses digits; take a local origin there (trv3tra).
+
+    Retains: nothing.
+
+    Arguments:
+      x, y, z: point
+      ux, uy, uz: direction u
+      wx, wy, wz: direction w
+
+    Returns:
+      a, b, c, d: plane a*x + b*y + c*z + d = 0
+    """
+    return _trvplg.cells(x, y, z, ux, uy, uz, wx, wy, wz, _NAN, _NAN, _NAN, _NAN)
+
+
+class Trvpl1Status(IntEnum):
+    DONE = 0
+    P2_IS_AT_P0 = 1
+    P2_IS_AT_P1 = 2
+    P2_IS_BETWEEN_P0_AND_P1 = 3
+    P2_IS_BEYOND_P0_ON_THEIR_LINE = 4
+    P2_IS_BEYOND_P1 = 5
+
+
+class Trvpl1Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+    d: float
+    status: int
+
+
+_trvpl1 = Routine(
+    "trvpl1", Trvpl1Result,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; out real a; out real b; out real c; out real d; out int status",
+    retains=True,
+)
+
+
+def trvpl1(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float
+) -> Trvpl1Result:
+    """Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
+
+    Far from the origin d loses digits; take a local origin there (trv3tra).
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      x0, y0, z0: P0
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+
+    Returns:
+      a, b, c, d: plane; all zero when status is not 0, and where P0 = P1
+      status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0
+        on their line; 5 P2 is beyond P1
+    """
+    return _trvpl1.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN, _NAN, _NAN, _NAN, 0)
+
+
+class Trvpl2Status(IntEnum):
+    DONE = 0
+
+
+class Trvpl2Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+    d: float
+    status: int
+
+
+_trvpl2 = Routine(
+    "trvpl2", Trvpl2Result,
+    "in real x; in real y; in real z; in real xa; in real ya; in real za; in real xb; in real "
+    "yb; in real zb; in real xc; in real yc; in real zc; in real xd; in real yd; in real zd; "
+    "out real a; out real b; out real c; out real d; out int status",
+    retains=True,
+)
+
+
+def trvpl2(
+    x: float, y: float, z: float, xa: float, ya: float, za: float, xb: float, yb: float, zb:
+    float, xc: float, yc: float, zc: float, xd: float, yd: float, zd: float
+) -> Trvpl2Result:
+    """Plane through a point, parallel to two lines.
+
+    (a, b, c) = (B - A) x (D - C). Far from the origin d loses digits; take a local origin there
+    (trv3tra).
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      x, y, z: point
+      xa, ya, za: A, on the first line
+      xb, yb, zb: B, on the first line
+      xc, yc, zc: C, on the second line
+      xd, yd, zd: D, on the second line
+
+    Returns:
+      a, b, c, d: plane; all zero when status is not 0; its normal is zero, or nearly, where the
+        lines are parallel
+      status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
+        the same, of opposite sense; 7 A and B, or C and D, coincide (trvcnt)
+    """
+    return _trvpl2.cells(x, y, z, xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, _NAN, _NAN,
+        _NAN, _NAN, 0)
+
+
+class Trvpl3Status(IntEnum):
+    DONE = 0
+
+
+class Trvpl3Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+    d: float
+    status: int
+
+
+_trvpl3 = Routine(
+    "trvpl3", Trvpl3Result,
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; in "
+    "real yc; in real zc; in real xd; in real yd; in real zd; out real a; out real b; out "
+    "real c; out real d; out int status",
+    retains=True,
+)
+
+
+def trvpl3(
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float, zc:
+    float, xd: float, yd: float, zd: float
+) -> Trvpl3Result:
+    """Plane that contains one line and is parallel to another: trvpl2 through A.
+
+    Far from the origin d loses digits; take a local origin there (trv3tra).
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      xa, ya, za: A, on the first line
+      xb, yb, zb: B, on the first line
+      xc, yc, zc: C, on the second line
+      xd, yd, zd: D, on the second line
+
+    Returns:
+      a, b, c, d: plane; all zero when status is not 0; its normal is zero, or nearly, where the
+        lines are parallel
+      status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
+        the same, of opposite sense; 7 A and B, or C and D, coincide (trvcnt)
+    """
+    return _trvpl3.cells(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, _NAN, _NAN, _NAN, _NAN,
+        0)
+
+
+class Trvpl4Status(IntEnum):
+    DONE = 0
+
+
+class Trvpl4Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+    d: float
+    status: int
+
+
+_trvpl4 = Routine(
+    "trvpl4", Trvpl4Result,
+    "in real x; in real y; in real z; in real xa; in real ya; in real za; in real xb; in real "
+    "yb; in real zb; out real a; out real b; out real c; out real d; out int status",
+)
+
+
+def trvpl4(
+    x: float, y: float, z: float, xa: float, ya: float, za: float, xb: float, yb: float, zb:
+    float
+) -> Trvpl4Result:
+    """Plane through a point, perpendicular to a segment.
+
+    Far from the origin d loses digits; take a local origin there (trv3tra).
+
+    Retains: nothing.
+
+    Arguments:
+      x, y, z: point
+      xa, ya, za: A
+      xb, yb, zb: B; the normal is B - A
+
+    Returns:
+      a, b, c, d: plane; all zero when status is 1
+      status: 0 done; 1 A and B coincide, each coordinate within the tolerance (trvcnt)
+    """
+    return _trvpl4.cells(x, y, z, xa, ya, za, xb, yb, zb, _NAN, _NAN, _NAN, _NAN, 0)
+
+
+class Trvpl5Status(IntEnum):
+    DONE = 0
+
+
+class Trvpl5Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+    d: float
+    status: int
+
+
+_trvpl5 = Routine(
+    "trvpl5", Trvpl5Result,
+    "in real ix; in real iy; in real iz; out real a; out real b; out real c; out real d; out "
+    "int status",
+)
+
+
+def trvpl5(
+    ix: float, iy: float, iz: float
+) -> Trvpl5Result:
+    """Plane with given intercepts on the axes.
+
+    Retains: nothing.
+
+    Arguments:
+      ix, iy, iz: intercepts
+
+    Returns:
+      a, b, c, d: plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
+      status: 0 done; 1 an intercept is within the tolerance or NaN
+    """
+    return _trvpl5.cells(ix, iy, iz, _NAN, _NAN, _NAN, _NAN, 0)
+
+
+class Trvpl6Status(IntEnum):
+    DONE = 0
+    LINES_ARE_SKEW = 6
+
+
+class Trvpl6Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+    d: float
+    status: int
+
+
+_trvpl6 = Routine(
+    "trvpl6", Trvpl6Result,
+    "in real xa; in real ya; in real za; in real ux; in real uy; in real uz; in real xc; in "
+    "real yc; in real zc; in real wx; in real wy; in real wz; out real a; out real b; out "
+    "real c; out real d; out int status",
+    retains=True,
+)
+
+
+def trvpl6(
+    xa: float, ya: float, za: float, ux: float, uy: float, uz: float, xc: float, yc: float, zc:
+    float, wx: float, wy: float, wz: float
+) -> Trvpl6Result:
+    """Plane of two lines, each given by a point and a direction.
+
+    The relation of the lines is taken twice, the second time by trvpl2, with the cosine that the
+    first time left (trvpsl). Far from the origin d loses digits; take a local origin there
+    (trv3tra).
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      xa, ya, za: A, on the first line
+      ux, uy, uz: direction of the first line
+      xc, yc, zc: C, on the second line
+      wx, wy, wz: direction of the second line
+
+    Returns:
+      a, b, c, d: plane; its normal is zero, or nearly, for parallel lines; unwritten when the
+        first relation is 3, 4, 6 or 7; all zero where only the second is 3 or 4
+      status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
+        the same, of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance
+        in each component
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvpl6.cells(xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy, wz, _NAN, _NAN, _NAN, _NAN,
+        0)
+
+
+class Trvpl7Status(IntEnum):
+    DONE = 0
+    P2_IS_AT_P1 = 2
+    P2_IS_BETWEEN_P0_AND_P1 = 3
+    P2_IS_BEYOND_P0_ON_THEIR_LINE = 4
+    P2_IS_BEYOND_P1 = 5
+
+
+class Trvpl7Result(NamedTuple):
+    a: float
+    b: float
+    c: float
+    d: float
+    status: int
+
+
+_trvpl7 = Routine(
+    "trvpl7", Trvpl7Result,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; in real angle; out real a; out real b; out real c; out real d; out "
+    "int status",
+    retains=True,
+)
+
+
+def trvpl7(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float, angle: float
+) -> Trvpl7Result:
+    """Plane of three points turned about the line from P0 to P1.
+
+    The normal is a unit vector, formed by adding it to P0 and taking P0 off again, which leaves it
+    the digits that P0 has; at angle 0 it is the third axis of trvaxe. Far from the origin d loses
+    digits; take a local origin there (trv3tra).
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      x0, y0, z0: P0
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+      angle: angle in radians, right-handed about the direction from P0 to P1
+
+    Returns:
+      a, b, c, d: plane; all zero when status is not 0
+      status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is at P1; 3
+        P2 is between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond P1
+    """
+    return _trvpl7.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, angle, _NAN, _NAN, _NAN, _NAN, 0)
+
+
+_trvpsp = Routine(
+    "trvpsp", None,
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
+    "real y2; in real z2; in real x; in real y; in real z; in real tol; out int status",
+    retains=True,
+)
+
+
+def trvpsp(
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float, x: float, y: float, z: float, tol: float
+) -> int:
+    """Whether a point lies on the plane of three points.
+
+    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      x0, y0, z0: P0
+      x1, y1, z1: P1
+      x2, y2, z2: P2
+      x, y, z: point
+      tol: largest residual allowed, itself included: the distance times the length of (P1 - P0)
+        x (P2 - P0), in the cube of the length unit
+
+    Returns:
+      status: 0 it does, and any point does where P0 = P1; -1 it does not, or the three points
+        span no plane (trvpsl)
+    """
+    return _trvpsp.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z, tol, 0)
+
+
+_trvpld = Routine(
+    "trvpld", None,
+    "in real x; in real y; in real z; in real a; in real b; in real c; in real d; out real "
+    "dist",
+)
+
+
+def trvpld(
+    x: float, y: float, z: float, a: float, b: float, c: float, d: float
+) -> float:
+    """Signed distance of a point from a plane.
+
+    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+
+    Retains: nothing.
+
+    Arguments:
+      x, y, z: point
+      a, b, c, d: plane a*x + b*y + c*z + d = 0
+
+    Returns:
+      dist: distance, positive on the side the normal points to; not finite where the normal is
+        zero
+    """
+    return _trvpld.cells(x, y, z, a, b, c, d, _NAN)
+
+
+class TrvpspgStatus(IntEnum):
+    NORMAL_IS_EXACTLY_ZERO = 1
+
+
+_trvpspg = Routine(
+    "trvpspg", None,
+    "in real x; in real y; in real z; in real a; in real b; in real c; in real d; in real "
+    "tol; out int status",
+)
+
+
+def trvpspg(
+    x: float, y: float, z: float, a: float, b: float, c: float, d: float, tol: float
+) -> int:
+    """Whether a point lies on a plane.
+
+    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+
+    Retains: nothing.
+
+    Arguments:
+      x, y, z: point
+      a, b, c, d: plane a*x + b*y + c*z + d = 0
+      tol: largest distance allowed, itself included
+
+    Returns:
+      status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is exactly zero
+    """
+    return _trvpspg.cells(x, y, z, a, b, c, d, tol, 0)
+
+
+class TrvplvStatus(IntEnum):
+    U_IS_EXACTLY_ZERO = -1
+    OBLIQUE = 0
+    SAME_DIRECTION = 3
+    OPPOSITE = 4
+    PERPENDICULAR = 5
+
+
+_trvplv = Routine(
+    "trvplv", None,
+    "in real ux; in real uy; in real uz; in real wx; in real wy; in real wz; in real v7; in "
+    "real v8; out int status",
+    retains=True,
+)
+
+
+def trvplv(
+    ux: float, uy: float, uz: float, wx: float, wy: float, wz: float, v7: float, v8: float
+) -> int:
+    """Relation of two directions, taken as lines through the origin.
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      ux, uy, uz: u
+      wx, wy, wz: w
+      v7, v8: ignored
+
+    Returns:
+      status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5
+        perpendicular; 7 u or w is within the tolerance in each component
+    """
+    return _trvplv.cells(ux, uy, uz, wx, wy, wz, v7, v8, 0)
+
+
+class TrvpnpResult(NamedTuple):
+    d: float
+    count_: int
+    index_: NDArray[int32]
+
+
+_trvpnp = Routine(
+    "trvpnp", TrvpnpResult,
+    "in real X[n]; in real Y[n]; in real Z[n]; in real a; in real b; in real c; inout real d; "
+    "in int n = X Y Z; out int count_; out int index_[n, count_ used]",
+)
+
+
+def trvpnp(
+    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, a: float, b: float, c: float, d: float, *, n: int
+    | None = None
+) -> TrvpnpResult:
+    """Points of a list on a plane, by a running residual.
+
+    The residual starts at d and is not reset between points: each point adds a*x, b*y and c*z to it,
+    in this order, and is found when it is exactly zero then. Takes time in proportion to n and no
+    memory.
+
+    Retains: nothing.
+
+    Arguments:
+      X, Y, Z: arrays of n: coordinates
+      a, b, c: normal of the plane
+      d: constant of the plane; the last residual afterwards; untouched when n < 1
+      n: number of points
+
+    Returns:
+      d: constant of the plane; the last residual afterwards; untouched when n < 1
+      count_: how many are found
+      index_: array of n, count used: their positions, ascending; unwritten beyond count
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvpnp.call((X, Y, Z, a, b, c, d, n,))
+
+
+class TrvdirlStatus(IntEnum):
+    THEY_CROSS_AT_A_RIGHT_ANGLE = 5
+    SKEW = 6
+
+
+_trvdirl = Routine(
+    "trvdirl", None,
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; in "
+    "real yc; in real zc; in real xd; in real yd; in real zd; out int status",
+    retains=True,
+)
+
+
+def trvdirl(
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float, zc:
+    float, xd: float, yd: float, zd: float
+) -> int:
+    """Relation of two lines.
+
+    The same line means that C or D is on the line AB by the three-point test, which runs for C, then
+    for D. Skew means that the triple product of B - A, D - C and C - A is above the tolerance; it is
+    not scaled, so long lines count as skew sooner.
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      xa, ya, za: A, on the first line
+      xb, yb, zb: B, on the first line
+      xc, yc, zc: C, on the second line
+      xd, yd, zd: D, on the second line
+
+    Returns:
+      status: 0 they cross, not at a right angle; 1 parallel and distinct, of the same sense; 2
+        parallel and distinct, of opposite sense; 3 the same line, of the same sense; 4 the same
+        line, of opposite sense; 5 they cross at a right angle; 6 skew; 7 A and B, or C and D,
+        coincide, each coordinate within the tolerance
+    """
+    return _trvdirl.cells(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, 0)
+
+
+class Trv3spStatus(IntEnum):
+    THEY_DO_NOT = 0
+
+
+_trv3sp = Routine(
+    "trv3sp", None,
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; in "
+    "real yc; in real zc; in real xd; in real yd; in real zd; in real xe; in real ye; in real "
+    "ze; in real xf; in real yf; in real zf; out int status",
+)
+
+
+def trv3sp(
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float, zc:
+    float, xd: float, yd: float, zd: float, xe: float, ye: float, ze: float, xf: float, yf:
+    float, zf: float
+) -> int:
+    """Whether three segments span space.
+
+    Retains: nothing.
+
+    Arguments:
+      xa, ya, za: A
+      xb, yb, zb: B
+      xc, yc, zc: C
+      xd, yd, zd: D
+      xe, ye, ze: E
+      xf, yf, zf: F
+
+    Returns:
+      status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above the
+        tolerance, in the cube of the length unit
+    """
+    return _trv3sp.cells(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, xe, ye, ze, xf, yf, zf,
+        0)
+
+
+class Trv3ldbResult(NamedTuple):
+    status: int
+    dist: float
+
+
+_trv3ldb = Routine(
+    "trv3ldb", Trv3ldbResult,
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xq; in "
+    "real yq; in real zq; out int status; out real dist",
+)
+
+
+def trv3ldb(
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xq: float, yq: float, zq:
+    float
+) -> Trv3ldbResult:
+    """Distance of a point from a line.
+
+    The vector from Q to A takes A's y coordinate for its z component, so the figure is the distance
+    only where the z of A equals its y.
+
+    Retains: nothing.
+
+    Arguments:
+      xa, ya, za: A
+      xb, yb, zb: B
+      xq, yq, zq: Q
+
+    Returns:
+      status: 0 always
+      dist: distance, never negative; the distance from A where A and B coincide (trvcnt)
+    """
+    return _trv3ldb.cells(xa, ya, za, xb, yb, zb, xq, yq, zq, 0, _NAN)
+
+
+class Trv3ldaResult(NamedTuple):
+    status: int
+    dist: float
+
+
+_trv3lda = Routine(
+    "trv3lda", Trv3ldaResult,
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xq; in "
+    "real yq; in real zq; out int status; out real dist",
+    retains=True,
+)
+
+
+def trv3lda(
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xq: float, yq: float, zq:
+    float
+) -> Trv3ldaResult:
+    """Signed distance of a point from a line, in the plane of both.
+
+    The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe turns towards +y, else
+    +z, else +x: positive to the right of the way from A to B, seen against that normal. Far from the
+    origin the figure loses digits; take a local origin there (trv3tra).
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      xa, ya, za: A
+      xb, yb, zb: B
+      xq, yq, zq: Q
+
+    Returns:
+      status: 0 always
+      dist: distance; 0 where Q is on the line or very close to a short one (trvaxe); the
+        distance from A where A and B coincide (trvcnt)
+    """
+    return _trv3lda.cells(xa, ya, za, xb, yb, zb, xq, yq, zq, 0, _NAN)
+
+
+class Trv3lniStatus(IntEnum):
+    DONE = 0
+    LINES_ARE_SKEW = 6
+
+
+class Trv3lniResult(NamedTuple):
+    xa: float
+    ya: float
+    za: float
+    xc: float
+    yc: float
+    zc: float
+    status: int
+    xi: float
+    yi: float
+    zi: float
+
+
+_trv3lni = Routine(
+    "trv3lni", Trv3lniResult,
+    "inout real xa; inout real ya; inout real za; in real ux; in real uy; in real uz; inout "
+    "real xc; inout real yc; inout real zc; in real wx; in real wy; in real wz; out int "
+    "status; out real xi; out real yi; out real zi",
+    retains=True,
+)
+
+
+def trv3lni(
+    xa: float, ya: float, za: float, ux: float, uy: float, uz: float, xc: float, yc: float, zc:
+    float, wx: float, wy: float, wz: float
+) -> Trv3lniResult:
+    """Intersection of the lines A + t*u and C + s*w.
+
+    Works in the frame of A, A + u and C + w, with A as the origin, and leaves A and C in it. Where C
+    + w is on the first line there is no such frame, and the point is A with status 0.
+
+    Parallel lines have no point: the caller's xi and yi are read, as local coordinates, and come
+    back in global ones, with status 0.
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      xa, ya, za: A; zero afterwards; untouched when status is not 0
+      ux, uy, uz: direction of the first line
+      xc, yc, zc: C; C - A afterwards; untouched when status is not 0
+      wx, wy, wz: direction of the second line
+
+    Returns:
+      xa, ya, za: A; zero afterwards; untouched when status is not 0
+      xc, yc, zc: C; C - A afterwards; untouched when status is not 0
+      status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
+        the same, of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance
+        in each component
+      xi, yi, zi: point; unwritten when status is not 0
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trv3lni.cells(ux, uy, uz, wx, wy, wz, xa, ya, za, xc, yc, zc, 0, _NAN, _NAN, _NAN)
+
+
+class TrvpliStatus(IntEnum):
+    DONE = 0
+    LINE_IS_PARALLEL_TO_THE_PLANE = 3
+
+
+class TrvpliResult(NamedTuple):
+    xi: float
+    yi: float
+    zi: float
+    status: int
+
+
+_trvpli = Routine(
+    "trvpli", TrvpliResult,
+    "in real x; in real y; in real z; in real ux; in real uy; in real uz; in real a; in real "
+    "b; in real c; in real d; out real xi; out real yi; out real zi; out int status",
+)
+
+
+def trvpli(
+    x: float, y: float, z: float, ux: float, uy: float, uz: float, a: float, b: float, c: float,
+    d: float
+) -> TrvpliResult:
+    """Intersection of the line P + t*u with a plane.
+
+    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+
+    Retains: nothing.
+
+    Arguments:
+      x, y, z: P
+      ux, uy, uz: direction u, of any length
+      a, b, c, d: plane a*x + b*y + c*z + d = 0
+
+    Returns:
+      xi, yi, zi: point; unwritten when status is 3 or 4
+      status: 0 done; 3 the line is parallel to the plane: the cosine of u and the normal is
+        within the tolerance; 4 u or the normal is within the tolerance in each component
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvpli.cells(x, y, z, ux, uy, uz, a, b, c, d, _NAN, _NAN, _NAN, 0)
+
+
+class TrvplpPosition(IntEnum):
+    GENERAL = 1
+    PARALLEL_TO_THE_X_AXIS = 2
+    PARALLEL_TO_THE_Y_AXIS = 3
+    PARALLEL_TO_THE_Z_AXIS = 4
+    NORMAL_TO_THE_Z_AXIS = 5
+    NORMAL_TO_THE_X_AXIS = 6
+    NORMAL_TO_THE_Y_AXIS = 7
+
+
+_trvplp = Routine(
+    "trvplp", None,
+    "in real a; in real b; in real c; in real d; out int position",
+)
+
+
+def trvplp(
+    a: float, b: float, c: float, d: float
+) -> int:
+    """Position of a plane against the axes.
+
+    A coefficient within the tolerance counts as zero. A plane whose normal is zero is reported as 7
+    or 10.
+
+    Retains: nothing.
+
+    Arguments:
+      a, b, c, d: plane a*x + b*y + c*z + d = 0
+
+    Returns:
+      position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4 parallel to the
+        z axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to the y axis; 8 the
+        plane z = 0; 9 the plane x = 0; 10 the plane y = 0
+    """
+    return _trvplp.cells(a, b, c, d, 0)
+
+
+class TrvpnlResult(NamedTuple):
+    status: int
+    count_: int
+    index_: NDArray[int32]
+
+
+_trvpnl = Routine(
+    "trvpnl", TrvpnlResult,
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real X[n]; in "
+    "real Y[n]; in function zf; in int n = X Y; in real tol; out int status; out int count_; "
+    "out int index_[n, count_ used]",
+)
+
+
+def trvpnl(
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, X: ArrayLike, Y:
+    ArrayLike, zf: Callable[[int], float], tol: float, *, n: int | None = None
+) -> TrvpnlResult:
+    """Points of a list near a line.
+
+    Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component. Takes
+    time in proportion to n and no memory.
+
+    Retains: nothing.
+
+    Arguments:
+      xa, ya, za: A
+      xb, yb, zb: B
+      X, Y: arrays of n: x and y coordinates
+      zf: function that gives the z coordinate of the point at a position; called with 1 to n in
+        this order
+      n: number of points
+      tol: largest distance allowed, itself included; a NaN distance is not
+
+    Returns:
+      status: 0 always; unwritten when n < 1
+      count_: how many are found
+      index_: array of n, count used: their positions, ascending; unwritten beyond count
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvpnl.call((xa, ya, za, xb, yb, zb, X, Y, zf, n, tol,))
+
+
+class TrvlpcStatus(IntEnum):
+    NOT_MOVED = 0
+
+
+class TrvlpcResult(NamedTuple):
+    x2: float
+    y2: float
+    z2: float
+    status: int
+
+
+_trvlpc = Routine(
+    "trvlpc", TrvlpcResult,
+    "in real xp; in real yp; in real zp; in real x1; in real y1; in real z1; inout real x2; "
+    "inout real y2; inout real z2; in real dxp; in real dyp; in real dzp; in real dx1; in "
+    "real dy1; in real dz1; out int status",
+    retains=True,
+)
+
+
+def trvlpc(
+    xp: float, yp: float, zp: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
+    float, dxp: float, dyp: float, dzp: float, dx1: float, dy1: float, dz1: float
+) -> TrvlpcResult:
+    """Carries a point along when the line through it is moved.
+
+    P and Q1 move by dP and dQ1; Q2 keeps its place on their line in proportion. Only the relation of
+    the lines Q2-P and Q1-P tells whether the three are collinear (trvdirl).
+
+    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+
+    Arguments:
+      xp, yp, zp: P
+      x1, y1, z1: Q1
+      x2, y2, z2: Q2; untouched when status is 0
+      dxp, dyp, dzp: move of P
+      dx1, dy1, dz1: move of Q1
+
+    Returns:
+      x2, y2, z2: Q2; untouched when status is 0
+      status: 0 not moved: the three points are not collinear, or Q1 is at P; 3 moved, Q1 and Q2
+        on one side of P; 4 moved, on either side of P; 6 moved, rounding takes the three for
+        skew lines; 7 moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance
+    """
+    return _trvlpc.cells(xp, yp, zp, x1, y1, z1, dxp, dyp, dzp, dx1, dy1, dz1, x2, y2, z2, 0)
