@@ -56,19 +56,24 @@ def _module(families):
         except contracts.Unreadable:
             pass  # headers.inexact tells of it
     names = [name for routine in routines for name in routine.names()]
-    quoted = ", ".join(f'"{name}"' for name in names)
     meanings = [line for routine in routines for line in routine.meanings()]
     return "\n".join(
         [HEAD]
-        + ["__all__ = [", *textwrap.wrap(quoted, WIDTH, **_indented(4)), "]"]
+        + ["__all__ = [", *_wrapped([f'"{name}"' for name in names], ","), "]"]
         + ["", "MEANINGS: dict[str, dict[str, dict[int, str]]] = {", *meanings, "}"]
         + [part for routine in routines for part in routine.parts()]
     )
 
 
-def _indented(columns):
-    return {"initial_indent": columns * " ", "subsequent_indent": columns * " ",
-            "break_long_words": False, "break_on_hyphens": False}  # fmt: skip
+def _wrapped(items, end, indent=4, width=WIDTH):
+    """The items in lines, none of them broken."""
+    text = f"{end} ".join(item.replace(" ", "\0") for item in items)
+    return [line.replace("\0", " ") for line in _filled(text, indent, indent, width)]
+
+
+def _filled(text, first, others, width=WIDTH):
+    return textwrap.wrap(text, width, initial_indent=first * " ", subsequent_indent=others * " ",
+                         break_long_words=False, break_on_hyphens=False)  # fmt: skip
 
 
 def _python_name(name):
@@ -176,8 +181,7 @@ class _Routine:
             yield f"class {self._result()}(NamedTuple):"
             yield from (f"    {a.name}: {a.result_hint()}" for a in self.written)
             yield "\n"
-        facts = "; ".join(a.fact() for a in self.arguments)
-        pieces = textwrap.wrap(facts, WIDTH - 8, break_long_words=False, break_on_hyphens=False)
+        pieces = _wrapped([a.fact() for a in self.arguments], ";", 0, WIDTH - 8)
         yield f"_{self.name} = Routine("
         yield f'    "{self.name}", {self._result()},'
         yield from (f'    "{piece} "' for piece in pieces[:-1])
@@ -198,21 +202,22 @@ class _Routine:
         optional = [f"{a.name}: int | None = None" for a in self.inputs if a.lengths_of]
         changes = any(a.is_array and a.direction == "inout" for a in self.written)
         optional += ["in_place: bool = False"] if changes else []
-        parameters = [f"{a.name}: {a.hint()}" for a in free] + (["*"] if optional else []) + optional
+        parameters = [f"{a.name}: {a.hint()}" for a in free]
+        parameters += ["*", *optional] if optional else []
         result = self._result() or self.written[0].result_hint()
         yield f"def {self.name}("
-        yield from textwrap.wrap(", ".join(parameters), WIDTH, **_indented(4))
+        yield from _wrapped(parameters, ",")
         yield f") -> {result}:"
         yield from self._docstring()
         if any(a.is_array or a.kind == "function" for a in self.arguments):
-            values = ", ".join(a.name for a in self.inputs)
-            call = f"_{self.name}.call(({values},){', in_place' if changes else ''})"
+            values = ", ".join(a.name for a in self.inputs) + ("," if len(self.inputs) == 1 else "")
+            call = f"_{self.name}.call(({values}){', in_place' if changes else ''})"
         else:
             cells = [a.name for a in self.inputs if a.direction == "in"]
             start = {"int": "0", "real": "_NAN"}
             cells += [a.name if a.direction == "inout" else start[a.kind] for a in self.written]
             call = f"_{self.name}.cells({', '.join(cells)})"
-        yield from textwrap.wrap(f"return {call}", WIDTH, **_indented(4) | {"subsequent_indent": 8 * " "})
+        yield from _filled(f"return {call}", 4, 8)
 
     def _docstring(self):
         description, _, _ = self.text.partition("\n@param")
@@ -224,10 +229,9 @@ class _Routine:
                 yield f"\n    {title}:"
             while arguments:
                 text = arguments[0].text
-                alike = [a.name for a in arguments if a.text == text and a.is_array == arguments[0].is_array]
-                arguments = [a for a in arguments if a.name not in alike]
-                entry = f"{', '.join(alike)}: {text}"
-                yield from textwrap.wrap(entry, WIDTH, **_indented(6) | {"subsequent_indent": 8 * " "})
+                alike = [a.name for a in arguments if a.text == text]
+                arguments = [a for a in arguments if a.text != text]
+                yield from _filled(f"{', '.join(alike)}: {text}", 6, 8)
         if "unwritten" in self.text:
             yield "\n    What is unwritten is NaN where it is a Real, 0 where it is an Integer."
         yield '    """'
@@ -240,18 +244,21 @@ def _meanings_of(text):
         match = contracts.ITEM.match(item)
         if match:
             first, last, listed, _, _ = match.groups()
-            meaning = item[match.end() :].strip(" ,:")
+            always = item.startswith("always")
+            meaning = "always" if always else item[match.end() :].strip(" ,:")
             if first:
                 values = range(int(first), int(last) + 1)
             else:
                 values = map(int, re.findall(contracts.NUMBER, listed or ""))
-            meanings |= {value: "always" if item.startswith("always") else meaning for value in values}
+            meanings |= {value: meaning for value in values}
     return dict(sorted(meanings.items()))
 
 
 def _constant(meaning):
     """DONE of `done, also for parallel lines`; None where a meaning is no name."""
-    name = re.split(r"[:(]", meaning)[0].strip() if "but also" not in meaning else ""
+    if "but also" in meaning:
+        return None
+    name = re.sub(r"\s*\([^()]*\)$", "", meaning.partition(":")[0])
     name = re.sub(r"^(done|refused|ordered)\b.*", r"\1", name).removeprefix("the ")
     plain = re.fullmatch(r"[A-Za-z][\w -]*", name) and " or " not in f" {name} "
     if not plain or name.split()[0] in ("always", "it", "otherwise") or len(name.split()) > 8:

@@ -26,8 +26,9 @@ def library():
     given = os.environ.get("TRELVIN_LIBRARY")
     if given:
         return Path(given)
-    options = ["-DCMAKE_BUILD_TYPE=Release", "-DTRELVIN_BUILD_TESTS=OFF", "-DTRELVIN_BUILD_EXAMPLES=OFF"]
     native = BUILD / "native"
+    options = ["-DTRELVIN_BUILD_TESTS=OFF", "-DTRELVIN_BUILD_EXAMPLES=OFF"]
+    options += ["-DCMAKE_BUILD_TYPE=Release", "-DBUILD_SHARED_LIBS=ON"]
     subprocess.run(["cmake", "-S", CHECKOUT, "-B", native, *options], check=True)
     subprocess.run(["cmake", "--build", native, "--target", "trelvin", "--parallel"], check=True)
     return native / "lib" / "libtrelvin.so"

@@ -18,7 +18,7 @@ left, right = -b / 2, b / 2
 
 
 def figures_of(*plates):
-    """Bending figures of plates (x1, y1, x2, y2, t); those of torsion are NaN for a closed section."""
+    """Of plates (x1, y1, x2, y2, t), in bending; figures of torsion are NaN for a closed section."""
     return trelvin.trvmxt(*np.transpose(plates))
 
 

@@ -25,7 +25,7 @@ interpreter's lock, but share what they retain.
 from ._call import batch
 from ._routines import *  # noqa: F403
 from ._routines import MEANINGS
-from ._routines import __all__ as _routines
+from ._routines import __all__ as _names
 from ._version import __version__
 
-__all__ = ["MEANINGS", "__version__", "batch", *_routines]
+__all__ = ["MEANINGS", "__version__", "batch", *_names]

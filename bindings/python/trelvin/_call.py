@@ -45,17 +45,14 @@ class Argument(NamedTuple):
     by: str | None = None
     least: int | None = None
     lengths_of: tuple = ()  # the arrays that are as long as this count
-
-    @property
-    def is_array(self):
-        return self.sizes is not None
+    is_array: bool = False
 
 
 def _argument(text: str) -> Argument:
     direction, kind, name, sizes, used, by, least, arrays = _ARGUMENT.fullmatch(text).groups()
     return Argument(
         direction, kind, name, None if sizes is None else sizes.split(", "), used, by,
-        None if least is None else int(least), tuple((arrays or "").split()),
+        None if least is None else int(least), tuple((arrays or "").split()), sizes is not None,
     )  # fmt: skip
 
 
@@ -78,11 +75,17 @@ class Routine:
         self.arguments = [_argument(text) for text in arguments.split("; ")]
         self.inputs = [a for a in self.arguments if a.direction != "out"]
         self.written = [a for a in self.arguments if a.direction != "in"]
+        outputs = [a for a in self.arguments if a.direction == "out"]
+        self.single_outputs = {
+            kind: [a.name for a in outputs if a.kind == kind and not a.is_array] for kind in _TYPES
+        }
+        self.array_outputs = [a for a in outputs if a.is_array]
         self.result = result
         self.named = {a.name: a for a in self.arguments}
         sized = " ".join(size for a in self.arguments if a.is_array for size in a.sizes)
         self.counts = [a for a in self.inputs if a.name in re.findall(r"[A-Za-z]\w*", sized)]
         self._address = ctypes.cast(getattr(_LIBRARY, name), ctypes.c_void_p).value
+        self.retains = retains
         self._loop = _LOOP_LOCKED if retains else _LOOP_FREE
         self._lay_out_cells()
         Routine.by_name[name] = self
@@ -95,8 +98,9 @@ class Routine:
         places = {a.name: 4 * i for i, a in enumerate(order)}
         self._cell_inputs = [(i, a) for i, a in enumerate(order) if a.direction != "out"]
         self._cell_inputs.sort(key=lambda cell: self.inputs.index(cell[1]))
-        self._pack = struct.Struct("".join(_CELL[a.kind] for a in order)).pack
-        self._unpack = struct.Struct("".join(_CELL[a.kind] for a in self.written)).unpack_from
+        # In the standard form, which refuses what a Real can not hold; the native one would not.
+        self._pack = struct.Struct("=" + "".join(_CELL[a.kind] for a in order)).pack
+        self._unpack = struct.Struct("=" + "".join(_CELL[a.kind] for a in self.written)).unpack_from
         self._first_written = 4 * (len(order) - len(self.written))
         self._block = ctypes.c_char * (4 * len(order))
         self._offsets = (ctypes.c_ssize_t * len(order))(*(places[a.name] for a in self.arguments))
@@ -131,6 +135,7 @@ class _Call:
         self.shape: tuple = ()  # of the rows
         self.rows = 1
         self.operands: dict[str, np.ndarray] = {}  # rows, and elements where it is an array
+        self.columns: dict[str, np.ndarray] = {}  # of each kind, a row of numbers an output
         self.raised: list[BaseException] = []  # by the host's function
 
     def run(self, values: tuple) -> Any:
@@ -202,31 +207,39 @@ class _Call:
             limits = np.iinfo(np.int32)
             if array.min() < limits.min or array.max() > limits.max:
                 raise self._fault(ValueError, argument, f"needs 32-bit {name}s; {what} given")
-        try:
-            with np.errstate(over="raise"):
-                return array.astype(wanted)
-        except FloatingPointError:
+        with np.errstate(over="ignore"):
+            converted = array.astype(wanted)
+        if argument.kind == "real" and (np.isinf(converted) & np.isfinite(array)).any():
             problem = f"needs {name}s of single precision; {what} given"
-            raise self._fault(ValueError, argument, problem) from None
+            raise self._fault(ValueError, argument, problem)
+        return converted
 
     def _count(self):
         """The counts that are left out, and the sizes that all counts ask for."""
         for argument in self.routine.inputs:
-            name = argument.name
-            if name not in self.given:
-                lengths = {array: self.given[array].shape[-1] for array in argument.lengths_of}
-                if len(set(lengths.values())) > 1:
-                    told = ", ".join(f"{array} has {n}" for array, n in lengths.items())
-                    raise self._fault(ValueError, argument, f"is one number of elements; {told}")
-                length = next(iter(lengths.values()))
-                self.given[name] = np.array(length, np.int32)
-            least = argument.least
-            if argument in self.routine.counts:
-                least = max(0, least or 0)
-                self.counts[name] = int(self.given[name].max(initial=0))
-            if least is not None and self.given[name].size and self.given[name].min() < least:
-                given = f"must be at least {least}; {self.given[name].min()} given"
+            if argument.name not in self.given:
+                self.given[argument.name] = self._length(argument)
+            is_count = argument in self.routine.counts
+            least = max(0, argument.least or 0) if is_count else argument.least
+            if least is None:
+                continue
+            numbers = self.given[argument.name].ravel().tolist()
+            if min(numbers, default=least) < least:
+                given = f"must be at least {least}; {min(numbers)} given"
                 raise self._fault(ValueError, argument, given)
+            self.counts[argument.name] = max(numbers, default=0)
+
+    def _length(self, argument: Argument) -> np.ndarray:
+        """Of the arrays that a count belongs to; 0 where their kind has no use for it."""
+        lengths = {
+            name: self.given[name].shape[-1]
+            for name in argument.lengths_of
+            if argument.name in " ".join(self._expressions(self.routine.named[name]))
+        }
+        if len(set(lengths.values())) > 1:
+            told = ", ".join(f"{array} has {n}" for array, n in lengths.items())
+            raise self._fault(ValueError, argument, f"is one number of elements; {told}")
+        return np.array(next(iter(lengths.values()), 0), np.int32)
 
     def _expressions(self, argument: Argument) -> list:
         """The sizes that apply: with a kind, those of the kinds that occur."""
@@ -264,6 +277,8 @@ class _Call:
                 shapes.append(array.shape[:-1])
             elif argument.kind != "function":
                 shapes.append(array.shape)
+        if not self.batch:
+            return
         try:
             self.shape = np.broadcast_shapes(*shapes)
         except ValueError:
@@ -280,10 +295,15 @@ class _Call:
         if argument.is_array and argument.direction == "inout" and self.in_place:
             self.operands[argument.name] = self._own(argument, core)
             return
-        spread = np.broadcast_to(array, self.shape + core).reshape((self.rows,) + core)
+        spread = array
+        if array.shape != self.shape + core:
+            spread = np.broadcast_to(array, self.shape + core)
+        spread = spread.reshape((self.rows,) + core)
         if argument.direction == "inout":
             room = (max(core[0], self._room(argument)),) if core else ()
-            copy = np.full((self.rows,) + room, _START[argument.kind], array.dtype)
+            copy = np.empty((self.rows,) + room, array.dtype)
+            if core:
+                copy[:, core[0] :] = _START[argument.kind]
             copy[(slice(None),) + tuple(map(slice, core))] = spread
             spread = copy
         elif not spread.flags.aligned or (core and spread.strides[-1] != spread.itemsize):
@@ -300,20 +320,17 @@ class _Call:
         return array.reshape((self.rows,) + core)
 
     def _make_room(self):
-        for kind, dtype in _TYPES.items():
-            arguments = [a for a in self.routine.arguments if (a.direction, a.kind) == ("out", kind)]
-            single = [a.name for a in arguments if not a.is_array]
-            columns = np.full((len(single), self.rows), _START[kind], dtype)
-            self.operands.update(zip(single, columns))
-            for argument in arguments:
-                if argument.is_array:
-                    room = (self.rows, self._room(argument))
-                    # Zeros take no memory before they are written, nor does what is cut anyhow.
-                    empty = np.zeros if kind == "int" else np.empty
-                    array = empty(room, dtype)
-                    if kind == "real" and (self.batch or not argument.used):
-                        array.fill(math.nan)
-                    self.operands[argument.name] = array
+        for kind, names in self.routine.single_outputs.items():
+            self.columns[kind] = np.empty((len(names), self.rows), _TYPES[kind])
+            self.columns[kind].fill(_START[kind])
+        for argument in self.routine.array_outputs:
+            room = (self.rows, self._room(argument))
+            # Zeros take no memory before they are written, nor does what is cut anyhow.
+            empty = np.zeros if argument.kind == "int" else np.empty
+            array = empty(room, _TYPES[argument.kind])
+            if argument.kind == "real" and (self.batch or not argument.used):
+                array.fill(math.nan)
+            self.operands[argument.name] = array
 
     def _keep_apart(self):
         """Arrays that are changed in place may share memory with nothing else."""
@@ -332,23 +349,24 @@ class _Call:
     # --- the call -------------------------------------------------------------------------
 
     def _loop(self):
-        addresses = []
-        strides = []
-        for argument in self.routine.arguments:
+        places = {name: _place(operand) for name, operand in self.operands.items()}
+        for kind, names in self.routine.single_outputs.items():
+            first, stride = _place(self.columns[kind])
+            places.update((name, (first + i * stride, 4)) for i, name in enumerate(names))
+        for argument in self.routine.inputs:
             if argument.kind == "function":
                 function = ctypes.cast(self.given[argument.name], ctypes.c_void_p)
-                addresses.append(function.value)
-                strides.append(0)
-            else:
-                operand = self.operands[argument.name]
-                addresses.append(operand.__array_interface__["data"][0])
-                strides.append(operand.strides[0])
-        words = ctypes.c_ssize_t * len(addresses)
-        self.routine._loop(
-            self.routine._address, len(addresses), None, words(*addresses), words(*strides), self.rows
-        )
+                places[argument.name] = (function.value, 0)
+        addresses, strides = zip(*(places[argument.name] for argument in self.routine.arguments))
+        count = len(addresses)
+        words = ctypes.c_ssize_t * count
+        offsets, strides = words(*addresses), words(*strides)
+        self.routine._loop(self.routine._address, count, None, offsets, strides, self.rows)
 
     def _results(self) -> Any:
+        for kind, names in self.routine.single_outputs.items():
+            columns = self.columns[kind]
+            self.operands.update(zip(names, columns if self.batch else columns[:, 0].tolist()))
         values = [self._result(argument) for argument in self.routine.written]
         return self.routine.result._make(values) if self.routine.result else values[0]
 
@@ -359,25 +377,29 @@ class _Call:
         if self.batch:
             return operand.reshape(self.shape + operand.shape[1:])
         if not argument.is_array:
-            return operand.item()
+            return operand.item() if argument.direction == "inout" else operand
         array = operand[0]
         if argument.used:
-            used = int(self.operands[argument.used][0])
+            used = int(self.operands[argument.used])
             if used < len(array):
                 array = array[: max(used, 0)].copy()  # of its own, without the room
         return array
+
+
+def _place(array: np.ndarray) -> tuple[int, int]:
+    return array.__array_interface__["data"][0], array.strides[0]
 
 
 def batch(routine: Callable, *arguments: Any, in_place: bool = False, **named: Any) -> Any:
     """Calls a routine for many rows at once, in a loop of the library's own speed.
 
     Takes the arguments of the routine, each as a single number for all rows or as an array of one
-    for each row; they are broadcast as NumPy does. An array argument has its elements along its last
-    axis, the rows before it. The results are those of the routine, with an array instead of each
-    number, and arrays instead of each array; none is cut to its count. Rows are calculated one after
-    the other, in C order. A routine that calls a function of the host's calls it in every row.
+    a row; they are broadcast as NumPy does. An array argument has its elements along its last axis
+    and the rows before it. The results are those of the routine, with an array for each number, and
+    rows of elements for each array, none cut to its count. Rows are computed one after the other,
+    in C order.
 
-        beam = trelvin.batch(trelvin.trvro2, b, t, r1, r2, psi, ks)
+        rho = trelvin.batch(trelvin.trvro2, b, t, r1, r2, psi, ks)
     """
     known = Routine.by_name.get(getattr(routine, "__name__", ""))
     if known is None:

@@ -27,8 +27,8 @@ __all__ = [
     "Trvmer15Result", "trvmer16", "Trvmer16Result", "trvpds", "trvpri", "trvpre", "trvcnt",
     "TrvcntResult", "TrvcntStatus", "trvcnt1", "Trvcnt1Status", "trv123", "Trv123Result",
     "Trv123Status", "trvmed", "TrvmedResult", "trvdtr2", "trvdtr3", "trvgrc", "TrvgrcResult",
-    "trvint", "trvvin", "TrvvinStatus", "trvpos", "trvpos1", "Trvpos1Result", "trvln3",
-    "Trvln3Result", "trvln1", "Trvln1Result", "trvln4", "Trvln4Result", "trvln2",
+    "trvint", "trvvin", "TrvvinStatus", "trvpos", "trvpos1", "Trvpos1Result", "Trvpos1Status",
+    "trvln3", "Trvln3Result", "trvln1", "Trvln1Result", "trvln4", "Trvln4Result", "trvln2",
     "Trvln2Result", "trvln5", "Trvln5Result", "trvlds", "trvlni", "TrvlniResult",
     "TrvlniStatus", "trvlul", "TrvlulResult", "TrvlulStatus", "trvpsn", "TrvpsnCode", "trvln6",
     "Trvln6Result", "Trvln6Code", "Trvln6On", "trvln7", "Trvln7Result", "Trvln7Code",
@@ -517,8 +517,8 @@ class TrvlciResult(NamedTuple):
 
 _trvlci = Routine(
     "trvlci", TrvlciResult,
-    "in real a; in real b; in real c; in real D; in real E; in real F; out int n; out real "
-    "x1; out real y1; out real x2; out real y2",
+    "in real a; in real b; in real c; in real D; in real E; in real F; out int n; "
+    "out real x1; out real y1; out real x2; out real y2",
 )
 
 
@@ -559,8 +559,8 @@ class Trvc12Result(NamedTuple):
 
 _trvc12 = Routine(
     "trvc12", Trvc12Result,
-    "in real D1; in real E1; in real F1; in real D2; in real E2; in real F2; out int n; out "
-    "real x1; out real y1; out real x2; out real y2",
+    "in real D1; in real E1; in real F1; in real D2; in real E2; in real F2; out int n; "
+    "out real x1; out real y1; out real x2; out real y2",
 )
 
 
@@ -598,8 +598,8 @@ class Trvcer2Result(NamedTuple):
 
 _trvcer2 = Routine(
     "trvcer2", Trvcer2Result,
-    "in real x1; in real y1; in real x2; in real y2; in int side; in real r; out real xa; out "
-    "real ya; out real xb; out real yb; out real xc; out real yc; out int n",
+    "in real x1; in real y1; in real x2; in real y2; in int side; in real r; out real xa; "
+    "out real ya; out real xb; out real yb; out real xc; out real yc; out int n",
 )
 
 
@@ -642,8 +642,8 @@ class Trvcer1Result(NamedTuple):
 
 _trvcer1 = Routine(
     "trvcer1", Trvcer1Result,
-    "in real x1; in real y1; in real x2; in real y2; in int side; in real h; out real r; out "
-    "real xc; out real yc; out int n",
+    "in real x1; in real y1; in real x2; in real y2; in int side; in real h; out real r; "
+    "out real xc; out real yc; out int n",
 )
 
 
@@ -686,8 +686,8 @@ class TrvcinResult(NamedTuple):
 
 _trvcin = Routine(
     "trvcin", TrvcinResult,
-    "in real X[2]; in real Y[2]; in real a; in real b; in real c; out int position; out real "
-    "x1; out real y1; out real x2; out real y2",
+    "in real X[2]; in real Y[2]; in real a; in real b; in real c; out int position; "
+    "out real x1; out real y1; out real x2; out real y2",
     retains=True,
 )
 
@@ -721,7 +721,7 @@ def trvcin(
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
-    return _trvcin.call((X, Y, a, b, c,))
+    return _trvcin.call((X, Y, a, b, c))
 
 
 class Trvcer3Status(IntEnum):
@@ -738,8 +738,8 @@ class Trvcer3Result(NamedTuple):
 
 _trvcer3 = Routine(
     "trvcer3", Trvcer3Result,
-    "in real x0; in real y0; inout real x; inout real y; in real angle; out real xr; out real "
-    "yr; out int status",
+    "in real x0; in real y0; inout real x; inout real y; in real angle; out real xr; "
+    "out real yr; out int status",
 )
 
 
@@ -779,8 +779,8 @@ class Trvcer8Result(NamedTuple):
 
 _trvcer8 = Routine(
     "trvcer8", Trvcer8Result,
-    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; in "
-    "real d; out real x; out real y; out int status",
+    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; "
+    "in real d; out real x; out real y; out int status",
     retains=True,
 )
 
@@ -825,8 +825,8 @@ class Trvcer6Result(NamedTuple):
 
 _trvcer6 = Routine(
     "trvcer6", Trvcer6Result,
-    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; in "
-    "real d; out real x; out real y; out int status",
+    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; "
+    "in real d; out real x; out real y; out int status",
     retains=True,
 )
 
@@ -875,15 +875,15 @@ class Trvcer9Result(NamedTuple):
 
 _trvcer9 = Routine(
     "trvcer9", Trvcer9Result,
-    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; in "
-    "real d; in real w; out real x1; out real y1; out real x2; out real y2; out int status",
+    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; "
+    "in real d; in real w; out real x1; out real y1; out real x2; out real y2; out int status",
     retains=True,
 )
 
 
 def trvcer9(
-    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, side: int, d: float, w:
-    float
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, side: int, d: float,
+    w: float
 ) -> Trvcer9Result:
     """Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
 
@@ -926,8 +926,8 @@ class Trvarc1Result(NamedTuple):
 
 _trvarc1 = Routine(
     "trvarc1", Trvarc1Result,
-    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; out real s1; out "
-    "real s2; out int status",
+    "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; out real s1; "
+    "out real s2; out int status",
 )
 
 
@@ -987,15 +987,15 @@ class TrvhinResult(NamedTuple):
 
 _trvhin = Routine(
     "trvhin", TrvhinResult,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; in real x3; in real y3; in real z3; out real h0; out real s0; out "
-    "real h3; out real s3; out real len_",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; in real x3; in real y3; in real z3; out real h0; out real s0; "
+    "out real h3; out real s3; out real len_",
 )
 
 
 def trvhin(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float, x3: float, y3: float, z3: float
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float, x3: float, y3: float, z3: float
 ) -> TrvhinResult:
     """Distances and stations of two points against a segment.
 
@@ -1030,8 +1030,8 @@ _trvapp = Routine(
 
 
 def trvapp(
-    x0: float, y0: float, x1: float, y1: float, x2: float, y2: float, X: ArrayLike, Y:
-    ArrayLike, *, n: int | None = None
+    x0: float, y0: float, x1: float, y1: float, x2: float, y2: float, X: ArrayLike,
+    Y: ArrayLike, *, n: int | None = None
 ) -> NDArray[int32]:
     """Marks points by a sector.
 
@@ -1053,7 +1053,7 @@ def trvapp(
       mark: array of n: 1 inside; 2 outside; -1 no sector: the rays' angle is within the
         tolerance, which it is for all points alike
     """
-    return _trvapp.call((x0, y0, x1, y1, x2, y2, n, X, Y,))
+    return _trvapp.call((x0, y0, x1, y1, x2, y2, n, X, Y))
 
 
 class Trvcer4Status(IntEnum):
@@ -1074,8 +1074,8 @@ class Trvcer4Result(NamedTuple):
 
 _trvcer4 = Routine(
     "trvcer4", Trvcer4Result,
-    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; inout real "
-    "yb; in real s; in real angle; out real xo; out real yo; out int status",
+    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; "
+    "inout real yb; in real s; in real angle; out real xo; out real yo; out int status",
     retains=True,
 )
 
@@ -1130,8 +1130,8 @@ class Trvcer10Result(NamedTuple):
 
 _trvcer10 = Routine(
     "trvcer10", Trvcer10Result,
-    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; inout real "
-    "yb; in real turn; in real angle; out real xo; out real yo; out int status",
+    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; "
+    "inout real yb; in real turn; in real angle; out real xo; out real yo; out int status",
     retains=True,
 )
 
@@ -1188,15 +1188,16 @@ class Trvcer5Result(NamedTuple):
 
 _trvcer5 = Routine(
     "trvcer5", Trvcer5Result,
-    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; inout real "
-    "yb; in real s; in int side; in real e; out real xo; out real yo; out int status",
+    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; "
+    "inout real yb; in real s; in int side; in real e; out real xo; out real yo; "
+    "out int status",
     retains=True,
 )
 
 
 def trvcer5(
-    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int, e:
-    float
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int,
+    e: float
 ) -> Trvcer5Result:
     """Point of an arc on the line from a station of its chord towards the sagitta.
 
@@ -1254,15 +1255,16 @@ class Trvcer7Result(NamedTuple):
 
 _trvcer7 = Routine(
     "trvcer7", Trvcer7Result,
-    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; inout real "
-    "yb; in real s; in int side; in real e; in real angle; out real xp; out real yp; out real "
-    "xt; out real yt; out real xo; out real yo; out real len_; out int status",
+    "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; "
+    "inout real yb; in real s; in int side; in real e; in real angle; out real xp; "
+    "out real yp; out real xt; out real yt; out real xo; out real yo; out real len_; "
+    "out int status",
 )
 
 
 def trvcer7(
-    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int, e:
-    float, angle: float
+    xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int,
+    e: float, angle: float
 ) -> Trvcer7Result:
     """Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
     chord.
@@ -1320,9 +1322,9 @@ class TrvardResult(NamedTuple):
 
 _trvard = Routine(
     "trvard", TrvardResult,
-    "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; in real r; out "
-    "real xc; out real yc; out real xt1; out real yt1; out real xt2; out real yt2; out int "
-    "status",
+    "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; in real r; "
+    "out real xc; out real yc; out real xt1; out real yt1; out real xt2; out real yt2; "
+    "out int status",
 )
 
 
@@ -1362,8 +1364,8 @@ class TrvenvResult(NamedTuple):
 
 _trvenv = Routine(
     "trvenv", TrvenvResult,
-    "in real xc; in real yc; in real xa; in real ya; in real sweep; out real xmin; out real "
-    "ymin; out real xmax; out real ymax",
+    "in real xc; in real yc; in real xa; in real ya; in real sweep; out real xmin; "
+    "out real ymin; out real xmax; out real ymax",
 )
 
 
@@ -1411,7 +1413,7 @@ def trvord(
     Returns:
       V: array of n
     """
-    return _trvord.call((V, n,), in_place)
+    return _trvord.call((V, n), in_place)
 
 
 _trvord1 = Routine(
@@ -1433,7 +1435,7 @@ def trvord1(
     Returns:
       V: array of n
     """
-    return _trvord1.call((V, n,), in_place)
+    return _trvord1.call((V, n), in_place)
 
 
 _trvordi = Routine(
@@ -1462,7 +1464,7 @@ def trvordi(
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
-    return _trvordi.call((V, n,))
+    return _trvordi.call((V, n))
 
 
 class TrvporStatus(IntEnum):
@@ -1476,8 +1478,8 @@ class TrvporResult(NamedTuple):
 
 _trvpor = Routine(
     "trvpor", TrvporResult,
-    "in int n = A B C; in real A[n]; in real B[n]; in real C[n]; out int IDX[n]; out int "
-    "status",
+    "in int n = A B C; in real A[n]; in real B[n]; in real C[n]; out int IDX[n]; "
+    "out int status",
     retains=True,
 )
 
@@ -1503,7 +1505,7 @@ def trvpor(
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
-    return _trvpor.call((n, A, B, C,))
+    return _trvpor.call((n, A, B, C))
 
 
 class TrvorvResult(NamedTuple):
@@ -1535,7 +1537,7 @@ def trvorv(
       X, Y, Z: arrays of 4: corners, rearranged
       ORD: array of 4: the corners' old positions in their new order
     """
-    return _trvorv.call((X, Y, Z,), in_place)
+    return _trvorv.call((X, Y, Z), in_place)
 
 
 class Trvmer1Result(NamedTuple):
@@ -1545,8 +1547,8 @@ class Trvmer1Result(NamedTuple):
 
 _trvmer1 = Routine(
     "trvmer1", Trvmer1Result,
-    "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; out int "
-    "OUT[na+nb]",
+    "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; "
+    "out int OUT[na+nb]",
     retains=True,
 )
 
@@ -1566,7 +1568,7 @@ def trvmer1(
       nout: number of entries written
       OUT: array of na+nb: A, then B
     """
-    return _trvmer1.call((na, A, nb, B,))
+    return _trvmer1.call((na, A, nb, B))
 
 
 class Trvmer11Result(NamedTuple):
@@ -1576,8 +1578,8 @@ class Trvmer11Result(NamedTuple):
 
 _trvmer11 = Routine(
     "trvmer11", Trvmer11Result,
-    "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; out int "
-    "OUT[na+nb]",
+    "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; "
+    "out int OUT[na+nb]",
     retains=True,
 )
 
@@ -1597,7 +1599,7 @@ def trvmer11(
       nout: number of entries written
       OUT: array of na+nb: A, then B
     """
-    return _trvmer11.call((na, A, nb, B,))
+    return _trvmer11.call((na, A, nb, B))
 
 
 class Trvmer4Result(NamedTuple):
@@ -1631,7 +1633,7 @@ def trvmer4(
       OUT: array of na+nb: A, then the entries of B that agree with none before them
       IB: array of nb: for each entry of B the first position in OUT that agrees with it
     """
-    return _trvmer4.call((na, A, nb, B, tol,))
+    return _trvmer4.call((na, A, nb, B, tol))
 
 
 class Trvmer15Result(NamedTuple):
@@ -1648,8 +1650,8 @@ _trvmer15 = Routine(
 
 
 def trvmer15(
-    A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None, in_place: bool
-    = False
+    A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None,
+    in_place: bool = False
 ) -> Trvmer15Result:
     """Removes from a list the entries that another holds, in place.
 
@@ -1664,7 +1666,7 @@ def trvmer15(
       A: array of na: those that stay, in their order; unspecified beyond the new na
       count_: how many were removed
     """
-    return _trvmer15.call((na, A, nb, B,), in_place)
+    return _trvmer15.call((na, A, nb, B), in_place)
 
 
 class Trvmer16Result(NamedTuple):
@@ -1697,7 +1699,7 @@ def trvmer16(
       X, Y: arrays of n: vertices; unspecified beyond the new n
       n: number of vertices; below 1 nothing happens
     """
-    return _trvmer16.call((X, Y, n, tol,), in_place)
+    return _trvmer16.call((X, Y, n, tol), in_place)
 
 
 _trvpds = Routine(
@@ -1727,14 +1729,14 @@ def trvpds(
 
 _trvpri = Routine(
     "trvpri", None,
-    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; in "
-    "real y3; in real z3; in real x4; in real y4; in real z4; out real s",
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; "
+    "in real y3; in real z3; in real x4; in real y4; in real z4; out real s",
 )
 
 
 def trvpri(
-    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float, z3:
-    float, x4: float, y4: float, z4: float
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float,
+    z3: float, x4: float, y4: float, z4: float
 ) -> float:
     """Dot product of the difference vectors P2 - P1 and P4 - P3.
 
@@ -1754,14 +1756,14 @@ def trvpri(
 
 _trvpre = Routine(
     "trvpre", None,
-    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; in "
-    "real y3; in real z3; in real x4; in real y4; in real z4; out real c[3]",
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; "
+    "in real y3; in real z3; in real x4; in real y4; in real z4; out real c[3]",
 )
 
 
 def trvpre(
-    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float, z3:
-    float, x4: float, y4: float, z4: float
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float,
+    z3: float, x4: float, y4: float, z4: float
 ) -> NDArray[float32]:
     """Cross product (P2 - P1) x (P4 - P3).
 
@@ -1776,7 +1778,7 @@ def trvpre(
     Returns:
       c: array of 3: components of the product, in the square of the length unit
     """
-    return _trvpre.call((x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4,))
+    return _trvpre.call((x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4))
 
 
 class TrvcntStatus(IntEnum):
@@ -1792,8 +1794,8 @@ class TrvcntResult(NamedTuple):
 
 _trvcnt = Routine(
     "trvcnt", TrvcntResult,
-    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; out real dx; out "
-    "real dy; out real dz; out int status",
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; out real dx; "
+    "out real dy; out real dz; out int status",
 )
 
 
@@ -1855,8 +1857,8 @@ class Trv123Result(NamedTuple):
 
 _trv123 = Routine(
     "trv123", Trv123Result,
-    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real t; out "
-    "real x; out real y; out real z; out int status",
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real t; "
+    "out real x; out real y; out real z; out int status",
 )
 
 
@@ -1889,8 +1891,8 @@ class TrvmedResult(NamedTuple):
 
 _trvmed = Routine(
     "trvmed", TrvmedResult,
-    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; out real xm; out "
-    "real ym; out real zm",
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; out real xm; "
+    "out real ym; out real zm",
 )
 
 
@@ -1935,14 +1937,14 @@ def trvdtr2(
 
 _trvdtr3 = Routine(
     "trvdtr3", None,
-    "in real a1; in real a2; in real a3; in real b1; in real b2; in real b3; in real c1; in "
-    "real c2; in real c3; out real det",
+    "in real a1; in real a2; in real a3; in real b1; in real b2; in real b3; in real c1; "
+    "in real c2; in real c3; out real det",
 )
 
 
 def trvdtr3(
-    a1: float, a2: float, a3: float, b1: float, b2: float, b3: float, c1: float, c2: float, c3:
-    float
+    a1: float, a2: float, a3: float, b1: float, b2: float, b3: float, c1: float, c2: float,
+    c3: float
 ) -> float:
     """Determinant of a 3 x 3 matrix, expanded along its first row.
 
@@ -2064,7 +2066,11 @@ def trvpos(
     Returns:
       i: first i with A(i) <= x < A(i+1); 0 when there is none, as for x = A(n)
     """
-    return _trvpos.call((n, A, x,))
+    return _trvpos.call((n, A, x))
+
+
+class Trvpos1Status(IntEnum):
+    NEITHER = 0
 
 
 class Trvpos1Result(NamedTuple):
@@ -2096,7 +2102,7 @@ def trvpos1(
       status: 1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither
       i: first such position; 0 when status is 0
     """
-    return _trvpos1.call((n, A, x,))
+    return _trvpos1.call((n, A, x))
 
 
 class Trvln3Result(NamedTuple):
@@ -2171,8 +2177,8 @@ class Trvln4Result(NamedTuple):
 
 _trvln4 = Routine(
     "trvln4", Trvln4Result,
-    "in real x0; in real y0; in real dx; in real dy; in real u; out real a; out real b; out "
-    "real c",
+    "in real x0; in real y0; in real dx; in real dy; in real u; out real a; out real b; "
+    "out real c",
 )
 
 
@@ -2236,8 +2242,8 @@ class Trvln5Result(NamedTuple):
 
 _trvln5 = Routine(
     "trvln5", Trvln5Result,
-    "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; out real a; out "
-    "real b; out real c",
+    "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; out real a; "
+    "out real b; out real c",
 )
 
 
@@ -2342,8 +2348,8 @@ class TrvlulResult(NamedTuple):
 
 _trvlul = Routine(
     "trvlul", TrvlulResult,
-    "in real a1; in real b1; in real c1; in real a2; in real b2; in real c2; out real d; out "
-    "int status",
+    "in real a1; in real b1; in real c1; in real a2; in real b2; in real c2; out real d; "
+    "out int status",
 )
 
 
@@ -2405,7 +2411,6 @@ def trvpsn(
 
 
 class Trvln6Code(IntEnum):
-    NO_COMPONENT_OF = 0
     ALL_ARE = 1
     X = 2
     Y = 3
@@ -2426,14 +2431,14 @@ class Trvln6Result(NamedTuple):
 
 _trvln6 = Routine(
     "trvln6", Trvln6Result,
-    "in real x0; in real y0; in real z0; in real dx; in real dy; in real dz; in real px; in "
-    "real py; in real pz; in real tol; out int code; out int on",
+    "in real x0; in real y0; in real z0; in real dx; in real dy; in real dz; in real px; "
+    "in real py; in real pz; in real tol; out int code; out int on",
 )
 
 
 def trvln6(
-    x0: float, y0: float, z0: float, dx: float, dy: float, dz: float, px: float, py: float, pz:
-    float, tol: float
+    x0: float, y0: float, z0: float, dx: float, dy: float, dz: float, px: float, py: float,
+    pz: float, tol: float
 ) -> Trvln6Result:
     """Whether a point lies on the line of space through P0 with direction D.
 
@@ -2457,7 +2462,6 @@ def trvln6(
 
 
 class Trvln7Code(IntEnum):
-    NO_COMPONENT_OF = 0
     ALL_ARE = 1
     EX = 2
     EY = 3
@@ -2480,16 +2484,16 @@ class Trvln7Result(NamedTuple):
 
 _trvln7 = Routine(
     "trvln7", Trvln7Result,
-    "in real a1; in real b1; in real c1; in real d1; in real a2; in real b2; in real c2; in "
-    "real d2; in real px; in real py; in real pz; out real ex; out real ey; in real ez; in "
-    "real tol; out int code; out int on",
+    "in real a1; in real b1; in real c1; in real d1; in real a2; in real b2; in real c2; "
+    "in real d2; in real px; in real py; in real pz; out real ex; out real ey; in real ez; "
+    "in real tol; out int code; out int on",
     retains=True,
 )
 
 
 def trvln7(
-    a1: float, b1: float, c1: float, d1: float, a2: float, b2: float, c2: float, d2: float, px:
-    float, py: float, pz: float, ez: float, tol: float
+    a1: float, b1: float, c1: float, d1: float, a2: float, b2: float, c2: float, d2: float,
+    px: float, py: float, pz: float, ez: float, tol: float
 ) -> Trvln7Result:
     """Line of two planes, and whether it agrees with a point at a retained station.
 
@@ -2549,14 +2553,14 @@ def trvphi(
 
 _trvphi3 = Routine(
     "trvphi3", None,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; out real phi",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; out real phi",
 )
 
 
 def trvphi3(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float
 ) -> float:
     """Angle at P0 between the rays to P1 and P2, in space.
 
@@ -2648,14 +2652,14 @@ class TrvchiResult(NamedTuple):
 
 _trvchi = Routine(
     "trvchi", TrvchiResult,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; out real chi; out int status",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; out real chi; out int status",
 )
 
 
 def trvchi(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float
 ) -> TrvchiResult:
     """Directed angle at P0 from the ray to P1 to the ray to P2.
 
@@ -2710,7 +2714,7 @@ def trvcnv(
       status: 1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a side
         whose length is within the tolerance
     """
-    return _trvcnv.call((X, Y, n,))
+    return _trvcnv.call((X, Y, n))
 
 
 class TrvtrgStatus(IntEnum):
@@ -2725,15 +2729,15 @@ class TrvtrgResult(NamedTuple):
 
 _trvtrg = Routine(
     "trvtrg", TrvtrgResult,
-    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; in "
-    "real y3; in real z3; in real x4; in real y4; in real z4; out real cphi; out real sphi; "
-    "out int status",
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; "
+    "in real y3; in real z3; in real x4; in real y4; in real z4; out real cphi; "
+    "out real sphi; out int status",
 )
 
 
 def trvtrg(
-    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float, z3:
-    float, x4: float, y4: float, z4: float
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float,
+    z3: float, x4: float, y4: float, z4: float
 ) -> TrvtrgResult:
     """Cosine and sine of the angle between P2 - P1 and P4 - P3.
 
@@ -2796,8 +2800,8 @@ class TrvdirpCode(IntEnum):
 
 _trvdirp = Routine(
     "trvdirp", None,
-    "in real a1; in real b1; in real c1; in real d1; in real a2; in real b2; in real c2; in "
-    "real d2; out int code",
+    "in real a1; in real b1; in real c1; in real d1; in real a2; in real b2; in real c2; "
+    "in real d2; out int code",
 )
 
 
@@ -2832,15 +2836,15 @@ class TrvmovResult(NamedTuple):
 
 _trvmov = Routine(
     "trvmov", TrvmovResult,
-    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; in "
-    "real y3; in real z3; in real x4; in real y4; in real z4; out real ax; out real ay; out "
-    "real az",
+    "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; "
+    "in real y3; in real z3; in real x4; in real y4; in real z4; out real ax; out real ay; "
+    "out real az",
 )
 
 
 def trvmov(
-    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float, z3:
-    float, x4: float, y4: float, z4: float
+    x1: float, y1: float, z1: float, x2: float, y2: float, z2: float, x3: float, y3: float,
+    z3: float, x4: float, y4: float, z4: float
 ) -> TrvmovResult:
     """Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
 
@@ -2871,8 +2875,8 @@ _trvtra = Routine(
 
 
 def trvtra(
-    X: ArrayLike, Y: ArrayLike, x0: float, y0: float, *, n: int | None = None, in_place: bool =
-    False
+    X: ArrayLike, Y: ArrayLike, x0: float, y0: float, *, n: int | None = None,
+    in_place: bool = False
 ) -> TrvtraResult:
     """Moves the origin of plane points to (x0, y0), in place.
 
@@ -2886,7 +2890,7 @@ def trvtra(
     Returns:
       X, Y: arrays of n: coordinates, less x0 and y0 afterwards
     """
-    return _trvtra.call((X, Y, n, x0, y0,), in_place)
+    return _trvtra.call((X, Y, n, x0, y0), in_place)
 
 
 _trvinv = Routine(
@@ -2909,7 +2913,7 @@ def trvinv(
     Returns:
       V: array of n: the list
     """
-    return _trvinv.call((V, n,), in_place)
+    return _trvinv.call((V, n), in_place)
 
 
 class TrvadrResult(NamedTuple):
@@ -2924,8 +2928,8 @@ _trvadr = Routine(
 
 
 def trvadr(
-    V: ArrayLike, k: int, A: ArrayLike, *, n: int | None = None, m: int | None = None, in_place:
-    bool = False
+    V: ArrayLike, k: int, A: ArrayLike, *, n: int | None = None, m: int | None = None,
+    in_place: bool = False
 ) -> TrvadrResult:
     """Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
 
@@ -2942,7 +2946,7 @@ def trvadr(
       V: array of n+m: the list, with room for what is inserted
       n: number of its elements; n+m afterwards
     """
-    return _trvadr.call((V, n, k, A, m,), in_place)
+    return _trvadr.call((V, n, k, A, m), in_place)
 
 
 class TrvaplResult(NamedTuple):
@@ -2982,7 +2986,7 @@ def trvapl(
         for n = 0 vertex 1 with itself
       area: signed area, in L^2
     """
-    return _trvapl.call((x, y, n,), in_place)
+    return _trvapl.call((x, y, n), in_place)
 
 
 class TrvsplResult(NamedTuple):
@@ -3023,7 +3027,7 @@ def trvspl(
       sx: first moment about the x axis, the integral of y dA, in L^3
       sy: first moment about the y axis, the integral of x dA, in L^3
     """
-    return _trvspl.call((x, y, n,), in_place)
+    return _trvspl.call((x, y, n), in_place)
 
 
 class TrviplResult(NamedTuple):
@@ -3036,8 +3040,8 @@ class TrviplResult(NamedTuple):
 
 _trvipl = Routine(
     "trvipl", TrviplResult,
-    "inout real x[n+1]; inout real y[n+1]; in int n = x y; out real ix; out real iy; out real "
-    "ixy",
+    "inout real x[n+1]; inout real y[n+1]; in int n = x y; out real ix; out real iy; "
+    "out real ixy",
 )
 
 
@@ -3067,7 +3071,7 @@ def trvipl(
       iy: second moment about the y axis, the integral of x*x dA, in L^4
       ixy: product of inertia, the integral of x*y dA, in L^4
     """
-    return _trvipl.call((x, y, n,), in_place)
+    return _trvipl.call((x, y, n), in_place)
 
 
 class TrvacpResult(NamedTuple):
@@ -3078,8 +3082,8 @@ class TrvacpResult(NamedTuple):
 
 _trvacp = Routine(
     "trvacp", TrvacpResult,
-    "in real xc; in real yc; in real x1; in real y1; in real x2; in real y2; in int kind; out "
-    "real area; out real xs; out real ys",
+    "in real xc; in real yc; in real x1; in real y1; in real x2; in real y2; in int kind; "
+    "out real area; out real xs; out real ys",
 )
 
 
@@ -3119,8 +3123,8 @@ class TrvicpResult(NamedTuple):
 
 _trvicp = Routine(
     "trvicp", TrvicpResult,
-    "in real xc; in real yc; in real x1; in real y1; in real x2; in real y2; in int kind; out "
-    "real ix; out real iy; out real ixy",
+    "in real xc; in real yc; in real x1; in real y1; in real x2; in real y2; in int kind; "
+    "out real ix; out real iy; out real ixy",
 )
 
 
@@ -3161,14 +3165,14 @@ class TrvairResult(NamedTuple):
 
 _trvair = Routine(
     "trvair", TrvairResult,
-    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; in int n = "
-    "x y; in int kind; in real value; in real factor; inout real area",
+    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; "
+    "in int n = x y; in int kind; in real value; in real factor; inout real area",
 )
 
 
 def trvair(
-    x: ArrayLike, y: ArrayLike, kind: int, value: float, factor: float, area: float, *, n: int |
-    None = None, in_place: bool = False
+    x: ArrayLike, y: ArrayLike, kind: int, value: float, factor: float, area: float, *,
+    n: int | None = None, in_place: bool = False
 ) -> TrvairResult:
     """Area of a part of a section.
 
@@ -3200,7 +3204,7 @@ def trvair(
       area: area of the part, times the factor; for an unknown kind the caller's value, times
         the factor
     """
-    return _trvair.call((x, y, n, kind, value, factor, area,), in_place)
+    return _trvair.call((x, y, n, kind, value, factor, area), in_place)
 
 
 class TrvstmResult(NamedTuple):
@@ -3212,8 +3216,8 @@ class TrvstmResult(NamedTuple):
 
 _trvstm = Routine(
     "trvstm", TrvstmResult,
-    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; in int n = "
-    "x y; in int kind; in real value; in real factor; inout real sx; inout real sy",
+    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; "
+    "in int n = x y; in int kind; in real value; in real factor; inout real sx; inout real sy",
 )
 
 
@@ -3251,7 +3255,7 @@ def trvstm(
       sx, sy: first moments about the x and the y axis, times the factor; for an unknown kind
         the caller's values, times the factor
     """
-    return _trvstm.call((x, y, n, kind, value, factor, sx, sy,), in_place)
+    return _trvstm.call((x, y, n, kind, value, factor, sx, sy), in_place)
 
 
 class TrvinmResult(NamedTuple):
@@ -3264,9 +3268,9 @@ class TrvinmResult(NamedTuple):
 
 _trvinm = Routine(
     "trvinm", TrvinmResult,
-    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; in int n = "
-    "x y; in int kind; in real value; in real angle; in real factor; inout real ix; inout "
-    "real iy; inout real ixy",
+    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; "
+    "in int n = x y; in int kind; in real value; in real angle; in real factor; "
+    "inout real ix; inout real iy; inout real ixy",
 )
 
 
@@ -3319,7 +3323,7 @@ def trvinm(
         without the segment's own product of inertia, as trvicp gives it; for kind 1 the own
         moments on entry; for an unknown kind the caller's values, times the factor
     """
-    return _trvinm.call((x, y, n, kind, value, angle, factor, ix, iy, ixy,), in_place)
+    return _trvinm.call((x, y, n, kind, value, angle, factor, ix, iy, ixy), in_place)
 
 
 class TrvinpResult(NamedTuple):
@@ -3389,7 +3393,7 @@ def trvinr(
     Returns:
       result: (b - a)/(n - 1) * ((f(1) + f(n))/2 + f(2) + ... + f(n-2))
     """
-    return _trvinr.call((n, f, a, b,))
+    return _trvinr.call((n, f, a, b))
 
 
 _trvro2 = Routine(
@@ -3463,8 +3467,8 @@ class Trvef2Result(NamedTuple):
 
 _trvef2 = Routine(
     "trvef2", Trvef2Result,
-    "in real bl; in real w; in real t; in real r1; in real r2; in real s1; in real s2; out "
-    "real be1; out real be2",
+    "in real bl; in real w; in real t; in real r1; in real r2; in real s1; in real s2; "
+    "out real be1; out real be2",
 )
 
 
@@ -3526,10 +3530,10 @@ class TrvsecIaResult(NamedTuple):
 
 _trvsec_ia = Routine(
     "trvsec_ia", TrvsecIaResult,
-    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real q; out "
-    "int np; out int nv[1]; out real X[12]; out real Y[12]; out int code[1]; out real "
-    "sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; out real z5[1]; "
-    "out real q1[1]; out real q2[1]",
+    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real q; "
+    "out int np; out int nv[1]; out real X[12]; out real Y[12]; out int code[1]; "
+    "out real sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; "
+    "out real z5[1]; out real q1[1]; out real q2[1]",
 )
 
 
@@ -3556,7 +3560,7 @@ def trvsec_ia(
       z1, z2, z3, z4, z5: arrays of 1: 0
       q1, q2: arrays of 1: q
     """
-    return _trvsec_ia.call((H, B1, B2, T1, T2, TW, q,))
+    return _trvsec_ia.call((H, B1, B2, T1, T2, TW, q))
 
 
 class TrvsecHResult(NamedTuple):
@@ -3577,10 +3581,10 @@ class TrvsecHResult(NamedTuple):
 
 _trvsec_h = Routine(
     "trvsec_h", TrvsecHResult,
-    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real q; out "
-    "int np; out int nv[1]; out real X[12]; out real Y[12]; out int code[1]; out real "
-    "sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; out real z5[1]; "
-    "out real q1[1]; out real q2[1]",
+    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real q; "
+    "out int np; out int nv[1]; out real X[12]; out real Y[12]; out int code[1]; "
+    "out real sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; "
+    "out real z5[1]; out real q1[1]; out real q2[1]",
 )
 
 
@@ -3607,7 +3611,7 @@ def trvsec_h(
       z1, z2, z3, z4, z5: arrays of 1: 0
       q1, q2: arrays of 1: q
     """
-    return _trvsec_h.call((H, B1, B2, T1, T2, TW, q,))
+    return _trvsec_h.call((H, B1, B2, T1, T2, TW, q))
 
 
 class TrvsecTResult(NamedTuple):
@@ -3628,9 +3632,10 @@ class TrvsecTResult(NamedTuple):
 
 _trvsec_t = Routine(
     "trvsec_t", TrvsecTResult,
-    "in real B; in real H; in real TF; in real TW; in real q; out int np; out int nv[1]; out "
-    "real X[8]; out real Y[8]; out int code[1]; out real sign[1]; out real z1[1]; out real "
-    "z2[1]; out real z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; out real q2[1]",
+    "in real B; in real H; in real TF; in real TW; in real q; out int np; out int nv[1]; "
+    "out real X[8]; out real Y[8]; out int code[1]; out real sign[1]; out real z1[1]; "
+    "out real z2[1]; out real z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; "
+    "out real q2[1]",
 )
 
 
@@ -3656,7 +3661,7 @@ def trvsec_t(
       z1, z2, z3, z4, z5: arrays of 1: 0
       q1, q2: arrays of 1: q
     """
-    return _trvsec_t.call((B, H, TF, TW, q,))
+    return _trvsec_t.call((B, H, TF, TW, q))
 
 
 class TrvsecBResult(NamedTuple):
@@ -3677,9 +3682,9 @@ class TrvsecBResult(NamedTuple):
 
 _trvsec_b = Routine(
     "trvsec_b", TrvsecBResult,
-    "in int B; in real H; in real q; out int np; out int nv[1]; out real X[12]; out real "
-    "Y[12]; out int code[1]; out real sign[1]; out real z1[1]; out real z2[1]; out real "
-    "z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; out real q2[1]",
+    "in int B; in real H; in real q; out int np; out int nv[1]; out real X[12]; "
+    "out real Y[12]; out int code[1]; out real sign[1]; out real z1[1]; out real z2[1]; "
+    "out real z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; out real q2[1]",
 )
 
 
@@ -3706,7 +3711,7 @@ def trvsec_b(
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
-    return _trvsec_b.call((B, H, q,))
+    return _trvsec_b.call((B, H, q))
 
 
 class TrvsecH1bResult(NamedTuple):
@@ -3727,10 +3732,10 @@ class TrvsecH1bResult(NamedTuple):
 
 _trvsec_h1b = Routine(
     "trvsec_h1b", TrvsecH1bResult,
-    "in real W; in real D; in real P; in real T1; in real T2; in real TW; in real TP; in real "
-    "q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; out real "
-    "sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real z5[2]; "
-    "out real q1[2]; out real q2[2]",
+    "in real W; in real D; in real P; in real T1; in real T2; in real TW; in real TP; "
+    "in real q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; "
+    "out real sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; "
+    "out real z5[2]; out real q1[2]; out real q2[2]",
 )
 
 
@@ -3760,7 +3765,7 @@ def trvsec_h1b(
       z1, z2, z3, z4, z5: arrays of 2: 0
       q1, q2: arrays of 2: q, -q
     """
-    return _trvsec_h1b.call((W, D, P, T1, T2, TW, TP, q,))
+    return _trvsec_h1b.call((W, D, P, T1, T2, TW, TP, q))
 
 
 class TrvsecBoxResult(NamedTuple):
@@ -3781,10 +3786,10 @@ class TrvsecBoxResult(NamedTuple):
 
 _trvsec_box = Routine(
     "trvsec_box", TrvsecBoxResult,
-    "in real BT; in real BB; in real TT; in real TB; in real H; in real TW; in real G; in "
-    "real q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; out "
-    "real sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real "
-    "z5[2]; out real q1[2]; out real q2[2]",
+    "in real BT; in real BB; in real TT; in real TB; in real H; in real TW; in real G; "
+    "in real q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; "
+    "out real sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; "
+    "out real z5[2]; out real q1[2]; out real q2[2]",
 )
 
 
@@ -3812,7 +3817,7 @@ def trvsec_box(
       z1, z2, z3, z4, z5: arrays of 2: 0
       q1, q2: arrays of 2: q, -q
     """
-    return _trvsec_box.call((BT, BB, TT, TB, H, TW, G, q,))
+    return _trvsec_box.call((BT, BB, TT, TB, H, TW, G, q))
 
 
 class TrvsecRhsResult(NamedTuple):
@@ -3834,8 +3839,8 @@ class TrvsecRhsResult(NamedTuple):
 _trvsec_rhs = Routine(
     "trvsec_rhs", TrvsecRhsResult,
     "in real B; in real H; in real T; in real q; out int np; out int nv[2]; out real X[8]; "
-    "out real Y[8]; out int code[2]; out real sign[2]; out real z1[2]; out real z2[2]; out "
-    "real z3[2]; out real z4[2]; out real z5[2]; out real q1[2]; out real q2[2]",
+    "out real Y[8]; out int code[2]; out real sign[2]; out real z1[2]; out real z2[2]; "
+    "out real z3[2]; out real z4[2]; out real z5[2]; out real q1[2]; out real q2[2]",
 )
 
 
@@ -3860,7 +3865,7 @@ def trvsec_rhs(
       z1, z2, z3, z4, z5: arrays of 2: 0
       q1, q2: arrays of 2: q, -q
     """
-    return _trvsec_rhs.call((B, H, T, q,))
+    return _trvsec_rhs.call((B, H, T, q))
 
 
 class TrvsecL2Result(NamedTuple):
@@ -3881,10 +3886,10 @@ class TrvsecL2Result(NamedTuple):
 
 _trvsec_l2 = Routine(
     "trvsec_l2", TrvsecL2Result,
-    "in real B; in real H; in real G; in real T; in real TV; in real q; out int np; out int "
-    "nv[2]; out real X[12]; out real Y[12]; out int code[2]; out real sign[2]; out real "
-    "z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real z5[2]; out real q1[2]; "
-    "out real q2[2]",
+    "in real B; in real H; in real G; in real T; in real TV; in real q; out int np; "
+    "out int nv[2]; out real X[12]; out real Y[12]; out int code[2]; out real sign[2]; "
+    "out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real z5[2]; "
+    "out real q1[2]; out real q2[2]",
 )
 
 
@@ -3910,7 +3915,7 @@ def trvsec_l2(
       z1, z2, z3, z4, z5: arrays of 2: 0
       q1, q2: arrays of 2: q, q
     """
-    return _trvsec_l2.call((B, H, G, T, TV, q,))
+    return _trvsec_l2.call((B, H, G, T, TV, q))
 
 
 class TrvsecTabResult(NamedTuple):
@@ -3931,10 +3936,10 @@ class TrvsecTabResult(NamedTuple):
 
 _trvsec_tab = Routine(
     "trvsec_tab", TrvsecTabResult,
-    "in real B; in real H; in real BW; in real E; in real T; in real TW; in real TB; in real "
-    "q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; out real "
-    "sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; out real z5[2]; "
-    "out real q1[2]; out real q2[2]",
+    "in real B; in real H; in real BW; in real E; in real T; in real TW; in real TB; "
+    "in real q; out int np; out int nv[2]; out real X[16]; out real Y[16]; out int code[2]; "
+    "out real sign[2]; out real z1[2]; out real z2[2]; out real z3[2]; out real z4[2]; "
+    "out real z5[2]; out real q1[2]; out real q2[2]",
 )
 
 
@@ -3963,7 +3968,7 @@ def trvsec_tab(
       z1, z2, z3, z4, z5: arrays of 2: 0
       q1, q2: arrays of 2: q, -q
     """
-    return _trvsec_tab.call((B, H, BW, E, T, TW, TB, q,))
+    return _trvsec_tab.call((B, H, BW, E, T, TW, TB, q))
 
 
 class TrvsecH2bResult(NamedTuple):
@@ -3984,10 +3989,10 @@ class TrvsecH2bResult(NamedTuple):
 
 _trvsec_h2b = Routine(
     "trvsec_h2b", TrvsecH2bResult,
-    "in real B; in real W; in real HI; in real TW1; in real TW2; in real TM; in real TF; in "
-    "real q; out int np; out int nv[3]; out real X[20]; out real Y[20]; out int code[3]; out "
-    "real sign[3]; out real z1[3]; out real z2[3]; out real z3[3]; out real z4[3]; out real "
-    "z5[3]; out real q1[3]; out real q2[3]",
+    "in real B; in real W; in real HI; in real TW1; in real TW2; in real TM; in real TF; "
+    "in real q; out int np; out int nv[3]; out real X[20]; out real Y[20]; out int code[3]; "
+    "out real sign[3]; out real z1[3]; out real z2[3]; out real z3[3]; out real z4[3]; "
+    "out real z5[3]; out real q1[3]; out real q2[3]",
 )
 
 
@@ -4015,7 +4020,7 @@ def trvsec_h2b(
       z1, z2, z3, z4, z5: arrays of 3: 0
       q1, q2: arrays of 3: q, -q, -q
     """
-    return _trvsec_h2b.call((B, W, HI, TW1, TW2, TM, TF, q,))
+    return _trvsec_h2b.call((B, W, HI, TW1, TW2, TM, TF, q))
 
 
 class TrvsecIResult(NamedTuple):
@@ -4036,16 +4041,16 @@ class TrvsecIResult(NamedTuple):
 
 _trvsec_i = Routine(
     "trvsec_i", TrvsecIResult,
-    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real S1; in "
-    "real S2; in real E; in real q; out int np; out int nv[1]; out real X[16]; out real "
-    "Y[16]; out int code[1]; out real sign[1]; out real z1[1]; out real z2[1]; out real "
-    "z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; out real q2[1]",
+    "in real H; in real B1; in real B2; in real T1; in real T2; in real TW; in real S1; "
+    "in real S2; in real E; in real q; out int np; out int nv[1]; out real X[16]; "
+    "out real Y[16]; out int code[1]; out real sign[1]; out real z1[1]; out real z2[1]; "
+    "out real z3[1]; out real z4[1]; out real z5[1]; out real q1[1]; out real q2[1]",
 )
 
 
 def trvsec_i(
-    H: float, B1: float, B2: float, T1: float, T2: float, TW: float, S1: float, S2: float, E:
-    float, q: float
+    H: float, B1: float, B2: float, T1: float, T2: float, TW: float, S1: float, S2: float,
+    E: float, q: float
 ) -> TrvsecIResult:
     """I section with unequal flanges, an eccentric web and 45-degree fillets.
 
@@ -4069,7 +4074,7 @@ def trvsec_i(
       z1, z2, z3, z4, z5: arrays of 1: 0
       q1, q2: arrays of 1: q
     """
-    return _trvsec_i.call((H, B1, B2, T1, T2, TW, S1, S2, E, q,))
+    return _trvsec_i.call((H, B1, B2, T1, T2, TW, S1, S2, E, q))
 
 
 class TrvsecCResult(NamedTuple):
@@ -4090,17 +4095,17 @@ class TrvsecCResult(NamedTuple):
 
 _trvsec_c = Routine(
     "trvsec_c", TrvsecCResult,
-    "in real H; in real B1; in real B2; in real C1; in real C2; in real D1; in real D2; in "
-    "real TW; in real T1; in real T2; in real TC1; in real TC2; in real TD1; in real TD2; in "
-    "real q; out int np; out int nv[1]; out real X[16]; out real Y[16]; out int code[1]; out "
-    "real sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; out real "
-    "z5[1]; out real q1[1]; out real q2[1]",
+    "in real H; in real B1; in real B2; in real C1; in real C2; in real D1; in real D2; "
+    "in real TW; in real T1; in real T2; in real TC1; in real TC2; in real TD1; in real TD2; "
+    "in real q; out int np; out int nv[1]; out real X[16]; out real Y[16]; out int code[1]; "
+    "out real sign[1]; out real z1[1]; out real z2[1]; out real z3[1]; out real z4[1]; "
+    "out real z5[1]; out real q1[1]; out real q2[1]",
 )
 
 
 def trvsec_c(
-    H: float, B1: float, B2: float, C1: float, C2: float, D1: float, D2: float, TW: float, T1:
-    float, T2: float, TC1: float, TC2: float, TD1: float, TD2: float, q: float
+    H: float, B1: float, B2: float, C1: float, C2: float, D1: float, D2: float, TW: float,
+    T1: float, T2: float, TC1: float, TC2: float, TD1: float, TD2: float, q: float
 ) -> TrvsecCResult:
     """Channel open to the right, with lips turned inwards and folds turned back towards the web.
 
@@ -4129,7 +4134,7 @@ def trvsec_c(
       z1, z2, z3, z4, z5: arrays of 1: 0
       q1, q2: arrays of 1: q
     """
-    return _trvsec_c.call((H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2, TD1, TD2, q,))
+    return _trvsec_c.call((H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2, TD1, TD2, q))
 
 
 _trvshc_c = Routine(
@@ -4246,18 +4251,18 @@ class TrvmxtResult(NamedTuple):
 
 _trvmxt = Routine(
     "trvmxt", TrvmxtResult,
-    "in int n = X1 Y1 X2 Y2 T; in real X1[n]; in real Y1[n]; in real X2[n]; in real Y2[n]; in "
-    "real T[n]; out real A; out real xs; out real ys; out real Ix; out real Iy; out real Ixy; "
-    "out real I1; out real I2; out real alpha; out real rx; out real ry; out real Wx1; out "
-    "real Wx2; out real Wy1; out real Wy2; out real Wpx; out real Wpy; out real xp; out real "
-    "yp; out real It; out real Wt; out real xm; out real ym; out real Iw; out real r0; out "
-    "real W1[n]; out real W2[n]; out int status",
+    "in int n = X1 Y1 X2 Y2 T; in real X1[n]; in real Y1[n]; in real X2[n]; in real Y2[n]; "
+    "in real T[n]; out real A; out real xs; out real ys; out real Ix; out real Iy; "
+    "out real Ixy; out real I1; out real I2; out real alpha; out real rx; out real ry; "
+    "out real Wx1; out real Wx2; out real Wy1; out real Wy2; out real Wpx; out real Wpy; "
+    "out real xp; out real yp; out real It; out real Wt; out real xm; out real ym; "
+    "out real Iw; out real r0; out real W1[n]; out real W2[n]; out int status",
 )
 
 
 def trvmxt(
-    X1: ArrayLike, Y1: ArrayLike, X2: ArrayLike, Y2: ArrayLike, T: ArrayLike, *, n: int | None =
-    None
+    X1: ArrayLike, Y1: ArrayLike, X2: ArrayLike, Y2: ArrayLike, T: ArrayLike, *,
+    n: int | None = None
 ) -> TrvmxtResult:
     """Properties of an open section of thin plates.
 
@@ -4309,7 +4314,7 @@ def trvmxt(
         elsewhere than at its start, which may close a cell: what is listed up to xp,yp is
         written, the rest is not
     """
-    return _trvmxt.call((n, X1, Y1, X2, Y2, T,))
+    return _trvmxt.call((n, X1, Y1, X2, Y2, T))
 
 
 class TrvmxtFbStatus(IntEnum):
@@ -4351,10 +4356,10 @@ class TrvmxtFbResult(NamedTuple):
 _trvmxt_fb = Routine(
     "trvmxt_fb", TrvmxtFbResult,
     "in real B; in real H; out real A; out real xs; out real ys; out real Ix; out real Iy; "
-    "out real Ixy; out real I1; out real I2; out real alpha; out real rx; out real ry; out "
-    "real Wx1; out real Wx2; out real Wy1; out real Wy2; out real Wpx; out real Wpy; out real "
-    "xp; out real yp; out real It; out real Wt; out real xm; out real ym; out real Iw; out "
-    "real r0; out real W1[1]; out real W2[1]; out int status",
+    "out real Ixy; out real I1; out real I2; out real alpha; out real rx; out real ry; "
+    "out real Wx1; out real Wx2; out real Wy1; out real Wy2; out real Wpx; out real Wpy; "
+    "out real xp; out real yp; out real It; out real Wt; out real xm; out real ym; "
+    "out real Iw; out real r0; out real W1[1]; out real W2[1]; out int status",
 )
 
 
@@ -4393,7 +4398,7 @@ def trvmxt_fb(
       status: -1 refused, nothing else is written: a side that is infinite, NaN or not above the
         tolerance; 0 done
     """
-    return _trvmxt_fb.call((B, H,))
+    return _trvmxt_fb.call((B, H))
 
 
 class TrvrotResult(NamedTuple):
@@ -4408,8 +4413,8 @@ _trvrot = Routine(
 
 
 def trvrot(
-    mode: int, x: ArrayLike, y: ArrayLike, angle: float, *, n: int | None = None, in_place: bool
-    = False
+    mode: int, x: ArrayLike, y: ArrayLike, angle: float, *, n: int | None = None,
+    in_place: bool = False
 ) -> TrvrotResult:
     """Turns plane points about the origin, in place.
 
@@ -4426,7 +4431,7 @@ def trvrot(
     Returns:
       x, y: arrays of n: coordinates
     """
-    return _trvrot.call((mode, x, y, n, angle,), in_place)
+    return _trvrot.call((mode, x, y, n, angle), in_place)
 
 
 class TrvrotxResult(NamedTuple):
@@ -4436,8 +4441,8 @@ class TrvrotxResult(NamedTuple):
 
 _trvrotx = Routine(
     "trvrotx", TrvrotxResult,
-    "in int mode; in real x[0]; inout real y[n]; inout real z[n]; in int n = y z; in real "
-    "angle",
+    "in int mode; in real x[0]; inout real y[n]; inout real z[n]; in int n = y z; "
+    "in real angle",
 )
 
 
@@ -4461,7 +4466,7 @@ def trvrotx(
     Returns:
       y, z: arrays of n: coordinates
     """
-    return _trvrotx.call((mode, x, y, z, n, angle,), in_place)
+    return _trvrotx.call((mode, x, y, z, n, angle), in_place)
 
 
 class TrvrotyResult(NamedTuple):
@@ -4471,8 +4476,8 @@ class TrvrotyResult(NamedTuple):
 
 _trvroty = Routine(
     "trvroty", TrvrotyResult,
-    "in int mode; inout real x[n]; in real y[0]; inout real z[n]; in int n = x z; in real "
-    "angle",
+    "in int mode; inout real x[n]; in real y[0]; inout real z[n]; in int n = x z; "
+    "in real angle",
 )
 
 
@@ -4498,7 +4503,7 @@ def trvroty(
     Returns:
       x, z: array of n: coordinates
     """
-    return _trvroty.call((mode, x, y, z, n, angle,), in_place)
+    return _trvroty.call((mode, x, y, z, n, angle), in_place)
 
 
 class TrvrotzResult(NamedTuple):
@@ -4508,8 +4513,8 @@ class TrvrotzResult(NamedTuple):
 
 _trvrotz = Routine(
     "trvrotz", TrvrotzResult,
-    "in int mode; inout real x[n]; inout real y[n]; in real z[0]; in int n = x y; in real "
-    "angle",
+    "in int mode; inout real x[n]; inout real y[n]; in real z[0]; in int n = x y; "
+    "in real angle",
 )
 
 
@@ -4533,7 +4538,7 @@ def trvrotz(
     Returns:
       x, y: arrays of n: coordinates
     """
-    return _trvrotz.call((mode, x, y, z, n, angle,), in_place)
+    return _trvrotz.call((mode, x, y, z, n, angle), in_place)
 
 
 class TrvpslStatus(IntEnum):
@@ -4547,15 +4552,15 @@ class TrvpslStatus(IntEnum):
 
 _trvpsl = Routine(
     "trvpsl", None,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; out int status",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; out int status",
     retains=True,
 )
 
 
 def trvpsl(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float
 ) -> int:
     """Three-point test: whether P0, P1 and P2 span a plane.
 
@@ -4588,14 +4593,14 @@ class Trv3traResult(NamedTuple):
 
 _trv3tra = Routine(
     "trv3tra", Trv3traResult,
-    "inout real X[n]; inout real Y[n]; inout real Z[n]; in int n = X Y Z; in real dx; in real "
-    "dy; in real dz",
+    "inout real X[n]; inout real Y[n]; inout real Z[n]; in int n = X Y Z; in real dx; "
+    "in real dy; in real dz",
 )
 
 
 def trv3tra(
-    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, dx: float, dy: float, dz: float, *, n: int | None
-    = None, in_place: bool = False
+    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, dx: float, dy: float, dz: float, *,
+    n: int | None = None, in_place: bool = False
 ) -> Trv3traResult:
     """Moves the origin of points to (dx, dy, dz), in place.
 
@@ -4611,7 +4616,7 @@ def trv3tra(
     Returns:
       X, Y, Z: arrays of n: coordinates, less dx, dy and dz afterwards
     """
-    return _trv3tra.call((X, Y, Z, n, dx, dy, dz,), in_place)
+    return _trv3tra.call((X, Y, Z, n, dx, dy, dz), in_place)
 
 
 _trvtrn = Routine(
@@ -4639,7 +4644,7 @@ def trvtrn(
     Returns:
       p: array of 3: coordinates
     """
-    return _trvtrn.call((p, a1, a2, a3, a4, a5, a6, a7, a8, a9, mode,), in_place)
+    return _trvtrn.call((p, a1, a2, a3, a4, a5, a6, a7, a8, a9, mode), in_place)
 
 
 class TrvaxeStatus(IntEnum):
@@ -4661,16 +4666,16 @@ class TrvaxeResult(NamedTuple):
 
 _trvaxe = Routine(
     "trvaxe", TrvaxeResult,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; out real e1x; out real e1y; out real e1z; out real e2x; out real "
-    "e2y; out real e2z; out real e3x; out real e3y; out real e3z; out int status",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; out real e1x; out real e1y; out real e1z; out real e2x; "
+    "out real e2y; out real e2z; out real e3x; out real e3y; out real e3z; out int status",
     retains=True,
 )
 
 
 def trvaxe(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float
 ) -> TrvaxeResult:
     """Frame of the plane through three points.
 
@@ -4716,8 +4721,8 @@ class TrvaxelResult(NamedTuple):
 _trvaxel = Routine(
     "trvaxel", TrvaxelResult,
     "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real angle; "
-    "out real e1x; out real e1y; out real e1z; out real e2x; out real e2y; out real e2z; out "
-    "real e3x; out real e3y; out real e3z; out int status",
+    "out real e1x; out real e1y; out real e1z; out real e2x; out real e2y; out real e2z; "
+    "out real e3x; out real e3y; out real e3z; out int status",
 )
 
 
@@ -4757,14 +4762,14 @@ class TrvptrResult(NamedTuple):
 
 _trvptr = Routine(
     "trvptr", TrvptrResult,
-    "inout real X[n]; inout real Y[n]; inout real Z[n]; in int n = X Y Z; in real x0; in real "
-    "y0; in real z0; in real ax; in real ay; in real az",
+    "inout real X[n]; inout real Y[n]; inout real Z[n]; in int n = X Y Z; in real x0; "
+    "in real y0; in real z0; in real ax; in real ay; in real az",
 )
 
 
 def trvptr(
-    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, x0: float, y0: float, z0: float, ax: float, ay:
-    float, az: float, *, n: int | None = None, in_place: bool = False
+    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, x0: float, y0: float, z0: float, ax: float,
+    ay: float, az: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvptrResult:
     """Shifts points and turns them about the global axes x, y and z, in this order and in place.
 
@@ -4785,7 +4790,7 @@ def trvptr(
     Returns:
       X, Y, Z: arrays of n: coordinates
     """
-    return _trvptr.call((X, Y, Z, n, x0, y0, z0, ax, ay, az,), in_place)
+    return _trvptr.call((X, Y, Z, n, x0, y0, z0, ax, ay, az), in_place)
 
 
 class TrvptrlStatus(IntEnum):
@@ -4801,18 +4806,18 @@ class TrvptrlResult(NamedTuple):
 
 _trvptrl = Routine(
     "trvptrl", TrvptrlResult,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; inout real X[n]; inout real Y[n]; inout real Z[n]; in int n = X Y "
-    "Z; in real dx; in real dy; in real dz; in real ax; in real ay; in real az; out int "
-    "status",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; inout real X[n]; inout real Y[n]; inout real Z[n]; "
+    "in int n = X Y Z; in real dx; in real dy; in real dz; in real ax; in real ay; "
+    "in real az; out int status",
     retains=True,
 )
 
 
 def trvptrl(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float, X: ArrayLike, Y: ArrayLike, Z: ArrayLike, dx: float, dy: float, dz: float, ax: float,
-    ay: float, az: float, *, n: int | None = None, in_place: bool = False
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float, X: ArrayLike, Y: ArrayLike, Z: ArrayLike, dx: float, dy: float, dz: float,
+    ax: float, ay: float, az: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvptrlResult:
     """Shifts points and turns them in the frame of three points, in place.
 
@@ -4840,7 +4845,7 @@ def trvptrl(
       status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl)
     """
     return _trvptrl.call((x0, y0, z0, x1, y1, z1, x2, y2, z2, X, Y, Z, n, dx, dy, dz, ax, ay,
-        az,), in_place)
+        az), in_place)
 
 
 class TrvpraStatus(IntEnum):
@@ -4862,8 +4867,8 @@ _trvpra = Routine(
 
 
 def trvpra(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, X: ArrayLike, Y:
-    ArrayLike, Z: ArrayLike, angle: float, *, n: int | None = None, in_place: bool = False
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, X: ArrayLike,
+    Y: ArrayLike, Z: ArrayLike, angle: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvpraResult:
     """Turns points about the axis from P0 through P1, in place.
 
@@ -4886,7 +4891,7 @@ def trvpra(
       X, Y, Z: arrays of n: coordinates; untouched when status is -2
       status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance
     """
-    return _trvpra.call((x0, y0, z0, x1, y1, z1, X, Y, Z, n, angle,), in_place)
+    return _trvpra.call((x0, y0, z0, x1, y1, z1, X, Y, Z, n, angle), in_place)
 
 
 class TrvppcStatus(IntEnum):
@@ -4902,18 +4907,18 @@ class TrvppcResult(NamedTuple):
 
 _trvppc = Routine(
     "trvppc", TrvppcResult,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; in real dx; in real dy; in real dz; in real ax; in real ay; in real "
-    "az; in int n = X Y Z; inout real X[n]; inout real Y[n]; inout real Z[n]; in real tol; "
-    "out int status",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; in real dx; in real dy; in real dz; in real ax; in real ay; "
+    "in real az; in int n = X Y Z; inout real X[n]; inout real Y[n]; inout real Z[n]; "
+    "in real tol; out int status",
     retains=True,
 )
 
 
 def trvppc(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float, dx: float, dy: float, dz: float, ax: float, ay: float, az: float, X: ArrayLike, Y:
-    ArrayLike, Z: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float, dx: float, dy: float, dz: float, ax: float, ay: float, az: float, X: ArrayLike,
+    Y: ArrayLike, Z: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvppcResult:
     """Turns points of a plane in the frame of the three points that span it, then shifts them, in
     place.
@@ -4944,7 +4949,7 @@ def trvppc(
         position of the first point off the plane
     """
     return _trvppc.call((x0, y0, z0, x1, y1, z1, x2, y2, z2, dx, dy, dz, ax, ay, az, n, X, Y, Z,
-        tol,), in_place)
+        tol), in_place)
 
 
 class TrvplgResult(NamedTuple):
@@ -4956,14 +4961,14 @@ class TrvplgResult(NamedTuple):
 
 _trvplg = Routine(
     "trvplg", TrvplgResult,
-    "in real x; in real y; in real z; in real ux; in real uy; in real uz; in real wx; in real "
-    "wy; in real wz; out real a; out real b; out real c; out real d",
+    "in real x; in real y; in real z; in real ux; in real uy; in real uz; in real wx; "
+    "in real wy; in real wz; out real a; out real b; out real c; out real d",
 )
 
 
 def trvplg(
-    x: float, y: float, z: float, ux: float, uy: float, uz: float, wx: float, wy: float, wz:
-    float
+    x: float, y: float, z: float, ux: float, uy: float, uz: float, wx: float, wy: float,
+    wz: float
 ) -> TrvplgResult:
     """Plane through a point, spanned by two directions.
 
@@ -5002,15 +5007,15 @@ class Trvpl1Result(NamedTuple):
 
 _trvpl1 = Routine(
     "trvpl1", Trvpl1Result,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; out real a; out real b; out real c; out real d; out int status",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; out real a; out real b; out real c; out real d; out int status",
     retains=True,
 )
 
 
 def trvpl1(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float
 ) -> Trvpl1Result:
     """Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
 
@@ -5045,16 +5050,16 @@ class Trvpl2Result(NamedTuple):
 
 _trvpl2 = Routine(
     "trvpl2", Trvpl2Result,
-    "in real x; in real y; in real z; in real xa; in real ya; in real za; in real xb; in real "
-    "yb; in real zb; in real xc; in real yc; in real zc; in real xd; in real yd; in real zd; "
-    "out real a; out real b; out real c; out real d; out int status",
+    "in real x; in real y; in real z; in real xa; in real ya; in real za; in real xb; "
+    "in real yb; in real zb; in real xc; in real yc; in real zc; in real xd; in real yd; "
+    "in real zd; out real a; out real b; out real c; out real d; out int status",
     retains=True,
 )
 
 
 def trvpl2(
-    x: float, y: float, z: float, xa: float, ya: float, za: float, xb: float, yb: float, zb:
-    float, xc: float, yc: float, zc: float, xd: float, yd: float, zd: float
+    x: float, y: float, z: float, xa: float, ya: float, za: float, xb: float, yb: float,
+    zb: float, xc: float, yc: float, zc: float, xd: float, yd: float, zd: float
 ) -> Trvpl2Result:
     """Plane through a point, parallel to two lines.
 
@@ -5094,16 +5099,16 @@ class Trvpl3Result(NamedTuple):
 
 _trvpl3 = Routine(
     "trvpl3", Trvpl3Result,
-    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; in "
-    "real yc; in real zc; in real xd; in real yd; in real zd; out real a; out real b; out "
-    "real c; out real d; out int status",
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; "
+    "in real yc; in real zc; in real xd; in real yd; in real zd; out real a; out real b; "
+    "out real c; out real d; out int status",
     retains=True,
 )
 
 
 def trvpl3(
-    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float, zc:
-    float, xd: float, yd: float, zd: float
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float,
+    zc: float, xd: float, yd: float, zd: float
 ) -> Trvpl3Result:
     """Plane that contains one line and is parallel to another: trvpl2 through A.
 
@@ -5141,14 +5146,14 @@ class Trvpl4Result(NamedTuple):
 
 _trvpl4 = Routine(
     "trvpl4", Trvpl4Result,
-    "in real x; in real y; in real z; in real xa; in real ya; in real za; in real xb; in real "
-    "yb; in real zb; out real a; out real b; out real c; out real d; out int status",
+    "in real x; in real y; in real z; in real xa; in real ya; in real za; in real xb; "
+    "in real yb; in real zb; out real a; out real b; out real c; out real d; out int status",
 )
 
 
 def trvpl4(
-    x: float, y: float, z: float, xa: float, ya: float, za: float, xb: float, yb: float, zb:
-    float
+    x: float, y: float, z: float, xa: float, ya: float, za: float, xb: float, yb: float,
+    zb: float
 ) -> Trvpl4Result:
     """Plane through a point, perpendicular to a segment.
 
@@ -5182,8 +5187,8 @@ class Trvpl5Result(NamedTuple):
 
 _trvpl5 = Routine(
     "trvpl5", Trvpl5Result,
-    "in real ix; in real iy; in real iz; out real a; out real b; out real c; out real d; out "
-    "int status",
+    "in real ix; in real iy; in real iz; out real a; out real b; out real c; out real d; "
+    "out int status",
 )
 
 
@@ -5219,16 +5224,16 @@ class Trvpl6Result(NamedTuple):
 
 _trvpl6 = Routine(
     "trvpl6", Trvpl6Result,
-    "in real xa; in real ya; in real za; in real ux; in real uy; in real uz; in real xc; in "
-    "real yc; in real zc; in real wx; in real wy; in real wz; out real a; out real b; out "
-    "real c; out real d; out int status",
+    "in real xa; in real ya; in real za; in real ux; in real uy; in real uz; in real xc; "
+    "in real yc; in real zc; in real wx; in real wy; in real wz; out real a; out real b; "
+    "out real c; out real d; out int status",
     retains=True,
 )
 
 
 def trvpl6(
-    xa: float, ya: float, za: float, ux: float, uy: float, uz: float, xc: float, yc: float, zc:
-    float, wx: float, wy: float, wz: float
+    xa: float, ya: float, za: float, ux: float, uy: float, uz: float, xc: float, yc: float,
+    zc: float, wx: float, wy: float, wz: float
 ) -> Trvpl6Result:
     """Plane of two lines, each given by a point and a direction.
 
@@ -5275,16 +5280,16 @@ class Trvpl7Result(NamedTuple):
 
 _trvpl7 = Routine(
     "trvpl7", Trvpl7Result,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; in real angle; out real a; out real b; out real c; out real d; out "
-    "int status",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; in real angle; out real a; out real b; out real c; out real d; "
+    "out int status",
     retains=True,
 )
 
 
 def trvpl7(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float, angle: float
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float, angle: float
 ) -> Trvpl7Result:
     """Plane of three points turned about the line from P0 to P1.
 
@@ -5310,15 +5315,15 @@ def trvpl7(
 
 _trvpsp = Routine(
     "trvpsp", None,
-    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; in "
-    "real y2; in real z2; in real x; in real y; in real z; in real tol; out int status",
+    "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
+    "in real y2; in real z2; in real x; in real y; in real z; in real tol; out int status",
     retains=True,
 )
 
 
 def trvpsp(
-    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float, x: float, y: float, z: float, tol: float
+    x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float, x: float, y: float, z: float, tol: float
 ) -> int:
     """Whether a point lies on the plane of three points.
 
@@ -5343,8 +5348,8 @@ def trvpsp(
 
 _trvpld = Routine(
     "trvpld", None,
-    "in real x; in real y; in real z; in real a; in real b; in real c; in real d; out real "
-    "dist",
+    "in real x; in real y; in real z; in real a; in real b; in real c; in real d; "
+    "out real dist",
 )
 
 
@@ -5374,8 +5379,8 @@ class TrvpspgStatus(IntEnum):
 
 _trvpspg = Routine(
     "trvpspg", None,
-    "in real x; in real y; in real z; in real a; in real b; in real c; in real d; in real "
-    "tol; out int status",
+    "in real x; in real y; in real z; in real a; in real b; in real c; in real d; "
+    "in real tol; out int status",
 )
 
 
@@ -5409,8 +5414,8 @@ class TrvplvStatus(IntEnum):
 
 _trvplv = Routine(
     "trvplv", None,
-    "in real ux; in real uy; in real uz; in real wx; in real wy; in real wz; in real v7; in "
-    "real v8; out int status",
+    "in real ux; in real uy; in real uz; in real wx; in real wy; in real wz; in real v7; "
+    "in real v8; out int status",
     retains=True,
 )
 
@@ -5448,8 +5453,8 @@ _trvpnp = Routine(
 
 
 def trvpnp(
-    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, a: float, b: float, c: float, d: float, *, n: int
-    | None = None
+    X: ArrayLike, Y: ArrayLike, Z: ArrayLike, a: float, b: float, c: float, d: float, *,
+    n: int | None = None
 ) -> TrvpnpResult:
     """Points of a list on a plane, by a running residual.
 
@@ -5472,7 +5477,7 @@ def trvpnp(
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
-    return _trvpnp.call((X, Y, Z, a, b, c, d, n,))
+    return _trvpnp.call((X, Y, Z, a, b, c, d, n))
 
 
 class TrvdirlStatus(IntEnum):
@@ -5482,15 +5487,15 @@ class TrvdirlStatus(IntEnum):
 
 _trvdirl = Routine(
     "trvdirl", None,
-    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; in "
-    "real yc; in real zc; in real xd; in real yd; in real zd; out int status",
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; "
+    "in real yc; in real zc; in real xd; in real yd; in real zd; out int status",
     retains=True,
 )
 
 
 def trvdirl(
-    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float, zc:
-    float, xd: float, yd: float, zd: float
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float,
+    zc: float, xd: float, yd: float, zd: float
 ) -> int:
     """Relation of two lines.
 
@@ -5521,16 +5526,16 @@ class Trv3spStatus(IntEnum):
 
 _trv3sp = Routine(
     "trv3sp", None,
-    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; in "
-    "real yc; in real zc; in real xd; in real yd; in real zd; in real xe; in real ye; in real "
-    "ze; in real xf; in real yf; in real zf; out int status",
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; "
+    "in real yc; in real zc; in real xd; in real yd; in real zd; in real xe; in real ye; "
+    "in real ze; in real xf; in real yf; in real zf; out int status",
 )
 
 
 def trv3sp(
-    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float, zc:
-    float, xd: float, yd: float, zd: float, xe: float, ye: float, ze: float, xf: float, yf:
-    float, zf: float
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float,
+    zc: float, xd: float, yd: float, zd: float, xe: float, ye: float, ze: float, xf: float,
+    yf: float, zf: float
 ) -> int:
     """Whether three segments span space.
 
@@ -5559,14 +5564,14 @@ class Trv3ldbResult(NamedTuple):
 
 _trv3ldb = Routine(
     "trv3ldb", Trv3ldbResult,
-    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xq; in "
-    "real yq; in real zq; out int status; out real dist",
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xq; "
+    "in real yq; in real zq; out int status; out real dist",
 )
 
 
 def trv3ldb(
-    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xq: float, yq: float, zq:
-    float
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xq: float, yq: float,
+    zq: float
 ) -> Trv3ldbResult:
     """Distance of a point from a line.
 
@@ -5594,15 +5599,15 @@ class Trv3ldaResult(NamedTuple):
 
 _trv3lda = Routine(
     "trv3lda", Trv3ldaResult,
-    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xq; in "
-    "real yq; in real zq; out int status; out real dist",
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xq; "
+    "in real yq; in real zq; out int status; out real dist",
     retains=True,
 )
 
 
 def trv3lda(
-    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xq: float, yq: float, zq:
-    float
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xq: float, yq: float,
+    zq: float
 ) -> Trv3ldaResult:
     """Signed distance of a point from a line, in the plane of both.
 
@@ -5645,16 +5650,16 @@ class Trv3lniResult(NamedTuple):
 
 _trv3lni = Routine(
     "trv3lni", Trv3lniResult,
-    "inout real xa; inout real ya; inout real za; in real ux; in real uy; in real uz; inout "
-    "real xc; inout real yc; inout real zc; in real wx; in real wy; in real wz; out int "
-    "status; out real xi; out real yi; out real zi",
+    "inout real xa; inout real ya; inout real za; in real ux; in real uy; in real uz; "
+    "inout real xc; inout real yc; inout real zc; in real wx; in real wy; in real wz; "
+    "out int status; out real xi; out real yi; out real zi",
     retains=True,
 )
 
 
 def trv3lni(
-    xa: float, ya: float, za: float, ux: float, uy: float, uz: float, xc: float, yc: float, zc:
-    float, wx: float, wy: float, wz: float
+    xa: float, ya: float, za: float, ux: float, uy: float, uz: float, xc: float, yc: float,
+    zc: float, wx: float, wy: float, wz: float
 ) -> Trv3lniResult:
     """Intersection of the lines A + t*u and C + s*w.
 
@@ -5699,8 +5704,8 @@ class TrvpliResult(NamedTuple):
 
 _trvpli = Routine(
     "trvpli", TrvpliResult,
-    "in real x; in real y; in real z; in real ux; in real uy; in real uz; in real a; in real "
-    "b; in real c; in real d; out real xi; out real yi; out real zi; out int status",
+    "in real x; in real y; in real z; in real ux; in real uy; in real uz; in real a; "
+    "in real b; in real c; in real d; out real xi; out real yi; out real zi; out int status",
 )
 
 
@@ -5774,15 +5779,15 @@ class TrvpnlResult(NamedTuple):
 
 _trvpnl = Routine(
     "trvpnl", TrvpnlResult,
-    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real X[n]; in "
-    "real Y[n]; in function zf; in int n = X Y; in real tol; out int status; out int count_; "
-    "out int index_[n, count_ used]",
+    "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real X[n]; "
+    "in real Y[n]; in function zf; in int n = X Y; in real tol; out int status; "
+    "out int count_; out int index_[n, count_ used]",
 )
 
 
 def trvpnl(
-    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, X: ArrayLike, Y:
-    ArrayLike, zf: Callable[[int], float], tol: float, *, n: int | None = None
+    xa: float, ya: float, za: float, xb: float, yb: float, zb: float, X: ArrayLike,
+    Y: ArrayLike, zf: Callable[[int], float], tol: float, *, n: int | None = None
 ) -> TrvpnlResult:
     """Points of a list near a line.
 
@@ -5807,7 +5812,7 @@ def trvpnl(
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
-    return _trvpnl.call((xa, ya, za, xb, yb, zb, X, Y, zf, n, tol,))
+    return _trvpnl.call((xa, ya, za, xb, yb, zb, X, Y, zf, n, tol))
 
 
 class TrvlpcStatus(IntEnum):
@@ -5824,15 +5829,15 @@ class TrvlpcResult(NamedTuple):
 _trvlpc = Routine(
     "trvlpc", TrvlpcResult,
     "in real xp; in real yp; in real zp; in real x1; in real y1; in real z1; inout real x2; "
-    "inout real y2; inout real z2; in real dxp; in real dyp; in real dzp; in real dx1; in "
-    "real dy1; in real dz1; out int status",
+    "inout real y2; inout real z2; in real dxp; in real dyp; in real dzp; in real dx1; "
+    "in real dy1; in real dz1; out int status",
     retains=True,
 )
 
 
 def trvlpc(
-    xp: float, yp: float, zp: float, x1: float, y1: float, z1: float, x2: float, y2: float, z2:
-    float, dxp: float, dyp: float, dzp: float, dx1: float, dy1: float, dz1: float
+    xp: float, yp: float, zp: float, x1: float, y1: float, z1: float, x2: float, y2: float,
+    z2: float, dxp: float, dyp: float, dzp: float, dx1: float, dy1: float, dz1: float
 ) -> TrvlpcResult:
     """Carries a point along when the line through it is moved.
 
