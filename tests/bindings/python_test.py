@@ -3,7 +3,9 @@
 TRELVIN_LIBRARY names a library that is built already; else CMake builds one for the wheel.
 """
 
+import doctest
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -55,6 +57,14 @@ class Wheel(unittest.TestCase):
         again = build_wheel(other, FOLDER / "again", TRELVIN_LIBRARY=library)
         self.assertEqual(again.name, WHEEL.name)
         self.assertEqual(again.read_bytes(), WHEEL.read_bytes())
+
+    def test_the_page_of_the_documentation(self):
+        page = (ROOT / "docs" / "python.md").read_text()
+        self.assertIn((ROOT / "examples" / "girder.txt").read_text(), page)
+        examples = re.sub("^```.*", "", page, flags=re.M)
+        test = doctest.DocTestParser().get_doctest(examples, {}, "docs/python.md", None, 0)
+        self.assertEqual(doctest.DocTestRunner().run(test).failed, 0)
+        self.assertGreater(len(test.examples), 10)
 
     def test_version(self):
         installed = next(distributions(name="trelvin", path=[str(SITE)]))
@@ -112,7 +122,7 @@ class Mistakes(unittest.TestCase):
 
     def test_lengths_and_counts(self):
         t = trelvin
-        self.refused(ValueError, "trvpos: A needs n = 5 elements; 3 given", t.trvpos, [1, 2, 3], 1, n=5)
+        self.refused(ValueError, "trvpos: A needs n = 5 elements; 2 given", t.trvpos, [1, 2], 1, n=5)
         self.refused(ValueError, "n is one number .* x has 3, y has 2", t.trvspl, [0, 1, 1], [0, 0])
         self.refused(ValueError, "n must be at least 0; -1 given", t.trvpos, [1, 2], 1, n=-1)
         self.refused(ValueError, "n must be at least 2; 1 given", t.trvinr, [1], 0, 1)
@@ -152,7 +162,7 @@ class InPlace(unittest.TestCase):
             (TypeError, lambda: trelvin.trvord([1, 2], in_place=True)),
             (ValueError, lambda: trelvin.trvord(x[::2], in_place=True)),
             (ValueError, lambda: trelvin.trvtra(x[:4], x[1:], 0, 0, in_place=True)),
-            (ValueError, lambda: trelvin.trvapl(x, x + 1, in_place=True)),  # no room for the closing
+            (ValueError, lambda: trelvin.trvapl(x, x + 1, in_place=True)),  # nothing behind n
         ):
             with self.assertRaises(error):
                 call()
@@ -194,7 +204,7 @@ class Batch(unittest.TestCase):
         squares = trelvin.batch(trelvin.trvapl, sides[..., None] * [0, 1, 1, 0], [0, 0, 1, 1])
         np.testing.assert_array_equal(squares.area, sides)
         self.assertEqual(squares.x.shape, (2, 3, 5))
-        points = np.random.default_rng(1).random((4, 8), np.float32)[:, ::2]  # neither is contiguous
+        points = np.random.default_rng(1).random((4, 8), np.float32)[:, ::2]  # not contiguous
         moved = trelvin.batch(trelvin.trvtra, points, points.T, 0.5, [1, 2, 3, 4])
         np.testing.assert_array_equal(moved.Y, points.T - np.float32([[1], [2], [3], [4]]))
 
