@@ -122,7 +122,7 @@ class Mistakes(unittest.TestCase):
 
     def test_lengths_and_counts(self):
         t = trelvin
-        self.refused(ValueError, "trvpos: A needs n = 5 elements; 2 given", t.trvpos, [1, 2], 1, n=5)
+        self.refused(ValueError, "trvpos: A needs n = 5 elements; 1 given", t.trvpos, [1], 1, n=5)
         self.refused(ValueError, "n is one number .* x has 3, y has 2", t.trvspl, [0, 1, 1], [0, 0])
         self.refused(ValueError, "n must be at least 0; -1 given", t.trvpos, [1, 2], 1, n=-1)
         self.refused(ValueError, "n must be at least 2; 1 given", t.trvinr, [1], 0, 1)
