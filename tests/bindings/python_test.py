@@ -101,6 +101,9 @@ class Results(unittest.TestCase):
 
 
 class Counts(unittest.TestCase):
+    def test_elements_need_not_be_neighbours(self):
+        self.assertEqual(trelvin.trvpos(np.float32([1, 9, 2, 9])[::2], 5), 0)
+
     def test_a_count_may_be_less_than_the_array_holds(self):
         self.assertEqual(trelvin.trvpos([1, 2, 3], 2.5), 2)
         self.assertEqual(trelvin.trvpos([1, 2, 3], 2.5, n=2), 0)
