@@ -32,10 +32,10 @@ TEST(Lines, AngleGivesASlopeButAtTheQuarterTurns) {
   // Numbers near a quarter turn lie 2^-23 apart: 83 steps are below the tolerance, 84 above.
   const double step = std::ldexp(1, -23);
   for (const double turn : {half_pi, -half_pi}) {
-    for (const double off : {0 * step, 83 * step, -83 * step})
-      EXPECT_EQ(outputs(trvln1, 3, 2, turn + off), (Values{1, 0, -3}));
-    for (const double off : {84 * step, -84 * step})
-      EXPECT_NEAR(outputs(trvln1, 3, 2, turn + off)[0] * off, -1, 0.01);
+    for (const double side : {step, -step}) {
+      EXPECT_EQ(outputs(trvln1, 3, 2, turn + 83 * side), (Values{1, 0, -3}));
+      EXPECT_NEAR(outputs(trvln1, 3, 2, turn + 84 * side)[0] * 84 * side, -1, 0.01);
+    }
     EXPECT_GT(std::fabs(outputs(trvln1, 3, 2, 3 * turn)[0]), 1e6);
   }
   EXPECT_NEAR(outputs(trvln1, 0, 0, 20)[0], 2.23716094, 1e-6);  // the tangent of 20 rad

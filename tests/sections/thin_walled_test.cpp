@@ -1,5 +1,3 @@
-#include <cfenv>
-
 #include "support.h"
 #include "trelvin/sections.h"
 
@@ -47,15 +45,6 @@ struct Section {
   }
 };
 
-std::vector<Plate> i_section(float h, float b, float tw, float tf) {
-  const float y = 0.5F * (h - tf);
-  return {{0, -y, 0, y, tw},
-          {0, y, -0.5F * b, y, tf},
-          {0, y, 0.5F * b, y, tf},
-          {0, -y, -0.5F * b, -y, tf},
-          {0, -y, 0.5F * b, -y, tf}};
-}
-
 std::vector<Plate> channel(float B, float H, float C, float t) {
   const float b = B - t, y = 0.5F * (H - t), c = C - 0.5F * t;
   std::vector<Plate> plates = {{0, -y, 0, y, t}, {0, y, b, y, t}, {0, -y, b, -y, t}};
@@ -69,33 +58,15 @@ std::vector<Plate> channel(float B, float H, float C, float t) {
 }  // namespace
 
 TEST(ThinWalled, AnIpe300HasThePublishedWarpingConstant) {
-  const Section s(i_section(300, 150, 7.1F, 10.7F));
+  const float y = 144.65F, b = 75, t = 10.7F;
+  const Section s({{0, -y, 0, y, 7.1F},
+                   {0, y, -b, y, t},
+                   {0, y, b, y, t},
+                   {0, -y, -b, -y, t},
+                   {0, -y, b, -y, t}});
   EXPECT_EQ(s.status, 0);
   EXPECT_NEAR(s.Iw / 1e9, 125.9, 0.05);  // EN 10365, in 1000 cm6
   expect_near({s.xm, s.ym, s.alpha}, {0, 0, 0}, 1e-4);
-}
-
-TEST(ThinWalled, ASlitTubeHasThePublishedSectorialCoordinate) {
-  // V. Z. Vlasov: with the angle from opposite the slit, r^2*(angle - 2*sin(angle)) about the shear
-  // centre, which lies r outside the tube there.
-  constexpr int n = 1000;
-  constexpr double r = 10, t = 0.25;
-  std::vector<Plate> tube;
-  float x = 0, y = 0;
-  for (int i = 0; i <= n; ++i) {
-    const double angle = (pi - 1e-5) * (2.0 * i / n - 1);
-    const auto px = static_cast<float>(r * std::cos(angle));
-    const auto py = static_cast<float>(r * std::sin(angle));
-    if (i > 0) tube.push_back({x, y, px, py, t});
-    x = px;
-    y = py;
-  }
-  const Section s(tube);
-  const double iw = 2 * pi * t * std::pow(r, 5) * (pi * pi - 6) / 3;
-  expect_near({s.xm / r, s.ym, s.Iw / iw}, {2, 0, 1}, 1e-4);
-  expect_near({s.W1[0], s.W2[n - 1], s.W1[3 * n / 4]},
-              {-pi * r * r, pi * r * r, r * r * (pi / 2 - 2)}, 1e-3);
-  EXPECT_EQ(s.W1[n], unwritten);
 }
 
 TEST(ThinWalled, AnObliqueSectionAddsUpByHand) {
@@ -105,13 +76,11 @@ TEST(ThinWalled, AnObliqueSectionAddsUpByHand) {
   // Mohr's circle about 1593.333. The axis of the greater moment leans towards the negative product.
   expect_near({s.I1, s.I2, s.alpha, s.rx, s.ry},
               {2862.5237, 324.14287, 0.27651573, 6.6749949, 2.9249881}, 1e-7);
+  // From the centroid to the plates' faces; the areas on either side of x = 5/11 and of y = 5 are 30.
+  expect_near({s.Wx1, s.Wx2, s.Wy1, s.Wy2}, {200.5, 8020 / 23.0, 61.6, 192.5}, 1e-7);
+  expect_near({s.xp, s.yp, s.Wpx, s.Wpy}, {5 / 11.0, 5, 350, 1270 / 11.0}, 1e-7);
+  expect_near({s.It, s.Wt, s.r0}, {80, 40, std::sqrt(9560 / 180.0 + 425 / 9.0)}, 1e-7);
   EXPECT_TRUE(s.xm == 0 && s.ym == 0 && s.Iw == 0 && s.W1[1] == 0 && s.W2[1] == 0);
-}
-
-TEST(ThinWalled, AnAngleDoesNotWarpAboutItsCorner) {
-  const Section s({{0, 100, 0, 0, 5}, {0, 0, 200, 0, 5}});
-  for (const float value : {s.xm, s.ym, s.Iw, s.W1[0], s.W2[0], s.W2[1]})
-    EXPECT_NEAR(value, 0, 1e-9);
 }
 
 TEST(ThinWalled, AnInclinedBarHasTheMomentsOfABar) {
@@ -140,30 +109,6 @@ TEST(ThinWalled, EqualAreaAxisInAPlatesCorner) {
 TEST(ThinWalled, EqualAreaAxisInTheMiddleOfAGap) {
   const Section s({{0, 0, 10, 0, 2}, {0, 50, 10, 50, 2}});
   expect_near({s.yp, s.Wpx, s.xp}, {25, 1000, 5}, 1e-7);
-}
-
-TEST(ThinWalled, PlatesAlongTheAxesAddUpByHand) {
-  // A T: flange 100 x 10 over a web 8 x 60, the joint at the origin.
-  const Section s({{-50, 0, 0, 0, 10}, {0, 0, 50, 0, 10}, {0, 0, 0, -60, 8}});
-  const double a = 1000 + 480, ys = -480 * 30 / a;
-  const double ix =
-      100 * 1000 / 12.0 + 1000 * ys * ys + 8 * 216000 / 12.0 + 480 * (30 + ys) * (30 + ys);
-  const double iy = 10 * 1e6 / 12 + 60 * 512 / 12.0;
-  expect_near({s.A, s.xs, s.ys, s.Ix, s.Iy, s.Ixy}, {a, 0, ys, ix, iy, 0}, 1e-6);
-  expect_near({s.Wx1, s.Wx2, s.Wy1, s.Wy2}, {ix / (5 - ys), ix / (ys + 60), iy / 50, iy / 50},
-              1e-6);
-  // Half of the area is above y = -240/108: 500 of the flange, and 108 a unit with the web.
-  const double yp = -240 / 108.0;
-  const auto square = [](double value) { return value * value; };
-  const double plastic =
-      (100 * square(5 - yp) + 8 * square(yp) + 100 * square(5 + yp) + 8 * square(60 + yp)) / 2;
-  expect_near({s.yp, s.Wpx}, {yp, plastic}, 1e-6);
-  expect_near(
-      {s.xp, s.Wpy, s.It, s.Wt},
-      {0, 10 * 2500 + 60 * 16, (100 * 1000 + 60 * 512) / 3.0, (100 * 1000 + 60 * 512) / 30.0},
-      1e-6);
-  expect_near({s.xm, s.ym, s.Iw}, {0, 0, 0}, 1e-3);  // where the plates meet
-  EXPECT_NEAR(s.r0, std::sqrt((ix + iy) / a + ys * ys), 1e-4);
 }
 
 TEST(ThinWalled, ChannelsAgreeWithTheirClosedForms) {
@@ -296,13 +241,6 @@ TEST(FlatBar, FiguresByHand) {
   for (const float zero : {s.xs, s.ys, s.Ixy, s.alpha, s.xp, s.yp, s.xm, s.ym, s.W1[0], s.W2[0]})
     EXPECT_EQ(zero, 0);
   EXPECT_TRUE(s.status == 0 && s.W1[1] == unwritten && s.W2[1] == unwritten);
-}
-
-TEST(FlatBar, SlenderBarsOverflowNowhere) {
-  std::feclearexcept(FE_ALL_EXCEPT);
-  const Section s(1, 1e6F);
-  EXPECT_EQ(std::fetestexcept(FE_OVERFLOW | FE_UNDERFLOW | FE_INVALID), 0);
-  expect_near({s.It, s.Wt}, {1e6 / 3, 1e6 / 3}, 1e-6);
 }
 
 TEST(FlatBar, SidesCountAboveTheTolerance) {

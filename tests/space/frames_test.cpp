@@ -179,38 +179,3 @@ TEST(Frames, TurnAboutAnAxis) {
   trvpra(0, 1, 0, 0, 3, 0, x, y, z, 1, 1, status);  // a column
   EXPECT_FALSE(status != 0 || std::isfinite(x[0]) || std::isfinite(y[0]) || std::isfinite(z[0]));
 }
-
-TEST(Frames, SingleInputsMayBeElementsOfTheArraysThatMove) {
-  std::int32_t status = unwritten_int;
-  const double c = std::cos(0.5), s = std::sin(0.5);
-  const auto expect = [&](const float *got, const Values &expected) {
-    expect_near(Values(got, got + 4), expected, 3e-7);
-  };
-  {  // About the first of four points, by half a radian in their plane.
-    float x[] = {1, 2, 1, 5}, y[] = {1, 1, 3, 5}, z[] = {1, 1, 1, 1};
-    trvptrl(x[0], y[0], z[0], x[1], y[1], z[1], x[2], y[2], z[2], x, y, z, 4, 0, 0, 0, 0, 0, 0.5,
-            status);
-    expect(x, {1, 1 + c, 1 - 2 * s, 1 + 4 * c - 4 * s});
-    expect(y, {1, 1 + s, 1 + 2 * c, 1 + 4 * c + 4 * s});
-  }
-  {  // The same, and then by the second point's coordinates.
-    float x[] = {1, 2, 1, 5}, y[] = {1, 1, 3, 5}, z[] = {1, 1, 1, 1};
-    trvppc(x[0], y[0], z[0], x[1], y[1], z[1], x[2], y[2], z[2], x[1], y[1], z[1], 0, 0, 0.5, 4, x,
-           y, z, 0, status);
-    expect(x, {3, 3 + c, 3 - 2 * s, 3 + 4 * c - 4 * s});
-    expect(z, {2, 2, 2, 2});
-  }
-  {  // About an edge along z, by an angle that is a coordinate.
-    float x[] = {1, 1, 2, 0.5}, y[] = {1, 1, 1, 1}, z[] = {1, 3, 1, 1};
-    trvpra(x[0], y[0], z[0], x[1], y[1], z[1], x, y, z, 4, x[3], status);
-    expect(x, {1, 1, 1 + c, 1 - 0.5 * c});
-    expect(y, {1, 1, 1 + s, 1 - 0.5 * s});
-  }
-  {  // Shift and angle are the coordinates of the last point.
-    float x[] = {1, 0, 0, 2}, y[] = {0, 1, 0, 0}, z[] = {0, 0, 0, 0.5};
-    trvptr(x, y, z, 4, x[3], y[3], z[3], 0, 0, z[3]);
-    expect(x, {3 * c, 2 * c - s, 2 * c, 4 * c});
-    expect(y, {3 * s, 2 * s + c, 2 * s, 4 * s});
-    expect(z, {0.5, 0.5, 0.5, 1});
-  }
-}

@@ -57,34 +57,19 @@ TEST(Vectors, SignOfAValue) {
 }
 
 TEST(Vectors, PositionInATable) {
-  const float table[] = {0, 1, 2};
-  struct Case {
-    std::int32_t n;
-    float x;
-    std::int32_t interval, status, i;
-  };
-  const Case cases[] = {
-      {3, 0, 1, 1, 1},
-      {3, 1, 2, 1, 2},
-      {3, 0.5F, 1, 2, 1},
-      {3, 1.5F, 2, 2, 2},
-      {3, 2, 0, 1, 3},
-      {3, 2.5F, 0, 0, 0},
-      {3, tolerance, 1, 1, 1},
-      {3, beyond, 1, 2, 1},
-      {3, -tolerance, 0, 1, 1},
-      {3, -beyond, 0, 0, 0},
-      {3, not_a_number, 0, 0, 0},
-      {1, 0, 0, 1, 1},
-      {1, 0.5F, 0, 0, 0},
-      {0, 0, 0, 0, 0},
-      {-1, 0, 0, 0, 0},
-      {3, 0.999995F, 1, 1, 2},  // an equal entry goes before the interval
-  };
-  for (const Case &t : cases) {
+  const float table[] = {0, 1, 2}, t = tolerance;
+  // Interval by interval; then status and position where an equal entry goes first.
+  const auto place = [&](std::int32_t n, float x) -> double {
     std::int32_t interval = unwritten_int, status = unwritten_int, i = unwritten_int;
-    trvpos(t.n, table, t.x, interval);
-    trvpos1(t.n, table, t.x, status, i);
-    EXPECT_TRUE(interval == t.interval && status == t.status && i == t.i) << &t - cases;
-  }
+    trvpos(n, table, x, interval);
+    trvpos1(n, table, x, status, i);
+    return 100 * interval + 10 * status + i;
+  };
+  EXPECT_EQ((Values{place(3, 0), place(3, 0.5F), place(3, 1), place(3, 1.5F), place(3, 2)}),
+            (Values{111, 121, 212, 222, 13}));
+  EXPECT_EQ((Values{place(3, t), place(3, beyond), place(3, -t), place(3, 0.999995F)}),
+            (Values{111, 121, 11, 112}));
+  EXPECT_EQ((Values{place(3, -beyond), place(3, 2.5F), place(3, not_a_number), place(1, 0.5F),
+                    place(0, 0), place(-1, 0), place(1, 0)}),
+            (Values{0, 0, 0, 0, 0, 0, 11}));
 }
