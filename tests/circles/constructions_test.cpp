@@ -82,17 +82,20 @@ TEST(Constructions, LineAlongTheChordLeavesTheCrossingOfTheCallBefore) {
 }
 
 TEST(Constructions, Refusals) {
-  Arc no_arc[] = {{1, 2, 1, 2, 4, 6}, {1, 2, -3, -1, 5.0001F, -1}, {1, 2, -3, -1, -3, -1}};
+  Arc no_arc[] = {{0, 0, t, 0, -t, 0}, {1, 2, -3, -1, 5.0001F, -1}, {-3, 3, 0, 0, t, 0}};
   for (Arc &arc : no_arc) {  // no radius, two radii, no chord
     EXPECT_EQ(construct(trvcer4, arc, 1.0F, 1.0F), refused);
     EXPECT_EQ(construct(trvcer10, arc, 1.0F, 1.0F), refused);
     EXPECT_EQ(construct(trvcer5, arc, 0.0F, -1, 0.5F), refused);
   }
+  Arc unequal = {0, 0, 2 * t, 0, -t, 0};  // by the tolerance, no more
+  EXPECT_NE(construct(trvcer10, unequal, 1.0F, 1.0F)[0], u);
   Arc near = {-3, 3, 0, 0, t, t};  // refused only where the station is asked for its status
   EXPECT_EQ(construct(trvcer4, near, 0.0F, 1.0F), refused);
   EXPECT_NE(construct(trvcer10, near, 1.0F, 1.0F)[0], u);
 
   Arc arc = level;
+  EXPECT_EQ(construct(trvcer5, arc, 1.0F, -1, t), refused);
   for (const float s : {-1e-30F, 7.999995F, 9.0F})
     EXPECT_EQ(construct(trvcer5, arc, s, -1, 0.5F), refused);
   for (const float s : {0.0F, 7.99998F}) EXPECT_EQ(construct(trvcer5, arc, s, -1, 0.5F)[2], 1);

@@ -88,9 +88,9 @@ TEST(Frames, ThreePointsWithoutFrameOrWithoutAnAxis) {
   EXPECT_EQ(outputs(trvaxe, 1, 1, 1, 2, 2, 2, 3, 3, 3), no_frame);
   EXPECT_EQ(outputs(trvaxe, 1, 1, 1, 1, 1, 1, 3, 4, 5), Values(10, 0));
   EXPECT_EQ(outputs(trvaxe, 0, 0, 0, not_a_number, 0, 0, 0, 1, 0), Values(10, 0));
-  // Long enough sides, but a product of 1e-6.
-  EXPECT_EQ(outputs(trvaxe, 0, 0, 0, 0.001F, 0, 0, 0, 0.001F, 0),
-            (Values{1, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+  // A side and a normal as long as the tolerance, but a product of 1e-10.
+  EXPECT_EQ(outputs(trvaxe, 0, 0, 0, tolerance, 0, 0, 0, 1, 0),
+            (Values{1, 0, 0, 0, 0, 0, 0, 0, 1, 0}));
 }
 
 TEST(Frames, OfAnAxis) {

@@ -98,7 +98,9 @@ TEST(Angles, DirectedAnglesAreAccurateAllAround) {
 TEST(Angles, DirectedAngleInSpaceIsSeenAgainstTheTurnedNormal) {
   // From x to z the normal points to -y, so that way round is taken as three quarters.
   EXPECT_NEAR(outputs(trvchi, 1, 1, 1, 2, 1, 1, 1, 1, 2)[0], 1.5 * pi, 1e-6);
-  EXPECT_NEAR(outputs(trvchi, 1, 1, 1, 1, 1, 2, 2, 1, 1)[0], 0.5 * pi, 1e-6);
+  // The normal (1, 0, -1) goes by z, and (-1, 0, 0) by x.
+  EXPECT_NEAR(outputs(trvchi, 1, 1, 1, 1, 2, 1, 2, 1, 2)[0], 1.5 * pi, 1e-6);
+  EXPECT_NEAR(outputs(trvchi, 1, 1, 1, 1, 1, 2, 1, 2, 1)[0], 1.5 * pi, 1e-6);
   // (2, 3, 6) and (6, 2, -3) are at right angles, the normal (-21, 42, -14): towards +y as it is.
   EXPECT_NEAR(outputs(trvchi, 1, -2, 4, 3, 1, 10, 7, 0, 1)[0], 0.5 * pi, 1e-6);
   EXPECT_NEAR(outputs(trvchi, 1, -2, 4, 7, 0, 1, 3, 1, 10)[0], 1.5 * pi, 1e-6);
