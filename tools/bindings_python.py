@@ -243,7 +243,7 @@ def _meanings_of(text):
     for item in text.split("; "):
         match = contracts.ITEM.match(item)
         if match:
-            first, last, listed, _, _ = match.groups()
+            first, last, _, listed, _, _ = match.groups()
             always = item.startswith("always")
             meaning = "always" if always else item[match.end() :].strip(" ,:")
             if first:

@@ -10,6 +10,7 @@ import sys
 
 import contracts
 import entries
+import bindings_python
 import headers
 
 
@@ -130,9 +131,9 @@ OUTPUTS = {
 
 def outdated(families, check):
     """Writes the files that are out of date; only tells of them when checking."""
-    for path, write in OUTPUTS.items():
+    texts = {path: write(families) for path, write in OUTPUTS.items()}
+    for path, text in (texts | bindings_python.outputs(families)).items():
         file = headers.ROOT / path
-        text = write(families)
         if file.exists() and file.read_text() == text:
             continue
         if check:

@@ -7,6 +7,7 @@ packages=(
   g++-mingw-w64-i686-win32 wine wine32:i386            # the Windows DLL, and running it
   googletest libclang-rt-14-dev clang-format clang-tidy # tests, sanitizers, formatting
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
+  python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
 )
 
 installed() {

@@ -14,53 +14,82 @@ if TYPE_CHECKING:
 _NAN = float("nan")
 
 __all__ = [
-    "trvcer", "TrvcerResult", "trvlci", "TrvlciResult", "trvc12", "Trvc12Result", "trvcer2",
-    "Trvcer2Result", "trvcer1", "Trvcer1Result", "trvcin", "TrvcinResult", "trvcer3",
-    "Trvcer3Result", "Trvcer3Status", "trvcer8", "Trvcer8Result", "Trvcer8Status", "trvcer6",
-    "Trvcer6Result", "Trvcer6Status", "trvcer9", "Trvcer9Result", "Trvcer9Status", "trvarc1",
-    "Trvarc1Result", "Trvarc1Status", "trvaxph", "trvhin", "TrvhinResult", "trvapp", "trvcer4",
-    "Trvcer4Result", "Trvcer4Status", "trvcer10", "Trvcer10Result", "Trvcer10Status", "trvcer5",
-    "Trvcer5Result", "Trvcer5Status", "trvcer7", "Trvcer7Result", "Trvcer7Status", "trvard",
-    "TrvardResult", "TrvardStatus", "trvenv", "TrvenvResult", "trvord", "trvord1", "trvordi",
-    "trvpor", "TrvporResult", "TrvporStatus", "trvorv", "TrvorvResult", "trvmer1",
-    "Trvmer1Result", "trvmer11", "Trvmer11Result", "trvmer4", "Trvmer4Result", "trvmer15",
-    "Trvmer15Result", "trvmer16", "Trvmer16Result", "trvpds", "trvpri", "trvpre", "trvcnt",
-    "TrvcntResult", "TrvcntStatus", "trvcnt1", "Trvcnt1Status", "trv123", "Trv123Result",
-    "Trv123Status", "trvmed", "TrvmedResult", "trvdtr2", "trvdtr3", "trvgrc", "TrvgrcResult",
-    "trvint", "trvvin", "TrvvinStatus", "trvpos", "trvpos1", "Trvpos1Result", "Trvpos1Status",
-    "trvln3", "Trvln3Result", "trvln1", "Trvln1Result", "trvln4", "Trvln4Result", "trvln2",
-    "Trvln2Result", "trvln5", "Trvln5Result", "trvlds", "trvlni", "TrvlniResult",
-    "TrvlniStatus", "trvlul", "TrvlulResult", "TrvlulStatus", "trvpsn", "TrvpsnCode", "trvln6",
-    "Trvln6Result", "Trvln6Code", "Trvln6On", "trvln7", "Trvln7Result", "Trvln7Code",
-    "Trvln7On", "trvphi", "trvphi3", "trvphi1", "trvphip", "TrvphipResult", "trvchi",
-    "TrvchiResult", "TrvchiStatus", "trvcnv", "TrvcnvStatus", "trvtrg", "TrvtrgResult",
-    "TrvtrgStatus", "trvdir", "TrvdirCode", "trvdirp", "TrvdirpCode", "trvmov", "TrvmovResult",
-    "trvtra", "TrvtraResult", "trvinv", "trvadr", "TrvadrResult", "trvapl", "TrvaplResult",
-    "trvspl", "TrvsplResult", "trvipl", "TrviplResult", "trvacp", "TrvacpResult", "trvicp",
-    "TrvicpResult", "trvair", "TrvairResult", "trvstm", "TrvstmResult", "trvinm",
-    "TrvinmResult", "trvinp", "TrvinpResult", "trvinr", "trvro2", "trvefr", "trvef2",
-    "Trvef2Result", "trvsec_ia", "TrvsecIaResult", "trvsec_h", "TrvsecHResult", "trvsec_t",
-    "TrvsecTResult", "trvsec_b", "TrvsecBResult", "trvsec_h1b", "TrvsecH1bResult", "trvsec_box",
-    "TrvsecBoxResult", "trvsec_rhs", "TrvsecRhsResult", "trvsec_l2", "TrvsecL2Result",
-    "trvsec_tab", "TrvsecTabResult", "trvsec_h2b", "TrvsecH2bResult", "trvsec_i",
-    "TrvsecIResult", "trvsec_c", "TrvsecCResult", "trvshc_c", "trvwar_c", "trvmxt",
-    "TrvmxtResult", "TrvmxtStatus", "trvmxt_fb", "TrvmxtFbResult", "TrvmxtFbStatus", "trvrot",
-    "TrvrotResult", "trvrotx", "TrvrotxResult", "trvroty", "TrvrotyResult", "trvrotz",
-    "TrvrotzResult", "trvpsl", "TrvpslStatus", "trv3tra", "Trv3traResult", "trvtrn", "trvaxe",
-    "TrvaxeResult", "TrvaxeStatus", "trvaxel", "TrvaxelResult", "TrvaxelStatus", "trvptr",
-    "TrvptrResult", "trvptrl", "TrvptrlResult", "TrvptrlStatus", "trvpra", "TrvpraResult",
-    "TrvpraStatus", "trvppc", "TrvppcResult", "TrvppcStatus", "trvplg", "TrvplgResult",
-    "trvpl1", "Trvpl1Result", "Trvpl1Status", "trvpl2", "Trvpl2Result", "Trvpl2Status",
-    "trvpl3", "Trvpl3Result", "Trvpl3Status", "trvpl4", "Trvpl4Result", "Trvpl4Status",
-    "trvpl5", "Trvpl5Result", "Trvpl5Status", "trvpl6", "Trvpl6Result", "Trvpl6Status",
-    "trvpl7", "Trvpl7Result", "Trvpl7Status", "trvpsp", "trvpld", "trvpspg", "TrvpspgStatus",
-    "trvplv", "TrvplvStatus", "trvpnp", "TrvpnpResult", "trvdirl", "TrvdirlStatus", "trv3sp",
-    "Trv3spStatus", "trv3ldb", "Trv3ldbResult", "trv3lda", "Trv3ldaResult", "trv3lni",
-    "Trv3lniResult", "Trv3lniStatus", "trvpli", "TrvpliResult", "TrvpliStatus", "trvplp",
-    "TrvplpPosition", "trvpnl", "TrvpnlResult", "trvlpc", "TrvlpcResult", "TrvlpcStatus"
+    "trvcer", "TrvcerResult", "trvlci", "TrvlciResult", "trvc12", "Trvc12Result", "Trvc12N",
+    "trvcer2", "Trvcer2Result", "Trvcer2N", "trvcer1", "Trvcer1Result", "Trvcer1N", "trvcin",
+    "TrvcinResult", "trvcer3", "Trvcer3Result", "Trvcer3Status", "trvcer8", "Trvcer8Result",
+    "Trvcer8Status", "trvcer6", "Trvcer6Result", "Trvcer6Status", "trvcer9", "Trvcer9Result",
+    "Trvcer9Status", "trvarc1", "Trvarc1Result", "Trvarc1Status", "trvaxph", "trvhin",
+    "TrvhinResult", "trvapp", "trvcer4", "Trvcer4Result", "Trvcer4Status", "trvcer10",
+    "Trvcer10Result", "Trvcer10Status", "trvcer5", "Trvcer5Result", "Trvcer5Status", "trvcer7",
+    "Trvcer7Result", "Trvcer7Status", "trvard", "TrvardResult", "TrvardStatus", "trvenv",
+    "TrvenvResult", "trvord", "trvord1", "trvordi", "trvpor", "TrvporResult", "TrvporStatus",
+    "trvorv", "TrvorvResult", "trvsel1", "Trvsel1Result", "trvmer13", "Trvmer13Result",
+    "trvmer1", "Trvmer1Result", "trvmer11", "Trvmer11Result", "trvmer2", "Trvmer2Result",
+    "trvmer3", "Trvmer3Result", "trvmer12", "Trvmer12Result", "trvmer4", "Trvmer4Result",
+    "trvmer14", "Trvmer14Result", "trvmer15", "Trvmer15Result", "trvmer16", "Trvmer16Result",
+    "trvptp1", "Trvptp1Result", "Trvptp1Status", "trvptp2", "Trvptp2Result", "trvppp",
+    "TrvpppResult", "trvpin", "TrvpinResult", "TrvpinStatus", "trvpds", "trvpri", "trvpre",
+    "trvcnt", "TrvcntResult", "TrvcntStatus", "trvcnt1", "Trvcnt1Status", "trv123",
+    "Trv123Result", "Trv123Status", "trvmed", "TrvmedResult", "trvdtr2", "trvdtr3", "trvgrc",
+    "TrvgrcResult", "trvint", "trvvin", "TrvvinStatus", "trvpos", "trvpos1", "Trvpos1Result",
+    "Trvpos1Status", "trvln3", "Trvln3Result", "trvln1", "Trvln1Result", "trvln4",
+    "Trvln4Result", "trvln2", "Trvln2Result", "trvln5", "Trvln5Result", "trvlds", "trvlni",
+    "TrvlniResult", "TrvlniStatus", "trvlul", "TrvlulResult", "TrvlulStatus", "trvpsn",
+    "TrvpsnCode", "trvln6", "Trvln6Result", "Trvln6Code", "Trvln6On", "trvln7", "Trvln7Result",
+    "Trvln7Code", "Trvln7On", "trvphi", "trvphi3", "trvphi1", "trvphip", "TrvphipResult",
+    "trvchi", "TrvchiResult", "TrvchiStatus", "trvcnv", "TrvcnvStatus", "trvtrg",
+    "TrvtrgResult", "TrvtrgStatus", "trvdir", "TrvdirCode", "trvdirp", "TrvdirpCode", "trvmov",
+    "TrvmovResult", "trvtra", "TrvtraResult", "trvinv", "trvadr", "TrvadrResult", "trvapl",
+    "TrvaplResult", "trvspl", "TrvsplResult", "trvipl", "TrviplResult", "trvacp",
+    "TrvacpResult", "trvicp", "TrvicpResult", "trvair", "TrvairResult", "trvstm",
+    "TrvstmResult", "trvinm", "TrvinmResult", "trvinp", "TrvinpResult", "trvinr", "trvro2",
+    "trvefr", "trvef2", "Trvef2Result", "trvsec_ia", "TrvsecIaResult", "trvsec_h",
+    "TrvsecHResult", "trvsec_t", "TrvsecTResult", "trvsec_b", "TrvsecBResult", "trvsec_h1b",
+    "TrvsecH1bResult", "trvsec_box", "TrvsecBoxResult", "trvsec_rhs", "TrvsecRhsResult",
+    "trvsec_l2", "TrvsecL2Result", "trvsec_tab", "TrvsecTabResult", "trvsec_h2b",
+    "TrvsecH2bResult", "trvsec_i", "TrvsecIResult", "trvsec_c", "TrvsecCResult", "trvshc_c",
+    "trvwar_c", "trvmxt", "TrvmxtResult", "TrvmxtStatus", "trvmxt_fb", "TrvmxtFbResult",
+    "TrvmxtFbStatus", "trvrot", "TrvrotResult", "trvrotx", "TrvrotxResult", "trvroty",
+    "TrvrotyResult", "trvrotz", "TrvrotzResult", "trvpsl", "TrvpslStatus", "trv3tra",
+    "Trv3traResult", "trvtrn", "trvaxe", "TrvaxeResult", "TrvaxeStatus", "trvaxel",
+    "TrvaxelResult", "TrvaxelStatus", "trvptr", "TrvptrResult", "trvptrl", "TrvptrlResult",
+    "TrvptrlStatus", "trvpra", "TrvpraResult", "TrvpraStatus", "trvppc", "TrvppcResult",
+    "TrvppcStatus", "trvplg", "TrvplgResult", "trvpl1", "Trvpl1Result", "Trvpl1Status",
+    "trvpl2", "Trvpl2Result", "Trvpl2Status", "trvpl3", "Trvpl3Result", "Trvpl3Status",
+    "trvpl4", "Trvpl4Result", "Trvpl4Status", "trvpl5", "Trvpl5Result", "Trvpl5Status",
+    "trvpl6", "Trvpl6Result", "Trvpl6Status", "trvpl7", "Trvpl7Result", "Trvpl7Status",
+    "trvpsp", "trvpld", "trvpspg", "TrvpspgStatus", "trvplv", "TrvplvStatus", "trvpnp",
+    "TrvpnpResult", "trvdirl", "TrvdirlStatus", "trv3sp", "Trv3spStatus", "trv3ldb",
+    "Trv3ldbResult", "trv3lda", "Trv3ldaResult", "trv3lni", "Trv3lniResult", "Trv3lniStatus",
+    "trvpli", "TrvpliResult", "TrvpliStatus", "trvplp", "TrvplpPosition", "trvpnl",
+    "TrvpnlResult", "trvlpc", "TrvlpcResult", "TrvlpcStatus"
 ]
 
 MEANINGS: dict[str, dict[str, dict[int, str]]] = {
+    "trvlci": {
+        "n": {
+            1: 'it touches it',
+            2: 'it cuts it',
+        },
+    },
+    "trvc12": {
+        "n": {
+            1: 'the circles touch',
+            2: 'they cut each other',
+        },
+    },
+    "trvcer2": {
+        "n": {
+            1: 'both candidates are the same point',
+            2: 'two',
+        },
+    },
+    "trvcer1": {
+        "n": {
+            1: 'both candidates are the same point',
+            2: 'two',
+        },
+    },
     "trvcin": {
         "position": {
             1: 'not cut, centre above the x axis',
@@ -134,6 +163,20 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
         "status": {
             -1: 'not a family of parallel and distinct lines, or n < 1',
             0: 'ordered',
+        },
+    },
+    "trvptp1": {
+        "status": {
+            0: 'no pair',
+            1: 'some points of A have a partner',
+            2: 'every point of A has one',
+        },
+    },
+    "trvpin": {
+        "status": {
+            -1: 'refused: n < 3, or P1 and P2 coincide within the tolerance in both coordinates. P1 on the outline counts as the point just to its right, or just above where that is on the outline too',
+            0: 'it is not',
+            1: 'P1 is inside, by the even-odd rule',
         },
     },
     "trvcnt": {
@@ -269,11 +312,58 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             6: 'a normal is zero',
         },
     },
+    "trvsec_ia": {
+        "np": {
+        },
+    },
+    "trvsec_h": {
+        "np": {
+        },
+    },
+    "trvsec_t": {
+        "np": {
+        },
+    },
+    "trvsec_b": {
+        "np": {
+        },
+    },
+    "trvsec_h1b": {
+        "np": {
+        },
+    },
+    "trvsec_box": {
+        "np": {
+        },
+    },
+    "trvsec_rhs": {
+        "np": {
+        },
+    },
+    "trvsec_l2": {
+        "np": {
+        },
+    },
+    "trvsec_tab": {
+        "np": {
+        },
+    },
+    "trvsec_h2b": {
+        "np": {
+        },
+    },
+    "trvsec_i": {
+        "np": {
+        },
+    },
+    "trvsec_c": {
+        "np": {
+        },
+    },
     "trvmxt": {
         "status": {
             -1: 'refused, nothing else is written: n < 1, a coordinate or a thickness that is infinite or NaN, a length or a thickness not above the tolerance',
             0: 'done',
-            2: 'to n this plate is the first at fault, it starts at no end of an earlier one, or ends at one and closes a cell: what is listed up to xp,yp is written, the rest is not',
         },
     },
     "trvmxt_fb": {
@@ -320,7 +410,6 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
         "status": {
             -1: 'P2 is at P0 or P1, or the three are on one line (trvpsl)',
             0: 'done',
-            1: 'to n position of the first point off the plane',
         },
     },
     "trvpl1": {
@@ -549,6 +638,11 @@ def trvlci(
     return _trvlci.cells(a, b, c, D, E, F, 0, _NAN, _NAN, _NAN, _NAN)
 
 
+class Trvc12N(IntEnum):
+    CIRCLES_TOUCH = 1
+    THEY_CUT_EACH_OTHER = 2
+
+
 class Trvc12Result(NamedTuple):
     n: int
     x1: float
@@ -584,6 +678,11 @@ def trvc12(
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvc12.cells(D1, E1, F1, D2, E2, F2, 0, _NAN, _NAN, _NAN, _NAN)
+
+
+class Trvcer2N(IntEnum):
+    BOTH_CANDIDATES_ARE_THE_SAME_POINT = 1
+    TWO = 2
 
 
 class Trvcer2Result(NamedTuple):
@@ -631,6 +730,11 @@ def trvcer2(
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer2.cells(x1, y1, x2, y2, side, r, _NAN, _NAN, _NAN, _NAN, _NAN, _NAN, 0)
+
+
+class Trvcer1N(IntEnum):
+    BOTH_CANDIDATES_ARE_THE_SAME_POINT = 1
+    TWO = 2
 
 
 class Trvcer1Result(NamedTuple):
@@ -1394,7 +1498,6 @@ def trvenv(
 _trvord = Routine(
     "trvord", None,
     "inout real V[n]; in int n = V",
-    retains=True,
 )
 
 
@@ -1403,15 +1506,20 @@ def trvord(
 ) -> NDArray[float32]:
     """Sorts Reals ascending, in place.
 
-    A selection sort whose last smallest entry wins: only the signs of equal zeros and the places of
-    NaNs tell. A NaN is never smaller and stays where it is when its turn comes. Quadratic in n.
+    The result is that of a selection sort that takes the last of equal smallest entries: a NaN stays
+    where it is, the others are sorted around it, and which of -0 and 0 comes first follows from the
+    swaps. Time grows with n, with n*log(n) where zeros of both signs occur. More than 32 entries
+    take 8*n bytes of the heap for the call. Where memory is short the sort is in place and takes
+    n*log(n), with NaNs or zeros of both signs n*n.
+
+    Retains: nothing.
 
     Arguments:
-      V: array of n
+      V: array of n: entries
       n: number of entries; below 1 nothing happens
 
     Returns:
-      V: array of n
+      V: array of n: entries
     """
     return _trvord.call((V, n), in_place)
 
@@ -1419,21 +1527,25 @@ def trvord(
 _trvord1 = Routine(
     "trvord1", None,
     "inout int V[n]; in int n = V",
-    retains=True,
 )
 
 
 def trvord1(
     V: ArrayLike, *, n: int | None = None, in_place: bool = False
 ) -> NDArray[int32]:
-    """Sorts Integers ascending, in place. Quadratic in n.
+    """Sorts Integers ascending, in place.
+
+    Time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where memory is
+    short the sort is in place and takes n*log(n).
+
+    Retains: nothing.
 
     Arguments:
-      V: array of n
+      V: array of n: entries
       n: number of entries; below 1 nothing happens
 
     Returns:
-      V: array of n
+      V: array of n: entries
     """
     return _trvord1.call((V, n), in_place)
 
@@ -1441,7 +1553,6 @@ def trvord1(
 _trvordi = Routine(
     "trvordi", None,
     "in real V[n]; in int n = V; out int IDX[n]",
-    retains=True,
 )
 
 
@@ -1450,17 +1561,22 @@ def trvordi(
 ) -> NDArray[int32]:
     """Positions of the entries of a list in ascending order; the list itself stays.
 
-    Equal entries are listed from the highest position to the lowest. An entry that is found is
-    marked by the largest value plus 1: where that sum rounds to the largest value (16777216 and
-    beyond), a position may be repeated. Quadratic in n; allocates n Reals for the call.
+    Equal entries, -0 and 0 among them, are listed from the highest position to the lowest. The k-th
+    round finds the smallest entry and puts the largest of the list plus 1 in its place, for the
+    later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity), an entry as
+    large as the largest is never used up: IDX(k) is then the position of the last number of the
+    list. A round finds nothing where the list holds a NaN at k, by then: a NaN at the head of the
+    list makes the sum a NaN. Time grows with n. Takes 16*n bytes of the heap for the call.
+
+    Retains: nothing.
 
     Arguments:
-      V: array of n
+      V: array of n: entries
       n: number of entries
 
     Returns:
       IDX: array of n: IDX(k) is the position of the k-th smallest entry; unwritten when n < 1
-        or memory is short; IDX(k) alone is unwritten when no entry compares (NaN)
+        or memory is short; IDX(k) alone is unwritten when its round finds nothing
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1480,7 +1596,6 @@ _trvpor = Routine(
     "trvpor", TrvporResult,
     "in int n = A B C; in real A[n]; in real B[n]; in real C[n]; out int IDX[n]; "
     "out int status",
-    retains=True,
 )
 
 
@@ -1491,7 +1606,10 @@ def trvpor(
 
     That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the y
     axis and apart from it. Parallel and distinct is what trvlni finds between the first line and
-    each other one.
+    each other one; a single line is ordered. Time grows with n. Takes 20*n bytes of the heap for the
+    call.
+
+    Retains: nothing.
 
     Arguments:
       n: number of lines
@@ -1499,8 +1617,8 @@ def trvpor(
 
     Returns:
       IDX: array of n: positions by ascending crossing, equal ones from the highest position
-        down (trvordi); 1 ... n when status is -1; unwritten when n < 1, or when memory is short
-        for an order
+        down, infinite and NaN ones as trvordi orders them; 1 ... n when status is -1; unwritten
+        when n < 1, or when memory is short for an order
       status: 0 ordered; -1 not a family of parallel and distinct lines, or n < 1
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
@@ -1518,7 +1636,6 @@ class TrvorvResult(NamedTuple):
 _trvorv = Routine(
     "trvorv", TrvorvResult,
     "inout real X[4]; inout real Y[4]; inout real Z[4]; out int ORD[4]",
-    retains=True,
 )
 
 
@@ -1530,6 +1647,8 @@ def trvorv(
     An order stands when the two triangles on its diagonal from the first corner turn the same way,
     or one of them is degenerate. Tried are (1, 2, 3, 4), then (1, 2, 4, 3); else it is (1, 4, 2, 3).
 
+    Retains: nothing.
+
     Arguments:
       X, Y, Z: arrays of 4: corners, rearranged
 
@@ -1540,6 +1659,79 @@ def trvorv(
     return _trvorv.call((X, Y, Z), in_place)
 
 
+class Trvsel1Result(NamedTuple):
+    count_: int
+    pos: NDArray[int32]
+
+
+_trvsel1 = Routine(
+    "trvsel1", Trvsel1Result,
+    "in int n = V; in int V[n]; in int key; out int count_; out int pos[n, count_ used]",
+)
+
+
+def trvsel1(
+    V: ArrayLike, key: int, *, n: int | None = None
+) -> Trvsel1Result:
+    """All positions at which a list holds a value.
+
+    Retains: nothing.
+
+    Arguments:
+      n: number of entries; below 1 the list is empty
+      V: array of n: entries
+      key: value
+
+    Returns:
+      count_: how many entries equal it
+      pos: array of n, count used: their positions, ascending
+    """
+    return _trvsel1.call((n, V, key))
+
+
+class Trvmer13Result(NamedTuple):
+    count_: int
+    IA: NDArray[int32]
+    IB: NDArray[int32]
+
+
+_trvmer13 = Routine(
+    "trvmer13", Trvmer13Result,
+    "in int na = A; in real A[na]; in int nb = B; in real B[nb]; out int count_; "
+    "out int IA[max(na+nb,na*nb)]; out int IB[max(na+nb,na*nb)]; in real tol",
+)
+
+
+def trvmer13(
+    A: ArrayLike, B: ArrayLike, tol: float, *, na: int | None = None, nb: int | None = None
+) -> Trvmer13Result:
+    """All pairs of entries of two lists that differ by at most a tolerance.
+
+    Equal infinities have no difference and make no pair, and neither does anything at a tolerance
+    that is negative or NaN; here the merging routines differ. Time grows with na+nb and the number
+    of pairs, unless entries crowd within a few tolerances: a crowd's are all compared. Takes up to
+    36*(na+nb) bytes of the heap for the call; where memory is short all entries are compared.
+
+    Retains: nothing.
+
+    Arguments:
+      na: number of entries of A; below 1 there are none
+      A: array of na: entries
+      nb: number of entries of B; below 1 there are none
+      B: array of nb: entries
+      tol: largest difference, itself included
+
+    Returns:
+      count_: number of pairs
+      IA, IB: arrays of max(na+nb,na*nb): positions in A and in B, by A, then by B; first
+        entries 1 to na+nb, the sum of the counts as they are, are set to 0, and those that are
+        no pair stay 0; unwritten beyond both na+nb and count
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvmer13.call((na, A, nb, B, tol))
+
+
 class Trvmer1Result(NamedTuple):
     nout: int
     OUT: NDArray[int32]
@@ -1548,8 +1740,7 @@ class Trvmer1Result(NamedTuple):
 _trvmer1 = Routine(
     "trvmer1", Trvmer1Result,
     "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; "
-    "out int OUT[na+nb]",
-    retains=True,
+    "out int OUT[na+nb, nout used]",
 )
 
 
@@ -1558,15 +1749,17 @@ def trvmer1(
 ) -> Trvmer1Result:
     """Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
 
+    Retains: nothing.
+
     Arguments:
-      na: number of entries of A
-      A: array of na
-      nb: number of entries of B
-      B: array of nb
+      na: number of entries of A; below 1 there are none
+      A: array of na: entries
+      nb: number of entries of B; below 1 there are none
+      B: array of nb: entries
 
     Returns:
       nout: number of entries written
-      OUT: array of na+nb: A, then B
+      OUT: array of na+nb, nout used: A, then B
     """
     return _trvmer1.call((na, A, nb, B))
 
@@ -1579,8 +1772,7 @@ class Trvmer11Result(NamedTuple):
 _trvmer11 = Routine(
     "trvmer11", Trvmer11Result,
     "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; "
-    "out int OUT[na+nb]",
-    retains=True,
+    "out int OUT[na+nb, nout used]",
 )
 
 
@@ -1589,17 +1781,118 @@ def trvmer11(
 ) -> Trvmer11Result:
     """Joins two lists end to end: trvmer1 under another name.
 
+    Retains: nothing.
+
     Arguments:
-      na: number of entries of A
-      A: array of na
-      nb: number of entries of B
-      B: array of nb
+      na: number of entries of A; below 1 there are none
+      A: array of na: entries
+      nb: number of entries of B; below 1 there are none
+      B: array of nb: entries
 
     Returns:
       nout: number of entries written
-      OUT: array of na+nb: A, then B
+      OUT: array of na+nb, nout used: A, then B
     """
     return _trvmer11.call((na, A, nb, B))
+
+
+class Trvmer2Result(NamedTuple):
+    V: NDArray[int32]
+    n: int
+
+
+_trvmer2 = Routine(
+    "trvmer2", Trvmer2Result,
+    "inout int V[n, n used]; inout int n = V",
+)
+
+
+def trvmer2(
+    V: ArrayLike, *, n: int | None = None, in_place: bool = False
+) -> Trvmer2Result:
+    """Sorts Integers ascending and drops repeats, in place.
+
+    Time and memory are those of trvord1.
+
+    Retains: nothing.
+
+    Arguments:
+      V: array of n: entries; unspecified beyond the new n
+      n: number of entries; below 1 nothing happens
+
+    Returns:
+      V: array of n: entries; unspecified beyond the new n
+      n: number of entries; below 1 nothing happens
+    """
+    return _trvmer2.call((V, n), in_place)
+
+
+class Trvmer3Result(NamedTuple):
+    V: NDArray[float32]
+    n: int
+
+
+_trvmer3 = Routine(
+    "trvmer3", Trvmer3Result,
+    "inout real V[n, n used]; inout int n = V",
+)
+
+
+def trvmer3(
+    V: ArrayLike, *, n: int | None = None, in_place: bool = False
+) -> Trvmer3Result:
+    """Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+
+    Entries agree that are equal or differ by at most 1e-5. So a NaN agrees with nothing, an infinity
+    with itself. -0 comes before 0, NaNs come last and all stay. Time grows with n. More than 32
+    entries take 8*n bytes of the heap for the call; where memory is short the sort takes n*log(n).
+
+    Retains: nothing.
+
+    Arguments:
+      V: array of n: entries; unspecified beyond the new n
+      n: number of entries; below 1 nothing happens
+
+    Returns:
+      V: array of n: entries; unspecified beyond the new n
+      n: number of entries; below 1 nothing happens
+    """
+    return _trvmer3.call((V, n), in_place)
+
+
+class Trvmer12Result(NamedTuple):
+    V: NDArray[float32]
+    n: int
+
+
+_trvmer12 = Routine(
+    "trvmer12", Trvmer12Result,
+    "inout real V[n, n used]; inout int n = V; in real tol",
+)
+
+
+def trvmer12(
+    V: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
+) -> Trvmer12Result:
+    """Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+
+    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
+    infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. -0
+    comes before 0, NaNs come last and all stay. Time grows with n. More than 32 entries take 8*n
+    bytes of the heap for the call; where memory is short the sort takes n*log(n).
+
+    Retains: nothing.
+
+    Arguments:
+      V: array of n: entries; unspecified beyond the new n
+      n: number of entries; below 1 nothing happens
+      tol: largest difference of a repeat, itself included; may be an entry of V
+
+    Returns:
+      V: array of n: entries; unspecified beyond the new n
+      n: number of entries; below 1 nothing happens
+    """
+    return _trvmer12.call((V, n, tol), in_place)
 
 
 class Trvmer4Result(NamedTuple):
@@ -1611,8 +1904,7 @@ class Trvmer4Result(NamedTuple):
 _trvmer4 = Routine(
     "trvmer4", Trvmer4Result,
     "in int na = A; in real A[na]; in int nb = B; in real B[nb]; in real tol; out int nout; "
-    "out real OUT[na+nb]; out int IB[nb]",
-    retains=True,
+    "out real OUT[na+nb, nout used]; out int IB[nb]",
 )
 
 
@@ -1621,19 +1913,64 @@ def trvmer4(
 ) -> Trvmer4Result:
     """Joins to a list those entries of another that it does not hold yet.
 
+    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
+    infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. Time
+    grows with na+nb, unless entries crowd within a few tolerances: a crowd's are compared with each
+    other. Takes up to 36*(na+nb) bytes of the heap for the call; where memory is short all entries
+    are compared.
+
+    Retains: nothing.
+
     Arguments:
-      na: number of entries of A
-      A: array of na
-      nb: number of entries of B
-      B: array of nb
-      tol: largest difference of equal entries, itself included
+      na: number of entries of A; below 1 there are none
+      A: array of na: entries
+      nb: number of entries of B; below 1 there are none
+      B: array of nb: entries
+      tol: largest difference of entries that agree, itself included
 
     Returns:
       nout: number of entries written
-      OUT: array of na+nb: A, then the entries of B that agree with none before them
-      IB: array of nb: for each entry of B the first position in OUT that agrees with it
+      OUT: array of na+nb, nout used: A as it is, then the entries of B that agree with none
+        before them in OUT
+      IB: array of nb: for each entry of B the first position in OUT that agrees with it, or its
+        own, for a NaN
     """
     return _trvmer4.call((na, A, nb, B, tol))
+
+
+class Trvmer14Result(NamedTuple):
+    nout: int
+    OUT: NDArray[int32]
+
+
+_trvmer14 = Routine(
+    "trvmer14", Trvmer14Result,
+    "in int na = A; in int A[na]; in int nb = B; in int B[nb]; out int nout; "
+    "out int OUT[na, nout used]",
+)
+
+
+def trvmer14(
+    A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None
+) -> Trvmer14Result:
+    """Entries of a list that another holds too.
+
+    Time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for the
+    call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the stack.
+
+    Retains: nothing.
+
+    Arguments:
+      na: number of entries of A; below 1 there are none
+      A: array of na: entries
+      nb: number of entries of B; below 1 there are none
+      B: array of nb: entries
+
+    Returns:
+      nout: number of entries written
+      OUT: array of na, nout used: the entries of A that B holds, repeats too, in A's order
+    """
+    return _trvmer14.call((na, A, nb, B))
 
 
 class Trvmer15Result(NamedTuple):
@@ -1645,7 +1982,6 @@ class Trvmer15Result(NamedTuple):
 _trvmer15 = Routine(
     "trvmer15", Trvmer15Result,
     "inout int na = A; inout int A[na, na used]; in int nb = B; in int B[nb]; out int count_",
-    retains=True,
 )
 
 
@@ -1655,14 +1991,19 @@ def trvmer15(
 ) -> Trvmer15Result:
     """Removes from a list the entries that another holds, in place.
 
+    Time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for the
+    call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the stack.
+
+    Retains: nothing.
+
     Arguments:
-      na: number of entries of A
+      na: number of entries of A; below 1 it stays as it is
       A: array of na: those that stay, in their order; unspecified beyond the new na
-      nb: number of entries of B
-      B: array of nb
+      nb: number of entries of B; below 1 there are none
+      B: array of nb: entries
 
     Returns:
-      na: number of entries of A
+      na: number of entries of A; below 1 it stays as it is
       A: array of na: those that stay, in their order; unspecified beyond the new na
       count_: how many were removed
     """
@@ -1678,7 +2019,6 @@ class Trvmer16Result(NamedTuple):
 _trvmer16 = Routine(
     "trvmer16", Trvmer16Result,
     "inout real X[n, n used]; inout real Y[n, n used]; inout int n = X Y; in real tol",
-    retains=True,
 )
 
 
@@ -1687,19 +2027,256 @@ def trvmer16(
 ) -> Trvmer16Result:
     """Drops repeated vertices of a closed outline, in place.
 
-    A point that agrees with the last one kept is dropped, and at the end those that agree with the
-    first.
+    A vertex that agrees with the last one left is dropped, and at the end those that agree with the
+    first. Vertices agree whose x and y both are equal or differ by at most the tolerance. So a NaN
+    agrees with nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
+    coordinates alone agree. Time grows with n.
+
+    Retains: nothing.
 
     Arguments:
       X, Y: arrays of n: vertices; unspecified beyond the new n
       n: number of vertices; below 1 nothing happens
-      tol: largest difference of either coordinate of a repeat, itself included
+      tol: largest difference of either coordinate, itself included
 
     Returns:
       X, Y: arrays of n: vertices; unspecified beyond the new n
       n: number of vertices; below 1 nothing happens
     """
     return _trvmer16.call((X, Y, n, tol), in_place)
+
+
+class Trvptp1Status(IntEnum):
+    NO_PAIR = 0
+    SOME_POINTS_OF_A_HAVE_A_PARTNER = 1
+    EVERY_POINT_OF_A_HAS_ONE = 2
+
+
+class Trvptp1Result(NamedTuple):
+    count_: int
+    IA: NDArray[int32]
+    IB: NDArray[int32]
+    status: int
+
+
+_trvptp1 = Routine(
+    "trvptp1", Trvptp1Result,
+    "in int na = XA YA ZA; in real XA[na]; in real YA[na]; in real ZA[na]; "
+    "in int nb = XB YB ZB; in real XB[nb]; in real YB[nb]; in real ZB[nb]; in real tol; "
+    "out int count_; out int IA[na*nb, count_ used]; out int IB[na*nb, count_ used]; "
+    "out int status",
+)
+
+
+def trvptp1(
+    XA: ArrayLike, YA: ArrayLike, ZA: ArrayLike, XB: ArrayLike, YB: ArrayLike, ZB: ArrayLike,
+    tol: float, *, na: int | None = None, nb: int | None = None
+) -> Trvptp1Result:
+    """All pairs of points of two lists that agree within a tolerance in each coordinate.
+
+    Coordinates agree that are equal or differ by at most the tolerance. So a NaN agrees with
+    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal coordinates
+    alone agree. Time grows with na+nb and the number of pairs, unless points crowd within a few
+    tolerances: a crowd's are all compared. Takes up to 36*(na+nb) bytes of the heap for the call;
+    where memory is short all points are compared.
+
+    Retains: nothing.
+
+    Arguments:
+      na: number of points of A; below 1 there are none
+      XA, YA, ZA: arrays of na: points of A
+      nb: number of points of B; below 1 there are none
+      XB, YB, ZB: arrays of nb: points of B
+      tol: largest difference of a coordinate, itself included
+
+    Returns:
+      count_: number of pairs
+      IA, IB: arrays of na*nb, count used: positions in A and in B, by A, then by B
+      status: 0 no pair; 1 some points of A have a partner; 2 every point of A has one
+    """
+    return _trvptp1.call((na, XA, YA, ZA, nb, XB, YB, ZB, tol))
+
+
+class Trvptp2Result(NamedTuple):
+    nab: int
+    IAB: NDArray[int32]
+    JAB: NDArray[int32]
+    nbc: int
+    IBC: NDArray[int32]
+    JBC: NDArray[int32]
+    nca: int
+    ICA: NDArray[int32]
+    JCA: NDArray[int32]
+    nout: int
+    XO: NDArray[float32]
+    YO: NDArray[float32]
+    ZO: NDArray[float32]
+    MA: NDArray[int32]
+    MB: NDArray[int32]
+    MC: NDArray[int32]
+    nk: int
+    PK: NDArray[int32]
+    nz: int
+    ZL: NDArray[float32]
+
+
+_trvptp2 = Routine(
+    "trvptp2", Trvptp2Result,
+    "in int na = XA YA ZA; in real XA[na]; in real YA[na]; in real ZA[na]; "
+    "in int nb = XB YB ZB; in real XB[nb]; in real YB[nb]; in real ZB[nb]; "
+    "in int nc = XC YC ZC; in real XC[nc]; in real YC[nc]; in real ZC[nc]; in real tol; "
+    "out int nab; out int IAB[na*nb, nab used]; out int JAB[na*nb, nab used]; out int nbc; "
+    "out int IBC[nb*nc, nbc used]; out int JBC[nb*nc, nbc used]; out int nca; "
+    "out int ICA[nc*na, nca used]; out int JCA[nc*na, nca used]; out int nout; "
+    "out real XO[na+nb+nc, nout used]; out real YO[na+nb+nc, nout used]; "
+    "out real ZO[na+nb+nc, nout used]; out int MA[na]; out int MB[nb]; out int MC[nc]; "
+    "in int k; out int nk; out int PK[na+nb+nc, nk used]; out int nz; "
+    "out real ZL[na+nb+nc, nz used]",
+)
+
+
+def trvptp2(
+    XA: ArrayLike, YA: ArrayLike, ZA: ArrayLike, XB: ArrayLike, YB: ArrayLike, ZB: ArrayLike,
+    XC: ArrayLike, YC: ArrayLike, ZC: ArrayLike, tol: float, k: int, *, na: int | None = None,
+    nb: int | None = None, nc: int | None = None
+) -> Trvptp2Result:
+    """Merges three lists of points into one list of places.
+
+    A point is at the first place it agrees with, else it makes a new one. Points agree when each of
+    their coordinates is equal or differs by at most the tolerance. So a NaN agrees with nothing, an
+    infinity with itself, and at a tolerance that is negative or NaN equal coordinates alone agree.
+    Time grows with na+nb+nc and the number of pairs, unless points crowd within a few tolerances: a
+    crowd's are all compared. Takes up to 36*(na+nb+nc) bytes of the heap for the call; where memory
+    is short all points are compared.
+
+    Retains: nothing.
+
+    Arguments:
+      na: number of points of A; below 1 there are none
+      XA, YA, ZA: arrays of na: points of A
+      nb: number of points of B; below 1 there are none
+      XB, YB, ZB: arrays of nb: points of B
+      nc: number of points of C; below 1 there are none
+      XC, YC, ZC: arrays of nc: points of C
+      tol: largest difference of a coordinate, itself included
+      k: a place
+
+    Returns:
+      nab: number of pairs of A and B
+      IAB, JAB: arrays of na*nb, nab used: positions in A and in B, by A, then by B
+      nbc: number of pairs of B and C
+      IBC, JBC: arrays of nb*nc, nbc used: positions in B and in C, by B, then by C
+      nca: number of pairs of C and A
+      ICA, JCA: arrays of nc*na, nca used: positions in C and in A, by C, then by A
+      nout: number of places
+      XO, YO, ZO: arrays of na+nb+nc, nout used: places, in the order of A, B, C
+      MA: array of na: the place of each point of A
+      MB: array of nb: the place of each point of B
+      MC: array of nc: the place of each point of C
+      nk: number of points at it; 0 where there is no such place
+      PK: array of na+nb+nc, nk used: their positions, counted on through A, B and C
+      nz: number of levels
+      ZL: array of na+nb+nc: the distinct z of the places, ascending, as trvmer12 leaves them;
+        unspecified from nz+1 to nout, unwritten beyond
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+    """
+    return _trvptp2.call((na, XA, YA, ZA, nb, XB, YB, ZB, nc, XC, YC, ZC, tol, k))
+
+
+class TrvpppResult(NamedTuple):
+    count_: int
+    XC: NDArray[float32]
+
+
+_trvppp = Routine(
+    "trvppp", TrvpppResult,
+    "in real X[n]; in real Y[n]; in int n = X Y; in real y0; out int count_; "
+    "out real XC[n, count_ used]",
+)
+
+
+def trvppp(
+    X: ArrayLike, Y: ArrayLike, y0: float, *, n: int | None = None
+) -> TrvpppResult:
+    """Where the horizontal line y = y0 crosses a closed outline.
+
+    An edge counts from its lower end, included, to its upper end, excluded. So the count is even,
+    and the first and second, third and fourth crossing and so on bound the inside. Formed in double
+    precision and rounded once. Time grows with n. More than 32 crossings take up to 8*n bytes of the
+    heap for the call; where memory is short their sort takes n*log(n).
+
+    Retains: nothing.
+
+    Arguments:
+      X, Y: arrays of n: vertices
+      n: number of vertices; below 3 nothing is crossed
+      y0: height of the line
+
+    Returns:
+      count_: number of crossings
+      XC: array of n, count used: their x, ascending; -0 before 0, NaNs last, which vertices
+        that are not finite give
+    """
+    return _trvppp.call((X, Y, n, y0))
+
+
+class TrvpinStatus(IntEnum):
+    REFUSED = -1
+
+
+class TrvpinResult(NamedTuple):
+    count_: int
+    XI: NDArray[float32]
+    YI: NDArray[float32]
+    T: NDArray[float32]
+    EDGE: NDArray[int32]
+    status: int
+
+
+_trvpin = Routine(
+    "trvpin", TrvpinResult,
+    "in real X[n]; in real Y[n]; in int n = X Y; in real x1; in real y1; in real x2; "
+    "in real y2; out int count_; out real XI[n, count_ used]; out real YI[n, count_ used]; "
+    "out real T[n, count_ used]; out int EDGE[n, count_ used]; out int status",
+)
+
+
+def trvpin(
+    X: ArrayLike, Y: ArrayLike, x1: float, y1: float, x2: float, y2: float, *,
+    n: int | None = None
+) -> TrvpinResult:
+    """Where the segment from P1 to P2 crosses a closed outline.
+
+    A crossing is where the outline passes from one side of the segment's line to the other, at a
+    vertex on the line too. An outline that touches the line, or runs along it, and goes back to its
+    side does not cross. One that runs along it and leaves to the other side crosses once, where the
+    segment, seen from P1, first meets the run, whichever way the outline goes round. A crossing
+    counts when P1 and P2 are not both on the same side of the edge crossed: ends on the outline
+    count. Sides are formed in double precision, and are exact where differences of coordinates take
+    no more than 26 bits, whole numbers up to 33554432 for example; points are formed in double
+    precision and rounded once. Time grows with n, and with count*log(count); nothing is allocated.
+
+    Retains: nothing.
+
+    Arguments:
+      X, Y: arrays of n: vertices
+      n: number of vertices
+      x1, y1: P1
+      x2, y2: P2
+
+    Returns:
+      count_: number of crossings; 0 when status is -1
+      XI, YI: arrays of n, count used: points
+      T: array of n, count used: their places on the segment, ascending from 0 at P1 to 1 at P2
+      EDGE: array of n, count used: the edges crossed, ascending where places are equal; edge i
+        runs from vertex i to vertex i+1; at a vertex or a run the edge by which the outline
+        leaves the line
+      status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1 and P2
+        coincide within the tolerance in both coordinates. P1 on the outline counts as the point
+        just to its right, or just above where that is on the outline too
+    """
+    return _trvpin.call((X, Y, n, x1, y1, x2, y2))
 
 
 _trvpds = Routine(
@@ -2957,7 +3534,7 @@ class TrvaplResult(NamedTuple):
 
 _trvapl = Routine(
     "trvapl", TrvaplResult,
-    "inout real x[n+1]; inout real y[n+1]; in int n = x y; out real area",
+    "inout real x[n+1]; inout real y[n+1]; in int n >= 0 = x y; out real area",
 )
 
 
@@ -2978,7 +3555,7 @@ def trvapl(
     Arguments:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
         for n = 0 vertex 1 with itself
-      n: number of vertices; 0 gives 0; a negative n is not allowed, since element n+1 would be
+      n: number of vertices, at least 0, which gives 0: for a negative n element n+1 would be
         before the arrays
 
     Returns:
@@ -2998,7 +3575,7 @@ class TrvsplResult(NamedTuple):
 
 _trvspl = Routine(
     "trvspl", TrvsplResult,
-    "inout real x[n+1]; inout real y[n+1]; in int n = x y; out real sx; out real sy",
+    "inout real x[n+1]; inout real y[n+1]; in int n >= 0 = x y; out real sx; out real sy",
 )
 
 
@@ -3018,7 +3595,7 @@ def trvspl(
     Arguments:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
         for n = 0 vertex 1 with itself
-      n: number of vertices; 0 gives zeros; a negative n is not allowed, since element n+1 would
+      n: number of vertices, at least 0, which gives zeros: for a negative n element n+1 would
         be before the arrays
 
     Returns:
@@ -3040,7 +3617,7 @@ class TrviplResult(NamedTuple):
 
 _trvipl = Routine(
     "trvipl", TrviplResult,
-    "inout real x[n+1]; inout real y[n+1]; in int n = x y; out real ix; out real iy; "
+    "inout real x[n+1]; inout real y[n+1]; in int n >= 0 = x y; out real ix; out real iy; "
     "out real ixy",
 )
 
@@ -3061,7 +3638,7 @@ def trvipl(
     Arguments:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
         for n = 0 vertex 1 with itself
-      n: number of vertices; 0 gives zeros; a negative n is not allowed, since element n+1 would
+      n: number of vertices, at least 0, which gives zeros: for a negative n element n+1 would
         be before the arrays
 
     Returns:
@@ -3166,7 +3743,7 @@ class TrvairResult(NamedTuple):
 _trvair = Routine(
     "trvair", TrvairResult,
     "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; "
-    "in int n = x y; in int kind; in real value; in real factor; inout real area",
+    "in int n >= 0 = x y; in int kind; in real value; in real factor; inout real area",
 )
 
 
@@ -3185,8 +3762,8 @@ def trvair(
       x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
         overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
         an unknown kind
-      n: number of vertices for kind 2, ignored otherwise; 0 gives 0; a negative n is not
-        allowed, since element n+1 would be before the arrays
+      n: vertices of kind 2, at least 0, which gives 0: for a negative n element n+1 would be
+        before the arrays; ignored for other kinds
       kind: 1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
         counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle; 4 smaller
         circular segment, point 1 the centre, 2 and 3 the ends of its chord; 5 larger circular
@@ -3217,7 +3794,8 @@ class TrvstmResult(NamedTuple):
 _trvstm = Routine(
     "trvstm", TrvstmResult,
     "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; "
-    "in int n = x y; in int kind; in real value; in real factor; inout real sx; inout real sy",
+    "in int n >= 0 = x y; in int kind; in real value; in real factor; inout real sx; "
+    "inout real sy",
 )
 
 
@@ -3236,8 +3814,8 @@ def trvstm(
       x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
         overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
         an unknown kind
-      n: number of vertices for kind 2, ignored otherwise; 0 gives zeros; a negative n is not
-        allowed, since element n+1 would be before the arrays
+      n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
+        be before the arrays; ignored for other kinds
       kind: 1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
         counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle; 4 smaller
         circular segment, point 1 the centre, 2 and 3 the ends of its chord; 5 larger circular
@@ -3269,7 +3847,7 @@ class TrvinmResult(NamedTuple):
 _trvinm = Routine(
     "trvinm", TrvinmResult,
     "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; "
-    "in int n = x y; in int kind; in real value; in real angle; in real factor; "
+    "in int n >= 0 = x y; in int kind; in real value; in real angle; in real factor; "
     "inout real ix; inout real iy; inout real ixy",
 )
 
@@ -3300,8 +3878,8 @@ def trvinm(
       x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
         overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
         an unknown kind
-      n: number of vertices for kind 2, ignored otherwise; 0 gives zeros; a negative n is not
-        allowed, since element n+1 would be before the arrays
+      n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
+        be before the arrays; ignored for other kinds
       kind: 1 area concentrated at point 1, or a region with that centroid by its own moments; 2
         polygon, points 1 to n the vertices, counter-clockwise; 3 full circle, point 1 the
         centre, 2 on the circle; 4 smaller circular segment, point 1 the centre, 2 and 3 the
