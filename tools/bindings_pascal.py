@@ -46,7 +46,8 @@ type
   TTrvReals = Single; // the first element of an array
   TTrvIntegers = LongInt;
   TTrvFunction = function(
-    {BY_ADDRESS} position: LongInt): Single; {CONVENTION};
+    {BY_ADDRESS} position: LongInt): Single;
+    {CONVENTION};
 """
 
 
@@ -71,7 +72,7 @@ def _declaration(routine):
     parts = groups((_kind(routine, a), _name(a)) for a in routine.arguments)
     for i, ((way, kind), names) in enumerate(parts):
         names[-1] += f": {kind}"
-        yield from wrap_list(names, f"  {way}".rstrip(), "    ", ";" if i + 1 < len(parts) else ");")
+        yield from wrap_list(names, f"  {way}", "    ", ";" if i + 1 < len(parts) else ");")
     yield f"  {CONVENTION}; external TrelvinLibrary name '{routine.name}';"
 
 

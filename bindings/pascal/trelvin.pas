@@ -221,7 +221,8 @@ type
   TTrvReals = Single; // the first element of an array
   TTrvIntegers = LongInt;
   TTrvFunction = function(
-    {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} position: LongInt): Single; {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF};
+    {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} position: LongInt): Single;
+    {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF};
 
 // Circles and arcs of the plane
 
@@ -1464,7 +1465,7 @@ procedure trvplp(
 procedure trvpnl(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, xb, yb, zb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X, Y: TTrvReals;
- zf: TTrvFunction;
+  zf: TTrvFunction;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single;
   var status, count: LongInt;
