@@ -1,0 +1,166 @@
+#!/usr/bin/python3
+"""Builds hosts in every language against the built libraries, runs them and compares their table.
+
+    tests/bindings/run.py [native] [windows]
+
+Native needs build/native, windows build/windows and Wine. A compiler that is missing is a failure,
+but for the Pascal one to Windows: free_pascal_win32.sh puts it into build/free-pascal-win32.
+"""
+
+import os
+import re
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+OUT = ROOT / "build" / "bindings"
+PASCAL_WIN32 = ROOT / "build" / "free-pascal-win32"
+sys.path.insert(0, str(ROOT / "tools"))
+
+import bindings_facts  # noqa: E402
+import headers  # noqa: E402
+import probes  # noqa: E402
+import written  # noqa: E402
+
+FAMILIES = headers.read_all()
+ROUTINES = headers.routines_of(FAMILIES)
+PROBES = {"fortran": ("probe.f90", probes.fortran), "pascal": ("probe.pas", probes.pascal),
+          "csharp": ("Probe.cs", probes.csharp)}
+EXAMPLES = {"c": "girder.c", "cpp": "girder.cpp", "fortran": "girder.f90", "pascal": "girder.pas",
+            "csharp": "Girder.cs"}
+
+WINDOWS_LINK = "-static {lib}/libTrelvin.dll.a"
+# Platform, language: package of Debian, command. The first word of a command is the compiler.
+COMMANDS = {
+    ("native", "c"): ("gcc", "gcc -O2 -Iinclude {source} -L{lib} -ltrelvin -lm -o {program}"),
+    ("native", "cpp"): ("g++", "g++ -O2 -Iinclude {source} -L{lib} -ltrelvin -o {program}"),
+    ("native", "fortran"): (
+        "gfortran", "gfortran -O2 -Werror -J{out} bindings/fortran/trelvin.F90 {source}"
+        " -L{lib} -ltrelvin -o {program}"),
+    ("native", "pascal"): (
+        "fp-compiler", "fpc -O2 -v0w -Sew -Fubindings/pascal -Fl{lib} -FU{out} {source} -o{program}"),
+    ("native", "csharp"): (
+        "mono-mcs mono-runtime", "mcs -warnaserror bindings/csharp/Trelvin.cs {source} -out:{program}"),
+    ("windows", "c"): (
+        "g++-mingw-w64-i686-win32",
+        "i686-w64-mingw32-gcc-win32 -O2 -Iinclude {source} " + WINDOWS_LINK + " -o {program}"),
+    ("windows", "cpp"): (
+        "g++-mingw-w64-i686-win32",
+        "i686-w64-mingw32-g++-win32 -O2 -Iinclude {source} " + WINDOWS_LINK + " -o {program}"),
+    ("windows", "fortran"): (
+        "gfortran-mingw-w64-i686-win32",
+        "i686-w64-mingw32-gfortran-win32 -O2 -Werror -J{out} bindings/fortran/trelvin.F90 {source} "
+        + WINDOWS_LINK + " -o {program}"),
+    ("windows", "pascal"): (
+        "", f"{PASCAL_WIN32}/ppc386 -n -Twin32 -O2 -v0w -Fu{PASCAL_WIN32}/units"
+        " -Fubindings/pascal -FU{out} {source} -o{program}"),
+}
+passed, failed = 0, 0
+
+
+def report(name, problem=""):
+    global passed, failed
+    passed, failed = passed + (not problem), failed + bool(problem)
+    print(f"{'FAILED ' if problem else 'ok     '} {name}{': ' if problem else ''}{problem}", flush=True)
+
+
+def run(command, **options):
+    return subprocess.run(command, cwd=ROOT, capture_output=True, text=True, timeout=600, **options)
+
+
+def table_of(platform, language, program, lib):
+    """What a program prints, or why it does not."""
+    environment = dict(os.environ, LD_LIBRARY_PATH=str(lib))
+    environment.setdefault("WINEPREFIX", str(ROOT / "build" / "wine"))
+    environment.setdefault("WINEARCH", "win32")
+    environment.setdefault("WINEDEBUG", "-all")
+    before = ["wine"] if platform == "windows" else ["mono"] if language == "csharp" else []
+    done = run([*before, program], env=environment)
+    return done.stdout if done.returncode == 0 else f"exit {done.returncode}: {done.stderr[-400:]}"
+
+
+def check_host(platform, language, source, expected):
+    package, command = COMMANDS[platform, language]
+    name = f"{platform}: {source.relative_to(ROOT)}"
+    if not shutil.which(command.split()[0]):
+        if package:
+            report(name, f"{command.split()[0]} is missing: apt-get install {package}")
+        else:
+            print(f"not run {name}: see tests/bindings/free_pascal_win32.sh")
+        return
+    out = OUT / platform / language
+    out.mkdir(parents=True, exist_ok=True)
+    lib = ROOT / "build" / platform / "lib"
+    if platform == "windows":
+        shutil.copy(ROOT / "build/windows/bin/Trelvin.dll", out)
+    program = out / f"{source.stem.lower()}.exe"
+    words = [word.format(source=source, program=program, out=out, lib=lib) for word in command.split()]
+    built = run(words)
+    if built.returncode != 0:
+        report(name, "does not build:\n" + (built.stdout + built.stderr)[-2000:])
+        return
+    table = table_of(platform, language, str(program), lib)
+    report(name, "" if table == expected else f"other output:\n{table}")
+
+
+def check_language(platform, language):
+    expected = (ROOT / "examples/girder.txt").read_text()
+    check_host(platform, language, ROOT / "examples" / language / EXAMPLES[language], expected)
+    if language in PROBES:
+        file, text = PROBES[language]
+        source = OUT / file
+        calls = text(ROUTINES)
+        if platform == "native":  # the functions of a native host are of the platform's convention
+            calls = re.sub(r".*ATTRIBUTES STDCALL.*\n", "", calls)
+        source.write_text(calls)
+        check_host(platform, language, source, "")
+
+
+DECLARATION = re.compile(r'^Public Declare (PtrSafe )?Sub (\w+) Lib "(.*?)" Alias "(.*?)" \((.*)\)$')
+BASIC_TYPES = {"r": "Single", "i": "Long", "rs": "Single", "is": "Long"}
+
+
+def basic_faults():
+    """The Basic module, read back: within what its editor takes, and the headers' arguments."""
+    text = (ROOT / "bindings/basic/Trelvin.bas").read_text()
+    if re.search(r"( _\n.*){25}", text) or max(map(len, text.splitlines())) > 1023:
+        yield "a line or its continuations are too long for the editor"
+    found = DECLARATION.findall
+    lines = re.sub(r" _\n\s*", " ", text).splitlines()
+    for safe, library, address in (("PtrSafe ", "Trelvin64.dll", "LongPtr"), ("", "Trelvin.dll", "Long")):
+        declared = {d[0][1]: d[0] for d in map(found, lines) if d and d[0][0] == safe}
+        if list(declared) != [routine.name for routine in ROUTINES]:
+            yield f"{library}: the routines are not those of the headers"
+        for name, (_, _, lib, alias, parameters) in declared.items():
+            routine = next(r for r in ROUTINES if r.name == name)
+            wanted = [f"ByVal {a.name} As {address}" if a.type == "TrvFunctionIn"
+                      else f"ByRef {a.name} As {BASIC_TYPES[probes.kind_of(a)]}"
+                      for a in routine.arguments]
+            if (lib, alias, re.sub(r"_(?= As)", "", parameters)) != (library, name, ", ".join(wanted)):
+                yield f"{library}: {name}: {parameters}"
+
+
+def main():
+    platforms = sys.argv[1:] or ["native", "windows"]
+    OUT.mkdir(parents=True, exist_ok=True)
+    os.chdir(OUT)  # one routine writes a trace file where it is
+    report("basic: every routine as its header has it", "; ".join(basic_faults()))
+    for platform in platforms:
+        if not list((ROOT / "build" / platform / "lib").glob("lib*")):
+            report(platform, f"build it first: cmake --preset {platform} && cmake --build --preset {platform}")
+            continue
+        if platform == "native":
+            library = ROOT / "build/native/lib/libtrelvin.so"
+            unwritten = written.unwritten(library, ROUTINES, bindings_facts.always_written)
+            report("outputs declared as written are written", "; ".join(unwritten))
+        for built_for, language in COMMANDS:
+            if built_for == platform:
+                check_language(platform, language)
+    print(f"{passed} passed, {failed} failed")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
