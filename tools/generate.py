@@ -8,9 +8,10 @@
 import re
 import sys
 
+import bindings
+import bindings_python
 import contracts
 import entries
-import bindings_python
 import headers
 
 
@@ -132,7 +133,8 @@ OUTPUTS = {
 def outdated(families, check):
     """Writes the files that are out of date; only tells of them when checking."""
     texts = {path: write(families) for path, write in OUTPUTS.items()}
-    for path, text in (texts | bindings_python.outputs(families)).items():
+    texts |= bindings.outputs(families) | bindings_python.outputs(families)
+    for path, text in texts.items():
         file = headers.ROOT / path
         if file.exists() and file.read_text() == text:
             continue
