@@ -86,12 +86,12 @@ NAMES = _read_names()
 
 
 def constants_of(routine):
-    """The status values of a routine by their names: as many as its contract lists one by one."""
+    """The status values of a routine by their names: all that its contract lists, or none."""
     found = []
     for argument in filter(contracts.names_values, routine.arguments):
         named = NAMES.get((routine.name, argument.name), [])
         listed = re.findall(r"(?:^|; )(-?\d+)(?= )(?! to )", argument.text)
-        if sorted(listed) != sorted(value for value, _ in named):
+        if named and sorted(listed) != sorted(value for value, _ in named):
             raise ValueError(f"{routine.name}: {argument.name}: {listed} in the contract, {named} named")
         found += [Constant(routine.name, name, int(value)) for value, name in named]
     return found
