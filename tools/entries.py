@@ -24,6 +24,11 @@ def ordinals(routines, committed):
     return result
 
 
+def in_order(routines):
+    """Every exported name and its ordinal, as an export table lists them."""
+    return sorted(ordinals(routines, committed_ordinals()).items(), key=lambda entry: entry[1])
+
+
 def export_faults(routines, committed):
     names = {name for routine in routines for name in (routine.name, routine.decorated)}
     for name in sorted(committed.keys() - names):

@@ -15,15 +15,26 @@ import entries
 import headers
 
 
+TABLE_HEAD = ["; Generated from include/trelvin by tools/generate.py."]
+
+
 def export_table(families):
     """Both names of each routine on one entry, by ordinal."""
     routines = headers.routines_of(families)
     symbols = {name: r.decorated[1:] for r in routines for name in (r.name, r.decorated)}
-    lines = ["; Generated from include/trelvin by tools/generate.py.", "LIBRARY Trelvin", "EXPORTS"]
-    ordinals = entries.ordinals(routines, entries.committed_ordinals())
-    for name, ordinal in sorted(ordinals.items(), key=lambda entry: entry[1]):
+    lines = TABLE_HEAD + ["LIBRARY Trelvin", "EXPORTS"]
+    for name, ordinal in entries.in_order(routines):
         quoted = f'"{name}"' if "@" in name else name
         lines.append(f"  {quoted} = {symbols.get(name, name.removeprefix('_'))} @{ordinal}")
+    return "\n".join(lines) + "\n"
+
+
+def export_table_64(families):
+    """The names that 64-bit Windows leaves plain, by the same ordinals."""
+    lines = TABLE_HEAD + ["LIBRARY Trelvin64", "EXPORTS"]
+    for name, ordinal in entries.in_order(headers.routines_of(families)):
+        if "@" not in name:
+            lines.append(f"  {name} @{ordinal}")
     return "\n".join(lines) + "\n"
 
 
@@ -125,6 +136,7 @@ def readme(_families):
 OUTPUTS = {
     "README.md": readme,
     "src/entries/Trelvin.def": export_table,
+    "src/entries/Trelvin64.def": export_table_64,
     "tests/routines.inc": routine_list,
     "docs/routines.md": index,
 }

@@ -1,6 +1,85 @@
 #include "hosts/foreign_call.h"
 
-#if defined(__x86_64__)
+#if defined(__x86_64__) && defined(_WIN32)
+asm(R"(
+  .text
+  .globl foreign_call
+foreign_call:
+  pushq %rbp
+  movq  %rsp, %rbp
+  pushq %rbx
+  pushq %rsi
+  pushq %rdi
+  pushq %r12
+  pushq %r13
+  pushq %r9
+  movq  %rcx, %rax
+  movq  %rdx, %r10
+  stmxcsr 20(%r9)
+  fnstcw  24(%r9)
+  subl  $4, %r8d              # arguments that go on the stack
+  xorl  %ecx, %ecx
+  testl %r8d, %r8d
+  cmovsl %ecx, %r8d
+  movl  %r8d, %ecx
+  andl  $1, %ecx
+  shll  $3, %ecx
+  subq  %rcx, %rsp            # aligned to 16 bytes at the call
+1:
+  testl %r8d, %r8d
+  jz    2f
+  pushq 24(%r10,%r8,8)
+  decl  %r8d
+  jmp   1b
+2:
+  subq  $32, %rsp             # room that belongs to the routine
+  movl  $0x5A5A0001, %ebx
+  movl  $0x5A5A0002, %esi
+  movl  $0x5A5A0003, %edi
+  movl  $0x5A5A0004, %r12d
+  movl  $0x5A5A0005, %r13d
+  ldmxcsr (%r9)
+  fnclex
+  fldcw 4(%r9)
+  movq  (%r10), %rcx
+  movq  8(%r10), %rdx
+  movq  16(%r10), %r8
+  movq  24(%r10), %r9
+  call  *%rax
+  movq  -48(%rbp), %rcx
+  stmxcsr (%rcx)
+  fnstcw 4(%rcx)
+  fnstsw 8(%rcx)
+  pushfq
+  popq  %rdx
+  movl  %edx, 12(%rcx)
+  cld
+  fnclex
+  fldcw 24(%rcx)
+  ldmxcsr 20(%rcx)
+  movl  $1, 16(%rcx)
+  cmpq  $0x5A5A0001, %rbx
+  jne   3f
+  cmpq  $0x5A5A0002, %rsi
+  jne   3f
+  cmpq  $0x5A5A0003, %rdi
+  jne   3f
+  cmpq  $0x5A5A0004, %r12
+  jne   3f
+  cmpq  $0x5A5A0005, %r13
+  jne   3f
+  movl  $0, 16(%rcx)
+3:
+  leaq  -40(%rbp), %rsp
+  popq  %r13
+  popq  %r12
+  popq  %rdi
+  popq  %rsi
+  popq  %rbx
+  popq  %rbp
+  ret
+)");
+#elif defined(__x86_64__)
 asm(R"(
   .text
   .globl foreign_call

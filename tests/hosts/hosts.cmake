@@ -3,6 +3,7 @@
 add_library(callers OBJECT hosts/random_calls.cpp hosts/sequence_of_routines.cpp)
 target_include_directories(callers PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(callers PUBLIC Trelvin::trelvin PRIVATE trelvin_warnings)
+target_compile_options(callers PRIVATE -ffp-contract=off)  # the same arguments everywhere
 
 function(add_host name)  # NAME SOURCE... ; links what is named in `libraries`
   add_executable(${name} ${ARGN})
@@ -30,7 +31,7 @@ endforeach()
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i.86)$")
   add_host(states hosts/states.cpp hosts/foreign_call.cpp)
   set(states 9fc0:037f 3f80:037f 5f80:037f 7f80:037f 0000:037f 003f:037f)
-  if(WIN32)
+  if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     list(APPEND states 1f80:007f 1f80:077f 1f80:0b7f 1f80:0f7f 1f80:1332 0000:1332)
   endif()
   foreach(state IN LISTS states)
@@ -41,7 +42,7 @@ endif()
 
 if(BUILD_SHARED_LIBS)
   set(libraries ${CMAKE_DL_LIBS})  # these know the library by name only
-  if(WIN32)
+  if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     add_host(dll_host hosts/dll_host.cpp)
     add_dependencies(dll_host trelvin)
     add_host_test(dll_host dll_host)
@@ -50,7 +51,7 @@ if(BUILD_SHARED_LIBS)
   target_include_directories(cycles PRIVATE ${PROJECT_SOURCE_DIR}/include)
   add_dependencies(cycles trelvin)
   if(WIN32)
-    add_host_test(cycles cycles Trelvin.dll)
+    add_host_test(cycles cycles $<TARGET_FILE_NAME:trelvin>)
   elseif(NOT CMAKE_CXX_FLAGS MATCHES sanitize)  # which keeps its own books of memory
     add_host_test(cycles cycles $<TARGET_FILE:trelvin>)
   endif()
