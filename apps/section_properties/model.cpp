@@ -1,38 +1,47 @@
-#include "section_model.h"
+#include "model.h"
 
 #include <trelvin/properties.h>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace host {
+namespace {
 
-Properties properties_of(const Section &section) {
+// Adds a part and its mirror images: what is odd in a coordinate that is mirrored cancels.
+void add(Part &part, Properties &p) {
   constexpr float no_value = 0;  // value and angle are for concentrated areas only
   constexpr float no_angle = 0;
-  Properties p{};
-  for (Part part : section.parts) {
-    float *const x = part.x.data();
-    float *const y = part.y.data();
-    float area = 0;
-    trvair(x, y, part.n, part.kind, no_value, part.factor, area);
-    p.area += area;
+  float *const x = part.x.data();
+  float *const y = part.y.data();
+  const double images = (part.left_right ? 2 : 1) * (part.top_bottom ? 2 : 1);
 
+  float area = 0;
+  trvair(x, y, part.n, part.kind, no_value, part.factor, area);
+  p.area += images * area;
+
+  if (!part.left_right || !part.top_bottom) {
     float sx = 0;
     float sy = 0;
     trvstm(x, y, part.n, part.kind, no_value, part.factor, sx, sy);
-    p.sx += sx;
-    p.sy += sy;
-
-    float ix = 0;
-    float iy = 0;
-    float ixy = 0;
-    trvinm(x, y, part.n, part.kind, no_value, no_angle, part.factor, ix, iy, ixy);
-    p.origin.x += ix;
-    p.origin.y += iy;
-    p.origin.xy += ixy + part.factor * part.own_product;
+    if (!part.top_bottom) p.sx += images * sx;
+    if (!part.left_right) p.sy += images * sy;
   }
+
+  float ix = 0;
+  float iy = 0;
+  float ixy = 0;
+  trvinm(x, y, part.n, part.kind, no_value, no_angle, part.factor, ix, iy, ixy);
+  p.origin.x += images * ix;
+  p.origin.y += images * iy;
+  if (images == 1) p.origin.xy += ixy + part.factor * part.own_product;
+}
+
+}  // namespace
+
+Properties properties_of(Section &section) {
+  Properties p{};
+  for (Part &part : section.parts) add(part, p);
 
   p.xs = p.sy / p.area;
   p.ys = p.sx / p.area;
@@ -60,9 +69,10 @@ Properties properties_of(const Section &section) {
 
 bool are_representable(const Properties &p) {
   using Single = std::numeric_limits<float>;
-  const auto figures = {p.area, p.centroidal.x, p.centroidal.y, p.i1, p.i2};
-  return std::all_of(figures.begin(), figures.end(),
-                     [](double value) { return value >= Single::min() && value <= Single::max(); });
+  for (const double value : {p.area, p.centroidal.x, p.centroidal.y, p.i1, p.i2}) {
+    if (!(value >= Single::min() && value <= Single::max())) return false;
+  }
+  return true;
 }
 
 }  // namespace host

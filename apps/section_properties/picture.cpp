@@ -1,9 +1,8 @@
-#include "section_picture.h"
+#include "picture.h"
 
 #include <algorithm>
-#include <limits>
 
-#include "section_figures.h"
+#include "numbers.h"
 
 namespace host {
 namespace {
@@ -26,24 +25,6 @@ constexpr const char *origin_colour = "#7a8794";
 constexpr const char *principal_colour = "#c0262d";
 constexpr const char *dimension_colour = "#2f6690";
 constexpr const char *dash_dot = "14 4 2 4";
-
-struct Box {
-  double left, right, bottom, top;
-};
-
-Box bounding_box(const std::vector<Ring> &outline) {
-  constexpr double infinity = std::numeric_limits<double>::infinity();
-  Box box{infinity, -infinity, infinity, -infinity};
-  for (const Ring &ring : outline) {
-    for (const Vertex &v : ring) {
-      box.left = std::min(box.left, v.x);
-      box.right = std::max(box.right, v.x);
-      box.bottom = std::min(box.bottom, v.y);
-      box.top = std::max(box.top, v.y);
-    }
-  }
-  return box;
-}
 
 // Places the section on the sheet, whose y runs downwards.
 class Scale {
@@ -91,11 +72,11 @@ std::string group(const std::string &attributes, const std::string &content) {
 
 // One path for solids and holes. Both run counter-clockwise, so only the even-odd rule tells them
 // apart.
-std::string steel_area(const std::vector<Ring> &outline, const Scale &at) {
+std::string steel_area(const Outline &outline, const Scale &at) {
   std::string path;
   for (const Ring &ring : outline) {
     char command = 'M';
-    for (const Vertex &v : ring) {
+    for (const Vertex &v : ring.vertices) {
       if (!path.empty()) path += ' ';
       if (v.arc > 0) {
         const std::string radius = px(at.length(v.arc));
@@ -216,9 +197,9 @@ std::string legend(const Properties &p) {
 
 }  // namespace
 
-std::string picture(const std::string &title, const std::string &subtitle, const Section &section,
+std::string picture(const std::string &title, const std::string &subtitle, const Outline &outline,
                     const Properties &p) {
-  const Box box = bounding_box(section.outline);
+  const Box box = bounding_box(outline);
   const Scale at(box);
   const std::string width = px(sheet_width);
   const std::string height = px(at.sheet_height());
@@ -234,7 +215,7 @@ std::string picture(const std::string &title, const std::string &subtitle, const
               left + attribute("font-size", "18") + attribute("font-weight", "bold")) +
          text(30, 60, subtitle,
               left + attribute("font-size", subtitle.size() > 100 ? "11" : "14")) +
-         steel_area(section.outline, at) + origin_axes(box, at) + principal_axes(box, at, p) +
+         steel_area(outline, at) + origin_axes(box, at) + principal_axes(box, at, p) +
          centroid_mark(at.x(p.xs), at.y(p.ys)) + dimensions(box, at) + legend(p) + "</svg>\n";
 }
 

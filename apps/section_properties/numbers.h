@@ -1,7 +1,9 @@
-// Numbers as text: the same characters on every system and in every locale, never a negative zero.
+// Numbers as text, and text as numbers: the same characters on every system and in every locale,
+// never a negative zero.
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace host {
 
@@ -16,5 +18,10 @@ std::string shortest(float value);
 
 // Decimals, negative for a large number, that leave one of this size so many significant digits.
 int decimals_for(double size, int digits);
+
+enum class NumberFault { none, no_number, beyond_single };
+
+// The whole word as a finite number, with a decimal point or a decimal comma.
+NumberFault read_number(std::string_view word, float &value);
 
 }  // namespace host

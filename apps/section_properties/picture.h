@@ -3,13 +3,13 @@
 
 #include <string>
 
-#include "section_model.h"
+#include "outline.h"
 
 namespace host {
 
 // The outline to scale with its overall dimensions, the axes of the origin, the principal axes and
 // a legend of the main figures. Title and subtitle head it.
-std::string picture(const std::string &title, const std::string &subtitle, const Section &section,
+std::string picture(const std::string &title, const std::string &subtitle, const Outline &outline,
                     const Properties &p);
 
 }  // namespace host

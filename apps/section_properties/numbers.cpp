@@ -1,7 +1,8 @@
-#include "section_figures.h"
+#include "numbers.h"
 
 #include <charconv>
 #include <cmath>
+#include <system_error>
 
 namespace host {
 namespace {
@@ -51,6 +52,19 @@ int decimals_for(double size, int digits) {
     ++decimals;
   }
   return decimals;
+}
+
+NumberFault read_number(std::string_view word, float &value) {
+  const char *const end = word.data() + word.size();
+  const auto [rest, error] = std::from_chars(word.data(), end, value);
+  if (rest != end && *rest == ',' && word.find('.') == std::string_view::npos) {
+    std::string with_point(word);
+    with_point[static_cast<std::size_t>(rest - word.data())] = '.';
+    return read_number(with_point, value);
+  }
+  if (error == std::errc::result_out_of_range) return NumberFault::beyond_single;
+  const bool is_number = error == std::errc() && rest == end && std::isfinite(value);
+  return is_number ? NumberFault::none : NumberFault::no_number;
 }
 
 }  // namespace host

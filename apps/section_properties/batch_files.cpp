@@ -1,0 +1,115 @@
+#include "batch_files.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "workers.h"
+
+namespace host {
+namespace {
+
+constexpr std::size_t block_of_a_job = std::size_t{1} << 20;
+
+// Whole lines, block after block.
+class Lines {
+ public:
+  explicit Lines(std::FILE *file, std::size_t block) : file_(file), block_(block) {}
+
+  // The next lines, empty after the last one.
+  std::string_view next() {
+    buffer_.erase(0, taken_);
+    std::size_t end = 0;
+    do {
+      const std::size_t rest = buffer_.size();
+      buffer_.resize(rest + block_);
+      buffer_.resize(rest + std::fread(&buffer_[rest], 1, block_, file_));
+      is_at_end_ = buffer_.size() < rest + block_;
+      end = buffer_.rfind('\n');
+    } while (end == std::string::npos && !is_at_end_);
+    taken_ = is_at_end_ ? buffer_.size() : end + 1;
+    read_ += taken_;
+    return std::string_view(buffer_).substr(0, taken_);
+  }
+
+  [[nodiscard]] std::size_t read() const { return read_; }
+
+ private:
+  std::FILE *file_;
+  std::size_t block_;
+  std::string buffer_;
+  std::size_t taken_ = 0;  // of the buffer, by the lines last handed out
+  std::size_t read_ = 0;
+  bool is_at_end_ = false;
+};
+
+// A share of a block, and what became of it.
+struct Share {
+  std::string_view text;
+  std::size_t first_line;
+  std::string csv;
+  Tally tally;
+};
+
+// About equal shares, each of whole lines. Returns the number of the line behind the block.
+std::size_t divide(std::string_view text, std::size_t first_line, std::vector<Share> &shares) {
+  for (std::size_t i = 0; i < shares.size(); ++i) {
+    const std::size_t aim = text.size() / (shares.size() - i);
+    const std::size_t end = i + 1 == shares.size() ? std::string_view::npos : text.find('\n', aim);
+    const std::size_t length = end == std::string_view::npos ? text.size() : end + 1;
+    shares[i].text = text.substr(0, length);
+    shares[i].first_line = first_line;
+    shares[i].csv.clear();
+    first_line +=
+        static_cast<std::size_t>(std::count(shares[i].text.begin(), shares[i].text.end(), '\n'));
+    text.remove_prefix(length);
+  }
+  return first_line;
+}
+
+void show_progress(const BatchRun &run, std::size_t read, const Tally &tally) {
+  constexpr std::size_t width = 30;
+  std::string bar;
+  if (run.size > 0) {
+    const std::size_t done = std::min(read, run.size);
+    bar.assign(width * done / run.size, '#');
+    bar.resize(width, '.');
+    bar = '[' + bar + "] " + std::to_string(100 * done / run.size) + " %  ";
+  }
+  std::fprintf(stderr, "\r%s%zu sections", bar.c_str(), tally.sections);
+  std::fflush(stderr);
+}
+
+bool write(std::FILE *file, const std::string &text) {
+  return std::fwrite(text.data(), 1, text.size(), file) == text.size();
+}
+
+}  // namespace
+
+BatchResult run_batch(std::FILE *input, std::FILE *output, const BatchRun &run) {
+  BatchResult result;
+  Lines lines(input, block_of_a_job * run.jobs);
+  std::vector<Share> shares(run.jobs);
+  std::size_t line = 1;
+  result.is_written = write(output, batch_header(run.extent));
+  for (std::string_view block = lines.next(); !block.empty() && result.is_written;
+       block = lines.next()) {
+    line = divide(block, line, shares);
+    run_all(shares.size(), [&](std::size_t i) {
+      Share &share = shares[i];
+      share.tally = add_batch(share.text, share.first_line, run.extent, share.csv);
+    });
+    for (const Share &share : shares) {
+      result.tally.sections += share.tally.sections;
+      result.tally.refused += share.tally.refused;
+      result.is_written = result.is_written && write(output, share.csv);
+    }
+    if (run.has_progress) show_progress(run, lines.read(), result.tally);
+  }
+  if (run.has_progress) std::fputc('\n', stderr);
+  result.is_read = std::ferror(input) == 0;
+  result.is_written = std::fflush(output) == 0 && result.is_written;
+  return result;
+}
+
+}  // namespace host

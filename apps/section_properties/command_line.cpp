@@ -1,0 +1,108 @@
+#include "command_line.h"
+
+#include <trelvin/calling.h>
+
+#include <charconv>
+
+namespace host {
+namespace {
+
+constexpr std::size_t most_jobs = 256;
+
+bool is_option(const std::string &word) {
+  const auto is_letter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+  return word.size() >= 2 && word[0] == '-' && (word[1] == '-' || is_letter(word[1]));
+}
+
+bool read_jobs(const std::string &word, std::size_t &jobs) {
+  const char *const end = word.data() + word.size();
+  const auto [rest, error] = std::from_chars(word.data(), end, jobs);
+  return error == std::errc() && rest == end && jobs >= 1 && jobs <= most_jobs;
+}
+
+bool *flag(Request &request, const std::string &word) {
+  if (word == "--json") return &request.json;
+  if (word == "--all") return &request.all;
+  if (word == "--help" || word == "-h") return &request.help;
+  if (word == "--version") return &request.version;
+  return nullptr;
+}
+
+}  // namespace
+
+Refusal read_command_line(const std::vector<std::string> &words, Request &request) {
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const std::string &word = words[i];
+    const bool has_value =
+        i + 1 < words.size() && !words[i + 1].empty() && !is_option(words[i + 1]);
+    if (bool *const asked = flag(request, word)) {
+      *asked = true;
+    } else if (word == "--svg") {
+      if (!has_value) return {"--svg needs the name of a file"};
+      request.svg = words[++i];
+    } else if (word == "--jobs") {
+      if (!has_value || !read_jobs(words[++i], request.jobs)) {
+        return {"--jobs needs a number from 1 to " + std::to_string(most_jobs)};
+      }
+    } else if (is_option(word)) {
+      return {"unknown option '" + word + "'", Refusal::Help::of_all};
+    } else {
+      request.words.push_back(word);
+    }
+  }
+  return {};
+}
+
+std::string usage() {
+  std::string text =
+      "usage: section_properties PROFILE DIMENSION... [--json] [--svg FILE]\n"
+      "       section_properties batch FILE [--all] [--jobs N]\n"
+      "\n"
+      "Prints area, centroid, moments, moduli and torsion of a section. Dimensions are in mm, "
+      "with\n"
+      "a decimal point or a decimal comma.\n"
+      "\n"
+      "  --json           print the figures as JSON, in mm and radians\n"
+      "  --svg FILE       draw the section into FILE\n"
+      "  PROFILE --help   print the profile's dimensions and its picture in letters\n"
+      "  -h, --help       print this text\n"
+      "  --version        print the version\n"
+      "\n"
+      "batch reads a profile and its dimensions a line, from standard input for -, and prints\n"
+      "their figures as CSV. A line that is no section has its error in the last column.\n"
+      "\n"
+      "  --all            the moduli and the figures of torsion too\n"
+      "  --jobs N         work with N threads\n"
+      "\n"
+      "Exit status: 0 done; 1 output could not be written; 2 bad input, in a batch of any line.\n"
+      "\n"
+      "Profiles and their dimensions:\n";
+  for (const Profile &profile : profiles()) {
+    std::string call = usage_of(profile);
+    if (call.size() >= 28) {
+      text += "  " + call + '\n';
+      call.clear();
+    }
+    call.resize(28, ' ');
+    text += "  " + call + std::string(profile.description) + '\n';
+  }
+  text += "  plates FILE                 thin plates, a line each: x1 y1 x2 y2 t\n";
+  return text;
+}
+
+std::string usage_of(const std::string &name) {
+  const Profile *const profile = find_profile(name);
+  if (profile == nullptr) return usage();
+  std::string text = "usage: section_properties " + usage_of(*profile) + "\n\n";
+  text.append(profile->description).append(", dimensions in mm\n").append(profile->letters);
+  for (std::size_t i = 0; i < profile->may_be_zero.size(); ++i) {
+    text.append(i == 0 ? "\nMay be 0: " : ", ").append(profile->may_be_zero[i]);
+  }
+  return text + (profile->may_be_zero.empty() ? "" : ".\n");
+}
+
+std::string version() {
+  return "section_properties " TRELVIN_VERSION ", with Trelvin " TRELVIN_VERSION "\n";
+}
+
+}  // namespace host

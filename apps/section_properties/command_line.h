@@ -1,0 +1,31 @@
+// What the user asks for, and what helps.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "profiles.h"
+
+namespace host {
+
+struct Request {
+  std::vector<std::string> words;  // profile and dimensions, or a command and its file
+  std::string svg;                 // empty for none
+  std::size_t jobs = 1;
+  bool json = false;
+  bool all = false;
+  bool help = false;
+  bool version = false;
+};
+
+// Reads what stands behind the program's name.
+Refusal read_command_line(const std::vector<std::string> &words, Request &request);
+
+std::string usage();
+
+// Of the profile in any case, or of all where there is none of that name.
+std::string usage_of(const std::string &name);
+
+std::string version();
+
+}  // namespace host

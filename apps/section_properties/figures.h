@@ -1,0 +1,59 @@
+// All figures of a section that this program gives.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "plastic.h"
+
+namespace host {
+
+struct Point {
+  double x, y;
+};
+
+// What the theory of the section gives; the rest is left out.
+struct Torsion {
+  std::optional<double> it, iw;  // torsion and warping constant
+  std::optional<Point> shear_centre;
+  std::string note;  // for people: where the figures come from
+};
+
+// From the centroid to the outermost points, or the elastic moduli there.
+struct Fibres {
+  double top, bottom, right, left;
+};
+
+struct Figures {
+  Properties properties;
+  Fibres fibres;
+  Fibres elastic;
+  Plastic plastic;
+  Torsion torsion;
+  std::string_view origin;  // where it is
+};
+
+// Fibres, moduli and plastic figures of the outline, beside the properties.
+Figures figures_of(const Properties &properties, const Outline &outline);
+
+// The figures by name, in the order in which programs get them: about the origin, about the
+// centroid, and of the principal axes.
+constexpr std::array<std::string_view, 16> names_of_properties = {
+    "area", "xs", "ys",  "Sx", "Sy", "Ix",    "Iy", "Ixy",
+    "Ix",   "Iy", "Ixy", "I1", "I2", "alpha", "rx", "ry"};
+constexpr std::size_t first_of_centroid = 8;
+constexpr std::size_t first_of_axes = 11;
+constexpr std::array<std::string_view, 17> names_of_further_figures = {
+    "Ip",  "ey1", "ey2", "ex1", "ex2", "Wx1", "Wx2", "Wy1", "Wy2",
+    "Wpx", "Wpy", "xp",  "yp",  "xm",  "ym",  "It",  "Iw"};
+
+std::array<double, names_of_properties.size()> values_of(const Properties &p);
+std::array<std::optional<double>, names_of_further_figures.size()> further_values_of(
+    const Figures &f);
+
+// What cannot be given for the section, by name: "torsion constant, shear centre".
+std::string not_given(const Torsion &torsion, std::string_view separator);
+
+}  // namespace host

@@ -1,0 +1,141 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "numbers.h"
+#include "profiles.h"
+
+namespace host {
+namespace {
+
+char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+bool is_same_name(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return lower(x) == lower(y); });
+}
+
+// Characters to put in, take out or exchange (Levenshtein).
+std::size_t distance(std::string_view a, std::string_view b) {
+  std::vector<std::size_t> row(b.size() + 1);
+  for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
+  for (std::size_t i = 1; i <= a.size(); ++i) {
+    std::size_t diagonal = row[0];
+    row[0] = i;
+    for (std::size_t j = 1; j <= b.size(); ++j) {
+      const std::size_t exchanged = diagonal + (lower(a[i - 1]) == lower(b[j - 1]) ? 0 : 1);
+      diagonal = row[j];
+      row[j] = std::min({exchanged, row[j] + 1, row[j - 1] + 1});
+    }
+  }
+  return row[b.size()];
+}
+
+bool has_word(std::string_view text, std::string_view word) {
+  for (std::size_t at = text.find(word); at != std::string_view::npos;
+       at = text.find(word, at + 1)) {
+    const bool starts = at == 0 || text[at - 1] == ' ' || text[at - 1] == '-';
+    const std::size_t end = at + word.size();
+    if (starts && (end == text.size() || text[end] == ' ' || text[end] == ',')) return true;
+  }
+  return false;
+}
+
+std::string refusal_of_dimension(std::string_view name, std::string_view word, const char *fault) {
+  return std::string(name) + " = " + std::string(word) + fault;
+}
+
+// What is wrong with a dimension, nothing where it was read.
+std::string read_dimension(const Profile &profile, std::size_t i, std::string_view word,
+                           float &value) {
+  const std::string_view name = profile.dimensions[i];
+  const NumberFault fault = read_number(word, value);
+  if (fault == NumberFault::beyond_single) {
+    return refusal_of_dimension(name, word, " is beyond single precision");
+  }
+  if (fault == NumberFault::none && value > 0) return "";
+  const auto &zero = profile.may_be_zero;
+  if (fault == NumberFault::none && value == 0 &&
+      std::find(zero.begin(), zero.end(), name) != zero.end()) {
+    return "";
+  }
+  return refusal_of_dimension(name, '\'' + std::string(word) + '\'',
+                              " is not a positive number of mm");
+}
+
+}  // namespace
+
+std::string usage_of(const Profile &profile) {
+  std::string text(profile.name);
+  for (const std::string_view dimension : profile.dimensions) text.append(" ").append(dimension);
+  return text;
+}
+
+const Profile *find_profile(std::string_view name) {
+  for (const Profile &profile : profiles()) {
+    if (is_same_name(profile.name, name)) return &profile;
+  }
+  return nullptr;
+}
+
+std::string near_matches(std::string_view word) {
+  std::vector<std::string_view> names;
+  const std::size_t reach = word.size() < 6 ? 1 : 2;
+  std::string lowered(word);
+  std::transform(word.begin(), word.end(), lowered.begin(), lower);
+  for (const Profile &profile : profiles()) {
+    const bool is_near = word.size() > 1 && distance(word, profile.name) <= reach;
+    if (is_near || (word.size() > 2 && has_word(profile.description, lowered))) {
+      names.push_back(profile.name);
+    }
+  }
+  for (const std::string_view name : {"plates", "batch"}) {
+    if (word.size() > 1 && word != name && distance(word, name) <= reach) names.push_back(name);
+  }
+  std::string text;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const char *const before = i == 0 ? ", did you mean " : i + 1 < names.size() ? ", " : " or ";
+    text.append(before).append("'").append(names[i]).append("'");
+  }
+  return text.empty() ? text : text + '?';
+}
+
+Refusal read_given(const std::string_view *words, std::size_t count, Given &given) {
+  if (count == 0) return {"no profile given", Refusal::Help::of_all};
+  given.profile = find_profile(words[0]);
+  if (given.profile == nullptr) {
+    const std::string near = near_matches(words[0]);
+    return {"unknown profile '" + std::string(words[0]) + '\'' + near,
+            near.empty() ? Refusal::Help::of_all : Refusal::Help::none};
+  }
+  const Profile &profile = *given.profile;
+  const std::size_t needed = profile.dimensions.size();
+  if (count - 1 != needed) {
+    return {std::string(profile.name) + " takes " + std::to_string(needed) + " dimensions, not " +
+                std::to_string(count - 1),
+            Refusal::Help::of_profile};
+  }
+  for (std::size_t i = 0; i < needed; ++i) {
+    std::string fault = read_dimension(profile, i, words[i + 1], given.dimensions[i]);
+    if (!fault.empty()) return {std::move(fault)};
+  }
+  const char *const fault =
+      profile.fault == nullptr ? nullptr : profile.fault(given.dimensions.data());
+  if (fault != nullptr) return {std::string(profile.name) + ": " + fault};
+  return {};
+}
+
+Refusal properties_of(const Given &given, Section &section, Properties &properties) {
+  section = given.profile->section(given.dimensions.data());
+  properties = properties_of(section);
+  if (are_representable(properties)) return {};
+  return {"the section is too large or too small for single precision"};
+}
+
+Figures figures_of(const Given &given, const Properties &properties, const Outline &outline) {
+  Figures figures = figures_of(properties, outline);
+  figures.torsion = given.profile->torsion(given.dimensions.data());
+  return figures;
+}
+
+}  // namespace host

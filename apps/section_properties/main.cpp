@@ -1,0 +1,222 @@
+// Properties of steel sections, from the command line.
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "batch_files.h"
+#include "command_line.h"
+#include "numbers.h"
+#include "picture.h"
+#include "profiles.h"
+#include "report.h"
+#include "thin_plates.h"
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace {
+
+using namespace host;
+namespace fs = std::filesystem;
+
+constexpr int bad_output = 1;
+constexpr int bad_input = 2;
+
+int failure(int status, const std::string &message, const std::string &help = "") {
+  const std::string text = "section_properties: " + message + '\n' + help;
+  std::fwrite(text.data(), 1, text.size(), stderr);
+  return status;
+}
+
+int refuse(const Refusal &refusal, const std::string &name = "") {
+  switch (refusal.help) {
+    case Refusal::Help::of_all:
+      return failure(bad_input, refusal.message, usage());
+    case Refusal::Help::of_profile:
+      return failure(bad_input, refusal.message,
+                     "usage: section_properties " + usage_of(*find_profile(name)) + '\n');
+    case Refusal::Help::none:
+      break;
+  }
+  return failure(bad_input, refusal.message);
+}
+
+// Streams and files ------------------------------------------------------------------------------
+
+void keep_bytes(std::FILE *file) {
+#ifdef _WIN32
+  _setmode(_fileno(file), _O_BINARY);
+#else
+  static_cast<void>(file);
+#endif
+}
+
+bool is_terminal(std::FILE *file) {
+#ifdef _WIN32
+  return _isatty(_fileno(file)) != 0;
+#else
+  return isatty(fileno(file)) != 0;
+#endif
+}
+
+std::FILE *open_to_read(const std::string &name) {
+#ifdef _WIN32
+  return _wfopen(fs::u8path(name).c_str(), L"rb");
+#else
+  return std::fopen(name.c_str(), "rb");
+#endif
+}
+
+// Under another name first, so that a failure leaves neither half a file nor a lost one.
+bool write_file(const std::string &name, const std::string &content) {
+  try {
+    const fs::path file = fs::u8path(name);
+    if (fs::exists(file) && !fs::is_regular_file(file)) return false;
+    const fs::path unfinished = fs::path(file) += ".part";
+    std::ofstream stream(unfinished, std::ios::binary);
+    if (!stream) return false;
+    stream << content;
+    stream.close();
+    std::error_code error;
+    if (stream) fs::rename(unfinished, file, error);
+    if (stream && !error) return true;
+    fs::remove(unfinished, error);
+  } catch (const fs::filesystem_error &) {  // a name the system cannot take
+  }
+  return false;
+}
+
+int cannot_print() { return failure(bad_output, "cannot write to standard output"); }
+
+int print(const std::string &text) {
+  keep_bytes(stdout);
+  const bool is_written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+  return std::fflush(stdout) == 0 && is_written ? 0 : cannot_print();
+}
+
+// Commands ---------------------------------------------------------------------------------------
+
+// A section to report on, and how to head the report.
+struct Task {
+  std::string name;
+  std::string description;
+  std::string dimensions;
+  Figures figures;
+  Outline outline;
+};
+
+int report(const Request &request, const Task &task) {
+  if (!request.svg.empty() &&
+      !write_file(request.svg, picture(task.name + ": " + task.description, task.dimensions,
+                                       task.outline, task.figures.properties))) {
+    return failure(bad_output, "cannot write '" + request.svg + "'");
+  }
+  return print(request.json ? json(task.figures)
+                            : table(task.name + "  " + task.dimensions, task.figures));
+}
+
+std::string dimensions_text(const Given &given) {
+  std::string text;
+  const auto &names = given.profile->dimensions;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (i > 0) text += ", ";
+    text += std::string(names[i]) + " = " + shortest(given.dimensions[i]);
+  }
+  return text + " mm";
+}
+
+int run_profile(const Request &request) {
+  const std::vector<std::string_view> words(request.words.begin(), request.words.end());
+  Given given;
+  Section section;
+  Properties properties;
+  Refusal refusal = read_given(words.data(), words.size(), given);
+  if (refusal.message.empty()) refusal = properties_of(given, section, properties);
+  if (!refusal.message.empty()) return refuse(refusal, words.empty() ? "" : request.words[0]);
+  const Outline outline = outline_of(section);
+  return report(request, {std::string(given.profile->name), std::string(given.profile->description),
+                          dimensions_text(given), figures_of(given, properties, outline), outline});
+}
+
+int run_plates(const Request &request) {
+  if (request.words.size() != 2) {
+    return failure(bad_input, "plates takes a file", "usage: section_properties plates FILE\n");
+  }
+  const std::string &name = request.words[1];
+  std::ifstream stream(fs::u8path(name), std::ios::binary);
+  const std::string text{std::istreambuf_iterator<char>(stream), {}};
+  if (!stream) return failure(bad_input, "cannot read '" + name + "'");
+  std::vector<Plate> plates;
+  Figures figures{};
+  std::string fault = read_plates(name, text, plates);
+  if (fault.empty()) fault = figures_of(plates, figures);
+  if (!fault.empty()) return failure(bad_input, fault);
+  if (!are_representable(figures.properties)) {
+    return failure(bad_input, "the section is too large or too small for single precision");
+  }
+  return report(request, {"plates", "section of thin plates",
+                          std::to_string(plates.size()) + " plates", figures, outline_of(plates)});
+}
+
+int run_batch_of(const Request &request) {
+  if (request.words.size() != 2 || request.json || !request.svg.empty()) {
+    return failure(bad_input, "batch takes a file, or - for standard input",
+                   "usage: section_properties batch FILE [--all] [--jobs N]\n");
+  }
+  const std::string &name = request.words[1];
+  BatchRun run;
+  run.extent = request.all ? Extent::all : Extent::properties;
+  run.jobs = request.jobs;
+  run.has_progress = is_terminal(stderr) && !is_terminal(stdout);
+  std::FILE *const file = name == "-" ? stdin : open_to_read(name);
+  if (file == nullptr) return failure(bad_input, "cannot read '" + name + "'");
+  std::error_code error;
+  if (file != stdin) run.size = static_cast<std::size_t>(fs::file_size(fs::u8path(name), error));
+  if (error) run.size = 0;
+  keep_bytes(stdin);
+  keep_bytes(stdout);
+  const BatchResult result = run_batch(file, stdout, run);
+  if (file != stdin) std::fclose(file);
+  if (!result.is_written) return cannot_print();
+  if (!result.is_read) return failure(bad_input, "cannot read '" + name + "'");
+  if (result.tally.refused == 0) return 0;
+  return failure(bad_input, std::to_string(result.tally.refused) + " of " +
+                                std::to_string(result.tally.sections) + " lines are no sections");
+}
+
+int run(const std::vector<std::string> &arguments) {
+  Request request;
+  const Refusal refusal = read_command_line(arguments, request);
+  if (!refusal.message.empty()) return refuse(refusal);
+  const std::string name = request.words.empty() ? "" : request.words[0];
+  if (request.version) return print(version());
+  if (request.help) return print(usage_of(name));
+  if (name == "plates") return run_plates(request);
+  if (name == "batch") return run_batch_of(request);
+  return run_profile(request);
+}
+
+template <class Character>
+int run_program(int argc, Character **argv) {
+  std::vector<std::string> arguments;
+  for (int i = 1; i < argc; ++i) arguments.push_back(fs::path(argv[i]).u8string());
+  return run(arguments);
+}
+
+}  // namespace
+
+#ifdef _WIN32
+extern "C" int wmain(int argc, wchar_t **argv) {  // narrow arguments cannot hold every file name
+  return run_program(argc, argv);
+}
+#else
+int main(int argc, char **argv) { return run_program(argc, argv); }
+#endif
