@@ -94,6 +94,8 @@ BatchResult run_batch(std::FILE *input, std::FILE *output, const BatchRun &run) 
   result.is_written = write(output, batch_header(run.extent));
   for (std::string_view block = lines.next(); !block.empty() && result.is_written;
        block = lines.next()) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";  // which spreadsheets put before UTF-8
+    if (line == 1 && block.substr(0, mark.size()) == mark) block.remove_prefix(mark.size());
     line = divide(block, line, shares);
     run_all(shares.size(), [&](std::size_t i) {
       Share &share = shares[i];

@@ -199,8 +199,9 @@ int run(const std::vector<std::string> &arguments) {
   const std::string name = request.words.empty() ? "" : request.words[0];
   if (request.version) return print(version());
   if (request.help) return print(usage_of(name));
-  if (name == "plates") return run_plates(request);
   if (name == "batch") return run_batch_of(request);
+  if (request.all || request.jobs > 1) return failure(bad_input, "--all and --jobs go with batch");
+  if (name == "plates") return run_plates(request);
   return run_profile(request);
 }
 

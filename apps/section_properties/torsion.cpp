@@ -59,7 +59,8 @@ struct Wall {
   double length, t;
 };
 
-// Shear flow around one cell, 4*Am^2/sum(l/t), and l*t^3/3 of every wall and of the plates outside.
+// Shear flow around one cell, 4*Am^2/sum(l/t), and l*t^3/3 of its walls, by their centre lines, and
+// of what else there is, clear of the walls.
 Torsion closed_torsion(double width, double height, std::initializer_list<Wall> walls,
                        std::initializer_list<Wall> others) {
   double flexibility = 0;
@@ -160,7 +161,8 @@ Torsion torsion_of_box(const float *d) {
   const double BT = d[0], BB = d[1], TT = d[2], TB = d[3], H = d[4], TW = d[5], G = d[6];
   const double b = G + TW;
   const double h = H - (TT + TB) / 2;
-  return closed_torsion(b, h, {{b, TT}, {b, TB}, {h, TW}, {h, TW}}, {{BT - b, TT}, {BB - b, TB}});
+  return closed_torsion(b, h, {{b, TT}, {b, TB}, {h, TW}, {h, TW}},
+                        {{BT - G - 2 * TW, TT}, {BB - G - 2 * TW, TB}});
 }
 
 Torsion torsion_of_h1b(const float *d) {
@@ -168,16 +170,14 @@ Torsion torsion_of_h1b(const float *d) {
   const double b = D - (T1 + T2) / 2;
   const double h = (P + TP) / 2;
   return closed_torsion(b, h, {{b, TP}, {b, TW}, {h, T1}, {h, T2}},
-                        {{W - b, TP}, {P / 2, T1}, {P / 2, T2}});
+                        {{W - D, TP}, {(P - TW) / 2, T1}, {(P - TW) / 2, T2}});
 }
 
 Torsion torsion_of_tab(const float *d) {
   const double B = d[0], H = d[1], BW = d[2], E = d[3], T = d[4], TW = d[5], TB = d[6];
   const double b = BW - TW;
-  const double lower = E + TB / 2;
-  const double h = H + T / 2 - lower;
-  return closed_torsion(b, h, {{b, T}, {b, TB}, {h, TW}, {h, TW}},
-                        {{B - b, T}, {lower, TW}, {lower, TW}});
+  const double h = H + T / 2 - E - TB / 2;
+  return closed_torsion(b, h, {{b, T}, {b, TB}, {h, TW}, {h, TW}}, {{B - BW, T}, {E, TW}, {E, TW}});
 }
 
 // The two cells mirror each other, so that the middle plate between them carries no shear flow.
@@ -186,7 +186,7 @@ Torsion torsion_of_h2b(const float *d) {
   const double b = W - (TW1 + TW2) / 2;
   const double h = HI + TF;
   return closed_torsion(b, h, {{b, TF}, {b, TF}, {h, TW1}, {h, TW2}},
-                        {{B - b, TF}, {B - b, TF}, {b, TM}});
+                        {{B - W, TF}, {B - W, TF}, {b, TM}});
 }
 
 Torsion torsion_of_two_angles(const float * /*d*/) {
