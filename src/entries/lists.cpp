@@ -45,11 +45,11 @@ TRELVIN_ROUTINE trvpor(TrvIntIn n, TrvArrayIn A, TrvArrayIn B, TrvArrayIn C, Trv
 
 TRELVIN_ROUTINE trvorv(TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z, TrvIntArrayOut ORD) {
   const Door door;
-  const SpaceArrays points = {X, Y, Z};
-  const Quadrilateral q = {{points[0], points[1], points[2], points[3]}};
+  Quadrilateral q;
+  for (Integer k = 0; k < 4; ++k) q.corners[k] = {X[k], Y[k], Z[k]};
   const Integer *order = cyclic_order(q);
   for (Integer k = 0; k < 4; ++k) {
-    points.set(k, q.corners[order[k] - 1]);
+    write(q.corners[order[k] - 1], X[k], Y[k], Z[k]);
     ORD[k] = order[k];
   }
 }
@@ -150,10 +150,11 @@ TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
                         TrvIntArrayOut PK, TrvIntOut nz, TrvArrayOut ZL) {
   const Door door;
   const PointList lists[] = {{XA, YA, ZA, na}, {XB, YB, ZB, nb}, {XC, YC, ZC, nc}};
-  const MergedPoints merged = {{IAB, IBC, ICA}, {JAB, JBC, JCA}, {XO, YO, ZO}, {MA, MB, MC}};
+  const Integer *const place_of[] = {MA, MB, MC};
   const Real limit = tol;
   const Integer chosen = k;
-  const MergedCounts counts = merge_points(lists, limit, merged);
+  const MergedCounts counts = merge_points(
+      lists, limit, {{IAB, IBC, ICA}, {JAB, JBC, JCA}, SpaceArrays{XO, YO, ZO}, {MA, MB, MC}});
   std::copy_n(ZO, counts.places, ZL);
 
   Integer points = 0;
@@ -161,7 +162,7 @@ TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
   for (int list = 0; list < 3; ++list) {
     for (Integer i = 0; i < lists[list].n; ++i) {
       ++points;
-      if (merged.place_of[list][i] == chosen) PK[at_chosen++] = points;
+      if (place_of[list][i] == chosen) PK[at_chosen++] = points;
     }
   }
   nab = counts.pairs[0];

@@ -34,17 +34,16 @@ class Candidates {
   }
 
   // Visits them cell by cell, in each by position. Where `visit` returns false, the cell's others are
-  // left out. Returns the number of cells.
+  // left out.
   template <class Visit>
-  int visit(Point3 p, Visit visit) const {
+  void visit(Point3 p, Visit visit) const {
     if (!built_) {
       for (Integer i = 0; i < n_ && visit(GridEntry{at_(i), i});) ++i;
-      return 1;
+      return;
     }
     std::uint32_t cells[8];
     const int count = grid_.cells_around(p, cells);
     for (int k = 0; k < count; ++k) visit_cell(cells[k], visit);
-    return count;
   }
 
   // Points are few to a cell, so that all visits of all points are worth it in advance.
@@ -54,9 +53,10 @@ class Candidates {
   // for it, in the order of the cells, where memory is used in its order too.
   template <class Look>
   void look_around(Look look) const {
+    const GridEntry *entries = entries_.get();
     for (std::uint32_t cell = 0; cell < cells_; ++cell) {
       for (Integer i = starts_[cell]; i < starts_[cell + 1]; ++i) {
-        const GridEntry &entry = entries_[i];
+        const GridEntry &entry = entries[i];
         look(entry.position(), entry.point, visit_from(entry.point, cell, entry.one_cell()));
       }
     }
@@ -96,9 +96,9 @@ class Candidates {
   [[nodiscard]] auto visit_from(Point3 p, std::uint32_t cell, bool one_cell) const {
     return [this, p, cell, one_cell](auto visit_one) {
       if (one_cell) {
-        visit_cell(cell, visit_one);
+        this->visit_cell(cell, visit_one);
       } else {
-        visit(p, visit_one);
+        this->visit(p, visit_one);
       }
     };
   }
@@ -144,13 +144,15 @@ bool Candidates<PointAt>::build(Real tol) {
   if (bits < 20) bits = std::min(bits + 1, 18);  // two digits of a sort
   cells_ = std::uint32_t{1} << bits;
   const auto size = static_cast<std::uint64_t>(n_);
-  // The entries follow each other through the room of the words that they are made of.
-  static_assert(sizeof(GridEntry) == 2 * sizeof(Placed));
-  entries_ = work_array<GridEntry>(size);
+  auto entries = work_array<GridEntry>(size);
   starts_ = work_array<Integer>(std::uint64_t{cells_} + 1);
-  if (!entries_ || !starts_) return false;
+  if (!entries || !starts_) return false;
 
-  auto *const words = reinterpret_cast<Placed *>(entries_.get());
+  // Each entry is made of a word, and the entries follow the words through the same memory: the last
+  // word that an entry takes the room of is its own.
+  static_assert(sizeof(GridEntry) == 2 * sizeof(Placed));
+  GridEntry *const list = entries.get();
+  auto *const words = reinterpret_cast<Placed *>(list);
   Placed *const upper = words + n_;
   const Placed *sorted = words;
   for (double width = 32; width >= 4 && !spread_out_; width /= 4) {
@@ -161,8 +163,9 @@ bool Candidates<PointAt>::build(Real tol) {
   if (sorted != upper) std::copy_n(sorted, n_, upper);
   for (Integer i = 0; i < n_; ++i) {
     const Integer code = position_of(upper[i]);
-    entries_[i] = {at_(code < 0 ? ~code : code), code};
+    list[i] = {at_(code < 0 ? ~code : code), code};
   }
+  entries_ = std::move(entries);
   return true;
 }
 
@@ -206,7 +209,7 @@ Surroundings surroundings_of(Integer position, Point3 p, Range paired, Match mat
   visit([&](const GridEntry &entry) {
     const Integer other = entry.position();
     const bool matches = match(p, entry.point);
-    const bool pairs = matches & paired.holds(other);
+    const bool pairs = matches && paired.holds(other);
     around.partners += pairs ? 1 : 0;
     around.partner = pairs ? other : around.partner;
     around.first = matches ? std::min(around.first, other) : around.first;
@@ -255,13 +258,13 @@ Partners pair_up(Range a, Range b, PointOfA at, const Candidates<PointAt> &candi
       if (known.partners == 1) ib[found.pairs++] = known.partner - b.start + 1;
     } else {
       const Point3 p = at(a.start + i);
-      const int cells = candidates.visit(p, [&](const GridEntry &entry) {
+      candidates.visit(p, [&](const GridEntry &entry) {
         if (b.holds(entry.position()) && match(p, entry.point)) {
           ib[found.pairs++] = entry.position() - b.start + 1;
         }
         return true;
       });
-      if (cells > 1) std::sort(ib + before, ib + found.pairs);
+      if (!std::is_sorted(ib + before, ib + found.pairs)) std::sort(ib + before, ib + found.pairs);
     }
     if (found.pairs == before) continue;
     std::fill(ia + before, ia + found.pairs, i + 1);

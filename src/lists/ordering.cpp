@@ -176,14 +176,15 @@ bool parallel_and_distinct(const LineArrays &lines, Integer n) {
 }
 
 void order_parallels(const LineArrays &lines, Integer n, Integer *positions) {
-  const auto keys = work_array<Real>(static_cast<std::uint64_t>(n));
-  if (!keys) return;
+  const auto work = work_array<Real>(static_cast<std::uint64_t>(n));
+  if (!work) return;
+  Real *const keys = work.get();
   const Line y_axis = {1, 0, 0};
   const Line first = {lines.a[0], lines.b[0], lines.c[0]};
   const bool clear_of_axis = intersect(first, y_axis).relation == LineRelation::parallel;
   const Real *divisor = clear_of_axis ? lines.a : lines.b;
   for (Integer i = 0; i < n; ++i) keys[i] = 0 - lines.c[i] / divisor[i];
-  order(keys.get(), n, positions);
+  order(keys, n, positions);
 }
 
 const Integer *cyclic_order(const Quadrilateral &q) {

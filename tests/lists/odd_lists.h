@@ -22,7 +22,8 @@ std::int32_t size_of(const List &list) {
 
 // All bits, so that zeros of different sign differ and a NaN equals itself.
 inline bool same_bits(const Reals &a, const Reals &b) {
-  return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(float)) == 0;
+  if (a.size() != b.size()) return false;
+  return a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(float)) == 0;
 }
 
 class OddLists {
