@@ -114,7 +114,7 @@ TRELVIN_ROUTINE trvsel1(TrvIntIn n, TrvIntArrayIn V, TrvIntIn key, TrvIntOut cou
  * Equal infinities have no difference and make no pair, and neither does anything at a tolerance
  * that is negative or NaN; here the merging routines differ. Time grows with na+nb and the number
  * of pairs, unless entries crowd within a few tolerances: a crowd's are all compared. Takes up to
- * 36*(na+nb) bytes of the heap for the call; where memory is short all entries are compared.
+ * 32*(na+nb) bytes of the heap for the call; where memory is short all entries are compared.
  *
  * Retains: nothing.
  *
@@ -209,7 +209,7 @@ TRELVIN_ROUTINE trvmer12(TrvArrayInOut V, TrvIntInOut n, TrvIn tol);
  * Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
  * infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. Time
  * grows with na+nb, unless entries crowd within a few tolerances: a crowd's are compared with each
- * other. Takes up to 36*(na+nb) bytes of the heap for the call; where memory is short all entries
+ * other. Takes up to 48*(na+nb) bytes of the heap for the call; where memory is short all entries
  * are compared.
  *
  * Retains: nothing.
@@ -288,7 +288,7 @@ TRELVIN_ROUTINE trvmer16(TrvArrayInOut X, TrvArrayInOut Y, TrvIntInOut n, TrvIn 
  * Coordinates agree that are equal or differ by at most the tolerance. So a NaN agrees with
  * nothing, an infinity with itself, and at a tolerance that is negative or NaN equal coordinates
  * alone agree. Time grows with na+nb and the number of pairs, unless points crowd within a few
- * tolerances: a crowd's are all compared. Takes up to 36*(na+nb) bytes of the heap for the call;
+ * tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the call;
  * where memory is short all points are compared.
  *
  * Retains: nothing.
@@ -313,7 +313,7 @@ TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
  * their coordinates is equal or differs by at most the tolerance. So a NaN agrees with nothing, an
  * infinity with itself, and at a tolerance that is negative or NaN equal coordinates alone agree.
  * Time grows with na+nb+nc and the number of pairs, unless points crowd within a few tolerances: a
- * crowd's are all compared. Takes up to 36*(na+nb+nc) bytes of the heap for the call; where memory
+ * crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the call; where memory
  * is short all points are compared.
  *
  * Retains: nothing.
