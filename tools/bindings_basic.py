@@ -5,14 +5,15 @@ from bindings_facts import NOTICE, constants_of, explanation, wrap, wrap_list
 # Keywords and functions that no argument may be named; such an argument gets an underscore.
 RESERVED = set("""
 abs addressof and any array as boolean byref byte byval call case cbool cbyte ccur cdate cdbl cdec
-cint circle clng clnglng clngptr close const csng cstr currency cvar cverr date debug decimal declare
-defbool defbyte defcur defdate defdbl defdec defint deflng defobj defsng defstr defvar dim do doevents
-double each else elseif empty end endif enum eqv erase error event exit false fix for friend function
-get global gosub goto if imp implements in input inputb int integer is lbound len lenb let like line
-lock long longlong longptr loop lset me mod new next not nothing null object on open option optional or
-paramarray preserve print private property pset public put raiseevent redim rem resume return rset
-scale seek select set sgn shared single spc static stop string sub tab then time to true type
-typeof ubound unlock until variant vb_base wend while with withevents write xor
+cint circle clng clnglng clngptr close const csng cstr currency cvar cverr date debug decimal
+declare defbool defbyte defcur defdate defdbl defdec defint deflng defobj defsng defstr defvar dim
+do doevents double each else elseif empty end endif enum eqv erase error event exit false fix for
+friend function get global gosub goto if imp implements in input inputb int integer is lbound len
+lenb let like line lock long longlong longptr loop lset me mod new next not nothing null object on
+open option optional or paramarray preserve print private property pset public put raiseevent
+redim rem resume return rset scale seek select set sgn shared single spc static stop string sub
+tab then time to true type typeof ubound unlock until variant vb_base wend while with withevents
+write xor
 """.split())
 
 HEAD = f"""\

@@ -3,15 +3,16 @@
 from xml.sax.saxutils import escape
 
 import headers
-from bindings_facts import NOTICE, always_written, constants_of, explanation, groups, wrap, wrap_list
+from bindings_facts import (NOTICE, always_written, constants_of, explanation, groups, wrap,
+                            wrap_list)
 
 # Words of the language, of either compiler; an argument of such a name gets an underscore.
 RESERVED = set("""
-and array as asm begin case class const constref constructor destructor dispinterface div do downto
-else end except exports file finalization finally for function goto if implementation in inherited
-initialization inline interface is label library mod nil not object of on operator or out packed
-procedure program property raise record repeat resourcestring set shl shr string then threadvar to
-try type unit until uses var while with xor
+and array as asm begin case class const constref constructor destructor dispinterface div do
+downto else end except exports file finalization finally for function goto if implementation in
+inherited initialization inline interface is label library mod nil not object of on operator or
+out packed procedure program property raise record repeat resourcestring set shl shr string then
+threadvar to try type unit until uses var while with xor
 """.split())
 
 BY_ADDRESS = "{$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF}"

@@ -121,7 +121,7 @@ namespace Trelvin
         public const int trvmxtRefused = -1;
         public const int trvmxt_fbDone = 0;
         public const int trvmxt_fbRefused = -1;
-        public const int trvpslDone = 0;
+        public const int trvpslSpansPlane = 0;
         public const int trvpslAtP0 = 1;
         public const int trvpslAtP1 = 2;
         public const int trvpslBetween = 3;

@@ -121,7 +121,7 @@ module trelvin
   integer(c_int32_t), parameter :: trvmxt_refused = -1
   integer(c_int32_t), parameter :: trvmxt_fb_done = 0
   integer(c_int32_t), parameter :: trvmxt_fb_refused = -1
-  integer(c_int32_t), parameter :: trvpsl_done = 0
+  integer(c_int32_t), parameter :: trvpsl_spans_plane = 0
   integer(c_int32_t), parameter :: trvpsl_at_p0 = 1
   integer(c_int32_t), parameter :: trvpsl_at_p1 = 2
   integer(c_int32_t), parameter :: trvpsl_between = 3

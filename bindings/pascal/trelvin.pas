@@ -124,7 +124,7 @@ const
   trvmxt_refused = -1;
   trvmxt_fb_done = 0;
   trvmxt_fb_refused = -1;
-  trvpsl_done = 0;
+  trvpsl_spans_plane = 0;
   trvpsl_at_p0 = 1;
   trvpsl_at_p1 = 2;
   trvpsl_between = 3;

@@ -85,15 +85,15 @@ Public Sub PrintGirder()
     trvcer8 250!, -400!, 850!, 400!, -550!, 200!, -1&, 500!, x, y, status
     trvarc1 250!, -400!, 850!, 400!, -550!, 200!, shorter, longer, status
 
-    Debug.Print "top plate      " & Column(top1, 2) & " " & Column(top2, 2) & " mm"
-    Debug.Print "web            " & Column(web1, 2) & " " & Column(web2, 2) & " mm"
-    Debug.Print "neutral axis   " & Column(first.ys, 2) & " " & Column(last.ys, 2) & " mm"
-    Debug.Print "area           " & Column(first.A / 100, 2) & " " & Column(last.A / 100, 2) & " cm2"
-    Debug.Print "I1, I2         " & Column(last.I1 / 1E7, 1) & " " & Column(last.I2 / 1E7, 1) & " 1000 cm4"
+    PrintRow "top plate", top1, top2, 2, "mm"
+    PrintRow "web", web1, web2, 2, "mm"
+    PrintRow "neutral axis", first.ys, last.ys, 2, "mm"
+    PrintRow "area", first.A / 100, last.A / 100, 2, "cm2"
+    PrintRow "I1, I2", last.I1 / 1E7, last.I2 / 1E7, 1, "1000 cm4"
     Debug.Print "alpha          " & Column(last.alpha, 5) & " rad"
-    Debug.Print "Wx top, bottom " & Column(last.Wx1 / 1000, 1) & " " & Column(last.Wx2 / 1000, 1) & " cm3"
-    Debug.Print "arc above 500  " & Column(x, 2) & " " & Column(y, 2) & " mm"
-    Debug.Print "arc lengths    " & Column(shorter, 2) & " " & Column(longer, 2) & " mm"
+    PrintRow "Wx top, bottom", last.Wx1 / 1000, last.Wx2 / 1000, 1, "cm3"
+    PrintRow "arc above 500", x, y, 2, "mm"
+    PrintRow "arc lengths", shorter, longer, 2, "mm"
 End Sub
 
 Private Sub AddPlate(p As Plates, ByVal x1 As Single, ByVal y1 As Single, ByVal x2 As Single, _
@@ -117,6 +117,12 @@ Private Function FiguresOf(p As Plates) As Figures
     If status = trvmxtRefused Then Err.Raise 5, , "a plate without length or thickness"
     FiguresOf = f
 End Function
+
+Private Sub PrintRow(ByVal label As String, ByVal first As Double, ByVal second As Double, _
+                     ByVal decimals As Long, ByVal unit As String)
+    Debug.Print Left$(label & Space$(15), 15) & Column(first, decimals) & " " & _
+                Column(second, decimals) & " " & unit
+End Sub
 
 ' Nine characters wide, whatever sign the system has for decimals.
 Private Function Column(ByVal value As Double, ByVal decimals As Long) As String

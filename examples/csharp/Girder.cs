@@ -99,7 +99,8 @@ static class Girder
         Console.WriteLine("web            {0,9:F2} {1,9:F2} mm", web1, web2);
         Console.WriteLine("neutral axis   {0,9:F2} {1,9:F2} mm", first.ys, last.ys);
         Console.WriteLine("area           {0,9:F2} {1,9:F2} cm2", first.A / 100, last.A / 100);
-        Console.WriteLine("I1, I2         {0,9:F1} {1,9:F1} 1000 cm4", last.I1 / 1e7, last.I2 / 1e7);
+        Console.WriteLine("I1, I2         {0,9:F1} {1,9:F1} 1000 cm4", last.I1 / 1e7,
+            last.I2 / 1e7);
         Console.WriteLine("alpha          {0,9:F5} rad", last.alpha);
         Console.WriteLine("Wx top, bottom {0,9:F1} {1,9:F1} cm3", last.Wx1 / 1000, last.Wx2 / 1000);
         Console.WriteLine("arc above 500  {0,9:F2} {1,9:F2} mm", x, y);

@@ -91,9 +91,11 @@ def csharp(routines):
         arguments = []
         for argument in routine.arguments:
             kind = kind_of(argument)
-            way = {"in": BY_VALUE.get(kind, CSHARP[kind]), "out": "out " + kind, "inout": "ref " + kind}
-            single = kind in BY_VALUE
-            arguments.append(way[argument.direction] if single else CSHARP[kind])
+            if kind in BY_VALUE:
+                ways = {"in": BY_VALUE[kind], "out": f"out {kind}", "inout": f"ref {kind}"}
+                arguments.append(ways[argument.direction])
+            else:
+                arguments.append(CSHARP[kind])
         if any(argument in BY_VALUE.values() for argument in arguments):
             calls.append(f"Native.{routine.name}({', '.join(arguments)});")
     return CSHARP_FRAME % "\n".join(calls)

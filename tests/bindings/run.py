@@ -37,12 +37,15 @@ COMMANDS = {
     ("native", "c"): ("gcc", "gcc -O2 -Iinclude {source} -L{lib} -ltrelvin -lm -o {program}"),
     ("native", "cpp"): ("g++", "g++ -O2 -Iinclude {source} -L{lib} -ltrelvin -o {program}"),
     ("native", "fortran"): (
-        "gfortran", "gfortran -O2 -Werror -J{out} bindings/fortran/trelvin.F90 {source}"
-        " -L{lib} -ltrelvin -o {program}"),
+        "gfortran",
+        "gfortran -O2 -Werror -J{out} bindings/fortran/trelvin.F90 {source} -L{lib} -ltrelvin"
+        " -o {program}"),
     ("native", "pascal"): (
-        "fp-compiler", "fpc -O2 -v0w -Sew -Fubindings/pascal -Fl{lib} -FU{out} {source} -o{program}"),
+        "fp-compiler",
+        "fpc -O2 -v0w -Sew -Fubindings/pascal -Fl{lib} -FU{out} {source} -o{program}"),
     ("native", "csharp"): (
-        "mono-mcs mono-runtime", "mcs -warnaserror bindings/csharp/Trelvin.cs {source} -out:{program}"),
+        "mono-mcs mono-runtime",
+        "mcs -warnaserror bindings/csharp/Trelvin.cs {source} -out:{program}"),
     ("windows", "c"): (
         "g++-mingw-w64-i686-win32",
         "i686-w64-mingw32-gcc-win32 -O2 -Iinclude {source} " + WINDOWS_LINK + " -o {program}"),
@@ -63,7 +66,7 @@ passed, failed = 0, 0
 def report(name, problem=""):
     global passed, failed
     passed, failed = passed + (not problem), failed + bool(problem)
-    print(f"{'FAILED ' if problem else 'ok     '} {name}{': ' if problem else ''}{problem}", flush=True)
+    print(f"FAILED  {name}: {problem}" if problem else f"ok      {name}", flush=True)
 
 
 def run(command, **options):
@@ -96,8 +99,8 @@ def check_host(platform, language, source, expected):
     if platform == "windows":
         shutil.copy(ROOT / "build/windows/bin/Trelvin.dll", out)
     program = out / f"{source.stem.lower()}.exe"
-    words = [word.format(source=source, program=program, out=out, lib=lib) for word in command.split()]
-    built = run(words)
+    places = {"source": source, "program": program, "out": out, "lib": lib}
+    built = run([word.format(**places) for word in command.split()])
     if built.returncode != 0:
         report(name, "does not build:\n" + (built.stdout + built.stderr)[-2000:])
         return
@@ -118,7 +121,8 @@ def check_language(platform, language):
         check_host(platform, language, source, "")
 
 
-DECLARATION = re.compile(r'^Public Declare (PtrSafe )?Sub (\w+) Lib "(.*?)" Alias "(.*?)" \((.*)\)$')
+DECLARATION = re.compile(
+    r'^Public Declare (PtrSafe )?Sub (\w+) Lib "(.*?)" Alias "(.*?)" \((.*)\)$')
 BASIC_TYPES = {"r": "Single", "i": "Long", "rs": "Single", "is": "Long"}
 
 
@@ -129,7 +133,8 @@ def basic_faults():
         yield "a line or its continuations are too long for the editor"
     found = DECLARATION.findall
     lines = re.sub(r" _\n\s*", " ", text).splitlines()
-    for safe, library, address in (("PtrSafe ", "Trelvin64.dll", "LongPtr"), ("", "Trelvin.dll", "Long")):
+    blocks = (("PtrSafe ", "Trelvin64.dll", "LongPtr"), ("", "Trelvin.dll", "Long"))
+    for safe, library, address in blocks:
         declared = {d[0][1]: d[0] for d in map(found, lines) if d and d[0][0] == safe}
         if list(declared) != [routine.name for routine in ROUTINES]:
             yield f"{library}: the routines are not those of the headers"
@@ -138,7 +143,8 @@ def basic_faults():
             wanted = [f"ByVal {a.name} As {address}" if a.type == "TrvFunctionIn"
                       else f"ByRef {a.name} As {BASIC_TYPES[probes.kind_of(a)]}"
                       for a in routine.arguments]
-            if (lib, alias, re.sub(r"_(?= As)", "", parameters)) != (library, name, ", ".join(wanted)):
+            found_here = lib, alias, re.sub(r"_(?= As)", "", parameters)
+            if found_here != (library, name, ", ".join(wanted)):
                 yield f"{library}: {name}: {parameters}"
 
 
@@ -149,7 +155,7 @@ def main():
     report("basic: every routine as its header has it", "; ".join(basic_faults()))
     for platform in platforms:
         if not list((ROOT / "build" / platform / "lib").glob("lib*")):
-            report(platform, f"build it first: cmake --preset {platform} && cmake --build --preset {platform}")
+            report(platform, f"the library is missing: cmake --build --preset {platform}")
             continue
         if platform == "native":
             library = ROOT / "build/native/lib/libtrelvin.so"
