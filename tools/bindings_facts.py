@@ -96,14 +96,9 @@ def constants_of(routine):
     for argument in filter(contracts.names_values, routine.arguments):
         named = NAMED.get((routine.name, argument.name), [])
         listed = re.findall(r"(?:^|; )(-?\d+)(?= )(?! to )", argument.text)
-<<<<<<< HEAD
         if named and sorted(listed) != sorted(value for value, _ in named):
-            raise ValueError(f"{routine.name}: {argument.name}: {listed} in the contract, {named} named")
-=======
-        if sorted(listed) != sorted(value for value, _ in named):
             raise ValueError(f"{routine.name}: {argument.name}: the contract has {listed}, "
                              f"tools/bindings_facts.py names {named}")
->>>>>>> fb9398c (Bindings: names of trvpsl's values, tidier tables)
         found += [Constant(routine.name, name, int(value)) for value, name in named]
     return found
 
