@@ -51,13 +51,13 @@ trvpl6 trv3lni status: 0 done, 3 same_line, 4 opposite_line, 6 skew, 7 zero
 trvpsp status: 0 on_plane, -1 off_plane
 trvpspg status: 0 on_plane, -1 off_plane, 1 zero_normal
 trvplv status: -1 zero_u, 0 oblique, 3 same, 4 opposite, 5 perpendicular, 7 zero
-trvdirl status: 0 crossing, 1 parallel_same, 2 parallel_opposite, 3 same_line, 4 opposite_line, 5
-  perpendicular, 6 skew, 7 coincident
+trvdirl status: 0 crossing, 1 parallel_same, 2 parallel_opposite, 3 same_line, 4 opposite_line,
+  5 perpendicular, 6 skew, 7 coincident
 trv3sp status: 0 flat, 1 spanning
 trv3ldb trv3lda trvpnl status: 0 done
 trvpli status: 0 done, 3 parallel, 4 zero
-trvplp position: 1 general, 2 parallel_x, 3 parallel_y, 4 parallel_z, 5 normal_z, 6 normal_x, 7
-  normal_y, 8 at_z_zero, 9 at_x_zero, 10 at_y_zero
+trvplp position: 1 general, 2 parallel_x, 3 parallel_y, 4 parallel_z, 5 normal_z, 6 normal_x,
+  7 normal_y, 8 at_z_zero, 9 at_x_zero, 10 at_y_zero
 trvlpc status: 0 not_moved, 3 moved_one_side, 4 moved_either_side, 6 moved_skew, 7 moved_at_p
 """
 
