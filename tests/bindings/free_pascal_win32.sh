@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Debian's Free Pascal for 32-bit Linux writes Windows programs once it has the units of that
-# system. They are compiled here from Debian's sources, into build/free-pascal-win32. Nothing is installed;
-# 22 MB are fetched.
+# system. They are compiled here from Debian's sources, into build/free-pascal-win32. Nothing is
+# installed; 22 MB are fetched.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 out=$PWD/build/free-pascal-win32
