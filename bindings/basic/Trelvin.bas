@@ -211,24 +211,32 @@ Public Declare PtrSafe Sub trvcer Lib "Trelvin64.dll" Alias "trvcer" (ByRef xc A
     ByRef F As Single)
 
 ' Intersection of a line and a circle.
+' n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it.
 Public Declare PtrSafe Sub trvlci Lib "Trelvin64.dll" Alias "trvlci" (ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef D As Single, ByRef E As Single, ByRef F As Single, _
     ByRef n As Long, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single)
 
 ' Intersection of two circles: that of their radical line with the first circle (trvlci).
+' n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the tolerance;
+' 1 the circles touch; 2 they cut each other.
 Public Declare PtrSafe Sub trvc12 Lib "Trelvin64.dll" Alias "trvc12" (ByRef D1 As Single, _
     ByRef E1 As Single, ByRef F1 As Single, ByRef D2 As Single, ByRef E2 As Single, _
     ByRef F2 As Single, ByRef n As Long, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef x2 As Single, ByRef y2 As Single)
 
 ' Centres of the circles of a radius through two points.
+' n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord, the
+' discriminant is NaN, or the chord is horizontal; 1 both candidates are the same point; 2 two.
 Public Declare PtrSafe Sub trvcer2 Lib "Trelvin64.dll" Alias "trvcer2" (ByRef x1 As Single, _
     ByRef y1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef side As Long, _
     ByRef r As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef xc As Single, ByRef yc As Single, ByRef n As Long)
 
 ' Circle through two points with a given sagitta.
+' n: number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less than half
+' the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are the same
+' point; 2 two.
 Public Declare PtrSafe Sub trvcer1 Lib "Trelvin64.dll" Alias "trvcer1" (ByRef x1 As Single, _
     ByRef y1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef side As Long, _
     ByRef h As Single, ByRef r As Single, ByRef xc As Single, ByRef yc As Single, ByRef n As Long)
@@ -350,7 +358,7 @@ Public Declare PtrSafe Sub trvenv Lib "Trelvin64.dll" Alias "trvenv" (ByRef xc A
 Public Declare PtrSafe Sub trvord Lib "Trelvin64.dll" Alias "trvord" (ByRef V As Single, _
     ByRef n As Long)
 
-' Sorts Integers ascending, in place. Quadratic in n.
+' Sorts Integers ascending, in place.
 Public Declare PtrSafe Sub trvord1 Lib "Trelvin64.dll" Alias "trvord1" (ByRef V As Long, _
     ByRef n As Long)
 
@@ -372,7 +380,7 @@ Public Declare PtrSafe Sub trvorv Lib "Trelvin64.dll" Alias "trvorv" (ByRef X As
 Public Declare PtrSafe Sub trvsel1 Lib "Trelvin64.dll" Alias "trvsel1" (ByRef n As Long, _
     ByRef V As Long, ByRef key As Long, ByRef count As Long, ByRef pos As Long)
 
-' All pairs of entries of two lists that agree within a tolerance.
+' All pairs of entries of two lists that differ by at most a tolerance.
 Public Declare PtrSafe Sub trvmer13 Lib "Trelvin64.dll" Alias "trvmer13" (ByRef na As Long, _
     ByRef A As Single, ByRef nb As Long, ByRef B As Single, ByRef count As Long, ByRef IA As Long, _
     ByRef IB As Long, ByRef tol As Single)
@@ -389,11 +397,11 @@ Public Declare PtrSafe Sub trvmer11 Lib "Trelvin64.dll" Alias "trvmer11" (ByRef 
 Public Declare PtrSafe Sub trvmer2 Lib "Trelvin64.dll" Alias "trvmer2" (ByRef V As Long, _
     ByRef n As Long)
 
-' Sorts Reals ascending and drops repeats, in place: trvmer12 with the tolerance of the library.
+' Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
 Public Declare PtrSafe Sub trvmer3 Lib "Trelvin64.dll" Alias "trvmer3" (ByRef V As Single, _
     ByRef n As Long)
 
-' Sorts Reals ascending and drops each entry within a tolerance of the last one kept, in place.
+' Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
 Public Declare PtrSafe Sub trvmer12 Lib "Trelvin64.dll" Alias "trvmer12" (ByRef V As Single, _
     ByRef n As Long, ByRef tol As Single)
 
@@ -415,7 +423,7 @@ Public Declare PtrSafe Sub trvmer16 Lib "Trelvin64.dll" Alias "trvmer16" (ByRef 
     ByRef Y As Single, ByRef n As Long, ByRef tol As Single)
 
 ' All pairs of points of two lists that agree within a tolerance in each coordinate.
-' status: 0 no pair; 1 some; 2 every point of A has a partner.
+' status: 0 no pair; 1 some points of A have a partner; 2 every point of A has one.
 Public Declare PtrSafe Sub trvptp1 Lib "Trelvin64.dll" Alias "trvptp1" (ByRef na As Long, _
     ByRef XA As Single, ByRef YA As Single, ByRef ZA As Single, ByRef nb As Long, _
     ByRef XB As Single, ByRef YB As Single, ByRef ZB As Single, ByRef tol As Single, _
@@ -438,8 +446,9 @@ Public Declare PtrSafe Sub trvppp Lib "Trelvin64.dll" Alias "trvppp" (ByRef X As
     ByRef XC As Single)
 
 ' Where the segment from P1 to P2 crosses a closed outline.
-' status: 1 P1 is inside, by the even-odd rule of trvppp; 0 it is not; -1 refused: n < 3, or P1 and
-' P2 coincide within the tolerance in both coordinates.
+' status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1 and P2
+' coincide within the tolerance in both coordinates. P1 on the outline counts as the point just to
+' its right, or just above where that is on the outline too.
 Public Declare PtrSafe Sub trvpin Lib "Trelvin64.dll" Alias "trvpin" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef x2 As Single, ByRef y2 As Single, ByRef count As Long, ByRef XI As Single, _
@@ -730,6 +739,7 @@ Public Declare PtrSafe Sub trvef2 Lib "Trelvin64.dll" Alias "trvef2" (ByRef bl A
     ByRef s1 As Single, ByRef s2 As Single, ByRef be1 As Single, ByRef be2 As Single)
 
 ' I section with unequal flanges.
+' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_ia Lib "Trelvin64.dll" Alias "trvsec_ia" (ByRef H As Single, _
     ByRef B1 As Single, ByRef B2 As Single, ByRef T1 As Single, ByRef T2 As Single, _
     ByRef TW As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, ByRef X As Single, _
@@ -738,6 +748,7 @@ Public Declare PtrSafe Sub trvsec_ia Lib "Trelvin64.dll" Alias "trvsec_ia" (ByRe
     ByRef q1 As Single, ByRef q2 As Single)
 
 ' I section lying on its side.
+' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_h Lib "Trelvin64.dll" Alias "trvsec_h" (ByRef H As Single, _
     ByRef B1 As Single, ByRef B2 As Single, ByRef T1 As Single, ByRef T2 As Single, _
     ByRef TW As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, ByRef X As Single, _
@@ -746,6 +757,7 @@ Public Declare PtrSafe Sub trvsec_h Lib "Trelvin64.dll" Alias "trvsec_h" (ByRef 
     ByRef q1 As Single, ByRef q2 As Single)
 
 ' T section, flange at the top.
+' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_t Lib "Trelvin64.dll" Alias "trvsec_t" (ByRef B As Single, _
     ByRef H As Single, ByRef TF As Single, ByRef TW As Single, ByRef q As Single, _
     ByRef np As Long, ByRef nv As Long, ByRef X As Single, ByRef Y As Single, ByRef code As Long, _
@@ -753,6 +765,7 @@ Public Declare PtrSafe Sub trvsec_t Lib "Trelvin64.dll" Alias "trvsec_t" (ByRef 
     ByRef z4 As Single, ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Flat bar.
+' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_b Lib "Trelvin64.dll" Alias "trvsec_b" (ByRef B As Long, _
     ByRef H As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, ByRef X As Single, _
     ByRef Y As Single, ByRef code As Long, ByRef sign As Single, ByRef z1 As Single, _
@@ -760,6 +773,7 @@ Public Declare PtrSafe Sub trvsec_b Lib "Trelvin64.dll" Alias "trvsec_b" (ByRef 
     ByRef q1 As Single, ByRef q2 As Single)
 
 ' I section lying on its side with a cover plate on its flanges' top edges, closing one cell.
+' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_h1b Lib "Trelvin64.dll" Alias "trvsec_h1b" (ByRef W As Single, _
     ByRef D As Single, ByRef P As Single, ByRef T1 As Single, ByRef T2 As Single, _
     ByRef TW As Single, ByRef TP As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
@@ -768,6 +782,7 @@ Public Declare PtrSafe Sub trvsec_h1b Lib "Trelvin64.dll" Alias "trvsec_h1b" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Box girder with overhanging flanges.
+' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_box Lib "Trelvin64.dll" Alias "trvsec_box" (ByRef BT As Single, _
     ByRef BB As Single, ByRef TT As Single, ByRef TB As Single, ByRef H As Single, _
     ByRef TW As Single, ByRef G As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
@@ -776,6 +791,7 @@ Public Declare PtrSafe Sub trvsec_box Lib "Trelvin64.dll" Alias "trvsec_box" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Rectangular hollow section with sharp corners.
+' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_rhs Lib "Trelvin64.dll" Alias "trvsec_rhs" (ByRef B As Single, _
     ByRef H As Single, ByRef T As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
     ByRef X As Single, ByRef Y As Single, ByRef code As Long, ByRef sign As Single, _
@@ -783,6 +799,7 @@ Public Declare PtrSafe Sub trvsec_rhs Lib "Trelvin64.dll" Alias "trvsec_rhs" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Two equal angles back to back, horizontal legs at the top.
+' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_l2 Lib "Trelvin64.dll" Alias "trvsec_l2" (ByRef B As Single, _
     ByRef H As Single, ByRef G As Single, ByRef T As Single, ByRef TV As Single, _
     ByRef q As Single, ByRef np As Long, ByRef nv As Long, ByRef X As Single, ByRef Y As Single, _
@@ -791,6 +808,7 @@ Public Declare PtrSafe Sub trvsec_l2 Lib "Trelvin64.dll" Alias "trvsec_l2" (ByRe
     ByRef q2 As Single)
 
 ' Top plate on a closed cell of two webs and a bottom plate between them.
+' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_tab Lib "Trelvin64.dll" Alias "trvsec_tab" (ByRef B As Single, _
     ByRef H As Single, ByRef BW As Single, ByRef E As Single, ByRef T As Single, _
     ByRef TW As Single, ByRef TB As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
@@ -799,6 +817,7 @@ Public Declare PtrSafe Sub trvsec_tab Lib "Trelvin64.dll" Alias "trvsec_tab" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Two flanges joined by two webs and a middle plate, closing two cells.
+' np: number of polygons: 3.
 Public Declare PtrSafe Sub trvsec_h2b Lib "Trelvin64.dll" Alias "trvsec_h2b" (ByRef B As Single, _
     ByRef W As Single, ByRef HI As Single, ByRef TW1 As Single, ByRef TW2 As Single, _
     ByRef TM As Single, ByRef TF As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
@@ -807,6 +826,7 @@ Public Declare PtrSafe Sub trvsec_h2b Lib "Trelvin64.dll" Alias "trvsec_h2b" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' I section with unequal flanges, an eccentric web and 45-degree fillets.
+' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_i Lib "Trelvin64.dll" Alias "trvsec_i" (ByRef H As Single, _
     ByRef B1 As Single, ByRef B2 As Single, ByRef T1 As Single, ByRef T2 As Single, _
     ByRef TW As Single, ByRef S1 As Single, ByRef S2 As Single, ByRef E As Single, _
@@ -816,6 +836,7 @@ Public Declare PtrSafe Sub trvsec_i Lib "Trelvin64.dll" Alias "trvsec_i" (ByRef 
     ByRef q2 As Single)
 
 ' Channel open to the right, with lips turned inwards and folds turned back towards the web.
+' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_c Lib "Trelvin64.dll" Alias "trvsec_c" (ByRef H As Single, _
     ByRef B1 As Single, ByRef B2 As Single, ByRef C1 As Single, ByRef C2 As Single, _
     ByRef D1 As Single, ByRef D2 As Single, ByRef TW As Single, ByRef T1 As Single, _

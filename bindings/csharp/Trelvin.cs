@@ -232,12 +232,16 @@ namespace Trelvin
         }
 
         /// <summary>Intersection of a line and a circle.</summary>
+        /// <remarks>n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts
+        /// it.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvlci(ref float a, ref float b, ref float c, ref float D,
             ref float E, ref float F, ref int n, ref float x1, ref float y1, ref float x2,
             ref float y2);
 
         /// <summary>Intersection of a line and a circle.</summary>
+        /// <remarks>n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts
+        /// it.</remarks>
         public static void trvlci(float a, float b, float c, float D, float E, float F, out int n,
             out float x1, out float y1, out float x2, out float y2)
         {
@@ -248,6 +252,8 @@ namespace Trelvin
 
         /// <summary>Intersection of two circles: that of their radical line with the first circle
         /// (trvlci).</summary>
+        /// <remarks>n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is
+        /// within the tolerance; 1 the circles touch; 2 they cut each other.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvc12(ref float D1, ref float E1, ref float F1, ref float D2,
             ref float E2, ref float F2, ref int n, ref float x1, ref float y1, ref float x2,
@@ -255,6 +261,8 @@ namespace Trelvin
 
         /// <summary>Intersection of two circles: that of their radical line with the first circle
         /// (trvlci).</summary>
+        /// <remarks>n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is
+        /// within the tolerance; 1 the circles touch; 2 they cut each other.</remarks>
         public static void trvc12(float D1, float E1, float F1, float D2, float E2, float F2,
             out int n, out float x1, out float y1, out float x2, out float y2)
         {
@@ -265,12 +273,18 @@ namespace Trelvin
         }
 
         /// <summary>Centres of the circles of a radius through two points.</summary>
+        /// <remarks>n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half
+        /// the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are
+        /// the same point; 2 two.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer2(ref float x1, ref float y1, ref float x2, ref float y2,
             ref int side, ref float r, ref float xa, ref float ya, ref float xb, ref float yb,
             ref float xc, ref float yc, ref int n);
 
         /// <summary>Centres of the circles of a radius through two points.</summary>
+        /// <remarks>n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half
+        /// the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are
+        /// the same point; 2 two.</remarks>
         public static void trvcer2(float x1, float y1, float x2, float y2, int side, float r,
             out float xa, out float ya, out float xb, out float yb, out float xc, out float yc,
             out int n)
@@ -282,11 +296,17 @@ namespace Trelvin
         }
 
         /// <summary>Circle through two points with a given sagitta.</summary>
+        /// <remarks>n: number of centres (trvcer2): 0 h &lt; 1e-5, P1 = P2 exactly, r is at most
+        /// 1e-5 or less than half the chord, the discriminant is NaN, or the chord is horizontal; 1
+        /// both candidates are the same point; 2 two.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer1(ref float x1, ref float y1, ref float x2, ref float y2,
             ref int side, ref float h, ref float r, ref float xc, ref float yc, ref int n);
 
         /// <summary>Circle through two points with a given sagitta.</summary>
+        /// <remarks>n: number of centres (trvcer2): 0 h &lt; 1e-5, P1 = P2 exactly, r is at most
+        /// 1e-5 or less than half the chord, the discriminant is NaN, or the chord is horizontal; 1
+        /// both candidates are the same point; 2 two.</remarks>
         public static void trvcer1(float x1, float y1, float x2, float y2, int side, float h,
             out float r, out float xc, out float yc, out int n)
         {
@@ -610,11 +630,11 @@ namespace Trelvin
             trvord(V, ref n);
         }
 
-        /// <summary>Sorts Integers ascending, in place. Quadratic in n.</summary>
+        /// <summary>Sorts Integers ascending, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvord1([In, Out] int[] V, ref int n);
 
-        /// <summary>Sorts Integers ascending, in place. Quadratic in n.</summary>
+        /// <summary>Sorts Integers ascending, in place.</summary>
         public static void trvord1(int[] V, int n)
         {
             trvord1(V, ref n);
@@ -666,12 +686,12 @@ namespace Trelvin
             trvsel1(ref n, V, ref key, ref count, pos);
         }
 
-        /// <summary>All pairs of entries of two lists that agree within a tolerance.</summary>
+        /// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer13(ref int na, [In] float[] A, ref int nb, [In] float[] B,
             ref int count, [In, Out] int[] IA, [In, Out] int[] IB, ref float tol);
 
-        /// <summary>All pairs of entries of two lists that agree within a tolerance.</summary>
+        /// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
         public static void trvmer13(int na, float[] A, int nb, float[] B, out int count, int[] IA,
             int[] IB, float tol)
         {
@@ -709,18 +729,18 @@ namespace Trelvin
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer2([In, Out] int[] V, ref int n);
 
-        /// <summary>Sorts Reals ascending and drops repeats, in place: trvmer12 with the tolerance
-        /// of the library.</summary>
+        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
+        /// in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer3([In, Out] float[] V, ref int n);
 
-        /// <summary>Sorts Reals ascending and drops each entry within a tolerance of the last one
-        /// kept, in place.</summary>
+        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
+        /// in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer12([In, Out] float[] V, ref int n, ref float tol);
 
-        /// <summary>Sorts Reals ascending and drops each entry within a tolerance of the last one
-        /// kept, in place.</summary>
+        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
+        /// in place.</summary>
         public static void trvmer12(float[] V, ref int n, float tol)
         {
             trvmer12(V, ref n, ref tol);
@@ -776,7 +796,8 @@ namespace Trelvin
 
         /// <summary>All pairs of points of two lists that agree within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: 0 no pair; 1 some; 2 every point of A has a partner.</remarks>
+        /// <remarks>status: 0 no pair; 1 some points of A have a partner; 2 every point of A has
+        /// one.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptp1(ref int na, [In] float[] XA, [In] float[] YA,
             [In] float[] ZA, ref int nb, [In] float[] XB, [In] float[] YB, [In] float[] ZB,
@@ -784,7 +805,8 @@ namespace Trelvin
 
         /// <summary>All pairs of points of two lists that agree within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: 0 no pair; 1 some; 2 every point of A has a partner.</remarks>
+        /// <remarks>status: 0 no pair; 1 some points of A have a partner; 2 every point of A has
+        /// one.</remarks>
         public static void trvptp1(int na, float[] XA, float[] YA, float[] ZA, int nb, float[] XB,
             float[] YB, float[] ZB, float tol, out int count, int[] IA, int[] IB, out int status)
         {
@@ -829,18 +851,20 @@ namespace Trelvin
         }
 
         /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
-        /// <remarks>status: 1 P1 is inside, by the even-odd rule of trvppp; 0 it is not; -1
-        /// refused: n &lt; 3, or P1 and P2 coincide within the tolerance in both
-        /// coordinates.</remarks>
+        /// <remarks>status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n &lt;
+        /// 3, or P1 and P2 coincide within the tolerance in both coordinates. P1 on the outline
+        /// counts as the point just to its right, or just above where that is on the outline
+        /// too.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpin([In] float[] X, [In] float[] Y, ref int n, ref float x1,
             ref float y1, ref float x2, ref float y2, ref int count, [In, Out] float[] XI,
             [In, Out] float[] YI, [In, Out] float[] T, [In, Out] int[] EDGE, ref int status);
 
         /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
-        /// <remarks>status: 1 P1 is inside, by the even-odd rule of trvppp; 0 it is not; -1
-        /// refused: n &lt; 3, or P1 and P2 coincide within the tolerance in both
-        /// coordinates.</remarks>
+        /// <remarks>status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n &lt;
+        /// 3, or P1 and P2 coincide within the tolerance in both coordinates. P1 on the outline
+        /// counts as the point just to its right, or just above where that is on the outline
+        /// too.</remarks>
         public static void trvpin(float[] X, float[] Y, int n, float x1, float y1, float x2,
             float y2, out int count, float[] XI, float[] YI, float[] T, int[] EDGE, out int status)
         {
@@ -1613,6 +1637,7 @@ namespace Trelvin
         }
 
         /// <summary>I section with unequal flanges.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_ia(ref float H, ref float B1, ref float B2, ref float T1,
             ref float T2, ref float TW, ref float q, ref int np, [In, Out] int[] nv,
@@ -1621,6 +1646,7 @@ namespace Trelvin
             [In, Out] float[] z5, [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>I section with unequal flanges.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_ia(float H, float B1, float B2, float T1, float T2, float TW,
             float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1631,6 +1657,7 @@ namespace Trelvin
         }
 
         /// <summary>I section lying on its side.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_h(ref float H, ref float B1, ref float B2, ref float T1,
             ref float T2, ref float TW, ref float q, ref int np, [In, Out] int[] nv,
@@ -1639,6 +1666,7 @@ namespace Trelvin
             [In, Out] float[] z5, [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>I section lying on its side.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_h(float H, float B1, float B2, float T1, float T2, float TW,
             float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1649,6 +1677,7 @@ namespace Trelvin
         }
 
         /// <summary>T section, flange at the top.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_t(ref float B, ref float H, ref float TF, ref float TW,
             ref float q, ref int np, [In, Out] int[] nv, [In, Out] float[] X, [In, Out] float[] Y,
@@ -1657,6 +1686,7 @@ namespace Trelvin
             [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>T section, flange at the top.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_t(float B, float H, float TF, float TW, float q, out int np,
             int[] nv, float[] X, float[] Y, int[] code, float[] sign, float[] z1, float[] z2,
             float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1667,6 +1697,7 @@ namespace Trelvin
         }
 
         /// <summary>Flat bar.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_b(ref int B, ref float H, ref float q, ref int np,
             [In, Out] int[] nv, [In, Out] float[] X, [In, Out] float[] Y, [In, Out] int[] code,
@@ -1675,6 +1706,7 @@ namespace Trelvin
             [In, Out] float[] q2);
 
         /// <summary>Flat bar.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_b(int B, float H, float q, out int np, int[] nv, float[] X,
             float[] Y, int[] code, float[] sign, float[] z1, float[] z2, float[] z3, float[] z4,
             float[] z5, float[] q1, float[] q2)
@@ -1685,6 +1717,7 @@ namespace Trelvin
 
         /// <summary>I section lying on its side with a cover plate on its flanges' top edges,
         /// closing one cell.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_h1b(ref float W, ref float D, ref float P, ref float T1,
             ref float T2, ref float TW, ref float TP, ref float q, ref int np, [In, Out] int[] nv,
@@ -1694,6 +1727,7 @@ namespace Trelvin
 
         /// <summary>I section lying on its side with a cover plate on its flanges' top edges,
         /// closing one cell.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_h1b(float W, float D, float P, float T1, float T2, float TW,
             float TP, float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1704,6 +1738,7 @@ namespace Trelvin
         }
 
         /// <summary>Box girder with overhanging flanges.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_box(ref float BT, ref float BB, ref float TT, ref float TB,
             ref float H, ref float TW, ref float G, ref float q, ref int np, [In, Out] int[] nv,
@@ -1712,6 +1747,7 @@ namespace Trelvin
             [In, Out] float[] z5, [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>Box girder with overhanging flanges.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_box(float BT, float BB, float TT, float TB, float H, float TW,
             float G, float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1722,6 +1758,7 @@ namespace Trelvin
         }
 
         /// <summary>Rectangular hollow section with sharp corners.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_rhs(ref float B, ref float H, ref float T, ref float q,
             ref int np, [In, Out] int[] nv, [In, Out] float[] X, [In, Out] float[] Y,
@@ -1730,6 +1767,7 @@ namespace Trelvin
             [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>Rectangular hollow section with sharp corners.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_rhs(float B, float H, float T, float q, out int np, int[] nv,
             float[] X, float[] Y, int[] code, float[] sign, float[] z1, float[] z2, float[] z3,
             float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1740,6 +1778,7 @@ namespace Trelvin
         }
 
         /// <summary>Two equal angles back to back, horizontal legs at the top.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_l2(ref float B, ref float H, ref float G, ref float T,
             ref float TV, ref float q, ref int np, [In, Out] int[] nv, [In, Out] float[] X,
@@ -1748,6 +1787,7 @@ namespace Trelvin
             [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>Two equal angles back to back, horizontal legs at the top.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_l2(float B, float H, float G, float T, float TV, float q,
             out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign, float[] z1,
             float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1759,6 +1799,7 @@ namespace Trelvin
 
         /// <summary>Top plate on a closed cell of two webs and a bottom plate between
         /// them.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_tab(ref float B, ref float H, ref float BW, ref float E,
             ref float T, ref float TW, ref float TB, ref float q, ref int np, [In, Out] int[] nv,
@@ -1768,6 +1809,7 @@ namespace Trelvin
 
         /// <summary>Top plate on a closed cell of two webs and a bottom plate between
         /// them.</summary>
+        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_tab(float B, float H, float BW, float E, float T, float TW,
             float TB, float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1778,6 +1820,7 @@ namespace Trelvin
         }
 
         /// <summary>Two flanges joined by two webs and a middle plate, closing two cells.</summary>
+        /// <remarks>np: number of polygons: 3.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_h2b(ref float B, ref float W, ref float HI, ref float TW1,
             ref float TW2, ref float TM, ref float TF, ref float q, ref int np, [In, Out] int[] nv,
@@ -1786,6 +1829,7 @@ namespace Trelvin
             [In, Out] float[] z5, [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>Two flanges joined by two webs and a middle plate, closing two cells.</summary>
+        /// <remarks>np: number of polygons: 3.</remarks>
         public static void trvsec_h2b(float B, float W, float HI, float TW1, float TW2, float TM,
             float TF, float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1797,6 +1841,7 @@ namespace Trelvin
 
         /// <summary>I section with unequal flanges, an eccentric web and 45-degree
         /// fillets.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_i(ref float H, ref float B1, ref float B2, ref float T1,
             ref float T2, ref float TW, ref float S1, ref float S2, ref float E, ref float q,
@@ -1807,6 +1852,7 @@ namespace Trelvin
 
         /// <summary>I section with unequal flanges, an eccentric web and 45-degree
         /// fillets.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_i(float H, float B1, float B2, float T1, float T2, float TW,
             float S1, float S2, float E, float q, out int np, int[] nv, float[] X, float[] Y,
             int[] code, float[] sign, float[] z1, float[] z2, float[] z3, float[] z4, float[] z5,
@@ -1819,6 +1865,7 @@ namespace Trelvin
 
         /// <summary>Channel open to the right, with lips turned inwards and folds turned back
         /// towards the web.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_c(ref float H, ref float B1, ref float B2, ref float C1,
             ref float C2, ref float D1, ref float D2, ref float TW, ref float T1, ref float T2,
@@ -1830,6 +1877,7 @@ namespace Trelvin
 
         /// <summary>Channel open to the right, with lips turned inwards and folds turned back
         /// towards the web.</summary>
+        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_c(float H, float B1, float B2, float C1, float C2, float D1,
             float D2, float TW, float T1, float T2, float TC1, float TC2, float TD1, float TD2,
             float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,

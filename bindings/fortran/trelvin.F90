@@ -237,24 +237,29 @@ module trelvin
     end subroutine
 
     !> Intersection of a line and a circle.
+    !! n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it.
     subroutine trvlci(a, b, c, D, E, F, n, x1, y1, x2, y2) bind(c, name="trvlci")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvlci
       real(c_float), intent(in) :: a, b, c, D, E, F
-      integer(c_int32_t), intent(inout) :: n
+      integer(c_int32_t), intent(out) :: n
       real(c_float), intent(inout) :: x1, y1, x2, y2
     end subroutine
 
     !> Intersection of two circles: that of their radical line with the first circle (trvlci).
+    !! n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the
+    !! tolerance; 1 the circles touch; 2 they cut each other.
     subroutine trvc12(D1, E1, F1, D2, E2, F2, n, x1, y1, x2, y2) bind(c, name="trvc12")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvc12
       real(c_float), intent(in) :: D1, E1, F1, D2, E2, F2
-      integer(c_int32_t), intent(inout) :: n
+      integer(c_int32_t), intent(out) :: n
       real(c_float), intent(inout) :: x1, y1, x2, y2
     end subroutine
 
     !> Centres of the circles of a radius through two points.
+    !! n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord, the
+    !! discriminant is NaN, or the chord is horizontal; 1 both candidates are the same point; 2 two.
     subroutine trvcer2(x1, y1, x2, y2, side, r, xa, ya, xb, yb, xc, yc, n) bind(c, name="trvcer2")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer2
@@ -262,10 +267,13 @@ module trelvin
       integer(c_int32_t), intent(in) :: side
       real(c_float), intent(in) :: r
       real(c_float), intent(inout) :: xa, ya, xb, yb, xc, yc
-      integer(c_int32_t), intent(inout) :: n
+      integer(c_int32_t), intent(out) :: n
     end subroutine
 
     !> Circle through two points with a given sagitta.
+    !! n: number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less than
+    !! half the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are
+    !! the same point; 2 two.
     subroutine trvcer1(x1, y1, x2, y2, side, h, r, xc, yc, n) bind(c, name="trvcer1")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer1
@@ -273,7 +281,7 @@ module trelvin
       integer(c_int32_t), intent(in) :: side
       real(c_float), intent(in) :: h
       real(c_float), intent(inout) :: r, xc, yc
-      integer(c_int32_t), intent(inout) :: n
+      integer(c_int32_t), intent(out) :: n
     end subroutine
 
     !> Classifies a circle cut by a line, with a trace.
@@ -465,7 +473,7 @@ module trelvin
       integer(c_int32_t), intent(in) :: n
     end subroutine
 
-    !> Sorts Integers ascending, in place. Quadratic in n.
+    !> Sorts Integers ascending, in place.
     subroutine trvord1(V, n) bind(c, name="trvord1")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvord1
@@ -510,7 +518,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: pos(*)
     end subroutine
 
-    !> All pairs of entries of two lists that agree within a tolerance.
+    !> All pairs of entries of two lists that differ by at most a tolerance.
     subroutine trvmer13(na, A, nb, B, count, IA, IB, tol) bind(c, name="trvmer13")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer13
@@ -549,8 +557,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: V(*), n
     end subroutine
 
-    !> Sorts Reals ascending and drops repeats, in place: trvmer12 with the tolerance of the
-    !! library.
+    !> Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
     subroutine trvmer3(V, n) bind(c, name="trvmer3")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer3
@@ -558,7 +565,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: n
     end subroutine
 
-    !> Sorts Reals ascending and drops each entry within a tolerance of the last one kept, in place.
+    !> Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
     subroutine trvmer12(V, n, tol) bind(c, name="trvmer12")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer12
@@ -608,7 +615,7 @@ module trelvin
     end subroutine
 
     !> All pairs of points of two lists that agree within a tolerance in each coordinate.
-    !! status: 0 no pair; 1 some; 2 every point of A has a partner.
+    !! status: 0 no pair; 1 some points of A have a partner; 2 every point of A has one.
     subroutine trvptp1(na, XA, YA, ZA, nb, XB, YB, ZB, tol, count, IA, IB, &
         status) bind(c, name="trvptp1")
       import :: c_float, c_int32_t
@@ -662,8 +669,9 @@ module trelvin
     end subroutine
 
     !> Where the segment from P1 to P2 crosses a closed outline.
-    !! status: 1 P1 is inside, by the even-odd rule of trvppp; 0 it is not; -1 refused: n < 3, or P1
-    !! and P2 coincide within the tolerance in both coordinates.
+    !! status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1 and P2
+    !! coincide within the tolerance in both coordinates. P1 on the outline counts as the point just
+    !! to its right, or just above where that is on the outline too.
     subroutine trvpin(X, Y, n, x1, y1, x2, y2, count, XI, YI, T, EDGE, &
         status) bind(c, name="trvpin")
       import :: c_float, c_int32_t
@@ -1146,6 +1154,7 @@ module trelvin
     end subroutine
 
     !> I section with unequal flanges.
+    !! np: number of polygons: 1.
     subroutine trvsec_ia(H, B1, B2, T1, T2, TW, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, &
         q1, q2) bind(c, name="trvsec_ia")
       import :: c_float, c_int32_t
@@ -1159,6 +1168,7 @@ module trelvin
     end subroutine
 
     !> I section lying on its side.
+    !! np: number of polygons: 1.
     subroutine trvsec_h(H, B1, B2, T1, T2, TW, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, &
         q1, q2) bind(c, name="trvsec_h")
       import :: c_float, c_int32_t
@@ -1172,6 +1182,7 @@ module trelvin
     end subroutine
 
     !> T section, flange at the top.
+    !! np: number of polygons: 1.
     subroutine trvsec_t(B, H, TF, TW, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, &
         q2) bind(c, name="trvsec_t")
       import :: c_float, c_int32_t
@@ -1185,19 +1196,22 @@ module trelvin
     end subroutine
 
     !> Flat bar.
+    !! np: number of polygons: 1.
     subroutine trvsec_b(B, H, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, &
         q2) bind(c, name="trvsec_b")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvsec_b
       integer(c_int32_t), intent(in) :: B
       real(c_float), intent(in) :: H, q
-      integer(c_int32_t), intent(inout) :: np, nv(*)
+      integer(c_int32_t), intent(out) :: np
+      integer(c_int32_t), intent(inout) :: nv(*)
       real(c_float), intent(inout) :: X(*), Y(*)
       integer(c_int32_t), intent(inout) :: code(*)
       real(c_float), intent(inout) :: sign(*), z1(*), z2(*), z3(*), z4(*), z5(*), q1(*), q2(*)
     end subroutine
 
     !> I section lying on its side with a cover plate on its flanges' top edges, closing one cell.
+    !! np: number of polygons: 2.
     subroutine trvsec_h1b(W, D, P, T1, T2, TW, TP, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, &
         z5, q1, q2) bind(c, name="trvsec_h1b")
       import :: c_float, c_int32_t
@@ -1211,6 +1225,7 @@ module trelvin
     end subroutine
 
     !> Box girder with overhanging flanges.
+    !! np: number of polygons: 2.
     subroutine trvsec_box(BT, BB, TT, TB, H, TW, G, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, &
         z5, q1, q2) bind(c, name="trvsec_box")
       import :: c_float, c_int32_t
@@ -1224,6 +1239,7 @@ module trelvin
     end subroutine
 
     !> Rectangular hollow section with sharp corners.
+    !! np: number of polygons: 2.
     subroutine trvsec_rhs(B, H, T, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, &
         q2) bind(c, name="trvsec_rhs")
       import :: c_float, c_int32_t
@@ -1237,6 +1253,7 @@ module trelvin
     end subroutine
 
     !> Two equal angles back to back, horizontal legs at the top.
+    !! np: number of polygons: 2.
     subroutine trvsec_l2(B, H, G, T, TV, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, &
         q2) bind(c, name="trvsec_l2")
       import :: c_float, c_int32_t
@@ -1250,6 +1267,7 @@ module trelvin
     end subroutine
 
     !> Top plate on a closed cell of two webs and a bottom plate between them.
+    !! np: number of polygons: 2.
     subroutine trvsec_tab(B, H, BW, E, T, TW, TB, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, &
         q1, q2) bind(c, name="trvsec_tab")
       import :: c_float, c_int32_t
@@ -1263,6 +1281,7 @@ module trelvin
     end subroutine
 
     !> Two flanges joined by two webs and a middle plate, closing two cells.
+    !! np: number of polygons: 3.
     subroutine trvsec_h2b(B, W, HI, TW1, TW2, TM, TF, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, &
         z5, q1, q2) bind(c, name="trvsec_h2b")
       import :: c_float, c_int32_t
@@ -1276,6 +1295,7 @@ module trelvin
     end subroutine
 
     !> I section with unequal flanges, an eccentric web and 45-degree fillets.
+    !! np: number of polygons: 1.
     subroutine trvsec_i(H, B1, B2, T1, T2, TW, S1, S2, E, q, np, nv, X, Y, code, sign, z1, z2, z3, &
         z4, z5, q1, q2) bind(c, name="trvsec_i")
       import :: c_float, c_int32_t
@@ -1289,6 +1309,7 @@ module trelvin
     end subroutine
 
     !> Channel open to the right, with lips turned inwards and folds turned back towards the web.
+    !! np: number of polygons: 1.
     subroutine trvsec_c(H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2, TD1, TD2, q, np, nv, X, &
         Y, code, sign, z1, z2, z3, z4, z5, q1, q2) bind(c, name="trvsec_c")
       import :: c_float, c_int32_t

@@ -234,36 +234,46 @@ procedure trvcer(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer';
 
 /// <summary>Intersection of a line and a circle.</summary>
+/// <remarks>n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts
+/// it.</remarks>
 procedure trvlci(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a, b, c, D, E, F: Single;
-  var n: LongInt;
+  out n: LongInt;
   var x1, y1, x2, y2: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvlci';
 
 /// <summary>Intersection of two circles: that of their radical line with the first circle
 /// (trvlci).</summary>
+/// <remarks>n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the
+/// tolerance; 1 the circles touch; 2 they cut each other.</remarks>
 procedure trvc12(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} D1, E1, F1, D2, E2, F2: Single;
-  var n: LongInt;
+  out n: LongInt;
   var x1, y1, x2, y2: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvc12';
 
 /// <summary>Centres of the circles of a radius through two points.</summary>
+/// <remarks>n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord,
+/// the discriminant is NaN, or the chord is horizontal; 1 both candidates are the same point; 2
+/// two.</remarks>
 procedure trvcer2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x1, y1, x2, y2: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} r: Single;
   var xa, ya, xb, yb, xc, yc: Single;
-  var n: LongInt);
+  out n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer2';
 
 /// <summary>Circle through two points with a given sagitta.</summary>
+/// <remarks>n: number of centres (trvcer2): 0 h &lt; 1e-5, P1 = P2 exactly, r is at most 1e-5 or
+/// less than half the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates
+/// are the same point; 2 two.</remarks>
 procedure trvcer1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x1, y1, x2, y2: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} h: Single;
   var r, xc, yc: Single;
-  var n: LongInt);
+  out n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer1';
 
 /// <summary>Classifies a circle cut by a line, with a trace.</summary>
@@ -425,7 +435,7 @@ procedure trvord(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvord';
 
-/// <summary>Sorts Integers ascending, in place. Quadratic in n.</summary>
+/// <summary>Sorts Integers ascending, in place.</summary>
 procedure trvord1(
   var V: TTrvIntegers;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt);
@@ -463,7 +473,7 @@ procedure trvsel1(
   var pos: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsel1';
 
-/// <summary>All pairs of entries of two lists that agree within a tolerance.</summary>
+/// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
 procedure trvmer13(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvReals;
@@ -501,14 +511,14 @@ procedure trvmer2(
   var n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer2';
 
-/// <summary>Sorts Reals ascending and drops repeats, in place: trvmer12 with the tolerance of the
-/// library.</summary>
+/// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left, in
+/// place.</summary>
 procedure trvmer3(
   var V: TTrvReals;
   var n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer3';
 
-/// <summary>Sorts Reals ascending and drops each entry within a tolerance of the last one kept, in
+/// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left, in
 /// place.</summary>
 procedure trvmer12(
   var V: TTrvReals;
@@ -556,7 +566,8 @@ procedure trvmer16(
 
 /// <summary>All pairs of points of two lists that agree within a tolerance in each
 /// coordinate.</summary>
-/// <remarks>status: 0 no pair; 1 some; 2 every point of A has a partner.</remarks>
+/// <remarks>status: 0 no pair; 1 some points of A have a partner; 2 every point of A has
+/// one.</remarks>
 procedure trvptp1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} XA, YA, ZA: TTrvReals;
@@ -603,8 +614,9 @@ procedure trvppp(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvppp';
 
 /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
-/// <remarks>status: 1 P1 is inside, by the even-odd rule of trvppp; 0 it is not; -1 refused: n &lt;
-/// 3, or P1 and P2 coincide within the tolerance in both coordinates.</remarks>
+/// <remarks>status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n &lt; 3, or P1
+/// and P2 coincide within the tolerance in both coordinates. P1 on the outline counts as the point
+/// just to its right, or just above where that is on the outline too.</remarks>
 procedure trvpin(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X, Y: TTrvReals;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
@@ -999,6 +1011,7 @@ procedure trvef2(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvef2';
 
 /// <summary>I section with unequal flanges.</summary>
+/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_ia(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, B1, B2, T1, T2, TW, q: Single;
   out np: LongInt;
@@ -1009,6 +1022,7 @@ procedure trvsec_ia(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_ia';
 
 /// <summary>I section lying on its side.</summary>
+/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_h(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, B1, B2, T1, T2, TW, q: Single;
   out np: LongInt;
@@ -1019,6 +1033,7 @@ procedure trvsec_h(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_h';
 
 /// <summary>T section, flange at the top.</summary>
+/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_t(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H, TF, TW, q: Single;
   out np: LongInt;
@@ -1029,10 +1044,11 @@ procedure trvsec_t(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_t';
 
 /// <summary>Flat bar.</summary>
+/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_b(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, q: Single;
-  var np: LongInt;
+  out np: LongInt;
   var nv: TTrvIntegers;
   var X, Y: TTrvReals;
   var code: TTrvIntegers;
@@ -1041,6 +1057,7 @@ procedure trvsec_b(
 
 /// <summary>I section lying on its side with a cover plate on its flanges' top edges, closing one
 /// cell.</summary>
+/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_h1b(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} W, D, P, T1, T2, TW, TP, q: Single;
   out np: LongInt;
@@ -1051,6 +1068,7 @@ procedure trvsec_h1b(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_h1b';
 
 /// <summary>Box girder with overhanging flanges.</summary>
+/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_box(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} BT, BB, TT, TB, H, TW, G, q: Single;
   out np: LongInt;
@@ -1061,6 +1079,7 @@ procedure trvsec_box(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_box';
 
 /// <summary>Rectangular hollow section with sharp corners.</summary>
+/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_rhs(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H, T, q: Single;
   out np: LongInt;
@@ -1071,6 +1090,7 @@ procedure trvsec_rhs(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_rhs';
 
 /// <summary>Two equal angles back to back, horizontal legs at the top.</summary>
+/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_l2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H, G, T, TV, q: Single;
   out np: LongInt;
@@ -1081,6 +1101,7 @@ procedure trvsec_l2(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_l2';
 
 /// <summary>Top plate on a closed cell of two webs and a bottom plate between them.</summary>
+/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_tab(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H, BW, E, T, TW, TB, q: Single;
   out np: LongInt;
@@ -1091,6 +1112,7 @@ procedure trvsec_tab(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_tab';
 
 /// <summary>Two flanges joined by two webs and a middle plate, closing two cells.</summary>
+/// <remarks>np: number of polygons: 3.</remarks>
 procedure trvsec_h2b(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, W, HI, TW1, TW2, TM, TF, q: Single;
   out np: LongInt;
@@ -1101,6 +1123,7 @@ procedure trvsec_h2b(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_h2b';
 
 /// <summary>I section with unequal flanges, an eccentric web and 45-degree fillets.</summary>
+/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_i(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, B1, B2, T1, T2, TW, S1, S2, E, q: Single;
   out np: LongInt;
@@ -1112,6 +1135,7 @@ procedure trvsec_i(
 
 /// <summary>Channel open to the right, with lips turned inwards and folds turned back towards the
 /// web.</summary>
+/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_c(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2,
     TD1, TD2, q: Single;

@@ -1710,7 +1710,7 @@ def trvmer13(
     Equal infinities have no difference and make no pair, and neither does anything at a tolerance
     that is negative or NaN; here the merging routines differ. Time grows with na+nb and the number
     of pairs, unless entries crowd within a few tolerances: a crowd's are all compared. Takes up to
-    36*(na+nb) bytes of the heap for the call; where memory is short all entries are compared.
+    32*(na+nb) bytes of the heap for the call; where memory is short all entries are compared.
 
     Retains: nothing.
 
@@ -1916,7 +1916,7 @@ def trvmer4(
     Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
     infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. Time
     grows with na+nb, unless entries crowd within a few tolerances: a crowd's are compared with each
-    other. Takes up to 36*(na+nb) bytes of the heap for the call; where memory is short all entries
+    other. Takes up to 48*(na+nb) bytes of the heap for the call; where memory is short all entries
     are compared.
 
     Retains: nothing.
@@ -2077,7 +2077,7 @@ def trvptp1(
     Coordinates agree that are equal or differ by at most the tolerance. So a NaN agrees with
     nothing, an infinity with itself, and at a tolerance that is negative or NaN equal coordinates
     alone agree. Time grows with na+nb and the number of pairs, unless points crowd within a few
-    tolerances: a crowd's are all compared. Takes up to 36*(na+nb) bytes of the heap for the call;
+    tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the call;
     where memory is short all points are compared.
 
     Retains: nothing.
@@ -2146,7 +2146,7 @@ def trvptp2(
     their coordinates is equal or differs by at most the tolerance. So a NaN agrees with nothing, an
     infinity with itself, and at a tolerance that is negative or NaN equal coordinates alone agree.
     Time grows with na+nb+nc and the number of pairs, unless points crowd within a few tolerances: a
-    crowd's are all compared. Takes up to 36*(na+nb+nc) bytes of the heap for the call; where memory
+    crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the call; where memory
     is short all points are compared.
 
     Retains: nothing.
