@@ -98,7 +98,7 @@ std::string usage_of(const std::string &name) {
   for (std::size_t i = 0; i < profile->may_be_zero.size(); ++i) {
     text.append(i == 0 ? "\nMay be 0: " : ", ").append(profile->may_be_zero[i]);
   }
-  return text + (profile->may_be_zero.empty() ? "" : ".\n");
+  return text + (profile->may_be_zero.size() == 0 ? "" : ".\n");
 }
 
 std::string version() {

@@ -1,6 +1,5 @@
 #include <algorithm>
-#include <array>
-#include <cmath>
+#include <vector>
 
 #include "numbers.h"
 #include "profiles.h"

@@ -2,6 +2,7 @@
 
 #include <trelvin/properties.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -69,10 +70,9 @@ Properties properties_of(Section &section) {
 
 bool are_representable(const Properties &p) {
   using Single = std::numeric_limits<float>;
-  for (const double value : {p.area, p.centroidal.x, p.centroidal.y, p.i1, p.i2}) {
-    if (!(value >= Single::min() && value <= Single::max())) return false;
-  }
-  return true;
+  const auto figures = {p.area, p.centroidal.x, p.centroidal.y, p.i1, p.i2};
+  return std::all_of(figures.begin(), figures.end(),
+                     [](double value) { return value >= Single::min() && value <= Single::max(); });
 }
 
 }  // namespace host

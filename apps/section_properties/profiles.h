@@ -1,29 +1,47 @@
 // The profiles this program knows, and how each becomes a section.
 #pragma once
 
+#include <array>
+#include <initializer_list>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "figures.h"
 
 namespace host {
 
 constexpr std::size_t most_dimensions = 14;
+constexpr std::size_t number_of_profiles = 14;
+
+class Names {
+ public:
+  constexpr Names(std::initializer_list<std::string_view> names) {
+    for (const std::string_view name : names) names_[size_++] = name;
+  }
+
+  [[nodiscard]] constexpr std::size_t size() const { return size_; }
+  constexpr std::string_view operator[](std::size_t i) const { return names_[i]; }
+  [[nodiscard]] const std::string_view *begin() const { return names_.data(); }
+  [[nodiscard]] const std::string_view *end() const { return names_.data() + size_; }
+
+ private:
+  std::array<std::string_view, most_dimensions> names_{};
+  std::size_t size_ = 0;
+};
 
 struct Profile {
   std::string_view name;
   std::string_view description;
-  std::vector<std::string_view> dimensions;  // in the order of the library's routine
+  Names dimensions;  // in the order of the library's routine
   // Why the dimensions cannot form a section, or nullptr when they can; none for any will do.
   const char *(*fault)(const float *dimensions);
   Section (*section)(const float *dimensions);
   Torsion (*torsion)(const float *dimensions);
   std::string_view letters;  // a picture with the dimensions
-  std::vector<std::string_view> may_be_zero = {};
+  Names may_be_zero = {};
 };
 
-const std::vector<Profile> &profiles();
+const std::array<Profile, number_of_profiles> &profiles();
 
 // "rhs B H T"
 std::string usage_of(const Profile &profile);
