@@ -70,7 +70,7 @@ class Line {
   void text(std::string_view text) {
     flush();
     csv_ += ',';
-    const auto is_special = [](char c) { return c == ',' || c == ';' || c == '"'; };
+    const auto is_special = [](char c) { return c == ',' || c == ';' || c == '"' || c == '\r'; };
     if (std::none_of(text.begin(), text.end(), is_special)) {
       csv_ += text;
       return;

@@ -134,6 +134,10 @@ Refusal properties_of(const Given &given, Section &section, Properties &properti
 Figures figures_of(const Given &given, const Properties &properties, const Outline &outline) {
   Figures figures = figures_of(properties, outline);
   figures.torsion = given.profile->torsion(given.dimensions.data());
+  const double polar = properties.centroidal.x + properties.centroidal.y;
+  if (figures.torsion.it > polar) {  // which no section has
+    figures.torsion = {{}, {}, {}, "No torsion: the walls are too thick for thin-walled theory."};
+  }
   return figures;
 }
 

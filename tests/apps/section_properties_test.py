@@ -31,9 +31,10 @@ TOLERANCE = 2e-6  # a few single-precision roundings
 PUBLISHED = {"area": 1e2, "Ix": 1e4, "rx": 10, "Iy": 1e4, "ry": 10, "Wx1": 1e3, "Wpx": 1e3,
              "Wy1": 1e3, "Wpy": 1e3, "It": 1e4, "Iw": 1e9}
 ROLLED = {
-    "200 100 5.6 8.5 12": "28.48 1943 8.26 142.4 2.24 194.3 220.6 28.47 44.61 6.98 12.99",  # IPE 200
+    # IPE 200, IPE 300, HE 200 B, HE 300 A
+    "200 100 5.6 8.5 12": "28.48 1943 8.26 142.4 2.24 194.3 220.6 28.47 44.61 6.98 12.99",
     "300 150 7.1 10.7 15": "53.81 8356 12.46 603.8 3.35 557.1 628.4 80.50 125.2 20.12 125.9",
-    "200 200 9 15 18": "78.08 5696 8.54 2003 5.07 569.6 642.5 200.3 305.8 59.28 171.1",  # HE 200 B
+    "200 200 9 15 18": "78.08 5696 8.54 2003 5.07 569.6 642.5 200.3 305.8 59.28 171.1",
     "290 300 8.5 14 27": "112.5 1.826e4 12.74 6310 7.49 1260 1383 420.6 641.2 85.17 1200",
 }
 
@@ -88,7 +89,8 @@ BAD_INPUT = {
     "c 200 80 60 25 180 12 10 3 4 5 2 2.5 1.5 2": "lips",
     "c 200 80 60 25 20 12 58 3 4 5 2 2.5 1.5 2": "fold 2", "plates": "file",
     "plates missing.txt": "'missing.txt'", "t 100 50 60 8": "flange TF",
-    "t 10 50 6 18": "stem TW",    "h1b 250 200 160 9 200 8 15": "flanges T1 and T2", "h1b 150 200 160 9 22 8 15": "cover plate",
+    "t 10 50 6 18": "stem TW",
+    "h1b 250 200 160 9 200 8 15": "flanges T1 and T2", "h1b 150 200 160 9 22 8 15": "cover plate",
     "h1b 250 200 160 9 22 170 15": "web TW", "box 3000 2000 20 25 40 12 1600": "flanges TT",
     "box 3000 1600 20 25 1500 12 1600": "webs", "l2 100 150 12 10 140": "TV",
     "l 100 60 60 0": "thick", "l 100 60 50 12": "fillet R",
@@ -97,7 +99,8 @@ BAD_INPUT = {
     "h2b 300 240 260 100 140 12 15": "webs TW1", "h2b 300 240 260 10 30 260 15": "middle plate",
     "h2b 200 240 260 10 30 12 15": "webs W", "rolled 300 150 7.1 10.7 75": "fillets R",
     "rolled 80 150 7.1 10.7 30": "fillets R", "rhz 100 100 5": "did you mean 'rhs'?",
-    "rolld 1": "'rolled'?", "Channel 1": "mean 'c'?", "plate x": "'plates'?", "rhs 1,0,5 2 3": "B =",
+    "rolld 1": "'rolled'?", "Channel 1": "mean 'c'?", "plate x": "'plates'?",
+    "rhs 1,0,5 2 3": "B =",
     "rhs 1,0.5 2 3": "B =", "batch": "file", "batch missing.csv": "'missing.csv'",
     "batch a b": "file", "batch a --jobs 0": "--jobs", "rhs 100 100 5 --all": "--all",
 }
@@ -252,10 +255,12 @@ class SectionProperties(unittest.TestCase):
         upright = [plate[2:] + plate[:2] for plate in plates]
         c = f["centroidal"]
         for side, moment, centroid, axis, heights in (
-                ("x", c["Ix"], f["ys"], f["yp"], upright), ("y", c["Iy"], f["xs"], f["xp"], plates)):
+                ("x", c["Ix"], f["ys"], f["yp"], upright),
+                ("y", c["Iy"], f["xs"], f["xp"], plates)):
             half = (max(p[1] for p in heights) - min(p[0] for p in heights)) / 2
             fibres = "e" + "yx"[side == "y"]
-            for name, expected in ((fibres + "1", half - centroid), (fibres + "2", half + centroid)):
+            for name, expected in ((fibres + "1", half - centroid),
+                                   (fibres + "2", half + centroid)):
                 self.assertAlmostEqual(f[name] / expected, 1, delta=tolerance)
                 self.assertAlmostEqual(f["W" + side + name[-1]] * expected / moment, 1,
                                        delta=tolerance)
@@ -306,6 +311,8 @@ class SectionProperties(unittest.TestCase):
         f = figures("l2 100 150 12 10 14")
         names = ["shear centre", "torsion constant", "warping constant"]
         self.assertEqual((f["not_given"], {"xm", "It", "Iw"} & f.keys()), (names, set()))
+        self.assertIn("It", figures("t 80 90 30 8"))
+        self.assertNotIn("It", figures("t 38 372 148 8"))  # a sum of l*t^3/3 above Ip
         text = run("box 3000 2000 20 25 1500 12 1600").stdout
         self.assertIn("\nNot given for this section: shear centre, warping constant.\n", text)
         self.assertNotRegex(text, r"\bIw\b")
@@ -400,7 +407,8 @@ class SectionProperties(unittest.TestCase):
         rows = list(csv.DictReader(result.stdout.splitlines()))
         self.assertEqual([row["line"] for row in rows], ["1", "4", "5", "6", "7", "8", "9"])
         self.assertEqual([row["area"] for row in rows], ["4544", "4552", "4552", "", "", "", "6"])
-        for row, error in zip(rows, ("", "", "", "'rhs'?", "takes 3 dimensions, not 4", "walls T", "")):
+        errors = ("", "", "", "'rhs'?", "takes 3 dimensions, not 4", "walls T", "")
+        for row, error in zip(rows, errors, strict=True):
             self.assertRegex(row["error"], re.escape(error) if error else "^$")
         self.assertEqual(rows[3]["section"], 'rhz "1"')
         self.assertEqual((result.returncode, result.stderr.strip()),
