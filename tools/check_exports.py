@@ -33,10 +33,12 @@ ALLOWED_IMPORTS = {
         "CreateFileA",
         "CreateFileW",
         "DisableThreadLibraryCalls",
+        "GetLastError",
+        "SetLastError",
         "SetFilePointer",
         "WriteFile",
     },
-    "msvcrt.dll": MEMORY | {"_errno"},  # the mathematics library's square root asks for it
+    "msvcrt.dll": MEMORY,
 }
 BIND_NOW = 8  # of DT_FLAGS
 ALLOWED_DEPENDENCIES = {"libc.so.6", "libm.so.6"}
