@@ -3,6 +3,7 @@
 #include <trelvin/sections.h>
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 
 #include "thin_plates.h"
@@ -12,11 +13,18 @@ namespace {
 
 // Open sections --------------------------------------------------------------------------------
 
-Torsion open_torsion(const std::vector<Plate> &plates, std::string note) {
+constexpr const char *too_thick = "No torsion: a wall is thicker than long.";
+
+// A flange is two plates, its halves.
+bool is_too_thick(const Plate &p) { return std::hypot(p.x2 - p.x1, p.y2 - p.y1) < 0.5F * p.t; }
+
+Torsion open_torsion(const std::vector<Plate> &plates, const char *note) {
+  if (std::any_of(plates.begin(), plates.end(), is_too_thick)) return {{}, {}, {}, too_thick};
   const ThinSection s = thin_section(plates);
-  if (s.status != 0)
+  if (s.status != 0) {
     return {{}, {}, {}, "No torsion: the centre lines of the walls meet or have no length."};
-  return {s.It, s.Iw, Point{s.xm, s.ym}, std::move(note)};
+  }
+  return {s.It, s.Iw, Point{s.xm, s.ym}, note};
 }
 
 constexpr const char *thin_walls = "Torsion: thin walls on centre lines (V. Z. Vlasov).";
@@ -66,6 +74,7 @@ Torsion closed_torsion(double width, double height, std::initializer_list<Wall> 
   double flexibility = 0;
   double own = 0;
   for (const Wall &w : walls) {
+    if (w.length < w.t) return {{}, {}, {}, too_thick};
     flexibility += w.length / w.t;
     own += w.length * w.t * w.t * w.t / 3;
   }
@@ -132,6 +141,7 @@ Torsion torsion_of_rolled(const float *d) {
   Torsion torsion = open_torsion(plates_of_i(d[0], d[1], d[1], d[3], d[3], d[2]),
                                  "Torsion constant: with fillets (NACA report 334), as in tables "
                                  "of sections; warping constant: centre lines.");
+  if (!torsion.it) return torsion;
   const double inscribed =  // diameter of the circle in a junction
       ((R + TW / 2) * (R + TW / 2) + (R + TF) * (R + TF) - R * R) / (2 * R + TF);
   const double square = inscribed * inscribed;

@@ -312,7 +312,7 @@ class SectionProperties(unittest.TestCase):
         names = ["shear centre", "torsion constant", "warping constant"]
         self.assertEqual((f["not_given"], {"xm", "It", "Iw"} & f.keys()), (names, set()))
         self.assertIn("It", figures("t 80 90 30 8"))
-        self.assertNotIn("It", figures("t 38 372 148 8"))  # a sum of l*t^3/3 above Ip
+        self.assertNotIn("It", figures("t 38 372 148 8"))  # a bar of 38 by 148 with a fin
         text = run("box 3000 2000 20 25 1500 12 1600").stdout
         self.assertIn("\nNot given for this section: shear centre, warping constant.\n", text)
         self.assertNotRegex(text, r"\bIw\b")
