@@ -4,8 +4,7 @@
 // the paths that its contract names. So an output may share its address with a single input.
 #pragma once
 
-#include <cstdint>
-
+#include "entries/floating_point_control.h"
 #include "entries/retained.h"
 #include "numeric/real.h"
 #include "trelvin/calling.h"
@@ -16,6 +15,8 @@ namespace trelvin {
 inline bool seldom(bool condition) {
   return __builtin_expect(static_cast<long>(condition), 0L) != 0;
 }
+#else
+inline bool seldom(bool condition) { return condition; }
 #endif
 
 // The processor's floating-point control, as the library needs it for as long as a call lasts.
@@ -25,82 +26,20 @@ inline bool seldom(bool condition) {
 // memory and outputs go there, so no arithmetic moves across the statements that touch memory here.
 class Door {
  public:
-#if defined(__GNUC__) && (defined(__i386__) || defined(__x86_64__))
-  Door() {
-    asm volatile("stmxcsr %0" : "=m"(mxcsr_) : : "memory");
-#ifdef __i386__
-    asm volatile("fnstcw %0" : "=m"(x87_control_) : : "memory");
-    foreign_ = foreign_sse() || foreign_x87();
-#else
-    foreign_ = foreign_sse();
-#endif
-    if (seldom(foreign_)) enter();
+  Door() : foreign_(control_.foreign()) {
+    if (seldom(foreign_)) control_.enter();
   }
 
   ~Door() {
-    if (seldom(foreign_)) leave();
+    if (seldom(foreign_)) control_.leave();
   }
 
- private:
-  static constexpr std::uint32_t sse_flags = 0x3F;
-  static constexpr std::uint32_t sse_default = 0x1F80;  // nearest, masked, subnormals kept
-
-  [[nodiscard]] bool foreign_sse() const { return (mxcsr_ & ~sse_flags) != sse_default; }
-
-  // NOLINTNEXTLINE(readability-convert-member-functions-to-static): not where it keeps the x87's
-  void enter() {
-    asm volatile("ldmxcsr %0" : : "m"(sse_default) : "memory");
-#ifdef __i386__
-    // Stores the environment, flags included, and masks all exceptions.
-    constexpr std::uint16_t x87_default = 0x037F;
-    asm volatile("fnstenv %0\n\tfnclex\n\tfldcw %1" : "=m"(x87_) : "m"(x87_default) : "memory");
-#endif
-  }
-
-  void leave() {
-#ifdef __i386__
-    asm volatile("fnclex\n\tfldenv %0" : : "m"(x87_) : "memory");
-#endif
-    asm volatile("ldmxcsr %0" : : "m"(mxcsr_) : "memory");
-  }
-
-#ifdef __i386__
-  // The x87 unit carries results of functions and nothing else: its masks matter, and that nothing
-  // is rounded below double precision. 53 bits are what Windows itself sets.
-  [[nodiscard]] bool foreign_x87() const {
-    return (x87_control_ & 0x3F) != 0x3F || (x87_control_ & 0x0C00) != 0 ||
-           (x87_control_ & 0x0200) == 0;
-  }
-
-  struct Environment {
-    std::uint32_t words[7];
-  };
-  Environment x87_;
-  std::uint16_t x87_control_;
-#endif
-  std::uint32_t mxcsr_;
-  bool foreign_;
-#elif defined(__GNUC__) && defined(__aarch64__)
-  Door() {
-    asm volatile("mrs %0, fpcr" : "=r"(fpcr_) : : "memory");
-    if (seldom(fpcr_ != 0)) set(0);
-  }
-
-  ~Door() {
-    if (seldom(fpcr_ != 0)) set(fpcr_);
-  }
-
- private:
-  static void set(std::uint64_t fpcr) { asm volatile("msr fpcr, %0" : : "r"(fpcr) : "memory"); }
-
-  std::uint64_t fpcr_;
-#else
-  Door() {}
-#endif
-
- public:
   Door(const Door &) = delete;
   Door &operator=(const Door &) = delete;
+
+ private:
+  FloatingPointControl control_;
+  bool foreign_;
 };
 
 // Writes what belongs together.

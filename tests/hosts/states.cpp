@@ -6,11 +6,10 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <map>
 #include <string>
 
 #include "hosts/foreign_call.h"
+#include "hosts/golden_bits.h"
 #include "hosts/hash.h"
 #include "hosts/random_calls.h"
 #include "hosts/sequence_of_routines.h"
@@ -23,15 +22,6 @@ using random_calls::Routine;
 
 constexpr std::uint32_t direction_flag = 0x400;
 constexpr std::uint32_t x87_flags = 0x38FF;  // exceptions and stack top; not what comparisons leave
-
-std::map<std::string, std::uint64_t> read_digest(const char *file) {
-  std::map<std::string, std::uint64_t> digest;
-  std::ifstream lines(file);
-  std::string name;
-  std::string hash;
-  while (lines >> name >> hash) digest[name] = std::strtoull(hash.c_str(), nullptr, 16);
-  return digest;
-}
 
 // What a call in the state leaves otherwise than it should; null when all is well.
 const char *call_in_state(const Routine &routine, Arguments &arguments, const ForeignCall &state) {
