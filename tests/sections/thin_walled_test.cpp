@@ -80,7 +80,8 @@ TEST(ThinWalled, AnObliqueSectionAddsUpByHand) {
   expect_near({s.Wx1, s.Wx2, s.Wy1, s.Wy2}, {200.5, 8020 / 23.0, 61.6, 192.5}, 1e-7);
   expect_near({s.xp, s.yp, s.Wpx, s.Wpy}, {5 / 11.0, 5, 350, 1270 / 11.0}, 1e-7);
   expect_near({s.It, s.Wt, s.r0}, {80, 40, std::sqrt(9560 / 180.0 + 425 / 9.0)}, 1e-7);
-  EXPECT_TRUE(s.xm == 0 && s.ym == 0 && s.Iw == 0 && s.W1[1] == 0 && s.W2[1] == 0);
+  EXPECT_EQ((Values{s.xm, s.ym, s.Iw, s.W1[1], s.W2[1], s.W1[2], s.W2[2]}),
+            (Values{0, 0, 0, 0, 0, unwritten, unwritten}));
 }
 
 TEST(ThinWalled, AnInclinedBarHasTheMomentsOfABar) {

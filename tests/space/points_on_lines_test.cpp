@@ -34,9 +34,10 @@ TEST(PointsOnLines, TwoPlanesAgreeWithAPointAtTheRetainedStation) {
     float a1, b1, c1, d1, a2, b2, c2, d2;
   };
   const float n = not_a_number;
-  const Planes oblique = {2, 1, 3, 2, 4, 3, 5, -2};     // (0, 4, -2) and onwards by (2, -1, -1)
-  const Planes upright = {2, 1, 0, -23, 3, 4, 0, -57};  // x = 7, y = 9
-  const Planes across = {1, 1, 2, -8, 4, 2, 4, -22};    // x = 3, y + 2 z = 5
+  const Planes oblique = {2, 1, 3, 2, 4, 3, 5, -2};        // (0, 4, -2) and onwards by (2, -1, -1)
+  const Planes upright = {2, 1, 0, -23, 3, 4, 0, -57};     // x = 7, y = 9
+  const Planes across = {1, 1, 2, -8, 4, 2, 4, -22};       // x = 3, y + 2 z = 5
+  const Planes slight = {1, 1, 0, 0, 0, 0, tolerance, 0};  // no direction counts but the caller's
   const Planes none = {n, n, n, n, n, n, n, n};
   float ex = unwritten, ey = unwritten;
   const auto expect = [&](const Planes &g, float ez, float x, float y, float z, std::int32_t code,
@@ -52,7 +53,8 @@ TEST(PointsOnLines, TwoPlanesAgreeWithAPointAtTheRetainedStation) {
   expect(oblique, 2, 6, 1, -5, 1, 0);
   expect(oblique, 0, 0, 4.26F, -2, 5, 0);
   expect(oblique, 0, 0, 4, -2.26F, 5, 0);
-  // Along z only if the caller says so.
+  // Along z, at the retained -2, but only if the caller says so.
+  expect(slight, 2 * tolerance, -1, 1, n, 4, 1);
   expect(upright, 0, 7, 9, 0, 0, 0);
   expect(upright, 5, 7.25F, 8.75F, n, 4, 1);
   expect(upright, 5, 7.26F, 9, 0, 4, 0);
