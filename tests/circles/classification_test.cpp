@@ -95,15 +95,6 @@ TEST_F(Trace, IsAppendedByteForByte) {
                                                      ";x3;             NaN;y3;             NaN"));
 }
 
-TEST_F(Trace, RegionIsThatOfTheCentreWhateverTheSideOfTheLine) {
-  for (const int k : {1, -1}) {  // the line's normal turned round, too
-    EXPECT_EQ(classify(1, 7, 5, 0, k, -20 * k)[0], 1);
-    EXPECT_EQ(classify(1, -7, 5, 0, k, 20 * k)[0], 2);
-    EXPECT_EQ(classify(1, -7, 5, 0, k, 9 * k)[0], 3);
-    EXPECT_EQ(classify(1, 7, 5, 0, k, -9 * k)[0], 4);
-  }
-}
-
 TEST_F(Trace, NumbersAreThoseOfTheCLibrary) {
   std::mt19937 random(3);
   std::string expected;

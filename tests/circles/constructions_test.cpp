@@ -32,11 +32,13 @@ TEST(Constructions, OneFigureInFiveFrames) {
     Arc arc;
     double x, y, x_chord, y_chord;
   };
+  // Turned by the angle of sine 40/401, so that the chord rises by less than 1.
+  const Arc rising = {0, 0, -3.680798F, -3.3840399F, 4.2793017F, -2.5860349F};
   const Frame frames[] = {{level, 4, -2, 4, -1},
                           {{1, 2, 4, -2, 4, 6}, 5, 5, 4, 5},
                           {{1, 2, 5, 5, -3, 5}, -2, 6, -2, 5},
                           {{1, 2, -2, 6, -2, -2}, -3, -1, -2, -1},
-                          {{0, 0, -1.4F, -4.8F, 5, 0}, 4.8, -1.4, 4.2, -0.6}};
+                          {rising, 3.3840399, -3.680798, 3.2842893, -2.6857855}};
   for (const Frame &f : frames) {
     Arc arc = f.arc, reversed = {arc[0], arc[1], arc[4], arc[5], arc[2], arc[3]};
     const Values on_arc = {f.x, f.y, 1}, on_chord = {f.x_chord, f.y_chord, 0};

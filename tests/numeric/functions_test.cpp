@@ -6,7 +6,6 @@
 using namespace trelvin_test;
 using trelvin::arc_cosine;
 using trelvin::arc_tangent;
-using trelvin::decay;
 using trelvin::sine;
 using trelvin::sine_cosine;
 using trelvin::tangent;
@@ -103,12 +102,4 @@ TEST(Functions, SineAndCosineInDoublePrecision) {
   EXPECT_DOUBLE_EQ(wide_sine_cosine(-pi / 6).sine, -0.5);
   EXPECT_DOUBLE_EQ(wide_sine_cosine(-pi / 6).cosine, std::sqrt(0.75));
   EXPECT_TRUE(std::signbit(wide_sine_cosine(-0.0).sine));
-}
-
-TEST(Functions, Decay) {
-  EXPECT_EQ(decay(0), 1);
-  EXPECT_DOUBLE_EQ(decay(1), 0.36787944117144233);
-  EXPECT_DOUBLE_EQ(decay(0.001), 0.99900049983337502);
-  EXPECT_DOUBLE_EQ(decay(40), 4.2483542552915889e-18);
-  EXPECT_DOUBLE_EQ(decay(700), 9.8596765437597708e-305);
 }
