@@ -4,6 +4,7 @@ section_properties_test.py [unittest options] -- COMMAND...
 or with the command in the variable SECTION_PROPERTIES: "wine .../section_properties.exe".
 """
 import csv
+import functools
 import json
 import math
 import os
@@ -111,11 +112,16 @@ def run(arguments, folder=None, stdout=subprocess.PIPE, **options):
                           stderr=subprocess.PIPE, encoding="utf-8", check=False, **options)
 
 
-def figures(arguments):
+@functools.cache  # starting a program under Wine takes its time
+def json_of(arguments):
     result = run(arguments + " --json")
     if result.returncode != 0:
         raise AssertionError(result.stderr)
-    return json.loads(result.stdout)
+    return result.stdout
+
+
+def figures(arguments):
+    return json.loads(json_of(arguments))
 
 
 def add_plates(plates):
