@@ -26,7 +26,7 @@ DLL = headers.ROOT / "build/windows/bin/Trelvin.dll"
 SHARED_LIBRARY = headers.ROOT / "build/native/lib/libtrelvin.so"
 
 LARGEST_DLL = 200 * 1024
-MEMORY = {"calloc", "free", "malloc", "memcpy", "memmove", "memset"}
+MEMORY = {"calloc", "free", "malloc", "memcpy", "memmove", "memset", "strlen"}
 ALLOWED_IMPORTS = {
     "KERNEL32.dll": {
         "CloseHandle",

@@ -105,7 +105,7 @@ TEST(ThinWalled, PlatesOnOneLineTwistAboutTheirCentroid) {
 TEST(ThinWalled, EqualAreaAxisInAPlatesCorner) {
   // A square on its corner, 20 high, and 60 of area above it: 70 are missing to half of 260.
   const Section s({{0, 0, 10, 10, 14.142136F}, {10, 10, 10, 40, 2}});
-  EXPECT_NEAR(s.yp, 15 - std::sqrt(70), 1e-6);
+  expect_near({s.yp, s.Wpx}, {15 - std::sqrt(70), 2600 - 280 * std::sqrt(70) / 3}, 1e-6);
 }
 
 TEST(ThinWalled, EqualAreaAxisInTheMiddleOfAGap) {
