@@ -66,11 +66,13 @@ class X87Control {
   std::uint16_t control_;
 };
 #else
+// NOLINTBEGIN(readability-convert-member-functions-to-static): called as those of the other are
 struct X87Control {  // unused by 64-bit programs
-  [[nodiscard]] static bool foreign() { return false; }
-  static void enter() {}
-  static void leave() {}
+  [[nodiscard]] bool foreign() const { return false; }
+  void enter() {}
+  void leave() {}
 };
+// NOLINTEND(readability-convert-member-functions-to-static)
 #endif
 
 class FloatingPointControl {

@@ -100,8 +100,8 @@ TEST_F(Trace, NumbersAreThoseOfTheCLibrary) {
   std::string expected;
   for (int i = 0; i < 2000; ++i) {
     // Up to 2e18; every second one has few digits, of which some end in a 5 that is rounded to even.
-    const auto bits =
-        static_cast<std::uint32_t>((i % 2 == 0 ? i * 0x100000ULL : random()) % 0x5E000000U);
+    const auto bits = static_cast<std::uint32_t>(
+        (i % 2 == 0 ? static_cast<std::uint64_t>(i) * 0x100000U : random()) % 0x5E000000U);
     float y = 0;
     std::memcpy(&y, &bits, sizeof y);
     const Values found = classify(0, 0, std::max(1.0F, 2 * y), 0, 1, -y);
