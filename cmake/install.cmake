@@ -4,8 +4,12 @@ include(CMakePackageConfigHelpers)
 
 install(TARGETS trelvin EXPORT TrelvinTargets)
 install(DIRECTORY include/trelvin TYPE INCLUDE)
+get_target_property(library_name trelvin OUTPUT_NAME)  # of the file that programs link
+if(NOT library_name)
+  set(library_name trelvin)
+endif()
 if(WIN32 AND BUILD_SHARED_LIBS)
-  install(FILES src/entries/Trelvin.def TYPE LIB)
+  install(FILES src/entries/${library_name}.def ${TRELVIN_MICROSOFT_LIBRARY} TYPE LIB)
 endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Trelvin)

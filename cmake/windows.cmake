@@ -53,9 +53,9 @@ add_custom_command(
 find_program(TRELVIN_LLVM_DLLTOOL llvm-dlltool)
 if(TRELVIN_LLVM_DLLTOOL)
   set(machine $<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,i386:x86-64,i386>)
-  set(microsoft_library ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/${dll}.lib)
+  set(TRELVIN_MICROSOFT_LIBRARY ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/${dll}.lib)
   add_custom_command(
-    TARGET trelvin POST_BUILD VERBATIM BYPRODUCTS ${microsoft_library}
+    TARGET trelvin POST_BUILD VERBATIM BYPRODUCTS ${TRELVIN_MICROSOFT_LIBRARY}
     COMMAND ${TRELVIN_LLVM_DLLTOOL} -k -m ${machine} -d ${CMAKE_CURRENT_BINARY_DIR}/import.def
-            -l ${microsoft_library})
+            -l ${TRELVIN_MICROSOFT_LIBRARY})
 endif()

@@ -50,6 +50,21 @@ if(BUILD_SHARED_LIBS)
     add_dependencies(dll_host trelvin)
     add_host_test(dll_host dll_host)
   endif()
+  find_program(TRELVIN_CLANG clang)
+  find_program(TRELVIN_LLD_LINK lld-link)
+  if(MINGW AND TRELVIN_LLVM_DLLTOOL AND TRELVIN_CLANG AND TRELVIN_LLD_LINK)
+    set(client ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/microsoft_client.exe)
+    set(object ${CMAKE_CURRENT_BINARY_DIR}/microsoft_client.obj)
+    set(source ${CMAKE_CURRENT_SOURCE_DIR}/hosts/microsoft_client.c)
+    add_custom_command(
+      OUTPUT ${client} DEPENDS ${source} trelvin VERBATIM
+      COMMAND ${TRELVIN_CLANG} --target=${CMAKE_SYSTEM_PROCESSOR}-pc-windows-msvc -O2 -ffreestanding
+              -nostdlibinc -I${PROJECT_SOURCE_DIR}/include -c ${source} -o ${object}
+      COMMAND ${TRELVIN_LLD_LINK} /nologo /entry:start /subsystem:console /out:${client} ${object}
+              ${TRELVIN_MICROSOFT_LIBRARY})
+    add_custom_target(microsoft_client ALL DEPENDS ${client})
+    add_host_test(microsoft_client ${CMAKE_CROSSCOMPILING_EMULATOR} ${client})
+  endif()
   add_host(cycles hosts/cycles.cpp)
   target_include_directories(cycles PRIVATE ${PROJECT_SOURCE_DIR}/include)
   add_dependencies(cycles trelvin)
