@@ -6,6 +6,7 @@
 #include <cstring>
 #include <utility>
 
+#include "numeric/bits.h"
 #include "numeric/real.h"
 
 namespace trelvin {
@@ -17,23 +18,15 @@ constexpr Key sign_bit = 0x80000000U;
 inline Key key_of(Integer value) { return static_cast<Key>(value) ^ sign_bit; }
 inline Integer integer_of(Key key) { return static_cast<Integer>(key ^ sign_bit); }
 
-inline Key bits_of(Real value) {
-  Key bits;
-  std::memcpy(&bits, &value, sizeof bits);
-  return bits;
-}
-
 // -0 comes just before 0.
 inline Key key_of(Real value) {
   const Key bits = bits_of(value);
   return bits ^ ((bits & sign_bit) != 0 ? ~Key{0} : sign_bit);
 }
 
-inline Real real_of(Key key) {
+inline Real real_of_key(Key key) {
   const Key bits = key ^ ((key & sign_bit) != 0 ? sign_bit : ~Key{0});
-  Real value;
-  std::memcpy(&value, &bits, sizeof value);
-  return value;
+  return real_of(bits);
 }
 
 // One key for both zeros.

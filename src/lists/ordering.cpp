@@ -64,7 +64,7 @@ bool sort_around_nans(Real *list, Integer n) {
   }
   const Key *sorted = sort_by_digits(work.get(), work.get() + numbers, numbers, 0);
   for (Integer i = 0; i < n; ++i) {
-    if (!std::isnan(list[i])) list[i] = real_of(*sorted++);
+    if (!std::isnan(list[i])) list[i] = real_of_key(*sorted++);
   }
   return true;
 }

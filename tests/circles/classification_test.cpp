@@ -108,7 +108,9 @@ TEST_F(Trace, NumbersAreThoseOfTheCLibrary) {
     char points[120];
     std::snprintf(points, sizeof points, ";x2;%16.8e;y2;%16.8e;x3;%16.8e;y3;%16.8e", found[1],
                   found[2], found[3], found[4]);
-    expected += record("4", segment + "2\xD0-\xD6 \xD3\xD4\xC7" + positive + points);
+    std::string lines = segment + "2\xD0-\xD6 \xD3\xD4\xC7";
+    lines.append(positive).append(points);
+    expected += record("4", lines);
   }
   EXPECT_EQ(trace(), expected);
 }
