@@ -4,8 +4,8 @@
 #include <cmath>
 #include <limits>
 
-#include "circles/wide_vectors.h"
 #include "numeric/functions.h"
+#include "vectors/wide_vectors.h"
 
 namespace trelvin {
 

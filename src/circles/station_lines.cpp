@@ -1,10 +1,9 @@
 #include "circles/station_lines.h"
+#include "vectors/wide_vectors.h"
 
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
-
-#include "circles/wide_vectors.h"
 
 namespace trelvin {
 namespace {

@@ -7,20 +7,10 @@
 #include <utility>
 
 #include "lists/ordering.h"
+#include "vectors/wide_vectors.h"
 
 namespace trelvin {
 namespace {
-
-// In double precision, where products of differences of moderate coordinates are exact.
-struct WideVector {
-  double x, y;
-};
-
-WideVector wide_difference(Point2 end, Point2 start) {
-  return {double{end.x} - start.x, double{end.y} - start.y};
-}
-double cross(WideVector u, WideVector v) { return u.x * v.y - u.y * v.x; }
-double dot(WideVector u, WideVector v) { return u.x * v.x + u.y * v.y; }
 
 Point2 vertex(const OutlineVertices &outline, Integer i) { return {outline.x[i], outline.y[i]}; }
 

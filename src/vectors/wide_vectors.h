@@ -1,4 +1,4 @@
-// Vectors in double precision, for constructions that are rounded once.
+// Vectors in double precision, where products of differences of moderate coordinates are exact.
 #pragma once
 
 #include <cmath>
