@@ -17,11 +17,11 @@ function(add_host_test name)  # NAME COMMAND...
 endfunction()
 
 set(libraries callers)
-foreach(host digest census guards aliases)
+foreach(host digest census guards aliases writers)
   add_host(${host} hosts/${host}.cpp)
 endforeach()
 add_host_test(digest digest)
-foreach(host census guards aliases)
+foreach(host census guards aliases writers)
   add_host_test(${host} ${host})
 endforeach()
 
