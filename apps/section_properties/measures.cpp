@@ -61,7 +61,7 @@ void measure_t(const float *d, Measuring &m) {
   m.add_centred(Side::below, TW, m.box.bottom);
 }
 
-void measure_bar(const float *, Measuring &m) {
+void measure_bar(const float * /*d*/, Measuring &m) {
   enum { B, H };
   m.add(Side::below, B, m.box.left, m.box.bottom);
   m.add(Side::left, H, m.box.bottom, m.box.left);

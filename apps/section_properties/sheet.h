@@ -62,7 +62,7 @@ class Sheet {
   static constexpr double legend_width = 176;
 
   // Labels of short dimensions reach beyond what is shown, but not to the lanes at the corner.
-  double half_extent(double mm) const { return 0.5 * std::max(pixels_ * mm, 60.0); }
+  [[nodiscard]] double half_extent(double mm) const { return 0.5 * std::max(pixels_ * mm, 60.0); }
 
   static double space_for(const Lanes &lanes, Side side) {
     constexpr double without_lane = 70;
