@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""The lightest box girders: every combination of widths, heights and thicknesses, in batches by Dask.
+"""The lightest box girders, of all combinations of widths, heights and thicknesses, by Dask.
 
 Each section is a box of four plates in sagging bending, S355, its top plate compressed evenly. What
-buckles of top plate and webs is left out (EN 1993-1-5), as in examples/python/girder.py. Searched are
-the sections of least area whose top plate keeps a wanted width and whose remaining second moment
-reaches a limit; and the front, those that no other section beats in both area and second moment.
+buckles of top plate and webs is left out (EN 1993-1-5), as in examples/python/girder.py. Searched
+are the sections of least area whose top plate keeps a wanted width and whose remaining moment
+reaches a limit; and the front, those that no other section beats in both area and moment.
 
     girders.py                                 on this machine, a worker a core
     girders.py --scheduler tcp://HOST:8786     on the workers of a running scheduler
@@ -107,7 +107,7 @@ def moments(plates):
 
 
 def select(study, figures):
-    """The lightest and the front of what is given. Of a whole, they are among those of its parts."""
+    """The lightest and the front. Those of a whole are among those of its parts."""
     both = np.concatenate([lightest(study, figures), front(figures)])
     return both[np.unique(both["section"], return_index=True)[1]]
 
@@ -211,7 +211,8 @@ def write_picture(study, points, best, path):
         parts += [line((tick, 0), (tick, most_stiffness), "#ddd"), text(x, y + 16, f"{tick:g}")]
     for tick in ticks(most_stiffness):
         x, y = place(0, tick)
-        parts += [line((0, tick), (most_area, tick), "#ddd"), text(x - 6, y + 4, f"{tick:g}", "end")]
+        parts.append(line((0, tick), (most_area, tick), "#ddd"))
+        parts.append(text(x - 6, y + 4, f"{tick:g}", "end"))
     limit = study.least_moment / 1e7
     if limit < most_stiffness:
         parts.append(line((0, limit), (most_area, limit), "#c33"))

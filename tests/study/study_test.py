@@ -42,7 +42,8 @@ def girder(b, h, t_top, t_bottom, t_web):
     strength = 355**0.5, 235**0.5
     left, right = trelvin.trvef2(b, b, t_top, *strength, 355, 355)
     x1, x2 = -b / 2, b / 2
-    flanges = [(x1, 0, x2, 0, t_bottom), (x1, h, x1 + left, h, t_top), (x2, h, x2 - right, h, t_top)]
+    flanges = [(x1, 0, x2, 0, t_bottom)]
+    flanges += [(x1, h, x1 + left, h, t_top), (x2, h, x2 - right, h, t_top)]
     webs = [(x, 0, x, h, t_web) for x in (x1, x2)]
     gross = [flanges[0], (x1, h, x2, h, t_top), *webs]
     first = trelvin.trvmxt(*np.transpose(flanges + webs))
