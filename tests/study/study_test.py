@@ -21,7 +21,7 @@ from distributed import Client, LocalCluster
 
 ROOT = Path(__file__).resolve().parents[2]
 HERE = "127.0.0.1"
-STUDY = [sys.executable, ROOT / "examples/study/girders.py", "--small", "--width", "500"]
+STUDY = [sys.executable, ROOT / "examples/study/girders.py", "--small", "--width", "300"]
 THICKNESSES = (8, 10, 12, 15, 18, 20, 22, 25, 28, 30, 35, 40, 45, 50)
 SIDES = range(400, 2001, 400)
 
@@ -76,7 +76,7 @@ class Study(unittest.TestCase):
         figures = {}
         for section in itertools.product(SIDES, SIDES, THICKNESSES, THICKNESSES, (8, 12)):
             figures[section] = girder(*section)
-        wide = sorted((a, -i, s) for s, (a, i, w) in figures.items() if w >= 500)
+        wide = sorted((a, -i, s) for s, (a, i, w) in figures.items() if w >= 300)
         front = []
         for area, moment, section in wide:
             if not front or -moment > figures[front[-1]][1]:
