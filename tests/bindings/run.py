@@ -35,10 +35,9 @@ EXAMPLES = {"c": "girder.c", "cpp": "girder.cpp", "fortran": "girder.f90", "pasc
             "csharp": "Girder.cs", "node": "girder.mjs"}
 
 WINDOWS_LINK = "-static {lib}/libTrelvin.dll.a"
-# Platform, language: package of Debian, command. The first word of a command is the compiler, but
-# of those that RUNNERS has.
 RUNNERS = {("native", "csharp"): "mono", ("native", "node"): "node",
            ("windows", "node"): f"{NODE_WIN32}/node.exe"}
+# Platform, language: package of Debian, command. The first word of a command is the compiler.
 COMMANDS = {
     ("native", "c"): ("gcc", "gcc -O2 -Iinclude {source} -L{lib} -ltrelvin -lm -o {program}"),
     ("native", "cpp"): ("g++", "g++ -O2 -Iinclude {source} -L{lib} -ltrelvin -o {program}"),
@@ -115,14 +114,18 @@ def install_for_node(platform):
         package = json.loads((ROOT / "bindings/node/package.json").read_text())
         version = package["dependencies"]["koffi"]
         command += ["--force", f"@koromix/koffi-win32-ia32@{version}"]
+    name = f"{platform}: package for Node.js"
+    if not shutil.which("npm"):
+        report(name, "npm is missing: apt-get install npm")
+        return
     done = run(command)
-    report(f"{platform}: package for Node.js", done.stderr[-1000:] if done.returncode else "")
+    report(name, done.stderr[-1000:] if done.returncode else "")
 
 
 def check_host(platform, language, source, expected):
     package, command = COMMANDS[platform, language]
     name = f"{platform}: {source.relative_to(ROOT)}"
-    tool = RUNNERS.get((platform, language), command.split()[0])
+    tool = RUNNERS[platform, language] if language == "node" else command.split()[0]
     if not shutil.which(tool):
         if package:
             report(name, f"{tool} is missing: apt-get install {package}")
