@@ -8,7 +8,9 @@ packages=(
   googletest libclang-rt-14-dev clang-format clang-tidy # tests, sanitizers, formatting
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
+  python3-distributed python3-psutil                    # the study by Dask
   gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
+  nodejs                                                # and in JavaScript; npm below
 )
 
 installed() {
@@ -25,6 +27,8 @@ missing=()
 for package in "${packages[@]}"; do
   installed "$package" || missing+=("$package")
 done
+# Other suppliers' nodejs brings its own npm, and Debian's package conflicts with it.
+command -v npm >/dev/null || missing+=(npm)
 [ ${#missing[@]} -gt 0 ] || exit 0
 
 echo "setup: installing ${missing[*]}"
