@@ -95,6 +95,7 @@ void principal_axes(View &view, const Outline &outline, bool positive, const cha
                     Offset at) {
   Point s;
   const Second about = second_moments(outline, &s);
+  require_at(s, {2, 2}, "the centroid, in the middle of the web");
   float i1 = 0, i2 = 0, alpha = 0;
   trvinp(about.x, about.y, about.xy, i1, i2, alpha);
   require((alpha > 0) == positive, "the sign of alpha");
@@ -127,12 +128,12 @@ Sheet alpha(const std::string &name) {
   Sheet sheet(name, 640, 330, "The angle alpha of the principal axes",
               "Alpha turns from the x axis to axis 1, counter-clockwise where positive, by at most "
               "an eighth of a turn. Axis 2 is perpendicular to axis 1.");
-  const Outline z = {{0.1F, -1.1F}, {0.1F, 0.9F},   {0.8F, 0.9F},   {0.8F, 1.1F},
-                     {-0.1F, 1.1F}, {-0.1F, -0.9F}, {-0.8F, -0.9F}, {-0.8F, -1.1F}};
+  const Outline z = {{2.1F, 0.9F}, {2.1F, 2.9F}, {2.8F, 2.9F}, {2.8F, 3.1F},
+                     {1.9F, 3.1F}, {1.9F, 1.1F}, {1.2F, 1.1F}, {1.2F, 0.9F}};
   Outline mirrored;
-  for (auto p = z.rbegin(); p != z.rend(); ++p) mirrored.push_back({-p->x, p->y});
-  View left_view(sheet, {30, 40, 310, 310}, {-1.8, -1.8, 1.8, 1.8});
-  View right_view(sheet, {330, 40, 610, 310}, {-1.8, -1.8, 1.8, 1.8});
+  for (auto p = z.rbegin(); p != z.rend(); ++p) mirrored.push_back({4 - p->x, p->y});
+  View left_view(sheet, {30, 40, 310, 310}, {0.2, 0.2, 3.8, 3.8});
+  View right_view(sheet, {330, 40, 610, 310}, {0.2, 0.2, 3.8, 3.8});
   principal_axes(left_view, mirrored, true, "alpha > 0", {170, 22});
   principal_axes(right_view, z, false, "alpha < 0", {470, 22});
   return sheet;

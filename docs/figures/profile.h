@@ -25,6 +25,7 @@ Profile profile(Routine routine, Dimensions... dimensions) {
   std::int32_t polygons = 0;
   routine(dimensions..., 1.0F, polygons, vertices.data(), x.data(), y.data(), code.data(),
           sign.data(), z1.data(), z2.data(), z3.data(), z4.data(), z5.data(), q1.data(), q2.data());
+  require(polygons > 0, "an outline");
   Profile result;
   std::size_t first = 0;
   for (std::size_t i = 0; i < static_cast<std::size_t>(polygons); ++i) {

@@ -111,7 +111,10 @@ Sheet hole(const std::string &name) {
   add(&section, {2, outline});
   add(&section, {3, {centre, on_circle}, 0, -1});
   const Point s{section.sy / section.area, section.sx / section.area};
-  require_near(section.area, 19.625 - pi * 0.5625, "the area less the hole");
+  // A rectangle of 6 by 4 less a triangle of 3.5 by 2.5, less the circle.
+  require_near(section.area, 24 - 4.375 - pi * 0.5625, "the area less the hole");
+  require_near(s.y * section.area, 24 * 2.5 - 4.375 * 11 / 3 - pi * 0.5625 * 2.75, "S, y");
+  require_near(section.ix, 182 - 60.338542 - 13.612547, "the second moment about the x axis");
   const float ix = section.ix - section.sx * section.sx / section.area;
   const float iy = section.iy - section.sy * section.sy / section.area;
   const float ixy = section.ixy - section.sx * section.sy / section.area;
