@@ -218,7 +218,7 @@ void turning_outline(View &view, const Outline &outline, double expected, const 
                colours::green, 12);
   }
   char figure[40];
-  std::snprintf(figure, sizeof figure, "area = %+.2f", area);
+  std::snprintf(figure, sizeof figure, "area = %+.3f", area);
   view.label({2.1F, 1.35F}, figure, {0, 0}, colours::red);
   view.sheet().caption(at, caption);
 }

@@ -225,10 +225,9 @@ Sheet draw_i(const std::string &name) {
   d.upright("S1", S1, 5, 6, -76);
   d.across("S2", S2, 13, 14, -18, Letter::behind);
   d.upright("S2", S2, 3, 4, -60);
-  const Point middle = 0.5F * (d.vertex(4) + d.vertex(13));
-  require_near(middle.x, E, "E");
-  d.view().long_line({E, middle.y - 20}, {E, middle.y}, 20, pens::dashed);
-  d.view().across({0, middle.y}, middle, -96, "E", Letter::before);
+  require_near(0.5F * (d.vertex(4).x + d.vertex(13).x), E, "E");
+  d.view().line({E, 30}, {E, -60}, pens::dashed);
+  d.view().across({}, {E, 0}, -22, "E", Letter::before);
   return d.done();
 }
 
