@@ -290,6 +290,7 @@ struct ThinWalled {
   Exact area = 0, xx = 0, yy = 0, xy = 0, torsion = 0, warping = 0;
   V2 centroid, shear_centre;
   Exact polar = 0;
+  std::vector<Exact> sectorial;  // at the nodes, normalised
 };
 
 // The integral over a plate of the product of two linear functions, by their values at its ends.
@@ -330,13 +331,11 @@ ThinWalled properties_of(const Chain &chain, bool rectangles) {
   const Exact det = cx * cy - cxy * cxy;
   const V2 s{(wy * cy - wx * cxy) / det, (wy * cxy - wx * cx) / det};
   p.shear_centre = p.centroid + s;
+  for (std::size_t k = 0; k <= n; ++k)  // now about the shear centre
+    p.sectorial.push_back(w[k] - mean / p.area - cross(s, chain.nodes[k] - p.centroid));
   for (std::size_t k = 0; k < n; ++k) {
-    const auto normalised = [&](std::size_t node) {
-      const V2 d = chain.nodes[node] - chain.nodes[0];
-      return w[node] - mean / p.area - cross(s, d) + cross(s, p.centroid - chain.nodes[0]);
-    };
-    p.warping +=
-        product(area(k), normalised(k), normalised(k + 1), normalised(k), normalised(k + 1));
+    const Exact w1 = p.sectorial[k], w2 = p.sectorial[k + 1];
+    p.warping += product(area(k), w1, w2, w1, w2);
   }
   p.polar = square_root(dot(s, s) + (p.xx + p.yy) / p.area);
   return p;
@@ -379,6 +378,100 @@ struct Written {
       xm, ym, Iw, r0;
 };
 
+// What lies above a level, of plates as rectangles. With x and y exchanged, what lies to the right.
+struct Above {
+  Exact area = 0, moment = 0;
+};
+
+using Rectangle = std::array<V2, 4>;
+
+std::vector<Rectangle> rectangles_of(const Chain &chain) {
+  std::vector<Rectangle> all;
+  for (std::size_t k = 0; k < chain.thickness.size(); ++k) {
+    const V2 a = chain.nodes[k], b = chain.nodes[k + 1];
+    const V2 half = (chain.thickness[k] / 2) * unit(left_of(b - a));
+    all.push_back({a - half, b - half, b + half, a + half});
+  }
+  return all;
+}
+
+Above above(const std::vector<Rectangle> &rectangles, Exact level) {
+  Above sum;
+  for (const Rectangle &r : rectangles) {
+    std::vector<V2> part;
+    for (std::size_t i = 0; i < 4; ++i) {
+      const V2 p = r[i], q = r[(i + 1) % 4];
+      if (p.y >= level) part.push_back(p);
+      if ((p.y < level) != (q.y < level))
+        part.push_back(p + ((level - p.y) / (q.y - p.y)) * (q - p));
+    }
+    Exact area = 0, moment = 0;
+    for (std::size_t i = 0; i < part.size(); ++i) {
+      const V2 p = part[i], q = part[(i + 1) % part.size()];
+      const Exact twice = cross(p - part[0], q - part[0]);
+      area += twice / 2;
+      moment += twice * (part[0].y + p.y + q.y - 3 * level) / 6;
+    }
+    sum.area += absolute(area);
+    sum.moment += absolute(moment);
+  }
+  return sum;
+}
+
+// The level with half of the area on either side, by false position.
+Exact halving_level(const std::vector<Rectangle> &rectangles, Exact low, Exact high) {
+  const Exact half = above(rectangles, low).area / 2;
+  Exact at_low = half, at_high = -half, level = low;
+  for (int i = 0; i < 200 && at_low != at_high; ++i) {
+    level = (low * at_high - high * at_low) / (at_high - at_low);
+    const Exact rest = above(rectangles, level).area - half;
+    if (absolute(rest) <= half / 1e25) break;
+    if (rest > 0) {
+      low = level, at_low = rest, at_high /= 2;  // so that the other end moves as well
+    } else {
+      high = level, at_high = rest, at_low /= 2;
+    }
+  }
+  return level;
+}
+
+struct Moduli {
+  Exact top, bottom, plastic, level;
+};
+
+Moduli moduli_of(const std::vector<Rectangle> &rectangles, Exact second_moment, Exact centroid) {
+  Exact low = rectangles[0][0].y, high = low;
+  for (const Rectangle &r : rectangles)
+    for (const V2 &corner : r) low = lesser(low, corner.y), high = greater(high, corner.y);
+  Moduli m;
+  m.top = second_moment / (high - centroid);
+  m.bottom = second_moment / (centroid - low);
+  m.level = halving_level(rectangles, low, high);
+  // The moments of both halves about the level: that of the lower one from that of the whole.
+  const Exact whole = above(rectangles, low).area * (centroid - m.level);
+  const Exact upper = above(rectangles, m.level).moment;
+  m.plastic = 2 * upper - whole;
+  return m;
+}
+
+void compare_moduli(Results &out, const Written &s, const Chain &chain, const ThinWalled &p) {
+  std::vector<Rectangle> rectangles = rectangles_of(chain);
+  const Moduli x = moduli_of(rectangles, p.xx, p.centroid.y);
+  for (Rectangle &r : rectangles)
+    for (V2 &corner : r) corner = {corner.y, corner.x};
+  const Moduli y = moduli_of(rectangles, p.yy, p.centroid.x);
+  out.add("Wx1", s.Wx1, x.top);
+  out.add("Wx2", s.Wx2, x.bottom);
+  out.add("Wy1", s.Wy1, y.top);
+  out.add("Wy2", s.Wy2, y.bottom);
+  out.add("Wpx", s.Wpx, x.plastic);
+  out.add("Wpy", s.Wpy, y.plastic);
+  out.add("xp yp", P2{s.xp, s.yp}, V2{y.level, x.level});
+  Exact thickest = 0;
+  for (const Exact t : chain.thickness) thickest = greater(thickest, t);
+  out.add("Wt", s.Wt, p.torsion / thickest);
+}
+
 void plates(Draw &draw, Results &out) {
   constexpr std::size_t n = 5;
   P2 node = draw.point();
@@ -415,6 +508,9 @@ void plates(Draw &draw, Results &out) {
   out.add("xm ym", P2{s.xm, s.ym}, p.shear_centre);
   out.add("Iw", s.Iw, p.warping);
   out.add("r0", s.r0, p.polar);
+  compare_moduli(out, s, chain, p);
+  out.add_all("W1", {w1, w1 + n}, {p.sectorial.begin(), p.sectorial.end() - 1});
+  out.add_all("W2", {w2, w2 + n}, {p.sectorial.begin() + 1, p.sectorial.end()});
 }
 
 // Saint-Venant's series, of a strip as thick as 1 and as wide as b: the part beyond the first terms,
@@ -425,6 +521,13 @@ Exact torsion_factor(Exact b) {
   for (int n = 1; n <= 31; n += 2)
     sum -= (1 - tanhq(n * pi * b / 2)) / (square(square(Exact(n))) * n);
   return b / 3 * (1 - 192 / (square(square(pi)) * pi * b) * sum);
+}
+
+// The greatest shear stress over that of an infinitely wide strip, likewise.
+Exact stress_factor(Exact b) {
+  Exact sum = 0;
+  for (int n = 1; n <= 63; n += 2) sum += 1 / (square(Exact(n)) * coshq(n * pi * b / 2));
+  return 1 - 8 / square(pi) * sum;
 }
 
 void flat_bar(Draw &draw, Results &out) {
@@ -442,7 +545,11 @@ void flat_bar(Draw &draw, Results &out) {
   out.add("rx", s.rx, h / square_root(12));
   out.add("Wx1", s.Wx1, b * square(h) / 6);
   out.add("Wpx", s.Wpx, b * square(h) / 4);
-  out.add("It", s.It, torsion_factor(greater(b, h) / t) * square(square(t)));
+  out.add("Wy1", s.Wy1, h * square(b) / 6);
+  out.add("Wpy", s.Wpy, h * square(b) / 4);
+  const Exact ratio = greater(b, h) / t, torsion = torsion_factor(ratio) * square(square(t));
+  out.add("It", s.It, torsion);
+  out.add("Wt", s.Wt, torsion / (t * stress_factor(ratio)));
   out.add("Iw", s.Iw, cube(b * h) / 144);
   out.add("r0", s.r0, square_root((square(b) + square(h)) / 12));
 }
