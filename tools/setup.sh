@@ -9,9 +9,10 @@ packages=(
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
   wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld # WebAssembly
-  nodejs                                               # running it
+  nodejs chromium                                      # running it, and the page that is made of it
   gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
 )
+command -v npm >/dev/null || packages+=(npm)           # some packages of nodejs bring it along
 
 installed() {
   [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
