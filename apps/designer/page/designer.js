@@ -26,6 +26,8 @@ function make(tag, attributes = {}, ...children) {
 const withPowers = (unit) => unit.replace(/\d/, (digit) => ({ 2: '²', 3: '³', 4: '⁴', 6: '⁶' })[digit]);
 const drawn = (picture) => picture.slice(picture.indexOf('<svg'));
 
+const CROPPED = window.matchMedia('(max-width: 1100px)'); // as designer.css
+
 let engine;
 let profile; // the chosen one
 let section; // the last that fitted together, of that profile
@@ -138,9 +140,8 @@ const TAKEN = {
   SVG: () => section.picture,
   'command line': () => `section_properties ${section.profile} ${section.dimensions.join(' ')}\n`,
 };
-for (const [language, program] of Object.entries(LANGUAGES)) {
-  TAKEN[`calls in ${language}`] = () =>
-    program(`${section.profile} ${section.dimensions.join(' ')}: all in mm`, section.parts);
+for (const language of Object.keys(LANGUAGES)) {
+  TAKEN[`calls in ${language}`] = () => callsIn(language, profile, section);
 }
 
 const showText = () => { element('text').textContent = TAKEN[element('format').value](); };
@@ -187,7 +188,7 @@ function fitPicture() {
   svg.removeAttribute('height');
   svg.setAttribute('width', '100%');
   svg.setAttribute('role', 'img');
-  if (!window.matchMedia('(max-width: 700px)').matches) return;
+  if (!CROPPED.matches) return;
   svg.querySelectorAll(':scope > text, :scope > g[text-anchor="start"], :scope > rect').forEach((part) => part.remove());
   const { x, y, width, height } = svg.getBBox();
   svg.setAttribute('viewBox', [x - 10, y - 10, width + 20, height + 20].join(' '));
@@ -215,7 +216,6 @@ function makeChooser() {
     radio.addEventListener('change', () => choose(each, typed[each.name] ?? START[each.name].split(' ')));
     element('profiles').append(make('label', { title: each.description }, radio, make('span', {}, each.name)));
   }
-  element('profiles').append(make('p', { id: 'description' }));
 }
 
 // Each profile as it starts, the steel of its picture alone.
@@ -271,7 +271,7 @@ function listen() {
   element('copy-link').addEventListener('click', () => copy(location.href.split('#')[0] + address(), 'link'));
   element('section').addEventListener('submit', (event) => event.preventDefault());
   window.addEventListener('hashchange', openLink);
-  window.matchMedia('(max-width: 700px)').addEventListener('change', () => show(section));
+  CROPPED.addEventListener('change', () => show(section));
 }
 
 startEngine().then((started) => {
