@@ -31,11 +31,11 @@ ALLOWED_IMPORTS = {
     "KERNEL32.dll": {
         "CloseHandle",
         "CreateFileA",
-        "CreateFileW",
         "DisableThreadLibraryCalls",
         "GetLastError",
+        "LockFileEx",
         "SetLastError",
-        "SetFilePointer",
+        "UnlockFileEx",
         "WriteFile",
     },
     "msvcrt.dll": MEMORY,

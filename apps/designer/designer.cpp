@@ -95,7 +95,7 @@ Refusal design(const std::string_view *words, std::size_t count) {
   texts[figures] = rows_text(f);
   texts[figures_as_json] = json(f);
   texts[drawing] = picture(std::string(profile.name) + ": " + std::string(profile.description),
-                           dimensions_text(given), outline, properties);
+                           dimensions_text(given), outline, measures_of(given, outline), f);
   texts[remarks] = notes(f);
   texts[parts] = parts_text(section);
   return {};
