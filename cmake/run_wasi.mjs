@@ -5,7 +5,11 @@ import { WASI } from 'node:wasi';
 
 const [program, ...rest] = argv.slice(2);
 const wasi = new WASI({
-  version: 'preview1', args: [program, ...rest], env, preopens: { '/': '.' }, returnOnExit: true,
+  version: 'preview1',
+  args: [program, ...rest],
+  env,
+  preopens: { '/': '.' },
+  returnOnExit: true,
 });
 const module = await WebAssembly.compile(await readFile(program));
 const imports = { wasi_snapshot_preview1: wasi.wasiImport };

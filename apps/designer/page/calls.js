@@ -20,10 +20,16 @@ function listed(items, indent, end = '') {
 }
 
 // The call's arguments: dimensions, q, and the outputs as the language writes an array.
-const argumentsOf = (s, array, input = (name) => name, output = (name) => name) =>
-  [...s.names.map(input), input('q'), output('np'), ...['nv', 'x', 'y', 'code', 'sign', ...BEHIND].map(array)];
-const valuesOf = (s, value = (word) => word) =>
-  [...s.names.map((name, i) => `${name} = ${value(s.dimensions[i])}`), `q = ${value('0')}`];
+const argumentsOf = (s, array, input = (name) => name, output = (name) => name) => [
+  ...s.names.map(input),
+  input('q'),
+  output('np'),
+  ...['nv', 'x', 'y', 'code', 'sign', ...BEHIND].map(array),
+];
+const valuesOf = (s, value = (word) => word) => [
+  ...s.names.map((name, i) => `${name} = ${value(s.dimensions[i])}`),
+  `q = ${value('0')}`,
+];
 const same = (name) => name;
 const withPoint = (number) => (number.includes('.') ? number : `${number}.0`);
 
@@ -34,7 +40,15 @@ const LANGUAGES = {
     const call = () => `  const float ${listed(valuesOf(s), 14)};
   int32_t np, nv[3], code[3];
   float x[20], y[20], sign[3], ${BEHIND.map((name) => `${name}[3]`).join(', ')};
-  trvsec_${s.profile}(${listed(argumentsOf(s, same, (name) => `&${name}`, (name) => `&${name}`), 6)});
+  trvsec_${s.profile}(${listed(
+    argumentsOf(
+      s,
+      same,
+      (name) => `&${name}`,
+      (name) => `&${name}`,
+    ),
+    6,
+  )});
   for (int32_t i = 0, from = 0; i < np; from += nv[i++]) {
     add(code[i], sign[i], nv[i], x + from, y + from);
   }
@@ -88,7 +102,9 @@ ${s.isByParts ? s.parts.map(part).join('') : call()}
     first = first + nv(i)
   end do
 `;
-    const part = (p) => `  call add(${p.kind}, ${withPoint(p.factor)}, [real(rk) :: ${listed(p.x, 11, ' &')}], &
+    const part = (
+      p,
+    ) => `  call add(${p.kind}, ${withPoint(p.factor)}, [real(rk) :: ${listed(p.x, 11, ' &')}], &
            [real(rk) :: ${listed(p.y, 11, ' &')}])
 `;
     return `! ${s.title}
@@ -130,14 +146,19 @@ end program
   Pascal: (s) => {
     const declared = () => `
 const
-${valuesOf(s).map((value) => `  ${value};\n`).join('')}
+${valuesOf(s)
+  .map((value) => `  ${value};\n`)
+  .join('')}
 var
   np, i, first: LongInt;
   nv, code: array[0..2] of LongInt;
   x, y: array[0..19] of Single;
   ${['sign', ...BEHIND].join(', ')}: array[0..2] of Single;
 `;
-    const call = () => `  trvsec_${s.profile}(${listed(argumentsOf(s, (name) => `${name}[0]`), 4)});
+    const call = () => `  trvsec_${s.profile}(${listed(
+      argumentsOf(s, (name) => `${name}[0]`),
+      4,
+    )});
   first := 0;
   for i := 0 to np - 1 do
   begin
@@ -187,16 +208,30 @@ end.
   },
 
   Basic: (s) => {
-    const call = () => `${valuesOf(s).map((value) => `    Const ${value.replace(' =', ' As Single =')}\n`).join('')}    Dim np As Long, nv(0 To 2) As Long, code(0 To 2) As Long, i As Long, first As Long
+    const call = () => `${valuesOf(s)
+      .map((value) => `    Const ${value.replace(' =', ' As Single =')}\n`)
+      .join(
+        '',
+      )}    Dim np As Long, nv(0 To 2) As Long, code(0 To 2) As Long, i As Long, first As Long
     Dim x(0 To 19) As Single, y(0 To 19) As Single, sign(0 To 2) As Single
-    Dim ${listed(BEHIND.map((name) => `${name}(0 To 2) As Single`), 8, ' _')}
-    trvsec_${s.profile} ${listed(argumentsOf(s, (name) => `${name}(0)`), 8, ' _')}
+    Dim ${listed(
+      BEHIND.map((name) => `${name}(0 To 2) As Single`),
+      8,
+      ' _',
+    )}
+    trvsec_${s.profile} ${listed(
+      argumentsOf(s, (name) => `${name}(0)`),
+      8,
+      ' _',
+    )}
     For i = 0 To np - 1
         AddPart code(i), sign(i), nv(i), first, x, y
         first = first + nv(i)
     Next i
 `;
-    const part = (p) => `    AddPart ${p.kind}, ${p.factor}, ${p.x.length}, 0, Array(${listed(p.x, 8, ' _')}), _
+    const part = (
+      p,
+    ) => `    AddPart ${p.kind}, ${p.factor}, ${p.x.length}, 0, Array(${listed(p.x, 8, ' _')}), _
         Array(${listed(p.y, 8, ' _')})
 `;
     return `' ${s.title}
@@ -235,18 +270,33 @@ End Sub
   },
 
   'C#': (s) => {
-    const call = () => `        const float ${listed(valuesOf(s, (word) => `${word}f`), 12)};
+    const call = () => `        const float ${listed(
+      valuesOf(s, (word) => `${word}f`),
+      12,
+    )};
         int np;
         int[] nv = new int[3], code = new int[3];
         float[] x = new float[20], y = new float[20], sign = new float[3];
-        float[] ${listed(BEHIND.map((name) => `${name} = new float[3]`), 12)};
-        Native.trvsec_${s.profile}(${listed(argumentsOf(s, same, same, (name) => `out ${name}`), 12)});
+        float[] ${listed(
+          BEHIND.map((name) => `${name} = new float[3]`),
+          12,
+        )};
+        Native.trvsec_${s.profile}(${listed(
+          argumentsOf(s, same, same, (name) => `out ${name}`),
+          12,
+        )});
         for (int i = 0, first = 0; i < np; first += nv[i++])
             Add(code[i], sign[i], nv[i], first, x, y);
 `;
     const part = (p) => `        Add(${p.kind}, ${p.factor}, ${p.x.length}, 0,
-            new float[] {${listed(p.x.map((x) => `${x}f`), 16)}},
-            new float[] {${listed(p.y.map((y) => `${y}f`), 16)}});
+            new float[] {${listed(
+              p.x.map((x) => `${x}f`),
+              16,
+            )}},
+            new float[] {${listed(
+              p.y.map((y) => `${y}f`),
+              16,
+            )}});
 `;
     return `// ${s.title}
 using System;
@@ -287,7 +337,10 @@ ${s.isByParts ? s.parts.map(part).join('') : call()}
   },
 
   Python: (s) => {
-    const call = () => `outline = trelvin.trvsec_${s.profile}(${listed(valuesOf(s).map((value) => value.replace(' = ', '=')), 4)})
+    const call = () => `outline = trelvin.trvsec_${s.profile}(${listed(
+      valuesOf(s).map((value) => value.replace(' = ', '=')),
+      4,
+    )})
 first = 0
 for kind, factor, n in zip(outline.code, outline.sign, outline.nv):
     add(kind, factor, outline.X[first : first + n], outline.Y[first : first + n])

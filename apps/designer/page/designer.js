@@ -2,17 +2,33 @@
 // The page: fields to the compiled code, texts from it to the page. The state is in the address.
 
 const START = {
-  ia: '400 300 200 20 15 10', h: '400 300 200 20 15 10', i: '400 300 200 20 15 10 8 6 20',
-  t: '150 200 12 8', b: '200 15', c: '200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2',
-  h1b: '320 300 280 12 14 10 20', box: '3000 2000 20 25 1500 12 1600', rhs: '100 200 8',
-  l: '100 100 10 12', l2: '90 120 10 9 11', tab: '600 400 350 40 25 12 20',
-  h2b: '400 300 500 12 14 10 20', rolled: '300 150 7.1 10.7 15',
+  ia: '400 300 200 20 15 10',
+  h: '400 300 200 20 15 10',
+  i: '400 300 200 20 15 10 8 6 20',
+  t: '150 200 12 8',
+  b: '200 15',
+  c: '200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2',
+  h1b: '320 300 280 12 14 10 20',
+  box: '3000 2000 20 25 1500 12 1600',
+  rhs: '100 200 8',
+  l: '100 100 10 12',
+  l2: '90 120 10 9 11',
+  tab: '600 400 350 40 25 12 20',
+  h2b: '400 300 500 12 14 10 20',
+  rolled: '300 150 7.1 10.7 15',
 };
 const FIRST = 'rolled';
+const startOf = (each) => START[each.name].split(' ');
 
 // Of the figures, by heading and symbol, those that stand under the picture.
-const MAIN = [['Area', 'A'], ['Second moments, centroid', 'Ix'], ['Second moments, centroid', 'Iy'],
-  ['Elastic moduli', 'Wx1'], ['Plastic moduli', 'Wpx'], ['Torsion constant', 'It']];
+const MAIN = [
+  ['Area', 'A'],
+  ['Second moments, centroid', 'Ix'],
+  ['Second moments, centroid', 'Iy'],
+  ['Elastic moduli', 'Wx1'],
+  ['Plastic moduli', 'Wpx'],
+  ['Torsion constant', 'It'],
+];
 
 const element = (id) => document.getElementById(id);
 
@@ -23,7 +39,8 @@ function make(tag, attributes = {}, ...children) {
   return made;
 }
 
-const withPowers = (unit) => unit.replace(/\d/, (digit) => ({ 2: '²', 3: '³', 4: '⁴', 6: '⁶' })[digit]);
+const withPowers = (unit) =>
+  unit.replace(/\d/, (digit) => ({ 2: '²', 3: '³', 4: '⁴', 6: '⁶' })[digit]);
 const drawn = (picture) => picture.slice(picture.indexOf('<svg'));
 
 const CROPPED = window.matchMedia('(max-width: 1100px)'); // as designer.css
@@ -39,9 +56,11 @@ const field = (name) => element(`dimension-${name}`);
 const slider = (name) => element(`slider-${name}`);
 const valueOf = (word) => Number(word.replace(',', '.'));
 
-// A slider's reach is fixed by the value it starts at, so that it does not move under the hand.
+// A slider reaches from nothing to well beyond the value that its profile starts with, or beyond a
+// larger one that is typed. It does not move under the hand that drags it.
 function setReach(name, value) {
-  const reach = 2.5 * (value > 0 ? value : 10);
+  const start = valueOf(startOf(profile)[profile.dimensions.indexOf(name)]);
+  const reach = 2.5 * (value > 2.5 * start ? value : start);
   const step = 10 ** Math.floor(Math.log10(reach / 150));
   const control = slider(name);
   control.max = Math.ceil(reach / step) * step;
@@ -51,8 +70,9 @@ function setReach(name, value) {
 
 function showValue(name, word) {
   const value = valueOf(word);
-  if (value > Number(slider(name).max)) setReach(name, value);
-  if (value >= 0) slider(name).value = value;
+  if (!Number.isFinite(value)) return;
+  setReach(name, value);
+  slider(name).value = value;
 }
 
 function stepField(name, steps) {
@@ -76,27 +96,46 @@ function onKey(event, name) {
 
 function makeField(name, word) {
   const text = make('input', {
-    id: `dimension-${name}`, type: 'text', inputmode: 'decimal', spellcheck: 'false',
+    id: `dimension-${name}`,
+    type: 'text',
+    inputmode: 'decimal',
+    spellcheck: 'false',
     'aria-describedby': `fault-${name}`,
   });
   const drag = make('input', {
-    id: `slider-${name}`, type: 'range', 'aria-label': `${name}, slider`,
+    id: `slider-${name}`,
+    type: 'range',
+    'aria-label': `${name}, slider`,
     'aria-describedby': `fault-${name}`,
   });
   text.value = word;
-  text.addEventListener('input', () => { showValue(name, text.value); update(name); });
+  text.addEventListener('input', () => {
+    showValue(name, text.value);
+    update(name);
+  });
   text.addEventListener('keydown', (event) => onKey(event, name));
-  drag.addEventListener('input', () => { text.value = drag.value; update(name); });
-  return make('div', { class: 'dimension' }, make('label', { for: text.id }, name), text, drag,
-    make('p', { id: `fault-${name}`, class: 'fault' }));
+  drag.addEventListener('input', () => {
+    text.value = drag.value;
+    update(name);
+  });
+  return make(
+    'div',
+    { class: 'dimension' },
+    make('label', { for: text.id }, name),
+    text,
+    drag,
+    make('p', { id: `fault-${name}`, class: 'fault' }),
+  );
 }
 
 function makeFields(words) {
   const legend = element('dimensions').firstElementChild;
-  element('dimensions').replaceChildren(legend, ...profile.dimensions.map((name, i) => makeField(name, words[i])));
-  const start = START[profile.name].split(' ');
+  element('dimensions').replaceChildren(
+    legend,
+    ...profile.dimensions.map((name, i) => makeField(name, words[i])),
+  );
   profile.dimensions.forEach((name, i) => {
-    setReach(name, valueOf(start[i]));
+    setReach(name, 0);
     showValue(name, words[i]);
   });
 }
@@ -107,12 +146,16 @@ function makeFields(words) {
 // without a change at the first dimension that it names.
 function showRefusal(message, changed) {
   const names = profile.dimensions;
-  const owner = names.find((name) => message.startsWith(`${name} = `)) ?? changed ??
-    message.split(/\W+/).find((word) => names.includes(word)) ?? names[0];
+  const owner =
+    names.find((name) => message.startsWith(`${name} = `)) ??
+    changed ??
+    message.split(/\W+/).find((word) => names.includes(word)) ??
+    names[0];
   for (const name of names) {
     const isOwner = message !== '' && name === owner;
     element(`fault-${name}`).textContent = isOwner ? message : '';
-    for (const control of [field(name), slider(name)]) control.setAttribute('aria-invalid', isOwner);
+    for (const control of [field(name), slider(name)])
+      control.setAttribute('aria-invalid', isOwner);
   }
   element('stale').hidden = message === '';
   element('result').classList.toggle('stale', message !== '');
@@ -124,11 +167,31 @@ function showFigures() {
   const rows = section.figures.map(([start, symbol, value, unit, otherValue, otherUnit]) => {
     heading = start || heading;
     if (MAIN.some(([a, b]) => heading.startsWith(a) && symbol === b)) {
-      main.push(make('div', {}, make('dt', {}, symbol), make('dd', {}, `${otherValue} ${withPowers(otherUnit)}`)));
+      main.push(
+        make(
+          'div',
+          {},
+          make('dt', {}, symbol),
+          make('dd', {}, `${otherValue} ${withPowers(otherUnit)}`),
+        ),
+      );
     }
-    const number = (figure, of) => make('td', { class: 'number' }, figure, ' ', make('span', { class: 'unit' }, ` ${withPowers(of)}`));
-    return make('tr', start ? { class: 'first' } : {}, make('th', { scope: 'row' }, start),
-      make('td', { class: 'symbol' }, symbol), number(value, unit), number(otherValue, otherUnit));
+    const number = (figure, of) =>
+      make(
+        'td',
+        { class: 'number' },
+        figure,
+        ' ',
+        make('span', { class: 'unit' }, ` ${withPowers(of)}`),
+      );
+    return make(
+      'tr',
+      start ? { class: 'first' } : {},
+      make('th', { scope: 'row' }, start),
+      make('td', { class: 'symbol' }, symbol),
+      number(value, unit),
+      number(otherValue, otherUnit),
+    );
   });
   element('rows').replaceChildren(...rows);
   element('main-figures').replaceChildren(...main);
@@ -144,14 +207,18 @@ for (const language of Object.keys(LANGUAGES)) {
   TAKEN[`calls in ${language}`] = () => callsIn(language, profile, section);
 }
 
-const showText = () => { element('text').textContent = TAKEN[element('format').value](); };
+const showText = () => {
+  element('text').textContent = TAKEN[element('format').value]();
+};
 
 // Screen readers are told once the hand rests.
 let telling;
 function tell(message) {
   clearTimeout(telling);
   telling = setTimeout(() => {
-    const figures = [...element('main-figures').children].map((item) => [...item.children].map((part) => part.textContent).join(' '));
+    const figures = [...element('main-figures').children].map((item) =>
+      [...item.children].map((part) => part.textContent).join(' '),
+    );
     element('told').textContent = message || figures.join(', ');
   }, 500);
 }
@@ -189,7 +256,9 @@ function fitPicture() {
   svg.setAttribute('width', '100%');
   svg.setAttribute('role', 'img');
   if (!CROPPED.matches) return;
-  svg.querySelectorAll(':scope > text, :scope > g[text-anchor="start"], :scope > rect').forEach((part) => part.remove());
+  svg
+    .querySelectorAll(':scope > text, :scope > g[text-anchor="start"], :scope > rect')
+    .forEach((part) => part.remove());
   const { x, y, width, height } = svg.getBBox();
   svg.setAttribute('viewBox', [x - 10, y - 10, width + 20, height + 20].join(' '));
 }
@@ -207,14 +276,21 @@ function choose(chosen, words) {
   update();
   if (section?.profile === profile.name) return;
   // What does not fit together stands beside the profile as it starts.
-  show(engine.design(profile.name, START[profile.name].split(' ')));
+  show(engine.design(profile.name, startOf(profile)));
 }
 
 function makeChooser() {
   for (const each of engine.profiles) {
-    const radio = make('input', { type: 'radio', name: 'profile', value: each.name, 'aria-label': `${each.name}: ${each.description}` });
-    radio.addEventListener('change', () => choose(each, typed[each.name] ?? START[each.name].split(' ')));
-    element('profiles').append(make('label', { title: each.description }, radio, make('span', {}, each.name)));
+    const radio = make('input', {
+      type: 'radio',
+      name: 'profile',
+      value: each.name,
+      'aria-label': `${each.name}: ${each.description}`,
+    });
+    radio.addEventListener('change', () => choose(each, typed[each.name] ?? startOf(each)));
+    element('profiles').append(
+      make('label', { title: each.description }, radio, make('span', {}, each.name)),
+    );
   }
 }
 
@@ -222,12 +298,15 @@ function makeChooser() {
 function drawIcons() {
   for (const each of engine.profiles) {
     const radio = document.querySelector(`input[value="${each.name}"]`);
-    radio.insertAdjacentHTML('afterend', drawn(engine.design(each.name, START[each.name].split(' ')).picture));
+    radio.insertAdjacentHTML('afterend', drawn(engine.design(each.name, startOf(each)).picture));
     const svg = radio.nextElementSibling;
     const steel = svg.querySelector('path[fill-rule]');
     const { x, y, width, height } = steel.getBBox();
     const side = 1.2 * Math.max(width, height);
-    svg.setAttribute('viewBox', [x + (width - side) / 2, y + (height - side) / 2, side, side].join(' '));
+    svg.setAttribute(
+      'viewBox',
+      [x + (width - side) / 2, y + (height - side) / 2, side, side].join(' '),
+    );
     svg.setAttribute('aria-hidden', 'true');
     for (const name of ['width', 'height']) svg.removeAttribute(name);
     for (const name of ['fill', 'stroke']) steel.removeAttribute(name);
@@ -235,16 +314,30 @@ function drawIcons() {
   }
 }
 
+function wordsOfLink() {
+  const hash = location.hash.slice(1);
+  try {
+    return decodeURIComponent(hash).split('/');
+  } catch {
+    // a stray %
+    return hash.split('/');
+  }
+}
+
 // A link that is none leaves a message, and the section as it was.
 function openLink() {
-  const hash = decodeURIComponent(location.hash.slice(1));
   if (section && location.hash === address()) return;
-  const [name, ...words] = hash.split('/');
+  const [name, ...words] = wordsOfLink();
   const linked = engine.profiles.find((each) => each.name === name.toLowerCase());
   const isLink = linked && words.length === linked.dimensions.length;
-  element('link-fault').textContent = hash === '' || isLink ? '' : engine.design(name, words).refusal;
-  if (isLink) choose(linked, words);
-  else if (!section) choose(engine.profiles.find((each) => each.name === FIRST), START[FIRST].split(' '));
+  const refusal = name === '' || isLink ? '' : engine.design(name, words).refusal;
+  element('link-fault').textContent = refusal;
+  if (isLink) {
+    choose(linked, words);
+  } else if (!section) {
+    const first = engine.profiles.find((each) => each.name === FIRST);
+    choose(first, startOf(first));
+  }
 }
 
 // Taking along -----------------------------------------------------------------------------------
@@ -252,7 +345,8 @@ function openLink() {
 async function copy(text, what) {
   try {
     await navigator.clipboard.writeText(text);
-  } catch { // without the right to do so, or from a folder
+  } catch {
+    // without the right to do so, or from a folder
     const area = make('textarea');
     area.value = text;
     document.body.append(area);
@@ -261,26 +355,34 @@ async function copy(text, what) {
     area.remove();
   }
   element('copied').textContent = `${what} copied`;
-  setTimeout(() => { element('copied').textContent = ''; }, 2000);
+  setTimeout(() => {
+    element('copied').textContent = '';
+  }, 2000);
 }
 
 function listen() {
   element('format').append(...Object.keys(TAKEN).map((name) => make('option', {}, name)));
   element('format').addEventListener('change', showText);
-  element('copy').addEventListener('click', () => copy(element('text').textContent, element('format').value));
-  element('copy-link').addEventListener('click', () => copy(location.href.split('#')[0] + address(), 'link'));
+  element('copy').addEventListener('click', () =>
+    copy(element('text').textContent, element('format').value),
+  );
+  element('copy-link').addEventListener('click', () =>
+    copy(location.href.split('#')[0] + address(), 'link'),
+  );
   element('section').addEventListener('submit', (event) => event.preventDefault());
   window.addEventListener('hashchange', openLink);
   CROPPED.addEventListener('change', () => show(section));
 }
 
-startEngine().then((started) => {
-  engine = started;
-  makeChooser();
-  listen();
-  openLink();
-  performance.measure('first picture', 'arrived');
-  setTimeout(drawIcons);
-}).catch((error) => {
-  element('link-fault').textContent = `This browser cannot run the page's code: ${error.message}`;
-});
+startEngine()
+  .then((started) => {
+    engine = started;
+    makeChooser();
+    listen();
+    openLink();
+    performance.measure('first picture', 'arrived');
+    setTimeout(drawIcons);
+  })
+  .catch((error) => {
+    element('link-fault').textContent = `This browser cannot run the page's code: ${error.message}`;
+  });

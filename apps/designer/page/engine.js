@@ -19,17 +19,30 @@ async function startEngine() {
     const bytes = new Uint8Array(code.memory.buffer, address);
     return new TextDecoder().decode(bytes.subarray(0, bytes.indexOf(0)));
   };
-  const lines = (text) => text.split('\n').slice(0, -1).map((line) => line.split('\t'));
+  const lines = (text) =>
+    text
+      .split('\n')
+      .slice(0, -1)
+      .map((line) => line.split('\t'));
   const words = (text) => (text === '' ? [] : text.split(' '));
 
   return {
-    profiles: lines(read(code.designer_profiles())).map(([name, description, dimensions, mayBeZero]) =>
-      ({ name, description, dimensions: words(dimensions), mayBeZero: words(mayBeZero) })),
+    profiles: lines(read(code.designer_profiles())).map(
+      ([name, description, dimensions, mayBeZero]) => ({
+        name,
+        description,
+        dimensions: words(dimensions),
+        mayBeZero: words(mayBeZero),
+      }),
+    ),
 
     // The section, or why there is none: { refusal }.
     design(profile, dimensions) {
-      const bytes = new TextEncoder().encode([profile, ...dimensions].map((word) => `${word}\0`).join(''));
-      if (bytes.length > code.designer_input_size()) return { refusal: 'too long to be dimensions' };
+      const bytes = new TextEncoder().encode(
+        [profile, ...dimensions].map((word) => `${word}\0`).join(''),
+      );
+      if (bytes.length > code.designer_input_size())
+        return { refusal: 'too long to be dimensions' };
       new Uint8Array(code.memory.buffer, code.designer_input(), bytes.length).set(bytes);
       code.designer_design(bytes.length);
       const refusal = read(code.designer_text(0));
@@ -40,8 +53,12 @@ async function startEngine() {
         profile,
         dimensions: words(texts.dimensions),
         figures: lines(texts.figures),
-        parts: lines(texts.parts).map(([kind, factor, x, y]) =>
-          ({ kind, factor, x: words(x), y: words(y) })),
+        parts: lines(texts.parts).map(([kind, factor, x, y]) => ({
+          kind,
+          factor,
+          x: words(x),
+          y: words(y),
+        })),
       };
     },
   };
