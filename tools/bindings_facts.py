@@ -139,7 +139,7 @@ def wrap_list(items, first, following, end, continuation=""):
     lines = [first]
     for i, item in enumerate(items):
         piece = item + (end if i + 1 == len(items) else ",")
-        space = "" if lines[-1].endswith("(") or not lines[-1].strip() else " "
+        space = "" if lines[-1].endswith(("(", "[")) or not lines[-1].strip() else " "
         if len(lines[-1] + space + piece + continuation) > WIDTH:
             lines[-1] += continuation
             lines.append(following + piece)

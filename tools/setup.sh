@@ -9,10 +9,11 @@ packages=(
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
   wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld # WebAssembly
-  nodejs chromium                                      # running it, and the page that is made of it
+  chromium                                              # the page that is made of it
+  python3-distributed python3-psutil                    # the study by Dask
   gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
+  nodejs                                                # and in JavaScript; npm below
 )
-command -v npm >/dev/null || packages+=(npm)           # some packages of nodejs bring it along
 
 installed() {
   [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
@@ -28,6 +29,8 @@ missing=()
 for package in "${packages[@]}"; do
   installed "$package" || missing+=("$package")
 done
+# Other suppliers' nodejs brings its own npm, and Debian's package conflicts with it.
+command -v npm >/dev/null || missing+=(npm)
 [ ${#missing[@]} -gt 0 ] || exit 0
 
 echo "setup: installing ${missing[*]}"
