@@ -8,6 +8,8 @@ packages=(
   googletest libclang-rt-14-dev clang-format clang-tidy # tests, sanitizers, formatting
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
+  wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld # WebAssembly
+  chromium                                              # the page that is made of it
   python3-distributed python3-psutil                    # the study by Dask
   gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
   nodejs                                                # and in JavaScript; npm below
