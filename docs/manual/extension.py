@@ -1,0 +1,154 @@
+"""The directives of the manual, the anchors of its routines and the entries of its index."""
+
+import csv
+import os
+from pathlib import Path
+
+from docutils import nodes
+from docutils.parsers.rst import Directive, directives
+from docutils.statemachine import StringList
+from sphinx import addnodes
+from sphinx.directives.other import TocTree
+from sphinx.transforms import SphinxTransform
+from sphinx.util import logging
+
+import languages
+import words
+
+LOG = logging.getLogger(__name__)
+FENCE = "`" * 3
+
+
+class _OfManual(Directive):
+    @property
+    def env(self):
+        return self.state.document.settings.env
+
+    def markdown(self, lines):
+        """The nodes of a text."""
+        node = nodes.Element()
+        source = self.state.document.current_source
+        self.state.nested_parse(StringList(list(lines), source), self.content_offset, node)
+        return node.children
+
+    def path_from_page(self, file):
+        """Where a file is, seen from the page."""
+        self.env.note_dependency(str(file))
+        return os.path.relpath(file, Path(self.env.doc2path(self.env.docname)).parent)
+
+
+class Figure(_OfManual):
+    """A figure that the library draws of its own results; the content is its caption.
+
+    A figure that has not been drawn is left out, or an error where `trelvin_figures_required` is set.
+    """
+
+    required_arguments = 1
+    has_content = True
+
+    def run(self):
+        name, config = self.arguments[0], self.env.config
+        folders = [Path(config.trelvin_figures), Path(self.env.srcdir)]
+        file = next((f for f in (folder / f"{name}.svg" for folder in folders) if f.exists()), None)
+        if not file:
+            if config.trelvin_figures_required:
+                LOG.warning("no figure %s", name, location=self.env.docname)
+            return []
+        caption = " ".join(self.content)
+        figure = nodes.figure(classes=["drawn"])
+        figure += nodes.image(uri=self.path_from_page(file), alt=caption, candidates={})
+        figure += nodes.caption("", caption)
+        return [figure]
+
+
+class Task(_OfManual):
+    """The calls of a task in every language, and what they printed when the manual was built."""
+
+    required_arguments = 1
+
+    def run(self):
+        name = self.arguments[0]
+        task, printed = self.env.config.trelvin_tasks[name]
+        self.env.note_dependency(str(Path(__file__).parents[1] / "calls" / f"{name}.calls"))
+        shown = []
+        for language in languages.ALL:
+            shown += [f"{FENCE}`{{tab}} {language.name}", f"{FENCE}{language.lexer}",
+                      *language.program(task).splitlines(), FENCE, f"{FENCE}`"]
+        links = ", ".join(f"[`{routine}`]({routine})" for routine in task.routines)
+        shown += ["", f"Calls: {links}. Printed, by all of them but Basic, which was not run:", "",
+                  f"{FENCE}text", *printed.splitlines(), FENCE]
+        return self.markdown(shown)
+
+
+class Table(_OfManual):
+    """A table from a CSV file of docs/, where it exists; lines behind # are shown as text."""
+
+    required_arguments = 1
+    option_spec = {"missing": directives.unchanged}
+
+    def run(self):
+        file = Path(self.env.srcdir) / self.arguments[0]
+        if not file.exists():
+            return self.markdown([self.options.get("missing", "")])
+        self.path_from_page(file)
+        lines = file.read_text().splitlines()
+        notes = [line.lstrip("# ") for line in lines if line.startswith("#")]
+        head, *rows = csv.reader(line for line in lines if line and not line.startswith("#"))
+        shown = [*notes, "", f"{FENCE}{{table}}", ":class: measured", "", f"| {' | '.join(head)} |",
+                 "|---" * len(head) + "|"]
+        shown += ["| " + " | ".join(map(self._cell, row)) + " |" for row in rows]
+        return self.markdown([*shown, FENCE])
+
+    def _cell(self, text):
+        if text in self.env.config.trelvin_routines:
+            return f"[`{text}`]({text})"
+        return text.replace("|", "\\|").replace("_", "\\_").replace("*", "\\*").replace("<", "\\<")
+
+
+class Pages(TocTree):
+    """A table of contents of those pages that exist."""
+
+    def run(self):
+        there = [entry for entry in self.content if entry in self.env.found_docs]
+        self.content = StringList(there, self.state.document.current_source)
+        return super().run()
+
+
+class Anchors(SphinxTransform):
+    """A routine's heading answers to its name as it is written, and the index has its words."""
+
+    default_priority = 500  # before the index is collected
+
+    def apply(self, **kwargs):
+        entries = words.entries()
+        for section in list(self.document.findall(nodes.section)):
+            name = section.next_node(nodes.title).astext()
+            if name in self.config.trelvin_routines and self._is_its_contract(name):
+                if name not in section["ids"]:
+                    section["ids"].append(name)
+                self._index(section, name, section["ids"][0], entries.get(name, []), True)
+            elif section.parent is self.document:
+                self._index(section, name, section["ids"][0], entries.get(self.env.docname, []), False)
+
+    def _is_its_contract(self, name):
+        return self.env.docname == self.config.trelvin_routines[name]
+
+    @staticmethod
+    def _index(section, name, anchor, its_words, itself):
+        found = [("single", f"{word}; {name}", anchor, "", None) for word in its_words]
+        found += [("single", name, anchor, "main", None)] if itself else []
+        if found:
+            section.insert(1, addnodes.index(entries=found))
+
+
+def setup(app):
+    app.add_config_value("trelvin_figures", "", "env")
+    app.add_config_value("trelvin_figures_required", False, "env")
+    app.add_config_value("trelvin_tasks", {}, "")
+    app.add_config_value("trelvin_routines", {}, "")
+    app.add_directive("trelvin-figure", Figure)
+    app.add_directive("trelvin-task", Task)
+    app.add_directive("trelvin-table", Table)
+    app.add_directive("trelvin-pages", Pages)
+    app.add_transform(Anchors)
+    return {"parallel_read_safe": True}
