@@ -7,6 +7,7 @@ Generated pages and the programs of the tasks come first, then the figures, wher
 draws them is built, then Sphinx, to which every warning is an error.
 """
 
+import re
 import shutil
 import subprocess
 import sys
@@ -29,6 +30,15 @@ def draw_figures():
         subprocess.run([program, folder], check=True, stdout=subprocess.DEVNULL)
 
 
+def inline_imports(out):
+    """Debian's themes import style sheets from a web server's folder of packages."""
+    for sheet in out.glob("_static/**/*.css"):
+        text = re.sub(r"@import url\(/javascript/([^)]*)\);?",
+                      lambda m: Path("/usr/share/javascript", m.group(1)).read_text(),
+                      sheet.read_text())
+        sheet.write_text(text)
+
+
 def main():
     prepare.BUILD.mkdir(parents=True, exist_ok=True)
     try:
@@ -41,7 +51,9 @@ def main():
     shutil.rmtree(out, ignore_errors=True)
     command = ["/usr/bin/python3", "-m", "sphinx", "-E", "-a", "-q", "-W", "--keep-going", "-j", "2",
                "-d", prepare.BUILD / "doctrees", DOCS, out]
-    return subprocess.run(list(map(str, command))).returncode
+    result = subprocess.run(list(map(str, command))).returncode
+    inline_imports(out)
+    return result
 
 
 if __name__ == "__main__":

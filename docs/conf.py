@@ -25,6 +25,7 @@ html_theme = "furo"
 html_static_path = ["static"]
 templates_path = ["templates"]
 html_css_files = ["manual.css"]
+html_js_files = ["search.js"]
 html_copy_source = False
 html_show_sphinx = False
 html_show_copyright = False

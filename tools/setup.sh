@@ -8,6 +8,7 @@ packages=(
   googletest libclang-rt-14-dev clang-format clang-tidy # tests, sanitizers, formatting
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
+  python3-sphinx furo python3-myst-parser python3-sphinx-inline-tabs python3-sphinx-copybutton # manual
   gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
 )
 
@@ -44,7 +45,7 @@ trap 'rm -f "$log"' EXIT
 [[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
 install() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends "$@" >"$log" 2>&1
+    apt-get install -o DPkg::Lock::Timeout=300 -y -q --no-install-recommends "$@" >"$log" 2>&1
 }
 # One stale index does not matter if the packages can be had all the same; the installation will tell.
 "${as_root[@]}" apt-get update -q >"$log" 2>&1 || { echo "setup: package lists partly out of date:" >&2; grep '^E:' "$log" >&2 || true; }

@@ -2,6 +2,7 @@
 
 import csv
 import os
+import re
 from pathlib import Path
 
 from docutils import nodes
@@ -55,29 +56,39 @@ class Figure(_OfManual):
                 LOG.warning("no figure %s", name, location=self.env.docname)
             return []
         caption = " ".join(self.content)
-        figure = nodes.figure(classes=["drawn"])
+        wide = float(re.search(r'width="([\d.]+)', file.read_text()).group(1)) > 600
+        figure = nodes.figure(classes=["drawn", "wide"] if wide else ["drawn"])
         figure += nodes.image(uri=self.path_from_page(file), alt=caption, candidates={})
         figure += nodes.caption("", caption)
         return [figure]
 
 
 class Task(_OfManual):
-    """The calls of a task in every language, and what they printed when the manual was built."""
+    """The calls of a task in every language, and what they printed when the manual was built.
+
+    Folded, what they printed comes first and the calls are opened by a click.
+    """
 
     required_arguments = 1
+    option_spec = {"folded": directives.flag}
 
     def run(self):
         name = self.arguments[0]
         task, printed = self.env.config.trelvin_tasks[name]
         self.env.note_dependency(str(Path(__file__).parents[1] / "calls" / f"{name}.calls"))
-        shown = []
+        program = []
         for language in languages.ALL:
-            shown += [f"{FENCE}`{{tab}} {language.name}", f"{FENCE}{language.lexer}",
-                      *language.program(task).splitlines(), FENCE, f"{FENCE}`"]
+            program += [f"{FENCE}`{{tab}} {language.name}", f"{FENCE}{language.lexer}",
+                        *language.program(task).splitlines(), FENCE, f"{FENCE}`"]
         links = ", ".join(f"[`{routine}`]({routine})" for routine in task.routines)
-        shown += ["", f"Calls: {links}. Printed, by all of them but Basic, which was not run:", "",
-                  f"{FENCE}text", *printed.splitlines(), FENCE]
-        return self.markdown(shown)
+        output = [f"{FENCE}text", *printed.splitlines(), FENCE]
+        if "folded" not in self.options:
+            told = f"Calls: {links}. Printed, by all of them but Basic, which was not run:"
+            return self.markdown([*program, "", told, "", *output])
+        summary = '<details class="calls"><summary>The calls that printed this</summary>'
+        return [*self.markdown(output), nodes.raw("", summary, format="html"),
+                *self.markdown([*program, "", f"Calls: {links}. Basic was not run."]),
+                nodes.raw("", "</details>", format="html")]
 
 
 class Table(_OfManual):

@@ -67,7 +67,8 @@ class Language:
         if step.kind == "set":
             return [self.assign(self.element(step.label), self.expression(step.text))]
         if step.kind == "print":
-            return [self.show(step)]
+            shown = self.show(step)
+            return [shown] if isinstance(shown, str) else shown
         return self.call(task, step) if step.kind == "call" else [""]
 
     def assign(self, name, expression):
@@ -281,8 +282,9 @@ class CSharp(Language):
         number = "" if step.decimals is None else f":F{step.decimals}"
         form = "".join(f"{{{i},{VALUE}{number}}}" for i in range(len(step.values)))
         cast = "" if step.decimals is None else "(double)"
-        values = ", ".join(cast + self.element(value) for value in step.values)
-        return f'Console.WriteLine("{self.label(step)}{form}{self.unit(step)}", {values});'
+        values = [cast + self.element(value) for value in step.values]
+        text = f'"{self.label(step)}{form}{self.unit(step)}"'
+        return wrap_list([text, *values], "Console.WriteLine(", "    ", ");")
 
 
 class Basic(Language):
@@ -325,8 +327,10 @@ class Basic(Language):
     def show(self, step):
         form = "0" if step.decimals is None else f"0.{'0' * step.decimals}".rstrip(".")
         values = [f'Format$({self.element(value)}, "{form}")' for value in step.values]
-        unit = [f'"{self.unit(step)}"'] if step.unit else []
-        return "Debug.Print " + " & ".join([f'"{self.label(step)}"', ' & "  " & '.join(values), *unit])
+        lines = [f'Debug.Print "{self.label(step)}" & {values[0]}']
+        lines += [f'    "  " & {value}' for value in values[1:]]
+        lines[-1] += f' & "{self.unit(step)}"' if step.unit else ""
+        return [line + " & _" for line in lines[:-1]] + lines[-1:]
 
 
 @lru_cache(maxsize=None)

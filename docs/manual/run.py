@@ -68,15 +68,11 @@ def _pascal(source, program):
     return [["fpc", "-v0w", f"-Fu{source.parent}", f"-Fl{LIBRARY}", source, f"-o{program}"], [program]]
 
 
-def _csharp(source, program):
-    return [["mcs", "-r:Trelvin.Net.dll", source, f"-out:{program}.exe"], ["mono", f"{program}.exe"]]
+COMMANDS = {"C": _c, "Fortran": _fortran, "Pascal": _pascal}
 
 
-def _python(source, _program):
-    return [["/usr/bin/python3", source]]
-
-
-COMMANDS = {"C": _c, "Fortran": _fortran, "Pascal": _pascal, "C#": _csharp, "Python": _python}
+def _each(language, folder, tasks):
+    return {task.name: _printed(language, folder, task) for task in tasks}
 
 
 def _printed(language, folder, task):
@@ -87,16 +83,51 @@ def _printed(language, folder, task):
     return text
 
 
+# --- all programs in one process, where starting is what takes time ------------------------------
+
+END = "\x1e\n"  # between the outputs of two tasks
+
+
+def _all_csharp(language, folder, tasks):
+    classes, calls = [], []
+    for task in tasks:
+        name = "Task_" + task.name.replace("-", "_")
+        text = language.program(task).split("\n\n", 1)[1]
+        classes.append(text.replace("static class Program", f"static class {name}")
+                       .replace("static void Main", "public static void Main"))
+        calls.append(f'{name}.Main(); Console.Write("{END[:-1]}\\n");')
+    main = f"static class All {{ static void Main() {{ {' '.join(calls)} }} }}"
+    source = folder / "all.cs"
+    source.write_text("\n".join(["using System;", "using Trelvin;", *classes, main]))
+    _command(["mcs", "-r:Trelvin.Net.dll", "-main:All", source, "-out:all.exe"], folder)
+    return _split(_command(["mono", "all.exe"], folder), tasks)
+
+
+def _all_python(language, folder, tasks):
+    for task in tasks:
+        (folder / f"{task.name}.py").write_text(language.program(task))
+    loop = f"import runpy, sys\nfor p in sys.argv[1:]:\n    runpy.run_path(p)\n    print({END[:-1]!r})"
+    files = [f"{task.name}.py" for task in tasks]
+    return _split(_command(["/usr/bin/python3", "-c", loop, *files], folder), tasks)
+
+
+def _split(text, tasks):
+    return dict(zip([task.name for task in tasks], text.split(END)))
+
+
+COLUMNS = {"C": _each, "Fortran": _each, "Pascal": _each, "C#": _all_csharp, "Python": _all_python}
+
+
 def _column(language, folder, tasks):
     """What all tasks print in one language."""
     folder.mkdir(parents=True, exist_ok=True)
     PREPARE.get(language.name, lambda _: None)(folder)
-    return {task.name: _printed(language, folder, task) for task in tasks}
+    return COLUMNS[language.name](language, folder, tasks)
 
 
 def run(tasks, folder):
     """What each task prints, the same in all languages that can be run here."""
-    languages_run = [language for language in languages.ALL if language.name in COMMANDS]
+    languages_run = [language for language in languages.ALL if language.name in COLUMNS]
     with ThreadPoolExecutor(2) as pool:
         columns = pool.map(lambda one: _column(one, folder / one.suffix, tasks), languages_run)
         columns = dict(zip([language.name for language in languages_run], columns))
