@@ -16,7 +16,7 @@ release = version = bindings_facts.version()
 html_title = f"Trelvin {release}"
 extensions = ["myst_parser", "sphinx_inline_tabs", "sphinx_copybutton", "extension"]
 myst_enable_extensions = ["deflist"]
-exclude_patterns = ["routines.md", "manual", "figures", "calls"]
+exclude_patterns = ["routines.md", "designer.md", "manual", "figures", "calls"]
 smartquotes = False  # a minus stays a minus
 highlight_language = "none"
 nitpicky = True

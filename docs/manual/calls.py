@@ -100,7 +100,8 @@ class _Reader:
             return self._declare([Variable(name, is_integer, values=[v]) for name, v in pairs])
         if array:
             kind, name, size, values = array.groups()
-            return self._declare([Variable(name, kind == "ints", int(size), (values or "").split())])
+            values = (values or "").split()
+            return self._declare([Variable(name, kind == "ints", int(size), values)])
         if let:
             name, text = let.groups()
             for used in set(NAME.findall(text)) - {"sqrt"}:

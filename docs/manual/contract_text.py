@@ -8,6 +8,8 @@ import headers
 
 COST = re.compile(r"(The time|Time|Takes|More than \d+ \w+ take|Where memory)\b")
 LEFT = re.compile(r"\b(unwritten|untouched|not written|nothing else is written|the rest is not)\b")
+PIECES = re.compile(  # the title of a group, or a contract with the name of its routine
+    r"^/\* (\S[^*]*?) -+ \*/|(/\*\*(?:(?!\*/).)*?\*/)\s*TRELVIN_ROUTINE (\w+)", re.S | re.M)
 SENTENCE = re.compile(r"(?<=[.])\s+(?=[A-Z0-9-])")
 
 
@@ -104,9 +106,7 @@ def _page(family):
     intro = paragraphs_of(re.search(r"/\*\*.*?\*/", text, re.S).group())[1:]
     groups = [Group("", [])]
     by_name = {routine.name: routine for routine in family.routines}
-    for title, comment, name in re.findall(
-        r"^/\* (\S[^*]*?) -+ \*/|(/\*\*(?:(?!\*/).)*?\*/)\s*TRELVIN_ROUTINE (\w+)", text, re.S | re.M
-    ):
+    for title, comment, name in PIECES.findall(text):
         if title:
             groups.append(Group(title, []))
         else:

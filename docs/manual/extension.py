@@ -14,6 +14,7 @@ from sphinx.transforms import SphinxTransform
 from sphinx.util import logging
 
 import languages
+import reference
 import words
 
 LOG = logging.getLogger(__name__)
@@ -41,7 +42,7 @@ class _OfManual(Directive):
 class Figure(_OfManual):
     """A figure that the library draws of its own results; the content is its caption.
 
-    A figure that has not been drawn is left out, or an error where `trelvin_figures_required` is set.
+    One that has not been drawn is left out, or an error where `trelvin_figures_required` is set.
     """
 
     required_arguments = 1
@@ -105,15 +106,41 @@ class Table(_OfManual):
         lines = file.read_text().splitlines()
         notes = [line.lstrip("# ") for line in lines if line.startswith("#")]
         head, *rows = csv.reader(line for line in lines if line and not line.startswith("#"))
+        head, rows, further = self.arranged(head, rows)
         shown = [*notes, "", f"{FENCE}{{table}}", ":class: measured", "", f"| {' | '.join(head)} |",
                  "|---" * len(head) + "|"]
         shown += ["| " + " | ".join(map(self._cell, row)) + " |" for row in rows]
-        return self.markdown([*shown, FENCE])
+        return self.markdown([*shown, FENCE, "", *further])
+
+    def arranged(self, head, rows):
+        """Head and rows as they are shown, and lines behind the table."""
+        return head, rows, []
 
     def _cell(self, text):
         if text in self.env.config.trelvin_routines:
             return f"[`{text}`]({text})"
-        return text.replace("|", "\\|").replace("_", "\\_").replace("*", "\\*").replace("<", "\\<")
+        return reference.escaped(text)
+
+
+class Accuracy(Table):
+    """The errors of an output near and far from the origin side by side."""
+
+    def arranged(self, head, rows):
+        errors, notes, without = {}, {}, {}
+        for routine, output, where, median, worst, note in rows:
+            if not where:
+                without.setdefault(note or "not measured", []).append(routine)
+                continue
+            place = errors.setdefault((routine, output), {})
+            place[where] = [re.sub(r"e\+0?", "e", figure) for figure in (median, worst)]
+            notes.setdefault((routine, output), set()).add(note)
+        head = ["Routine", "Output", "near: median", "worst", "far: median", "worst", "Note"]
+        nothing = ["", ""]
+        rows = [[*key, *place.get("origin", nothing), *place.get("far", nothing),
+                 "; ".join(sorted(notes[key] - {""}))] for key, place in errors.items()]
+        further = [f"{note[0].upper()}{note[1:]}: {', '.join(map(self._cell, routines))}.\n"
+                   for note, routines in without.items()]
+        return head, rows, "\n".join(further).splitlines()
 
 
 class Pages(TocTree):
@@ -132,6 +159,7 @@ class Anchors(SphinxTransform):
 
     def apply(self, **kwargs):
         entries = words.entries()
+        of_page = entries.get(self.env.docname, [])
         for section in list(self.document.findall(nodes.section)):
             name = section.next_node(nodes.title).astext()
             if name in self.config.trelvin_routines and self._is_its_contract(name):
@@ -139,7 +167,7 @@ class Anchors(SphinxTransform):
                     section["ids"].append(name)
                 self._index(section, name, section["ids"][0], entries.get(name, []), True)
             elif section.parent is self.document:
-                self._index(section, name, section["ids"][0], entries.get(self.env.docname, []), False)
+                self._index(section, name, section["ids"][0], of_page, False)
 
     def _is_its_contract(self, name):
         return self.env.docname == self.config.trelvin_routines[name]
@@ -152,6 +180,32 @@ class Anchors(SphinxTransform):
             section.insert(1, addnodes.index(entries=found))
 
 
+class NothingOutside(SphinxTransform):
+    """An address outside of the manual is shown, not linked to."""
+
+    default_priority = 500
+
+    def apply(self, **kwargs):
+        for link in list(self.document.findall(nodes.reference)):
+            address = link.get("refuri", "")
+            if re.match(r"https?:", address):
+                told = [] if address in link.astext() else [nodes.Text(f" ({address})")]
+                link.replace_self([*link.children, *told])
+
+
+def without_link(app, env, node, contents):
+    """A file or folder of the sources that is no page, nor can be taken along, is named alone."""
+    folder = Path(env.doc2path(node.get("refdoc", env.docname))).parent
+    return contents if (folder / node["reftarget"]).exists() else None
+
+
+def with_page_of_designer(app, page, source):
+    """What docs/designer.md tells stands on another page: designer.html is the designer itself."""
+    told = Path(app.srcdir) / "designer.md"
+    if page == "section_designer" and told.exists():
+        source[0] += "\n" + told.read_text().split("\n", 1)[1]
+
+
 def setup(app):
     app.add_config_value("trelvin_figures", "", "env")
     app.add_config_value("trelvin_figures_required", False, "env")
@@ -160,6 +214,10 @@ def setup(app):
     app.add_directive("trelvin-figure", Figure)
     app.add_directive("trelvin-task", Task)
     app.add_directive("trelvin-table", Table)
+    app.add_directive("trelvin-accuracy", Accuracy)
     app.add_directive("trelvin-pages", Pages)
     app.add_transform(Anchors)
+    app.add_transform(NothingOutside)
+    app.connect("missing-reference", without_link)
+    app.connect("source-read", with_page_of_designer)
     return {"parallel_read_safe": True}

@@ -55,7 +55,7 @@ class Language:
     @staticmethod
     def _belongs_to_declarations(steps, i):
         following = next((s for s in steps[i:] if s.kind != "comment"), steps[i])
-        return steps[i].kind == "declare" or steps[i].kind == "comment" and following.kind == "declare"
+        return following.kind == "declare" and steps[i].kind in ("declare", "comment")
 
     def lines_of(self, task, step):
         if step.kind == "comment":
@@ -100,8 +100,8 @@ class Language:
         return ELEMENT.sub(lambda m: f"{m.group(1)}[{int(m.group(2)) - 1}]", text)
 
     def values(self, variable):
-        missing = variable.size - len(variable.values)
-        return ", ".join(v + self.real_suffix * ("." in v) for v in variable.values + ["0"] * missing)
+        values = variable.values + ["0"] * (variable.size - len(variable.values))
+        return ", ".join(v + self.real_suffix * ("." in v) for v in values)
 
     def appearing(self, variables):
         lines = []
@@ -310,7 +310,8 @@ class Basic(Language):
         return lines + [": ".join(values[i : i + 6]) for i in range(0, len(values), 6)]
 
     def declaration_of(self, is_integer, names):
-        return wrap_list([f"{n} As {self.kinds[is_integer]}" for n in names], "Dim", "    ", "", " _")
+        names = [f"{name} As {self.kinds[is_integer]}" for name in names]
+        return wrap_list(names, "Dim", "    ", "", " _")
 
     def let(self, v, expression):
         return f"Dim {v.name} As Single: {v.name} = {expression}"
@@ -335,7 +336,7 @@ class Basic(Language):
 
 @lru_cache(maxsize=None)
 def _python_routines():
-    """Of every function of the package: parameters by position, optional ones, fields of its result."""
+    """Of every function of the package: parameters, optional ones, fields of its result."""
     source = headers.ROOT / "bindings/python/trelvin/_routines.py"
     fields, functions = {}, {}
     for node in ast.parse(source.read_text()).body:
@@ -382,7 +383,8 @@ class Python(Language):
         positional, optional, fields = _python_routines()[step.routine.name]
         names = dict(zip([a.name for a in step.routine.arguments], step.arguments))
         passed = [names[p.rstrip("_")] for p in positional]
-        passed += [f"{p}={names[p]}" for p in optional if p in names and not self._told(task, names, p)]
+        counts = [p for p in optional if p in names and not self._told(task, names, p)]
+        passed += [f"{count}={names[count]}" for count in counts]
         wanted = [f for f in fields if self._wanted(task, step, f.rstrip("_"), names)]
         start = f"trelvin.{step.routine.name}("
         if not fields:
@@ -390,7 +392,8 @@ class Python(Language):
             return self._lines(f"{outputs[0]} = {start}", passed, ")")
         targets = [names[f.rstrip("_")] if f in wanted else "_" for f in fields]
         if len(wanted) == 1:
-            return self._lines(f"{names[wanted[0].rstrip('_')]} = {start}", passed, f").{wanted[0]}")
+            target = names[wanted[0].rstrip("_")]
+            return self._lines(f"{target} = {start}", passed, f").{wanted[0]}")
         if targets.count("_") > 3:
             values = [f"result.{f}" for f in wanted]
             chosen = ", ".join(t for t in targets if t != "_")

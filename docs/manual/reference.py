@@ -76,7 +76,7 @@ def _argument_row(writer, shown, names, argument):
     if argument.is_array:
         match = contracts.SIZE.match(text)
         sizes, used, kind = match.groups()
-        size = f" of {sizes}" + (f", {used} used" if used else "") + (f", by {kind}" if kind else "")
+        size = f" of {sizes}" + f", {used} used" * bool(used) + f", by {kind}" * bool(kind)
         text = text[match.end() :].strip() or "numbers"
     kind = "Integer" if argument.is_integer else "Real"
     if argument.type == "TrvFunctionIn":
@@ -146,8 +146,8 @@ def family_page(writer, page):
 
 def all_routines(writer):
     count = len(writer.page_of)
-    lines = ["# All routines", "", f"The {count} routines by family. Every one takes the address of "
-             "each argument and returns nothing; each links to its contract. Looking for a word "
+    lines = ["# All routines", "", f"The {count} routines by family. Every one takes the address "
+             "of each argument and returns nothing; each links to its contract. Looking for a word "
              "rather than a name: [Find by word](words.md).", "", "```{toctree}", ":hidden:", "",
              *[page.family.name for page in writer.pages], "```", ""]
     for page in writer.pages:
@@ -159,8 +159,8 @@ def all_routines(writer):
 
 
 def statuses(writer):
-    lines = ["# Statuses", "", "What the values of each status mean, and the names they have in the "
-             "bindings: `trvlni_parallel` in Fortran and Pascal, `trvlniParallel` in C# and Basic, "
+    lines = ["# Statuses", "", "What the values of each status mean, and the names they have in "
+             "the bindings: `trvlni_parallel` in Fortran and Pascal, `trvlniParallel` in C# and Basic, "
              "`TrvlniStatus.PARALLEL` in Python. In C they are the numbers.", ""]
     for page in writer.pages:
         rows = []

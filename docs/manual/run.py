@@ -38,7 +38,8 @@ def _prepare_pascal(folder):
 
 
 def _prepare_csharp(folder):
-    _command(["mcs", "-target:library", "-out:Trelvin.Net.dll", BINDINGS / "csharp/Trelvin.cs"], folder)
+    source = BINDINGS / "csharp/Trelvin.cs"
+    _command(["mcs", "-target:library", "-out:Trelvin.Net.dll", source], folder)
 
 
 def _prepare_python(folder):
@@ -61,11 +62,12 @@ def _c(source, program):
 
 
 def _fortran(source, program):
-    return [["gfortran", "-Wall", "-Wno-unused-variable", source, *OPTIONS, "-o", program], [program]]
+    return [["gfortran", "-Wall", source, *OPTIONS, "-o", program], [program]]
 
 
 def _pascal(source, program):
-    return [["fpc", "-v0w", f"-Fu{source.parent}", f"-Fl{LIBRARY}", source, f"-o{program}"], [program]]
+    places = [f"-Fu{source.parent}", f"-Fl{LIBRARY}", f"-o{program}"]
+    return [["fpc", "-v0w", *places, source], [program]]
 
 
 COMMANDS = {"C": _c, "Fortran": _fortran, "Pascal": _pascal}
@@ -106,7 +108,8 @@ def _all_csharp(language, folder, tasks):
 def _all_python(language, folder, tasks):
     for task in tasks:
         (folder / f"{task.name}.py").write_text(language.program(task))
-    loop = f"import runpy, sys\nfor p in sys.argv[1:]:\n    runpy.run_path(p)\n    print({END[:-1]!r})"
+    loop = "import runpy, sys\nfor program in sys.argv[1:]:\n    runpy.run_path(program)\n"
+    loop += f"    print({END[:-1]!r})"
     files = [f"{task.name}.py" for task in tasks]
     return _split(_command(["/usr/bin/python3", "-c", loop, *files], folder), tasks)
 

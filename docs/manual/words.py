@@ -22,8 +22,8 @@ def title_of(page):
 
 def page(writer):
     """Markdown of the page that lists them."""
-    lines = ["# Find by word", "", "A word of the trade, the task that shows how it is done, and the "
-             "routines. The search box and the [index](genindex) know the same words.", ""]
+    lines = ["# Find by word", "", "A word of the trade, the task that shows how it is done, and "
+             "the routines. The search box and the [index](genindex) know the same words.", ""]
     letter = ""
     for word, targets in read():
         if word[0].upper() != letter:
