@@ -165,6 +165,28 @@ class C(Language):
         return f'printf("{form}\\n", {values});'
 
 
+class Cpp(C):
+    name, suffix, lexer = "C++", "cpp", "cpp"
+    head = ["#include <trelvin/trelvin.h>", "#include <cstdio>", "", "int main() {"]
+    tail = ["}"]
+    comment = "// "
+    square_root = "std::sqrt"
+
+    def program(self, task):
+        text = super().program(task)
+        return text.replace("#include <cstdio", "#include <cmath>\n#include <cstdio") \
+            if "std::sqrt" in text else text
+
+    def lines_of(self, task, step):
+        return wrap(step.text, "// ") if step.kind == "comment" else super().lines_of(task, step)
+
+    def passed(self, v, argument):
+        return v.name
+
+    def show(self, step):
+        return "std::" + super().show(step)
+
+
 class Fortran(Language):
     name, suffix, lexer = "Fortran", "f90", "fortran"
     comment = "! "
@@ -425,4 +447,4 @@ class Python(Language):
         return f'print(f"{self.label(step)}{values}{self.unit(step)}")'
 
 
-ALL = [C(), Python(), Fortran(), Pascal(), CSharp(), Basic()]
+ALL = [C(), Cpp(), Python(), Fortran(), Pascal(), CSharp(), Basic()]

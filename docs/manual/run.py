@@ -61,6 +61,11 @@ def _c(source, program):
              "-lm", "-o", program], [program]]
 
 
+def _cpp(source, program):
+    return [["g++", "-Wall", "-Wextra", "-Werror", "-I", headers.ROOT / "include", source, *OPTIONS,
+             "-o", program], [program]]
+
+
 def _fortran(source, program):
     return [["gfortran", "-Wall", source, *OPTIONS, "-o", program], [program]]
 
@@ -70,7 +75,7 @@ def _pascal(source, program):
     return [["fpc", "-v0w", *places, source], [program]]
 
 
-COMMANDS = {"C": _c, "Fortran": _fortran, "Pascal": _pascal}
+COMMANDS = {"C": _c, "C++": _cpp, "Fortran": _fortran, "Pascal": _pascal}
 
 
 def _each(language, folder, tasks):
@@ -118,7 +123,8 @@ def _split(text, tasks):
     return dict(zip([task.name for task in tasks], text.split(END)))
 
 
-COLUMNS = {"C": _each, "Fortran": _each, "Pascal": _each, "C#": _all_csharp, "Python": _all_python}
+COLUMNS = {"C": _each, "C++": _each, "Fortran": _each, "Pascal": _each, "C#": _all_csharp,
+           "Python": _all_python}
 
 
 def _column(language, folder, tasks):
