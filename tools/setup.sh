@@ -11,6 +11,7 @@ packages=(
   wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld # WebAssembly
   chromium                                              # the page that is made of it
   python3-distributed python3-psutil                    # the study by Dask
+  python3-sphinx furo python3-myst-parser python3-sphinx-inline-tabs python3-sphinx-copybutton # manual
   gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
   nodejs                                                # and in JavaScript; npm below
 )
@@ -50,7 +51,7 @@ trap 'rm -f "$log"' EXIT
 [[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
 install() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends "$@" >"$log" 2>&1
+    apt-get install -o DPkg::Lock::Timeout=300 -y -q --no-install-recommends "$@" >"$log" 2>&1
 }
 # One stale index does not matter if the packages can be had all the same; the installation will tell.
 "${as_root[@]}" apt-get update -q >"$log" 2>&1 || { echo "setup: package lists partly out of date:" >&2; grep '^E:' "$log" >&2 || true; }
