@@ -41,7 +41,8 @@ if(NOT MSVC)  # whose AVX2 comes with fused multiply-add
   set_source_files_properties(
     ${edge_sums} PROPERTIES COMPILE_OPTIONS "-fno-tree-vectorize;-fno-tree-slp-vectorize")
   if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86|x86_64|AMD64|i[3-6]86)$")
-    set_property(SOURCE src/properties/edge_sums_avx2.cpp APPEND PROPERTY COMPILE_OPTIONS -mavx2)
+    set_property(SOURCE src/properties/edge_sums_avx2.cpp src/space/rotations_avx2.cpp
+                 APPEND PROPERTY COMPILE_OPTIONS -mavx2)
   endif()
 endif()
 

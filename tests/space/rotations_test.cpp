@@ -23,3 +23,20 @@ TEST(Rotations, TurnTheFirstOfTheirPairTowardsTheSecondAndBackWithModeOne) {
     }
   }
 }
+
+// Long lists may be turned many points at once.
+TEST(Rotations, LongListsAreTurnedAsPointByPoint) {
+  const float angle = 0.7F;
+  for (const I n : {1, 63, 64, 65, 71, 200}) {
+    for (const I apart : {300, 7, 1, 0}) {  // of x and y, which may overlap
+      std::vector<float> at_once(600), one_by_one(600);
+      for (std::size_t i = 0; i < 600; ++i)
+        at_once[i] = one_by_one[i] = 1.1F * static_cast<float>(i);
+      trvrot(2, at_once.data(), at_once.data() + apart, n, angle);
+      for (I i = 0; i < n; ++i) {
+        trvrot(2, one_by_one.data() + i, one_by_one.data() + apart + i, 1, angle);
+      }
+      EXPECT_EQ(at_once, one_by_one) << n << ' ' << apart;
+    }
+  }
+}
