@@ -131,6 +131,13 @@ Refusal properties_of(const Given &given, Section &section, Properties &properti
   return {"the section is too large or too small for single precision"};
 }
 
+Measures measures_of(const Given &given, const Outline &outline) {
+  const Profile &profile = *given.profile;
+  Measuring measuring(given.dimensions.data(), profile.dimensions.begin(), bounding_box(outline));
+  profile.measure(given.dimensions.data(), measuring);
+  return measuring.measures;
+}
+
 Figures figures_of(const Given &given, const Properties &properties, const Outline &outline) {
   Figures figures = figures_of(properties, outline);
   figures.torsion = given.profile->torsion(given.dimensions.data());

@@ -111,12 +111,13 @@ struct Task {
   std::string dimensions;
   Figures figures;
   Outline outline;
+  Measures measures;
 };
 
 int report(const Request &request, const Task &task) {
   if (!request.svg.empty() &&
       !write_file(request.svg, picture(task.name + ": " + task.description, task.dimensions,
-                                       task.outline, task.figures.properties))) {
+                                       task.outline, task.measures, task.figures))) {
     return failure(bad_output, "cannot write '" + request.svg + "'");
   }
   return print(request.json ? json(task.figures)
@@ -143,7 +144,8 @@ int run_profile(const Request &request) {
   if (!refusal.message.empty()) return refuse(refusal, words.empty() ? "" : request.words[0]);
   const Outline outline = outline_of(section);
   return report(request, {std::string(given.profile->name), std::string(given.profile->description),
-                          dimensions_text(given), figures_of(given, properties, outline), outline});
+                          dimensions_text(given), figures_of(given, properties, outline), outline,
+                          measures_of(given, outline)});
 }
 
 int run_plates(const Request &request) {
@@ -162,8 +164,10 @@ int run_plates(const Request &request) {
   if (!are_representable(figures.properties)) {
     return failure(bad_input, "the section is too large or too small for single precision");
   }
-  return report(request, {"plates", "section of thin plates",
-                          std::to_string(plates.size()) + " plates", figures, outline_of(plates)});
+  const Outline outline = outline_of(plates);
+  return report(request,
+                {"plates", "section of thin plates", std::to_string(plates.size()) + " plates",
+                 figures, outline, overall_measures(outline)});
 }
 
 int run_batch_of(const Request &request) {

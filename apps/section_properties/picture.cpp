@@ -1,78 +1,31 @@
 #include "picture.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
-#include "numbers.h"
+#include "dimension_lines.h"
+#include "svg.h"
 
 namespace host {
 namespace {
 
-// The sheet, in pixels. The section gets a fixed width of it, and the height that it needs.
-constexpr double sheet_width = 840;
-constexpr double drawing_centre = 320;
-constexpr double largest_section = 400;
-constexpr double smallest_height = 60;  // of the drawing, for what the legend needs beside it
-constexpr double space_above = 140;
-constexpr double space_below = 130;
-constexpr double legend_left = 615;
 constexpr double axis_overhang = 34;
-constexpr double arrow_overhang = 48;
-constexpr double dimension_distance = 84;  // behind the axes and their labels
+constexpr double arrow_overhang = 46;
+constexpr double label_distance = 11;
 
 constexpr const char *ink = "#1d2733";
 constexpr const char *steel = "#c9d5e3";
 constexpr const char *origin_colour = "#7a8794";
 constexpr const char *principal_colour = "#c0262d";
-constexpr const char *dimension_colour = "#2f6690";
+constexpr const char *equal_area_colour = "#1c7c54";
+constexpr const char *shear_colour = "#7b3fa0";
 constexpr const char *dash_dot = "14 4 2 4";
-
-// Places the section on the sheet, whose y runs downwards.
-class Scale {
- public:
-  explicit Scale(const Box &box)
-      : pixels_(largest_section / std::max(box.right - box.left, box.top - box.bottom)),
-        middle_x_(0.5 * (box.left + box.right)),
-        middle_y_(0.5 * (box.bottom + box.top)),
-        height_(std::max(pixels_ * (box.top - box.bottom), smallest_height)) {}
-
-  [[nodiscard]] double x(double mm) const { return drawing_centre + pixels_ * (mm - middle_x_); }
-  [[nodiscard]] double y(double mm) const {
-    return space_above + 0.5 * height_ - pixels_ * (mm - middle_y_);
-  }
-  [[nodiscard]] double length(double mm) const { return pixels_ * mm; }
-  [[nodiscard]] double sheet_height() const { return space_above + height_ + space_below; }
-
- private:
-  double pixels_;
-  double middle_x_, middle_y_;
-  double height_;
-};
-
-std::string px(double value) { return fixed(value, 2); }
-
-std::string attribute(const std::string &name, const std::string &value) {
-  return ' ' + name + "=\"" + value + '"';
-}
-
-std::string line(double x1, double y1, double x2, double y2, const std::string &attributes = "") {
-  return "<line" + attribute("x1", px(x1)) + attribute("y1", px(y1)) + attribute("x2", px(x2)) +
-         attribute("y2", px(y2)) + attributes + "/>\n";
-}
-
-// Centred on x unless the attributes say otherwise.
-std::string text(double x, double y, const std::string &content,
-                 const std::string &attributes = "") {
-  return "<text" + attribute("x", px(x)) + attribute("y", px(y)) + attributes + '>' + content +
-         "</text>\n";
-}
-
-std::string group(const std::string &attributes, const std::string &content) {
-  return "<g" + attributes + ">\n" + content + "</g>\n";
-}
+constexpr const char *dots = "2 5";
 
 // One path for solids and holes. Both run counter-clockwise, so only the even-odd rule tells them
 // apart.
-std::string steel_area(const Outline &outline, const Scale &at) {
+std::string steel_area(const Outline &outline, const Sheet &at) {
   std::string path;
   for (const Ring &ring : outline) {
     char command = 'M';
@@ -100,33 +53,54 @@ std::string arrow_head(double x, double y, const std::string &turn) {
          attribute("fill", origin_colour) + attribute("stroke", "none") + "/>\n";
 }
 
-std::string origin_axes(const Box &box, const Scale &at) {
-  const double right = at.x(box.right) + arrow_overhang;
-  const double top = at.y(box.top) - arrow_overhang;
+std::string origin_axes(const Sheet &at) {
+  const double right = at.right() + arrow_overhang;
+  const double top = at.top() - arrow_overhang;
   const std::string label = attribute("fill", origin_colour) + attribute("stroke", "none");
   return group(attribute("stroke", origin_colour),
-               line(at.x(box.left) - axis_overhang, at.y(0), right, at.y(0)) +
-                   line(at.x(0), at.y(box.bottom) + axis_overhang, at.x(0), top) +
+               line(at.left() - axis_overhang, at.y(0), right, at.y(0)) +
+                   line(at.x(0), at.bottom() + axis_overhang, at.x(0), top) +
                    arrow_head(right, at.y(0), "") + arrow_head(at.x(0), top, " rotate(-90)") +
-                   text(right + 10, at.y(0) + 4, "x", label) + text(at.x(0), top - 7, "y", label));
+                   text(right + label_distance, at.y(0) + 4, "x", label) +
+                   text(at.x(0), top - 7, "y", label));
 }
 
-// Drawn along x and y and then turned about the centroid; y downwards turns the other way.
-std::string principal_axes(const Box &box, const Scale &at, const Properties &p) {
-  constexpr double degrees = 180 / 3.14159265358979323846;
+// A line through (x, y) along (cos, sin) as far as the axes go, y upwards, with its label at the end
+// that lies away from the arrows of x and y.
+std::string principal_axis(const Sheet &at, double x, double y, double cos, double sin,
+                           const std::string &name) {
+  double ends[] = {-1e9, 1e9};  // along the axis, from (x, y)
+  const auto clip = [&](double direction, double low, double high) {
+    if (std::fabs(direction) < 1e-9) return;
+    ends[0] = std::max(ends[0], std::min(low / direction, high / direction));
+    ends[1] = std::min(ends[1], std::max(low / direction, high / direction));
+  };
+  clip(cos, at.left() - axis_overhang - x, at.right() + axis_overhang - x);
+  clip(sin, y - at.bottom() - axis_overhang, y - at.top() + axis_overhang);
+  const bool is_first = cos + sin > 1e-9 || (std::fabs(cos + sin) <= 1e-9 && cos > 0);
+  const double label = is_first ? ends[0] - label_distance : ends[1] + label_distance;
+  return line(x + ends[0] * cos, y - ends[0] * sin, x + ends[1] * cos, y - ends[1] * sin,
+              attribute("stroke-dasharray", dash_dot)) +
+         text(x + label * cos, y - label * sin + 4.5, name,
+              attribute("fill", principal_colour) + attribute("stroke", "none"));
+}
+
+std::string principal_axes(const Sheet &at, const Properties &p) {
   const double x = at.x(p.xs);
   const double y = at.y(p.ys);
-  const double left = at.x(box.left) - axis_overhang;
-  const double bottom = at.y(box.bottom) + axis_overhang;
-  const std::string dashed = attribute("stroke-dasharray", dash_dot);
-  const std::string label = attribute("fill", principal_colour) + attribute("stroke", "none");
-  const std::string turn =
-      "rotate(" + fixed(-p.alpha * degrees, 4) + ' ' + px(x) + ' ' + px(y) + ')';
-  return group(attribute("stroke", principal_colour) + attribute("stroke-width", "1.2") +
-                   attribute("transform", turn),
-               line(left, y, at.x(box.right) + axis_overhang, y, dashed) +
-                   line(x, bottom, x, at.y(box.top) - axis_overhang, dashed) +
-                   text(left - 10, y + 4, "1", label) + text(x, bottom + 15, "2", label));
+  const double cos = std::cos(p.alpha);
+  const double sin = std::sin(p.alpha);
+  return group(attribute("stroke", principal_colour) + attribute("stroke-width", "1.2"),
+               principal_axis(at, x, y, cos, sin, "1") + principal_axis(at, x, y, -sin, cos, "2"));
+}
+
+std::string equal_area_axes(const Box &box, const Sheet &at, const Plastic &p) {
+  constexpr double overhang = 18;
+  return group(
+      attribute("stroke", equal_area_colour) + attribute("stroke-width", "1.6") +
+          attribute("stroke-dasharray", dots),
+      line(at.x(box.left) - overhang, at.y(p.y), at.x(box.right) + overhang, at.y(p.y)) +
+          line(at.x(p.x), at.y(box.bottom) + overhang, at.x(p.x), at.y(box.top) - overhang));
 }
 
 std::string centroid_mark(double x, double y) {
@@ -135,74 +109,98 @@ std::string centroid_mark(double x, double y) {
          attribute("stroke-width", "1.6") + "/>\n";
 }
 
-// A dimension line from 0 to `length` along x with oblique strokes at its ends and the figure above
-// it. The section lies on the side of `towards`, 1 or -1 in y, and extension lines run up to it.
-std::string dimension(double length, double towards, const std::string &figure) {
-  constexpr double room_for_figure = 32;
-  const double reach = towards * (dimension_distance - 8);
-  const double end = -8 * towards;
-  const auto stroke = [](double x) {
-    return line(x - 4, 4, x + 4, -4, attribute("stroke-width", "1.8"));
-  };
-  const std::string plain = attribute("fill", dimension_colour) + attribute("stroke", "none");
-  return line(-10, 0, length + 10, 0) + line(0, reach, 0, end) + line(length, reach, length, end) +
-         stroke(0) + stroke(length) +
-         (length >= room_for_figure
-              ? text(0.5 * length, -7, figure, plain)
-              : text(length + 12, -7, figure, plain + attribute("text-anchor", "start")));
+std::string shear_centre_mark(double x, double y) {
+  constexpr double half = 5.5;
+  return group(
+      attribute("stroke", shear_colour) + attribute("stroke-width", "1.8"),
+      line(x - half, y - half, x + half, y + half) + line(x - half, y + half, x + half, y - half));
 }
 
-std::string dimensions(const Box &box, const Scale &at) {
-  const double width = box.right - box.left;
-  const double height = box.top - box.bottom;
-  const auto placed = [](double x, double y, const std::string &turn) {
-    return attribute("transform", "translate(" + px(x) + ' ' + px(y) + ')' + turn);
-  };
-  const double below = at.y(box.bottom) + dimension_distance;
-  const double beside = at.x(box.left) - dimension_distance;
-  return group(attribute("stroke", dimension_colour) + attribute("stroke-width", "0.8"),
-               group(placed(at.x(box.left), below, ""),
-                     dimension(at.length(width), -1, shortest(static_cast<float>(width)))) +
-                   group(placed(beside, at.y(box.bottom), " rotate(-90)"),
-                         dimension(at.length(height), 1, shortest(static_cast<float>(height)))));
+// Rows of figures, and then of what the lines and marks mean.
+class Legend {
+ public:
+  explicit Legend(double left) : left_(left) {}
+
+  void figure(const std::string &symbol, double value, const std::string &unit) {
+    const int decimals = decimals_for(value, 5);
+    const std::string number = decimals > 8 ? significant(value, 5) : fixed(value, decimals);
+    rows_ += text(left_, y_, symbol, attribute("font-style", "italic")) +
+             text(left_ + 34, y_, "= " + number + ' ' + unit);
+    y_ += row;
+  }
+  void gap() { y_ += 0.5 * row; }
+  void key(const std::string &sample, const std::string &meaning) {
+    rows_ += sample + text(left_ + 42, y_, meaning);
+    y_ += row;
+  }
+  void line_key(const std::string &attributes, const std::string &meaning) {
+    key(line(left_, middle(), left_ + 32, middle(), attributes), meaning);
+  }
+  [[nodiscard]] double mark() const { return left_ + 16; }
+  [[nodiscard]] double middle() const { return y_ - 4; }
+  [[nodiscard]] double height() const { return y_ - Sheet::header; }
+  [[nodiscard]] std::string drawn() const {
+    return group(attribute("text-anchor", "start") + attribute("fill", ink), rows_);
+  }
+
+ private:
+  static constexpr double row = 22;
+  double left_;
+  double y_ = Sheet::header + 24;
+  std::string rows_;
+};
+
+Legend legend(const Figures &f, double left) {
+  const Properties &p = f.properties;
+  Legend legend(left);
+  legend.figure("A", p.area / 1e2, "cm²");
+  legend.figure("I₁", p.i1 / 1e4, "cm⁴");
+  legend.figure("I₂", p.i2 / 1e4, "cm⁴");
+  legend.figure("Wpx", f.plastic.wx / 1e3, "cm³");
+  legend.figure("Wpy", f.plastic.wy / 1e3, "cm³");
+  if (f.torsion.it) legend.figure("It", *f.torsion.it / 1e4, "cm⁴");
+  if (f.torsion.iw) legend.figure("Iw", *f.torsion.iw / 1e6, "cm⁶");
+  legend.gap();
+  legend.line_key(attribute("stroke", origin_colour), "x, y of the origin");
+  legend.line_key(attribute("stroke", principal_colour) + attribute("stroke-dasharray", dash_dot),
+                  "principal axes 1, 2");
+  legend.line_key(attribute("stroke", equal_area_colour) + attribute("stroke-width", "1.6") +
+                      attribute("stroke-dasharray", dots),
+                  "equal-area axes");
+  legend.key(centroid_mark(legend.mark(), legend.middle()), "centroid");
+  if (f.torsion.shear_centre) {
+    legend.key(shear_centre_mark(legend.mark(), legend.middle()), "shear centre");
+  }
+  legend.gap();
+  legend.key("", "dimensions in mm");
+  return legend;
 }
 
-std::string legend(const Properties &p) {
-  constexpr double row = 22;
-  double y = space_above - 30;
-  std::string rows;
-  const auto figure = [&](const std::string &symbol, double value, const std::string &unit) {
-    rows += text(legend_left, y, symbol, attribute("font-style", "italic")) +
-            text(legend_left + 28, y, "= " + fixed(value, decimals_for(value, 5)) + ' ' + unit);
-    y += row;
-  };
-  figure("A", p.area / 1e2, "cm²");
-  figure("I₁", p.i1 / 1e4, "cm⁴");
-  figure("I₂", p.i2 / 1e4, "cm⁴");
+Box around(const Box &box, const std::optional<Point> &point) {
+  if (!point) return box;
+  return {std::min(box.left, point->x), std::max(box.right, point->x),
+          std::min(box.bottom, point->y), std::max(box.top, point->y)};
+}
 
-  y += 0.5 * row;
-  const auto key = [&](const std::string &sample, const std::string &meaning) {
-    rows += sample + text(legend_left + 42, y, meaning);
-    y += row;
-  };
-  const double end = legend_left + 32;
-  key(line(legend_left, y - 4, end, y - 4, attribute("stroke", origin_colour)),
-      "axes of the origin");
-  key(line(legend_left, y - 4, end, y - 4,
-           attribute("stroke", principal_colour) + attribute("stroke-dasharray", dash_dot)),
-      "principal axes");
-  key(centroid_mark(legend_left + 16, y - 4), "centroid");
-  return group(attribute("text-anchor", "start") + attribute("fill", ink), rows);
+std::string drawing(const Outline &outline, const Figures &f, const DimensionLines &dimensions,
+                    const Sheet &at) {
+  std::string marks = centroid_mark(at.x(f.properties.xs), at.y(f.properties.ys));
+  if (const auto &centre = f.torsion.shear_centre) {
+    marks += shear_centre_mark(at.x(centre->x), at.y(centre->y));
+  }
+  return steel_area(outline, at) + origin_axes(at) + principal_axes(at, f.properties) +
+         equal_area_axes(bounding_box(outline), at, f.plastic) + marks + dimensions.drawn(at);
 }
 
 }  // namespace
 
 std::string picture(const std::string &title, const std::string &subtitle, const Outline &outline,
-                    const Properties &p) {
-  const Box box = bounding_box(outline);
-  const Scale at(box);
-  const std::string width = px(sheet_width);
-  const std::string height = px(at.sheet_height());
+                    const Measures &measures, const Figures &figures) {
+  const Box shown = around(bounding_box(outline), figures.torsion.shear_centre);
+  const DimensionLines dimensions(measures, shown, Sheet::scale(shown));
+  const Sheet at(shown, dimensions.lanes(), legend(figures, 0).height());
+  const std::string width = px(at.width());
+  const std::string height = px(at.height());
   const std::string left = attribute("text-anchor", "start") + attribute("fill", ink);
   return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
          "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
@@ -215,8 +213,8 @@ std::string picture(const std::string &title, const std::string &subtitle, const
               left + attribute("font-size", "18") + attribute("font-weight", "bold")) +
          text(30, 60, subtitle,
               left + attribute("font-size", subtitle.size() > 100 ? "11" : "14")) +
-         steel_area(outline, at) + origin_axes(box, at) + principal_axes(box, at, p) +
-         centroid_mark(at.x(p.xs), at.y(p.ys)) + dimensions(box, at) + legend(p) + "</svg>\n";
+         drawing(outline, figures, dimensions, at) + legend(figures, at.legend_left()).drawn() +
+         "</svg>\n";
 }
 
 }  // namespace host

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "figures.h"
+#include "measures.h"
 
 namespace host {
 
@@ -37,6 +38,7 @@ struct Profile {
   const char *(*fault)(const float *dimensions);
   Section (*section)(const float *dimensions);
   Torsion (*torsion)(const float *dimensions);
+  void (*measure)(const float *dimensions, Measuring &measuring);
   std::string_view letters;  // a picture with the dimensions
   Names may_be_zero = {};
 };
@@ -70,6 +72,8 @@ Refusal read_given(const std::string_view *words, std::size_t count, Given &give
 
 // Their properties, or why they have none.
 Refusal properties_of(const Given &given, Section &section, Properties &properties);
+
+Measures measures_of(const Given &given, const Outline &outline);
 
 Figures figures_of(const Given &given, const Properties &properties, const Outline &outline);
 

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <vector>
 
 #include "trelvin/circles.h"
 
@@ -62,7 +61,7 @@ int count_records(std::size_t &damaged) {
   std::string line, first[3];
   for (int i = 0; std::getline(file, line); ++i) {
     if (i < 3) first[i] = line;
-    damaged += line != first[i % 3];
+    if (line != first[i % 3]) ++damaged;
     if (i % 3 == 2) ++count;
   }
   return count;
@@ -77,8 +76,8 @@ int main(int argc, char **argv) {
   fs::remove_all("writers");
   fs::create_directory("writers");
   fs::current_path("writers");
-  std::vector<Process> started;
-  for (int i = 0; i < processes; ++i) started.push_back(start(program.c_str()));
+  Process started[processes];
+  for (Process &process : started) process = start(program.c_str());
   bool all_ended = true;
   for (const Process process : started) all_ended &= succeeds(process);
   std::size_t damaged = 0;

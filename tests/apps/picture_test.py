@@ -1,0 +1,114 @@
+"""Tests of the pictures of section_properties, run as section_properties_test.py is.
+
+A picture is read back as a person reads it: what a dimension line measures, and whether any text
+stands on another.
+"""
+import os
+import re
+import tempfile
+import unittest
+import xml.etree.ElementTree as ElementTree
+
+import section_properties_test as program
+
+SECTIONS = [
+    "ia 400 300 200 20 15 10", "h 400 300 200 20 15 10", "i 400 300 200 20 15 10 8 6 20",
+    "t 150 200 12 8", "b 200.5 15", "c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2",
+    "h1b 320 300 280 12 14 10 20", "box 3000 2000 20 25 1500 12 1600", "rhs 200 100 8",
+    "l 100 150 10 12", "l2 90 120 10 9 11", "tab 600 400 350 40 25 12 20",
+    "h2b 400 300 500 12 14 10 20", "rolled 300 150 7.1 10.7 15",
+    # Slender, flat and small ones.
+    "b 2000 2", "b 0.05 30", "ia 3000 20 30 3 2 1", "c 10 200 200 3 3 0 0 1 1 1 1 1 0 0",
+    "c 200 60 60 0 0 0 0 2 2 2 0 0 0 0", "rhs 1000 20 1", "l2 10 200 1 1 1", "t 3 3 1 1",
+    "tab 3000 100 2900 5 3 2 2", "h2b 20 15 2000 1 2 1 1", "i 4000 3000 12 2 2 6 0 1 0.5",
+]
+NOT_DRAWN = {"C1", "C2", "TC1", "TC2"}  # of a channel without lips, where these are zero
+
+
+def number(element, name):
+    return float(element.get(name))
+
+
+def moved(element):
+    """Where the element's own origin lies, and whether its x runs upwards."""
+    found = re.match(r"translate\(([-\d.]+) ([-\d.]+)\)( rotate\(-90\))?",
+                     element.get("transform", "translate(0 0)"))
+    return float(found[1]), float(found[2]), found[3] is not None
+
+
+def texts(picture):
+    """Each text with its box on the sheet: left, top, right, bottom; widths are estimates."""
+    parents = {child: parent for parent in picture.iter() for child in parent}
+
+    def inherited(element, name):
+        while element.get(name) is None:
+            element = parents[element]
+        return element.get(name)
+
+    for text in (e for e in picture.iter() if e.tag.endswith("}text")):
+        size = float(inherited(text, "font-size"))
+        width = 0.56 * size * len(text.text)
+        start = number(text, "x") - {"start": 0, "middle": 0.5, "end": 1}[
+            inherited(text, "text-anchor")] * width
+        bottom, (x, y, upright) = number(text, "y"), moved(text)
+        low, high = bottom - 0.75 * size, bottom + 0.05 * size
+        yield text.text, ((x + low, y - start - width, x + high, y - start) if upright else
+                          (x + start, y + low, x + start + width, y + high))
+
+
+class Pictures(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.pictures = {}
+        with tempfile.TemporaryDirectory() as folder:
+            for section in SECTIONS:
+                result = program.run(section + " --svg a.svg", folder)
+                assert result.returncode == 0, result.stderr
+                cls.pictures[section] = ElementTree.parse(os.path.join(folder, "a.svg")).getroot()
+
+    def test_every_dimension_is_measured_on_the_outline(self):
+        for section, picture in self.pictures.items():
+            with self.subTest(section):
+                self.check_measures(section, picture)
+
+    def check_measures(self, section, picture):
+        given = program.run(section).stdout.splitlines()[0]
+        given = {name: float(value) for name, value in re.findall(r"(\w+) = ([\d.e-]+)", given)
+                 if float(value) > 0}
+        outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
+        ends = re.findall(r"[ML ]([-\d.]+) ([-\d.]+)(?= [LZMA])", outline)
+        corners = [{float(end[axis]) for end in ends} for axis in (0, 1)]
+        lines = {e.get("data-dimension"): e for e in picture.iter() if e.get("data-dimension")}
+        self.assertEqual(given.keys() - lines.keys() - NOT_DRAWN, set())
+        self.assertEqual(lines.keys() - given.keys(), set())
+        shown = {text for text, _ in texts(picture)}
+        spans = {}
+        for name, line in lines.items():
+            self.assertIn(f"{name} = {given[name]:g}", shown)
+            spans[name] = [number(e, "x1") for e in line if e.get("stroke-opacity")]
+            x, y, upright = moved(line)
+            for span in spans[name]:
+                if name != "E" or section.startswith("tab"):  # from the middle, where no corner is
+                    at = y - span if upright else x + span
+                    nearest = min(abs(at - corner) for corner in corners[upright])
+                    self.assertLess(nearest, 0.03, name)
+        longest = max(spans, key=lambda name: spans[name][1])
+        for name, (start, end) in spans.items():
+            expected = spans[longest][1] * given[name] / given[longest]
+            self.assertAlmostEqual(end - start, expected, delta=0.03)
+
+    def test_no_text_stands_on_another(self):
+        for section, picture in self.pictures.items():
+            with self.subTest(section):
+                boxes = list(texts(picture))
+                width, height = number(picture, "width"), number(picture, "height")
+                for i, (one, a) in enumerate(boxes):
+                    inside = 0 < a[0] and a[2] < width and 0 < a[1] and a[3] < height
+                    self.assertTrue(inside, one)
+                    for other, b in boxes[:i]:
+                        apart = a[0] > b[2] or b[0] > a[2] or a[1] > b[3] or b[1] > a[3]
+                        self.assertTrue(apart, f"'{one}' on '{other}'")
+
+
+if __name__ == "__main__":
+    unittest.main()
