@@ -9,6 +9,7 @@ packages=(
   g++-mingw-w64-i686-win32 wine wine32:i386            # the Windows DLL, and running it
   googletest libclang-rt-14-dev clang-format clang-tidy # tests, sanitizers, formatting
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
+  dpkg-dev                                              # the packages' dependencies
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
   gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
   g++-mingw-w64-x86-64-win32 g++-aarch64-linux-gnu qemu-user-static # other machines
