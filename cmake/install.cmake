@@ -31,4 +31,5 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/TrelvinConfigVersion.cmake DESTINATION
 file(RELATIVE_PATH prefix_from_pc /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" prefix_from_pc "${prefix_from_pc}")
 configure_file(cmake/trelvin.pc.in ${pc_name}.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${pc_name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${pc_name}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

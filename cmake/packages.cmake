@@ -1,5 +1,5 @@
 # What `./dev package` hands out: a pair of packages for Debian, made by CPack; for Windows, what is
-# installed beside the library. The same sources give the same bytes, where SOURCE_DATE_EPOCH is set.
+# installed beside the library. Dates in packages are that of SOURCE_DATE_EPOCH.
 if(WIN32)
   if(TARGET section_properties AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     install(TARGETS section_properties)

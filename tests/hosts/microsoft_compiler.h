@@ -1,6 +1,6 @@
-// Before a source of the library, this header lets Clang read it as Microsoft's compiler would: its branches
-// are taken, and what only other compilers know is an error. The standard library is MinGW's, which
-// needs those things itself and so comes first.
+// Before a source of the library, this header lets Clang read it as Microsoft's compiler would: the
+// same branches are taken, and what only other compilers know is an error. The standard library is
+// MinGW's, which needs those things itself and so comes first.
 #include <algorithm>
 #include <array>
 #include <atomic>
