@@ -6,6 +6,7 @@ import re
 import bindings_basic
 import bindings_csharp
 import bindings_fortran
+import bindings_node
 import bindings_pascal
 import headers
 from bindings_facts import version
@@ -15,6 +16,8 @@ LANGUAGES = {
     "bindings/pascal/trelvin.pas": bindings_pascal.text,
     "bindings/csharp/Trelvin.cs": bindings_csharp.text,
     "bindings/basic/Trelvin.bas": bindings_basic.text,
+    "bindings/node/trelvin.mjs": bindings_node.text,
+    "bindings/node/package.json": bindings_node.package,
 }
 
 

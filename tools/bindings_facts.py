@@ -127,20 +127,20 @@ def explanation(routine):
     return [routine.brief] + [f"{a.name}: {a.text}." for a in statuses]
 
 
-def wrap(text, first, following=None):
+def wrap(text, first, following=None, width=WIDTH):
     """Lines of a text behind a prefix."""
     following = first if following is None else following
-    return textwrap.wrap(text, WIDTH, initial_indent=first, subsequent_indent=following,
+    return textwrap.wrap(text, width, initial_indent=first, subsequent_indent=following,
                          break_long_words=False, break_on_hyphens=False)
 
 
-def wrap_list(items, first, following, end, continuation=""):
+def wrap_list(items, first, following, end, continuation="", width=WIDTH):
     """Lines of a list, `first item, item, ... end`, broken behind commas with the continuation."""
     lines = [first]
     for i, item in enumerate(items):
         piece = item + (end if i + 1 == len(items) else ",")
-        space = "" if lines[-1].endswith("(") or not lines[-1].strip() else " "
-        if len(lines[-1] + space + piece + continuation) > WIDTH:
+        space = "" if lines[-1].endswith(("(", "[")) or not lines[-1].strip() else " "
+        if len(lines[-1] + space + piece + continuation) > width:
             lines[-1] += continuation
             lines.append(following + piece)
         else:

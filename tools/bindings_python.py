@@ -52,7 +52,7 @@ def _module(families):
     routines = []
     for routine in headers.routines_of(families):
         try:
-            routines.append(_Routine(routine, texts[routine.name]))
+            routines.append(Routine(routine, texts[routine.name]))
         except contracts.Unreadable:
             pass  # headers.inexact tells of it
     names = [name for routine in routines for name in routine.names()]
@@ -82,9 +82,9 @@ def _python_name(name):
     return f"{name}_" if taken else name
 
 
-class _Argument:
-    def __init__(self, argument, counts):
-        self.name = _python_name(argument.name)
+class Argument:
+    def __init__(self, argument, counts, named):
+        self.name = named(argument.name)
         self.direction = headers.TYPES[argument.type][2]
         self.kind = "int" if argument.is_integer else "real"
         if argument.type == "TrvFunctionIn":
@@ -98,7 +98,8 @@ class _Argument:
             sizes, used, self.by = contracts.SIZE.match(argument.text).groups()
             self.sizes = sizes.split(", ")
             beyond = BEYOND.search(argument.text)
-            self.used = used or (beyond.group(1) if beyond else None)
+            used = used or (beyond.group(1) if beyond else None)
+            self.used = named(used) if used else None
         elif argument.is_integer and self.direction != "out":
             self.least = contracts.least_of(argument.text)
 
@@ -115,7 +116,7 @@ class _Argument:
         """As bindings/python/trelvin/_call.py reads it."""
         text = f"{self.direction} {self.kind} {self.name}"
         if self.is_array:
-            how = f", {_python_name(self.used)} used" if self.used else ""
+            how = f", {self.used} used" if self.used else ""
             how = how or (f" by {self.by}" if self.by else "")
             text += f"[{', '.join(self.sizes)}{how}]"
         text += f" >= {self.least}" if self.least is not None else ""
@@ -131,13 +132,13 @@ class _Argument:
         return f"NDArray[{self.kind.replace('real', 'float')}32]" if self.is_array else self.hint()
 
 
-class _Routine:
-    def __init__(self, routine, text):
+class Routine:
+    def __init__(self, routine, text="", named=_python_name):
         self.name = routine.name
         self.text = text
         self.retains = routine.retains != "nothing."
         counts = routine.counts()
-        self.arguments = [_Argument(a, counts) for a in routine.arguments]
+        self.arguments = [Argument(a, counts, named) for a in routine.arguments]
         if len(self.arguments) > MOST_ARGUMENTS:
             raise contracts.Unreadable(f"more than {MOST_ARGUMENTS} arguments")
         self.inputs = [a for a in self.arguments if a.direction != "out"]

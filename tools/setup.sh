@@ -11,9 +11,14 @@ packages=(
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
   dpkg-dev                                              # the packages' dependencies
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
+  wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld # WebAssembly
+  chromium                                              # the page that is made of it
+  python3-distributed python3-psutil                    # the study by Dask
+  python3-sphinx furo python3-myst-parser python3-sphinx-inline-tabs python3-sphinx-copybutton # manual
   gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
+  nodejs                                                # and in JavaScript; npm below
   g++-mingw-w64-x86-64-win32 g++-aarch64-linux-gnu qemu-user-static # other machines
-  llvm lld                                              # the library for Microsoft's linker
+  llvm                                                  # the library for Microsoft's linker
   "$@"
 )
 wine64=build/wine64-packages # where 64-bit Wine is unpacked if it can not be installed
@@ -32,6 +37,8 @@ missing=()
 for package in "${packages[@]}"; do
   installed "$package" || missing+=("$package")
 done
+# Other suppliers' nodejs brings its own npm, and Debian's package conflicts with it.
+command -v npm >/dev/null || missing+=(npm)
 missing64=()
 [ -d "$wine64" ] || installed wine64 || missing64=(wine64)
 [ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ] || exit 0
@@ -53,7 +60,7 @@ trap 'rm -f "$log"' EXIT
 [[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
 install() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=300 "$@" >"$log" 2>&1
+    apt-get install -o DPkg::Lock::Timeout=300 -y -q --no-install-recommends "$@" >"$log" 2>&1
 }
 # A 64-bit Wine runs from any folder, also where it and the 32-bit one are refused together.
 unpack_wine64() {

@@ -124,6 +124,16 @@ Refusal read_given(const std::string_view *words, std::size_t count, Given &give
   return {};
 }
 
+std::string dimensions_text(const Given &given) {
+  std::string text;
+  const auto &names = given.profile->dimensions;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (i > 0) text += ", ";
+    text += std::string(names[i]) + " = " + shortest(given.dimensions[i]);
+  }
+  return text + " mm";
+}
+
 Refusal properties_of(const Given &given, Section &section, Properties &properties) {
   section = given.profile->section(given.dimensions.data());
   properties = properties_of(section);

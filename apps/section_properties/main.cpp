@@ -124,16 +124,6 @@ int report(const Request &request, const Task &task) {
                             : table(task.name + "  " + task.dimensions, task.figures));
 }
 
-std::string dimensions_text(const Given &given) {
-  std::string text;
-  const auto &names = given.profile->dimensions;
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    if (i > 0) text += ", ";
-    text += std::string(names[i]) + " = " + shortest(given.dimensions[i]);
-  }
-  return text + " mm";
-}
-
 int run_profile(const Request &request) {
   const std::vector<std::string_view> words(request.words.begin(), request.words.end());
   Given given;

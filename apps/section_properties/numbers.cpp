@@ -1,7 +1,9 @@
 #include "numbers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <system_error>
 
 namespace host {
@@ -14,6 +16,32 @@ std::string without_negative_zero(std::string text) {
   if (zero && text[0] == '-') text.erase(0, 1);
   return text;
 }
+
+#if defined(_LIBCPP_VERSION) && _LIBCPP_VERSION < 200000
+
+// As std::from_chars, which this C++ library has for integers only. The function of C reads more
+// than numbers in decimals, so it gets to see nothing else.
+std::from_chars_result from_chars(const char *first, const char *last, float &value) {
+  const std::string_view word(first, static_cast<std::size_t>(last - first));
+  const std::string number(word.substr(0, word.find_first_not_of("0123456789.eE+-")));
+  char *end = nullptr;
+  const float read = std::strtof(number.c_str(), &end);
+  const auto length = static_cast<std::size_t>(end - number.c_str());
+  if (length == 0 || number[0] == '+') return {first, std::errc::invalid_argument};
+  const std::string digits = number.substr(0, std::min(length, number.find_first_of("eE")));
+  const bool is_zero = digits.find_first_of("123456789") == std::string::npos;
+  if (std::isinf(read) || (read == 0 && !is_zero)) {
+    return {first + length, std::errc::result_out_of_range};
+  }
+  value = read;
+  return {first + length, std::errc()};
+}
+
+#else
+
+using std::from_chars;
+
+#endif
 
 }  // namespace
 
@@ -56,7 +84,7 @@ int decimals_for(double size, int digits) {
 
 NumberFault read_number(std::string_view word, float &value) {
   const char *const end = word.data() + word.size();
-  const auto [rest, error] = std::from_chars(word.data(), end, value);
+  const auto [rest, error] = from_chars(word.data(), end, value);
   if (rest != end && *rest == ',' && word.find('.') == std::string_view::npos) {
     std::string with_point(word);
     with_point[static_cast<std::size_t>(rest - word.data())] = '.';

@@ -70,6 +70,9 @@ std::string near_matches(std::string_view word);
 // Reads a profile and its dimensions, words in that order.
 Refusal read_given(const std::string_view *words, std::size_t count, Given &given);
 
+// "B = 100, H = 200, T = 8 mm"
+std::string dimensions_text(const Given &given);
+
 // Their properties, or why they have none.
 Refusal properties_of(const Given &given, Section &section, Properties &properties);
 

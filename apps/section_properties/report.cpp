@@ -14,15 +14,6 @@ using Named = std::vector<std::pair<std::string_view, double>>;
 
 constexpr int digits = 7;  // what single precision holds
 
-struct Row {
-  std::string heading;
-  std::string symbol;
-  std::string value;
-  std::string unit;
-  std::string other_value;
-  std::string other_unit;
-};
-
 std::string padded(const std::string &text, std::size_t width) {
   return text + std::string(width - std::min(width, text.size()), ' ');
 }
@@ -56,27 +47,47 @@ class Rows {
     rows_.push_back({"", symbol, fixed(radians, 6), "rad", fixed(radians * degrees, 4), "deg"});
   }
 
-  [[nodiscard]] std::string text() const {
-    std::size_t width = 0;
-    std::size_t other_width = 0;
-    for (const Row &row : rows_) {
-      width = std::max(width, row.value.size());
-      other_width = std::max(other_width, row.other_value.size());
-    }
-    std::string text;
-    for (const Row &row : rows_) {
-      text += padded(row.heading, 33) + padded(row.symbol, 8) + right_aligned(row.value, width) +
-              ' ' + padded(row.unit, 7) + right_aligned(row.other_value, other_width) + ' ' +
-              row.other_unit + '\n';
-    }
-    return text;
-  }
+  std::vector<Row> take() { return std::move(rows_); }
 
  private:
   std::vector<Row> rows_;
 };
 
-std::string main_figures(const Properties &p, double length, double second) {
+std::string text_of(const std::vector<Row> &rows) {
+  std::size_t width = 0;
+  std::size_t other_width = 0;
+  for (const Row &row : rows) {
+    width = std::max(width, row.value.size());
+    other_width = std::max(other_width, row.other_value.size());
+  }
+  std::string text;
+  for (const Row &row : rows) {
+    text += padded(row.heading, 33) + padded(row.symbol, 8) + right_aligned(row.value, width) +
+            ' ' + padded(row.unit, 7) + right_aligned(row.other_value, other_width) + ' ' +
+            row.other_unit + '\n';
+  }
+  return text;
+}
+
+// What the figures of a section are measured by.
+double length_of(const Properties &p) { return std::max(p.rx, p.ry); }
+double second_moment_of(const Properties &p) { return std::max(p.origin.x, p.origin.y); }
+
+std::string line_of(std::string_view before, const std::string &text, std::string_view after) {
+  return text.empty() ? "" : std::string(before).append(text).append(after);
+}
+
+// A member of a JSON object.
+std::string member(std::string_view name, double value) {
+  return std::string("\"").append(name).append("\": ") + significant(value, 9);
+}
+
+}  // namespace
+
+std::vector<Row> main_rows(const Figures &f) {
+  const Properties &p = f.properties;
+  const double length = length_of(p);
+  const double second = second_moment_of(p);
   Rows rows;
   rows.add("Area", 2, p.area, {{"A", p.area}});
   rows.add("Centroid", 1, length, {{"xs", p.xs}, {"ys", p.ys}});
@@ -88,10 +99,12 @@ std::string main_figures(const Properties &p, double length, double second) {
   rows.add("Principal moments, axes 1 and 2", 4, second, {{"I1", p.i1}, {"I2", p.i2}});
   rows.add_angle("alpha", p.alpha);
   rows.add("Radii of gyration", 1, length, {{"rx", p.rx}, {"ry", p.ry}});
-  return rows.text();
+  return rows.take();
 }
 
-std::string further_figures(const Figures &f, double length, double second) {
+std::vector<Row> further_rows(const Figures &f) {
+  const double length = length_of(f.properties);
+  const double second = second_moment_of(f.properties);
   const Fibres &e = f.fibres;
   const Fibres &w = f.elastic;
   const Torsion &t = f.torsion;
@@ -110,29 +123,18 @@ std::string further_figures(const Figures &f, double length, double second) {
   }
   if (t.it) rows.add("Torsion constant", 4, *t.it, {{"It", *t.it}});
   if (t.iw) rows.add("Warping constant", 6, second * length * length, {{"Iw", *t.iw}});
-  return rows.text();
+  return rows.take();
 }
 
-std::string line_of(std::string_view before, const std::string &text, std::string_view after) {
-  return text.empty() ? "" : std::string(before).append(text).append(after);
-}
-
-// A member of a JSON object.
-std::string member(std::string_view name, double value) {
-  return std::string("\"").append(name).append("\": ") + significant(value, 9);
-}
-
-}  // namespace
-
-std::string table(const std::string &title, const Figures &f) {
-  const Properties &p = f.properties;
-  const double length = std::max(p.rx, p.ry);
-  const double second = std::max(p.origin.x, p.origin.y);
-  return title + '\n' + std::string(title.size(), '-') + '\n' + main_figures(p, length, second) +
-         '\n' + further_figures(f, length, second) + '\n' +
-         line_of("Not given for this section: ", not_given(f.torsion, ", "), ".\n") +
+std::string notes(const Figures &f) {
+  return line_of("Not given for this section: ", not_given(f.torsion, ", "), ".\n") +
          line_of("", f.torsion.note, "\n") +
          line_of("Origin: ", std::string(f.origin), ", x to the right, y upwards.\n");
+}
+
+std::string table(const std::string &title, const Figures &f) {
+  return title + '\n' + std::string(title.size(), '-') + '\n' + text_of(main_rows(f)) + '\n' +
+         text_of(further_rows(f)) + '\n' + notes(f);
 }
 
 std::string json(const Figures &f) {

@@ -38,6 +38,10 @@ TRELVIN_ROUTINE trvcer(TrvIn xc, TrvIn yc, TrvIn r, TrvOut D, TrvOut E, TrvOut F
  * fourth power of a and b and the square of the radius, so small circles are touched rather than
  * cut. A NaN discriminant gives two points with NaN.
  *
+ * The nearer the line is to the direction of x, the fewer digits are left, also at the origin: with
+ * |a| a hundredth of |b| and circles of some hundred units, points are off by about a unit. Routines
+ * that cut a circle by a line inherit this (trvc12, trvcer1, trvcer2, trvcer6).
+ *
  * Retains: nothing.
  *
  * @param[in]  a,b,c  line a*x + b*y + c = 0

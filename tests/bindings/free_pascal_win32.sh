@@ -8,7 +8,11 @@ out=$PWD/build/free-pascal-win32
 rm -rf "$out"
 mkdir -p "$out/packages" "$out/units"
 cd "$out/packages"
-apt-get download -q fp-compiler-3.2.2:i386 fpc-source-3.2.2
+packages=(fp-compiler-3.2.2:i386 fpc-source-3.2.2)
+if ! apt-get download -q "${packages[@]}"; then  # an old list, or none
+  apt-get update -q || true
+  apt-get download -q "${packages[@]}"
+fi
 for package in *.deb; do dpkg -x "$package" .; done
 cp usr/lib/i386-linux-gnu/fpc/3.2.2/ppc386 "$out"
 cd usr/share/fpcsrc/3.2.2/rtl/win32

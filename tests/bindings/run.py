@@ -4,9 +4,10 @@
     tests/bindings/run.py [native] [windows]
 
 Native needs build/native, windows build/windows and Wine. A compiler that is missing is a failure,
-but for the Pascal one to Windows: free_pascal_win32.sh puts it into build/free-pascal-win32.
+but for those to Windows that are no package: free_pascal_win32.sh and node_win32.sh fetch them.
 """
 
+import json
 import os
 import re
 import shutil
@@ -17,21 +18,25 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 OUT = ROOT / "build" / "bindings"
 PASCAL_WIN32 = ROOT / "build" / "free-pascal-win32"
+NODE_WIN32 = ROOT / "build" / "node-win32"
 sys.path.insert(0, str(ROOT / "tools"))
 
 import bindings_facts  # noqa: E402
 import headers  # noqa: E402
 import probes  # noqa: E402
+import values  # noqa: E402
 import written  # noqa: E402
 
 FAMILIES = headers.read_all()
 ROUTINES = headers.routines_of(FAMILIES)
 PROBES = {"fortran": ("probe.f90", probes.fortran), "pascal": ("probe.pas", probes.pascal),
-          "csharp": ("Probe.cs", probes.csharp)}
+          "csharp": ("Probe.cs", probes.csharp), "node": ("probe.mjs", values.javascript)}
 EXAMPLES = {"c": "girder.c", "cpp": "girder.cpp", "fortran": "girder.f90", "pascal": "girder.pas",
-            "csharp": "Girder.cs"}
+            "csharp": "Girder.cs", "node": "girder.mjs"}
 
 WINDOWS_LINK = "-static {lib}/libTrelvin.dll.a"
+RUNNERS = {("native", "csharp"): "mono", ("native", "node"): "node",
+           ("windows", "node"): f"{NODE_WIN32}/node.exe"}
 # Platform, language: package of Debian, command. The first word of a command is the compiler.
 COMMANDS = {
     ("native", "c"): ("gcc", "gcc -O2 -Iinclude {source} -L{lib} -ltrelvin -lm -o {program}"),
@@ -46,6 +51,7 @@ COMMANDS = {
     ("native", "csharp"): (
         "mono-mcs mono-runtime",
         "mcs -warnaserror bindings/csharp/Trelvin.cs {source} -out:{program}"),
+    ("native", "node"): ("nodejs", "cp {source} {program}"),
     ("windows", "c"): (
         "g++-mingw-w64-i686-win32",
         "i686-w64-mingw32-gcc-win32 -O2 -Iinclude {source} " + WINDOWS_LINK + " -o {program}"),
@@ -59,6 +65,7 @@ COMMANDS = {
     ("windows", "pascal"): (
         "", f"{PASCAL_WIN32}/ppc386 -n -Twin32 -O2 -v0w -Fu{PASCAL_WIN32}/units"
         " -Fubindings/pascal -FU{out} {source} -o{program}"),
+    ("windows", "node"): ("", "cp {source} {program}"),
 }
 passed, failed = 0, 0
 
@@ -76,29 +83,61 @@ def run(command, **options):
 def table_of(platform, language, program, lib):
     """What a program prints, or why it does not."""
     environment = dict(os.environ, LD_LIBRARY_PATH=str(lib))
+    environment["TRELVIN_LIBRARY"] = str(lib / "libtrelvin.so")
     environment.setdefault("WINEPREFIX", str(ROOT / "build" / "wine"))
     environment.setdefault("WINEARCH", "win32")
     environment.setdefault("WINEDEBUG", "-all")
-    before = ["wine"] if platform == "windows" else ["mono"] if language == "csharp" else []
-    done = run([*before, program], env=environment)
-    return done.stdout if done.returncode == 0 else f"exit {done.returncode}: {done.stderr[-400:]}"
+    before = [RUNNERS[platform, language]] if (platform, language) in RUNNERS else []
+    if platform == "windows":
+        environment["TRELVIN_LIBRARY"] = str(ROOT / "build/windows/bin/Trelvin.dll")
+        environment["NODE_SKIP_PLATFORM_CHECK"] = "1"  # Wine says that it is Windows 7
+        before.insert(0, "wine")
+    # Files, since Node.js under Wine cannot write to the pipes of Linux.
+    with open(OUT / "printed.txt", "w+") as printed, open(OUT / "errors.txt", "w+") as errors:
+        command = [*before, program]
+        code = subprocess.call(command, cwd=OUT, env=environment, stdout=printed, stderr=errors,
+                               timeout=600)
+        for file in (printed, errors):
+            file.seek(0)
+        return printed.read() if code == 0 else f"exit {code}: {errors.read()[-400:]}"
+
+
+def install_for_node(platform):
+    """The package of bindings/node where the programs of a platform will find it."""
+    out = OUT / platform / "node"
+    shutil.rmtree(out, ignore_errors=True)
+    out.mkdir(parents=True)
+    command = ["npm", "install", "--prefix", out, "--no-package-lock", "--install-links",
+               "--ignore-scripts", "--no-audit", "--no-fund", "./bindings/node"]
+    # What koffi would take there; force, since it is not for this machine.
+    if platform == "windows":
+        package = json.loads((ROOT / "bindings/node/package.json").read_text())
+        version = package["dependencies"]["koffi"]
+        command += ["--force", f"@koromix/koffi-win32-ia32@{version}"]
+    name = f"{platform}: package for Node.js"
+    if not shutil.which("npm"):
+        report(name, "npm is missing: apt-get install npm")
+        return
+    done = run(command)
+    report(name, done.stderr[-1000:] if done.returncode else "")
 
 
 def check_host(platform, language, source, expected):
     package, command = COMMANDS[platform, language]
     name = f"{platform}: {source.relative_to(ROOT)}"
-    if not shutil.which(command.split()[0]):
+    tool = RUNNERS[platform, language] if language == "node" else command.split()[0]
+    if not shutil.which(tool):
         if package:
-            report(name, f"{command.split()[0]} is missing: apt-get install {package}")
+            report(name, f"{tool} is missing: apt-get install {package}")
         else:
-            print(f"not run {name}: see tests/bindings/free_pascal_win32.sh")
+            print(f"not run {name}: see tests/bindings/*_win32.sh")
         return
     out = OUT / platform / language
     out.mkdir(parents=True, exist_ok=True)
     lib = ROOT / "build" / platform / "lib"
     if platform == "windows":
         shutil.copy(ROOT / "build/windows/bin/Trelvin.dll", out)
-    program = out / f"{source.stem.lower()}.exe"
+    program = out / (source.name if language == "node" else f"{source.stem.lower()}.exe")
     places = {"source": source, "program": program, "out": out, "lib": lib}
     built = run([word.format(**places) for word in command.split()])
     if built.returncode != 0:
@@ -110,12 +149,15 @@ def check_host(platform, language, source, expected):
 
 def check_language(platform, language):
     expected = (ROOT / "examples/girder.txt").read_text()
+    if language == "node":
+        install_for_node(platform)
+        check_host(platform, language, ROOT / "tests/bindings/node_test.mjs", "")
     check_host(platform, language, ROOT / "examples" / language / EXAMPLES[language], expected)
     if language in PROBES:
         file, text = PROBES[language]
         source = OUT / file
         calls = text(ROUTINES)
-        if platform == "native":  # the functions of a native host are of the platform's convention
+        if language == "fortran" and platform == "native":  # functions of the platform's convention
             calls = re.sub(r".*ATTRIBUTES STDCALL.*\n", "", calls)
         source.write_text(calls)
         check_host(platform, language, source, "")

@@ -1,0 +1,137 @@
+// What the page calls: the words of a section go in, texts come out. All texts end in a zero.
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "numbers.h"
+#include "picture.h"
+#include "profiles.h"
+#include "report.h"
+
+namespace {
+
+using namespace host;
+
+// As designer.js numbers them. The first one is empty when the words form a section; the others
+// are those of the last section.
+enum Text {
+  refusal,
+  dimensions,
+  figures,
+  figures_as_json,
+  drawing,
+  remarks,
+  parts,
+  number_of_texts
+};
+
+std::array<std::string, number_of_texts> texts;
+
+constexpr std::size_t longest_input = 4096;
+std::array<char, longest_input> input;
+
+std::string row_text(const Row &row) {
+  return row.heading + '\t' + row.symbol + '\t' + row.value + '\t' + row.unit + '\t' +
+         row.other_value + '\t' + row.other_unit + '\n';
+}
+
+std::string rows_text(const Figures &f) {
+  std::string text;
+  for (const Row &row : main_rows(f)) text += row_text(row);
+  for (const Row &row : further_rows(f)) text += row_text(row);
+  return text;
+}
+
+// One of a part's images: kind, factor, x and y. Mirrored once, a polygon lists its vertices
+// backwards to stay counter-clockwise.
+std::string part_text(const Part &part, float x_sign, float y_sign) {
+  std::string x;
+  std::string y;
+  const bool is_turned = x_sign != y_sign;
+  const auto n = static_cast<std::size_t>(part.n);
+  for (std::size_t i = 0; i < n; ++i) {
+    const std::size_t at = is_turned && part.kind == polygon ? n - 1 - i : i;
+    const char *const before = i == 0 ? "" : " ";
+    x.append(before).append(shortest(x_sign * part.x[at]));
+    y.append(before).append(shortest(y_sign * part.y[at]));
+  }
+  return std::to_string(part.kind) + '\t' + shortest(part.factor) + '\t' + x + '\t' + y + '\n';
+}
+
+std::string parts_text(const Section &section) {
+  std::string text;
+  for (const Part &part : section.parts) {
+    for (const float x_sign : {1.0F, -1.0F}) {
+      for (const float y_sign : {1.0F, -1.0F}) {
+        const bool is_image = (x_sign < 0 && !part.left_right) || (y_sign < 0 && !part.top_bottom);
+        if (!is_image) text += part_text(part, x_sign, y_sign);
+      }
+    }
+  }
+  return text;
+}
+
+std::string joined(const Names &names) {
+  std::string text;
+  for (const std::string_view name : names) text.append(text.empty() ? "" : " ").append(name);
+  return text;
+}
+
+Refusal design(const std::string_view *words, std::size_t count) {
+  Given given;
+  Section section;
+  Properties properties;
+  Refusal fault = read_given(words, count, given);
+  if (fault.message.empty()) fault = properties_of(given, section, properties);
+  if (!fault.message.empty()) return fault;
+  const Profile &profile = *given.profile;
+  const Outline outline = outline_of(section);
+  const Figures f = figures_of(given, properties, outline);
+  texts[dimensions].clear();
+  for (std::size_t i = 0; i < profile.dimensions.size(); ++i) {
+    texts[dimensions].append(i == 0 ? "" : " ").append(shortest(given.dimensions[i]));
+  }
+  texts[figures] = rows_text(f);
+  texts[figures_as_json] = json(f);
+  texts[drawing] = picture(std::string(profile.name) + ": " + std::string(profile.description),
+                           dimensions_text(given), outline, measures_of(given, outline), f);
+  texts[remarks] = notes(f);
+  texts[parts] = parts_text(section);
+  return {};
+}
+
+}  // namespace
+
+extern "C" {
+
+// Where the page writes the profile and its dimensions, a zero behind each.
+char *designer_input() { return input.data(); }
+std::size_t designer_input_size() { return input.size(); }
+
+void designer_design(std::size_t length) {
+  std::array<std::string_view, most_dimensions + 2> words;
+  std::size_t count = 0;
+  std::string_view rest(input.data(), std::min(length, input.size()));
+  while (!rest.empty() && count < words.size()) {
+    const std::size_t end = std::min(rest.find('\0'), rest.size());
+    words[count++] = rest.substr(0, end);
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
+  texts[refusal] = design(words.data(), count).message;
+}
+
+const char *designer_text(std::size_t which) { return texts[which].c_str(); }
+
+// A line a profile: name, description, dimensions and those that may be 0.
+const char *designer_profiles() {
+  static std::string text;
+  text.clear();
+  for (const Profile &profile : profiles()) {
+    text.append(profile.name).append("\t").append(profile.description).append("\t");
+    text += joined(profile.dimensions) + '\t' + joined(profile.may_be_zero) + '\n';
+  }
+  return text.c_str();
+}
+
+}  // extern "C"

@@ -1,0 +1,388 @@
+'use strict';
+// The page: fields to the compiled code, texts from it to the page. The state is in the address.
+
+const START = {
+  ia: '400 300 200 20 15 10',
+  h: '400 300 200 20 15 10',
+  i: '400 300 200 20 15 10 8 6 20',
+  t: '150 200 12 8',
+  b: '200 15',
+  c: '200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2',
+  h1b: '320 300 280 12 14 10 20',
+  box: '3000 2000 20 25 1500 12 1600',
+  rhs: '100 200 8',
+  l: '100 100 10 12',
+  l2: '90 120 10 9 11',
+  tab: '600 400 350 40 25 12 20',
+  h2b: '400 300 500 12 14 10 20',
+  rolled: '300 150 7.1 10.7 15',
+};
+const FIRST = 'rolled';
+const startOf = (each) => START[each.name].split(' ');
+
+// Of the figures, by heading and symbol, those that stand under the picture.
+const MAIN = [
+  ['Area', 'A'],
+  ['Second moments, centroid', 'Ix'],
+  ['Second moments, centroid', 'Iy'],
+  ['Elastic moduli', 'Wx1'],
+  ['Plastic moduli', 'Wpx'],
+  ['Torsion constant', 'It'],
+];
+
+const element = (id) => document.getElementById(id);
+
+function make(tag, attributes = {}, ...children) {
+  const made = document.createElement(tag);
+  for (const [name, value] of Object.entries(attributes)) made.setAttribute(name, value);
+  made.append(...children);
+  return made;
+}
+
+const withPowers = (unit) =>
+  unit.replace(/\d/, (digit) => ({ 2: '²', 3: '³', 4: '⁴', 6: '⁶' })[digit]);
+const drawn = (picture) => picture.slice(picture.indexOf('<svg'));
+
+const CROPPED = window.matchMedia('(max-width: 1100px)'); // as designer.css
+
+let engine;
+let profile; // the chosen one
+let section; // the last that fitted together, of that profile
+const typed = {}; // the words in the fields, by profile
+
+// Fields -----------------------------------------------------------------------------------------
+
+const field = (name) => element(`dimension-${name}`);
+const slider = (name) => element(`slider-${name}`);
+const valueOf = (word) => Number(word.replace(',', '.'));
+
+// A slider reaches from nothing to well beyond the value that its profile starts with, or beyond a
+// larger one that is typed. It does not move under the hand that drags it.
+function setReach(name, value) {
+  const start = valueOf(startOf(profile)[profile.dimensions.indexOf(name)]);
+  const reach = 2.5 * (value > 2.5 * start ? value : start);
+  const step = 10 ** Math.floor(Math.log10(reach / 150));
+  const control = slider(name);
+  control.max = Math.ceil(reach / step) * step;
+  control.step = Number(step.toPrecision(1));
+  control.min = profile.mayBeZero.includes(name) ? 0 : control.step;
+}
+
+function showValue(name, word) {
+  const value = valueOf(word);
+  if (!Number.isFinite(value)) return;
+  setReach(name, value);
+  slider(name).value = value;
+}
+
+function stepField(name, steps) {
+  const step = Number(slider(name).step);
+  const word = field(name).value;
+  const value = valueOf(word);
+  if (word.trim() === '' || !Number.isFinite(value)) return;
+  const decimals = Math.max(...[word, String(step)].map((w) => (w.split(/[.,]/)[1] ?? '').length));
+  const stepped = Math.max(value + steps * step, Number(slider(name).min));
+  field(name).value = String(Number(stepped.toFixed(decimals)));
+  showValue(name, field(name).value);
+  update(name);
+}
+
+function onKey(event, name) {
+  const steps = { ArrowUp: 1, ArrowDown: -1, PageUp: 10, PageDown: -10 }[event.key];
+  if (steps === undefined || event.altKey || event.ctrlKey || event.metaKey) return;
+  event.preventDefault();
+  stepField(name, event.shiftKey ? 10 * Math.sign(steps) : steps);
+}
+
+function makeField(name, word) {
+  const text = make('input', {
+    id: `dimension-${name}`,
+    type: 'text',
+    inputmode: 'decimal',
+    spellcheck: 'false',
+    'aria-describedby': `fault-${name}`,
+  });
+  const drag = make('input', {
+    id: `slider-${name}`,
+    type: 'range',
+    'aria-label': `${name}, slider`,
+    'aria-describedby': `fault-${name}`,
+  });
+  text.value = word;
+  text.addEventListener('input', () => {
+    showValue(name, text.value);
+    update(name);
+  });
+  text.addEventListener('keydown', (event) => onKey(event, name));
+  drag.addEventListener('input', () => {
+    text.value = drag.value;
+    update(name);
+  });
+  return make(
+    'div',
+    { class: 'dimension' },
+    make('label', { for: text.id }, name),
+    text,
+    drag,
+    make('p', { id: `fault-${name}`, class: 'fault' }),
+  );
+}
+
+function makeFields(words) {
+  const legend = element('dimensions').firstElementChild;
+  element('dimensions').replaceChildren(
+    legend,
+    ...profile.dimensions.map((name, i) => makeField(name, words[i])),
+  );
+  profile.dimensions.forEach((name, i) => {
+    setReach(name, 0);
+    showValue(name, words[i]);
+  });
+}
+
+// Results ----------------------------------------------------------------------------------------
+
+// A message that opens with a dimension is that one's; any other stands where the change was, and
+// without a change at the first dimension that it names.
+function showRefusal(message, changed) {
+  const names = profile.dimensions;
+  const owner =
+    names.find((name) => message.startsWith(`${name} = `)) ??
+    changed ??
+    message.split(/\W+/).find((word) => names.includes(word)) ??
+    names[0];
+  for (const name of names) {
+    const isOwner = message !== '' && name === owner;
+    element(`fault-${name}`).textContent = isOwner ? message : '';
+    for (const control of [field(name), slider(name)])
+      control.setAttribute('aria-invalid', isOwner);
+  }
+  element('stale').hidden = message === '';
+  element('result').classList.toggle('stale', message !== '');
+}
+
+function showFigures() {
+  let heading = '';
+  const main = [];
+  const rows = section.figures.map(([start, symbol, value, unit, otherValue, otherUnit]) => {
+    heading = start || heading;
+    if (MAIN.some(([a, b]) => heading.startsWith(a) && symbol === b)) {
+      main.push(
+        make(
+          'div',
+          {},
+          make('dt', {}, symbol),
+          make('dd', {}, `${otherValue} ${withPowers(otherUnit)}`),
+        ),
+      );
+    }
+    const number = (figure, of) =>
+      make(
+        'td',
+        { class: 'number' },
+        figure,
+        ' ',
+        make('span', { class: 'unit' }, ` ${withPowers(of)}`),
+      );
+    return make(
+      'tr',
+      start ? { class: 'first' } : {},
+      make('th', { scope: 'row' }, start),
+      make('td', { class: 'symbol' }, symbol),
+      number(value, unit),
+      number(otherValue, otherUnit),
+    );
+  });
+  element('rows').replaceChildren(...rows);
+  element('main-figures').replaceChildren(...main);
+  element('remarks').textContent = section.remarks;
+}
+
+const TAKEN = {
+  JSON: () => section.json,
+  SVG: () => section.picture,
+  'command line': () => `section_properties ${section.profile} ${section.dimensions.join(' ')}\n`,
+};
+for (const language of Object.keys(LANGUAGES)) {
+  TAKEN[`calls in ${language}`] = () => callsIn(language, profile, section);
+}
+
+const showText = () => {
+  element('text').textContent = TAKEN[element('format').value]();
+};
+
+// Screen readers are told once the hand rests.
+let telling;
+function tell(message) {
+  clearTimeout(telling);
+  telling = setTimeout(() => {
+    const figures = [...element('main-figures').children].map((item) =>
+      [...item.children].map((part) => part.textContent).join(' '),
+    );
+    element('told').textContent = message || figures.join(', ');
+  }, 500);
+}
+
+// Browsers refuse an address that changes many times a second.
+let addressing;
+const address = () => `#${[section.profile, ...section.dimensions].join('/')}`;
+function setAddress() {
+  clearTimeout(addressing);
+  addressing = setTimeout(() => history.replaceState(null, '', address()), 300);
+}
+
+function update(changed) {
+  typed[profile.name] = profile.dimensions.map((name) => field(name).value);
+  const designed = engine.design(profile.name, typed[profile.name]);
+  showRefusal(designed.refusal, changed);
+  tell(designed.refusal);
+  if (designed.refusal !== '') return;
+  show(designed);
+  setAddress();
+}
+
+function show(designed) {
+  section = designed;
+  element('picture').innerHTML = drawn(section.picture);
+  fitPicture();
+  showFigures();
+  showText();
+}
+
+// On a narrow screen only the drawing itself: title, legend and white margins stay away.
+function fitPicture() {
+  const svg = element('picture').firstElementChild;
+  svg.removeAttribute('height');
+  svg.setAttribute('width', '100%');
+  svg.setAttribute('role', 'img');
+  if (!CROPPED.matches) return;
+  svg
+    .querySelectorAll(':scope > text, :scope > g[text-anchor="start"], :scope > rect')
+    .forEach((part) => part.remove());
+  const { x, y, width, height } = svg.getBBox();
+  svg.setAttribute('viewBox', [x - 10, y - 10, width + 20, height + 20].join(' '));
+}
+
+// Profiles and links -----------------------------------------------------------------------------
+
+function choose(chosen, words) {
+  profile = chosen;
+  const radio = document.querySelector(`input[value="${profile.name}"]`);
+  radio.checked = true;
+  const strip = element('profiles'); // on a narrow screen
+  strip.scrollLeft = radio.parentElement.offsetLeft - strip.clientWidth / 2;
+  element('description').textContent = profile.description;
+  makeFields(words);
+  update();
+  if (section?.profile === profile.name) return;
+  // What does not fit together stands beside the profile as it starts.
+  show(engine.design(profile.name, startOf(profile)));
+}
+
+function makeChooser() {
+  for (const each of engine.profiles) {
+    const radio = make('input', {
+      type: 'radio',
+      name: 'profile',
+      value: each.name,
+      'aria-label': `${each.name}: ${each.description}`,
+    });
+    radio.addEventListener('change', () => choose(each, typed[each.name] ?? startOf(each)));
+    element('profiles').append(
+      make('label', { title: each.description }, radio, make('span', {}, each.name)),
+    );
+  }
+}
+
+// Each profile as it starts, the steel of its picture alone.
+function drawIcons() {
+  for (const each of engine.profiles) {
+    const radio = document.querySelector(`input[value="${each.name}"]`);
+    radio.insertAdjacentHTML('afterend', drawn(engine.design(each.name, startOf(each)).picture));
+    const svg = radio.nextElementSibling;
+    const steel = svg.querySelector('path[fill-rule]');
+    const { x, y, width, height } = steel.getBBox();
+    const side = 1.2 * Math.max(width, height);
+    svg.setAttribute(
+      'viewBox',
+      [x + (width - side) / 2, y + (height - side) / 2, side, side].join(' '),
+    );
+    svg.setAttribute('aria-hidden', 'true');
+    for (const name of ['width', 'height']) svg.removeAttribute(name);
+    for (const name of ['fill', 'stroke']) steel.removeAttribute(name);
+    svg.replaceChildren(steel);
+  }
+}
+
+function wordsOfLink() {
+  const hash = location.hash.slice(1);
+  try {
+    return decodeURIComponent(hash).split('/');
+  } catch {
+    // a stray %
+    return hash.split('/');
+  }
+}
+
+// A link that is none leaves a message, and the section as it was.
+function openLink() {
+  if (section && location.hash === address()) return;
+  const [name, ...words] = wordsOfLink();
+  const linked = engine.profiles.find((each) => each.name === name.toLowerCase());
+  const isLink = linked && words.length === linked.dimensions.length;
+  const refusal = name === '' || isLink ? '' : engine.design(name, words).refusal;
+  element('link-fault').textContent = refusal;
+  if (isLink) {
+    choose(linked, words);
+  } else if (!section) {
+    const first = engine.profiles.find((each) => each.name === FIRST);
+    choose(first, startOf(first));
+  }
+}
+
+// Taking along -----------------------------------------------------------------------------------
+
+async function copy(text, what) {
+  try {
+    await navigator.clipboard.writeText(text);
+  } catch {
+    // without the right to do so, or from a folder
+    const area = make('textarea');
+    area.value = text;
+    document.body.append(area);
+    area.select();
+    document.execCommand('copy');
+    area.remove();
+  }
+  element('copied').textContent = `${what} copied`;
+  setTimeout(() => {
+    element('copied').textContent = '';
+  }, 2000);
+}
+
+function listen() {
+  element('format').append(...Object.keys(TAKEN).map((name) => make('option', {}, name)));
+  element('format').addEventListener('change', showText);
+  element('copy').addEventListener('click', () =>
+    copy(element('text').textContent, element('format').value),
+  );
+  element('copy-link').addEventListener('click', () =>
+    copy(location.href.split('#')[0] + address(), 'link'),
+  );
+  element('section').addEventListener('submit', (event) => event.preventDefault());
+  window.addEventListener('hashchange', openLink);
+  CROPPED.addEventListener('change', () => show(section));
+}
+
+startEngine()
+  .then((started) => {
+    engine = started;
+    makeChooser();
+    listen();
+    openLink();
+    performance.measure('first picture', 'arrived');
+    setTimeout(drawIcons);
+  })
+  .catch((error) => {
+    element('link-fault').textContent = `This browser cannot run the page's code: ${error.message}`;
+  });

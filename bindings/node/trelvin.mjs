@@ -1,0 +1,1828 @@
+// Generated from include/trelvin by tools/bindings.py.
+//
+// Every routine of Trelvin for Node.js. Inputs are given by value, what a routine writes comes back
+// as an object; ./call.mjs tells how. The contracts are in include/trelvin.
+import { routine } from "./call.mjs";
+
+export const version = "1.1.0";
+
+/** @typedef {ArrayLike<number>} Numbers */
+
+export const trvcinUncutAbove = 1;
+export const trvcinUncutBelow = 2;
+export const trvcinCutBelow = 3;
+export const trvcinCutAbove = 4;
+export const trvcer3Done = 1;
+export const trvcer3Refused = 0;
+export const trvcer8Done = 1;
+export const trvcer8Refused = 0;
+export const trvcer6Done = 1;
+export const trvcer6Refused = 0;
+export const trvcer9Done = 1;
+export const trvcer9Refused = 0;
+export const trvarc1Done = 1;
+export const trvarc1Refused = 0;
+export const trvcer4Done = 1;
+export const trvcer4Refused = 0;
+export const trvcer10Refused = 0;
+export const trvcer10AlongChord = 1;
+export const trvcer10Parallel = 2;
+export const trvcer5Done = 1;
+export const trvcer5Refused = 0;
+export const trvcer7Done = 1;
+export const trvcer7Refused = 0;
+export const trvardDone = 1;
+export const trvardRefused = 0;
+export const trvporOrdered = 0;
+export const trvporRefused = -1;
+export const trvptp1NoPair = 0;
+export const trvptp1SomePairs = 1;
+export const trvptp1AllPaired = 2;
+export const trvpinInside = 1;
+export const trvpinOutside = 0;
+export const trvpinRefused = -1;
+export const trvcntCoincident = 1;
+export const trvcntDistinct = 0;
+export const trvcnt1Zero = 1;
+export const trvcnt1Nonzero = 0;
+export const trv123Done = 0;
+export const trv123Coincident = 1;
+export const trvvinPositive = 1;
+export const trvvinNotPositive = 2;
+export const trvpos1AtEntry = 1;
+export const trvpos1Between = 2;
+export const trvpos1Neither = 0;
+export const trvlniOnePoint = 0;
+export const trvlniSameLine = 1;
+export const trvlniParallel = 2;
+export const trvlulOnePoint = 0;
+export const trvlulSameLine = 1;
+export const trvlulParallel = 2;
+export const trvpsnNone = 0;
+export const trvpsnAll = 1;
+export const trvpsnFirst = 2;
+export const trvpsnSecond = 3;
+export const trvpsnThird = 4;
+export const trvpsnFirstSecond = 5;
+export const trvpsnSecondThird = 6;
+export const trvpsnFirstThird = 7;
+export const trvln6None = 0;
+export const trvln6All = 1;
+export const trvln6First = 2;
+export const trvln6Second = 3;
+export const trvln6Third = 4;
+export const trvln6FirstSecond = 5;
+export const trvln6SecondThird = 6;
+export const trvln6FirstThird = 7;
+export const trvln6OnLine = 1;
+export const trvln6OffLine = 0;
+export const trvln7None = 0;
+export const trvln7All = 1;
+export const trvln7First = 2;
+export const trvln7Second = 3;
+export const trvln7Third = 4;
+export const trvln7FirstSecond = 5;
+export const trvln7SecondThird = 6;
+export const trvln7FirstThird = 7;
+export const trvln7OnLine = 1;
+export const trvln7OffLine = 0;
+export const trvphipNoLength = -1;
+export const trvchiDone = 0;
+export const trvchiCoincident = 1;
+export const trvcnvConvex = 1;
+export const trvcnvNotConvex = 0;
+export const trvcnvRefused = -1;
+export const trvtrgDone = 0;
+export const trvtrgCoincident = 1;
+export const trvdirOblique = 0;
+export const trvdirSame = 1;
+export const trvdirOpposite = 2;
+export const trvdirPerpendicular = 3;
+export const trvdirZero = 4;
+export const trvdirpCrossing = 0;
+export const trvdirpParallelSame = 1;
+export const trvdirpParallelOpposite = 2;
+export const trvdirpCoincidentSame = 3;
+export const trvdirpCoincidentOpposite = 4;
+export const trvdirpPerpendicular = 5;
+export const trvdirpZeroNormal = 6;
+export const trvmxtDone = 0;
+export const trvmxtRefused = -1;
+export const trvmxt_fbDone = 0;
+export const trvmxt_fbRefused = -1;
+export const trvpslSpansPlane = 0;
+export const trvpslAtP0 = 1;
+export const trvpslAtP1 = 2;
+export const trvpslBetween = 3;
+export const trvpslBeyondP0 = 4;
+export const trvpslBeyondP1 = 5;
+export const trvaxeDone = 0;
+export const trvaxeNoFrame = -2;
+export const trvaxelDone = 0;
+export const trvaxelNoFrame = -2;
+export const trvptrlDone = 0;
+export const trvptrlNoFrame = -2;
+export const trvpraDone = 0;
+export const trvpraNoFrame = -2;
+export const trvppcDone = 0;
+export const trvppcNoFrame = -1;
+export const trvpl1Done = 0;
+export const trvpl1AtP0 = 1;
+export const trvpl1AtP1 = 2;
+export const trvpl1Between = 3;
+export const trvpl1BeyondP0 = 4;
+export const trvpl1BeyondP1 = 5;
+export const trvpl2Done = 0;
+export const trvpl2SameLine = 3;
+export const trvpl2OppositeLine = 4;
+export const trvpl2Coincident = 7;
+export const trvpl3Done = 0;
+export const trvpl3SameLine = 3;
+export const trvpl3OppositeLine = 4;
+export const trvpl3Coincident = 7;
+export const trvpl4Done = 0;
+export const trvpl4Coincident = 1;
+export const trvpl5Done = 0;
+export const trvpl5NoPlane = 1;
+export const trvpl6Done = 0;
+export const trvpl6SameLine = 3;
+export const trvpl6OppositeLine = 4;
+export const trvpl6Skew = 6;
+export const trvpl6Zero = 7;
+export const trvpl7Done = 0;
+export const trvpl7AtP0 = 1;
+export const trvpl7AtP1 = 2;
+export const trvpl7Between = 3;
+export const trvpl7BeyondP0 = 4;
+export const trvpl7BeyondP1 = 5;
+export const trvpspOnPlane = 0;
+export const trvpspOffPlane = -1;
+export const trvpspgOnPlane = 0;
+export const trvpspgOffPlane = -1;
+export const trvpspgZeroNormal = 1;
+export const trvplvZeroU = -1;
+export const trvplvOblique = 0;
+export const trvplvSame = 3;
+export const trvplvOpposite = 4;
+export const trvplvPerpendicular = 5;
+export const trvplvZero = 7;
+export const trvdirlCrossing = 0;
+export const trvdirlParallelSame = 1;
+export const trvdirlParallelOpposite = 2;
+export const trvdirlSameLine = 3;
+export const trvdirlOppositeLine = 4;
+export const trvdirlPerpendicular = 5;
+export const trvdirlSkew = 6;
+export const trvdirlCoincident = 7;
+export const trv3spFlat = 0;
+export const trv3spSpanning = 1;
+export const trv3ldbDone = 0;
+export const trv3ldaDone = 0;
+export const trv3lniDone = 0;
+export const trv3lniSameLine = 3;
+export const trv3lniOppositeLine = 4;
+export const trv3lniSkew = 6;
+export const trv3lniZero = 7;
+export const trvpliDone = 0;
+export const trvpliParallel = 3;
+export const trvpliZero = 4;
+export const trvplpGeneral = 1;
+export const trvplpParallelX = 2;
+export const trvplpParallelY = 3;
+export const trvplpParallelZ = 4;
+export const trvplpNormalZ = 5;
+export const trvplpNormalX = 6;
+export const trvplpNormalY = 7;
+export const trvplpAtZZero = 8;
+export const trvplpAtXZero = 9;
+export const trvplpAtYZero = 10;
+export const trvpnlDone = 0;
+export const trvlpcNotMoved = 0;
+export const trvlpcMovedOneSide = 3;
+export const trvlpcMovedEitherSide = 4;
+export const trvlpcMovedSkew = 6;
+export const trvlpcMovedAtP = 7;
+
+// Circles and arcs of the plane
+
+/**
+ * Circle from its centre and radius: D = -2*xc, E = -2*yc, F = xc*xc + yc*yc - r*r.
+ *
+ * @type {(xc: number, yc: number, r: number) => {D: number, E: number, F: number}}
+ */
+export const trvcer = routine("trvcer", ["in real xc", "in real yc", "in real r", "out real D",
+  "out real E", "out real F"]);
+
+/**
+ * Intersection of a line and a circle.
+ *
+ * n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it.
+ *
+ * @type {(a: number, b: number, c: number, D: number, E: number, F: number) => {n: number, x1:
+ *   number, y1: number, x2: number, y2: number}}
+ */
+export const trvlci = routine("trvlci", ["in real a", "in real b", "in real c", "in real D",
+  "in real E", "in real F", "out int n", "out real x1", "out real y1", "out real x2",
+  "out real y2"]);
+
+/**
+ * Intersection of two circles: that of their radical line with the first circle (trvlci).
+ *
+ * n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the
+ * tolerance; 1 the circles touch; 2 they cut each other.
+ *
+ * @type {(D1: number, E1: number, F1: number, D2: number, E2: number, F2: number) => {n: number,
+ *   x1: number, y1: number, x2: number, y2: number}}
+ */
+export const trvc12 = routine("trvc12", ["in real D1", "in real E1", "in real F1", "in real D2",
+  "in real E2", "in real F2", "out int n", "out real x1", "out real y1", "out real x2",
+  "out real y2"]);
+
+/**
+ * Centres of the circles of a radius through two points.
+ *
+ * n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord, the
+ * discriminant is NaN, or the chord is horizontal; 1 both candidates are the same point; 2 two.
+ *
+ * @type {(x1: number, y1: number, x2: number, y2: number, side: number, r: number) => {xa: number,
+ *   ya: number, xb: number, yb: number, xc: number, yc: number, n: number}}
+ */
+export const trvcer2 = routine("trvcer2", ["in real x1", "in real y1", "in real x2", "in real y2",
+  "in int side", "in real r", "out real xa", "out real ya", "out real xb", "out real yb",
+  "out real xc", "out real yc", "out int n"]);
+
+/**
+ * Circle through two points with a given sagitta.
+ *
+ * n: number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less than half
+ * the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are the same
+ * point; 2 two.
+ *
+ * @type {(x1: number, y1: number, x2: number, y2: number, side: number, h: number) => {r: number,
+ *   xc: number, yc: number, n: number}}
+ */
+export const trvcer1 = routine("trvcer1", ["in real x1", "in real y1", "in real x2", "in real y2",
+  "in int side", "in real h", "out real r", "out real xc", "out real yc", "out int n"]);
+
+/**
+ * Classifies a circle cut by a line, with a trace.
+ *
+ * position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3 cut, centre
+ * below it; 4 cut, centre on or above it.
+ *
+ * @type {(X: Numbers, Y: Numbers, a: number, b: number, c: number) => {position: number, x1:
+ *   number, y1: number, x2: number, y2: number}}
+ */
+export const trvcin = routine("trvcin", ["in real X[2]", "in real Y[2]", "in real a", "in real b",
+  "in real c", "out int position", "out real x1", "out real y1", "out real x2", "out real y2"]);
+
+/**
+ * Turns a point about a centre.
+ *
+ * status: 1 done; 0 the point's distance from the centre is within the tolerance.
+ *
+ * @type {(x0: number, y0: number, x: number, y: number, angle: number) => {x: number, y: number,
+ *   xr: number, yr: number, status: number}}
+ */
+export const trvcer3 = routine("trvcer3", ["in real x0", "in real y0", "inout real x",
+  "inout real y", "in real angle", "out real xr", "out real yr", "out int status"]);
+
+/**
+ * Point of an arc above a station of its chord, perpendicular to the chord.
+ *
+ * status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by more,
+ * or the station is not farther than that from both ends.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
+ *   number) => {x: number, y: number, status: number}}
+ */
+export const trvcer8 = routine("trvcer8", ["in real xc", "in real yc", "in real xa", "in real ya",
+  "in real xb", "in real yb", "in int side", "in real d", "out real x", "out real y",
+  "out int status"]);
+
+/**
+ * Point of an arc on the line from its centre through a station of its chord.
+ *
+ * status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by more,
+ * the station is not farther than that from both ends, or d is closer than that to the diameter.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
+ *   number) => {x: number, y: number, status: number}}
+ */
+export const trvcer6 = routine("trvcer6", ["in real xc", "in real yc", "in real xa", "in real ya",
+  "in real xb", "in real yb", "in int side", "in real d", "out real x", "out real y",
+  "out int status"]);
+
+/**
+ * Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
+ *
+ * status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is at most
+ * 0.001, the radii of A and B differ by more, or the strip comes closer than that to an end of the
+ * chord.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
+ *   number, w: number) => {x1: number, y1: number, x2: number, y2: number, status: number}}
+ */
+export const trvcer9 = routine("trvcer9", ["in real xc", "in real yc", "in real xa", "in real ya",
+  "in real xb", "in real yb", "in int side", "in real d", "in real w", "out real x1", "out real y1",
+  "out real x2", "out real y2", "out int status"]);
+
+/**
+ * Lengths of the two arcs between two points of a circle.
+ *
+ * status: 1 done; 0 the radius, or the distance of A and B, is within the tolerance.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number) => {s1: number,
+ *   s2: number, status: number}}
+ */
+export const trvarc1 = routine("trvarc1", ["in real xc", "in real yc", "in real xa", "in real ya",
+  "in real xb", "in real yb", "out real s1", "out real s2", "out int status"]);
+
+/**
+ * Signed angle of a direction against the x axis.
+ *
+ * @type {(dx: number, dy: number) => {phi: number}}
+ */
+export const trvaxph = routine("trvaxph", ["in real dx", "in real dy", "out real phi"]);
+
+/**
+ * Distances and stations of two points against a segment.
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number, x3: number, y3: number, z3: number) => {h0: number, s0: number, h3: number,
+ *   s3: number, len: number}}
+ */
+export const trvhin = routine("trvhin", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "in real x3", "in real y3",
+  "in real z3", "out real h0", "out real s0", "out real h3", "out real s3", "out real len"]);
+
+/**
+ * Marks points by a sector.
+ *
+ * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, X: Numbers, Y:
+ *   Numbers, counts?: {n?: number}) => {mark: Int32Array}}
+ */
+export const trvapp = routine("trvapp", ["in real x0", "in real y0", "in real x1", "in real y1",
+  "in real x2", "in real y2", "in int n = X Y", "in real X[n]", "in real Y[n]", "out int mark[n]"]);
+
+/**
+ * Point of an arc on a line through a station of its chord.
+ *
+ * status: 1 done; 0 the radius or the chord is within the tolerance, the radii of A and B differ by
+ * more, A and B coincide, or the line touches the circle.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, angle:
+ *   number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, xo: number,
+ *   yo: number, status: number}}
+ */
+export const trvcer4 = routine("trvcer4", ["inout real xc", "inout real yc", "inout real xa",
+  "inout real ya", "inout real xb", "inout real yb", "in real s", "in real angle", "out real xo",
+  "out real yo", "out int status"]);
+
+/**
+ * Crossing of an arc's chord with a line through its turned end.
+ *
+ * status: 0 refused: the radius or the chord is within the tolerance, or the radii of A and B
+ * differ by more, but also a crossing, and a retained one that is on the chord's line but not at A
+ * or B (trvpsl above 2); 1 the line runs along the chord; 2 it is parallel to it.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, turn: number,
+ *   angle: number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, xo:
+ *   number, yo: number, status: number}}
+ */
+export const trvcer10 = routine("trvcer10", ["inout real xc", "inout real yc", "inout real xa",
+  "inout real ya", "inout real xb", "inout real yb", "in real turn", "in real angle", "out real xo",
+  "out real yo", "out int status"]);
+
+/**
+ * Point of an arc on the line from a station of its chord towards the sagitta.
+ *
+ * status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is at most
+ * 1e-5, or the radii of A and B differ by more, or the line touches the circle.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, side:
+ *   number, e: number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number,
+ *   xo: number, yo: number, status: number}}
+ */
+export const trvcer5 = routine("trvcer5", ["inout real xc", "inout real yc", "inout real xa",
+  "inout real ya", "inout real xb", "inout real yb", "in real s", "in int side", "in real e",
+  "out real xo", "out real yo", "out int status"]);
+
+/**
+ * Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
+ * chord.
+ *
+ * status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest beyond s is at most
+ * 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is parallel to
+ * the chord, or it cuts less than twice 1e-4 off the circle.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, side:
+ *   number, e: number, angle: number) => {xc: number, yc: number, xa: number, ya: number, xb:
+ *   number, yb: number, xp: number, yp: number, xt: number, yt: number, xo: number, yo: number,
+ *   len: number, status: number}}
+ */
+export const trvcer7 = routine("trvcer7", ["inout real xc", "inout real yc", "inout real xa",
+  "inout real ya", "inout real xb", "inout real yb", "in real s", "in int side", "in real e",
+  "in real angle", "out real xp", "out real yp", "out real xt", "out real yt", "out real xo",
+  "out real yo", "out real len", "out int status"]);
+
+/**
+ * Rounds the corner at P0 between the segments to P1 and to P2.
+ *
+ * status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine of the angle
+ * between the segments is within it, or the arc touches one beyond its end by more.
+ *
+ * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, r: number) =>
+ *   {xc: number, yc: number, xt1: number, yt1: number, xt2: number, yt2: number, status: number}}
+ */
+export const trvard = routine("trvard", ["in real x0", "in real y0", "in real x1", "in real y1",
+  "in real x2", "in real y2", "in real r", "out real xc", "out real yc", "out real xt1",
+  "out real yt1", "out real xt2", "out real yt2", "out int status"]);
+
+/**
+ * Bounding box of the arc that a point sweeps about a centre.
+ *
+ * @type {(xc: number, yc: number, xa: number, ya: number, sweep: number) => {xmin: number, ymin:
+ *   number, xmax: number, ymax: number}}
+ */
+export const trvenv = routine("trvenv", ["in real xc", "in real yc", "in real xa", "in real ya",
+  "in real sweep", "out real xmin", "out real ymin", "out real xmax", "out real ymax"]);
+
+// Ordering, searching, matching and joining of lists
+
+/**
+ * Sorts Reals ascending, in place.
+ *
+ * @type {(V: Numbers, counts?: {n?: number}) => {V: Float32Array}}
+ */
+export const trvord = routine("trvord", ["inout real V[n]", "in int n = V"]);
+
+/**
+ * Sorts Integers ascending, in place.
+ *
+ * @type {(V: Numbers, counts?: {n?: number}) => {V: Int32Array}}
+ */
+export const trvord1 = routine("trvord1", ["inout int V[n]", "in int n = V"]);
+
+/**
+ * Positions of the entries of a list in ascending order; the list itself stays.
+ *
+ * @type {(V: Numbers, counts?: {n?: number}) => {IDX: Int32Array}}
+ */
+export const trvordi = routine("trvordi", ["in real V[n]", "in int n = V", "out int IDX[n]"]);
+
+/**
+ * Order of parallel lines by where they cross an axis.
+ *
+ * status: 0 ordered; -1 not a family of parallel and distinct lines, or n < 1.
+ *
+ * @type {(A: Numbers, B: Numbers, C: Numbers, counts?: {n?: number}) => {IDX: Int32Array, status:
+ *   number}}
+ */
+export const trvpor = routine("trvpor", ["in int n = A B C", "in real A[n]", "in real B[n]",
+  "in real C[n]", "out int IDX[n]", "out int status"]);
+
+/**
+ * Puts the corners of a quadrilateral of space in cyclic order, in place.
+ *
+ * @type {(X: Numbers, Y: Numbers, Z: Numbers) => {X: Float32Array, Y: Float32Array, Z:
+ *   Float32Array, ORD: Int32Array}}
+ */
+export const trvorv = routine("trvorv", ["inout real X[4]", "inout real Y[4]", "inout real Z[4]",
+  "out int ORD[4]"]);
+
+/**
+ * All positions at which a list holds a value.
+ *
+ * @type {(V: Numbers, key: number, counts?: {n?: number}) => {count: number, pos: Int32Array}}
+ */
+export const trvsel1 = routine("trvsel1", ["in int n = V", "in int V[n]", "in int key",
+  "out int count", "out int pos[n, count used]"]);
+
+/**
+ * All pairs of entries of two lists that differ by at most a tolerance.
+ *
+ * @type {(A: Numbers, B: Numbers, tol: number, counts?: {na?: number, nb?: number}) => {count:
+ *   number, IA: Int32Array, IB: Int32Array}}
+ */
+export const trvmer13 = routine("trvmer13", ["in int na = A", "in real A[na]", "in int nb = B",
+  "in real B[nb]", "out int count", "out int IA[max(na+nb,na*nb)]", "out int IB[max(na+nb,na*nb)]",
+  "in real tol"]);
+
+/**
+ * Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
+ *
+ * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {nout: number, OUT:
+ *   Int32Array}}
+ */
+export const trvmer1 = routine("trvmer1", ["in int na = A", "in int A[na]", "in int nb = B",
+  "in int B[nb]", "out int nout", "out int OUT[na+nb, nout used]"]);
+
+/**
+ * Joins two lists end to end: trvmer1 under another name.
+ *
+ * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {nout: number, OUT:
+ *   Int32Array}}
+ */
+export const trvmer11 = routine("trvmer11", ["in int na = A", "in int A[na]", "in int nb = B",
+  "in int B[nb]", "out int nout", "out int OUT[na+nb, nout used]"]);
+
+/**
+ * Sorts Integers ascending and drops repeats, in place.
+ *
+ * @type {(V: Numbers, counts?: {n?: number}) => {V: Int32Array, n: number}}
+ */
+export const trvmer2 = routine("trvmer2", ["inout int V[n, n used]", "inout int n = V"]);
+
+/**
+ * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+ *
+ * @type {(V: Numbers, counts?: {n?: number}) => {V: Float32Array, n: number}}
+ */
+export const trvmer3 = routine("trvmer3", ["inout real V[n, n used]", "inout int n = V"]);
+
+/**
+ * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+ *
+ * @type {(V: Numbers, tol: number, counts?: {n?: number}) => {V: Float32Array, n: number}}
+ */
+export const trvmer12 = routine("trvmer12", ["inout real V[n, n used]", "inout int n = V",
+  "in real tol"]);
+
+/**
+ * Joins to a list those entries of another that it does not hold yet.
+ *
+ * @type {(A: Numbers, B: Numbers, tol: number, counts?: {na?: number, nb?: number}) => {nout:
+ *   number, OUT: Float32Array, IB: Int32Array}}
+ */
+export const trvmer4 = routine("trvmer4", ["in int na = A", "in real A[na]", "in int nb = B",
+  "in real B[nb]", "in real tol", "out int nout", "out real OUT[na+nb, nout used]",
+  "out int IB[nb]"]);
+
+/**
+ * Entries of a list that another holds too.
+ *
+ * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {nout: number, OUT:
+ *   Int32Array}}
+ */
+export const trvmer14 = routine("trvmer14", ["in int na = A", "in int A[na]", "in int nb = B",
+  "in int B[nb]", "out int nout", "out int OUT[na, nout used]"]);
+
+/**
+ * Removes from a list the entries that another holds, in place.
+ *
+ * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {na: number, A:
+ *   Int32Array, count: number}}
+ */
+export const trvmer15 = routine("trvmer15", ["inout int na = A", "inout int A[na, na used]",
+  "in int nb = B", "in int B[nb]", "out int count"]);
+
+/**
+ * Drops repeated vertices of a closed outline, in place.
+ *
+ * @type {(X: Numbers, Y: Numbers, tol: number, counts?: {n?: number}) => {X: Float32Array, Y:
+ *   Float32Array, n: number}}
+ */
+export const trvmer16 = routine("trvmer16", ["inout real X[n, n used]", "inout real Y[n, n used]",
+  "inout int n = X Y", "in real tol"]);
+
+/**
+ * All pairs of points of two lists that agree within a tolerance in each coordinate.
+ *
+ * status: 0 no pair; 1 some points of A have a partner; 2 every point of A has one.
+ *
+ * @type {(XA: Numbers, YA: Numbers, ZA: Numbers, XB: Numbers, YB: Numbers, ZB: Numbers, tol:
+ *   number, counts?: {na?: number, nb?: number}) => {count: number, IA: Int32Array, IB: Int32Array,
+ *   status: number}}
+ */
+export const trvptp1 = routine("trvptp1", ["in int na = XA YA ZA", "in real XA[na]",
+  "in real YA[na]", "in real ZA[na]", "in int nb = XB YB ZB", "in real XB[nb]", "in real YB[nb]",
+  "in real ZB[nb]", "in real tol", "out int count", "out int IA[na*nb, count used]",
+  "out int IB[na*nb, count used]", "out int status"]);
+
+/**
+ * Merges three lists of points into one list of places.
+ *
+ * @type {(XA: Numbers, YA: Numbers, ZA: Numbers, XB: Numbers, YB: Numbers, ZB: Numbers, XC:
+ *   Numbers, YC: Numbers, ZC: Numbers, tol: number, k: number, counts?: {na?: number, nb?: number,
+ *   nc?: number}) => {nab: number, IAB: Int32Array, JAB: Int32Array, nbc: number, IBC: Int32Array,
+ *   JBC: Int32Array, nca: number, ICA: Int32Array, JCA: Int32Array, nout: number, XO: Float32Array,
+ *   YO: Float32Array, ZO: Float32Array, MA: Int32Array, MB: Int32Array, MC: Int32Array, nk: number,
+ *   PK: Int32Array, nz: number, ZL: Float32Array}}
+ */
+export const trvptp2 = routine("trvptp2", ["in int na = XA YA ZA", "in real XA[na]",
+  "in real YA[na]", "in real ZA[na]", "in int nb = XB YB ZB", "in real XB[nb]", "in real YB[nb]",
+  "in real ZB[nb]", "in int nc = XC YC ZC", "in real XC[nc]", "in real YC[nc]", "in real ZC[nc]",
+  "in real tol", "out int nab", "out int IAB[na*nb, nab used]", "out int JAB[na*nb, nab used]",
+  "out int nbc", "out int IBC[nb*nc, nbc used]", "out int JBC[nb*nc, nbc used]", "out int nca",
+  "out int ICA[nc*na, nca used]", "out int JCA[nc*na, nca used]", "out int nout",
+  "out real XO[na+nb+nc, nout used]", "out real YO[na+nb+nc, nout used]",
+  "out real ZO[na+nb+nc, nout used]", "out int MA[na]", "out int MB[nb]", "out int MC[nc]",
+  "in int k", "out int nk", "out int PK[na+nb+nc, nk used]", "out int nz",
+  "out real ZL[na+nb+nc, nz used]"]);
+
+/**
+ * Where the horizontal line y = y0 crosses a closed outline.
+ *
+ * @type {(X: Numbers, Y: Numbers, y0: number, counts?: {n?: number}) => {count: number, XC:
+ *   Float32Array}}
+ */
+export const trvppp = routine("trvppp", ["in real X[n]", "in real Y[n]", "in int n = X Y",
+  "in real y0", "out int count", "out real XC[n, count used]"]);
+
+/**
+ * Where the segment from P1 to P2 crosses a closed outline.
+ *
+ * status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1 and P2
+ * coincide within the tolerance in both coordinates. P1 on the outline counts as the point just to
+ * its right, or just above where that is on the outline too.
+ *
+ * @type {(X: Numbers, Y: Numbers, x1: number, y1: number, x2: number, y2: number, counts?: {n?:
+ *   number}) => {count: number, XI: Float32Array, YI: Float32Array, T: Float32Array, EDGE:
+ *   Int32Array, status: number}}
+ */
+export const trvpin = routine("trvpin", ["in real X[n]", "in real Y[n]", "in int n = X Y",
+  "in real x1", "in real y1", "in real x2", "in real y2", "out int count",
+  "out real XI[n, count used]", "out real YI[n, count used]", "out real T[n, count used]",
+  "out int EDGE[n, count used]", "out int status"]);
+
+// Points, vectors, straight lines and angles
+
+/**
+ * Distance between two points.
+ *
+ * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number) => {d: number}}
+ */
+export const trvpds = routine("trvpds", ["in real x1", "in real y1", "in real z1", "in real x2",
+  "in real y2", "in real z2", "out real d"]);
+
+/**
+ * Dot product of the difference vectors P2 - P1 and P4 - P3.
+ *
+ * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number, x3: number, y3:
+ *   number, z3: number, x4: number, y4: number, z4: number) => {s: number}}
+ */
+export const trvpri = routine("trvpri", ["in real x1", "in real y1", "in real z1", "in real x2",
+  "in real y2", "in real z2", "in real x3", "in real y3", "in real z3", "in real x4", "in real y4",
+  "in real z4", "out real s"]);
+
+/**
+ * Cross product (P2 - P1) x (P4 - P3).
+ *
+ * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number, x3: number, y3:
+ *   number, z3: number, x4: number, y4: number, z4: number) => {c: Float32Array}}
+ */
+export const trvpre = routine("trvpre", ["in real x1", "in real y1", "in real z1", "in real x2",
+  "in real y2", "in real z2", "in real x3", "in real y3", "in real z3", "in real x4", "in real y4",
+  "in real z4", "out real c[3]"]);
+
+/**
+ * Difference vector of two points, and whether they coincide.
+ *
+ * status: 1 each difference is within the tolerance; 0 otherwise.
+ *
+ * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number) => {dx: number,
+ *   dy: number, dz: number, status: number}}
+ */
+export const trvcnt = routine("trvcnt", ["in real x1", "in real y1", "in real z1", "in real x2",
+  "in real y2", "in real z2", "out real dx", "out real dy", "out real dz", "out int status"]);
+
+/**
+ * Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.
+ *
+ * status: 1 all components are zero of either sign; 0 otherwise (a NaN included).
+ *
+ * @type {(dx: number, dy: number, dz: number) => {status: number}}
+ */
+export const trvcnt1 = routine("trvcnt1", ["in real dx", "in real dy", "in real dz",
+  "out int status"]);
+
+/**
+ * Point P1 + t*(P2 - P1) on the line through two points.
+ *
+ * status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt).
+ *
+ * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number, t: number) => {x:
+ *   number, y: number, z: number, status: number}}
+ */
+export const trv123 = routine("trv123", ["in real x1", "in real y1", "in real z1", "in real x2",
+  "in real y2", "in real z2", "in real t", "out real x", "out real y", "out real z",
+  "out int status"]);
+
+/**
+ * Midpoint of two points.
+ *
+ * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number) => {xm: number,
+ *   ym: number, zm: number}}
+ */
+export const trvmed = routine("trvmed", ["in real x1", "in real y1", "in real z1", "in real x2",
+  "in real y2", "in real z2", "out real xm", "out real ym", "out real zm"]);
+
+/**
+ * Determinant of the 2 x 2 matrix with rows (a, b) and (c, d).
+ *
+ * @type {(a: number, b: number, c: number, d: number) => {det: number}}
+ */
+export const trvdtr2 = routine("trvdtr2", ["in real a", "in real b", "in real c", "in real d",
+  "out real det"]);
+
+/**
+ * Determinant of a 3 x 3 matrix, expanded along its first row.
+ *
+ * @type {(a1: number, a2: number, a3: number, b1: number, b2: number, b3: number, c1: number, c2:
+ *   number, c3: number) => {det: number}}
+ */
+export const trvdtr3 = routine("trvdtr3", ["in real a1", "in real a2", "in real a3", "in real b1",
+  "in real b2", "in real b3", "in real c1", "in real c2", "in real c3", "out real det"]);
+
+/**
+ * Divides two coefficients by a third, or gives zeros where it vanishes.
+ *
+ * @type {(a: number, b: number, c: number) => {q1: number, q2: number}}
+ */
+export const trvgrc = routine("trvgrc", ["in real a", "in real b", "in real c", "out real q1",
+  "out real q2"]);
+
+/**
+ * Linear interpolation, or extrapolation, through two samples.
+ *
+ * @type {(x1: number, x2: number, y1: number, y2: number, x: number) => {y: number}}
+ */
+export const trvint = routine("trvint", ["in real x1", "in real x2", "in real y1", "in real y2",
+  "in real x", "out real y"]);
+
+/**
+ * Sign of a value.
+ *
+ * status: 1 v is positive; 2 v is zero, negative or NaN.
+ *
+ * @type {(u1: number, v: number, u3: number, u4: number, u5: number) => {status: number}}
+ */
+export const trvvin = routine("trvvin", ["in real u1", "in real v", "in real u3", "in real u4",
+  "in real u5", "out int status"]);
+
+/**
+ * Interval of an ascending table that holds a value.
+ *
+ * @type {(A: Numbers, x: number, counts?: {n?: number}) => {i: number}}
+ */
+export const trvpos = routine("trvpos", ["in int n = A", "in real A[n]", "in real x", "out int i"]);
+
+/**
+ * Entry of an ascending table that equals a value, or the interval that holds it.
+ *
+ * status: 1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither.
+ *
+ * @type {(A: Numbers, x: number, counts?: {n?: number}) => {status: number, i: number}}
+ */
+export const trvpos1 = routine("trvpos1", ["in int n = A", "in real A[n]", "in real x",
+  "out int status", "out int i"]);
+
+/**
+ * Line through two points.
+ *
+ * @type {(x1: number, y1: number, x2: number, y2: number) => {a: number, b: number, c: number}}
+ */
+export const trvln3 = routine("trvln3", ["in real x1", "in real y1", "in real x2", "in real y2",
+  "out real a", "out real b", "out real c"]);
+
+/**
+ * Line through a point at an angle to the x axis.
+ *
+ * @type {(x0: number, y0: number, phi: number) => {a: number, b: number, c: number}}
+ */
+export const trvln1 = routine("trvln1", ["in real x0", "in real y0", "in real phi", "out real a",
+  "out real b", "out real c"]);
+
+/**
+ * Line through a point with a direction.
+ *
+ * @type {(x0: number, y0: number, dx: number, dy: number, u: number) => {a: number, b: number, c:
+ *   number}}
+ */
+export const trvln4 = routine("trvln4", ["in real x0", "in real y0", "in real dx", "in real dy",
+  "in real u", "out real a", "out real b", "out real c"]);
+
+/**
+ * Parallel of a line at a signed distance.
+ *
+ * @type {(a: number, b: number, c: number, d: number) => {a2: number, b2: number, c2: number}}
+ */
+export const trvln2 = routine("trvln2", ["in real a", "in real b", "in real c", "in real d",
+  "out real a2", "out real b2", "out real c2"]);
+
+/**
+ * Internal bisector of the angle at P0 between the rays to P1 and P2.
+ *
+ * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number) => {a: number, b:
+ *   number, c: number}}
+ */
+export const trvln5 = routine("trvln5", ["in real x0", "in real y0", "in real x1", "in real y1",
+  "in real x2", "in real y2", "out real a", "out real b", "out real c"]);
+
+/**
+ * Signed distance of a point from a line.
+ *
+ * @type {(x: number, y: number, a: number, b: number, c: number) => {d: number}}
+ */
+export const trvlds = routine("trvlds", ["in real x", "in real y", "in real a", "in real b",
+  "in real c", "out real d"]);
+
+/**
+ * Intersection of two lines.
+ *
+ * status: 0 one point; 1 the same line; 2 parallel and distinct.
+ *
+ * @type {(a1: number, b1: number, c1: number, a2: number, b2: number, c2: number) => {status:
+ *   number, x: number, y: number}}
+ */
+export const trvlni = routine("trvlni", ["in real a1", "in real b1", "in real c1", "in real a2",
+  "in real b2", "in real c2", "out int status", "out real x", "out real y"]);
+
+/**
+ * Distance of two parallel lines.
+ *
+ * status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells.
+ *
+ * @type {(a1: number, b1: number, c1: number, a2: number, b2: number, c2: number) => {d: number,
+ *   status: number}}
+ */
+export const trvlul = routine("trvlul", ["in real a1", "in real b1", "in real c1", "in real a2",
+  "in real b2", "in real c2", "out real d", "out int status"]);
+
+/**
+ * Which components of two triples differ by more than the tolerance.
+ *
+ * code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and third; 7 first
+ * and third.
+ *
+ * @type {(p1: number, p2: number, p3: number, q1: number, q2: number, q3: number) => {code:
+ *   number}}
+ */
+export const trvpsn = routine("trvpsn", ["in real p1", "in real p2", "in real p3", "in real q1",
+  "in real q2", "in real q3", "out int code"]);
+
+/**
+ * Whether a point lies on the line of space through P0 with direction D.
+ *
+ * code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y; 4 z; 5 x and
+ * y; 6 y and z; 7 x and z.
+ *
+ * on: 1 P lies on the line; 0 it does not, and always when code is 0.
+ *
+ * @type {(x0: number, y0: number, z0: number, dx: number, dy: number, dz: number, px: number, py:
+ *   number, pz: number, tol: number) => {code: number, on: number}}
+ */
+export const trvln6 = routine("trvln6", ["in real x0", "in real y0", "in real z0", "in real dx",
+  "in real dy", "in real dz", "in real px", "in real py", "in real pz", "in real tol",
+  "out int code", "out int on"]);
+
+/**
+ * Line of two planes, and whether it agrees with a point at a retained station.
+ *
+ * code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3 ey; 4 ez; 5 ex
+ * and ey; 6 ey and ez; 7 ex and ez.
+ *
+ * on: 1 P agrees with the line at the station; 0 it does not.
+ *
+ * @type {(a1: number, b1: number, c1: number, d1: number, a2: number, b2: number, c2: number, d2:
+ *   number, px: number, py: number, pz: number, ez: number, tol: number) => {ex: number, ey:
+ *   number, code: number, on: number}}
+ */
+export const trvln7 = routine("trvln7", ["in real a1", "in real b1", "in real c1", "in real d1",
+  "in real a2", "in real b2", "in real c2", "in real d2", "in real px", "in real py", "in real pz",
+  "out real ex", "out real ey", "in real ez", "in real tol", "out int code", "out int on"]);
+
+/**
+ * Angle at P0 between the rays to P1 and P2, in the plane.
+ *
+ * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number) => {phi: number}}
+ */
+export const trvphi = routine("trvphi", ["in real x0", "in real y0", "in real x1", "in real y1",
+  "in real x2", "in real y2", "out real phi"]);
+
+/**
+ * Angle at P0 between the rays to P1 and P2, in space.
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number) => {phi: number}}
+ */
+export const trvphi3 = routine("trvphi3", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "out real phi"]);
+
+/**
+ * Angle between two vectors.
+ *
+ * @type {(ux: number, uy: number, uz: number, vx: number, vy: number, vz: number) => {phi: number}}
+ */
+export const trvphi1 = routine("trvphi1", ["in real ux", "in real uy", "in real uz", "in real vx",
+  "in real vy", "in real vz", "out real phi"]);
+
+/**
+ * Angle between two lines given by their directions.
+ *
+ * status: -1 a direction's length is within the tolerance; unwritten otherwise: set it beforehand.
+ *
+ * @type {(ux: number, uy: number, uz: number, vx: number, vy: number, vz: number) => {phi: number,
+ *   status: number}}
+ */
+export const trvphip = routine("trvphip", ["in real ux", "in real uy", "in real uz", "in real vx",
+  "in real vy", "in real vz", "out real phi", "out int status"]);
+
+/**
+ * Directed angle at P0 from the ray to P1 to the ray to P2.
+ *
+ * status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt).
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number) => {chi: number, status: number}}
+ */
+export const trvchi = routine("trvchi", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "out real chi",
+  "out int status"]);
+
+/**
+ * Convexity of a closed outline, of either orientation.
+ *
+ * status: 1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a side whose
+ * length is within the tolerance.
+ *
+ * @type {(X: Numbers, Y: Numbers, counts?: {n?: number}) => {status: number}}
+ */
+export const trvcnv = routine("trvcnv", ["in real X[n]", "in real Y[n]", "in int n = X Y",
+  "out int status"]);
+
+/**
+ * Cosine and sine of the angle between P2 - P1 and P4 - P3.
+ *
+ * status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt).
+ *
+ * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number, x3: number, y3:
+ *   number, z3: number, x4: number, y4: number, z4: number) => {cphi: number, sphi: number, status:
+ *   number}}
+ */
+export const trvtrg = routine("trvtrg", ["in real x1", "in real y1", "in real z1", "in real x2",
+  "in real y2", "in real z2", "in real x3", "in real y3", "in real z3", "in real x4", "in real y4",
+  "in real z4", "out real cphi", "out real sphi", "out int status"]);
+
+/**
+ * Relation of two directions.
+ *
+ * code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all components of u, or of
+ * v, are within the tolerance.
+ *
+ * @type {(ux: number, uy: number, uz: number, vx: number, vy: number, vz: number) => {code:
+ *   number}}
+ */
+export const trvdir = routine("trvdir", ["in real ux", "in real uy", "in real uz", "in real vx",
+  "in real vy", "in real vz", "out int code"]);
+
+/**
+ * Relation of two planes.
+ *
+ * code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel, normals opposite; 3
+ * coincident, normals in the same direction; 4 coincident, normals opposite; 5 perpendicular; 6 a
+ * normal is zero.
+ *
+ * @type {(a1: number, b1: number, c1: number, d1: number, a2: number, b2: number, c2: number, d2:
+ *   number) => {code: number}}
+ */
+export const trvdirp = routine("trvdirp", ["in real a1", "in real b1", "in real c1", "in real d1",
+  "in real a2", "in real b2", "in real c2", "in real d2", "out int code"]);
+
+/**
+ * Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
+ *
+ * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number, x3: number, y3:
+ *   number, z3: number, x4: number, y4: number, z4: number) => {ax: number, ay: number, az:
+ *   number}}
+ */
+export const trvmov = routine("trvmov", ["in real x1", "in real y1", "in real z1", "in real x2",
+  "in real y2", "in real z2", "in real x3", "in real y3", "in real z3", "in real x4", "in real y4",
+  "in real z4", "out real ax", "out real ay", "out real az"]);
+
+/**
+ * Moves the origin of plane points to (x0, y0), in place.
+ *
+ * @type {(X: Numbers, Y: Numbers, x0: number, y0: number, counts?: {n?: number}) => {X:
+ *   Float32Array, Y: Float32Array}}
+ */
+export const trvtra = routine("trvtra", ["inout real X[n]", "inout real Y[n]", "in int n = X Y",
+  "in real x0", "in real y0"]);
+
+/**
+ * Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+ *
+ * @type {(V: Numbers, counts?: {n?: number}) => {V: Int32Array}}
+ */
+export const trvinv = routine("trvinv", ["inout int V[n]", "in int n = V"]);
+
+/**
+ * Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+ *
+ * @type {(V: Numbers, k: number, A: Numbers, counts?: {n?: number, m?: number}) => {V: Int32Array,
+ *   n: number}}
+ */
+export const trvadr = routine("trvadr", ["inout int V[n+m]", "inout int n = V", "in int k",
+  "in int A[m]", "in int m = A"]);
+
+// Area properties of polygons, circular segments and the parts of a section
+
+/**
+ * Area of a polygon.
+ *
+ * @type {(x: Numbers, y: Numbers, counts?: {n?: number}) => {x: Float32Array, y: Float32Array,
+ *   area: number}}
+ */
+export const trvapl = routine("trvapl", ["inout real x[n+1]", "inout real y[n+1]",
+  "in int n >= 0 = x y", "out real area"]);
+
+/**
+ * First moments of a polygon.
+ *
+ * @type {(x: Numbers, y: Numbers, counts?: {n?: number}) => {x: Float32Array, y: Float32Array, sx:
+ *   number, sy: number}}
+ */
+export const trvspl = routine("trvspl", ["inout real x[n+1]", "inout real y[n+1]",
+  "in int n >= 0 = x y", "out real sx", "out real sy"]);
+
+/**
+ * Second moments of a polygon.
+ *
+ * @type {(x: Numbers, y: Numbers, counts?: {n?: number}) => {x: Float32Array, y: Float32Array, ix:
+ *   number, iy: number, ixy: number}}
+ */
+export const trvipl = routine("trvipl", ["inout real x[n+1]", "inout real y[n+1]",
+  "in int n >= 0 = x y", "out real ix", "out real iy", "out real ixy"]);
+
+/**
+ * Area and centroid of a circular segment, the region between an arc and its chord.
+ *
+ * @type {(xc: number, yc: number, x1: number, y1: number, x2: number, y2: number, kind: number) =>
+ *   {area: number, xs: number, ys: number}}
+ */
+export const trvacp = routine("trvacp", ["in real xc", "in real yc", "in real x1", "in real y1",
+  "in real x2", "in real y2", "in int kind", "out real area", "out real xs", "out real ys"]);
+
+/**
+ * Second moments of a circular segment, the region between an arc and its chord.
+ *
+ * @type {(xc: number, yc: number, x1: number, y1: number, x2: number, y2: number, kind: number) =>
+ *   {ix: number, iy: number, ixy: number}}
+ */
+export const trvicp = routine("trvicp", ["in real xc", "in real yc", "in real x1", "in real y1",
+  "in real x2", "in real y2", "in int kind", "out real ix", "out real iy", "out real ixy"]);
+
+/**
+ * Area of a part of a section.
+ *
+ * @type {(x: Numbers, y: Numbers, kind: number, value: number, factor: number, area: number,
+ *   counts?: {n?: number}) => {x: Float32Array, y: Float32Array, area: number}}
+ */
+export const trvair = routine("trvair", ["inout real x[1, n+1, 2, 3, 3 by kind]",
+  "inout real y[1, n+1, 2, 3, 3 by kind]", "in int n >= 0 = x y", "in int kind", "in real value",
+  "in real factor", "inout real area"]);
+
+/**
+ * First moments of a part of a section.
+ *
+ * @type {(x: Numbers, y: Numbers, kind: number, value: number, factor: number, sx: number, sy:
+ *   number, counts?: {n?: number}) => {x: Float32Array, y: Float32Array, sx: number, sy: number}}
+ */
+export const trvstm = routine("trvstm", ["inout real x[1, n+1, 2, 3, 3 by kind]",
+  "inout real y[1, n+1, 2, 3, 3 by kind]", "in int n >= 0 = x y", "in int kind", "in real value",
+  "in real factor", "inout real sx", "inout real sy"]);
+
+/**
+ * Second moments of a part of a section.
+ *
+ * @type {(x: Numbers, y: Numbers, kind: number, value: number, angle: number, factor: number, ix:
+ *   number, iy: number, ixy: number, counts?: {n?: number}) => {x: Float32Array, y: Float32Array,
+ *   ix: number, iy: number, ixy: number}}
+ */
+export const trvinm = routine("trvinm", ["inout real x[1, n+1, 2, 3, 3 by kind]",
+  "inout real y[1, n+1, 2, 3, 3 by kind]", "in int n >= 0 = x y", "in int kind", "in real value",
+  "in real angle", "in real factor", "inout real ix", "inout real iy", "inout real ixy"]);
+
+/**
+ * Principal moments and their direction.
+ *
+ * @type {(ix: number, iy: number, ixy: number) => {i1: number, i2: number, alpha: number}}
+ */
+export const trvinp = routine("trvinp", ["in real ix", "in real iy", "in real ixy", "out real i1",
+  "out real i2", "out real alpha"]);
+
+/**
+ * Integral of equally spaced samples over [a, b] by the trapezoidal rule.
+ *
+ * @type {(f: Numbers, a: number, b: number, counts?: {n?: number}) => {result: number}}
+ */
+export const trvinr = routine("trvinr", ["in int n >= 2 = f", "in real f[n]", "in real a",
+  "in real b", "out real result"]);
+
+// Steel sections: buckling of plates, outlines of profiles, channels, thin plates
+
+/**
+ * Reduction factor of an internal compression element, EN 1993-1-5, 4.4(2).
+ *
+ * @type {(b: number, t: number, r1: number, r2: number, psi: number, ks: number) => {rho: number}}
+ */
+export const trvro2 = routine("trvro2", ["in real b", "in real t", "in real r1", "in real r2",
+  "in real psi", "in real ks", "out real rho"]);
+
+/**
+ * Effective width of an edge fold on a plate it stiffens, after EN 1993-1-3, 5.5.3.2.
+ *
+ * @type {(c: number, bp: number, t: number, r1: number, r2: number) => {ceff: number}}
+ */
+export const trvefr = routine("trvefr", ["in real c", "in real bp", "in real t", "in real r1",
+  "in real r2", "out real ceff"]);
+
+/**
+ * Effective widths at the edges of an internal element, EN 1993-1-5, table 4.1.
+ *
+ * @type {(bl: number, w: number, t: number, r1: number, r2: number, s1: number, s2: number) =>
+ *   {be1: number, be2: number}}
+ */
+export const trvef2 = routine("trvef2", ["in real bl", "in real w", "in real t", "in real r1",
+  "in real r2", "in real s1", "in real s2", "out real be1", "out real be2"]);
+
+/**
+ * I section with unequal flanges.
+ *
+ * np: number of polygons: 1.
+ *
+ * @type {(H: number, B1: number, B2: number, T1: number, T2: number, TW: number, q: number) => {np:
+ *   number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array,
+ *   z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1:
+ *   Float32Array, q2: Float32Array}}
+ */
+export const trvsec_ia = routine("trvsec_ia", ["in real H", "in real B1", "in real B2",
+  "in real T1", "in real T2", "in real TW", "in real q", "out int np", "out int nv[1]",
+  "out real X[12]", "out real Y[12]", "out int code[1]", "out real sign[1]", "out real z1[1]",
+  "out real z2[1]", "out real z3[1]", "out real z4[1]", "out real z5[1]", "out real q1[1]",
+  "out real q2[1]"]);
+
+/**
+ * I section lying on its side.
+ *
+ * np: number of polygons: 1.
+ *
+ * @type {(H: number, B1: number, B2: number, T1: number, T2: number, TW: number, q: number) => {np:
+ *   number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array,
+ *   z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1:
+ *   Float32Array, q2: Float32Array}}
+ */
+export const trvsec_h = routine("trvsec_h", ["in real H", "in real B1", "in real B2", "in real T1",
+  "in real T2", "in real TW", "in real q", "out int np", "out int nv[1]", "out real X[12]",
+  "out real Y[12]", "out int code[1]", "out real sign[1]", "out real z1[1]", "out real z2[1]",
+  "out real z3[1]", "out real z4[1]", "out real z5[1]", "out real q1[1]", "out real q2[1]"]);
+
+/**
+ * T section, flange at the top.
+ *
+ * np: number of polygons: 1.
+ *
+ * @type {(B: number, H: number, TF: number, TW: number, q: number) => {np: number, nv: Int32Array,
+ *   X: Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array, z1: Float32Array, z2:
+ *   Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1: Float32Array, q2:
+ *   Float32Array}}
+ */
+export const trvsec_t = routine("trvsec_t", ["in real B", "in real H", "in real TF", "in real TW",
+  "in real q", "out int np", "out int nv[1]", "out real X[8]", "out real Y[8]", "out int code[1]",
+  "out real sign[1]", "out real z1[1]", "out real z2[1]", "out real z3[1]", "out real z4[1]",
+  "out real z5[1]", "out real q1[1]", "out real q2[1]"]);
+
+/**
+ * Flat bar.
+ *
+ * np: number of polygons: 1.
+ *
+ * @type {(B: number, H: number, q: number) => {np: number, nv: Int32Array, X: Float32Array, Y:
+ *   Float32Array, code: Int32Array, sign: Float32Array, z1: Float32Array, z2: Float32Array, z3:
+ *   Float32Array, z4: Float32Array, z5: Float32Array, q1: Float32Array, q2: Float32Array}}
+ */
+export const trvsec_b = routine("trvsec_b", ["in int B", "in real H", "in real q", "out int np",
+  "out int nv[1]", "out real X[12]", "out real Y[12]", "out int code[1]", "out real sign[1]",
+  "out real z1[1]", "out real z2[1]", "out real z3[1]", "out real z4[1]", "out real z5[1]",
+  "out real q1[1]", "out real q2[1]"]);
+
+/**
+ * I section lying on its side with a cover plate on its flanges' top edges, closing one cell.
+ *
+ * np: number of polygons: 2.
+ *
+ * @type {(W: number, D: number, P: number, T1: number, T2: number, TW: number, TP: number, q:
+ *   number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array,
+ *   sign: Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5:
+ *   Float32Array, q1: Float32Array, q2: Float32Array}}
+ */
+export const trvsec_h1b = routine("trvsec_h1b", ["in real W", "in real D", "in real P",
+  "in real T1", "in real T2", "in real TW", "in real TP", "in real q", "out int np",
+  "out int nv[2]", "out real X[16]", "out real Y[16]", "out int code[2]", "out real sign[2]",
+  "out real z1[2]", "out real z2[2]", "out real z3[2]", "out real z4[2]", "out real z5[2]",
+  "out real q1[2]", "out real q2[2]"]);
+
+/**
+ * Box girder with overhanging flanges.
+ *
+ * np: number of polygons: 2.
+ *
+ * @type {(BT: number, BB: number, TT: number, TB: number, H: number, TW: number, G: number, q:
+ *   number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array,
+ *   sign: Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5:
+ *   Float32Array, q1: Float32Array, q2: Float32Array}}
+ */
+export const trvsec_box = routine("trvsec_box", ["in real BT", "in real BB", "in real TT",
+  "in real TB", "in real H", "in real TW", "in real G", "in real q", "out int np", "out int nv[2]",
+  "out real X[16]", "out real Y[16]", "out int code[2]", "out real sign[2]", "out real z1[2]",
+  "out real z2[2]", "out real z3[2]", "out real z4[2]", "out real z5[2]", "out real q1[2]",
+  "out real q2[2]"]);
+
+/**
+ * Rectangular hollow section with sharp corners.
+ *
+ * np: number of polygons: 2.
+ *
+ * @type {(B: number, H: number, T: number, q: number) => {np: number, nv: Int32Array, X:
+ *   Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array, z1: Float32Array, z2:
+ *   Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1: Float32Array, q2:
+ *   Float32Array}}
+ */
+export const trvsec_rhs = routine("trvsec_rhs", ["in real B", "in real H", "in real T", "in real q",
+  "out int np", "out int nv[2]", "out real X[8]", "out real Y[8]", "out int code[2]",
+  "out real sign[2]", "out real z1[2]", "out real z2[2]", "out real z3[2]", "out real z4[2]",
+  "out real z5[2]", "out real q1[2]", "out real q2[2]"]);
+
+/**
+ * Two equal angles back to back, horizontal legs at the top.
+ *
+ * np: number of polygons: 2.
+ *
+ * @type {(B: number, H: number, G: number, T: number, TV: number, q: number) => {np: number, nv:
+ *   Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array, z1:
+ *   Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1:
+ *   Float32Array, q2: Float32Array}}
+ */
+export const trvsec_l2 = routine("trvsec_l2", ["in real B", "in real H", "in real G", "in real T",
+  "in real TV", "in real q", "out int np", "out int nv[2]", "out real X[12]", "out real Y[12]",
+  "out int code[2]", "out real sign[2]", "out real z1[2]", "out real z2[2]", "out real z3[2]",
+  "out real z4[2]", "out real z5[2]", "out real q1[2]", "out real q2[2]"]);
+
+/**
+ * Top plate on a closed cell of two webs and a bottom plate between them.
+ *
+ * np: number of polygons: 2.
+ *
+ * @type {(B: number, H: number, BW: number, E: number, T: number, TW: number, TB: number, q:
+ *   number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array,
+ *   sign: Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5:
+ *   Float32Array, q1: Float32Array, q2: Float32Array}}
+ */
+export const trvsec_tab = routine("trvsec_tab", ["in real B", "in real H", "in real BW",
+  "in real E", "in real T", "in real TW", "in real TB", "in real q", "out int np", "out int nv[2]",
+  "out real X[16]", "out real Y[16]", "out int code[2]", "out real sign[2]", "out real z1[2]",
+  "out real z2[2]", "out real z3[2]", "out real z4[2]", "out real z5[2]", "out real q1[2]",
+  "out real q2[2]"]);
+
+/**
+ * Two flanges joined by two webs and a middle plate, closing two cells.
+ *
+ * np: number of polygons: 3.
+ *
+ * @type {(B: number, W: number, HI: number, TW1: number, TW2: number, TM: number, TF: number, q:
+ *   number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array,
+ *   sign: Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5:
+ *   Float32Array, q1: Float32Array, q2: Float32Array}}
+ */
+export const trvsec_h2b = routine("trvsec_h2b", ["in real B", "in real W", "in real HI",
+  "in real TW1", "in real TW2", "in real TM", "in real TF", "in real q", "out int np",
+  "out int nv[3]", "out real X[20]", "out real Y[20]", "out int code[3]", "out real sign[3]",
+  "out real z1[3]", "out real z2[3]", "out real z3[3]", "out real z4[3]", "out real z5[3]",
+  "out real q1[3]", "out real q2[3]"]);
+
+/**
+ * I section with unequal flanges, an eccentric web and 45-degree fillets.
+ *
+ * np: number of polygons: 1.
+ *
+ * @type {(H: number, B1: number, B2: number, T1: number, T2: number, TW: number, S1: number, S2:
+ *   number, E: number, q: number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array,
+ *   code: Int32Array, sign: Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4:
+ *   Float32Array, z5: Float32Array, q1: Float32Array, q2: Float32Array}}
+ */
+export const trvsec_i = routine("trvsec_i", ["in real H", "in real B1", "in real B2", "in real T1",
+  "in real T2", "in real TW", "in real S1", "in real S2", "in real E", "in real q", "out int np",
+  "out int nv[1]", "out real X[16]", "out real Y[16]", "out int code[1]", "out real sign[1]",
+  "out real z1[1]", "out real z2[1]", "out real z3[1]", "out real z4[1]", "out real z5[1]",
+  "out real q1[1]", "out real q2[1]"]);
+
+/**
+ * Channel open to the right, with lips turned inwards and folds turned back towards the web.
+ *
+ * np: number of polygons: 1.
+ *
+ * @type {(H: number, B1: number, B2: number, C1: number, C2: number, D1: number, D2: number, TW:
+ *   number, T1: number, T2: number, TC1: number, TC2: number, TD1: number, TD2: number, q: number)
+ *   => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array, sign:
+ *   Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5:
+ *   Float32Array, q1: Float32Array, q2: Float32Array}}
+ */
+export const trvsec_c = routine("trvsec_c", ["in real H", "in real B1", "in real B2", "in real C1",
+  "in real C2", "in real D1", "in real D2", "in real TW", "in real T1", "in real T2", "in real TC1",
+  "in real TC2", "in real TD1", "in real TD2", "in real q", "out int np", "out int nv[1]",
+  "out real X[16]", "out real Y[16]", "out int code[1]", "out real sign[1]", "out real z1[1]",
+  "out real z2[1]", "out real z3[1]", "out real z4[1]", "out real z5[1]", "out real q1[1]",
+  "out real q2[1]"]);
+
+/**
+ * Distance of a channel's shear centre from its centroid.
+ *
+ * @type {(B: number, H: number, C: number, t: number) => {e0: number}}
+ */
+export const trvshc_c = routine("trvshc_c", ["in real B", "in real H", "in real C", "in real t",
+  "out real e0"]);
+
+/**
+ * Warping constant of a channel.
+ *
+ * @type {(B: number, H: number, C: number, t: number) => {Iw: number}}
+ */
+export const trvwar_c = routine("trvwar_c", ["in real B", "in real H", "in real C", "in real t",
+  "out real Iw"]);
+
+/**
+ * Properties of an open section of thin plates.
+ *
+ * status: -1 refused, nothing else is written: n < 1, a coordinate or a thickness that is infinite
+ * or NaN, a length or a thickness not above the tolerance; 0 done; 2 to n this plate is the first
+ * at fault, it starts at no end of an earlier one, or ends at one and closes a cell: what is listed
+ * up to xp,yp is written, the rest is not; n+2 to 2*n plate status - n is the first at fault, it
+ * crosses, touches or overlaps an earlier one elsewhere than at its start, which may close a cell:
+ * what is listed up to xp,yp is written, the rest is not.
+ *
+ * @type {(X1: Numbers, Y1: Numbers, X2: Numbers, Y2: Numbers, T: Numbers, counts?: {n?: number}) =>
+ *   {A: number, xs: number, ys: number, Ix: number, Iy: number, Ixy: number, I1: number, I2:
+ *   number, alpha: number, rx: number, ry: number, Wx1: number, Wx2: number, Wy1: number, Wy2:
+ *   number, Wpx: number, Wpy: number, xp: number, yp: number, It: number, Wt: number, xm: number,
+ *   ym: number, Iw: number, r0: number, W1: Float32Array, W2: Float32Array, status: number}}
+ */
+export const trvmxt = routine("trvmxt", ["in int n = X1 Y1 X2 Y2 T", "in real X1[n]",
+  "in real Y1[n]", "in real X2[n]", "in real Y2[n]", "in real T[n]", "out real A", "out real xs",
+  "out real ys", "out real Ix", "out real Iy", "out real Ixy", "out real I1", "out real I2",
+  "out real alpha", "out real rx", "out real ry", "out real Wx1", "out real Wx2", "out real Wy1",
+  "out real Wy2", "out real Wpx", "out real Wpy", "out real xp", "out real yp", "out real It",
+  "out real Wt", "out real xm", "out real ym", "out real Iw", "out real r0", "out real W1[n]",
+  "out real W2[n]", "out int status"]);
+
+/**
+ * Properties of a flat bar, centred on the origin.
+ *
+ * status: -1 refused, nothing else is written: a side that is infinite, NaN or not above the
+ * tolerance; 0 done.
+ *
+ * @type {(B: number, H: number) => {A: number, xs: number, ys: number, Ix: number, Iy: number, Ixy:
+ *   number, I1: number, I2: number, alpha: number, rx: number, ry: number, Wx1: number, Wx2:
+ *   number, Wy1: number, Wy2: number, Wpx: number, Wpy: number, xp: number, yp: number, It: number,
+ *   Wt: number, xm: number, ym: number, Iw: number, r0: number, W1: Float32Array, W2: Float32Array,
+ *   status: number}}
+ */
+export const trvmxt_fb = routine("trvmxt_fb", ["in real B", "in real H", "out real A",
+  "out real xs", "out real ys", "out real Ix", "out real Iy", "out real Ixy", "out real I1",
+  "out real I2", "out real alpha", "out real rx", "out real ry", "out real Wx1", "out real Wx2",
+  "out real Wy1", "out real Wy2", "out real Wpx", "out real Wpy", "out real xp", "out real yp",
+  "out real It", "out real Wt", "out real xm", "out real ym", "out real Iw", "out real r0",
+  "out real W1[1]", "out real W2[1]", "out int status"]);
+
+// Rotations, frames, planes and lines of space
+
+/**
+ * Turns plane points about the origin, in place.
+ *
+ * @type {(mode: number, x: Numbers, y: Numbers, angle: number, counts?: {n?: number}) => {x:
+ *   Float32Array, y: Float32Array}}
+ */
+export const trvrot = routine("trvrot", ["in int mode", "inout real x[n]", "inout real y[n]",
+  "in int n = x y", "in real angle"]);
+
+/**
+ * Turns points about the x axis, in place.
+ *
+ * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
+ *   => {y: Float32Array, z: Float32Array}}
+ */
+export const trvrotx = routine("trvrotx", ["in int mode", "in real x[0]", "inout real y[n]",
+  "inout real z[n]", "in int n = y z", "in real angle"]);
+
+/**
+ * Turns points about the y axis, in place.
+ *
+ * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
+ *   => {x: Float32Array, z: Float32Array}}
+ */
+export const trvroty = routine("trvroty", ["in int mode", "inout real x[n]", "in real y[0]",
+  "inout real z[n]", "in int n = x z", "in real angle"]);
+
+/**
+ * Turns points about the z axis, in place.
+ *
+ * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
+ *   => {x: Float32Array, y: Float32Array}}
+ */
+export const trvrotz = routine("trvrotz", ["in int mode", "inout real x[n]", "inout real y[n]",
+  "in real z[0]", "in int n = x y", "in real angle"]);
+
+/**
+ * Three-point test: whether P0, P1 and P2 span a plane.
+ *
+ * status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on
+ * their line; 5 P2 is beyond P1.
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number) => {status: number}}
+ */
+export const trvpsl = routine("trvpsl", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "out int status"]);
+
+/**
+ * Moves the origin of points to (dx, dy, dz), in place.
+ *
+ * @type {(X: Numbers, Y: Numbers, Z: Numbers, dx: number, dy: number, dz: number, counts?: {n?:
+ *   number}) => {X: Float32Array, Y: Float32Array, Z: Float32Array}}
+ */
+export const trv3tra = routine("trv3tra", ["inout real X[n]", "inout real Y[n]", "inout real Z[n]",
+  "in int n = X Y Z", "in real dx", "in real dy", "in real dz"]);
+
+/**
+ * Applies a frame matrix to one point, in place.
+ *
+ * @type {(p: Numbers, a1: number, a2: number, a3: number, a4: number, a5: number, a6: number, a7:
+ *   number, a8: number, a9: number, mode: number) => {p: Float32Array}}
+ */
+export const trvtrn = routine("trvtrn", ["inout real p[3]", "in real a1", "in real a2",
+  "in real a3", "in real a4", "in real a5", "in real a6", "in real a7", "in real a8", "in real a9",
+  "in int mode"]);
+
+/**
+ * Frame of the plane through three points.
+ *
+ * status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number) => {e1x: number, e1y: number, e1z: number, e2x: number, e2y: number, e2z:
+ *   number, e3x: number, e3y: number, e3z: number, status: number}}
+ */
+export const trvaxe = routine("trvaxe", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "out real e1x",
+  "out real e1y", "out real e1z", "out real e2x", "out real e2y", "out real e2z", "out real e3x",
+  "out real e3y", "out real e3z", "out int status"]);
+
+/**
+ * Frame of an axis from P0 to P1.
+ *
+ * status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance.
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, angle: number) =>
+ *   {e1x: number, e1y: number, e1z: number, e2x: number, e2y: number, e2z: number, e3x: number,
+ *   e3y: number, e3z: number, status: number}}
+ */
+export const trvaxel = routine("trvaxel", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real angle", "out real e1x", "out real e1y", "out real e1z",
+  "out real e2x", "out real e2y", "out real e2z", "out real e3x", "out real e3y", "out real e3z",
+  "out int status"]);
+
+/**
+ * Shifts points and turns them about the global axes x, y and z, in this order and in place.
+ *
+ * @type {(X: Numbers, Y: Numbers, Z: Numbers, x0: number, y0: number, z0: number, ax: number, ay:
+ *   number, az: number, counts?: {n?: number}) => {X: Float32Array, Y: Float32Array, Z:
+ *   Float32Array}}
+ */
+export const trvptr = routine("trvptr", ["inout real X[n]", "inout real Y[n]", "inout real Z[n]",
+  "in int n = X Y Z", "in real x0", "in real y0", "in real z0", "in real ax", "in real ay",
+  "in real az"]);
+
+/**
+ * Shifts points and turns them in the frame of three points, in place.
+ *
+ * status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number, X: Numbers, Y: Numbers, Z: Numbers, dx: number, dy: number, dz: number, ax:
+ *   number, ay: number, az: number, counts?: {n?: number}) => {X: Float32Array, Y: Float32Array, Z:
+ *   Float32Array, status: number}}
+ */
+export const trvptrl = routine("trvptrl", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "inout real X[n]",
+  "inout real Y[n]", "inout real Z[n]", "in int n = X Y Z", "in real dx", "in real dy",
+  "in real dz", "in real ax", "in real ay", "in real az", "out int status"]);
+
+/**
+ * Turns points about the axis from P0 through P1, in place.
+ *
+ * status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance.
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, X: Numbers, Y:
+ *   Numbers, Z: Numbers, angle: number, counts?: {n?: number}) => {X: Float32Array, Y:
+ *   Float32Array, Z: Float32Array, status: number}}
+ */
+export const trvpra = routine("trvpra", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "inout real X[n]", "inout real Y[n]", "inout real Z[n]",
+  "in int n = X Y Z", "in real angle", "out int status"]);
+
+/**
+ * Turns points of a plane in the frame of the three points that span it, then shifts them, in
+ * place.
+ *
+ * status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1 to n position of
+ * the first point off the plane.
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number, dx: number, dy: number, dz: number, ax: number, ay: number, az: number, X:
+ *   Numbers, Y: Numbers, Z: Numbers, tol: number, counts?: {n?: number}) => {X: Float32Array, Y:
+ *   Float32Array, Z: Float32Array, status: number}}
+ */
+export const trvppc = routine("trvppc", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "in real dx", "in real dy",
+  "in real dz", "in real ax", "in real ay", "in real az", "in int n = X Y Z", "inout real X[n]",
+  "inout real Y[n]", "inout real Z[n]", "in real tol", "out int status"]);
+
+/**
+ * Plane through a point, spanned by two directions.
+ *
+ * @type {(x: number, y: number, z: number, ux: number, uy: number, uz: number, wx: number, wy:
+ *   number, wz: number) => {a: number, b: number, c: number, d: number}}
+ */
+export const trvplg = routine("trvplg", ["in real x", "in real y", "in real z", "in real ux",
+  "in real uy", "in real uz", "in real wx", "in real wy", "in real wz", "out real a", "out real b",
+  "out real c", "out real d"]);
+
+/**
+ * Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
+ *
+ * status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on
+ * their line; 5 P2 is beyond P1.
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number) => {a: number, b: number, c: number, d: number, status: number}}
+ */
+export const trvpl1 = routine("trvpl1", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "out real a", "out real b",
+  "out real c", "out real d", "out int status"]);
+
+/**
+ * Plane through a point, parallel to two lines.
+ *
+ * status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
+ * of opposite sense; 7 A and B, or C and D, coincide (trvcnt).
+ *
+ * @type {(x: number, y: number, z: number, xa: number, ya: number, za: number, xb: number, yb:
+ *   number, zb: number, xc: number, yc: number, zc: number, xd: number, yd: number, zd: number) =>
+ *   {a: number, b: number, c: number, d: number, status: number}}
+ */
+export const trvpl2 = routine("trvpl2", ["in real x", "in real y", "in real z", "in real xa",
+  "in real ya", "in real za", "in real xb", "in real yb", "in real zb", "in real xc", "in real yc",
+  "in real zc", "in real xd", "in real yd", "in real zd", "out real a", "out real b", "out real c",
+  "out real d", "out int status"]);
+
+/**
+ * Plane that contains one line and is parallel to another: trvpl2 through A.
+ *
+ * status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
+ * of opposite sense; 7 A and B, or C and D, coincide (trvcnt).
+ *
+ * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xc: number, yc:
+ *   number, zc: number, xd: number, yd: number, zd: number) => {a: number, b: number, c: number, d:
+ *   number, status: number}}
+ */
+export const trvpl3 = routine("trvpl3", ["in real xa", "in real ya", "in real za", "in real xb",
+  "in real yb", "in real zb", "in real xc", "in real yc", "in real zc", "in real xd", "in real yd",
+  "in real zd", "out real a", "out real b", "out real c", "out real d", "out int status"]);
+
+/**
+ * Plane through a point, perpendicular to a segment.
+ *
+ * status: 0 done; 1 A and B coincide, each coordinate within the tolerance (trvcnt).
+ *
+ * @type {(x: number, y: number, z: number, xa: number, ya: number, za: number, xb: number, yb:
+ *   number, zb: number) => {a: number, b: number, c: number, d: number, status: number}}
+ */
+export const trvpl4 = routine("trvpl4", ["in real x", "in real y", "in real z", "in real xa",
+  "in real ya", "in real za", "in real xb", "in real yb", "in real zb", "out real a", "out real b",
+  "out real c", "out real d", "out int status"]);
+
+/**
+ * Plane with given intercepts on the axes.
+ *
+ * status: 0 done; 1 an intercept is within the tolerance or NaN.
+ *
+ * @type {(ix: number, iy: number, iz: number) => {a: number, b: number, c: number, d: number,
+ *   status: number}}
+ */
+export const trvpl5 = routine("trvpl5", ["in real ix", "in real iy", "in real iz", "out real a",
+  "out real b", "out real c", "out real d", "out int status"]);
+
+/**
+ * Plane of two lines, each given by a point and a direction.
+ *
+ * status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
+ * of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each component.
+ *
+ * @type {(xa: number, ya: number, za: number, ux: number, uy: number, uz: number, xc: number, yc:
+ *   number, zc: number, wx: number, wy: number, wz: number) => {a: number, b: number, c: number, d:
+ *   number, status: number}}
+ */
+export const trvpl6 = routine("trvpl6", ["in real xa", "in real ya", "in real za", "in real ux",
+  "in real uy", "in real uz", "in real xc", "in real yc", "in real zc", "in real wx", "in real wy",
+  "in real wz", "out real a", "out real b", "out real c", "out real d", "out int status"]);
+
+/**
+ * Plane of three points turned about the line from P0 to P1.
+ *
+ * status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is at P1; 3 P2 is
+ * between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond P1.
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number, angle: number) => {a: number, b: number, c: number, d: number, status:
+ *   number}}
+ */
+export const trvpl7 = routine("trvpl7", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "in real angle",
+  "out real a", "out real b", "out real c", "out real d", "out int status"]);
+
+/**
+ * Whether a point lies on the plane of three points.
+ *
+ * status: 0 it does, and any point does where P0 = P1; -1 it does not, or the three points span no
+ * plane (trvpsl).
+ *
+ * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number, x: number, y: number, z: number, tol: number) => {status: number}}
+ */
+export const trvpsp = routine("trvpsp", ["in real x0", "in real y0", "in real z0", "in real x1",
+  "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "in real x", "in real y",
+  "in real z", "in real tol", "out int status"]);
+
+/**
+ * Signed distance of a point from a plane.
+ *
+ * @type {(x: number, y: number, z: number, a: number, b: number, c: number, d: number) => {dist:
+ *   number}}
+ */
+export const trvpld = routine("trvpld", ["in real x", "in real y", "in real z", "in real a",
+  "in real b", "in real c", "in real d", "out real dist"]);
+
+/**
+ * Whether a point lies on a plane.
+ *
+ * status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is exactly zero.
+ *
+ * @type {(x: number, y: number, z: number, a: number, b: number, c: number, d: number, tol: number)
+ *   => {status: number}}
+ */
+export const trvpspg = routine("trvpspg", ["in real x", "in real y", "in real z", "in real a",
+  "in real b", "in real c", "in real d", "in real tol", "out int status"]);
+
+/**
+ * Relation of two directions, taken as lines through the origin.
+ *
+ * status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5 perpendicular; 7 u
+ * or w is within the tolerance in each component.
+ *
+ * @type {(ux: number, uy: number, uz: number, wx: number, wy: number, wz: number, v7: number, v8:
+ *   number) => {status: number}}
+ */
+export const trvplv = routine("trvplv", ["in real ux", "in real uy", "in real uz", "in real wx",
+  "in real wy", "in real wz", "in real v7", "in real v8", "out int status"]);
+
+/**
+ * Points of a list on a plane, by a running residual.
+ *
+ * @type {(X: Numbers, Y: Numbers, Z: Numbers, a: number, b: number, c: number, d: number, counts?:
+ *   {n?: number}) => {d: number, count: number, index: Int32Array}}
+ */
+export const trvpnp = routine("trvpnp", ["in real X[n]", "in real Y[n]", "in real Z[n]",
+  "in real a", "in real b", "in real c", "inout real d", "in int n = X Y Z", "out int count",
+  "out int index[n, count used]"]);
+
+/**
+ * Relation of two lines.
+ *
+ * status: 0 they cross, not at a right angle; 1 parallel and distinct, of the same sense; 2
+ * parallel and distinct, of opposite sense; 3 the same line, of the same sense; 4 the same line, of
+ * opposite sense; 5 they cross at a right angle; 6 skew; 7 A and B, or C and D, coincide, each
+ * coordinate within the tolerance.
+ *
+ * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xc: number, yc:
+ *   number, zc: number, xd: number, yd: number, zd: number) => {status: number}}
+ */
+export const trvdirl = routine("trvdirl", ["in real xa", "in real ya", "in real za", "in real xb",
+  "in real yb", "in real zb", "in real xc", "in real yc", "in real zc", "in real xd", "in real yd",
+  "in real zd", "out int status"]);
+
+/**
+ * Whether three segments span space.
+ *
+ * status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above the tolerance, in
+ * the cube of the length unit.
+ *
+ * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xc: number, yc:
+ *   number, zc: number, xd: number, yd: number, zd: number, xe: number, ye: number, ze: number, xf:
+ *   number, yf: number, zf: number) => {status: number}}
+ */
+export const trv3sp = routine("trv3sp", ["in real xa", "in real ya", "in real za", "in real xb",
+  "in real yb", "in real zb", "in real xc", "in real yc", "in real zc", "in real xd", "in real yd",
+  "in real zd", "in real xe", "in real ye", "in real ze", "in real xf", "in real yf", "in real zf",
+  "out int status"]);
+
+/**
+ * Distance of a point from a line.
+ *
+ * status: 0 always.
+ *
+ * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xq: number, yq:
+ *   number, zq: number) => {status: number, dist: number}}
+ */
+export const trv3ldb = routine("trv3ldb", ["in real xa", "in real ya", "in real za", "in real xb",
+  "in real yb", "in real zb", "in real xq", "in real yq", "in real zq", "out int status",
+  "out real dist"]);
+
+/**
+ * Signed distance of a point from a line, in the plane of both.
+ *
+ * status: 0 always.
+ *
+ * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xq: number, yq:
+ *   number, zq: number) => {status: number, dist: number}}
+ */
+export const trv3lda = routine("trv3lda", ["in real xa", "in real ya", "in real za", "in real xb",
+  "in real yb", "in real zb", "in real xq", "in real yq", "in real zq", "out int status",
+  "out real dist"]);
+
+/**
+ * Intersection of the lines A + t*u and C + s*w.
+ *
+ * status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
+ * of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each component.
+ *
+ * @type {(xa: number, ya: number, za: number, ux: number, uy: number, uz: number, xc: number, yc:
+ *   number, zc: number, wx: number, wy: number, wz: number) => {xa: number, ya: number, za: number,
+ *   xc: number, yc: number, zc: number, status: number, xi: number, yi: number, zi: number}}
+ */
+export const trv3lni = routine("trv3lni", ["inout real xa", "inout real ya", "inout real za",
+  "in real ux", "in real uy", "in real uz", "inout real xc", "inout real yc", "inout real zc",
+  "in real wx", "in real wy", "in real wz", "out int status", "out real xi", "out real yi",
+  "out real zi"]);
+
+/**
+ * Intersection of the line P + t*u with a plane.
+ *
+ * status: 0 done; 3 the line is parallel to the plane: the cosine of u and the normal is within the
+ * tolerance; 4 u or the normal is within the tolerance in each component.
+ *
+ * @type {(x: number, y: number, z: number, ux: number, uy: number, uz: number, a: number, b:
+ *   number, c: number, d: number) => {xi: number, yi: number, zi: number, status: number}}
+ */
+export const trvpli = routine("trvpli", ["in real x", "in real y", "in real z", "in real ux",
+  "in real uy", "in real uz", "in real a", "in real b", "in real c", "in real d", "out real xi",
+  "out real yi", "out real zi", "out int status"]);
+
+/**
+ * Position of a plane against the axes.
+ *
+ * position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4 parallel to the z
+ * axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to the y axis; 8 the plane z = 0;
+ * 9 the plane x = 0; 10 the plane y = 0.
+ *
+ * @type {(a: number, b: number, c: number, d: number) => {position: number}}
+ */
+export const trvplp = routine("trvplp", ["in real a", "in real b", "in real c", "in real d",
+  "out int position"]);
+
+/**
+ * Points of a list near a line.
+ *
+ * status: 0 always; unwritten when n < 1.
+ *
+ * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, X: Numbers, Y:
+ *   Numbers, zf: (position: number) => number, tol: number, counts?: {n?: number}) => {status:
+ *   number, count: number, index: Int32Array}}
+ */
+export const trvpnl = routine("trvpnl", ["in real xa", "in real ya", "in real za", "in real xb",
+  "in real yb", "in real zb", "in real X[n]", "in real Y[n]", "in function zf", "in int n = X Y",
+  "in real tol", "out int status", "out int count", "out int index[n, count used]"]);
+
+/**
+ * Carries a point along when the line through it is moved.
+ *
+ * status: 0 not moved: the three points are not collinear, or Q1 is at P; 3 moved, Q1 and Q2 on one
+ * side of P; 4 moved, on either side of P; 6 moved, rounding takes the three for skew lines; 7
+ * moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance.
+ *
+ * @type {(xp: number, yp: number, zp: number, x1: number, y1: number, z1: number, x2: number, y2:
+ *   number, z2: number, dxp: number, dyp: number, dzp: number, dx1: number, dy1: number, dz1:
+ *   number) => {x2: number, y2: number, z2: number, status: number}}
+ */
+export const trvlpc = routine("trvlpc", ["in real xp", "in real yp", "in real zp", "in real x1",
+  "in real y1", "in real z1", "inout real x2", "inout real y2", "inout real z2", "in real dxp",
+  "in real dyp", "in real dzp", "in real dx1", "in real dy1", "in real dz1", "out int status"]);

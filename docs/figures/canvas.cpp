@@ -1,0 +1,323 @@
+#include "canvas.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace figures {
+namespace {
+
+constexpr double number_size = 11;
+
+std::string px(double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2f", value);
+  return std::string(text) == "-0.00" ? "0.00" : text;
+}
+
+std::string attribute(const std::string &name, const std::string &value) {
+  return ' ' + name + "=\"" + value + '"';
+}
+
+std::string drawn_with(const Pen &pen, const char *fill = colours::none) {
+  return attribute("stroke", pen.colour) + attribute("stroke-width", px(pen.width)) +
+         (*pen.dash != 0 ? attribute("stroke-dasharray", pen.dash) : "") + attribute("fill", fill);
+}
+
+std::string escaped(const std::string &text) {
+  std::string result;
+  for (const char c : text) {
+    if (c == '<')
+      result += "&lt;";
+    else if (c == '&')
+      result += "&amp;";
+    else
+      result += c;
+  }
+  return result;
+}
+
+// Of sans-serif letters, on the wide side.
+double width_of(const std::string &text, double size) {
+  const auto letters = std::count_if(
+      text.begin(), text.end(), [](char c) { return (static_cast<unsigned>(c) & 0xC0U) != 0x80; });
+  return 0.56 * size * static_cast<double>(letters);
+}
+
+bool overlap(const Box &a, const Box &b) {
+  return a.left < b.right && b.left < a.right && a.bottom < b.top && b.bottom < a.top;
+}
+
+}  // namespace
+
+// --- the sheet --------------------------------------------------------------------------------
+
+Sheet::Sheet(std::string name, double width, double height, std::string title,
+             std::string description)
+    : name_(std::move(name)),
+      width_(width),
+      height_(height),
+      title_(std::move(title)),
+      description_(std::move(description)) {}
+
+void Sheet::text(Offset at, int side, const std::string &content, const char *colour, double size) {
+  const double width = width_of(content, size);
+  const double left = side > 0 ? at.x : side < 0 ? at.x - width : at.x - 0.5 * width;
+  labels_.push_back({{left, at.y - 0.4 * size, left + width, at.y + 0.4 * size}, content});
+  const char *anchor = side > 0 ? "start" : side < 0 ? "end" : "middle";
+  // The paper's colour around the letters keeps them legible on lines.
+  add("<text" + attribute("x", px(at.x)) + attribute("y", px(height_ - at.y + 0.35 * size)) +
+      attribute("text-anchor", anchor) + attribute("font-size", px(size)) +
+      attribute("fill", colour) + attribute("stroke", colours::paper) +
+      attribute("stroke-width", "3") + attribute("paint-order", "stroke") + '>' + escaped(content) +
+      "</text>\n");
+}
+
+void Sheet::caption(Offset at, const std::string &content) {
+  text(at, 0, content, colours::ink, 13);
+}
+
+void Sheet::check_labels() const {
+  std::string faults;
+  for (std::size_t i = 0; i < labels_.size(); ++i) {
+    const Box &room = labels_[i].room;
+    if (room.left < 2 || room.bottom < 2 || room.right > width_ - 2 || room.top > height_ - 2)
+      faults += "; '" + labels_[i].content + "' leaves the sheet";
+    for (std::size_t j = 0; j < i; ++j)
+      if (overlap(labels_[j].room, room))
+        faults += "; '" + labels_[j].content + "' and '" + labels_[i].content + "' overlap";
+  }
+  if (!faults.empty()) throw std::runtime_error("labels" + faults);
+}
+
+std::string Sheet::svg() const {
+  check_labels();
+  const std::string width = px(width_);
+  const std::string height = px(height_);
+  return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + attribute("width", width) +
+         attribute("height", height) + attribute("viewBox", "0 0 " + width + ' ' + height) +
+         attribute("role", "img") +
+         attribute("aria-labelledby", name_ + "-title " + name_ + "-desc") +
+         attribute("font-family", "system-ui, 'Segoe UI', Helvetica, Arial, sans-serif") +
+         ">\n<title" + attribute("id", name_ + "-title") + '>' + escaped(title_) +
+         "</title>\n<desc" + attribute("id", name_ + "-desc") + '>' + escaped(description_) +
+         "</desc>\n<rect" + attribute("width", width) + attribute("height", height) +
+         attribute("rx", "8") + attribute("fill", colours::paper) + "/>\n" + elements_ + "</svg>\n";
+}
+
+// --- views ------------------------------------------------------------------------------------
+
+View::View(Sheet &sheet, const Box &paper, const Box &world)
+    : sheet_(&sheet),
+      scale_(std::min((paper.right - paper.left) / (world.right - world.left),
+                      (paper.top - paper.bottom) / (world.top - world.bottom))),
+      middle_of_paper_{0.5 * (paper.left + paper.right), 0.5 * (paper.bottom + paper.top)},
+      middle_of_world_{0.5 * (world.left + world.right), 0.5 * (world.bottom + world.top)} {}
+
+Offset View::at(Point p) const {
+  return {middle_of_paper_.x + scale_ * (p.x - middle_of_world_.x),
+          middle_of_paper_.y + scale_ * (p.y - middle_of_world_.y)};
+}
+
+void View::stroke(Offset a, Offset b, const Pen &pen) {
+  const double height = sheet_->whole().top;
+  sheet_->add("<line" + attribute("x1", px(a.x)) + attribute("y1", px(height - a.y)) +
+              attribute("x2", px(b.x)) + attribute("y2", px(height - b.y)) + drawn_with(pen) +
+              "/>\n");
+}
+
+void View::line(Point a, Point b, const Pen &pen) { stroke(at(a), at(b), pen); }
+
+void View::long_line(Point a, Point b, double beyond, const Pen &pen) {
+  const auto further = static_cast<float>(beyond / scale_) * unit(b - a);
+  line(a - further, b + further, pen);
+}
+
+void View::head(Offset tip, Offset direction, const char *colour) {
+  const double size = std::hypot(direction.x, direction.y);
+  const Offset d{9 * direction.x / size, 9 * direction.y / size};
+  const double height = sheet_->whole().top;
+  const auto corner = [&](double back, double aside) {
+    return px(tip.x - back * d.x - aside * d.y) + ' ' +
+           px(height - (tip.y - back * d.y + aside * d.x));
+  };
+  sheet_->add(
+      "<path" +
+      attribute("d", 'M' + corner(0, 0) + " L" + corner(1, 0.38) + " L" + corner(1, -0.38) + " Z") +
+      attribute("fill", colour) + "/>\n");
+}
+
+void View::arrow(Point a, Point b, const Pen &pen) {
+  const Offset from = at(a);
+  const Offset to = at(b);
+  const double size = std::hypot(to.x - from.x, to.y - from.y);
+  const Offset d{(to.x - from.x) / size, (to.y - from.y) / size};
+  stroke(from, {to.x - 6 * d.x, to.y - 6 * d.y}, pen);  // the line ends within the head
+  head(to, d, pen.colour);
+}
+
+void View::path(const std::vector<Point> &points, const Pen &pen) {
+  for (std::size_t i = 1; i < points.size(); ++i) line(points[i - 1], points[i], pen);
+}
+
+void View::area(const std::vector<Outline> &rings, const char *fill, const Pen &pen) {
+  std::string d;
+  for (const Outline &ring : rings) {
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+      const Offset p = at(ring[i]);
+      d += (i == 0 ? "M" : " L") + px(p.x) + ' ' + px(sheet_->whole().top - p.y);
+    }
+    d += " Z ";
+  }
+  sheet_->add("<path" + attribute("d", d) + attribute("fill-rule", "evenodd") +
+              attribute("stroke-linejoin", "round") + drawn_with(pen, fill) + "/>\n");
+}
+
+void View::circle(Point centre, double radius, const Pen &pen, const char *fill) {
+  const Offset c = at(centre);
+  sheet_->add("<circle" + attribute("cx", px(c.x)) +
+              attribute("cy", px(sheet_->whole().top - c.y)) + attribute("r", px(pixels(radius))) +
+              drawn_with(pen, fill) + "/>\n");
+}
+
+namespace {
+
+// An arc of a path, as far as the path's command.
+std::string arc_path(Offset centre, double radius, double from, double to, double height) {
+  const auto point = [&](double angle) {
+    return px(centre.x + radius * std::cos(angle)) + ' ' +
+           px(height - (centre.y + radius * std::sin(angle)));
+  };
+  const std::string r = px(radius);
+  return 'M' + point(from) + " A" + r + ' ' + r + " 0 " + (std::fabs(to - from) > pi ? "1" : "0") +
+         (to > from ? " 0 " : " 1 ") + point(to);
+}
+
+}  // namespace
+
+void View::arc(Point centre, double radius, double from, double to, const Pen &pen) {
+  sheet_->add("<path" +
+              attribute("d", arc_path(at(centre), pixels(radius), from, to, sheet_->whole().top)) +
+              drawn_with(pen) + "/>\n");
+}
+
+void View::segment(Point centre, double radius, double from, double to, const char *fill) {
+  sheet_->add(
+      "<path" +
+      attribute("d", arc_path(at(centre), pixels(radius), from, to, sheet_->whole().top) + " Z") +
+      drawn_with(pens::outline, fill) + "/>\n");
+}
+
+void View::turn(Point centre, double radius, double from, double to, const Pen &pen) {
+  const Offset c = at(centre);
+  const double sense = to > from ? 1 : -1;
+  const double short_of_it = to - sense * 5 / radius;
+  sheet_->add("<path" +
+              attribute("d", arc_path(c, radius, from, short_of_it, sheet_->whole().top)) +
+              drawn_with(pen) + "/>\n");
+  // The head is straight and the arc is not: it points where the arc is half a head before its end.
+  const double bent = to - sense * 4.5 / radius;
+  head({c.x + radius * std::cos(to), c.y + radius * std::sin(to)},
+       {-sense * std::sin(bent), sense * std::cos(bent)}, pen.colour);
+}
+
+void View::dot(Point p, const char *colour) {
+  const Offset c = at(p);
+  sheet_->add("<circle" + attribute("cx", px(c.x)) +
+              attribute("cy", px(sheet_->whole().top - c.y)) + attribute("r", "3.2") +
+              attribute("fill", colour) + "/>\n");
+}
+
+void View::right_angle(Point corner, Point along, Point across) {
+  const auto size = static_cast<float>(10 / scale_);
+  const Point u = size * unit(along - corner);
+  const Point v = size * unit(across - corner);
+  path({corner + u, corner + u + v, corner + v}, pens::thin);
+}
+
+void View::axes(Point origin, double length, const char *x, const char *y) {
+  const auto reach = static_cast<float>(length / scale_);
+  const Point to_x = origin + Point{reach, 0};
+  const Point to_y = origin + Point{0, reach};
+  arrow(origin, to_x, pens::thin);
+  arrow(origin, to_y, pens::thin);
+  label(to_x, x, {6, 0}, colours::grey);
+  label(to_y, y, {0, 9}, colours::grey);
+}
+
+void View::label(Point p, const std::string &text, Offset offset, const char *colour, double size) {
+  const Offset c = at(p);
+  const int side = offset.x > 2 ? 1 : offset.x < -2 ? -1 : 0;
+  sheet_->text({c.x + offset.x, c.y + offset.y}, side, text, colour, size);
+}
+
+void View::number(Point before, Point vertex, Point after, int number) {
+  const Point in = unit(vertex - before);
+  const Point out = unit(after - vertex);
+  const Point outwards = unit(Point{in.y + out.y, -in.x - out.x});
+  const Offset c = at(vertex);
+  const std::string digits = std::to_string(number);
+  const double reach = 7 + 0.3 * width_of(digits, number_size);
+  sheet_->text({c.x + reach * 1.2 * outwards.x, c.y + reach * outwards.y * 1.2}, 0, digits,
+               colours::green, number_size);
+}
+
+// --- dimension lines ----------------------------------------------------------------------------
+
+void View::tick(Offset c) { stroke({c.x - 4, c.y - 4}, {c.x + 4, c.y + 4}, {colours::blue, 1.6}); }
+
+void View::across(Point a, Point b, double above, const std::string &letter, Letter place) {
+  const Offset left = a.x < b.x ? at(a) : at(b);
+  const Offset right = a.x < b.x ? at(b) : at(a);
+  const double y = at(a).y + above;
+  for (const Offset &end : {left, right}) {
+    const double beyond = y > end.y ? 6 : -6;
+    if (std::fabs(y - end.y) > 8)
+      stroke({end.x, end.y + beyond}, {end.x, y + beyond}, pens::dimension);
+    tick({end.x, y});
+  }
+  stroke({left.x - 8, y}, {right.x + 8, y}, pens::dimension);
+  if (place == Letter::between)
+    sheet_->text({0.5 * (left.x + right.x), y + 10}, 0, letter, colours::blue);
+  else if (place == Letter::behind)
+    sheet_->text({right.x + 12, y}, 1, letter, colours::blue);
+  else
+    sheet_->text({left.x - 12, y}, -1, letter, colours::blue);
+}
+
+void View::upright(Point a, Point b, double right, const std::string &letter, Letter place) {
+  const Offset low = a.y < b.y ? at(a) : at(b);
+  const Offset high = a.y < b.y ? at(b) : at(a);
+  const double x = at(a).x + right;
+  for (const Offset &end : {low, high}) {
+    const double beyond = x > end.x ? 6 : -6;
+    if (std::fabs(x - end.x) > 8)
+      stroke({end.x + beyond, end.y}, {x + beyond, end.y}, pens::dimension);
+    tick({x, end.y});
+  }
+  stroke({x, low.y - 8}, {x, high.y + 8}, pens::dimension);
+  if (place == Letter::between)
+    sheet_->text({x + 7, 0.5 * (low.y + high.y)}, 1, letter, colours::blue);
+  else
+    sheet_->text({x, place == Letter::behind ? high.y + 16 : low.y - 16}, 0, letter, colours::blue);
+}
+
+void View::along(Point a, Point b, double left, const std::string &letter) {
+  const Offset from = at(a);
+  const Offset to = at(b);
+  const double size = std::hypot(to.x - from.x, to.y - from.y);
+  const Offset d{(to.x - from.x) / size, (to.y - from.y) / size};
+  const double sense = left < 0 ? -1 : 1;
+  const auto moved = [&](Offset p, double forward, double aside) {
+    return Offset{p.x + forward * d.x - aside * d.y, p.y + forward * d.y + aside * d.x};
+  };
+  for (const Offset &end : {from, to}) {
+    if (std::fabs(left) > 8)
+      stroke(moved(end, 0, 5 * sense), moved(end, 0, left + 5 * sense), pens::dimension);
+    stroke(moved(end, -4, left - 4), moved(end, 4, left + 4), {colours::blue, 1.6});
+  }
+  stroke(moved(from, -8, left), moved(to, 8, left), pens::dimension);
+  const Offset middle{0.5 * (from.x + to.x), 0.5 * (from.y + to.y)};
+  sheet_->text(moved(middle, 0, left + 11 * sense), 0, letter, colours::blue);
+}
+
+}  // namespace figures

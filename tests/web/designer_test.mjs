@@ -1,0 +1,363 @@
+// The section designer in Chromium, against the command line.
+//
+//     (mkdir -p build/web-tests && cp tests/web/package.json build/web-tests/ &&
+//       cd build/web-tests && npm install --no-package-lock)
+//     node --test tests/web/designer_test.mjs
+import assert from 'node:assert/strict';
+import { execFileSync, spawnSync } from 'node:child_process';
+import { cpSync, readFileSync, statSync, writeFileSync } from 'node:fs';
+import { createRequire } from 'node:module';
+import { join } from 'node:path';
+import { after, before, test } from 'node:test';
+import { fileURLToPath, pathToFileURL } from 'node:url';
+
+const root = fileURLToPath(new URL('../..', import.meta.url));
+const work = join(root, 'build/web-tests/');
+const file = join(root, 'build/wasm/designer.html');
+const url = pathToFileURL(file).href;
+const { chromium } = createRequire(work)('playwright-core');
+
+const SECTIONS = [
+  'ia 400 310 150 22 11 8.5',
+  'h 400 300 200 20 15 10',
+  'i 400 300 200 20 15 10 8 6 20',
+  't 150 200 12 8',
+  'b 200.5 10',
+  'c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2',
+  'h1b 250 200 160 9 22 8 15',
+  'box 3000 2000 20 25 1500 12 1600',
+  'rhs 200 100 8',
+  'l 100 75 10 12',
+  'l2 90 120 10 9 11',
+  'tab 6000 100 100 1 1 1 20',
+  'h2b 400 300 500 12 14 10 20',
+  'rolled 300 150 7.1 10.7 15',
+  'b 1e-8 1e9',
+  'rhs 123456.7 9876.543 .1',
+];
+
+let browser, page;
+before(async () => {
+  const args = process.getuid() === 0 ? ['--no-sandbox'] : [];
+  browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args });
+  page = await open('');
+});
+after(() => browser?.close());
+
+async function open(link, options = {}) {
+  const opened = await browser.newPage(options);
+  opened.problems = [];
+  opened.on('pageerror', (error) => opened.problems.push(error.message));
+  opened.on('request', (request) => {
+    if (!request.url().startsWith(url)) opened.problems.push(request.url());
+  });
+  await opened.goto(url + link);
+  await opened.waitForFunction(() => performance.getEntriesByName('first picture').length > 0);
+  return opened;
+}
+
+const follow = (section) =>
+  page.evaluate(
+    (words) =>
+      new Promise((done) => {
+        window.addEventListener('hashchange', done, { once: true });
+        location.hash = `start/${Math.random()}`;
+      }).then(
+        () =>
+          new Promise((done) => {
+            window.addEventListener('hashchange', done, { once: true });
+            location.hash = words.join('/');
+          }),
+      ),
+    section.split(' '),
+  );
+
+async function taken(format, from = page) {
+  await from.selectOption('#format', format);
+  return from.locator('#text').textContent();
+}
+
+function commandLine(words, ...options) {
+  const program = join(root, 'build/native/bin/section_properties');
+  const { stdout, stderr } = spawnSync(program, [...words, ...options], { encoding: 'utf8' });
+  return { text: stdout, message: stderr.split('\n')[0].replace('section_properties: ', '') };
+}
+
+// The outline in the picture that is seen.
+const outline = () => page.locator('#picture path[fill-rule]').getAttribute('d');
+const field = (name) => page.locator(`#dimension-${name}`);
+const faultOf = (name) => page.locator(`#fault-${name}`).textContent();
+
+test('figures and picture are those of the command line, character by character', async () => {
+  const svg = join(work, 'section.svg');
+  for (const section of SECTIONS) {
+    await follow(section);
+    const { text } = commandLine(section.split(' '), '--json', '--svg', svg);
+    assert.equal(await taken('JSON'), text, section);
+    assert.equal(await taken('SVG'), readFileSync(svg, 'utf8'), section);
+    assert.ok((await taken('SVG')).includes(`"${await outline()}"`), section);
+  }
+});
+
+test('the table is that of the command line', async () => {
+  await follow('l 100 75 10 12');
+  const rows = await page
+    .locator('#rows tr')
+    .evaluateAll((all) =>
+      all.map((row) => [...row.cells].map((cell) => cell.textContent).join(' ')),
+    );
+  const remarks = await page.locator('#remarks').textContent();
+  const words = (text) => text.normalize('NFKD').split(/\s+/).join(' ').trim();
+  const [, , ...lines] = commandLine(['l', '100', '75', '10', '12']).text.split('\n');
+  assert.equal(words([...rows, remarks].join(' ')), words(lines.join(' ')));
+});
+
+test('all profiles of the command line can be chosen', async () => {
+  const list = commandLine(['--help']).text.split('Profiles and their dimensions:')[1];
+  const names = [...list.matchAll(/^ {2}(\w+) /gm)].map((match) => match[1]);
+  const chosen = await page
+    .locator('input[name=profile]')
+    .evaluateAll((all) => all.map((one) => one.value));
+  assert.deepEqual([...chosen, 'plates'], names);
+});
+
+test('a dimension that cannot be says why in the words of the command line', async () => {
+  await follow('rhs 100 200 8');
+  const seen = await outline();
+  const words = [
+    'abc',
+    '',
+    '-1',
+    '0',
+    '50',
+    '1e39',
+    '1e-60',
+    '0x10',
+    '+5',
+    ' 5',
+    '5 ',
+    '1,5,2',
+    '1.5,2',
+    '1e5,3',
+    'inf',
+    'nan',
+    '7e',
+    '1e-45',
+    '.',
+    'e5',
+  ];
+  for (const word of words) {
+    await field('T').fill(word);
+    assert.equal(await faultOf('T'), commandLine(['rhs', '100', '200', word]).message, word);
+    assert.notEqual(await faultOf('T'), '', word);
+    assert.equal(await field('T').getAttribute('aria-invalid'), 'true', word);
+    assert.equal(await outline(), seen, word);
+  }
+  for (const word of ['8,5', '.5', ',5', '5.', '1e1', '0.1E+2', '007', '3.00000001']) {
+    await field('T').fill(word);
+    assert.equal(await faultOf('T'), '', word);
+    assert.equal(await field('T').getAttribute('aria-invalid'), 'false', word);
+    assert.equal(
+      await taken('JSON'),
+      commandLine(['rhs', '100', '200', word], '--json').text,
+      word,
+    );
+  }
+});
+
+test('a fault stands beside the dimension that was changed', async () => {
+  await follow('ia 400 300 200 20 15 10');
+  await field('B1').fill('5');
+  assert.equal(await faultOf('B1'), commandLine('ia 400 5 200 20 15 10'.split(' ')).message);
+  assert.equal(await faultOf('TW'), '');
+  await page.waitForFunction(() =>
+    document.getElementById('told').textContent.includes('wider than a flange'),
+  );
+});
+
+test('a link brings another browser to the same section', async () => {
+  await follow('l2 90 120 10 9 11');
+  await field('G').fill('12,5');
+  await page.waitForFunction(() => location.hash === '#l2/90/120/12.5/9/11');
+  const other = await open(await page.evaluate(() => location.hash));
+  assert.equal(await taken('JSON', other), await taken('JSON'));
+  assert.deepEqual(other.problems, []);
+  await other.close();
+});
+
+test('a link to no section says so', async () => {
+  for (const words of [['rsh', '100', '200', '8'], ['rhs', '100', '200'], ['%']]) {
+    const other = await open(`#${words.join('/')}`);
+    assert.equal(await other.locator('#link-fault').textContent(), commandLine(words).message);
+    assert.match(await taken('command line', other), /^section_properties rolled /);
+    await other.close();
+  }
+  await follow('l2 90 120 10 9 130');
+  assert.equal(await faultOf('TV'), commandLine('l2 90 120 10 9 130'.split(' ')).message);
+});
+
+test('a slider changes its dimension, and reaches what was typed', async () => {
+  await follow('rolled 300 150 7.1 10.7 15');
+  await page.locator('#slider-H').fill('420');
+  assert.equal(await taken('command line'), 'section_properties rolled 420 150 7.1 10.7 15\n');
+  await field('H').fill('1e39');
+  await field('H').fill('2000');
+  assert.equal(await page.locator('#slider-H').inputValue(), '2000');
+});
+
+test('the keyboard alone will do', async () => {
+  await follow('rolled 300 150 7.1 10.7 15');
+  await page.locator('input[value=rolled]').focus();
+  for (const next of ['dimension-H', 'slider-H', 'dimension-B', 'slider-B', 'dimension-TW']) {
+    await page.keyboard.press('Tab');
+    assert.equal(await page.evaluate(() => document.activeElement.id), next);
+  }
+  await page.keyboard.press('ArrowUp');
+  await page.keyboard.press('Shift+ArrowDown');
+  assert.equal(await field('TW').inputValue(), '6.2');
+  await page.keyboard.press('Tab');
+  await page.keyboard.press('ArrowRight');
+  assert.equal(await taken('command line'), 'section_properties rolled 300 150 6.3 10.7 15\n');
+  await page.locator('input[value=rolled]').focus();
+  await page.keyboard.press('ArrowLeft');
+  assert.match(await taken('command line'), /^section_properties h2b /);
+});
+
+test('every control has a name, and what changes is told', async () => {
+  await follow('rolled 300 150 7.1 10.7 15');
+  const unnamed = await page
+    .locator('input, select, button')
+    .evaluateAll(
+      (all) =>
+        all.filter(
+          (control) =>
+            !(
+              control.labels?.[0]?.innerText ||
+              control.getAttribute('aria-label') ||
+              control.innerText
+            ),
+        ).length,
+    );
+  assert.equal(unnamed, 0);
+  await page.waitForFunction(() =>
+    document.getElementById('told').textContent.startsWith('A 53.81201 cm²'),
+  );
+});
+
+test('no wider than a phone', async () => {
+  const phone = await open('', { viewport: { width: 390, height: 844 } });
+  for (const section of SECTIONS) {
+    await phone.evaluate((hash) => {
+      location.hash = hash;
+    }, section.split(' ').join('/'));
+    assert.equal(await phone.evaluate(() => document.documentElement.scrollWidth), 390, section);
+  }
+  await phone.close();
+});
+
+test('one small file, which asks for nothing', async () => {
+  assert.ok(statSync(file).size < 400e3, `${statSync(file).size} bytes`);
+  assert.equal(readFileSync(file, 'utf8').match(/\bhttps?:|\bsrc=|\burl\(/), null);
+  assert.deepEqual(page.problems, []);
+});
+
+// One load of some: what else the machine does meanwhile does not count.
+test('the first picture is there within 100 ms', async () => {
+  const times = [];
+  do {
+    const other = await open('');
+    times.push(
+      await other.evaluate(() => performance.getEntriesByName('first picture')[0].duration),
+    );
+    await other.close();
+  } while (times.at(-1) > 100 && times.length < 10);
+  assert.ok(times.at(-1) <= 100, `${times} ms`);
+});
+
+// Programs that print A, xs, ys, Ix and Iy.
+const HOSTS = {
+  C: [
+    'section.c',
+    'gcc -std=c11 -Wall -Wextra -Wpedantic -Werror -Iinclude',
+    '-Lbuild/native/lib -ltrelvin',
+  ],
+  Fortran: [
+    'section.f90',
+    `gfortran -Werror -J${work} bindings/fortran/trelvin.F90`,
+    '-Lbuild/native/lib -ltrelvin',
+  ],
+  Pascal: ['section.pas', `fpc -v0w -Sew -Fubindings/pascal -Flbuild/native/lib -FU${work}`, ''],
+  'C#': ['section.cs', 'mcs -warnaserror bindings/csharp/Trelvin.cs', ''],
+  Python: ['section.py', '', ''],
+};
+const START = { 'C#': ['mono'], Python: ['/usr/bin/python3'] };
+
+function printed(language, text) {
+  const [name, compiler, libraries] = HOSTS[language];
+  const source = join(work, name);
+  const program = language === 'Python' ? source : `${source}.exe`;
+  writeFileSync(source, text);
+  const output = { Pascal: [`-o${program}`], 'C#': [`-out:${program}`] }[language] ?? [
+    '-o',
+    program,
+  ];
+  const run = (command) =>
+    execFileSync(command[0], command.slice(1), {
+      cwd: root,
+      encoding: 'utf8',
+      stdio: ['ignore', 'pipe', 'pipe'],
+      env: {
+        ...process.env,
+        LD_LIBRARY_PATH: 'build/native/lib',
+        PYTHONPATH: work,
+      },
+    });
+  if (compiler)
+    run([...compiler.split(' '), source, ...output, ...libraries.split(' ').filter(Boolean)]);
+  return run([...(START[language] ?? []), program]);
+}
+
+// The Python package as it would be installed.
+before(() => {
+  const folder = join(work, 'trelvin');
+  cpSync(join(root, 'bindings/python/trelvin'), folder, { recursive: true });
+  cpSync(join(root, 'build/native/lib/libtrelvin.so'), join(folder, 'libtrelvin.so'), {
+    dereference: true,
+  });
+  execFileSync('gcc', [
+    '-O2',
+    '-shared',
+    '-fPIC',
+    join(folder, '_loop.c'),
+    '-o',
+    join(folder, '_loop.so'),
+  ]);
+});
+
+for (const language of Object.keys(HOSTS)) {
+  test(`calls in ${language} give the figures`, async () => {
+    const some = ['rolled 300 150 7.1 10.7 15', 'h1b 250 200 160 9 22 8 15'];
+    for (const section of language === 'C' ? SECTIONS : some) {
+      await follow(section);
+      const figures = JSON.parse(await taken('JSON'));
+      const expected = [
+        figures.area,
+        figures.xs,
+        figures.ys,
+        figures.centroidal.Ix,
+        figures.centroidal.Iy,
+      ];
+      const lines = printed(language, await taken(`calls in ${language}`))
+        .trim()
+        .split('\n');
+      const values = lines.map((line) => Number(line.replace(/^\w+/, '').replace(/mm\d?$/, '')));
+      assert.equal(values.length, expected.length);
+      expected.forEach((value, i) => {
+        assert.ok(
+          Math.abs(values[i] - value) <= 2e-6 * Math.max(Math.abs(value), 1),
+          `${section}: ${lines[i]}, not ${value}`,
+        );
+      });
+    }
+  });
+}

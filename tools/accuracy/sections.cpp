@@ -1,0 +1,577 @@
+// Outlines, plates, channels, sections of thin plates.
+#include <trelvin/trelvin.h>
+
+#include "measure.h"
+
+namespace accuracy {
+namespace {
+
+// --- outlines -------------------------------------------------------------------------------------
+
+using Vertices = std::vector<V2>;
+
+// The worst vertex, each coordinate in its own units.
+template <class Routine, class... Dimensions>
+void compare_outline(Results &out, const Vertices &expected, Routine routine,
+                     Dimensions... dimensions) {
+  float X[32] = {}, Y[32] = {}, sign[4], z1[4], z2[4], z3[4], z4[4], z5[4], q1[4], q2[4];
+  std::int32_t np = 0, nv[4], code[4];
+  routine(dimensions..., 1.0F, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    out.add("X", X[i], expected[i].x);
+    out.add("Y", Y[i], expected[i].y);
+  }
+}
+
+void add_rectangle(Vertices *v, Exact left, Exact right, Exact top, Exact bottom) {
+  v->insert(v->end(), {{left, top}, {left, bottom}, {right, bottom}, {right, top}});
+}
+
+// Between two flanges of half widths b2 (top) and b1: from y2 down to y2 - t2, and so on.
+Vertices i_shape(Exact half, Exact b1, Exact b2, Exact t1, Exact t2, Exact left, Exact right) {
+  return {{-b2, half},        {-b2, half - t2},   {left, half - t2}, {left, t1 - half},
+          {-b1, t1 - half},   {-b1, -half},       {b1, -half},       {b1, t1 - half},
+          {right, t1 - half}, {right, half - t2}, {b2, half - t2},   {b2, half}};
+}
+
+// A plate on two legs joined by a bar, whose underside is at `bar`.
+Vertices on_legs(Exact half, Exact b, Exact t, Exact legs, Exact left, Exact right, Exact bar) {
+  return {{-b, half},    {-b, half - t},   {-legs, half - t}, {-legs, -half},
+          {left, -half}, {left, bar},      {right, bar},      {right, -half},
+          {legs, -half}, {legs, half - t}, {b, half - t},     {b, half}};
+}
+
+struct Sizes {
+  explicit Sizes(Draw &draw)
+      : H(draw.number(200, 900)),
+        B1(draw.number(150, 400)),
+        B2(draw.number(150, 400)),
+        T1(draw.number(8, 40)),
+        T2(draw.number(8, 40)),
+        TW(draw.number(5, 20)) {}
+  float H, B1, B2, T1, T2, TW;
+};
+
+void ia(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const Exact web = Exact(s.TW) / 2;
+  compare_outline(out,
+                  i_shape(Exact(s.H) / 2, Exact(s.B1) / 2, Exact(s.B2) / 2, s.T1, s.T2, -web, web),
+                  trvsec_ia, s.H, s.B1, s.B2, s.T1, s.T2, s.TW);
+}
+
+void h(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const Exact x = Exact(s.H) / 2, b1 = Exact(s.B1) / 2, b2 = Exact(s.B2) / 2, web = Exact(s.TW) / 2;
+  compare_outline(out,
+                  {{-x, b1},
+                   {-x, -b1},
+                   {s.T1 - x, -b1},
+                   {s.T1 - x, -web},
+                   {x - s.T2, -web},
+                   {x - s.T2, -b2},
+                   {x, -b2},
+                   {x, b2},
+                   {x - s.T2, b2},
+                   {x - s.T2, web},
+                   {s.T1 - x, web},
+                   {s.T1 - x, b1}},
+                  trvsec_h, s.H, s.B1, s.B2, s.T1, s.T2, s.TW);
+}
+
+void t(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const Exact y = Exact(s.H) / 2, b = Exact(s.B1) / 2, web = Exact(s.TW) / 2;
+  compare_outline(out,
+                  {{-b, y},
+                   {-b, y - s.T1},
+                   {-web, y - s.T1},
+                   {-web, -y},
+                   {web, -y},
+                   {web, y - s.T1},
+                   {b, y - s.T1},
+                   {b, y}},
+                  trvsec_t, s.B1, s.H, s.T1, s.TW);
+}
+
+void bar(Draw &draw, Results &out) {
+  const std::int32_t B = draw.integer(50, 500);
+  const float H = draw.number(5, 50);
+  Vertices v;
+  add_rectangle(&v, -Exact(B) / 2, Exact(B) / 2, Exact(H) / 2, -Exact(H) / 2);
+  compare_outline(out, v, trvsec_b, B, H);
+}
+
+void h1b(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const float W = draw.number(500, 700), D = draw.number(300, 450), TP = draw.number(10, 40);
+  const Exact half = (Exact(s.B1) + TP) / 2, under_plate = half - TP,
+              middle = under_plate - Exact(s.B1) / 2;
+  const Exact left = s.T1 - Exact(D) / 2, right = Exact(D) / 2 - s.T2, web = Exact(s.TW) / 2;
+  Vertices v = on_legs(half, Exact(W) / 2, TP, Exact(D) / 2, left, right, middle - web);
+  add_rectangle(&v, left, right, under_plate, middle + web);
+  compare_outline(out, v, trvsec_h1b, W, D, s.B1, s.T1, s.T2, s.TW, TP);
+}
+
+void box(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const float G = draw.number(80, 120);
+  const Exact half = Exact(s.H) / 2, inside = Exact(G) / 2;
+  Vertices v =
+      i_shape(half, Exact(s.B2) / 2, Exact(s.B1) / 2, s.T2, s.T1, -inside - s.TW, inside + s.TW);
+  add_rectangle(&v, -inside, inside, half - s.T1, s.T2 - half);
+  compare_outline(out, v, trvsec_box, s.B1, s.B2, s.T1, s.T2, s.H, s.TW, G);
+}
+
+void rhs(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const Exact x = Exact(s.B1) / 2, y = Exact(s.H) / 2;
+  Vertices v;
+  add_rectangle(&v, -x, x, y, -y);
+  add_rectangle(&v, s.TW - x, x - s.TW, y - s.TW, s.TW - y);
+  compare_outline(out, v, trvsec_rhs, s.B1, s.H, s.TW);
+}
+
+void l2(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const float G = draw.number(5, 20);
+  const Exact y = Exact(s.H) / 2, g = Exact(G) / 2, far_end = g + s.B1;
+  compare_outline(out,
+                  {{-far_end, y},
+                   {-far_end, y - s.T1},
+                   {-g - s.TW, y - s.T1},
+                   {-g - s.TW, -y},
+                   {-g, -y},
+                   {-g, y},
+                   {g, y},
+                   {g, -y},
+                   {g + s.TW, -y},
+                   {g + s.TW, y - s.T1},
+                   {far_end, y - s.T1},
+                   {far_end, y}},
+                  trvsec_l2, s.B1, s.H, G, s.T1, s.TW);
+}
+
+void tab(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const float B = draw.number(400, 600), E = draw.number(20, 80);
+  const Exact half = (Exact(s.H) + s.T1) / 2, legs = Exact(s.B1) / 2, inside = legs - s.TW;
+  Vertices v = on_legs(half, Exact(B) / 2, s.T1, legs, -inside, inside, E - half);
+  add_rectangle(&v, -inside, inside, half - s.T1, E - half + s.T2);
+  compare_outline(out, v, trvsec_tab, B, s.H, s.B1, E, s.T1, s.TW, s.T2);
+}
+
+void h2b(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const float B = draw.number(450, 600), TW2 = draw.number(5, 20), TF = draw.number(10, 40);
+  const Exact clear = Exact(s.H) / 2, half = clear + TF, web = Exact(s.B1) / 2,
+              mid = Exact(s.T1) / 2;
+  Vertices v = i_shape(half, Exact(B) / 2, Exact(B) / 2, TF, TF, -web, web);
+  add_rectangle(&v, s.TW - web, web - TW2, clear, mid);
+  add_rectangle(&v, s.TW - web, web - TW2, -mid, -clear);
+  compare_outline(out, v, trvsec_h2b, B, s.B1, s.H, s.TW, TW2, s.T1, TF);
+}
+
+void i(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const float S1 = draw.number(5, 20), S2 = draw.number(5, 20), E = draw.number(-40, 40);
+  const Exact y = Exact(s.H) / 2, b1 = Exact(s.B1) / 2, b2 = Exact(s.B2) / 2;
+  const Exact left = E - Exact(s.TW) / 2, right = E + Exact(s.TW) / 2, top = y - s.T2,
+              low = s.T1 - y;
+  compare_outline(out,
+                  {{-b2, y},
+                   {-b2, top},
+                   {left - S2, top},
+                   {left, top - S2},
+                   {left, low + S1},
+                   {left - S1, low},
+                   {-b1, low},
+                   {-b1, -y},
+                   {b1, -y},
+                   {b1, low},
+                   {right + S1, low},
+                   {right, low + S1},
+                   {right, top - S2},
+                   {right + S2, top},
+                   {b2, top},
+                   {b2, y}},
+                  trvsec_i, s.H, s.B1, s.B2, s.T1, s.T2, s.TW, S1, S2, E);
+}
+
+void c(Draw &draw, Results &out) {
+  const Sizes s(draw);
+  const float C1 = draw.number(50, 80), C2 = draw.number(50, 80), D1 = draw.number(40, 60),
+              D2 = draw.number(40, 60);
+  const float TC1 = draw.number(2, 8), TC2 = draw.number(2, 8), TD1 = draw.number(2, 8),
+              TD2 = draw.number(2, 8);
+  const Exact y = Exact(s.H) / 2, left = -Exact(s.B1 > s.B2 ? s.B1 : s.B2) / 2;
+  const Exact r1 = left + s.B1, r2 = left + s.B2;
+  compare_outline(out,
+                  {{left, -y},
+                   {r1, -y},
+                   {r1, C1 - y},
+                   {r1 - D1, C1 - y},
+                   {r1 - D1, C1 - TD1 - y},
+                   {r1 - TC1, C1 - TD1 - y},
+                   {r1 - TC1, s.T1 - y},
+                   {left + s.TW, s.T1 - y},
+                   {left + s.TW, y - s.T2},
+                   {r2 - TC2, y - s.T2},
+                   {r2 - TC2, y - C2 + TD2},
+                   {r2 - D2, y - C2 + TD2},
+                   {r2 - D2, y - C2},
+                   {r2, y - C2},
+                   {r2, y},
+                   {left, y}},
+                  trvsec_c, s.H, s.B1, s.B2, C1, C2, D1, D2, s.TW, s.T1, s.T2, TC1, TC2, TD1, TD2);
+}
+
+// --- plates -----------------------------------------------------------------------------------------
+
+// Decimal constants are meant as written.
+constexpr auto decimal = [](int numerator, int denominator) {
+  return Exact(numerator) / denominator;
+};
+
+Exact slenderness(Exact b, Exact t, Exact r1, Exact r2, Exact ks) {
+  return b / (r2 / r1 * decimal(284, 10) * square_root(ks) * t);
+}
+
+Exact reduction(Exact slender, Exact psi) {
+  if (slender <= decimal(5, 10) + square_root(decimal(85, 1000) - decimal(55, 1000) * psi))
+    return 1;
+  return lesser(1, (1 - decimal(55, 1000) * (3 + psi) / slender) / slender);
+}
+
+void reduction_factor(Draw &draw, Results &out) {
+  const float b = draw.number(200, 2000), t = draw.number(4, 12), r1 = draw.number(15, 22),
+              r2 = 15.329709F, psi = draw.number(-1, 1), ks = draw.number(4, 24);
+  float rho = 0;
+  trvro2(b, t, r1, r2, psi, ks, rho);
+  out.add("rho", rho, reduction(slenderness(b, t, r1, r2, ks), psi));
+}
+
+void edge_fold(Draw &draw, Results &out) {
+  const float bp = draw.number(100, 200), ratio = draw.number(0.1, 0.55), c = bp * ratio;
+  const float t = draw.number(0.7, 2), r1 = draw.number(15, 22), r2 = 15.329709F;
+  float ceff = 0;
+  trvefr(c, bp, t, r1, r2, ceff);
+  const Exact beyond = Exact(c) / bp - decimal(35, 100);
+  const Exact ks = decimal(1, 2) + (beyond > 0 ? square(beyond) / 3 : 0);
+  out.add("ceff", ceff, c * reduction(slenderness(c, t, r1, r2, ks), 1));
+}
+
+void effective_widths(Draw &draw, Results &out) {
+  const float bl = draw.number(200, 2000), t = draw.number(4, 12), r1 = draw.number(15, 22),
+              r2 = 15.329709F, s1 = draw.number(100, 300), s2 = s1 * draw.number(-2.5, 0.95);
+  const float w = s2 < 0 ? bl * s1 / (s1 - s2) : bl;
+  float be1 = 0, be2 = 0;
+  trvef2(bl, w, t, r1, r2, s1, s2, be1, be2);
+  const Exact psi = Exact(s2) / s1;
+  const Exact ks =
+      psi > 0    ? decimal(82, 10) / (decimal(105, 100) + psi)
+      : psi > -1 ? decimal(781, 100) - decimal(629, 100) * psi + decimal(978, 100) * square(psi)
+                 : decimal(598, 100) * square(1 - psi);
+  const Exact effective = reduction(slenderness(bl, t, r1, r2, ks), psi) * w;
+  const Exact first = psi > 0 ? 2 * effective / (5 - psi) : decimal(4, 10) * effective;
+  out.add("be1", be1, first);
+  out.add("be2", be2, effective - first);
+}
+
+// --- channels -----------------------------------------------------------------------------------------
+
+// A section of plates that follow each other, by Vlasov's theory of centre lines.
+struct Chain {
+  std::vector<V2> nodes;
+  std::vector<Exact> thickness;
+};
+
+struct ThinWalled {
+  Exact area = 0, xx = 0, yy = 0, xy = 0, torsion = 0, warping = 0;
+  V2 centroid, shear_centre;
+  Exact polar = 0;
+  std::vector<Exact> sectorial;  // at the nodes, normalised
+};
+
+// The integral over a plate of the product of two linear functions, by their values at its ends.
+Exact product(Exact area, Exact a1, Exact a2, Exact b1, Exact b2) {
+  return area / 6 * (2 * a1 * b1 + a1 * b2 + a2 * b1 + 2 * a2 * b2);
+}
+
+ThinWalled properties_of(const Chain &chain, bool rectangles) {
+  ThinWalled p;
+  const std::size_t n = chain.thickness.size();
+  const auto area = [&](std::size_t k) {
+    return chain.thickness[k] * length(chain.nodes[k + 1] - chain.nodes[k]);
+  };
+  for (std::size_t k = 0; k < n; ++k) {
+    p.area += area(k);
+    p.centroid = p.centroid + (area(k) / 2) * (chain.nodes[k] + chain.nodes[k + 1]);
+    p.torsion += area(k) * square(chain.thickness[k]) / 3;
+  }
+  p.centroid = (1 / p.area) * p.centroid;
+  std::vector<Exact> w = {0};  // sectorial coordinates about the centroid
+  Exact mean = 0, wx = 0, wy = 0, cx = 0, cy = 0, cxy = 0;
+  for (std::size_t k = 0; k < n; ++k) {
+    const V2 a = chain.nodes[k] - p.centroid, b = chain.nodes[k + 1] - p.centroid;
+    w.push_back(w[k] + cross(a, b));
+    mean += area(k) * (w[k] + w[k + 1]) / 2;
+    cx += product(area(k), a.y, b.y, a.y, b.y);
+    cy += product(area(k), a.x, b.x, a.x, b.x);
+    cxy += product(area(k), a.x, b.x, a.y, b.y);
+    wx += product(area(k), w[k], w[k + 1], a.x, b.x);
+    wy += product(area(k), w[k], w[k + 1], a.y, b.y);
+    if (rectangles) {
+      const V2 u = unit(b - a);
+      const Exact own = area(k) * square(chain.thickness[k]) / 12;
+      p.xx += own * square(u.x), p.yy += own * square(u.y), p.xy -= own * u.x * u.y;
+    }
+  }
+  p.xx += cx, p.yy += cy, p.xy += cxy;
+  const Exact det = cx * cy - cxy * cxy;
+  const V2 s{(wy * cy - wx * cxy) / det, (wy * cxy - wx * cx) / det};
+  p.shear_centre = p.centroid + s;
+  for (std::size_t k = 0; k <= n; ++k)  // now about the shear centre
+    p.sectorial.push_back(w[k] - mean / p.area - cross(s, chain.nodes[k] - p.centroid));
+  for (std::size_t k = 0; k < n; ++k) {
+    const Exact w1 = p.sectorial[k], w2 = p.sectorial[k + 1];
+    p.warping += product(area(k), w1, w2, w1, w2);
+  }
+  p.polar = square_root(dot(s, s) + (p.xx + p.yy) / p.area);
+  return p;
+}
+
+struct Channel {
+  float B, H, C, t;
+  [[nodiscard]] ThinWalled properties() const {
+    const Exact b = Exact(B) - t, half = (Exact(H) - t) / 2, lip = Exact(C) - Exact(t) / 2;
+    return properties_of(
+        {{{b, half - lip}, {b, half}, {0, half}, {0, -half}, {b, -half}, {b, lip - half}},
+         {t, t, t, t, t}},
+        false);
+  }
+};
+
+Channel channel(Draw &draw) {
+  return {draw.number(40, 100), draw.number(100, 300), draw.number(10, 30), draw.number(1, 4)};
+}
+
+void channel_shear_centre(Draw &draw, Results &out) {
+  const Channel s = channel(draw);
+  float e0 = 0;
+  trvshc_c(s.B, s.H, s.C, s.t, e0);
+  const ThinWalled p = s.properties();
+  out.add("e0", e0, p.centroid.x - p.shear_centre.x);
+}
+
+void channel_warping(Draw &draw, Results &out) {
+  const Channel s = channel(draw);
+  float iw = 0;
+  trvwar_c(s.B, s.H, s.C, s.t, iw);
+  out.add("Iw", iw, s.properties().warping);
+}
+
+// --- thin plates ------------------------------------------------------------------------------------
+
+struct Written {
+  float A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt,
+      xm, ym, Iw, r0;
+};
+
+// What lies above a level, of plates as rectangles. With x and y exchanged, what lies to the right.
+struct Above {
+  Exact area = 0, moment = 0;
+};
+
+using Rectangle = std::array<V2, 4>;
+
+std::vector<Rectangle> rectangles_of(const Chain &chain) {
+  std::vector<Rectangle> all;
+  for (std::size_t k = 0; k < chain.thickness.size(); ++k) {
+    const V2 a = chain.nodes[k], b = chain.nodes[k + 1];
+    const V2 half = (chain.thickness[k] / 2) * unit(left_of(b - a));
+    all.push_back({a - half, b - half, b + half, a + half});
+  }
+  return all;
+}
+
+Above above(const std::vector<Rectangle> &rectangles, Exact level) {
+  Above sum;
+  for (const Rectangle &r : rectangles) {
+    std::vector<V2> part;
+    for (std::size_t i = 0; i < 4; ++i) {
+      const V2 p = r[i], q = r[(i + 1) % 4];
+      if (p.y >= level) part.push_back(p);
+      if ((p.y < level) != (q.y < level))
+        part.push_back(p + ((level - p.y) / (q.y - p.y)) * (q - p));
+    }
+    Exact area = 0, moment = 0;
+    for (std::size_t i = 0; i < part.size(); ++i) {
+      const V2 p = part[i], q = part[(i + 1) % part.size()];
+      const Exact twice = cross(p - part[0], q - part[0]);
+      area += twice / 2;
+      moment += twice * (part[0].y + p.y + q.y - 3 * level) / 6;
+    }
+    sum.area += absolute(area);
+    sum.moment += absolute(moment);
+  }
+  return sum;
+}
+
+// The level with half of the area on either side, by false position.
+Exact halving_level(const std::vector<Rectangle> &rectangles, Exact low, Exact high) {
+  const Exact half = above(rectangles, low).area / 2;
+  Exact at_low = half, at_high = -half, level = low;
+  for (int i = 0; i < 200 && at_low != at_high; ++i) {
+    level = (low * at_high - high * at_low) / (at_high - at_low);
+    const Exact rest = above(rectangles, level).area - half;
+    if (absolute(rest) <= half / 1e25) break;
+    if (rest > 0) {
+      low = level, at_low = rest, at_high /= 2;  // so that the other end moves as well
+    } else {
+      high = level, at_high = rest, at_low /= 2;
+    }
+  }
+  return level;
+}
+
+struct Moduli {
+  Exact top, bottom, plastic, level;
+};
+
+Moduli moduli_of(const std::vector<Rectangle> &rectangles, Exact second_moment, Exact centroid) {
+  Exact low = rectangles[0][0].y, high = low;
+  for (const Rectangle &r : rectangles)
+    for (const V2 &corner : r) low = lesser(low, corner.y), high = greater(high, corner.y);
+  Moduli m;
+  m.top = second_moment / (high - centroid);
+  m.bottom = second_moment / (centroid - low);
+  m.level = halving_level(rectangles, low, high);
+  // The moments of both halves about the level: that of the lower one from that of the whole.
+  const Exact whole = above(rectangles, low).area * (centroid - m.level);
+  const Exact upper = above(rectangles, m.level).moment;
+  m.plastic = 2 * upper - whole;
+  return m;
+}
+
+void compare_moduli(Results &out, const Written &s, const Chain &chain, const ThinWalled &p) {
+  std::vector<Rectangle> rectangles = rectangles_of(chain);
+  const Moduli x = moduli_of(rectangles, p.xx, p.centroid.y);
+  for (Rectangle &r : rectangles)
+    for (V2 &corner : r) corner = {corner.y, corner.x};
+  const Moduli y = moduli_of(rectangles, p.yy, p.centroid.x);
+  out.add("Wx1", s.Wx1, x.top);
+  out.add("Wx2", s.Wx2, x.bottom);
+  out.add("Wy1", s.Wy1, y.top);
+  out.add("Wy2", s.Wy2, y.bottom);
+  out.add("Wpx", s.Wpx, x.plastic);
+  out.add("Wpy", s.Wpy, y.plastic);
+  out.add("xp yp", P2{s.xp, s.yp}, V2{y.level, x.level});
+  Exact thickest = 0;
+  for (const Exact t : chain.thickness) thickest = greater(thickest, t);
+  out.add("Wt", s.Wt, p.torsion / thickest);
+}
+
+void plates(Draw &draw, Results &out) {
+  constexpr std::size_t n = 5;
+  P2 node = draw.point();
+  float x1[n], y1[n], x2[n], y2[n], t[n], w1[n], w2[n];
+  Chain chain;
+  chain.nodes.push_back(node);
+  for (std::size_t k = 0; k < n; ++k) {  // onwards in x, so that no plate meets another
+    x1[k] = node.x, y1[k] = node.y;
+    node = Draw::from(node, {draw.number(20, 100), draw.number(-200, 200)});
+    x2[k] = node.x, y2[k] = node.y, t[k] = draw.number(2, 10);
+    chain.nodes.push_back(node);
+    chain.thickness.push_back(t[k]);
+  }
+  Written s{};
+  std::int32_t status = -2;
+  trvmxt(n, x1, y1, x2, y2, t, s.A, s.xs, s.ys, s.Ix, s.Iy, s.Ixy, s.I1, s.I2, s.alpha, s.rx, s.ry,
+         s.Wx1, s.Wx2, s.Wy1, s.Wy2, s.Wpx, s.Wpy, s.xp, s.yp, s.It, s.Wt, s.xm, s.ym, s.Iw, s.r0,
+         w1, w2, status);
+  if (status != 0) return;
+  const ThinWalled p = properties_of(chain, true);
+  out.add("A", s.A, p.area);
+  out.add("xs ys", P2{s.xs, s.ys}, p.centroid);
+  out.add("Ix", s.Ix, p.xx);
+  out.add("Iy", s.Iy, p.yy);
+  out.add("Ixy", s.Ixy, p.xy);
+  const Exact radius = square_root(square((p.xx - p.yy) / 2) + square(p.xy)),
+              mean = (p.xx + p.yy) / 2;
+  out.add("I1", s.I1, p.xx > p.yy ? mean + radius : mean - radius);
+  out.add("I2", s.I2, p.xx > p.yy ? mean - radius : mean + radius);
+  out.add("alpha", s.alpha, atanq(2 * p.xy / (p.yy - p.xx)) / 2);
+  out.add("rx", s.rx, square_root(p.xx / p.area));
+  out.add("ry", s.ry, square_root(p.yy / p.area));
+  out.add("It", s.It, p.torsion);
+  out.add("xm ym", P2{s.xm, s.ym}, p.shear_centre);
+  out.add("Iw", s.Iw, p.warping);
+  out.add("r0", s.r0, p.polar);
+  compare_moduli(out, s, chain, p);
+  out.add_all("W1", {w1, w1 + n}, {p.sectorial.begin(), p.sectorial.end() - 1});
+  out.add_all("W2", {w2, w2 + n}, {p.sectorial.begin() + 1, p.sectorial.end()});
+}
+
+// Saint-Venant's series, of a strip as thick as 1 and as wide as b: the part beyond the first terms,
+// where the hyperbolic tangent is 1, is that of the zeta function of 5.
+Exact torsion_factor(Exact b) {
+  const Exact zeta = strtoflt128("1.03692775514336992633136548645703416805708", nullptr);
+  Exact sum = 31 * zeta / 32;
+  for (int n = 1; n <= 31; n += 2)
+    sum -= (1 - tanhq(n * pi * b / 2)) / (square(square(Exact(n))) * n);
+  return b / 3 * (1 - 192 / (square(square(pi)) * pi * b) * sum);
+}
+
+// The greatest shear stress over that of an infinitely wide strip, likewise.
+Exact stress_factor(Exact b) {
+  Exact sum = 0;
+  for (int n = 1; n <= 63; n += 2) sum += 1 / (square(Exact(n)) * coshq(n * pi * b / 2));
+  return 1 - 8 / square(pi) * sum;
+}
+
+void flat_bar(Draw &draw, Results &out) {
+  const float B = draw.number(20, 200), H = draw.number(20, 200);
+  Written s{};
+  float w1[1], w2[1];
+  std::int32_t status = -2;
+  trvmxt_fb(B, H, s.A, s.xs, s.ys, s.Ix, s.Iy, s.Ixy, s.I1, s.I2, s.alpha, s.rx, s.ry, s.Wx1, s.Wx2,
+            s.Wy1, s.Wy2, s.Wpx, s.Wpy, s.xp, s.yp, s.It, s.Wt, s.xm, s.ym, s.Iw, s.r0, w1, w2,
+            status);
+  const Exact b = B, h = H, t = lesser(b, h);
+  out.add("A", s.A, b * h);
+  out.add("Ix", s.Ix, b * cube(h) / 12);
+  out.add("Iy", s.Iy, h * cube(b) / 12);
+  out.add("rx", s.rx, h / square_root(12));
+  out.add("Wx1", s.Wx1, b * square(h) / 6);
+  out.add("Wpx", s.Wpx, b * square(h) / 4);
+  out.add("Wy1", s.Wy1, h * square(b) / 6);
+  out.add("Wpy", s.Wpy, h * square(b) / 4);
+  const Exact ratio = greater(b, h) / t, torsion = torsion_factor(ratio) * square(square(t));
+  out.add("It", s.It, torsion);
+  out.add("Wt", s.Wt, torsion / (t * stress_factor(ratio)));
+  out.add("Iw", s.Iw, cube(b * h) / 144);
+  out.add("r0", s.r0, square_root((square(b) + square(h)) / 12));
+}
+
+}  // namespace
+
+std::vector<Measurement> section_measurements() {
+  const auto here = Measurement::origin_only;
+  const char *vertices = "differences of dimensions that are small beside them";
+  std::vector<Measurement> all = {{"trvro2", reduction_factor, "", here},
+                                  {"trvefr", edge_fold, "", here},
+                                  {"trvef2", effective_widths, "cancels in the slenderness", here}};
+  const std::vector<std::pair<const char *, Case>> outlines = {
+      {"trvsec_ia", ia},   {"trvsec_h", h},     {"trvsec_t", t},     {"trvsec_b", bar},
+      {"trvsec_h1b", h1b}, {"trvsec_box", box}, {"trvsec_rhs", rhs}, {"trvsec_l2", l2},
+      {"trvsec_tab", tab}, {"trvsec_h2b", h2b}, {"trvsec_i", i},     {"trvsec_c", c}};
+  for (const auto &[routine, run] : outlines) all.push_back({routine, run, vertices, here});
+  all.push_back({"trvshc_c", channel_shear_centre, "", here});
+  all.push_back({"trvwar_c", channel_warping, "the terms of the formula cancel", here});
+  all.push_back({"trvmxt", plates, ""});
+  all.push_back({"trvmxt_fb", flat_bar, "", here});
+  return all;
+}
+
+}  // namespace accuracy
