@@ -8,8 +8,10 @@ endif()
 set(exports src/entries/${dll}.def)
 configure_file(src/entries/version.rc.in version.rc @ONLY)
 target_sources(trelvin PRIVATE src/entries/library_entry.cpp ${CMAKE_CURRENT_BINARY_DIR}/version.rc)
-set_target_properties(trelvin PROPERTIES OUTPUT_NAME ${dll} PREFIX "" VERSION "" SOVERSION ""
-                                         IMPORT_PREFIX "lib")
+set_target_properties(trelvin PROPERTIES OUTPUT_NAME ${dll} PREFIX "" VERSION "" SOVERSION "")
+if(MINGW)
+  set_target_properties(trelvin PROPERTIES IMPORT_PREFIX "lib")
+endif()
 
 # What is linked against the library, by the names that compilers give to calls: on 32-bit Windows
 # those with the bytes of their arguments.

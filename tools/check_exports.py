@@ -22,7 +22,10 @@ import pefile  # noqa: E402
 from elftools.elf.elffile import ELFFile  # noqa: E402
 from elftools.elf.relocation import RelocationSection  # noqa: E402
 
-DLL = headers.ROOT / "build/windows/bin/Trelvin.dll"
+DLLS = (
+    headers.ROOT / "build/windows/bin/Trelvin.dll",
+    headers.ROOT / "build/windows64/bin/Trelvin64.dll",
+)
 SHARED_LIBRARY = headers.ROOT / "build/native/lib/libtrelvin.so"
 
 LARGEST_DLL = 200 * 1024
@@ -44,12 +47,20 @@ BIND_NOW = 8  # of DT_FLAGS
 ALLOWED_DEPENDENCIES = {"libc.so.6", "libm.so.6"}
 
 
-# --- Trelvin.dll ------------------------------------------------------------------------------
+# --- Trelvin.dll and Trelvin64.dll ------------------------------------------------------------
 
 
-def export_faults(dll, routines):
+def expected_ordinals(module, routines):
+    """The plain names have the same ordinals in both; 64-bit calls are not decorated."""
+    ordinals = entries.ordinals(routines, entries.committed_ordinals())
+    if module == "Trelvin64.dll":
+        return {routine.name: ordinals[routine.name] for routine in routines}
+    return ordinals
+
+
+def export_faults(dll, name_of_file, routines):
     found = {entry.name.decode(): entry for entry in dll.DIRECTORY_ENTRY_EXPORT.symbols}
-    expected = entries.ordinals(routines, entries.committed_ordinals())
+    expected = expected_ordinals(name_of_file, routines)
     for name in sorted(expected.keys() | found.keys()):
         ordinal = found[name].ordinal if name in found else None
         if ordinal != expected.get(name):
@@ -59,20 +70,20 @@ def export_faults(dll, routines):
         if len(pair) == 2 and pair[0] != pair[1]:
             yield f"{routine.name}: its two names lead to different addresses"
     module = dll.DIRECTORY_ENTRY_EXPORT.name.decode()
-    if module != "Trelvin.dll":
+    if module != name_of_file:
         yield f"the export directory names {module}"
 
 
-def import_faults(dll):
+def import_faults(dll, name_of_file):
     for library in dll.DIRECTORY_ENTRY_IMPORT:
         name = library.dll.decode()
         imported = {function.name.decode() for function in library.imports}
-        print(f"Trelvin.dll imports from {name}: {' '.join(sorted(imported))}")
+        print(f"{name_of_file} imports from {name}: {' '.join(sorted(imported))}")
         for function in sorted(imported - ALLOWED_IMPORTS.get(name, set())):
             yield f"imports {function} from {name}"
 
 
-def image_faults(dll):
+def image_faults(dll, file):
     for flag in ("DYNAMIC_BASE", "NX_COMPAT"):
         if not getattr(dll.OPTIONAL_HEADER, f"IMAGE_DLLCHARACTERISTICS_{flag}"):
             yield f"{flag} is not set"
@@ -80,11 +91,11 @@ def image_faults(dll):
         yield "no version resource"
     if hasattr(dll, "DIRECTORY_ENTRY_TLS"):
         yield "a directory of thread-local storage"
-    size = DLL.stat().st_size
-    print(f"Trelvin.dll has {size} bytes")
+    size = file.stat().st_size
+    print(f"{file.name} has {size} bytes")
     if size > LARGEST_DLL:
         yield f"{size} bytes, more than {LARGEST_DLL}"
-    yield from import_faults(dll)
+    yield from import_faults(dll, file.name)
 
 
 # --- libtrelvin.so ----------------------------------------------------------------------------
@@ -136,9 +147,10 @@ def image_faults_of_shared(library):
 
 
 def all_faults(routines):
-    dll = pefile.PE(str(DLL))
-    for check in (export_faults(dll, routines), image_faults(dll)):
-        yield from (f"Trelvin.dll: {fault}" for fault in check)
+    for file in DLLS:
+        dll = pefile.PE(str(file))
+        for check in (export_faults(dll, file.name, routines), image_faults(dll, file)):
+            yield from (f"{file.name}: {fault}" for fault in check)
     with open(SHARED_LIBRARY, "rb") as file:
         library = ELFFile(file)
         for check in (

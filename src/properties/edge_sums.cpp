@@ -19,7 +19,7 @@ const SumsByLanes &widest_sums() {
 
 }  // namespace
 
-const SumsByLanes baseline_sums = sums_by<Doubles2>;
+const SumsByLanes baseline_sums = sums_by<BaselineNumber>;
 
 AreaSum area_sum(const Real *x, const Real *y, Integer n) {
   if (n < edges_for_lanes) return sum_from_the_left<AreaSum>(x, y, n);

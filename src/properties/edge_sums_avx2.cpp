@@ -3,7 +3,7 @@
 
 namespace trelvin {
 
-#ifdef __AVX2__
+#if defined(__GNUC__) && defined(__AVX2__)
 const SumsByLanes *const avx2_sums = &sums_by<Doubles4>;
 #else
 const SumsByLanes *const avx2_sums = nullptr;

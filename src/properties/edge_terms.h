@@ -4,7 +4,7 @@
 // the linker can not take a function from the wrong one.
 #pragma once
 
-#if defined(__SSE2__)
+#if defined(__GNUC__) && defined(__SSE2__)
 #include <immintrin.h>
 #endif
 
@@ -15,12 +15,6 @@
 namespace trelvin {
 namespace {
 
-// Numbers on which arithmetic works element by element.
-using Doubles2 __attribute__((vector_size(16))) = double;
-#ifdef __AVX2__
-using Doubles4 __attribute__((vector_size(32))) = double;
-#endif
-
 // One number, or as many neighbours as fit.
 template <class Number>
 Number widened(const Real *first);
@@ -29,6 +23,13 @@ template <>
 [[maybe_unused]] inline double widened(const Real *first) {
   return *first;
 }
+
+// Numbers on which arithmetic works element by element. Microsoft's compiler has none: there each is
+// summed by itself, to the same bits.
+#ifdef __GNUC__
+using Doubles2 __attribute__((vector_size(16))) = double;
+using BaselineNumber = Doubles2;
+
 template <>
 [[maybe_unused]] inline Doubles2 widened(const Real *first) {
 #ifdef __SSE2__
@@ -39,10 +40,15 @@ template <>
 #endif
 }
 #ifdef __AVX2__
+using Doubles4 __attribute__((vector_size(32))) = double;
+
 template <>
 [[maybe_unused]] inline Doubles4 widened(const Real *first) {
   return _mm256_cvtps_pd(_mm_loadu_ps(first));
 }
+#endif
+#else
+using BaselineNumber = double;
 #endif
 
 // An edge, or neighbouring edges. Both ends are loaded and converted: to shuffle the second ends

@@ -5,7 +5,7 @@
 namespace trelvin {
 namespace {
 
-#ifdef __AVX2__
+#if defined(__GNUC__) && defined(__AVX2__)
 void turn_widely(Real *p, Real *q, Integer n, Real cosine, Real sine) {
   for (Integer i = 0; i < n; ++i) {
     const Real old_p = p[i];
@@ -18,7 +18,7 @@ void turn_widely(Real *p, Real *q, Integer n, Real cosine, Real sine) {
 
 }  // namespace
 
-#ifdef __AVX2__
+#if defined(__GNUC__) && defined(__AVX2__)
 const WideTurn wide_turn = turn_widely;
 #else
 const WideTurn wide_turn = nullptr;

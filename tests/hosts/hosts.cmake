@@ -3,7 +3,9 @@
 add_library(callers OBJECT hosts/random_calls.cpp hosts/sequence_of_routines.cpp)
 target_include_directories(callers PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(callers PUBLIC Trelvin::trelvin PRIVATE trelvin_warnings)
-target_compile_options(callers PRIVATE -ffp-contract=off)  # the same arguments everywhere
+if(NOT MSVC)
+  target_compile_options(callers PRIVATE -ffp-contract=off)  # the same arguments everywhere
+endif()
 
 function(add_host name)  # NAME SOURCE... ; links what is named in `libraries`
   add_executable(${name} ${ARGN})
@@ -32,7 +34,7 @@ endforeach()
 # Flushed subnormals, each rounding, and unmasked exceptions without and with raised flags; the x87
 # unit, which carries results of functions in 32-bit programs, with 24 bits, each rounding, and
 # unmasked.
-if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i.86)$")
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i.86)$" AND NOT MSVC)
   add_host(states hosts/states.cpp hosts/foreign_call.cpp)
   set(states 9fc0:037f 3f80:037f 5f80:037f 7f80:037f 0000:037f 003f:037f)
   if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
@@ -49,7 +51,7 @@ endif()
 
 if(BUILD_SHARED_LIBS)
   set(libraries ${CMAKE_DL_LIBS})  # these know the library by name only
-  if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+  if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     add_host(dll_host hosts/dll_host.cpp)
     add_dependencies(dll_host trelvin)
     add_host_test(dll_host dll_host)

@@ -76,7 +76,11 @@ TEST(Merging, ListsAreSiftedWithAndWithoutMemory) {
       trvmer14(size_of(a), a.data(), size_of(b), b.data(), found, common.data());
       trvmer15(stay, left.data(), size_of(b), b.data(), removed);
     };
-    memory ? sift() : without_memory(sift);
+    if (memory) {
+      sift();
+    } else {
+      without_memory(sift);
+    }
     common.resize(static_cast<std::size_t>(found));
     left.resize(static_cast<std::size_t>(stay));
     EXPECT_TRUE(common == held && left == rest && removed == size_of(held)) << memory;

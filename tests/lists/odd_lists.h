@@ -2,6 +2,7 @@
 #pragma once
 
 #ifdef __linux__
+#include <sys/mman.h>
 #include <sys/resource.h>
 #endif
 
@@ -56,18 +57,24 @@ class OddLists {
   std::mt19937 random_{7};
 };
 
-// Runs `work` where nothing more can be allocated, as far as this machine can be told so.
+// Runs `work` where nothing more can be allocated, and tells whether that was so: Windows and the
+// emulators of other processors know no limit.
 template <class Work>
-void without_memory(Work work) {
+bool without_memory(Work work) {
 #ifdef __linux__
   rlimit before;
   getrlimit(RLIMIT_AS, &before);
   const rlimit nothing_more = {0, before.rlim_max};
   setrlimit(RLIMIT_AS, &nothing_more);
   work();
+  constexpr std::size_t much = 1U << 30;
+  void *more = mmap(nullptr, much, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  if (more != MAP_FAILED) munmap(more, much);
   setrlimit(RLIMIT_AS, &before);
+  return more == MAP_FAILED;
 #else
   work();
+  return false;
 #endif
 }
 

@@ -106,7 +106,6 @@ TEST(Ordering, ParallelLinesByTheirCrossingOfAnAxis) {
   EXPECT_TRUE(position == u && status == -1);
 }
 
-#ifdef __linux__
 TEST(Ordering, WithoutMemoryListsAreSortedAndThereIsNoOrder) {
   constexpr std::int32_t n = 100000;
   Reals reals(n), constants(n);
@@ -117,7 +116,7 @@ TEST(Ordering, WithoutMemoryListsAreSortedAndThereIsNoOrder) {
   Integers integers(reals.begin(), reals.end()), positions(n, u);
   const Reals zeros(n, 0), ones(n, 1);
   std::int32_t status = u;
-  without_memory([&] {
+  const bool none = without_memory([&] {
     trvord(reals.data(), n);
     trvord1(integers.data(), n);
     trvordi(constants.data(), n, positions.data());
@@ -125,10 +124,9 @@ TEST(Ordering, WithoutMemoryListsAreSortedAndThereIsNoOrder) {
   });
   EXPECT_TRUE(std::is_sorted(reals.begin(), reals.end()));
   EXPECT_TRUE(std::is_sorted(integers.begin(), integers.end()));
-  EXPECT_EQ(std::count(positions.begin(), positions.end(), u), n);
+  EXPECT_EQ(std::count(positions.begin(), positions.end(), u), none ? n : 0);
   EXPECT_EQ(status, 0);
 }
-#endif
 
 TEST(Ordering, CornersOfAQuadrilateral) {
   // In the vertical plane y = 2*x + 3: seen from above they are on one line.
