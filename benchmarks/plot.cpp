@@ -132,6 +132,10 @@ class Axes {
   double x_low_ = 1e9, x_high_ = -1e9, y_low_ = 1e9, y_high_ = -1e9;
 };
 
+std::string dash(const Series &series) {
+  return series.name == "Trelvin.dll" ? attribute("stroke-dasharray", "5 3") : "";
+}
+
 std::string curve(const Series &series, const Axes &axes, const std::string &stroke) {
   const bool own = series.name.rfind("Trelvin", 0) == 0;
   std::string points;
@@ -145,9 +149,8 @@ std::string curve(const Series &series, const Axes &axes, const std::string &str
             attribute("stroke", stroke) + attribute("fill", hollow ? "white" : stroke) + "/>\n";
   }
   return "<polyline" + attribute("fill", "none") + attribute("stroke", stroke) +
-         attribute("stroke-width", own ? 2.6 : 1.4) +
-         (series.name == "Trelvin.dll" ? attribute("stroke-dasharray", "5 3") : "") +
-         attribute("points", points) + "/>\n" + dots;
+         attribute("stroke-width", own ? 2.6 : 1.4) + dash(series) + attribute("points", points) +
+         "/>\n" + dots;
 }
 
 std::string panel_svg(const Panel &panel, std::vector<std::string> &known) {
@@ -159,14 +162,14 @@ std::string panel_svg(const Panel &panel, std::vector<std::string> &known) {
   double legend_y = 34;
   for (const Series &series : panel.series) {
     const std::string stroke = colour(series.name, known);
-    const double width = 26 + 6.6 * static_cast<double>(series.name.size());
+    const double width = 36 + 6.6 * static_cast<double>(series.name.size());
     if (legend_x + width > panel_width - right) {
       legend_x = left;
       legend_y += 14;
     }
-    svg += line(legend_x, legend_y - 4, legend_x + 12, legend_y - 4,
-                attribute("stroke-width", 3) + attribute("stroke", stroke));
-    svg += text(legend_x + 15, legend_y, series.name);
+    svg += line(legend_x, legend_y - 4, legend_x + 22, legend_y - 4,
+                attribute("stroke-width", 3) + attribute("stroke", stroke) + dash(series));
+    svg += text(legend_x + 26, legend_y, series.name);
     legend_x += width;
     svg += curve(series, axes, stroke);
   }
@@ -185,11 +188,13 @@ std::string plot(const std::vector<Row> &rows, const std::vector<Row> &dll) {
 
   const auto lines = (panels.size() + columns - 1) / columns;
   const double height = 30 + panel_height * static_cast<double>(lines);
-  std::string svg = "<svg" + attribute("xmlns", "http://www.w3.org/2000/svg") +
-                    attribute("width", columns * panel_width) + attribute("height", height) +
-                    attribute("font-family", "sans-serif") + attribute("font-size", 11) +
-                    attribute("fill", "#1d2733") + ">\n<rect" + attribute("width", "100%") +
-                    attribute("height", "100%") + attribute("fill", "white") + "/>\n";
+  std::string svg =
+      "<svg" + attribute("xmlns", "http://www.w3.org/2000/svg") +
+      attribute("width", columns * panel_width) + attribute("height", height) +
+      attribute("viewBox", "0 0 " + number(columns * panel_width) + ' ' + number(height)) +
+      attribute("font-family", "sans-serif") + attribute("font-size", 11) +
+      attribute("fill", "#1d2733") + ">\n<rect" + attribute("width", "100%") +
+      attribute("height", "100%") + attribute("fill", "white") + "/>\n";
   svg +=
       text(left, 20, "Nanoseconds an item against the number of items", attribute("font-size", 14));
   std::vector<std::string> known;
