@@ -27,9 +27,12 @@ SET = re.compile(r"set (\w+)(\[\d+\]) = (.+)$")
 PRINT = re.compile(r"print ([^:]+): ([^.]+?)(?: \.([1-9])(?: (.+))?)?$")
 NAME = re.compile(r"[A-Za-z_]\w*")
 WORDS_OF_LANGUAGES = set(  # that a variable may not be called in one of them
-    "and array as begin case const dim div do double else end false float for function goto if in "
-    "integer is left len let long loop mod next not null of on or out params program real record "
-    "ref right single step string sub then this to true type unit until uses var while with".split()
+    "and arguments array as await begin break case catch class const continue debugger default "
+    "delete dim div do double else end enum eval export extends false finally float for function "
+    "goto if implements import in instanceof integer interface is left len let long loop mod new "
+    "next not null of on or out package params private program protected public real record ref "
+    "return right single static step string sub super switch then this throw to true try type "
+    "typeof unit until uses var void while with yield".split()
 )
 
 

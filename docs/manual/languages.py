@@ -1,11 +1,12 @@
 """Writes the program of a task in each language."""
 
-import ast
 import re
-from functools import lru_cache
+from functools import partial
 
 import bindings_facts
+import bindings_python
 import headers
+from calls import NAME
 
 WIDTH = 82  # of a line, so that it fits beside the table of contents
 LABEL = 17  # columns of a printed line: its label, then its values
@@ -356,76 +357,35 @@ class Basic(Language):
         return [line + " & _" for line in lines[:-1]] + lines[-1:]
 
 
-@lru_cache(maxsize=None)
-def _python_routines():
-    """Of every function of the package: parameters, optional ones, fields of its result."""
-    source = headers.ROOT / "bindings/python/trelvin/_routines.py"
-    fields, functions = {}, {}
-    for node in ast.parse(source.read_text()).body:
-        if isinstance(node, ast.ClassDef):
-            fields[node.name] = [s.target.id for s in node.body if isinstance(s, ast.AnnAssign)]
-        if isinstance(node, ast.FunctionDef):
-            result = fields.get(node.returns.id, []) if isinstance(node.returns, ast.Name) else []
-            optional = [a.arg for a in node.args.kwonlyargs]
-            functions[node.name] = [a.arg for a in node.args.args], optional, result
-    return functions
+class Returning(Language):
+    """What languages have in common whose functions return what a routine writes.
 
+    Numbers of elements that the arrays tell are not passed, and not declared where nothing else
+    reads them.
+    """
 
-class Python(Language):
-    name, suffix, lexer = "Python", "py", "python"
-    comment = "# "
     indent = ""
+    function_of = staticmethod(bindings_python.Routine)  # a routine
 
-    def program(self, task):
-        text = super().program(task)
-        for v in task.variables.values():  # counts that the arrays tell are not needed
-            code = re.sub(r"#.*|(?<=print\(f)\"[^{]*", "", text)
-            used = len(re.findall(rf"\b{v.name}\b", code))
-            if used == 1 and v.is_declared and v.values:
-                text = re.sub(rf"^{v.name} = .*\n", "", text, flags=re.M)
-        root = "from math import sqrt\n\n" if "sqrt(" in text else ""
-        return f"{root}import trelvin\n\n{text}".replace("\n\n\n", "\n\n")
+    def facts(self, step):
+        """The function that is called, and by its arguments' names the variables."""
+        function = self.function_of(step.routine)
+        return function, dict(zip([a.name for a in function.arguments], step.arguments))
 
-    def singles(self, variables):
-        return [f"{v.name} = {self.value(v)}" for v in variables]
+    def inputs(self, task, step):
+        """The variables that are passed by their place, and those that are by a name."""
+        function, names = self.facts(step)
+        positional = [names[a.name] for a in function.inputs if not a.lengths_of]
+        return positional, {a.name: names[a.name] for a in function.inputs
+                            if a.lengths_of and not self._told(task, names, a.name)}
 
-    def array(self, v):
-        return [f"{v.name} = [{', '.join(v.values)}]"] if v.values else []
-
-    def appearing(self, variables):
-        return []
-
-    def assign(self, name, expression):
-        return f"{name} = {expression}"
-
-    def let(self, v, expression):
-        return self.assign(v.name, expression)
-
-    def call(self, task, step):
-        positional, optional, fields = _python_routines()[step.routine.name]
-        names = dict(zip([a.name for a in step.routine.arguments], step.arguments))
-        passed = [names[p.rstrip("_")] for p in positional]
-        counts = [p for p in optional if p in names and not self._told(task, names, p)]
-        passed += [f"{count}={names[count]}" for count in counts]
-        wanted = [f for f in fields if self._wanted(task, step, f.rstrip("_"), names)]
-        start = f"trelvin.{step.routine.name}("
-        if not fields:
-            outputs = [names[a.name] for a in step.routine.arguments if a.is_written]
-            return self._lines(f"{outputs[0]} = {start}", passed, ")")
-        targets = [names[f.rstrip("_")] if f in wanted else "_" for f in fields]
-        if len(wanted) == 1:
-            target = names[wanted[0].rstrip("_")]
-            return self._lines(f"{target} = {start}", passed, f").{wanted[0]}")
-        if targets.count("_") > 3:
-            values = [f"result.{f}" for f in wanted]
-            chosen = ", ".join(t for t in targets if t != "_")
-            return self._lines(f"result = {start}", passed, ")") + \
-                wrap_list(values, f"{chosen} = (", "    ", ")")
-        return self._lines(f"{', '.join(targets)} = {start}", passed, ")")
-
-    @staticmethod
-    def _lines(start, passed, end):
-        return wrap_list(passed, start, "    ", end)
+    def targets(self, task, step):
+        """Of what is returned, what a later step reads: its name there, and the variable."""
+        function, names = self.facts(step)
+        spare = [a.is_array and SPARE in a.text for a in step.routine.arguments]
+        return {a.name: names[a.name] for a, is_spare in zip(function.arguments, spare)
+                if a.direction != "in" and task.is_used_behind(names[a.name], step)
+                and not is_spare}
 
     @staticmethod
     def _told(task, names, count):
@@ -435,11 +395,70 @@ class Python(Language):
         lengths = {len(a.values) for a in arrays if a.values}
         return not lengths or value and lengths == {int(value[0])}
 
+    def lines_of(self, task, step):
+        if step.kind != "declare":
+            return super().lines_of(task, step)
+        read = [v for v in step.new if any(v.name in self._read_by(task, s) for s in task.steps)]
+        return self.declaration(task, read) if read else []
+
+    def _read_by(self, task, step):
+        if step.kind == "call":
+            positional, counts = self.inputs(task, step)
+            return [*positional, *counts.values()]
+        texts = [] if step.kind == "comment" else [step.text, *step.values]
+        texts += [step.label] if step.kind == "set" else []
+        return [name for text in texts for name in NAME.findall(text)]
+
+    def array(self, v):
+        return [self.let(v, f"[{', '.join(v.values)}]")] if v.values else []
+
+    def appearing(self, variables):
+        return []
+
+
+class Python(Returning):
+    name, suffix, lexer = "Python", "py", "python"
+    comment = "# "
+
+    def program(self, task):
+        text = super().program(task)
+        root = "from math import sqrt\n\n" if "sqrt(" in text else ""
+        return f"{root}import trelvin\n\n{text}".replace("\n\n\n", "\n\n")
+
+    def declaration(self, task, variables):
+        return self.declare(variables)
+
+    def singles(self, variables):
+        return [f"{v.name} = {self.value(v)}" for v in variables]
+
+    def assign(self, name, expression):
+        return f"{name} = {expression}"
+
+    def let(self, v, expression):
+        return self.assign(v.name, expression)
+
+    def call(self, task, step):
+        function, names = self.facts(step)
+        passed, counts = self.inputs(task, step)
+        passed += [f"{count}={name}" for count, name in counts.items()]
+        wanted = self.targets(task, step)
+        fields = [a.name for a in function.written]
+        start = f"trelvin.{function.name}("
+        if len(fields) == 1:
+            return self._lines(f"{names[fields[0]]} = {start}", passed, ")")
+        if len(wanted) == 1:
+            [(field, target)] = wanted.items()
+            return self._lines(f"{target} = {start}", passed, f").{field}")
+        if len(fields) - len(wanted) > 3:
+            values = [f"result.{f}" for f in wanted]
+            return self._lines(f"result = {start}", passed, ")") + \
+                wrap_list(values, f"{', '.join(wanted.values())} = (", "    ", ")")
+        targets = [wanted.get(f, "_") for f in fields]
+        return self._lines(f"{', '.join(targets)} = {start}", passed, ")")
+
     @staticmethod
-    def _wanted(task, step, argument, names):
-        description = next(a for a in step.routine.arguments if a.name == argument)
-        spare = SPARE in description.text
-        return task.is_used_behind(names[argument], step) and not (description.is_array and spare)
+    def _lines(start, passed, end):
+        return wrap_list(passed, start, "    ", end)
 
     def show(self, step):
         form = f"{VALUE}" if step.decimals is None else f"{VALUE}.{step.decimals}f"
@@ -447,4 +466,70 @@ class Python(Language):
         return f'print(f"{self.label(step)}{values}{self.unit(step)}")'
 
 
-ALL = [C(), Cpp(), Python(), Fortran(), Pascal(), CSharp(), Basic()]
+class JavaScript(Returning):
+    name, suffix, lexer = "JavaScript", "mjs", "javascript"
+    head = ['import * as trelvin from "trelvin";', ""]
+    square_root = "Math.sqrt"
+    function_of = staticmethod(partial(bindings_python.Routine, named=str))
+
+    def declaration(self, task, variables):
+        if variables[0].is_array:
+            word = self._word(task, [variables[0].name])
+            return [f"{word} {line}" for line in self.array(variables[0])]
+        lines = []
+        for word in ("const", "let"):
+            some = [f"{v.name} = {self.value(v)}" for v in variables
+                    if self._word(task, [v.name]) == word]
+            lines += wrap_list(some, word, "  ", ";") if some else []
+        return lines
+
+    def lines_of(self, task, step):
+        lines = super().lines_of(task, step)
+        word = self._word(task, [step.new[0].name]) if step.kind == "let" else ""
+        return [f"{word} {lines[0]}"] if word else lines
+
+    def let(self, v, expression):
+        return self.assign(v.name, expression)
+
+    def _binding(self, task, name):
+        """The steps that bind a variable: the first declares it, others assign to it."""
+        v = task.variables[name]
+        return [s for s in task.steps if s.kind == "let" and v in s.new
+                or s.kind == "declare" and v in s.new and v.values
+                or s.kind == "call" and name in self.targets(task, s).values()]
+
+    def _word(self, task, names):
+        return "const" if all(len(self._binding(task, name)) == 1 for name in names) else "let"
+
+    def call(self, task, step):
+        passed, counts = self.inputs(task, step)
+        passed += [f"{{ {', '.join(map(self._pair, counts.items()))} }}"] if counts else []
+        targets = self.targets(task, step)
+        start, end = f"trelvin.{step.routine.name}(", ");"
+        if not targets:
+            return wrap_list(passed, start, "  ", end)
+        names = list(targets.values())
+        new = [name for name in names if self._binding(task, name)[0] is step]
+        lines = [f"let {', '.join(new)};"] if new and new != names else []
+        word = f"{self._word(task, names)} " if new == names else ""
+        [(field, target), *others] = targets.items()
+        if not others and (not word or field != target):
+            return wrap_list(passed, f"{word}{target} = {start}", "  ", f").{field};")
+        opened, end = (f"{word}{{", end) if word else ("({", "));")
+        lines += wrap_list(list(map(self._pair, targets.items())), opened, "  ", f" }} = {start}")
+        return lines[:-1] + wrap_list(passed, lines[-1], "  ", end)
+
+    @staticmethod
+    def _pair(item):
+        return item[0] if item[0] == item[1] else ": ".join(item)
+
+    def show(self, step):
+        values = [self.element(value) for value in step.values]  # joined by a blank
+        values = [f"String({v})" if step.decimals is None else f"{v}.toFixed({step.decimals})"
+                  for v in values]
+        pieces = [f'"{self.label(step)}"', *[f"{v}.padStart({VALUE - 1})" for v in values]]
+        pieces += [f'"{step.unit}"'] if step.unit else []
+        return wrap_list(pieces, "console.log(", "  ", ");")
+
+
+ALL = [C(), Cpp(), Python(), JavaScript(), Fortran(), Pascal(), CSharp(), Basic()]

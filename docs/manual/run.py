@@ -1,5 +1,6 @@
 """Compiles and runs the program of every task in every language and compares what they print."""
 
+import json
 import os
 import shutil
 import subprocess
@@ -18,7 +19,8 @@ class Failed(RuntimeError):
 
 
 def _command(words, folder):
-    environment = dict(os.environ, LD_LIBRARY_PATH=str(LIBRARY), PYTHONPATH=str(folder), LC_ALL="C")
+    environment = dict(os.environ, LD_LIBRARY_PATH=str(LIBRARY), PYTHONPATH=str(folder), LC_ALL="C",
+                       TRELVIN_LIBRARY=str(LIBRARY / "libtrelvin.so"))
     done = subprocess.run([str(word) for word in words], cwd=folder, env=environment, timeout=300,
                           capture_output=True, text=True)
     if done.returncode != 0:
@@ -50,8 +52,24 @@ def _prepare_python(folder):
               "-o", package / "_loop.so"], folder)
 
 
+def _prepare_javascript(folder):
+    """The package, with what it depends on; npm is asked where that is not there yet."""
+    package, modules = BINDINGS / "node", folder / "node_modules"
+    if not _has_dependencies(package, modules):
+        _command(["npm", "install", "--prefix", folder, "--no-package-lock", "--install-links",
+                  "--ignore-scripts", "--no-audit", "--no-fund", package], folder)
+    shutil.copytree(package, modules / "trelvin", dirs_exist_ok=True)
+
+
+def _has_dependencies(package, modules):
+    needed = json.loads((package / "package.json").read_text())["dependencies"]
+    files = {name: modules / name / "package.json" for name in needed}
+    return all(file.exists() and json.loads(file.read_text())["version"] == needed[name]
+               for name, file in files.items())
+
+
 PREPARE = {"Fortran": _prepare_fortran, "Pascal": _prepare_pascal, "C#": _prepare_csharp,
-           "Python": _prepare_python}
+           "Python": _prepare_python, "JavaScript": _prepare_javascript}
 
 # --- a program ----------------------------------------------------------------------------------
 
@@ -119,12 +137,21 @@ def _all_python(language, folder, tasks):
     return _split(_command(["/usr/bin/python3", "-c", loop, *files], folder), tasks)
 
 
+def _all_javascript(language, folder, tasks):
+    for task in tasks:
+        (folder / f"{task.name}.mjs").write_text(language.program(task))
+    loop = "for (const program of process.argv.slice(1)) {\n  await import(program);\n"
+    loop += f"  console.log({json.dumps(END[:-1])});\n}}"
+    files = [f"./{task.name}.mjs" for task in tasks]
+    return _split(_command(["node", "--input-type=module", "-e", loop, *files], folder), tasks)
+
+
 def _split(text, tasks):
     return dict(zip([task.name for task in tasks], text.split(END)))
 
 
 COLUMNS = {"C": _each, "C++": _each, "Fortran": _each, "Pascal": _each, "C#": _all_csharp,
-           "Python": _all_python}
+           "Python": _all_python, "JavaScript": _all_javascript}
 
 
 def _column(language, folder, tasks):

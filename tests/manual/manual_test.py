@@ -166,6 +166,15 @@ class Tasks(unittest.TestCase):
                          "trvrot two x y n a", "print x: x[1] .2")
         self.assertIn("\nx = trelvin.trvrot(two, x, y, a).x\n", languages.Python().program(task))
 
+    def test_javascript_binds_anew_what_it_can_and_passes_counts_that_arrays_do_not_tell(self):
+        task = self.read("real z = 0, one = 1", "reals x[2] = 1 5", "reals y[2] = 0 0",
+                         "reals w[2] = 0 0", "int n = 1", "real a = 1.5707963",
+                         "trvpra z z z z z one x y w n a done", "trvtra x y n z one",
+                         "print done: done", "print turned: x[1] y[1] .2", "print left: x[2] .1")
+        two = {language: run.COLUMNS[language] for language in ("C", "JavaScript")}
+        with mock.patch.dict(run.COLUMNS, two, clear=True):
+            run.run([task], ROOT / "build/manual/tasks")
+
     def test_elements_count_from_where_the_language_does(self):
         task = self.read("reals x[3] = 1 2 3", "print second: x[2] .1")
         for language in languages.ALL:

@@ -1,7 +1,7 @@
 // The section designer in Chromium, against the command line.
 //
 //     (mkdir -p build/web-tests && cp tests/web/package.json build/web-tests/ &&
-//       cd build/web-tests && npm install --no-package-lock)
+//       npm install --prefix build/web-tests --no-package-lock --install-links ./bindings/node)
 //     node --test tests/web/designer_test.mjs
 import assert from 'node:assert/strict';
 import { execFileSync, spawnSync } from 'node:child_process';
@@ -289,13 +289,14 @@ const HOSTS = {
   Pascal: ['section.pas', `fpc -v0w -Sew -Fubindings/pascal -Flbuild/native/lib -FU${work}`, ''],
   'C#': ['section.cs', 'mcs -warnaserror bindings/csharp/Trelvin.cs', ''],
   Python: ['section.py', '', ''],
+  JavaScript: ['section.mjs', '', ''],
 };
-const START = { 'C#': ['mono'], Python: ['/usr/bin/python3'] };
+const START = { 'C#': ['mono'], Python: ['/usr/bin/python3'], JavaScript: ['node'] };
 
 function printed(language, text) {
   const [name, compiler, libraries] = HOSTS[language];
   const source = join(work, name);
-  const program = language === 'Python' ? source : `${source}.exe`;
+  const program = compiler ? `${source}.exe` : source;
   writeFileSync(source, text);
   const output = { Pascal: [`-o${program}`], 'C#': [`-out:${program}`] }[language] ?? [
     '-o',
@@ -310,6 +311,7 @@ function printed(language, text) {
         ...process.env,
         LD_LIBRARY_PATH: 'build/native/lib',
         PYTHONPATH: work,
+        TRELVIN_LIBRARY: 'build/native/lib/libtrelvin.so',
       },
     });
   if (compiler)
@@ -333,6 +335,11 @@ before(() => {
     join(folder, '_loop.so'),
   ]);
 });
+
+// The package for Node.js as it is now: npm leaves one of the same version as it was.
+before(() =>
+  cpSync(join(root, 'bindings/node'), join(work, 'node_modules/trelvin'), { recursive: true }),
+);
 
 for (const language of Object.keys(HOSTS)) {
   test(`calls in ${language} give the figures`, async () => {

@@ -375,6 +375,42 @@ print(f"Ix {Ix - Sx * Sx / A:.7g} mm4")
 print(f"Iy {Iy - Sy * Sy / A:.7g} mm4")
 `;
   },
+
+  JavaScript: (s) => {
+    const call = () => `const ${listed(valuesOf(s), 2)};
+const outline = trelvin.trvsec_${s.profile}(${listed([...s.names, 'q'], 2)});
+for (let i = 0, from = 0; i < outline.np; from += outline.nv[i++]) {
+  const to = from + outline.nv[i];
+  add(outline.code[i], outline.sign[i], outline.X.slice(from, to), outline.Y.slice(from, to));
+}
+`;
+    const part = (p) => `add(${p.kind}, ${p.factor}, [${listed(p.x, 2)}],
+  [${listed(p.y, 2)}]);
+`;
+    return `// ${s.title}
+import * as trelvin from "trelvin";
+
+let [A, Sx, Sy, Ix, Iy] = [0, 0, 0, 0, 0];
+
+// A polygon is of kind 2, the segment of a circle of kind 4.
+function add(kind, factor, x, y) {
+  const first = trelvin.trvstm(x, y, kind, 0, factor, 0, 0);
+  const second = trelvin.trvinm(x, y, kind, 0, 0, factor, 0, 0, 0);
+  A += trelvin.trvair(x, y, kind, 0, factor, 0).area;
+  Sx += first.sx;
+  Sy += first.sy;
+  Ix += second.ix;
+  Iy += second.iy;
+}
+
+${s.isByParts ? s.parts.map(part).join('') : call()}
+console.log("A ", A.toPrecision(7), "mm2");
+console.log("xs", (Sy / A).toPrecision(7), "mm");
+console.log("ys", (Sx / A).toPrecision(7), "mm");
+console.log("Ix", (Ix - (Sx * Sx) / A).toPrecision(7), "mm4");
+console.log("Iy", (Iy - (Sy * Sy) / A).toPrecision(7), "mm4");
+`;
+  },
 };
 
 function callsIn(language, profile, section) {
