@@ -223,15 +223,28 @@ LinesAndPlanes lines_and_planes() {
   return data;
 }
 
+BENCH_ROUTINE line_and_plane(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn a,
+                             TrvIn b, TrvIn c, TrvIn d, TrvOut xi, TrvOut yi, TrvOut zi,
+                             TrvIntOut status) {
+  const float t = -(a * x + b * y + c * z + d) / (a * ux + b * uy + c * uz);
+  xi = x + t * ux;
+  yi = y + t * uy;
+  zi = z + t * uz;
+  status = 0;
+}
+
 void add_line_and_plane(std::vector<Task> &tasks, const Peers &peers) {
   Task task{"Line and plane", "trvpli", {1}, [peers](int) {
               const LinesAndPlanes data = lines_and_planes();
+              const auto call = [](auto f, auto i, auto o) {
+                std::int32_t status;
+                f(i[0], i[1], i[2], i[3], i[4], i[5], i[6], i[7], i[8], i[9], o[0], o[1], o[2],
+                  status);
+              };
+              const auto guarded = Called<line_and_plane>::guarded;
               std::vector<Contender> all{
-                  contender("Trelvin", Sweep(data.values, 3, trvpli, [](auto f, auto i, auto o) {
-                              std::int32_t status;
-                              f(i[0], i[1], i[2], i[3], i[4], i[5], i[6], i[7], i[8], i[9], o[0],
-                                o[1], o[2], status);
-                            }))};
+                  contender("Trelvin", Sweep(data.values, 3, trvpli, call)),
+                  contender("guarded formula", Sweep(data.values, 3, guarded, call))};
               for (const auto &peer : peers.intersect) all.push_back(peer(data));
               return all;
             }};
