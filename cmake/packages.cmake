@@ -3,11 +3,11 @@
 if(WIN32)
   if(TARGET section_properties AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     install(TARGETS section_properties)
-    install(DIRECTORY bindings docs examples DESTINATION . FILES_MATCHING
+    install(DIRECTORY bindings examples DESTINATION . FILES_MATCHING
             PATTERN *.bas PATTERN *.c PATTERN *.cpp PATTERN *.cs PATTERN *.f90 PATTERN *.F90
-            PATTERN *.json PATTERN *.md PATTERN *.mjs PATTERN *.pas PATTERN *.txt
-            PATTERN python EXCLUDE PATTERN python.md EXCLUDE PATTERN CMakeLists.txt EXCLUDE)
-    install(DIRECTORY out/manual DESTINATION . OPTIONAL)
+            PATTERN *.json PATTERN *.mjs PATTERN *.pas PATTERN *.txt
+            PATTERN python EXCLUDE PATTERN CMakeLists.txt EXCLUDE)
+    install(DIRECTORY out/manual DESTINATION . OPTIONAL)  # where it was built
     install(FILES CHANGELOG.md DESTINATION .)
   endif()
   return()

@@ -96,7 +96,7 @@ class Windows(unittest.TestCase):
             dll = (self.installed / "bin" / f"{library}.dll").read_bytes()
             built = ROOT / "build" / f"windows{bits}" / "bin" / f"{library}.dll"
             self.assertEqual(dll, built.read_bytes())
-        for name in ("lib/Trelvin.lib", "lib/Trelvin64.lib", "docs/routines.md"):
+        for name in ("lib/Trelvin.lib", "lib/Trelvin64.lib", "manual/index.html"):
             self.assertTrue((self.installed / name).is_file(), name)
         for language in ("basic", "csharp", "fortran", "node", "pascal"):
             for binding in (ROOT / "bindings" / language).iterdir():
