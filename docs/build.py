@@ -49,7 +49,7 @@ def main():
     draw_figures()
     out = ROOT / "out/manual"
     shutil.rmtree(out, ignore_errors=True)
-    command = ["/usr/bin/python3", "-m", "sphinx", "-E", "-a", "-q", "-W", "--keep-going", "-j2",
+    command = ["/usr/bin/python3", "-m", "sphinx", "-E", "-a", "-q", "-W", "--keep-going",
                "-d", prepare.BUILD / "doctrees", DOCS, out]
     result = subprocess.run(list(map(str, command))).returncode
     inline_imports(out)
