@@ -47,7 +47,7 @@ missing64=()
 [ $demo = yes ] || [ -d "$wine64" ] || installed wine64 || missing64=(wine64)
 [ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ] || exit 0
 
-echo "setup: installing ${missing[*]} ${missing64[*]}"
+echo "setup: installing, which takes some minutes: ${missing[*]}${missing64[*]:+ wine64}"
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
   if ! command -v sudo >/dev/null; then
