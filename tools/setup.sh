@@ -1,13 +1,17 @@
 #!/usr/bin/env bash
 # Installs what building and testing Trelvin needs on Debian 12, and nothing that is there already.
-# Further packages are arguments.
+# --demo: only what ./dev demo needs. Further packages are arguments.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 packages=(
-  cmake ninja-build g++ clang python3                  # native builds, generated files
+  cmake ninja-build g++ python3 googletest             # native builds, generated files, tests
   g++-mingw-w64-i686-win32 wine wine32:i386            # the Windows DLL, and running it
-  googletest libclang-rt-14-dev clang-format clang-tidy # tests, sanitizers, formatting
+)
+demo=no
+[ "${1:-}" != --demo ] || { demo=yes && shift; }
+[ $demo = yes ] || packages+=(
+  clang libclang-rt-14-dev clang-format clang-tidy      # sanitizers, formatting
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
   dpkg-dev                                              # the packages' dependencies
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
@@ -19,8 +23,8 @@ packages=(
   nodejs                                                # and in JavaScript; npm below
   g++-mingw-w64-x86-64-win32 g++-aarch64-linux-gnu qemu-user-static # other machines
   llvm                                                  # the library for Microsoft's linker
-  "$@"
 )
+packages+=("$@")
 wine64=build/wine64-packages # where 64-bit Wine is unpacked if it can not be installed
 
 installed() {
@@ -38,12 +42,12 @@ for package in "${packages[@]}"; do
   installed "$package" || missing+=("$package")
 done
 # Other suppliers' nodejs brings its own npm, and Debian's package conflicts with it.
-command -v npm >/dev/null || missing+=(npm)
+[ $demo = yes ] || command -v npm >/dev/null || missing+=(npm)
 missing64=()
-[ -d "$wine64" ] || installed wine64 || missing64=(wine64)
+[ $demo = yes ] || [ -d "$wine64" ] || installed wine64 || missing64=(wine64)
 [ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ] || exit 0
 
-echo "setup: installing ${missing[*]} ${missing64[*]}"
+echo "setup: installing, which takes some minutes: ${missing[*]}${missing64[*]:+ wine64}"
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
   if ! command -v sudo >/dev/null; then
@@ -54,7 +58,8 @@ if [ "$(id -u)" -ne 0 ]; then
 fi
 export DEBIAN_FRONTEND=noninteractive
 log=$(mktemp)
-trap 'rm -f "$log"' EXIT
+pins=$(mktemp)
+trap 'rm -f "$log" "$pins"' EXIT
 
 # The 32-bit Windows host programs run under a 32-bit Wine.
 [[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
@@ -80,7 +85,14 @@ unpack_wine64() {
 # the release is named.
 release=$(. /etc/os-release && echo "${VERSION_CODENAME:-stable}")
 install_all() { [ $# -eq 0 ] || install "$@" || install -t "$release" --allow-downgrades "$@"; }
-install_all "${missing[@]}" || {
+# Where the newer 32-bit twin can not be had at all, the 64-bit library goes back to the release too.
+install_from_release() {
+  printf 'Package: *\nPin: release n=%s\nPin-Priority: 1001\n' "$release" >"$pins"
+  install -o "Dir::Etc::Preferences=$pins" --allow-downgrades "$@" || return
+  echo "setup: taken back to their versions in $release, for want of newer 32-bit twins:"
+  sed -n '/will be DOWNGRADED:$/,/^[^ T]/s/^  //p' "$log"
+}
+install_all "${missing[@]}" || install_from_release "${missing[@]}" || {
   tail -n 20 "$log" >&2
   echo "setup: apt-get could not install: ${missing[*]}" >&2
   exit 1
