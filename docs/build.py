@@ -40,8 +40,8 @@ def inline_imports(out):
 
 
 def mend_theme(out):
-    """Debian's theme loads a module as a plain script, which no browser runs, and its compiled style
-    sheet has lost the dark colours of those whose system asks for them."""
+    """Debian's theme loads a module as a plain script, which no browser runs, and its compiled
+    style sheet has lost the dark colours of those whose system asks for them."""
     scripts = out / "_static/scripts"
     text = (scripts / "furo.js").read_text()
     loading = 'import Gumshoe from "./gumshoe-patched.js";'
@@ -49,7 +49,8 @@ def mend_theme(out):
         text.replace(loading, (scripts / "gumshoe-patched.js").read_text()))
     sheet = out / "_static/styles/furo.css"
     text = sheet.read_text()
-    dark = re.search(r"^@media not print \{\n(  body\[data-theme=\"dark\"\].*?\} ?\})\n", text, re.M | re.S)
+    dark = re.search(r'^@media not print \{\n(  body\[data-theme="dark"\].*?\} ?\})\n', text,
+                     re.M | re.S)
     if dark and "prefers-color-scheme" not in text:
         rules = dark.group(1).replace('[data-theme="dark"]', ':not([data-theme="light"])')
         sheet.write_text(f"{text}\n@media screen and (prefers-color-scheme: dark) {{\n{rules}\n")
