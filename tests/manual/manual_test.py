@@ -166,6 +166,12 @@ class Claims(unittest.TestCase):
         point = trelvin.trvlci(b, a, c, *trelvin.trvcer(200, 300, 250))
         self.assertAlmostEqual(point.y1, 550, places=2)
 
+    def test_directions_a_quarter_of_a_degree_apart_count_as_parallel(self):
+        for slope, relation, status in ((0.0044, 3, 3), (0.0045, 0, 0)):
+            self.assertEqual(trelvin.trvdirp(0, 0, 1, -3, slope, 0, 1, -3), relation)
+            camber = slope / 2 * 3000
+            self.assertEqual(trelvin.trvpsl(0, 0, 0, 6000, 0, 0, 3000, camber, 0), status)
+
     def test_floors_of_300_m_2_mm_apart_are_the_same_plane(self):
         self.assertEqual(trelvin.trvdirp(0, 0, 1, -300000, 0, 0, 1, -300002), 3)
 
