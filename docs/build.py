@@ -39,6 +39,23 @@ def inline_imports(out):
         sheet.write_text(text)
 
 
+def mend_theme(out):
+    """Debian's theme loads a module as a plain script, which no browser runs, and its compiled
+    style sheet has lost the dark colours of those whose system asks for them."""
+    scripts = out / "_static/scripts"
+    text = (scripts / "furo.js").read_text()
+    loading = 'import Gumshoe from "./gumshoe-patched.js";'
+    (scripts / "furo.js").write_text(
+        text.replace(loading, (scripts / "gumshoe-patched.js").read_text()))
+    sheet = out / "_static/styles/furo.css"
+    text = sheet.read_text()
+    dark = re.search(r'^@media not print \{\n(  body\[data-theme="dark"\].*?\} ?\})\n', text,
+                     re.M | re.S)
+    if dark and "prefers-color-scheme" not in text:
+        rules = dark.group(1).replace('[data-theme="dark"]', ':not([data-theme="light"])')
+        sheet.write_text(f"{text}\n@media screen and (prefers-color-scheme: dark) {{\n{rules}\n")
+
+
 def main():
     prepare.BUILD.mkdir(parents=True, exist_ok=True)
     try:
@@ -53,6 +70,7 @@ def main():
                "-d", prepare.BUILD / "doctrees", DOCS, out]
     result = subprocess.run(list(map(str, command))).returncode
     inline_imports(out)
+    mend_theme(out)
     return result
 
 

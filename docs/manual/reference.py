@@ -160,8 +160,9 @@ def all_routines(writer):
 
 def statuses(writer):
     lines = ["# Statuses", "", "What the values of each status mean, and the names they have in "
-             "the bindings: `trvlni_parallel` in Fortran and Pascal, `trvlniParallel` in C# and "
-             "Basic, `TrvlniStatus.PARALLEL` in Python. In C they are the numbers.", ""]
+             "the bindings: `trvlni_parallel` in Fortran and Pascal, `trvlniParallel` in C#, "
+             "Basic and JavaScript. Python takes its names from the meanings, where they make one: "
+             "`TrvlniStatus.PARALLEL_AND_DISTINCT`. In C they are the numbers.", ""]
     for page in writer.pages:
         rows = []
         for shown in (r for group in page.groups for r in group.routines):

@@ -494,6 +494,7 @@ TRELVIN_ROUTINE trvtrg(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
  * Relation of two directions.
  *
  * The cosine of their angle decides, within the tolerance; a later code goes before an earlier one.
+ * So directions up to 0.00447 radians apart, 4.47 mm a metre, are the same.
  *
  * Retains: nothing.
  *
@@ -506,6 +507,9 @@ TRELVIN_ROUTINE trvdir(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn v
 
 /**
  * Relation of two planes.
+ *
+ * The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are parallel, and
+ * a normal is zero whose components are within the tolerance.
  *
  * Planes with parallel normals are distinct when the ratio of their normals, taken at the last
  * component of the second one above the tolerance, and that of their constants (0 where d2 is

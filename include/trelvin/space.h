@@ -89,7 +89,9 @@ TRELVIN_ROUTINE trvrotz(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvArra
 /**
  * Three-point test: whether P0, P1 and P2 span a plane.
  *
- * The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance. Where P2 agrees with
+ * The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance: up to 0.00447 radians
+ * from pi or 0 the three are on one line, as are the ends of 6 m and a point 6 mm beside its middle.
+ * Where P2 agrees with
  * P0 or P1 within the tolerance in each coordinate yet lies farther than that from it, the cosine
  * of the last call that found one stands (0 after loading). P0 = P1 is not tested and gives 0, as
  * does any P2 on the line whose distances from both come out equal.

@@ -71,6 +71,12 @@ class Addresses(unittest.TestCase):
             text = re.sub(r"/\*.*?\*/|url\(['\"]?data:", "", file.read_text(), flags=re.S)
             self.assertNotRegex(text, r"@import|url\(['\"]?(https?:|/)|href=\"https?:", file)
 
+    def test_the_theme_runs_as_plain_scripts_and_is_dark_where_the_system_is(self):
+        for file in OUT.glob("_static/scripts/*.js"):
+            self.assertNotRegex(file.read_text(), r"(?m)^import ", file)
+        sheet = (OUT / "_static/styles/furo.css").read_text()
+        self.assertRegex(sheet, r"prefers-color-scheme: dark\)[^}]*--color-background-primary: #131416")
+
 
 class Contents(unittest.TestCase):
     def test_every_routine_has_its_anchor_on_the_page_of_its_family(self):
@@ -135,6 +141,45 @@ class Claims(unittest.TestCase):
     def test_nothing_compressed_leaves_the_effective_widths_unwritten(self):
         widths = trelvin.trvef2(600, 600, 8, 18.8, 15.3, s1=-100, s2=-100)
         self.assertNotEqual(widths.be1, widths.be1)
+
+    def test_beyond_three_times_in_tension_nothing_is_reduced_and_just_there_nothing_written(self):
+        beyond = trelvin.trvef2(1200, 300, 8, 18.8, 15.3, s1=100, s2=-301)
+        self.assertEqual((beyond.be1, beyond.be2), (150, 150))
+        at = trelvin.trvef2(1200, 300, 8, 18.8, 15.3, s1=100, s2=-300)
+        self.assertNotEqual(at.be1, at.be1)
+
+    def test_the_normal_of_a_line_is_to_its_right_by_trvln3_and_below_by_an_angle(self):
+        left, pi = (0, 1), 3.14159265
+        self.assertEqual(trelvin.trvlds(*left, *trelvin.trvln3(0, 0, 1, 0)), -1)
+        self.assertEqual(trelvin.trvlds(*left, *trelvin.trvln3(0, 0, -1, 0)), 1)
+        for line in trelvin.trvln1(0, 0, pi), trelvin.trvln4(0, 0, -1, 0, 0):
+            self.assertEqual(trelvin.trvlds(*left, *line), -1)
+
+    def test_short_lines_in_metres_are_the_same_and_a_small_circle_is_touched(self):
+        lines = *trelvin.trvln3(0, 0, 0.003, 0), *trelvin.trvln3(0, 0, 0, 0.003)
+        self.assertEqual(trelvin.trvlni(*lines).status, trelvin.TrvlniStatus.SAME_LINE)
+        self.assertEqual(trelvin.trvlci(1, 0.5, 0, *trelvin.trvcer(0, 0, 0.001)).n, 1)
+
+    def test_a_line_nearly_along_x_loses_digits_unless_x_and_y_are_swapped(self):
+        a, b, c = 1, -1000, 199700  # through the centre (300, 200)
+        self.assertGreater(trelvin.trvlci(a, b, c, *trelvin.trvcer(300, 200, 250)).x1, 553)
+        point = trelvin.trvlci(b, a, c, *trelvin.trvcer(200, 300, 250))
+        self.assertAlmostEqual(point.y1, 550, places=2)
+
+    def test_directions_a_quarter_of_a_degree_apart_count_as_parallel(self):
+        for slope, relation, status in ((0.0044, 3, 3), (0.0045, 0, 0)):
+            self.assertEqual(trelvin.trvdirp(0, 0, 1, -3, slope, 0, 1, -3), relation)
+            camber = slope / 2 * 3000
+            self.assertEqual(trelvin.trvpsl(0, 0, 0, 6000, 0, 0, 3000, camber, 0), status)
+
+    def test_floors_of_300_m_2_mm_apart_are_the_same_plane(self):
+        self.assertEqual(trelvin.trvdirp(0, 0, 1, -300000, 0, 0, 1, -300002), 3)
+
+    def test_the_third_point_of_trvaxe_does_not_tell_the_sense_of_e2(self):
+        axes = [trelvin.trvaxe(0, 0, 0, 0, 3, 0, *p) for p in ((0, 0, 1), (0, 0, -1))]
+        self.assertEqual([each.e2z for each in axes], [1, 1])
+        axes = [trelvin.trvaxe(0, 0, 0, 0, 3, 0, *p) for p in ((1, 0, 0), (-1, 0, 0))]
+        self.assertEqual([each.e2x for each in axes], [-1, -1])
 
 
 class Tasks(unittest.TestCase):

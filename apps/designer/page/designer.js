@@ -232,6 +232,7 @@ function setAddress() {
 }
 
 function update(changed) {
+  element('link-fault').textContent = '';
   typed[profile.name] = profile.dimensions.map((name) => field(name).value);
   const designed = engine.design(profile.name, typed[profile.name]);
   showRefusal(designed.refusal, changed);
@@ -331,13 +332,13 @@ function openLink() {
   const linked = engine.profiles.find((each) => each.name === name.toLowerCase());
   const isLink = linked && words.length === linked.dimensions.length;
   const refusal = name === '' || isLink ? '' : engine.design(name, words).refusal;
-  element('link-fault').textContent = refusal;
   if (isLink) {
     choose(linked, words);
   } else if (!section) {
     const first = engine.profiles.find((each) => each.name === FIRST);
     choose(first, startOf(first));
   }
+  element('link-fault').textContent = refusal;
 }
 
 // Taking along -----------------------------------------------------------------------------------

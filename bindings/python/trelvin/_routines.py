@@ -3359,6 +3359,7 @@ def trvdir(
     """Relation of two directions.
 
     The cosine of their angle decides, within the tolerance; a later code goes before an earlier one.
+    So directions up to 0.00447 radians apart, 4.47 mm a metre, are the same.
 
     Retains: nothing.
 
@@ -3390,6 +3391,9 @@ def trvdirp(
     a1: float, b1: float, c1: float, d1: float, a2: float, b2: float, c2: float, d2: float
 ) -> int:
     """Relation of two planes.
+
+    The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are parallel, and
+    a normal is zero whose components are within the tolerance.
 
     Planes with parallel normals are distinct when the ratio of their normals, taken at the last
     component of the second one above the tolerance, and that of their constants (0 where d2 is
@@ -5146,7 +5150,9 @@ def trvpsl(
 ) -> int:
     """Three-point test: whether P0, P1 and P2 span a plane.
 
-    The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance. Where P2 agrees with
+    The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance: up to 0.00447 radians
+    from pi or 0 the three are on one line, as are the ends of 6 m and a point 6 mm beside its middle.
+    Where P2 agrees with
     P0 or P1 within the tolerance in each coordinate yet lies farther than that from it, the cosine
     of the last call that found one stands (0 after loading). P0 = P1 is not tested and gives 0, as
     does any P2 on the line whose distances from both come out equal.
