@@ -22,23 +22,29 @@ std::string right_aligned(const std::string &text, std::size_t width) {
   return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
-// With the decimals that suit a figure of the given size: below that a figure is rounding and shows
-// as zero. Sizes that no section in mm has would fill the line with zeros.
-std::string figure(double value, double size) {
-  const int decimals = decimals_for(size, digits);
+// What a figure can lose to its section's size: a difference of figures of that size is rounding where
+// it is small, and shows as zero; a sum of what has one sign keeps digits of its own.
+enum class Kind { difference, sum };
+
+// With the decimals that suit a figure of the given size. Sizes that no section in mm has would fill
+// the line with zeros.
+std::string figure(double value, double size, Kind kind) {
+  constexpr int fewest = 5;
+  int decimals = decimals_for(size, digits);
+  if (kind == Kind::sum) decimals = std::max(decimals, decimals_for(value, fewest));
   return decimals < -9 || decimals > 15 ? significant(value, digits) : fixed(value, decimals);
 }
 
 class Rows {
  public:
   // Rows of one unit, mm to a power, for figures that share a size.
-  void add(std::string heading, int power, double size, const Named &figures) {
+  void add(std::string heading, int power, double size, Kind kind, const Named &figures) {
     double cm = 1;
     for (int i = 0; i < power; ++i) cm *= 10;
     const std::string exponent = power == 1 ? "" : std::to_string(power);
     for (const auto &[symbol, value] : figures) {
-      rows_.push_back({std::exchange(heading, ""), std::string(symbol), figure(value, size),
-                       "mm" + exponent, figure(value / cm, size / cm), "cm" + exponent});
+      rows_.push_back({std::exchange(heading, ""), std::string(symbol), figure(value, size, kind),
+                       "mm" + exponent, figure(value / cm, size / cm, kind), "cm" + exponent});
     }
   }
 
@@ -89,16 +95,20 @@ std::vector<Row> main_rows(const Figures &f) {
   const double length = length_of(p);
   const double second = second_moment_of(p);
   Rows rows;
-  rows.add("Area", 2, p.area, {{"A", p.area}});
-  rows.add("Centroid", 1, length, {{"xs", p.xs}, {"ys", p.ys}});
-  rows.add("First moments, origin", 3, p.area * length, {{"Sx", p.sx}, {"Sy", p.sy}});
-  rows.add("Second moments, origin", 4, second,
-           {{"Ix", p.origin.x}, {"Iy", p.origin.y}, {"Ixy", p.origin.xy}});
-  rows.add("Second moments, centroid", 4, second,
-           {{"Ix", p.centroidal.x}, {"Iy", p.centroidal.y}, {"Ixy", p.centroidal.xy}});
-  rows.add("Principal moments, axes 1 and 2", 4, second, {{"I1", p.i1}, {"I2", p.i2}});
+  rows.add("Area", 2, p.area, Kind::sum, {{"A", p.area}});
+  rows.add("Centroid", 1, length, Kind::difference, {{"xs", p.xs}, {"ys", p.ys}});
+  rows.add("First moments, origin", 3, p.area * length, Kind::difference,
+           {{"Sx", p.sx}, {"Sy", p.sy}});
+  rows.add("Second moments, origin", 4, second, Kind::sum,
+           {{"Ix", p.origin.x}, {"Iy", p.origin.y}});
+  rows.add("", 4, second, Kind::difference, {{"Ixy", p.origin.xy}});
+  rows.add("Second moments, centroid", 4, second, Kind::sum,
+           {{"Ix", p.centroidal.x}, {"Iy", p.centroidal.y}});
+  rows.add("", 4, second, Kind::difference, {{"Ixy", p.centroidal.xy}});
+  const Kind principal = p.alpha == 0 ? Kind::sum : Kind::difference;
+  rows.add("Principal moments, axes 1 and 2", 4, second, principal, {{"I1", p.i1}, {"I2", p.i2}});
   rows.add_angle("alpha", p.alpha);
-  rows.add("Radii of gyration", 1, length, {{"rx", p.rx}, {"ry", p.ry}});
+  rows.add("Radii of gyration", 1, length, Kind::sum, {{"rx", p.rx}, {"ry", p.ry}});
   return rows.take();
 }
 
@@ -111,18 +121,21 @@ std::vector<Row> further_rows(const Figures &f) {
   const double modulus = std::max({w.top, w.bottom, w.right, w.left});
   const double polar = f.properties.centroidal.x + f.properties.centroidal.y;
   Rows rows;
-  rows.add("Polar moment, centroid", 4, polar, {{"Ip", polar}});
-  rows.add("Fibres: top, bottom, right, left", 1, length,
+  rows.add("Polar moment, centroid", 4, polar, Kind::sum, {{"Ip", polar}});
+  rows.add("Fibres: top, bottom, right, left", 1, length, Kind::difference,
            {{"ey1", e.top}, {"ey2", e.bottom}, {"ex1", e.right}, {"ex2", e.left}});
-  rows.add("Elastic moduli of the fibres", 3, modulus,
+  rows.add("Elastic moduli of the fibres", 3, modulus, Kind::sum,
            {{"Wx1", w.top}, {"Wx2", w.bottom}, {"Wy1", w.right}, {"Wy2", w.left}});
-  rows.add("Plastic moduli", 3, modulus, {{"Wpx", f.plastic.wx}, {"Wpy", f.plastic.wy}});
-  rows.add("Equal-area axes", 1, length, {{"xp", f.plastic.x}, {"yp", f.plastic.y}});
+  rows.add("Plastic moduli", 3, modulus, Kind::sum, {{"Wpx", f.plastic.wx}, {"Wpy", f.plastic.wy}});
+  rows.add("Equal-area axes", 1, length, Kind::difference,
+           {{"xp", f.plastic.x}, {"yp", f.plastic.y}});
   if (t.shear_centre) {
-    rows.add("Shear centre", 1, length, {{"xm", t.shear_centre->x}, {"ym", t.shear_centre->y}});
+    rows.add("Shear centre", 1, length, Kind::difference,
+             {{"xm", t.shear_centre->x}, {"ym", t.shear_centre->y}});
   }
-  if (t.it) rows.add("Torsion constant", 4, *t.it, {{"It", *t.it}});
-  if (t.iw) rows.add("Warping constant", 6, second * length * length, {{"Iw", *t.iw}});
+  if (t.it) rows.add("Torsion constant", 4, *t.it, Kind::sum, {{"It", *t.it}});
+  if (t.iw)
+    rows.add("Warping constant", 6, second * length * length, Kind::difference, {{"Iw", *t.iw}});
   return rows.take();
 }
 

@@ -330,6 +330,9 @@ class SectionProperties(unittest.TestCase):
                     r"Area +A +5381\.2\d\d mm2 +53\.812\d\d cm2", r"ys +0\.0+ mm ",
                     r"I1 +8356\d{4} mm4 +8356\.\d+ cm4", r"ry +33\.49\d+ mm +3\.349\d+ cm"):
             self.assertRegex(table, row)
+        slender = run("b 100000 1").stdout  # beside 8e13 mm4 about the other axis
+        for row in (r"Ix +8333\.3 mm4 ", r"Wx1 +16667 mm3 ", r"rx +0\.28868 mm "):
+            self.assertRegex(slender, row)
         leftover = "ia 433.2 168.3 64.1 9.1 8.3 7.7"  # rounding leaves a tiny negative Sy
         self.assertNotRegex(run(leftover).stdout, r"-0\.?0* ")
 
