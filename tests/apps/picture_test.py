@@ -3,6 +3,8 @@
 A picture is read back as a person reads it: what a dimension line measures, and whether any text
 stands on another.
 """
+import json
+import math
 import os
 import re
 import tempfile
@@ -85,17 +87,54 @@ class Pictures(unittest.TestCase):
         spans = {}
         for name, line in lines.items():
             self.assertIn(f"{name} = {given[name]:g}", shown)
-            spans[name] = [number(e, "x1") for e in line if e.get("stroke-opacity")]
+            extensions = [e for e in line if e.get("stroke-opacity")]
+            spans[name] = [number(e, "x1") for e in extensions]
             x, y, upright = moved(line)
-            for span in spans[name]:
+            for extension, span in zip(extensions, spans[name]):
                 if name != "E" or section.startswith("tab"):  # from the middle, where no corner is
-                    at = y - span if upright else x + span
-                    nearest = min(abs(at - corner) for corner in corners[upright])
-                    self.assertLess(nearest, 0.03, name)
+                    start = number(extension, "y1")
+                    at = (x + start, y - span) if upright else (x + span, y + start)
+                    for axis in (0, 1):
+                        nearest = min(abs(at[axis] - corner) for corner in corners[axis])
+                        self.assertLess(nearest, 0.03, name)
         longest = max(spans, key=lambda name: spans[name][1])
         for name, (start, end) in spans.items():
             expected = spans[longest][1] * given[name] / given[longest]
             self.assertAlmostEqual(end - start, expected, delta=0.03)
+
+    def test_marks_and_axes_stand_where_the_figures_say(self):
+        for section, picture in self.pictures.items():
+            with self.subTest(section):
+                self.check_marks(json.loads(program.run(section + " --json").stdout), picture)
+
+    def check_marks(self, f, picture):
+        def lines(name, value):
+            group = next(e for e in picture.iter() if e.get(name) == value and len(e) > 1)
+            return [[number(line, end) for end in ("x1", "y1", "x2", "y2")]
+                    for line in group if line.tag.endswith("}line")]
+
+        outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
+        xs, ys = ([float(end[axis]) for end in re.findall(r"([-\d.]+) ([-\d.]+)(?= [LZMA])", outline)]
+                  for axis in (0, 1))
+        scale = (max(xs) - min(xs) + max(ys) - min(ys)) / sum(
+            f[fibre] for fibre in ("ex1", "ex2", "ey1", "ey2"))
+        # From the fibres to the centroid, and on from there; y runs downwards.
+        x, y = max(xs) - scale * f["ex1"], min(ys) + scale * f["ey1"]
+        circle = next(e for e in picture.iter() if e.tag.endswith("}circle"))
+        places = [(number(circle, "cx"), x), (number(circle, "cy"), y)]
+        level, upright = lines("stroke-dasharray", "2 5")
+        places += [(level[1], y - scale * (f["yp"] - f["ys"])), (level[3], level[1]),
+                   (upright[0], x + scale * (f["xp"] - f["xs"])), (upright[2], upright[0])]
+        if "xm" in f:
+            (left, top, right, bottom), _ = lines("stroke", "#7b3fa0")
+            places += [((left + right) / 2, x + scale * (f["xm"] - f["xs"])),
+                       ((top + bottom) / 2, y - scale * (f["ym"] - f["ys"]))]
+        for turn, (x1, y1, x2, y2) in zip((0, math.pi / 2), lines("stroke-width", "1.2")):
+            cos, sin = math.cos(f["alpha"] + turn), math.sin(f["alpha"] + turn)
+            places += [((end_x - x) * sin + (end_y - y) * cos, 0)
+                       for end_x, end_y in ((x1, y1), (x2, y2))]
+        for drawn, expected in places:
+            self.assertAlmostEqual(drawn, expected, delta=0.05)
 
     def test_no_text_stands_on_another(self):
         for section, picture in self.pictures.items():
