@@ -97,6 +97,10 @@ class Pictures(unittest.TestCase):
                     for axis in (0, 1):
                         nearest = min(abs(at[axis] - corner) for corner in corners[axis])
                         self.assertLess(nearest, 0.03, name)
+                    # From the near side of the steel; a root fillet has one side only.
+                    line_at, ends_at = ((x, corners[0]) if upright else (y, corners[1]))
+                    half = abs(line_at - (min(ends_at) + max(ends_at)) / 2)
+                    self.assertLess(abs(start), half + 0.03 if name != "R" else math.inf, name)
         longest = max(spans, key=lambda name: spans[name][1])
         for name, (start, end) in spans.items():
             expected = spans[longest][1] * given[name] / given[longest]
@@ -131,10 +135,27 @@ class Pictures(unittest.TestCase):
                        ((top + bottom) / 2, y - scale * (f["ym"] - f["ys"]))]
         for turn, (x1, y1, x2, y2) in zip((0, math.pi / 2), lines("stroke-width", "1.2")):
             cos, sin = math.cos(f["alpha"] + turn), math.sin(f["alpha"] + turn)
-            places += [((end_x - x) * sin + (end_y - y) * cos, 0)
-                       for end_x, end_y in ((x1, y1), (x2, y2))]
+            for end_x, end_y in ((x1, y1), (x2, y2)):
+                places.append(((end_x - x) * sin + (end_y - y) * cos, 0))
+                inside = min(xs) < end_x < max(xs) and min(ys) < end_y < max(ys)
+                self.assertFalse(inside, "axes go through the steel")
         for drawn, expected in places:
             self.assertAlmostEqual(drawn, expected, delta=0.05)
+
+    def test_the_legend_has_the_figures(self):
+        names = {"A": "area", "I₁": "I1", "I₂": "I2"}
+        for section, picture in self.pictures.items():
+            f = json.loads(program.run(section + " --json").stdout)
+            shown = [text for text, _ in texts(picture)]
+            rows = {names.get(name, name): row for name, row in zip(shown, shown[1:])
+                    if row.startswith("= ")}
+            expected = {"area": 2, "I1": 4, "I2": 4, "Wpx": 3, "Wpy": 3, "It": 4, "Iw": 6}
+            self.assertEqual(rows.keys(), f.keys() & expected.keys(), section)
+            for name, row in rows.items():
+                _, value, unit = row.split()
+                self.assertEqual(unit, "cm" + "  ²³⁴ ⁶"[expected[name]])
+                self.assertAlmostEqual(float(value) * 10 ** expected[name], f[name],
+                                       delta=6e-5 * f[name], msg=section + ' ' + name)
 
     def test_no_text_stands_on_another(self):
         for section, picture in self.pictures.items():
