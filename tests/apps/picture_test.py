@@ -162,6 +162,7 @@ class Pictures(unittest.TestCase):
             with self.subTest(section):
                 boxes = list(texts(picture))
                 width, height = number(picture, "width"), number(picture, "height")
+                self.assertLess(max(width, height), 1000)
                 for i, (one, a) in enumerate(boxes):
                     inside = 0 < a[0] and a[2] < width and 0 < a[1] and a[3] < height
                     self.assertTrue(inside, one)
