@@ -58,14 +58,22 @@ def texts(picture):
                           (x + start, y + low, x + start + width, y + high))
 
 
+def corners_of(picture):
+    """Abscissas and ordinates of the outline's corners."""
+    outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
+    ends = re.findall(r"[ML ]([-\d.]+) ([-\d.]+)(?= [LZMA])", outline)
+    return [{float(end[axis]) for end in ends} for axis in (0, 1)]
+
+
 class Pictures(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.pictures = {}
+        cls.pictures, cls.figures = {}, {}
         with tempfile.TemporaryDirectory() as folder:
             for section in SECTIONS:
-                result = program.run(section + " --svg a.svg", folder)
+                result = program.run(section + " --json --svg a.svg", folder)
                 assert result.returncode == 0, result.stderr
+                cls.figures[section] = json.loads(result.stdout)
                 cls.pictures[section] = ElementTree.parse(os.path.join(folder, "a.svg")).getroot()
 
     def test_every_dimension_is_measured_on_the_outline(self):
@@ -77,9 +85,7 @@ class Pictures(unittest.TestCase):
         given = program.run(section).stdout.splitlines()[0]
         given = {name: float(value) for name, value in re.findall(r"(\w+) = ([\d.e-]+)", given)
                  if float(value) > 0}
-        outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
-        ends = re.findall(r"[ML ]([-\d.]+) ([-\d.]+)(?= [LZMA])", outline)
-        corners = [{float(end[axis]) for end in ends} for axis in (0, 1)]
+        corners = corners_of(picture)
         lines = {e.get("data-dimension"): e for e in picture.iter() if e.get("data-dimension")}
         self.assertEqual(given.keys() - lines.keys() - NOT_DRAWN, set())
         self.assertEqual(lines.keys() - given.keys(), set())
@@ -109,7 +115,7 @@ class Pictures(unittest.TestCase):
     def test_marks_and_axes_stand_where_the_figures_say(self):
         for section, picture in self.pictures.items():
             with self.subTest(section):
-                self.check_marks(json.loads(program.run(section + " --json").stdout), picture)
+                self.check_marks(self.figures[section], picture)
 
     def check_marks(self, f, picture):
         def lines(name, value):
@@ -117,9 +123,7 @@ class Pictures(unittest.TestCase):
             return [[number(line, end) for end in ("x1", "y1", "x2", "y2")]
                     for line in group if line.tag.endswith("}line")]
 
-        outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
-        xs, ys = ([float(end[axis]) for end in re.findall(r"([-\d.]+) ([-\d.]+)(?= [LZMA])", outline)]
-                  for axis in (0, 1))
+        xs, ys = corners_of(picture)
         scale = (max(xs) - min(xs) + max(ys) - min(ys)) / sum(
             f[fibre] for fibre in ("ex1", "ex2", "ey1", "ey2"))
         # From the fibres to the centroid, and on from there; y runs downwards.
@@ -138,14 +142,14 @@ class Pictures(unittest.TestCase):
             for end_x, end_y in ((x1, y1), (x2, y2)):
                 places.append(((end_x - x) * sin + (end_y - y) * cos, 0))
                 inside = min(xs) < end_x < max(xs) and min(ys) < end_y < max(ys)
-                self.assertFalse(inside, "axes go through the steel")
+                self.assertFalse(inside, "an axis ends in the steel")
         for drawn, expected in places:
             self.assertAlmostEqual(drawn, expected, delta=0.05)
 
     def test_the_legend_has_the_figures(self):
         names = {"A": "area", "I₁": "I1", "I₂": "I2"}
         for section, picture in self.pictures.items():
-            f = json.loads(program.run(section + " --json").stdout)
+            f = self.figures[section]
             shown = [text for text, _ in texts(picture)]
             rows = {names.get(name, name): row for name, row in zip(shown, shown[1:])
                     if row.startswith("= ")}
