@@ -22,8 +22,8 @@ TEST(Corners, ToleranceOfRadiusSegmentsAngleAndTouchingPoint) {
   const auto turned_back = [&](double side) { return corner(1, 0, -1, side, 2); };
   for (const Values &refused :
        {corner(10, 0, 0, 20, tolerance), corner(10, 0, 0, 20, not_a_number),
-        corner(tolerance, 0, 0, 20, beyond), corner(0, 20, 0, 0, 2), turned_back(tolerance),
-        turned_back(-tolerance), corner(10, 0, 0, 20, 10.0000105)}) {
+        corner(tolerance, 0, 0, 20, beyond), corner(0, 20, tolerance, 0, beyond),
+        turned_back(tolerance), turned_back(-tolerance), corner(10, 0, 0, 20, 10.0000105)}) {
     EXPECT_EQ(refused,
               (Values{unwritten, unwritten, unwritten, unwritten, unwritten, unwritten, 0}));
   }

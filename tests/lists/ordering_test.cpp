@@ -72,6 +72,10 @@ TEST(Ordering, SortsInPlace) {
   trvord(reals + 4, 2);
   trvord1(integers + 4, 2);
   EXPECT_TRUE(reals[4] == -7 && integers[4] == -7);
+  Integers many(100);
+  std::iota(many.rbegin(), many.rend(), -50);
+  trvord1(many.data(), size_of(many));
+  EXPECT_TRUE(std::is_sorted(many.begin(), many.end()));
 }
 
 TEST(Ordering, OddListsAreSortedAndOrderedAsThePlainWays) {

@@ -117,6 +117,7 @@ TEST(Frames, ShiftAndTurnsAboutTheGlobalAxes) {
   EXPECT_EQ(moved(unit, t, -t, not_a_number, t, -t, t), unit);
   EXPECT_EQ(moved(unit, t, t, b, 0, 0, 0), (Points{1 + t, t, 0, t, 1 + t, 0, b, b, 0}));
   EXPECT_EQ(moved(unit, 0, 0, 0, b, 0, 0), (Points{1, 0, 0, 0, 1, 0, 0, b, 0}));
+  EXPECT_EQ(moved(unit, 0, 0, 0, 0, b, 0), (Points{1, 0, 0, 0, 1, 0, b, 0, 0}));
   EXPECT_EQ(moved(unit, 0, 0, 0, 0, 0, b), (Points{1, -b, 0, b, 1, 0, 0, 0, 0}));
 }
 
