@@ -56,13 +56,15 @@ class HostError {
 #ifdef _WIN32
 // Appending in one piece is the system's promise, but not every system that runs Windows programs
 // keeps it between processes. So writers take turns by the lock of a byte far behind the text. One
-// that was stopped in its turn holds up nobody for long: the others write after a while.
+// that was stopped in its turn holds up nobody for long: the others write after a while. Where there
+// are no locks, as on some network drives, they write at once.
 class Turn {
  public:
   explicit Turn(HANDLE file) : file_(file) {
     constexpr DWORD at_once = LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
-    for (int attempt = 0; attempt < 1000 && !has_lock_; ++attempt) {
+    for (int attempt = 0; attempt < 1000; ++attempt) {
       has_lock_ = LockFileEx(file_, at_once, 0, 1, 0, &byte_) != 0;
+      if (has_lock_ || GetLastError() != ERROR_LOCK_VIOLATION) return;
     }
   }
   ~Turn() {

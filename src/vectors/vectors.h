@@ -28,7 +28,6 @@ struct Point3 {
   [[nodiscard]] Point2 in_plane() const { return {x, y}; }  // seen along the z axis
 };
 
-constexpr Point2 plane_origin = {0, 0};
 constexpr Point3 origin = {0, 0, 0};
 
 inline Vector2 operator-(Point2 end, Point2 start) { return {end.x - start.x, end.y - start.y}; }

@@ -3,6 +3,8 @@
 A picture is read back as a person reads it: what a dimension line measures, and whether any text
 stands on another.
 """
+import json
+import math
 import os
 import re
 import tempfile
@@ -56,14 +58,22 @@ def texts(picture):
                           (x + start, y + low, x + start + width, y + high))
 
 
+def corners_of(picture):
+    """Abscissas and ordinates of the outline's corners."""
+    outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
+    ends = re.findall(r"[ML ]([-\d.]+) ([-\d.]+)(?= [LZMA])", outline)
+    return [{float(end[axis]) for end in ends} for axis in (0, 1)]
+
+
 class Pictures(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.pictures = {}
+        cls.pictures, cls.figures = {}, {}
         with tempfile.TemporaryDirectory() as folder:
             for section in SECTIONS:
-                result = program.run(section + " --svg a.svg", folder)
+                result = program.run(section + " --json --svg a.svg", folder)
                 assert result.returncode == 0, result.stderr
+                cls.figures[section] = json.loads(result.stdout)
                 cls.pictures[section] = ElementTree.parse(os.path.join(folder, "a.svg")).getroot()
 
     def test_every_dimension_is_measured_on_the_outline(self):
@@ -75,9 +85,7 @@ class Pictures(unittest.TestCase):
         given = program.run(section).stdout.splitlines()[0]
         given = {name: float(value) for name, value in re.findall(r"(\w+) = ([\d.e-]+)", given)
                  if float(value) > 0}
-        outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
-        ends = re.findall(r"[ML ]([-\d.]+) ([-\d.]+)(?= [LZMA])", outline)
-        corners = [{float(end[axis]) for end in ends} for axis in (0, 1)]
+        corners = corners_of(picture)
         lines = {e.get("data-dimension"): e for e in picture.iter() if e.get("data-dimension")}
         self.assertEqual(given.keys() - lines.keys() - NOT_DRAWN, set())
         self.assertEqual(lines.keys() - given.keys(), set())
@@ -85,23 +93,80 @@ class Pictures(unittest.TestCase):
         spans = {}
         for name, line in lines.items():
             self.assertIn(f"{name} = {given[name]:g}", shown)
-            spans[name] = [number(e, "x1") for e in line if e.get("stroke-opacity")]
+            extensions = [e for e in line if e.get("stroke-opacity")]
+            spans[name] = [number(e, "x1") for e in extensions]
             x, y, upright = moved(line)
-            for span in spans[name]:
+            for extension, span in zip(extensions, spans[name]):
                 if name != "E" or section.startswith("tab"):  # from the middle, where no corner is
-                    at = y - span if upright else x + span
-                    nearest = min(abs(at - corner) for corner in corners[upright])
-                    self.assertLess(nearest, 0.03, name)
+                    start = number(extension, "y1")
+                    at = (x + start, y - span) if upright else (x + span, y + start)
+                    for axis in (0, 1):
+                        nearest = min(abs(at[axis] - corner) for corner in corners[axis])
+                        self.assertLess(nearest, 0.03, name)
+                    # From the near side of the steel; a root fillet has one side only.
+                    line_at, ends_at = ((x, corners[0]) if upright else (y, corners[1]))
+                    half = abs(line_at - (min(ends_at) + max(ends_at)) / 2)
+                    self.assertLess(abs(start), half + 0.03 if name != "R" else math.inf, name)
         longest = max(spans, key=lambda name: spans[name][1])
         for name, (start, end) in spans.items():
             expected = spans[longest][1] * given[name] / given[longest]
             self.assertAlmostEqual(end - start, expected, delta=0.03)
+
+    def test_marks_and_axes_stand_where_the_figures_say(self):
+        for section, picture in self.pictures.items():
+            with self.subTest(section):
+                self.check_marks(self.figures[section], picture)
+
+    def check_marks(self, f, picture):
+        def lines(name, value):
+            group = next(e for e in picture.iter() if e.get(name) == value and len(e) > 1)
+            return [[number(line, end) for end in ("x1", "y1", "x2", "y2")]
+                    for line in group if line.tag.endswith("}line")]
+
+        xs, ys = corners_of(picture)
+        scale = (max(xs) - min(xs) + max(ys) - min(ys)) / sum(
+            f[fibre] for fibre in ("ex1", "ex2", "ey1", "ey2"))
+        # From the fibres to the centroid, and on from there; y runs downwards.
+        x, y = max(xs) - scale * f["ex1"], min(ys) + scale * f["ey1"]
+        circle = next(e for e in picture.iter() if e.tag.endswith("}circle"))
+        places = [(number(circle, "cx"), x), (number(circle, "cy"), y)]
+        level, upright = lines("stroke-dasharray", "2 5")
+        places += [(level[1], y - scale * (f["yp"] - f["ys"])), (level[3], level[1]),
+                   (upright[0], x + scale * (f["xp"] - f["xs"])), (upright[2], upright[0])]
+        if "xm" in f:
+            (left, top, right, bottom), _ = lines("stroke", "#7b3fa0")
+            places += [((left + right) / 2, x + scale * (f["xm"] - f["xs"])),
+                       ((top + bottom) / 2, y - scale * (f["ym"] - f["ys"]))]
+        for turn, (x1, y1, x2, y2) in zip((0, math.pi / 2), lines("stroke-width", "1.2")):
+            cos, sin = math.cos(f["alpha"] + turn), math.sin(f["alpha"] + turn)
+            for end_x, end_y in ((x1, y1), (x2, y2)):
+                places.append(((end_x - x) * sin + (end_y - y) * cos, 0))
+                inside = min(xs) < end_x < max(xs) and min(ys) < end_y < max(ys)
+                self.assertFalse(inside, "an axis ends in the steel")
+        for drawn, expected in places:
+            self.assertAlmostEqual(drawn, expected, delta=0.05)
+
+    def test_the_legend_has_the_figures(self):
+        names = {"A": "area", "I₁": "I1", "I₂": "I2"}
+        for section, picture in self.pictures.items():
+            f = self.figures[section]
+            shown = [text for text, _ in texts(picture)]
+            rows = {names.get(name, name): row for name, row in zip(shown, shown[1:])
+                    if row.startswith("= ")}
+            expected = {"area": 2, "I1": 4, "I2": 4, "Wpx": 3, "Wpy": 3, "It": 4, "Iw": 6}
+            self.assertEqual(rows.keys(), f.keys() & expected.keys(), section)
+            for name, row in rows.items():
+                _, value, unit = row.split()
+                self.assertEqual(unit, "cm" + "  ²³⁴ ⁶"[expected[name]])
+                self.assertAlmostEqual(float(value) * 10 ** expected[name], f[name],
+                                       delta=6e-5 * f[name], msg=section + ' ' + name)
 
     def test_no_text_stands_on_another(self):
         for section, picture in self.pictures.items():
             with self.subTest(section):
                 boxes = list(texts(picture))
                 width, height = number(picture, "width"), number(picture, "height")
+                self.assertLess(max(width, height), 1000)
                 for i, (one, a) in enumerate(boxes):
                     inside = 0 < a[0] and a[2] < width and 0 < a[1] and a[3] < height
                     self.assertTrue(inside, one)

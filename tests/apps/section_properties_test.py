@@ -196,6 +196,8 @@ class SectionProperties(unittest.TestCase):
             for name, expected in (("area", area), ("Ix", ix), ("xs", xs), ("It", area * 4 / 3)):
                 self.assertAlmostEqual(f[name] / expected, 1, delta=TOLERANCE)
             self.assertLess(f["xm"], -30)  # beyond the web
+            with open(os.path.join(folder, "p.svg"), encoding="utf-8") as picture:  # over all
+                self.assertEqual(re.findall(r">(\d\d+)</text>", picture.read()), ["80", "200"])
             for ending in ("0 0 1", "0 0 0 x 2", "0 0 0 0 2"):
                 self.assertEqual(answer(PLATES + ending).returncode, 2)
             for closing in ("78 -75 78 75 2", "78 -75 20 99 2", "78 -75 20 120 2"):

@@ -22,8 +22,8 @@ TEST(Corners, ToleranceOfRadiusSegmentsAngleAndTouchingPoint) {
   const auto turned_back = [&](double side) { return corner(1, 0, -1, side, 2); };
   for (const Values &refused :
        {corner(10, 0, 0, 20, tolerance), corner(10, 0, 0, 20, not_a_number),
-        corner(tolerance, 0, 0, 20, beyond), corner(0, 20, 0, 0, 2), turned_back(tolerance),
-        turned_back(-tolerance), corner(10, 0, 0, 20, 10.0000105)}) {
+        corner(tolerance, 0, 0, 20, beyond), corner(0, 20, tolerance, 0, beyond),
+        turned_back(tolerance), turned_back(-tolerance), corner(10, 0, 0, 20, 10.0000105)}) {
     EXPECT_EQ(refused,
               (Values{unwritten, unwritten, unwritten, unwritten, unwritten, unwritten, 0}));
   }
@@ -35,12 +35,12 @@ TEST(Corners, ToleranceOfRadiusSegmentsAngleAndTouchingPoint) {
 }
 
 TEST(Corners, BoxesHoldTheSweptArc) {
-  // From (3, 4) and (-3, -4) on the circle of radius 5 about (1, 2), by quarter turns.
-  const double cases[][7] = {{4, 6, 1, -3, 5, 4, 7},    {4, 6, 2, -4, -2, 4, 7},
-                             {4, 6, 3, -4, -3, 5, 7},   {4, 6, -1, 4, -1, 6, 6},
-                             {4, 6, -3, -4, -3, 6, 6},  {-2, -2, -1, -4, -2, -2, 5},
-                             {-2, -2, 2, -2, -3, 6, 6}, {-2, -2, -3, -4, -2, 6, 7},
-                             {4, 6, 4.5, -4, -3, 6, 7}, {-2, -2, -4, -4, -3, 6, 7}};
+  // From (3, 4), (-3, -4) and (-3, 4) on the circle of radius 5 about (1, 2), by quarter turns.
+  const double cases[][7] = {
+      {4, 6, 1, -3, 5, 4, 7},     {4, 6, 2, -4, -2, 4, 7},    {4, 6, 3, -4, -3, 5, 7},
+      {4, 6, -1, 4, -1, 6, 6},    {4, 6, -3, -4, -3, 6, 6},   {-2, -2, -1, -4, -2, -2, 5},
+      {-2, -2, 2, -2, -3, 6, 6},  {-2, -2, -3, -4, -2, 6, 7}, {4, 6, 4.5, -4, -3, 6, 7},
+      {-2, -2, -4, -4, -3, 6, 7}, {-2, 6, 1, -4, -1, -2, 6}};
   for (const auto &[x, y, quarters, left, bottom, right, top] : cases)
     expect_near(outputs(trvenv, 1, 2, x, y, quarters * pi / 2), {left, bottom, right, top}, 1e-6);
   for (const int i : {0, 1, 2, 3, 4}) {

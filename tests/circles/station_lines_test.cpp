@@ -39,6 +39,7 @@ TEST(StationLines, RadiiMayDifferByTheRoundingOfTheCoordinates) {
   EXPECT_EQ(cross({1e4, -1e4, 9700, -1e4, 10300.006, -1e4}, 100, 1, 20, 1.1), refused);
   EXPECT_EQ(cross({0, 0, -5, 0, 5.0001, 0}, 1, 1, 1, 1).back(), 1);
   EXPECT_EQ(cross({0, 0, -5, 0, 5.00011, 0}, 1, 1, 1, 1), refused);
+  EXPECT_EQ(cross({0, 0, -0.01, 0, 0.0101001, 0}, 1e-3, 1, 1, 1), refused);  // by 1.001e-4
 }
 
 TEST(StationLines, Refusals) {

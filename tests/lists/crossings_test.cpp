@@ -83,6 +83,7 @@ TEST(Crossings, OfATriangleAndOfItsFirstVertex) {
   const Crossings steep = cross(triangle, 4, 0, 4, 10);
   EXPECT_EQ(steep.y, (Reals{3, 8}));
   EXPECT_EQ(steep.edge, (Integers{1, 3}));
+  EXPECT_EQ(cross(triangle, 4, 10, 4, 0).y, (Reals{8, 3}));  // the last vertex comes first
   const Crossings corner =
       cross(triangle, 0, 1, 5, 6);  // y = x + 1 passes through the first vertex
   EXPECT_EQ(corner.x, Reals{1});

@@ -69,6 +69,13 @@ TEST(Ordering, SortsInPlace) {
   }
   EXPECT_EQ(Values(reals, reals + 6), (Values{-1, -1, 2, 3, infinity, -7}));
   EXPECT_EQ(Values(integers, integers + 6), (Values{INT32_MIN, -1, 2, 3, INT32_MAX, -7}));
+  trvord(reals + 4, 2);
+  trvord1(integers + 4, 2);
+  EXPECT_TRUE(reals[4] == -7 && integers[4] == -7);
+  Integers many(100);
+  std::iota(many.rbegin(), many.rend(), -50);
+  trvord1(many.data(), size_of(many));
+  EXPECT_TRUE(std::is_sorted(many.begin(), many.end()));
 }
 
 TEST(Ordering, OddListsAreSortedAndOrderedAsThePlainWays) {

@@ -63,3 +63,12 @@ TEST(EdgeSums, OfFourNumbersAtATime) {
   if (trelvin::avx2_sums == nullptr || !trelvin::has_avx2()) GTEST_SKIP() << "no AVX2 here";
   expect_the_sums_of_single_numbers(*trelvin::avx2_sums);
 }
+
+TEST(EdgeSums, AreFormedByLanesFromSixteenEdgesOn) {
+  const SumsByLanes sums = {trelvin::area_sum, trelvin::first_moment_sums,
+                            trelvin::second_moment_sums};
+  for (const std::int32_t n : {13, 14, 15, 16, 17, 18}) {
+    const Outline o = outline(n, 0);
+    EXPECT_EQ(bits(sums, o) == bits(trelvin::sums_by<double>, o), n >= 16) << n;
+  }
+}

@@ -111,6 +111,10 @@ TEST(ThinWalled, EqualAreaAxisInAPlatesCorner) {
 TEST(ThinWalled, EqualAreaAxisInTheMiddleOfAGap) {
   const Section s({{0, 0, 10, 0, 2}, {0, 50, 10, 50, 2}});
   expect_near({s.yp, s.Wpx, s.xp}, {25, 1000, 5}, 1e-7);
+  // From 1 to 2, and from -2 to -1: next to one end of the section.
+  expect_near({Section({{0, 0, 10, 0, 2}, {0, 2, 0, 82, 0.25F}}).yp,
+               Section({{0, 0, 10, 0, 2}, {0, -82, 0, -2, 0.25F}}).yp},
+              {1.5, -1.5}, 1e-7);
 }
 
 TEST(ThinWalled, ChannelsAgreeWithTheirClosedForms) {
@@ -217,6 +221,12 @@ TEST(ThinWalled, PlatesMeetWithinTheTolerance) {
   // A third of 1000 in single precision is further off the line than that.
   EXPECT_EQ(
       Section({{0, 0, 3000, 1000, 1}, {0, 0, 0, 900, 1}, {0, 900, 1000, 333.3334F, 1}}).status, 6);
+}
+
+TEST(ThinWalled, SmallPlatesThatPointAtEachOtherDoNotMeet) {
+  // The last one ends beside the first, or passes beyond its end.
+  EXPECT_EQ(Section({{0, 0, 1, 1, 1}, {0, 0, 0.9F, 0, 1}, {0.9F, 0, 0.6F, 0.3F, 1}}).status, 0);
+  EXPECT_EQ(Section({{0, 0, 0.5F, 0.5F, 1}, {0, 0, 1, 0.3F, 1}, {1, 0.3F, 0.3F, 1, 1}}).status, 0);
 }
 
 TEST(FlatBar, TwistsAsTabulated) {

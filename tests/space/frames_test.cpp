@@ -117,6 +117,7 @@ TEST(Frames, ShiftAndTurnsAboutTheGlobalAxes) {
   EXPECT_EQ(moved(unit, t, -t, not_a_number, t, -t, t), unit);
   EXPECT_EQ(moved(unit, t, t, b, 0, 0, 0), (Points{1 + t, t, 0, t, 1 + t, 0, b, b, 0}));
   EXPECT_EQ(moved(unit, 0, 0, 0, b, 0, 0), (Points{1, 0, 0, 0, 1, 0, 0, b, 0}));
+  EXPECT_EQ(moved(unit, 0, 0, 0, 0, b, 0), (Points{1, 0, 0, 0, 1, 0, b, 0, 0}));
   EXPECT_EQ(moved(unit, 0, 0, 0, 0, 0, b), (Points{1, -b, 0, b, 1, 0, 0, 0, 0}));
 }
 
@@ -151,6 +152,7 @@ TEST(Frames, GlobalShiftComesAfterTheTurnsOfPointsOfAPlane) {
   EXPECT_EQ(moved(in_sevens(3, 0, 0), 1, infinity), -1);
   // The second point is 3.5 off, times the 49 of the normal: 171.5.
   EXPECT_EQ(moved(w, 2, 171.4F), 2);
+  EXPECT_EQ(moved(w, 2, -1), 1);  // so is every point here, and the first is told
   EXPECT_EQ(moved(w, 0, 0), 0);
   EXPECT_EQ(p, start);
   p[1] = not_a_number;

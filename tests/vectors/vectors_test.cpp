@@ -30,6 +30,16 @@ TEST(Vectors, CoincidenceHoldsAtTheToleranceItselfAndNullAtZeroOnly) {
   }
 }
 
+TEST(Vectors, ComponentsThatDifferByMoreThanTheTolerance) {
+  const double codes[] = {0, 2, 3, 5, 4, 7, 6, 1};  // by the sum of 1, 2 and 4 for those that do
+  for (const int which : {0, 1, 2, 3, 4, 5, 6, 7}) {
+    const double x = which & 1, y = which & 2, z = which & 4;
+    EXPECT_EQ(outputs(trvpsn, 10, 20, 30, 10 + x, 20 - y, 30 + z), (Values{codes[which]})) << which;
+  }
+  EXPECT_EQ(outputs(trvpsn, 0, 0, 0, -tolerance, beyond, tolerance), (Values{3}));
+  EXPECT_EQ(outputs(trvpsn, 0, beyond, 0, 0, 0, -beyond), (Values{6}));
+}
+
 TEST(Vectors, AlongTheLineOfTwoPoints) {
   EXPECT_EQ(outputs(trv123, 0, 0, 0, tolerance, tolerance, tolerance, 0.5),
             (Values{unwritten, unwritten, unwritten, 1}));
