@@ -13,7 +13,7 @@ demo=no
 [ $demo = yes ] || packages+=(
   clang libclang-rt-14-dev clang-format clang-tidy      # sanitizers, formatting
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
-  dpkg-dev                                              # the packages' dependencies
+  dpkg-dev file                                         # the packages' dependencies
   python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
   wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld # WebAssembly
   chromium                                              # the page that is made of it
