@@ -106,6 +106,9 @@ TEST(ThinWalled, EqualAreaAxisInAPlatesCorner) {
   // A square on its corner, 20 high, and 60 of area above it: 70 are missing to half of 260.
   const Section s({{0, 0, 10, 10, 14.142136F}, {10, 10, 10, 40, 2}});
   expect_near({s.yp, s.Wpx}, {15 - std::sqrt(70), 2600 - 280 * std::sqrt(70) / 3}, 1e-6);
+  // Widest in the section's middle, at 1.5, and narrowing by 25/12 a unit up to 4.5: 5 of 23.75 lie
+  // in the other plate, 6.875 above the axis.
+  EXPECT_NEAR(Section({{0, 0, 4, 3, 3.75F}, {0, 3, 10, 3, 0.5F}}).yp, 4.5 - std::sqrt(6.6), 1e-6);
 }
 
 TEST(ThinWalled, EqualAreaAxisInTheMiddleOfAGap) {
