@@ -84,6 +84,11 @@ class Turn {
     return overlapped;
   }
 };
+
+HANDLE open_to_append(DWORD access) {
+  return CreateFileA(file_name, access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS,
+                     FILE_ATTRIBUTE_NORMAL, nullptr);
+}
 #endif
 
 }  // namespace
@@ -137,9 +142,8 @@ void TraceFile::append(const TraceRecord &record) {
 
 bool TraceFile::write(std::string_view bytes) {
   if (!open_) {
-    constexpr DWORD access = FILE_APPEND_DATA | FILE_READ_DATA;  // to read is what a lock asks for
-    handle_ = CreateFileA(file_name, access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                          OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    handle_ = open_to_append(FILE_APPEND_DATA | FILE_READ_DATA);  // to read is what a lock asks for
+    if (handle_ == INVALID_HANDLE_VALUE) handle_ = open_to_append(FILE_APPEND_DATA);
     open_ = handle_ != INVALID_HANDLE_VALUE;
     if (!open_) return false;
   }
