@@ -1,5 +1,6 @@
 """What the generator reads from contracts, and what it must never change."""
 
+import re
 import sys
 import unittest
 from pathlib import Path
@@ -132,6 +133,14 @@ class Rooms(unittest.TestCase):
         self.assertEqual(faults("plane", '#include "space/planes.h"'), 1)
         self.assertEqual(faults("plane", "void f(TrvIn x);  // TrvOut"), 1)
         self.assertEqual(faults("cellar", ""), 1)
+
+
+class Tests(unittest.TestCase):
+    def test_every_routine_has_a_unit_test(self):
+        tests = Path(__file__).resolve().parents[1].glob("*/*_test.cpp")
+        named = set(re.findall(r"\btrv\w+", " ".join(test.read_text() for test in tests)))
+        routines = {routine.name for routine in headers.routines_of(headers.read_all())}
+        self.assertEqual(routines - named, set())
 
 
 if __name__ == "__main__":
