@@ -10,8 +10,13 @@ async function startEngine() {
   const characters = atob(document.getElementById('code').textContent);
   const packed = new Uint8Array(characters.length);
   for (let i = 0; i < packed.length; ++i) packed[i] = characters.charCodeAt(i);
-  const unpacked = new Blob([packed]).stream().pipeThrough(new DecompressionStream('gzip'));
-  const { instance } = await WebAssembly.instantiate(await new Response(unpacked).arrayBuffer());
+  // Written to the stream here: a Blob's own stream comes by way of another process.
+  const unpacking = new DecompressionStream('gzip');
+  const writer = unpacking.writable.getWriter();
+  const written = Promise.all([writer.write(packed), writer.close()]);
+  const unpacked = await new Response(unpacking.readable).arrayBuffer();
+  await written;
+  const { instance } = await WebAssembly.instantiate(unpacked);
   const code = instance.exports;
   code._initialize();
 
