@@ -811,8 +811,9 @@ def trvcin(
 
     The first call opens the file in the directory that is current then; it stays open, wherever the
     current directory goes, until the library is unloaded. It is never emptied, and complete after
-    each call. The record of a call goes out in one write, behind what other processes append. Where
-    it cannot be written the call computes as always and the file is closed; the next call opens it
+    each call. The record of a call goes out in one write, behind what other processes append; on
+    Windows under a lock of a byte far behind the text, for which it does not wait long. Where it
+    cannot be written the call computes as always and the file is closed; the next call opens it
     again and starts on a line of its own.
 
     Retains: the open trace file.
