@@ -1,6 +1,6 @@
 """The module for Visual Basic 6 and for Basic in Office."""
 
-from bindings_facts import NOTICE, constants_of, explanation, wrap, wrap_list
+from bindings_text import NOTICE, constants, explanation, wrap, wrap_list
 
 # Keywords and functions that no argument may be named; such an argument gets an underscore.
 RESERVED = set("""
@@ -29,11 +29,12 @@ Public Const TrelvinVersion As String = "%s"
 """
 
 
-def text(families, version):
-    routines = [routine for family in families for routine in family.routines]
-    lines = [HEAD % version]
-    for routine in routines:
-        lines += [f"Public Const {c.camel} As Long = {c.value}" for c in constants_of(routine)]
+def text(interface):
+    routines = interface.routines
+    lines = [HEAD % interface.version]
+    for comment, values in constants(interface, "camel"):
+        lines += ["", *wrap(comment, "' ")]
+        lines += [f"Public Const {name} As Long = {number}" for name, number in values]
     lines += ["", "#If VBA7 And Win64 Then"]
     for routine in routines:
         lines += ["", *_comment(routine)]
@@ -56,7 +57,7 @@ def _declaration(routine, declare, library, address):
 
 
 def _parameter(argument, address):
-    if argument.type == "TrvFunctionIn":
+    if argument.kind == "function":
         return f"ByVal {argument.name} As {address}"  # AddressOf a function
     name = argument.name + "_" * (argument.name.lower() in RESERVED)
     return f"ByRef {name} As {'Long' if argument.is_integer else 'Single'}"

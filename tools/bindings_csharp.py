@@ -2,7 +2,7 @@
 
 from xml.sax.saxutils import escape
 
-from bindings_facts import NOTICE, constants_of, explanation, wrap, wrap_list
+from bindings_text import NOTICE, constants, explanation, wrap, wrap_list
 
 RESERVED = set("""
 abstract as base bool break byte case catch char checked class const continue decimal default
@@ -38,13 +38,12 @@ namespace Trelvin
 INDENT = " " * 8
 
 
-def text(families, version):
-    lines = [HEAD % version]
-    for family in families:
-        for routine in family.routines:
-            for constant in constants_of(routine):
-                lines.append(f"{INDENT}public const int {constant.camel} = {constant.value};")
-    for family in families:
+def text(interface):
+    lines = [HEAD % interface.version]
+    for comment, values in constants(interface, "camel"):
+        lines += ["", *wrap(comment, f"{INDENT}// ")]
+        lines += [f"{INDENT}public const int {name} = {number};" for name, number in values]
+    for family in interface.families:
         lines += ["", f"{INDENT}// {family.title}"]
         for routine in family.routines:
             lines += ["", *_comment(routine), *_external(routine)]
@@ -94,25 +93,25 @@ def _is_single_output(argument):
 
 
 def _array_or_function(argument):
-    if argument.type == "TrvFunctionIn":
+    if argument.kind == "function":
         return "PositionFunction"
     direction = "[In, Out]" if argument.is_written else "[In]"
     return f"{direction} {'int' if argument.is_integer else 'float'}[]"
 
 
 def _by_address(argument):
-    if argument.is_array or argument.type == "TrvFunctionIn":
+    if argument.is_array or argument.kind == "function":
         return _array_or_function(argument)
     return "ref int" if argument.is_integer else "ref float"
 
 
 def _by_choice(argument):
-    if argument.is_array or argument.type == "TrvFunctionIn":
+    if argument.is_array or argument.kind == "function":
         return _array_or_function(argument).split("] ", 1)[-1]
     way = "" if _takes_value(argument) else "out " if _is_single_output(argument) else "ref "
     return way + ("int" if argument.is_integer else "float")
 
 
 def _passed(argument):
-    single = not argument.is_array and argument.type != "TrvFunctionIn"
+    single = not argument.is_array and argument.kind != "function"
     return "ref " * single + _name(argument)

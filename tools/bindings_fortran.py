@@ -1,8 +1,6 @@
 """The Fortran module: an interface block with every routine."""
 
-import headers
-from bindings_facts import (NOTICE, always_written, constants_of, explanation, groups, wrap,
-                            wrap_list)
+from bindings_text import NOTICE, constants, explanation, groups, wrap, wrap_list
 
 HEAD = f"""\
 ! {NOTICE}
@@ -37,23 +35,18 @@ FUNCTION = """\
 """
 
 
-def text(families, version):
-    lines = [HEAD, f'  character(*), parameter :: trelvin_version = "{version}"', ""]
-    for family in families:
-        for routine in family.routines:
-            lines += _constants(routine)
+def text(interface):
+    lines = [HEAD, f'  character(*), parameter :: trelvin_version = "{interface.version}"']
+    for comment, values in constants(interface):
+        lines += ["", *wrap(comment, "  ! ")]
+        lines += [f"  integer(c_int32_t), parameter :: {name} = {number}" for name, number in values]
     lines += ["", FUNCTION, "  interface"]
-    for family in families:
+    for family in interface.families:
         lines += ["", f"    ! {family.title}"]
         for routine in family.routines:
             lines += ["", *_interface(routine)]
     lines += ["", "  end interface", "end module trelvin"]
     return "\n".join(lines) + "\n"
-
-
-def _constants(routine):
-    for constant in constants_of(routine):
-        yield f"  integer(c_int32_t), parameter :: {constant.snake} = {constant.value}"
 
 
 def _interface(routine):
@@ -63,20 +56,18 @@ def _interface(routine):
         yield from wrap(paragraph, "    !! " if i else "    !> ", "    !! ")
     yield from wrap_list(names, f"    subroutine {routine.name}(", "        ",
                          f') bind(c, name="{routine.name}")', " &")
-    function = [a for a in routine.arguments if a.type == "TrvFunctionIn"]
+    function = [a for a in routine.arguments if a.kind == "function"]
     yield "      import :: c_float, c_int32_t" + (", trvfunction" if function else "")
     yield f"      TRELVIN_CALL {routine.name}"
-    for kind, arguments in groups((_kind(routine, a), a.name + "(*)" * a.is_array)
+    for kind, arguments in groups((_kind(a), a.name + "(*)" * a.is_array)
                                   for a in routine.arguments):
         yield from wrap_list(arguments, f"      {kind} ::", "        ", "", " &")
     yield "    end subroutine"
 
 
-def _kind(routine, argument):
-    if argument.type == "TrvFunctionIn":
+def _kind(argument):
+    if argument.kind == "function":
         return "procedure(trvfunction)"
     kind = "integer(c_int32_t)" if argument.is_integer else "real(c_float)"
-    direction = headers.TYPES[argument.type][2]
-    if direction == "out" and not always_written(routine, argument):
-        direction = "inout"
-    return f"{kind}, intent({direction})"
+    keeps = argument.direction == "out" and not argument.always_written
+    return f"{kind}, intent({'inout' if keeps else argument.direction})"

@@ -2,8 +2,8 @@
 
 import json
 
-from bindings_facts import NOTICE, constants_of, explanation, wrap, wrap_list
 from bindings_python import Routine
+from bindings_text import NOTICE, constants, explanation, wrap, wrap_list
 
 HEAD = f"""\
 // {NOTICE}
@@ -31,17 +31,16 @@ PACKAGE = {
 }
 
 
-def package(_families, version):
-    return json.dumps(PACKAGE | {"version": version}, indent=2) + "\n"
+def package(interface):
+    return json.dumps(PACKAGE | {"version": interface.version}, indent=2) + "\n"
 
 
-def text(families, version):
-    lines = [HEAD % version]
-    for family in families:
-        for routine in family.routines:
-            constants = constants_of(routine)
-            lines += [f"export const {c.camel} = {c.value};" for c in constants]
-    for family in families:
+def text(interface):
+    lines = [HEAD % interface.version]
+    for comment, values in constants(interface, "camel"):
+        lines += ["", *wrap(comment, "// ")]
+        lines += [f"export const {name} = {number};" for name, number in values]
+    for family in interface.families:
         lines += ["", f"// {family.title}"]
         for routine in family.routines:
             facts = Routine(routine, named=str)

@@ -2,9 +2,7 @@
 
 from xml.sax.saxutils import escape
 
-import headers
-from bindings_facts import (NOTICE, always_written, constants_of, explanation, groups, wrap,
-                            wrap_list)
+from bindings_text import NOTICE, constants, explanation, groups, wrap, wrap_list
 
 # Words of the language, of either compiler; an argument of such a name gets an underscore.
 RESERVED = set("""
@@ -52,13 +50,13 @@ type
 """
 
 
-def text(families, version):
-    lines = [HEAD % version]
-    for family in families:
-        for routine in family.routines:
-            lines += [f"  {c.snake} = {c.value};" for c in constants_of(routine)]
+def text(interface):
+    lines = [HEAD % interface.version]
+    for comment, values in constants(interface):
+        lines += ["", *wrap(comment, "  // ")]
+        lines += [f"  {name} = {number};" for name, number in values]
     lines += [TYPES.rstrip()]
-    for family in families:
+    for family in interface.families:
         lines += ["", f"// {family.title}"]
         for routine in family.routines:
             lines += ["", *_declaration(routine)]
@@ -70,7 +68,7 @@ def _declaration(routine):
         tag = "remarks" if i else "summary"
         yield from wrap(f"<{tag}>{escape(paragraph)}</{tag}>", "/// ")
     yield f"procedure {routine.name}("
-    parts = groups((_kind(routine, a), _name(a)) for a in routine.arguments)
+    parts = groups((_kind(a), _name(a)) for a in routine.arguments)
     for i, ((way, kind), names) in enumerate(parts):
         names[-1] += f": {kind}"
         yield from wrap_list(names, f"  {way}", "    ", ";" if i + 1 < len(parts) else ");")
@@ -81,11 +79,11 @@ def _name(argument):
     return argument.name + "_" * (argument.name.lower() in RESERVED)
 
 
-def _kind(routine, argument):
-    if argument.type == "TrvFunctionIn":
+def _kind(argument):
+    if argument.kind == "function":
         return "", "TTrvFunction"
-    way = {"in": BY_ADDRESS, "out": "var", "inout": "var"}[headers.TYPES[argument.type][2]]
-    if always_written(routine, argument):
+    way = BY_ADDRESS if argument.direction == "in" else "var"
+    if argument.always_written:
         way = "out"
     kinds = ("TTrvReals", "TTrvIntegers") if argument.is_array else ("Single", "LongInt")
     return way, kinds[argument.is_integer]

@@ -2,19 +2,13 @@
 
 import builtins
 import keyword
-import re
-import textwrap
 
-import contracts
-import headers
+from bindings_text import comment_of, old_names, told, wrap
 
 PACKAGE = "bindings/python/trelvin"
 MOST_ARGUMENTS = 34  # that bindings/python/trelvin/_loop.c passes
 WIDTH = 96
 
-CONTRACT = re.compile(r"/\*\*((?:(?!\*/).)*)\*/\s*TRELVIN_ROUTINE\s+(\w+)", re.S)
-# Of an array that shrinks, beside `n used`.
-BEYOND = re.compile(r"unspecified (?:beyond (?:the new )?|from )(\w+)")
 
 HEAD = '''\
 """The routines. Generated from include/trelvin by tools/generate.py."""
@@ -34,35 +28,55 @@ _NAN = float("nan")
 '''
 
 
-def outputs(families=None):
+def outputs(interface):
     """The files, by their paths."""
-    version = re.search(r'TRELVIN_VERSION "(.*)"', (headers.INTERFACE / "calling.h").read_text())
     note = "# Generated from include/trelvin/calling.h by tools/generate.py.\n"
     return {
-        f"{PACKAGE}/_routines.py": _module(families or headers.read_all()),
-        f"{PACKAGE}/_version.py": f'{note}__version__ = "{version.group(1)}"\n',
+        f"{PACKAGE}/_routines.py": _module(interface),
+        f"{PACKAGE}/_version.py": f'{note}__version__ = "{interface.version}"\n',
     }
 
 
-def _module(families):
-    texts = {}
-    for family in families:
-        for comment, name in CONTRACT.findall((headers.ROOT / family.header).read_text()):
-            texts[name] = "\n".join(re.sub(r"^\s*\* ?", "", line) for line in comment.splitlines())
-    routines = []
-    for routine in headers.routines_of(families):
-        try:
-            routines.append(Routine(routine, texts[routine.name]))
-        except contracts.Unreadable:
-            pass  # headers.inexact tells of it
-    names = [name for routine in routines for name in routine.names()]
-    meanings = [line for routine in routines for line in routine.meanings()]
+def _module(interface):
+    routines = [Routine(routine) for routine in interface.routines]
+    old, aliases = {}, {}
+    for name, new in (pair for pair in old_names() if "." in pair[0]):
+        (title, member), (now, value) = name.split("."), new.split(".")
+        old.setdefault(now, {})[member] = value
+        aliases |= {title: now} if title != now else {}
+    names = [enumeration.name for enumeration in interface.enumerations()]
+    names += [*aliases, *(name for routine in routines for name in routine.names())]
+    meanings = [line for routine in interface.routines for line in _meanings(routine)]
     return "\n".join(
         [HEAD]
         + ["__all__ = [", *_wrapped([f'"{name}"' for name in names], ","), "]"]
         + ["", "MEANINGS: dict[str, dict[str, dict[int, str]]] = {", *meanings, "}"]
+        + [line for e in interface.enumerations() for line in _enumeration(e, old.get(e.name, {}))]
+        + ["", "", "# Names of version 1.1, which the next version drops."]
+        + [f"{title} = {now}" for title, now in aliases.items()]
         + [part for routine in routines for part in routine.parts()]
     )
+
+
+def _meanings(routine):
+    written = [a for a in routine.named_values() if a.is_written]
+    if written:
+        yield f'    "{routine.name}": {{'
+        for argument in written:
+            yield f'        "{argument.name}": {{'
+            values = sorted(argument.values.values, key=lambda value: value.number)
+            yield from (f"            {v.number}: {v.meaning!r}," for v in values)
+            yield "        },"
+        yield "    },"
+
+
+def _enumeration(enumeration, old):
+    yield from ("", "", f"class {enumeration.name}(IntEnum):")
+    yield from _filled(f'"""{comment_of(enumeration)}"""', 4, 4)
+    yield ""
+    yield from (f"    {value.name.upper()} = {value.number}" for value in enumeration.values)
+    yield from (f"    {member} = {now}  # of version 1.1" for member, now in old.items()
+                if member != now)  # fmt: skip
 
 
 def _wrapped(items, end, indent=4, width=WIDTH):
@@ -72,8 +86,7 @@ def _wrapped(items, end, indent=4, width=WIDTH):
 
 
 def _filled(text, first, others, width=WIDTH):
-    return textwrap.wrap(text, width, initial_indent=first * " ", subsequent_indent=others * " ",
-                         break_long_words=False, break_on_hyphens=False)  # fmt: skip
+    return wrap(text, first * " ", others * " ", width)
 
 
 def _python_name(name):
@@ -83,25 +96,19 @@ def _python_name(name):
 
 
 class Argument:
-    def __init__(self, argument, counts, named):
+    def __init__(self, argument, named):
         self.name = named(argument.name)
-        self.direction = headers.TYPES[argument.type][2]
-        self.kind = "int" if argument.is_integer else "real"
-        if argument.type == "TrvFunctionIn":
-            self.kind = "function"
-        self.text = argument.text
-        self.least = None
+        self.direction = argument.direction
+        self.kind = {"integer": "int"}.get(argument.kind, argument.kind)
+        self.text = told(argument)
+        self.least = argument.least if argument.direction != "out" else None
+        self.values = argument.values if argument.is_written else None
+        self.open = bool(argument.values and (argument.values.ranges or argument.kept))
         self.lengths_of = []
-        self.sizes = []
-        if argument.is_array:
-            contracts.size_of(argument.text, counts)  # for its complaints
-            sizes, used, self.by = contracts.SIZE.match(argument.text).groups()
-            self.sizes = sizes.split(", ")
-            beyond = BEYOND.search(argument.text)
-            used = used or (beyond.group(1) if beyond else None)
-            self.used = named(used) if used else None
-        elif argument.is_integer and self.direction != "out":
-            self.least = contracts.least_of(argument.text)
+        size = argument.size
+        self.sizes = size.sizes if size else []
+        self.by = size.kind if size else None
+        self.used = named(size.used) if size and size.used and not size.used.isdigit() else None
 
     @property
     def is_array(self):
@@ -129,27 +136,26 @@ class Argument:
         return "ArrayLike" if self.is_array else number
 
     def result_hint(self):
-        return f"NDArray[{self.kind.replace('real', 'float')}32]" if self.is_array else self.hint()
+        if self.is_array:
+            return f"NDArray[{self.kind.replace('real', 'float')}32]"
+        if self.values:
+            return self.values.enumeration.name + " | int" * self.open
+        return self.hint()
 
 
 class Routine:
-    def __init__(self, routine, text="", named=_python_name):
+    def __init__(self, routine, named=_python_name):
         self.name = routine.name
-        self.text = text
-        self.retains = routine.retains != "nothing."
-        counts = routine.counts()
-        self.arguments = [Argument(a, counts, named) for a in routine.arguments]
+        self.routine = routine
+        self.arguments = [Argument(a, named) for a in routine.arguments]
         if len(self.arguments) > MOST_ARGUMENTS:
-            raise contracts.Unreadable(f"more than {MOST_ARGUMENTS} arguments")
+            raise ValueError(f"{self.name}: more than {MOST_ARGUMENTS} arguments")
         self.inputs = [a for a in self.arguments if a.direction != "out"]
         self.written = [a for a in self.arguments if a.direction != "in"]
         for count in self.inputs:
             if count.kind == "int" and not count.is_array:
                 arrays = [a for a in self.inputs if a.is_array and a.is_as_long_as(count.name)]
                 count.lengths_of = [a.name for a in arrays]
-        self.statuses = {
-            a.name: _meanings_of(a.text) for a in routine.arguments if contracts.names_values(a)
-        }
 
     def _title(self, end):
         return "".join(part.capitalize() for part in self.name.split("_")) + end
@@ -161,23 +167,9 @@ class Routine:
         yield self.name
         if self._result():
             yield self._result()
-        yield from (title for title, _ in self._constants())
-
-    def meanings(self):
-        if self.statuses:
-            yield f'    "{self.name}": {{'
-            for name, meanings in self.statuses.items():
-                yield f'        "{name}": {{'
-                yield from (f"            {value}: {text!r}," for value, text in meanings.items())
-                yield "        },"
-            yield "    },"
 
     def parts(self):
         yield "\n"
-        for title, members in self._constants():
-            yield f"class {title}(IntEnum):"
-            yield from (f"    {member} = {value}" for value, member in members.items())
-            yield "\n"
         if self._result():
             yield f"class {self._result()}(NamedTuple):"
             yield from (f"    {a.name}: {a.result_hint()}" for a in self.written)
@@ -186,17 +178,12 @@ class Routine:
         yield f"_{self.name} = Routine("
         yield f'    "{self.name}", {self._result()},'
         yield from (f'    "{piece} "' for piece in pieces[:-1])
-        yield f'    "{pieces[-1]}",' + ("\n    retains=True," if self.retains else "")
+        named = [f"{a.name}={a.values.enumeration.name}" for a in self.written
+                 if a.values and not a.is_array]
+        yield f'    "{pieces[-1]}",' + ("\n    retains=True," if self.routine.retains else "")
+        yield from _wrapped([f"values=dict({', '.join(named)})"], ",") if named else []
         yield ")\n\n"
         yield from self._function()
-
-    def _constants(self):
-        """The values of statuses whose meaning makes a name."""
-        for argument, meanings in self.statuses.items():
-            named = {value: _constant(text) for value, text in meanings.items()}
-            named = {value: name for value, name in named.items() if name}
-            if named and len(set(named.values())) == len(named):
-                yield self._title(argument.capitalize()), named
 
     def _function(self):
         free = [a for a in self.inputs if not a.lengths_of]
@@ -221,10 +208,16 @@ class Routine:
         yield from _filled(f"return {call}", 4, 8)
 
     def _docstring(self):
-        description, _, _ = self.text.partition("\n@param")
-        lines = description.strip().split("\n")
-        yield f'    """{lines[0]}'
-        yield from (f"    {line}".rstrip() for line in lines[1:])
+        routine = self.routine
+        paragraphs = [*routine.paragraphs] + [f"Cost: {routine.cost}"] * bool(routine.cost)
+        paragraphs.append(f"Retains: {routine.retains_text}.")
+        yield from _filled(f'"""{paragraphs[0]}', 4, 4)
+        for paragraph in paragraphs[1:]:
+            yield ""
+            if isinstance(paragraph, str):
+                yield from _filled(paragraph, 4, 4)
+            else:
+                yield from (f"    {line}" for line in paragraph)
         for title, arguments in (("Arguments", self.inputs), ("Returns", self.written)):
             if arguments:
                 yield f"\n    {title}:"
@@ -233,35 +226,6 @@ class Routine:
                 alike = [a.name for a in arguments if a.text == text]
                 arguments = [a for a in arguments if a.text != text]
                 yield from _filled(f"{', '.join(alike)}: {text}", 6, 8)
-        if "unwritten" in self.text:
+        if any(a.kept for a in routine.arguments if a.direction == "out"):
             yield "\n    What is unwritten is NaN where it is a Real, 0 where it is an Integer."
         yield '    """'
-
-
-def _meanings_of(text):
-    """Value: meaning. Ranges, and values that share a meaning, have it each."""
-    meanings = {}
-    for item in text.split("; "):
-        match = contracts.ITEM.match(item)
-        if match:
-            first, last, _, listed, _, _ = match.groups()
-            always = item.startswith("always")
-            meaning = "always" if always else item[match.end() :].strip(" ,:")
-            if first:
-                values = range(int(first), int(last) + 1)
-            else:
-                values = map(int, re.findall(contracts.NUMBER, listed or ""))
-            meanings |= {value: meaning for value in values}
-    return dict(sorted(meanings.items()))
-
-
-def _constant(meaning):
-    """DONE of `done, also for parallel lines`; None where a meaning is no name."""
-    if "but also" in meaning:
-        return None
-    name = re.sub(r"\s*\([^()]*\)$", "", meaning.partition(":")[0])
-    name = re.sub(r"^(done|refused|ordered)\b.*", r"\1", name).removeprefix("the ")
-    plain = re.fullmatch(r"[A-Za-z][\w -]*", name) and " or " not in f" {name} "
-    if not plain or name.split()[0] in ("always", "it", "otherwise") or len(name.split()) > 8:
-        return None
-    return re.sub(r"\W+", "_", name).upper()

@@ -1,38 +1,47 @@
-"""Reads src/entries: the export table, and the bodies behind the interface headers."""
+"""What the libraries export, and the bodies behind the interface headers."""
 
 import re
 
-from headers import COMMENT, ROOT, routines_of
+from model import COMMENT, ROOT
 
-TABLE = ROOT / "src" / "entries" / "Trelvin.def"
-EXPORT = re.compile(r'^\s*"?([\w@]+)"? = \S+ @(\d+)$', re.M)
+FIRST = 142  # routines of version 1: their names share the first ordinals
+DIGEST = ROOT / "tests" / "hosts" / "digest.txt"
 BODY = re.compile(r"^TRELVIN_ROUTINE\s+(\w+)\([^)]*\)\s*\{([^\n]*\}$|.*?^\}$)", re.M | re.S)
 
 
-def committed_ordinals():
-    """What the export table says; hosts may bind to these numbers, so they stay for good."""
-    text = TABLE.read_text() if TABLE.exists() else ""
-    return {name: int(ordinal) for name, ordinal in EXPORT.findall(text)}
+def _digest():
+    """The routines that the digest lists, in its order: later routines stand behind earlier ones."""
+    return re.findall(r"^(trv\w+) +\w+$", DIGEST.read_text().split("\ndigest ")[0], re.M)
 
 
-def ordinals(routines, committed):
-    """Every exported name with its ordinal: those of the table, and the next ones for new names."""
-    result = dict(committed)
-    names = {name for routine in routines for name in (routine.name, routine.decorated)}
-    for name in sorted(names - result.keys(), key=lambda name: name.removeprefix("_").encode()):
-        result[name] = max(result.values(), default=0) + 1
-    return result
+def by_age(routines):
+    """The routines in the order of the digest. New ones, which it does not list yet, come last."""
+    order = {name: place for place, name in enumerate(_digest())}
+    return sorted(routines, key=lambda routine: order.get(routine.name, len(order)))
 
 
-def in_order(routines):
-    """Every exported name and its ordinal, as an export table lists them."""
-    return sorted(ordinals(routines, committed_ordinals()).items(), key=lambda entry: entry[1])
+def ordinals(routines):
+    """Every exported name with its ordinal. Hosts may bind to ordinals, so these stay for good.
+
+    The names of the first routines are sorted by their bytes; the leading underscore of a decorated
+    name does not count. The two names of each later routine follow, routine by routine.
+    """
+    pairs = [(routine.name, routine.decorated) for routine in by_age(routines)]
+    names = [name for pair in pairs[:FIRST] for name in pair]
+    names.sort(key=lambda name: name.removeprefix("_").encode())
+    names += [name for pair in pairs[FIRST:] for name in pair]
+    return {name: ordinal for ordinal, name in enumerate(names, start=1)}
 
 
-def export_faults(routines, committed):
-    names = {name for routine in routines for name in (routine.name, routine.decorated)}
-    for name in sorted(committed.keys() - names):
-        yield f"{name}: exported with ordinal {committed[name]}, and no header declares it"
+def faults(interface):
+    """What is wrong with the exports and the entries, a line each."""
+    yield from _export_faults(interface.routines)
+    yield from _body_faults(interface)
+
+
+def _export_faults(routines):
+    for name in sorted(set(_digest()) - {routine.name for routine in routines}):
+        yield f"{name}: in tests/hosts/digest.txt, and no header declares it"
 
 
 def bodies_of(text):
@@ -41,10 +50,9 @@ def bodies_of(text):
     return [match.groups() for match in BODY.finditer(code)]
 
 
-def body_faults(families):
-    """What is wrong with the entries, a line each."""
+def _body_faults(interface):
     found = {}
-    for family in families:
+    for family in interface.families:
         file = ROOT / "src" / "entries" / f"{family.name}.cpp"
         bodies = bodies_of(file.read_text()) if file.exists() else []
         declared = [routine.name for routine in family.routines]
@@ -59,19 +67,19 @@ def body_faults(families):
         for name, body in bodies:
             if not body.lstrip().startswith("const Door door;"):
                 yield f"{name}: does not start with `const Door door;`"
-    yield from _bodies_in_rooms(families, found)
-    for routine in routines_of(families):
-        if routine.name in found and routine.retains:
+    yield from _bodies_in_rooms(interface, found)
+    for routine in interface.routines:
+        if routine.name in found and routine.retains is not None:
             mentions = re.search(r"\bretained\b", found[routine.name])
-            if bool(mentions) == (routine.retains == "nothing."):
-                yield f"{routine.name}: retains {routine.retains} Its body tells otherwise"
+            if bool(mentions) != bool(routine.retains):
+                yield f"{routine.name}: retains {routine.retains_text}. Its body tells otherwise"
 
 
-def _bodies_in_rooms(families, found):
-    declared = {routine.name for routine in routines_of(families)}
+def _bodies_in_rooms(interface, found):
+    declared = {routine.name for routine in interface.routines}
     in_rooms = set()
     for source in sorted((ROOT / "src").rglob("*.cpp")):
-        if source.parent.name != "entries" or source.stem not in {f.name for f in families}:
+        if source.parent.name != "entries" or source.stem not in {f.name for f in interface.families}:
             in_rooms |= {name for name, _ in bodies_of(source.read_text())}
     for name in sorted(in_rooms):
         yield f"{name}: its body is not in src/entries/FAMILY.cpp"

@@ -5,37 +5,67 @@
     tools/generate.py --check    write nothing; fail when a contract is faulty or a file out of date
 """
 
+import json
 import re
 import sys
 
-import bindings
+import bindings_basic
+import bindings_csharp
+import bindings_fortran
+import bindings_node
+import bindings_pascal
 import bindings_python
-import contracts
+import bindings_text
 import entries
-import headers
-
+import model
+import rooms
 
 TABLE_HEAD = ["; Generated from include/trelvin by tools/generate.py."]
 
 
-def export_table(families):
+def export_table(interface):
     """Both names of each routine on one entry, by ordinal."""
-    routines = headers.routines_of(families)
+    routines = interface.routines
     symbols = {name: r.decorated[1:] for r in routines for name in (r.name, r.decorated)}
     lines = TABLE_HEAD + ["LIBRARY Trelvin", "EXPORTS"]
-    for name, ordinal in entries.in_order(routines):
+    for name, ordinal in entries.ordinals(routines).items():
         quoted = f'"{name}"' if "@" in name else name
-        lines.append(f"  {quoted} = {symbols.get(name, name.removeprefix('_'))} @{ordinal}")
+        lines.append(f"  {quoted} = {symbols[name]} @{ordinal}")
     return "\n".join(lines) + "\n"
 
 
-def export_table_64(families):
+def export_table_64(interface):
     """The names that 64-bit Windows leaves plain, by the same ordinals."""
     lines = TABLE_HEAD + ["LIBRARY Trelvin64", "EXPORTS"]
-    for name, ordinal in entries.in_order(headers.routines_of(families)):
+    for name, ordinal in entries.ordinals(interface.routines).items():
         if "@" not in name:
             lines.append(f"  {name} @{ordinal}")
     return "\n".join(lines) + "\n"
+
+
+ENUMERATORS_HEAD = """\
+/**
+ * @file
+ * The values that belong to one routine each, by name. Shared ones are in values.h.
+ *
+ * Generated from include/trelvin by tools/generate.py.
+ */
+#ifndef TRELVIN_NAMES_H
+#define TRELVIN_NAMES_H
+"""
+
+
+def enumerators(interface):
+    lines = [ENUMERATORS_HEAD.rstrip()]
+    for enumeration in interface.enumerations():
+        if not enumeration.shared:
+            lines += ["", f"/** {bindings_text.comment_of(enumeration)} */"]
+            lines += [f"enum {enumeration.name} {{"]
+            for value in enumeration.values:
+                lines += bindings_text.wrap(f"/** {value.meaning} */", "  ", "   * ")
+                lines.append(f"  {enumeration.upper(value)} = {value.number},")
+            lines.append("};")
+    return "\n".join([*lines, "", "#endif"]) + "\n"
 
 
 ROUTINES_HEAD = """\
@@ -44,66 +74,146 @@ ROUTINES_HEAD = """\
 //
 // ROUTINE(name, number of arguments, their names)
 // SIZE(name, argument, elements)         of an array, from the single Integers: count(argument)
+// USED(name, argument, used, scratch)    elements that are written, and those that may be besides
 // LEAST(name, argument, value)           that is allowed of an Integer input
 // STATUS(name, argument, further, values)   that an Integer output may have, and from `further` on
 //                                           all larger ones too, or none
+// KEPT(name, argument, teller, further, values)   that the argument `teller` has where an output
+//                                                 keeps the caller's bytes
+// KEPT_BELOW(name, argument, teller, bound)       likewise, where it is below the bound
+// KEPT_ON_CONDITION(name, argument)               likewise, by a condition in words
+// RETAINS(name, owner)                   a routine whose retained values decide, this one included
 // UNSHARED(name)                         outputs may not share the address of an input
 """
 MACROS = [
     "ROUTINE(name, count, names)",
     "SIZE(name, argument, elements)",
+    "USED(name, argument, used, scratch)",
     "LEAST(name, argument, value)",
     "STATUS(name, argument, further, ...)",
+    "KEPT(name, argument, teller, further, ...)",
+    "KEPT_BELOW(name, argument, teller, bound)",
+    "KEPT_ON_CONDITION(name, argument)",
+    "RETAINS(name, owner)",
     "UNSHARED(name)",
 ]
 
 
-def routine_list(families):
+def routine_list(interface):
     lines = [ROUTINES_HEAD.rstrip()]
     for macro in MACROS:
         lines += [f"#ifndef {macro.split('(')[0]}", f"#define {macro}", "#endif"]
-    routines = sorted(headers.routines_of(families), key=_place_in_digest())
-    for routine in routines:
+    for routine in entries.by_age(interface.routines):
         names = " ".join(argument.name for argument in routine.arguments)
         lines.append(f'ROUTINE({routine.name}, {len(routine.arguments)}, "{names}")')
-        lines += _facts(routine)
+        for i, argument in enumerate(routine.arguments):
+            lines += _facts(routine, i, argument)
+        lines += [f"RETAINS({routine.name}, {owner})" for _, owner in routine.retains or []]
+        lines += [] if routine.shares_addresses else [f"UNSHARED({routine.name})"]
     lines += [f"#undef {macro.split('(')[0]}" for macro in MACROS]
     return "\n".join(lines) + "\n"
 
 
-def _place_in_digest():
-    """A routine's sequence of calls depends on its place: new ones follow the committed ones."""
-    digest = headers.ROOT / "tests" / "hosts" / "digest.txt"
-    order = [line.split()[0] for line in digest.read_text().splitlines()]
-    return lambda routine: order.index(routine.name) if routine.name in order else len(order)
+def golden_lines():
+    """Each routine's line of tests/hosts/digest.txt, in its order."""
+    digest = (model.ROOT / "tests" / "hosts" / "digest.txt").read_text()
+    return dict(line.split() for line in digest.splitlines() if line.startswith("trv"))
 
 
-def _facts(routine):
-    """What the contract of a routine says in a form that programs read."""
-    for i, argument in enumerate(routine.arguments):
-        try:
-            if argument.is_array:
-                size = contracts.size_of(argument.text, routine.counts())
-                elements = size.elements[0]
-                if size.kind:
-                    kind = routine.counts()[size.kind]
-                    elements = f"by_kind(kind({kind}), {', '.join(size.elements)})"
-                yield f"SIZE({routine.name}, {i}, {elements})"
-            elif contracts.names_values(argument):
-                values = contracts.values_of(argument.text)
-                named = ", ".join(str(value) for value in values.named)
-                further = "none" if values.further is None else values.further
-                yield f"STATUS({routine.name}, {i}, {further}, {named})"
-            elif argument.is_integer and contracts.least_of(argument.text) is not None:
-                yield f"LEAST({routine.name}, {i}, {contracts.least_of(argument.text)})"
-        except contracts.Unreadable:
-            pass  # headers.inexact tells of it
-    if "may not share" in routine.text:
-        yield f"UNSHARED({routine.name})"
+def _facts(routine, i, argument):
+    """What the contract says of an argument, as macros."""
+    size, values, kept = argument.size, argument.values, argument.kept
+    place = f"{routine.name}, {i}"
+    if size:
+        elements = size.cpp(routine.positions)
+        kind = f"by_kind(kind({routine.positions.get(size.kind)}), {', '.join(elements)})"
+        yield f"SIZE({place}, {kind if size.kind else elements[0]})"
+        if size.used:
+            used = [name if name.isdigit() else f"count({routine.positions[name]})"
+                    for name in (size.used, size.scratch or size.used)]  # fmt: skip
+            yield f"USED({place}, {', '.join(used)})"
+    elif values and argument.is_written:
+        further = "none" if values.further is None else values.further
+        yield f"STATUS({place}, {further}, {', '.join(map(str, values.numbers))})"
+    elif argument.always is not None:
+        yield f"STATUS({place}, none, {argument.always})"
+    elif argument.least is not None:
+        yield f"LEAST({place}, {argument.least})"
+    if kept and kept.condition:
+        yield f"KEPT_ON_CONDITION({place})"
+    elif kept and kept.less_than is not None:
+        yield f"KEPT_BELOW({place}, {routine.positions[kept.name]}, {kept.less_than})"
+    elif kept:
+        further = "none" if kept.further is None else kept.further
+        teller = routine.positions[kept.name]
+        yield f"KEPT({place}, {teller}, {further}, {', '.join(map(str, kept.numbers))})"
 
 
-def index(families):
-    count = len(headers.routines_of(families))
+def as_json(interface):
+    """The model for makers of further bindings; docs/model.md describes it."""
+    ordinals = entries.ordinals(interface.routines)
+    golden = golden_lines()
+    document = {
+        "version": interface.version,
+        "enumerations": [
+            {
+                "name": e.name,
+                "shared": e.shared,
+                "comment": bindings_text.comment_of(e),
+                "values": [{"number": v.number, "name": e.upper(v), "meaning": v.meaning}
+                           for v in e.values],
+            }
+            for e in interface.enumerations()
+        ],
+        "routines": [
+            {
+                "name": r.name,
+                "decorated": r.decorated,
+                "ordinals": [ordinals[r.name], ordinals[r.decorated]],
+                "family": r.family,
+                "group": r.group,
+                "text": r.paragraphs,
+                "cost": r.cost,
+                "retains": [{"what": what, "owner": owner} for what, owner in r.retains],
+                "golden": golden.get(r.name),
+                "arguments": [_as_json(a) for a in r.arguments],
+            }
+            for r in interface.routines
+        ],
+    }  # fmt: skip
+    return json.dumps(document, indent=1, ensure_ascii=False) + "\n"
+
+
+def _as_json(argument):
+    facts = {"name": argument.name, "direction": argument.direction, "kind": argument.kind,
+             "meaning": argument.meaning}  # fmt: skip
+    size, values, kept = argument.size, argument.values, argument.kept
+    if size:
+        facts["size"] = {"elements": size.sizes} | {
+            key: text for key, text in
+            (("used", size.used), ("by", size.kind), ("scratch", size.scratch)) if text
+        }  # fmt: skip
+    if values:
+        facts["enumeration"] = values.enumeration.name
+        facts["values"] = [{"number": v.number, "meaning": v.meaning} for v in values.values]
+        if values.ranges:
+            facts["further"] = {"from": values.further, "meanings": values.ranges}
+    for key in ("least", "always"):
+        if getattr(argument, key) is not None:
+            facts[key] = getattr(argument, key)
+    if kept:
+        facts["unwritten"] = {"text": kept.text}
+        if kept.name and kept.less_than is None:
+            facts["unwritten"] |= {"argument": kept.name, "values": list(kept.numbers)}
+            if kept.further is not None:
+                facts["unwritten"]["from"] = kept.further
+        elif kept.name:
+            facts["unwritten"] |= {"argument": kept.name, "below": kept.less_than}
+    return facts
+
+
+def index(interface):
+    count = len(interface.routines)
     lines = [
         "# Routines",
         "",
@@ -112,7 +222,7 @@ def index(families):
         f"The {count} routines by family, in the order of the headers, where each has its",
         "contract. Every routine takes the address of each argument and returns nothing.",
     ]
-    for family in families:
+    for family in interface.families:
         lines += ["", f"## {family.title}", "", f"[{family.header}](../{family.header})", ""]
         lines += ["| Routine | Arguments | |", "|---|---|---|"]
         for routine in family.routines:
@@ -121,33 +231,42 @@ def index(families):
     return "\n".join(lines) + "\n"
 
 
-def readme(_families):
+def readme(_interface):
     """The README, with the example hosts as they stand in their files."""
 
     def block(match):
         file = match.group(2)
         language = file.rsplit(".", 1)[1]
-        return f"{match.group(1)}\n```{language}\n{(headers.ROOT / file).read_text()}```\n"
+        return f"{match.group(1)}\n```{language}\n{(model.ROOT / file).read_text()}```\n"
 
-    text = (headers.ROOT / "README.md").read_text()
+    text = (model.ROOT / "README.md").read_text()
     return re.sub(r"(<!-- file: (\S+) -->)\n(?:```.*?```\n)?", block, text, flags=re.S)
 
 
 OUTPUTS = {
     "README.md": readme,
+    "include/trelvin/names.h": enumerators,
     "src/entries/Trelvin.def": export_table,
     "src/entries/Trelvin64.def": export_table_64,
     "tests/routines.inc": routine_list,
     "docs/routines.md": index,
+    "bindings/trelvin.json": as_json,
+    "bindings/fortran/trelvin.F90": bindings_fortran.text,
+    "bindings/pascal/trelvin.pas": bindings_pascal.text,
+    "bindings/csharp/Trelvin.cs": bindings_csharp.text,
+    "bindings/basic/Trelvin.bas": bindings_basic.text,
+    "bindings/node/trelvin.mjs": bindings_node.text,
+    "bindings/node/package.json": bindings_node.package,
 }
 
 
-def outdated(families, check):
+def outdated(interface, check):
     """Writes the files that are out of date; only tells of them when checking."""
-    texts = {path: write(families) for path, write in OUTPUTS.items()}
-    texts |= bindings.outputs(families) | bindings_python.outputs(families)
+    texts = {path: write(interface) for path, write in OUTPUTS.items()}
+    texts |= bindings_python.outputs(interface)
     for path, text in texts.items():
-        file = headers.ROOT / path
+        file = model.ROOT / path
+        text = re.sub(r"[ \t]+$", "", text, flags=re.M)
         if file.exists() and file.read_text() == text:
             continue
         if check:
@@ -160,15 +279,9 @@ def outdated(families, check):
 
 def main():
     check = sys.argv[1:] == ["--check"]
-    families = headers.read_all()
-    routines = headers.routines_of(families)
-    faults = [
-        *headers.faults(families),
-        *headers.inexact(families),
-        *entries.export_faults(routines, entries.committed_ordinals()),
-        *entries.body_faults(families),
-        *outdated(families, check),
-    ]
+    interface = model.read()
+    faults = [*interface.faults, *entries.faults(interface), *rooms.faults()]
+    faults += [] if interface.faults else outdated(interface, check)
     for fault in faults:
         print(f"generate: {fault}", file=sys.stderr)
     return 1 if faults else 0

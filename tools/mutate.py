@@ -15,7 +15,7 @@ import subprocess
 import sys
 import threading
 
-from headers import COMMENT, ROOT
+from model import COMMENT, ROOT
 
 TREE = ROOT / "build" / "mutate" / "tree"
 BUILD = ROOT / "build" / "mutate" / "build"

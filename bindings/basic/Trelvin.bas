@@ -1,5 +1,5 @@
 Attribute VB_Name = "Trelvin"
-' Generated from include/trelvin by tools/bindings.py.
+' Generated from include/trelvin by tools/generate.py.
 '
 ' Every routine of Trelvin for Visual Basic 6 and for Basic in Office. Every argument goes by its
 ' address, an array by the first element that counts: X(0), or X(1). A literal is passed as the type
@@ -8,10 +8,192 @@ Option Explicit
 
 Public Const TrelvinVersion As String = "1.1.0"
 
+
+' Whether a computation was done.
+Public Const trvStatusDone As Long = 0
+Public Const trvStatusRefused As Long = -1
+
+' Whether a point of an arc was found; note that 1 means done here.
+Public Const trvArcDone As Long = 1
+Public Const trvArcRefused As Long = 0
+
+' Whether a frame was found.
+Public Const trvFrameDone As Long = 0
+Public Const trvFrameNoFrame As Long = -2
+
+' Whether two points coincide: each difference of their coordinates is within the tolerance.
+Public Const trvCoincidenceDistinct As Long = 0
+Public Const trvCoincidenceCoincident As Long = 1
+
+' How many points were found.
+Public Const trvPointsNone As Long = 0
+Public Const trvPointsOne As Long = 1
+Public Const trvPointsTwo As Long = 2
+
+' Which of three components are above the tolerance.
+Public Const trvComponentsNone As Long = 0
+Public Const trvComponentsAll As Long = 1
+Public Const trvComponentsFirst As Long = 2
+Public Const trvComponentsSecond As Long = 3
+Public Const trvComponentsThird As Long = 4
+Public Const trvComponentsFirstSecond As Long = 5
+Public Const trvComponentsSecondThird As Long = 6
+Public Const trvComponentsFirstThird As Long = 7
+
+' Whether a point lies on a line of space.
+Public Const trvOnLineNo As Long = 0
+Public Const trvOnLineYes As Long = 1
+
+' Whether a point lies on a plane; note that 0 means yes.
+Public Const trvOnPlaneYes As Long = 0
+Public Const trvOnPlaneNo As Long = -1
+Public Const trvOnPlaneZeroNormal As Long = 1
+
+' How two lines of the plane lie to each other.
+Public Const trvPlaneLinesOnePoint As Long = 0
+Public Const trvPlaneLinesSameLine As Long = 1
+Public Const trvPlaneLinesParallel As Long = 2
+
+' Three-point test (trvpsl): where P2 is, seen from P0 and P1.
+Public Const trvThreePointsSpansPlane As Long = 0
+Public Const trvThreePointsAtP0 As Long = 1
+Public Const trvThreePointsAtP1 As Long = 2
+Public Const trvThreePointsBetween As Long = 3
+Public Const trvThreePointsBeyondP0 As Long = 4
+Public Const trvThreePointsBeyondP1 As Long = 5
+
+' How two lines of space lie to each other (trvdirl).
+Public Const trvLinesCrossing As Long = 0
+Public Const trvLinesParallelSame As Long = 1
+Public Const trvLinesParallelOpposite As Long = 2
+Public Const trvLinesSameLine As Long = 3
+Public Const trvLinesOppositeLine As Long = 4
+Public Const trvLinesPerpendicular As Long = 5
+Public Const trvLinesSkew As Long = 6
+Public Const trvLinesCoincident As Long = 7
+
+' What came of two lines of space: a result, or the relation that allows none.
+Public Const trvTwoLinesDone As Long = 0
+Public Const trvTwoLinesSameLine As Long = 3
+Public Const trvTwoLinesOppositeLine As Long = 4
+Public Const trvTwoLinesSkew As Long = 6
+Public Const trvTwoLinesNoLength As Long = 7
+
+' Kind of a part of a section.
+Public Const trvPartConcentrated As Long = 1
+Public Const trvPartPolygon As Long = 2
+Public Const trvPartCircle As Long = 3
+Public Const trvPartSmallerSegment As Long = 4
+Public Const trvPartLargerSegment As Long = 5
+
+' trvcin: class.
 Public Const trvcinUncutAbove As Long = 1
 Public Const trvcinUncutBelow As Long = 2
 Public Const trvcinCutBelow As Long = 3
 Public Const trvcinCutAbove As Long = 4
+
+' trvapp: where each point is.
+Public Const trvappInside As Long = 1
+Public Const trvappOutside As Long = 2
+Public Const trvappNoSector As Long = -1
+
+' trvcer10: outcome.
+Public Const trvcer10CrossingOrRefused As Long = 0
+Public Const trvcer10AlongChord As Long = 1
+Public Const trvcer10Parallel As Long = 2
+
+' trvptp1: which points of A have a partner in B.
+Public Const trvptp1NoPair As Long = 0
+Public Const trvptp1SomePairs As Long = 1
+Public Const trvptp1AllPaired As Long = 2
+
+' trvpin: where P1 is.
+Public Const trvpinInside As Long = 1
+Public Const trvpinOutside As Long = 0
+Public Const trvpinRefused As Long = -1
+
+' trvcnt1: test.
+Public Const trvcnt1Zero As Long = 1
+Public Const trvcnt1Nonzero As Long = 0
+
+' trvvin: sign.
+Public Const trvvinPositive As Long = 1
+Public Const trvvinNotPositive As Long = 2
+
+' trvpos1: what was found.
+Public Const trvpos1AtEntry As Long = 1
+Public Const trvpos1Between As Long = 2
+Public Const trvpos1Neither As Long = 0
+
+' trvphip: outcome.
+Public Const trvphipNoLength As Long = -1
+
+' trvcnv: test.
+Public Const trvcnvConvex As Long = 1
+Public Const trvcnvNotConvex As Long = 0
+Public Const trvcnvRefused As Long = -1
+
+' trvdir: relation.
+Public Const trvdirOblique As Long = 0
+Public Const trvdirSame As Long = 1
+Public Const trvdirOpposite As Long = 2
+Public Const trvdirPerpendicular As Long = 3
+Public Const trvdirZero As Long = 4
+
+' trvdirp: relation.
+Public Const trvdirpCrossing As Long = 0
+Public Const trvdirpParallelSame As Long = 1
+Public Const trvdirpParallelOpposite As Long = 2
+Public Const trvdirpCoincidentSame As Long = 3
+Public Const trvdirpCoincidentOpposite As Long = 4
+Public Const trvdirpPerpendicular As Long = 5
+Public Const trvdirpZeroNormal As Long = 6
+
+' trvppc: outcome.
+Public Const trvppcDone As Long = 0
+Public Const trvppcNoFrame As Long = -1
+
+' trvpl5: outcome.
+Public Const trvpl5Done As Long = 0
+Public Const trvpl5NoPlane As Long = 1
+
+' trvplv: relation.
+Public Const trvplvZeroU As Long = -1
+Public Const trvplvOblique As Long = 0
+Public Const trvplvSame As Long = 3
+Public Const trvplvOpposite As Long = 4
+Public Const trvplvPerpendicular As Long = 5
+Public Const trvplvZero As Long = 7
+
+' trv3sp: test.
+Public Const trv3spFlat As Long = 0
+Public Const trv3spSpanning As Long = 1
+
+' trvpli: outcome.
+Public Const trvpliDone As Long = 0
+Public Const trvpliParallel As Long = 3
+Public Const trvpliZero As Long = 4
+
+' trvplp: position.
+Public Const trvplpGeneral As Long = 1
+Public Const trvplpParallelX As Long = 2
+Public Const trvplpParallelY As Long = 3
+Public Const trvplpParallelZ As Long = 4
+Public Const trvplpNormalZ As Long = 5
+Public Const trvplpNormalX As Long = 6
+Public Const trvplpNormalY As Long = 7
+Public Const trvplpAtZZero As Long = 8
+Public Const trvplpAtXZero As Long = 9
+Public Const trvplpAtYZero As Long = 10
+
+' trvlpc: outcome.
+Public Const trvlpcNotMoved As Long = 0
+Public Const trvlpcMovedOneSide As Long = 3
+Public Const trvlpcMovedEitherSide As Long = 4
+Public Const trvlpcMovedSkew As Long = 6
+Public Const trvlpcMovedAtP As Long = 7
+
+' Names of version 1.1, which the next version drops.
 Public Const trvcer3Done As Long = 1
 Public Const trvcer3Refused As Long = 0
 Public Const trvcer8Done As Long = 1
@@ -24,9 +206,6 @@ Public Const trvarc1Done As Long = 1
 Public Const trvarc1Refused As Long = 0
 Public Const trvcer4Done As Long = 1
 Public Const trvcer4Refused As Long = 0
-Public Const trvcer10Refused As Long = 0
-Public Const trvcer10AlongChord As Long = 1
-Public Const trvcer10Parallel As Long = 2
 Public Const trvcer5Done As Long = 1
 Public Const trvcer5Refused As Long = 0
 Public Const trvcer7Done As Long = 1
@@ -35,23 +214,16 @@ Public Const trvardDone As Long = 1
 Public Const trvardRefused As Long = 0
 Public Const trvporOrdered As Long = 0
 Public Const trvporRefused As Long = -1
-Public Const trvptp1NoPair As Long = 0
-Public Const trvptp1SomePairs As Long = 1
-Public Const trvptp1AllPaired As Long = 2
-Public Const trvpinInside As Long = 1
-Public Const trvpinOutside As Long = 0
-Public Const trvpinRefused As Long = -1
 Public Const trvcntCoincident As Long = 1
 Public Const trvcntDistinct As Long = 0
-Public Const trvcnt1Zero As Long = 1
-Public Const trvcnt1Nonzero As Long = 0
 Public Const trv123Done As Long = 0
 Public Const trv123Coincident As Long = 1
-Public Const trvvinPositive As Long = 1
-Public Const trvvinNotPositive As Long = 2
-Public Const trvpos1AtEntry As Long = 1
-Public Const trvpos1Between As Long = 2
-Public Const trvpos1Neither As Long = 0
+Public Const trvchiDone As Long = 0
+Public Const trvchiCoincident As Long = 1
+Public Const trvtrgDone As Long = 0
+Public Const trvtrgCoincident As Long = 1
+Public Const trvpl4Done As Long = 0
+Public Const trvpl4Coincident As Long = 1
 Public Const trvlniOnePoint As Long = 0
 Public Const trvlniSameLine As Long = 1
 Public Const trvlniParallel As Long = 2
@@ -74,8 +246,6 @@ Public Const trvln6Third As Long = 4
 Public Const trvln6FirstSecond As Long = 5
 Public Const trvln6SecondThird As Long = 6
 Public Const trvln6FirstThird As Long = 7
-Public Const trvln6OnLine As Long = 1
-Public Const trvln6OffLine As Long = 0
 Public Const trvln7None As Long = 0
 Public Const trvln7All As Long = 1
 Public Const trvln7First As Long = 2
@@ -84,38 +254,32 @@ Public Const trvln7Third As Long = 4
 Public Const trvln7FirstSecond As Long = 5
 Public Const trvln7SecondThird As Long = 6
 Public Const trvln7FirstThird As Long = 7
+Public Const trvln6OnLine As Long = 1
+Public Const trvln6OffLine As Long = 0
 Public Const trvln7OnLine As Long = 1
 Public Const trvln7OffLine As Long = 0
-Public Const trvphipNoLength As Long = -1
-Public Const trvchiDone As Long = 0
-Public Const trvchiCoincident As Long = 1
-Public Const trvcnvConvex As Long = 1
-Public Const trvcnvNotConvex As Long = 0
-Public Const trvcnvRefused As Long = -1
-Public Const trvtrgDone As Long = 0
-Public Const trvtrgCoincident As Long = 1
-Public Const trvdirOblique As Long = 0
-Public Const trvdirSame As Long = 1
-Public Const trvdirOpposite As Long = 2
-Public Const trvdirPerpendicular As Long = 3
-Public Const trvdirZero As Long = 4
-Public Const trvdirpCrossing As Long = 0
-Public Const trvdirpParallelSame As Long = 1
-Public Const trvdirpParallelOpposite As Long = 2
-Public Const trvdirpCoincidentSame As Long = 3
-Public Const trvdirpCoincidentOpposite As Long = 4
-Public Const trvdirpPerpendicular As Long = 5
-Public Const trvdirpZeroNormal As Long = 6
 Public Const trvmxtDone As Long = 0
 Public Const trvmxtRefused As Long = -1
-Public Const trvmxt_fbDone As Long = 0
-Public Const trvmxt_fbRefused As Long = -1
+Public Const trvmxtFbDone As Long = 0
+Public Const trvmxtFbRefused As Long = -1
 Public Const trvpslSpansPlane As Long = 0
 Public Const trvpslAtP0 As Long = 1
 Public Const trvpslAtP1 As Long = 2
 Public Const trvpslBetween As Long = 3
 Public Const trvpslBeyondP0 As Long = 4
 Public Const trvpslBeyondP1 As Long = 5
+Public Const trvpl1Done As Long = 0
+Public Const trvpl1AtP0 As Long = 1
+Public Const trvpl1AtP1 As Long = 2
+Public Const trvpl1Between As Long = 3
+Public Const trvpl1BeyondP0 As Long = 4
+Public Const trvpl1BeyondP1 As Long = 5
+Public Const trvpl7Done As Long = 0
+Public Const trvpl7AtP0 As Long = 1
+Public Const trvpl7AtP1 As Long = 2
+Public Const trvpl7Between As Long = 3
+Public Const trvpl7BeyondP0 As Long = 4
+Public Const trvpl7BeyondP1 As Long = 5
 Public Const trvaxeDone As Long = 0
 Public Const trvaxeNoFrame As Long = -2
 Public Const trvaxelDone As Long = 0
@@ -124,14 +288,6 @@ Public Const trvptrlDone As Long = 0
 Public Const trvptrlNoFrame As Long = -2
 Public Const trvpraDone As Long = 0
 Public Const trvpraNoFrame As Long = -2
-Public Const trvppcDone As Long = 0
-Public Const trvppcNoFrame As Long = -1
-Public Const trvpl1Done As Long = 0
-Public Const trvpl1AtP0 As Long = 1
-Public Const trvpl1AtP1 As Long = 2
-Public Const trvpl1Between As Long = 3
-Public Const trvpl1BeyondP0 As Long = 4
-Public Const trvpl1BeyondP1 As Long = 5
 Public Const trvpl2Done As Long = 0
 Public Const trvpl2SameLine As Long = 3
 Public Const trvpl2OppositeLine As Long = 4
@@ -140,32 +296,21 @@ Public Const trvpl3Done As Long = 0
 Public Const trvpl3SameLine As Long = 3
 Public Const trvpl3OppositeLine As Long = 4
 Public Const trvpl3Coincident As Long = 7
-Public Const trvpl4Done As Long = 0
-Public Const trvpl4Coincident As Long = 1
-Public Const trvpl5Done As Long = 0
-Public Const trvpl5NoPlane As Long = 1
 Public Const trvpl6Done As Long = 0
 Public Const trvpl6SameLine As Long = 3
 Public Const trvpl6OppositeLine As Long = 4
 Public Const trvpl6Skew As Long = 6
 Public Const trvpl6Zero As Long = 7
-Public Const trvpl7Done As Long = 0
-Public Const trvpl7AtP0 As Long = 1
-Public Const trvpl7AtP1 As Long = 2
-Public Const trvpl7Between As Long = 3
-Public Const trvpl7BeyondP0 As Long = 4
-Public Const trvpl7BeyondP1 As Long = 5
+Public Const trv3lniDone As Long = 0
+Public Const trv3lniSameLine As Long = 3
+Public Const trv3lniOppositeLine As Long = 4
+Public Const trv3lniSkew As Long = 6
+Public Const trv3lniZero As Long = 7
 Public Const trvpspOnPlane As Long = 0
 Public Const trvpspOffPlane As Long = -1
 Public Const trvpspgOnPlane As Long = 0
 Public Const trvpspgOffPlane As Long = -1
 Public Const trvpspgZeroNormal As Long = 1
-Public Const trvplvZeroU As Long = -1
-Public Const trvplvOblique As Long = 0
-Public Const trvplvSame As Long = 3
-Public Const trvplvOpposite As Long = 4
-Public Const trvplvPerpendicular As Long = 5
-Public Const trvplvZero As Long = 7
 Public Const trvdirlCrossing As Long = 0
 Public Const trvdirlParallelSame As Long = 1
 Public Const trvdirlParallelOpposite As Long = 2
@@ -174,34 +319,9 @@ Public Const trvdirlOppositeLine As Long = 4
 Public Const trvdirlPerpendicular As Long = 5
 Public Const trvdirlSkew As Long = 6
 Public Const trvdirlCoincident As Long = 7
-Public Const trv3spFlat As Long = 0
-Public Const trv3spSpanning As Long = 1
 Public Const trv3ldbDone As Long = 0
 Public Const trv3ldaDone As Long = 0
-Public Const trv3lniDone As Long = 0
-Public Const trv3lniSameLine As Long = 3
-Public Const trv3lniOppositeLine As Long = 4
-Public Const trv3lniSkew As Long = 6
-Public Const trv3lniZero As Long = 7
-Public Const trvpliDone As Long = 0
-Public Const trvpliParallel As Long = 3
-Public Const trvpliZero As Long = 4
-Public Const trvplpGeneral As Long = 1
-Public Const trvplpParallelX As Long = 2
-Public Const trvplpParallelY As Long = 3
-Public Const trvplpParallelZ As Long = 4
-Public Const trvplpNormalZ As Long = 5
-Public Const trvplpNormalX As Long = 6
-Public Const trvplpNormalY As Long = 7
-Public Const trvplpAtZZero As Long = 8
-Public Const trvplpAtXZero As Long = 9
-Public Const trvplpAtYZero As Long = 10
 Public Const trvpnlDone As Long = 0
-Public Const trvlpcNotMoved As Long = 0
-Public Const trvlpcMovedOneSide As Long = 3
-Public Const trvlpcMovedEitherSide As Long = 4
-Public Const trvlpcMovedSkew As Long = 6
-Public Const trvlpcMovedAtP As Long = 7
 
 #If VBA7 And Win64 Then
 
@@ -211,70 +331,78 @@ Public Declare PtrSafe Sub trvcer Lib "Trelvin64.dll" Alias "trvcer" (ByRef xc A
     ByRef F As Single)
 
 ' Intersection of a line and a circle.
-' n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it.
+' n: number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the line touches the
+' circle; 2 two: the line cuts the circle.
 Public Declare PtrSafe Sub trvlci Lib "Trelvin64.dll" Alias "trvlci" (ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef D As Single, ByRef E As Single, ByRef F As Single, _
     ByRef n As Long, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single)
 
 ' Intersection of two circles: that of their radical line with the first circle (trvlci).
-' n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the tolerance;
-' 1 the circles touch; 2 they cut each other.
+' n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric: |D2
+' - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles cut each
+' other.
 Public Declare PtrSafe Sub trvc12 Lib "Trelvin64.dll" Alias "trvc12" (ByRef D1 As Single, _
     ByRef E1 As Single, ByRef F1 As Single, ByRef D2 As Single, ByRef E2 As Single, _
     ByRef F2 As Single, ByRef n As Long, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef x2 As Single, ByRef y2 As Single)
 
 ' Centres of the circles of a radius through two points.
-' n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord, the
-' discriminant is NaN, or the chord is horizontal; 1 both candidates are the same point; 2 two.
+' n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or less than half the
+' chord, the discriminant is NaN, or the chord is horizontal; 1 one: both candidates are the same
+' point; 2 two: there are two points.
 Public Declare PtrSafe Sub trvcer2 Lib "Trelvin64.dll" Alias "trvcer2" (ByRef x1 As Single, _
     ByRef y1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef side As Long, _
     ByRef r As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef xc As Single, ByRef yc As Single, ByRef n As Long)
 
 ' Circle through two points with a given sagitta.
-' n: number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less than half
-' the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are the same
-' point; 2 two.
+' n: number of centres of trvcer2 (TrvPoints): 0 none: h < 1e-5, P1 = P2 exactly, r is at most 1e-5
+' or less than half the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both
+' candidates are the same point; 2 two: there are two points.
 Public Declare PtrSafe Sub trvcer1 Lib "Trelvin64.dll" Alias "trvcer1" (ByRef x1 As Single, _
     ByRef y1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef side As Long, _
     ByRef h As Single, ByRef r As Single, ByRef xc As Single, ByRef yc As Single, ByRef n As Long)
 
 ' Classifies a circle cut by a line, with a trace.
-' position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3 cut, centre
-' below it; 4 cut, centre on or above it.
+' position: class: 1 uncut_above: the circle is not cut, its centre is above the x axis; 2
+' uncut_below: the circle is not cut, its centre is on or below the x axis; 3 cut_below: the circle
+' is cut, its centre is below the x axis; 4 cut_above: the circle is cut, its centre is on or above
+' the x axis.
 Public Declare PtrSafe Sub trvcin Lib "Trelvin64.dll" Alias "trvcin" (ByRef X As Single, _
     ByRef Y As Single, ByRef a As Single, ByRef b As Single, ByRef c As Single, _
     ByRef position As Long, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single)
 
 ' Turns a point about a centre.
-' status: 1 done; 0 the point's distance from the centre is within the tolerance.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance from
+' the centre is within the tolerance.
 Public Declare PtrSafe Sub trvcer3 Lib "Trelvin64.dll" Alias "trvcer3" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef x As Single, ByRef y As Single, ByRef angle As Single, _
     ByRef xr As Single, ByRef yr As Single, ByRef status As Long)
 
 ' Point of an arc above a station of its chord, perpendicular to the chord.
-' status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by more,
-' or the station is not farther than that from both ends.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
+' at most 0.001, the radii of A and B differ by more, or the station is not farther than that from
+' both ends.
 Public Declare PtrSafe Sub trvcer8 Lib "Trelvin64.dll" Alias "trvcer8" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef x As Single, _
     ByRef y As Single, ByRef status As Long)
 
 ' Point of an arc on the line from its centre through a station of its chord.
-' status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by more,
-' the station is not farther than that from both ends, or d is closer than that to the diameter.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
+' at most 0.001, the radii of A and B differ by more, the station is not farther than that from both
+' ends, or d is closer than that to the diameter.
 Public Declare PtrSafe Sub trvcer6 Lib "Trelvin64.dll" Alias "trvcer6" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef x As Single, _
     ByRef y As Single, ByRef status As Long)
 
 ' Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
-' status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is at most
-' 0.001, the radii of A and B differ by more, or the strip comes closer than that to an end of the
-' chord.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord, d,
+' the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or
+' the strip comes closer than that to an end of the chord.
 Public Declare PtrSafe Sub trvcer9 Lib "Trelvin64.dll" Alias "trvcer9" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef w As Single, _
@@ -282,7 +410,8 @@ Public Declare PtrSafe Sub trvcer9 Lib "Trelvin64.dll" Alias "trvcer9" (ByRef xc
     ByRef status As Long)
 
 ' Lengths of the two arcs between two points of a circle.
-' status: 1 done; 0 the radius, or the distance of A and B, is within the tolerance.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, or the distance
+' of A and B, is within the tolerance.
 Public Declare PtrSafe Sub trvarc1 Lib "Trelvin64.dll" Alias "trvarc1" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s1 As Single, ByRef s2 As Single, ByRef status As Long)
@@ -299,30 +428,37 @@ Public Declare PtrSafe Sub trvhin Lib "Trelvin64.dll" Alias "trvhin" (ByRef x0 A
     ByRef s0 As Single, ByRef h3 As Single, ByRef s3 As Single, ByRef len_ As Single)
 
 ' Marks points by a sector.
+' mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
+' outside the sector; -1 no_sector: the rays' angle is within the tolerance, which holds for all
+' points alike.
 Public Declare PtrSafe Sub trvapp Lib "Trelvin64.dll" Alias "trvapp" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single, ByRef n As Long, ByRef X As Single, ByRef Y As Single, ByRef mark As Long)
 
 ' Point of an arc on a line through a station of its chord.
-' status: 1 done; 0 the radius or the chord is within the tolerance, the radii of A and B differ by
-' more, A and B coincide, or the line touches the circle.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
+' within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches
+' the circle.
 Public Declare PtrSafe Sub trvcer4 Lib "Trelvin64.dll" Alias "trvcer4" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef angle As Single, ByRef xo As Single, _
     ByRef yo As Single, ByRef status As Long)
 
 ' Crossing of an arc's chord with a line through its turned end.
-' status: 0 refused: the radius or the chord is within the tolerance, or the radii of A and B differ
-' by more, but also a crossing, and a retained one that is on the chord's line but not at A or B
-' (trvpsl above 2); 1 the line runs along the chord; 2 it is parallel to it.
+' status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal result, or
+' a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or the
+' input is rejected, since the radius or the chord is within the tolerance or the radii of A and B
+' differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the line is parallel to
+' the chord.
 Public Declare PtrSafe Sub trvcer10 Lib "Trelvin64.dll" Alias "trvcer10" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef turn As Single, ByRef angle As Single, ByRef xo As Single, _
     ByRef yo As Single, ByRef status As Long)
 
 ' Point of an arc on the line from a station of its chord towards the sagitta.
-' status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is at most 1e-5,
-' or the radii of A and B differ by more, or the line touches the circle.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e, the
+' radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more, or
+' the line touches the circle.
 Public Declare PtrSafe Sub trvcer5 Lib "Trelvin64.dll" Alias "trvcer5" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef side As Long, ByRef e As Single, _
@@ -330,9 +466,10 @@ Public Declare PtrSafe Sub trvcer5 Lib "Trelvin64.dll" Alias "trvcer5" (ByRef xc
 
 ' Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
 ' chord.
-' status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest beyond s is at most
-' 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is parallel to the
-' chord, or it cuts less than twice 1e-4 off the circle.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative, the
+' radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the
+' rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle
+' is not longer than 2e-4.
 Public Declare PtrSafe Sub trvcer7 Lib "Trelvin64.dll" Alias "trvcer7" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef side As Long, ByRef e As Single, _
@@ -341,8 +478,9 @@ Public Declare PtrSafe Sub trvcer7 Lib "Trelvin64.dll" Alias "trvcer7" (ByRef xc
     ByRef status As Long)
 
 ' Rounds the corner at P0 between the segments to P1 and to P2.
-' status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine of the angle
-' between the segments is within it, or the arc touches one beyond its end by more.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not above
+' the tolerance, the sine of the angle between the segments is within it, or the arc touches one
+' beyond its end by more.
 Public Declare PtrSafe Sub trvard Lib "Trelvin64.dll" Alias "trvard" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single, ByRef r As Single, ByRef xc As Single, ByRef yc As Single, _
@@ -367,7 +505,8 @@ Public Declare PtrSafe Sub trvordi Lib "Trelvin64.dll" Alias "trvordi" (ByRef V 
     ByRef n As Long, ByRef IDX As Long)
 
 ' Order of parallel lines by where they cross an axis.
-' status: 0 ordered; -1 not a family of parallel and distinct lines, or n < 1.
+' status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a family
+' of parallel and distinct lines, or n < 1.
 Public Declare PtrSafe Sub trvpor Lib "Trelvin64.dll" Alias "trvpor" (ByRef n As Long, _
     ByRef A As Single, ByRef B As Single, ByRef C As Single, ByRef IDX As Long, _
     ByRef status As Long)
@@ -423,7 +562,8 @@ Public Declare PtrSafe Sub trvmer16 Lib "Trelvin64.dll" Alias "trvmer16" (ByRef 
     ByRef Y As Single, ByRef n As Long, ByRef tol As Single)
 
 ' All pairs of points of two lists that agree within a tolerance in each coordinate.
-' status: 0 no pair; 1 some points of A have a partner; 2 every point of A has one.
+' status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have; 2
+' all_paired: every one has.
 Public Declare PtrSafe Sub trvptp1 Lib "Trelvin64.dll" Alias "trvptp1" (ByRef na As Long, _
     ByRef XA As Single, ByRef YA As Single, ByRef ZA As Single, ByRef nb As Long, _
     ByRef XB As Single, ByRef YB As Single, ByRef ZB As Single, ByRef tol As Single, _
@@ -446,9 +586,9 @@ Public Declare PtrSafe Sub trvppp Lib "Trelvin64.dll" Alias "trvppp" (ByRef X As
     ByRef XC As Single)
 
 ' Where the segment from P1 to P2 crosses a closed outline.
-' status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1 and P2
-' coincide within the tolerance in both coordinates. P1 on the outline counts as the point just to
-' its right, or just above where that is on the outline too.
+' status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1 is
+' outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within the
+' tolerance in both coordinates.
 Public Declare PtrSafe Sub trvpin Lib "Trelvin64.dll" Alias "trvpin" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef x2 As Single, ByRef y2 As Single, ByRef count As Long, ByRef XI As Single, _
@@ -472,19 +612,22 @@ Public Declare PtrSafe Sub trvpre Lib "Trelvin64.dll" Alias "trvpre" (ByRef x1 A
     ByRef x4 As Single, ByRef y4 As Single, ByRef z4 As Single, ByRef c As Single)
 
 ' Difference vector of two points, and whether they coincide.
-' status: 1 each difference is within the tolerance; 0 otherwise.
+' status: coincidence (TrvCoincidence): 1 coincident: each difference is within the tolerance; 0
+' distinct: a difference is above the tolerance or NaN.
 Public Declare PtrSafe Sub trvcnt Lib "Trelvin64.dll" Alias "trvcnt" (ByRef x1 As Single, _
     ByRef y1 As Single, ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, _
     ByRef z2 As Single, ByRef dx As Single, ByRef dy As Single, ByRef dz As Single, _
     ByRef status As Long)
 
 ' Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.
-' status: 1 all components are zero of either sign; 0 otherwise (a NaN included).
+' status: test: 1 zero: all components are zero, of either sign; 0 nonzero: a component is not zero,
+' or is NaN.
 Public Declare PtrSafe Sub trvcnt1 Lib "Trelvin64.dll" Alias "trvcnt1" (ByRef dx As Single, _
     ByRef dy As Single, ByRef dz As Single, ByRef status As Long)
 
 ' Point P1 + t*(P2 - P1) on the line through two points.
-' status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt).
+' status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 and P2
+' coincide within the tolerance (trvcnt).
 Public Declare PtrSafe Sub trv123 Lib "Trelvin64.dll" Alias "trv123" (ByRef x1 As Single, _
     ByRef y1 As Single, ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, _
     ByRef z2 As Single, ByRef t As Single, ByRef x As Single, ByRef y As Single, _
@@ -515,7 +658,7 @@ Public Declare PtrSafe Sub trvint Lib "Trelvin64.dll" Alias "trvint" (ByRef x1 A
     ByRef y As Single)
 
 ' Sign of a value.
-' status: 1 v is positive; 2 v is zero, negative or NaN.
+' status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or NaN.
 Public Declare PtrSafe Sub trvvin Lib "Trelvin64.dll" Alias "trvvin" (ByRef u1 As Single, _
     ByRef v As Single, ByRef u3 As Single, ByRef u4 As Single, ByRef u5 As Single, _
     ByRef status As Long)
@@ -525,7 +668,8 @@ Public Declare PtrSafe Sub trvpos Lib "Trelvin64.dll" Alias "trvpos" (ByRef n As
     ByRef A As Single, ByRef x As Single, ByRef i As Long)
 
 ' Entry of an ascending table that equals a value, or the interval that holds it.
-' status: 1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither.
+' status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
+' A(i+1); 0 neither: x equals no element and lies in no interval.
 Public Declare PtrSafe Sub trvpos1 Lib "Trelvin64.dll" Alias "trvpos1" (ByRef n As Long, _
     ByRef A As Single, ByRef x As Single, ByRef status As Long, ByRef i As Long)
 
@@ -559,37 +703,49 @@ Public Declare PtrSafe Sub trvlds Lib "Trelvin64.dll" Alias "trvlds" (ByRef x As
     ByRef y As Single, ByRef a As Single, ByRef b As Single, ByRef c As Single, ByRef d As Single)
 
 ' Intersection of two lines.
-' status: 0 one point; 1 the same line; 2 parallel and distinct.
+' status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1 same_line:
+' the lines are the same; 2 parallel: the lines are parallel and distinct.
 Public Declare PtrSafe Sub trvlni Lib "Trelvin64.dll" Alias "trvlni" (ByRef a1 As Single, _
     ByRef b1 As Single, ByRef c1 As Single, ByRef a2 As Single, ByRef b2 As Single, _
     ByRef c2 As Single, ByRef status As Long, ByRef x As Single, ByRef y As Single)
 
 ' Distance of two parallel lines.
-' status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells.
+' status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1 same_line:
+' the lines are the same; 2 parallel: the lines are parallel and distinct, as trvlni finds.
 Public Declare PtrSafe Sub trvlul Lib "Trelvin64.dll" Alias "trvlul" (ByRef a1 As Single, _
     ByRef b1 As Single, ByRef c1 As Single, ByRef a2 As Single, ByRef b2 As Single, _
     ByRef c2 As Single, ByRef d As Single, ByRef status As Long)
 
 ' Which components of two triples differ by more than the tolerance.
-' code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and third; 7 first
-' and third.
+' code: which components differ by more than the tolerance (TrvComponents): 0 none: no component is;
+' 1 all: all three components are; 2 first: the first component alone is; 3 second: the second
+' component alone is; 4 third: the third component alone is; 5 first_second: the first and the
+' second component are; 6 second_third: the second and the third component are; 7 first_third: the
+' first and the third component are.
 Public Declare PtrSafe Sub trvpsn Lib "Trelvin64.dll" Alias "trvpsn" (ByRef p1 As Single, _
     ByRef p2 As Single, ByRef p3 As Single, ByRef q1 As Single, ByRef q2 As Single, _
     ByRef q3 As Single, ByRef code As Long)
 
 ' Whether a point lies on the line of space through P0 with direction D.
-' code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y; 4 z; 5 x and y;
-' 6 y and z; 7 x and z.
-' on: 1 P lies on the line; 0 it does not, and always when code is 0.
+' code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
+' component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
+' the second component alone is; 4 third: the third component alone is; 5 first_second: the first
+' and the second component are; 6 second_third: the second and the third component are; 7
+' first_third: the first and the third component are.
+' on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is 0.
 Public Declare PtrSafe Sub trvln6 Lib "Trelvin64.dll" Alias "trvln6" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef dx As Single, ByRef dy As Single, _
     ByRef dz As Single, ByRef px As Single, ByRef py As Single, ByRef pz As Single, _
     ByRef tol As Single, ByRef code As Long, ByRef on_ As Long)
 
 ' Line of two planes, and whether it agrees with a point at a retained station.
-' code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3 ey; 4 ez; 5 ex and
-' ey; 6 ey and ez; 7 ex and ez.
-' on: 1 P agrees with the line at the station; 0 it does not.
+' code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
+' component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
+' the second component alone is; 4 third: the third component alone is; 5 first_second: the first
+' and the second component are; 6 second_third: the second and the third component are; 7
+' first_third: the first and the third component are.
+' on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the line at
+' the station.
 Public Declare PtrSafe Sub trvln7 Lib "Trelvin64.dll" Alias "trvln7" (ByRef a1 As Single, _
     ByRef b1 As Single, ByRef c1 As Single, ByRef d1 As Single, ByRef a2 As Single, _
     ByRef b2 As Single, ByRef c2 As Single, ByRef d2 As Single, ByRef px As Single, _
@@ -613,26 +769,29 @@ Public Declare PtrSafe Sub trvphi1 Lib "Trelvin64.dll" Alias "trvphi1" (ByRef ux
     ByRef vz As Single, ByRef phi As Single)
 
 ' Angle between two lines given by their directions.
-' status: -1 a direction's length is within the tolerance; unwritten otherwise: set it beforehand.
+' status: outcome: -1 no_length: a direction's length is within the tolerance; unwritten on a
+' condition: neither direction's length is within the tolerance, so it must be set beforehand.
 Public Declare PtrSafe Sub trvphip Lib "Trelvin64.dll" Alias "trvphip" (ByRef ux As Single, _
     ByRef uy As Single, ByRef uz As Single, ByRef vx As Single, ByRef vy As Single, _
     ByRef vz As Single, ByRef phi As Single, ByRef status As Long)
 
 ' Directed angle at P0 from the ray to P1 to the ray to P2.
-' status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt).
+' status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 or P2
+' coincides with P0 (trvcnt).
 Public Declare PtrSafe Sub trvchi Lib "Trelvin64.dll" Alias "trvchi" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
     ByRef chi As Single, ByRef status As Long)
 
 ' Convexity of a closed outline, of either orientation.
-' status: 1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a side whose
-' length is within the tolerance.
+' status: test: 1 convex: the outline is convex; 0 not_convex: the outline is not convex, or winds
+' more than once; -1 refused: n < 3, or the length of a side is within the tolerance.
 Public Declare PtrSafe Sub trvcnv Lib "Trelvin64.dll" Alias "trvcnv" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef status As Long)
 
 ' Cosine and sine of the angle between P2 - P1 and P4 - P3.
-' status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt).
+' status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 and P2, or
+' P3 and P4, coincide (trvcnt).
 Public Declare PtrSafe Sub trvtrg Lib "Trelvin64.dll" Alias "trvtrg" (ByRef x1 As Single, _
     ByRef y1 As Single, ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, _
     ByRef z2 As Single, ByRef x3 As Single, ByRef y3 As Single, ByRef z3 As Single, _
@@ -640,16 +799,19 @@ Public Declare PtrSafe Sub trvtrg Lib "Trelvin64.dll" Alias "trvtrg" (ByRef x1 A
     ByRef sphi As Single, ByRef status As Long)
 
 ' Relation of two directions.
-' code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all components of u, or of
-' v, are within the tolerance.
+' code: relation: 0 oblique: u and v have neither the same, opposite nor perpendicular directions; 1
+' same: the directions are the same; 2 opposite: the directions are opposite; 3 perpendicular: the
+' directions are perpendicular; 4 zero: all components of u, or of v, are within the tolerance.
 Public Declare PtrSafe Sub trvdir Lib "Trelvin64.dll" Alias "trvdir" (ByRef ux As Single, _
     ByRef uy As Single, ByRef uz As Single, ByRef vx As Single, ByRef vy As Single, _
     ByRef vz As Single, ByRef code As Long)
 
 ' Relation of two planes.
-' code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel, normals opposite; 3
-' coincident, normals in the same direction; 4 coincident, normals opposite; 5 perpendicular; 6 a
-' normal is zero.
+' code: relation: 0 crossing: the planes cross, not at a right angle; 1 parallel_same: the planes
+' are parallel and distinct, their normals in the same direction; 2 parallel_opposite: the planes
+' are parallel and distinct, their normals opposite; 3 coincident_same: the planes coincide, their
+' normals in the same direction; 4 coincident_opposite: the planes coincide, their normals opposite;
+' 5 perpendicular: the planes are perpendicular; 6 zero_normal: a normal is zero.
 Public Declare PtrSafe Sub trvdirp Lib "Trelvin64.dll" Alias "trvdirp" (ByRef a1 As Single, _
     ByRef b1 As Single, ByRef c1 As Single, ByRef d1 As Single, ByRef a2 As Single, _
     ByRef b2 As Single, ByRef c2 As Single, ByRef d2 As Single, ByRef code As Long)
@@ -739,7 +901,6 @@ Public Declare PtrSafe Sub trvef2 Lib "Trelvin64.dll" Alias "trvef2" (ByRef bl A
     ByRef s1 As Single, ByRef s2 As Single, ByRef be1 As Single, ByRef be2 As Single)
 
 ' I section with unequal flanges.
-' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_ia Lib "Trelvin64.dll" Alias "trvsec_ia" (ByRef H As Single, _
     ByRef B1 As Single, ByRef B2 As Single, ByRef T1 As Single, ByRef T2 As Single, _
     ByRef TW As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, ByRef X As Single, _
@@ -748,7 +909,6 @@ Public Declare PtrSafe Sub trvsec_ia Lib "Trelvin64.dll" Alias "trvsec_ia" (ByRe
     ByRef q1 As Single, ByRef q2 As Single)
 
 ' I section lying on its side.
-' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_h Lib "Trelvin64.dll" Alias "trvsec_h" (ByRef H As Single, _
     ByRef B1 As Single, ByRef B2 As Single, ByRef T1 As Single, ByRef T2 As Single, _
     ByRef TW As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, ByRef X As Single, _
@@ -757,7 +917,6 @@ Public Declare PtrSafe Sub trvsec_h Lib "Trelvin64.dll" Alias "trvsec_h" (ByRef 
     ByRef q1 As Single, ByRef q2 As Single)
 
 ' T section, flange at the top.
-' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_t Lib "Trelvin64.dll" Alias "trvsec_t" (ByRef B As Single, _
     ByRef H As Single, ByRef TF As Single, ByRef TW As Single, ByRef q As Single, _
     ByRef np As Long, ByRef nv As Long, ByRef X As Single, ByRef Y As Single, ByRef code As Long, _
@@ -765,7 +924,6 @@ Public Declare PtrSafe Sub trvsec_t Lib "Trelvin64.dll" Alias "trvsec_t" (ByRef 
     ByRef z4 As Single, ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Flat bar.
-' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_b Lib "Trelvin64.dll" Alias "trvsec_b" (ByRef B As Long, _
     ByRef H As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, ByRef X As Single, _
     ByRef Y As Single, ByRef code As Long, ByRef sign As Single, ByRef z1 As Single, _
@@ -773,7 +931,6 @@ Public Declare PtrSafe Sub trvsec_b Lib "Trelvin64.dll" Alias "trvsec_b" (ByRef 
     ByRef q1 As Single, ByRef q2 As Single)
 
 ' I section lying on its side with a cover plate on its flanges' top edges, closing one cell.
-' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_h1b Lib "Trelvin64.dll" Alias "trvsec_h1b" (ByRef W As Single, _
     ByRef D As Single, ByRef P As Single, ByRef T1 As Single, ByRef T2 As Single, _
     ByRef TW As Single, ByRef TP As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
@@ -782,7 +939,6 @@ Public Declare PtrSafe Sub trvsec_h1b Lib "Trelvin64.dll" Alias "trvsec_h1b" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Box girder with overhanging flanges.
-' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_box Lib "Trelvin64.dll" Alias "trvsec_box" (ByRef BT As Single, _
     ByRef BB As Single, ByRef TT As Single, ByRef TB As Single, ByRef H As Single, _
     ByRef TW As Single, ByRef G As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
@@ -791,7 +947,6 @@ Public Declare PtrSafe Sub trvsec_box Lib "Trelvin64.dll" Alias "trvsec_box" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Rectangular hollow section with sharp corners.
-' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_rhs Lib "Trelvin64.dll" Alias "trvsec_rhs" (ByRef B As Single, _
     ByRef H As Single, ByRef T As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
     ByRef X As Single, ByRef Y As Single, ByRef code As Long, ByRef sign As Single, _
@@ -799,7 +954,6 @@ Public Declare PtrSafe Sub trvsec_rhs Lib "Trelvin64.dll" Alias "trvsec_rhs" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Two equal angles back to back, horizontal legs at the top.
-' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_l2 Lib "Trelvin64.dll" Alias "trvsec_l2" (ByRef B As Single, _
     ByRef H As Single, ByRef G As Single, ByRef T As Single, ByRef TV As Single, _
     ByRef q As Single, ByRef np As Long, ByRef nv As Long, ByRef X As Single, ByRef Y As Single, _
@@ -808,7 +962,6 @@ Public Declare PtrSafe Sub trvsec_l2 Lib "Trelvin64.dll" Alias "trvsec_l2" (ByRe
     ByRef q2 As Single)
 
 ' Top plate on a closed cell of two webs and a bottom plate between them.
-' np: number of polygons: 2.
 Public Declare PtrSafe Sub trvsec_tab Lib "Trelvin64.dll" Alias "trvsec_tab" (ByRef B As Single, _
     ByRef H As Single, ByRef BW As Single, ByRef E As Single, ByRef T As Single, _
     ByRef TW As Single, ByRef TB As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
@@ -817,7 +970,6 @@ Public Declare PtrSafe Sub trvsec_tab Lib "Trelvin64.dll" Alias "trvsec_tab" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' Two flanges joined by two webs and a middle plate, closing two cells.
-' np: number of polygons: 3.
 Public Declare PtrSafe Sub trvsec_h2b Lib "Trelvin64.dll" Alias "trvsec_h2b" (ByRef B As Single, _
     ByRef W As Single, ByRef HI As Single, ByRef TW1 As Single, ByRef TW2 As Single, _
     ByRef TM As Single, ByRef TF As Single, ByRef q As Single, ByRef np As Long, ByRef nv As Long, _
@@ -826,7 +978,6 @@ Public Declare PtrSafe Sub trvsec_h2b Lib "Trelvin64.dll" Alias "trvsec_h2b" (By
     ByRef z5 As Single, ByRef q1 As Single, ByRef q2 As Single)
 
 ' I section with unequal flanges, an eccentric web and 45-degree fillets.
-' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_i Lib "Trelvin64.dll" Alias "trvsec_i" (ByRef H As Single, _
     ByRef B1 As Single, ByRef B2 As Single, ByRef T1 As Single, ByRef T2 As Single, _
     ByRef TW As Single, ByRef S1 As Single, ByRef S2 As Single, ByRef E As Single, _
@@ -836,7 +987,6 @@ Public Declare PtrSafe Sub trvsec_i Lib "Trelvin64.dll" Alias "trvsec_i" (ByRef 
     ByRef q2 As Single)
 
 ' Channel open to the right, with lips turned inwards and folds turned back towards the web.
-' np: number of polygons: 1.
 Public Declare PtrSafe Sub trvsec_c Lib "Trelvin64.dll" Alias "trvsec_c" (ByRef H As Single, _
     ByRef B1 As Single, ByRef B2 As Single, ByRef C1 As Single, ByRef C2 As Single, _
     ByRef D1 As Single, ByRef D2 As Single, ByRef TW As Single, ByRef T1 As Single, _
@@ -855,12 +1005,11 @@ Public Declare PtrSafe Sub trvwar_c Lib "Trelvin64.dll" Alias "trvwar_c" (ByRef 
     ByRef H As Single, ByRef C As Single, ByRef t As Single, ByRef Iw As Single)
 
 ' Properties of an open section of thin plates.
-' status: -1 refused, nothing else is written: n < 1, a coordinate or a thickness that is infinite
-' or NaN, a length or a thickness not above the tolerance; 0 done; 2 to n this plate is the first at
-' fault, it starts at no end of an earlier one, or ends at one and closes a cell: what is listed up
-' to xp,yp is written, the rest is not; n+2 to 2*n plate status - n is the first at fault, it
-' crosses, touches or overlaps an earlier one elsewhere than at its start, which may close a cell:
-' what is listed up to xp,yp is written, the rest is not.
+' status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a coordinate or
+' a thickness is infinite or NaN, or a length or a thickness is not above the tolerance; 2 to n:
+' this plate is the first at fault, it starts at no end of an earlier plate, or ends at one and
+' closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses, touches or overlaps
+' an earlier plate elsewhere than at its start, which may close a cell.
 Public Declare PtrSafe Sub trvmxt Lib "Trelvin64.dll" Alias "trvmxt" (ByRef n As Long, _
     ByRef X1 As Single, ByRef Y1 As Single, ByRef X2 As Single, ByRef Y2 As Single, _
     ByRef T As Single, ByRef A As Single, ByRef xs As Single, ByRef ys As Single, _
@@ -873,8 +1022,8 @@ Public Declare PtrSafe Sub trvmxt Lib "Trelvin64.dll" Alias "trvmxt" (ByRef n As
     ByRef status As Long)
 
 ' Properties of a flat bar, centred on the origin.
-' status: -1 refused, nothing else is written: a side that is infinite, NaN or not above the
-' tolerance; 0 done.
+' status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: a side is infinite, NaN
+' or not above the tolerance.
 Public Declare PtrSafe Sub trvmxt_fb Lib "Trelvin64.dll" Alias "trvmxt_fb" (ByRef B As Single, _
     ByRef H As Single, ByRef A As Single, ByRef xs As Single, ByRef ys As Single, _
     ByRef Ix As Single, ByRef Iy As Single, ByRef Ixy As Single, ByRef I1 As Single, _
@@ -905,8 +1054,9 @@ Public Declare PtrSafe Sub trvrotz Lib "Trelvin64.dll" Alias "trvrotz" (ByRef mo
     ByRef angle As Single)
 
 ' Three-point test: whether P0, P1 and P2 span a plane.
-' status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on
-' their line; 5 P2 is beyond P1.
+' status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
+' is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0
+' on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and P1.
 Public Declare PtrSafe Sub trvpsl Lib "Trelvin64.dll" Alias "trvpsl" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -924,7 +1074,8 @@ Public Declare PtrSafe Sub trvtrn Lib "Trelvin64.dll" Alias "trvtrn" (ByRef p As
     ByRef a9 As Single, ByRef mode As Long)
 
 ' Frame of the plane through three points.
-' status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).
+' status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1, or
+' the three points are on one line (trvpsl).
 Public Declare PtrSafe Sub trvaxe Lib "Trelvin64.dll" Alias "trvaxe" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -933,7 +1084,8 @@ Public Declare PtrSafe Sub trvaxe Lib "Trelvin64.dll" Alias "trvaxe" (ByRef x0 A
     ByRef e3z As Single, ByRef status As Long)
 
 ' Frame of an axis from P0 to P1.
-' status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance.
+' status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0 and
+' P1 is within the tolerance.
 Public Declare PtrSafe Sub trvaxel Lib "Trelvin64.dll" Alias "trvaxel" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef angle As Single, ByRef e1x As Single, ByRef e1y As Single, _
@@ -946,7 +1098,8 @@ Public Declare PtrSafe Sub trvptr Lib "Trelvin64.dll" Alias "trvptr" (ByRef X As
     ByRef z0 As Single, ByRef ax As Single, ByRef ay As Single, ByRef az As Single)
 
 ' Shifts points and turns them in the frame of three points, in place.
-' status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).
+' status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1, or
+' the three points are on one line (trvpsl).
 Public Declare PtrSafe Sub trvptrl Lib "Trelvin64.dll" Alias "trvptrl" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -955,15 +1108,16 @@ Public Declare PtrSafe Sub trvptrl Lib "Trelvin64.dll" Alias "trvptrl" (ByRef x0
     ByRef az As Single, ByRef status As Long)
 
 ' Turns points about the axis from P0 through P1, in place.
-' status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance.
+' status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0 and
+' P1 is within the tolerance.
 Public Declare PtrSafe Sub trvpra Lib "Trelvin64.dll" Alias "trvpra" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef X As Single, ByRef Y As Single, ByRef Z As Single, ByRef n As Long, _
     ByRef angle As Single, ByRef status As Long)
 
 ' Turns points of a plane in the frame of the three points that span it, then shifts them, in place.
-' status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1 to n position of
-' the first point off the plane.
+' status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three points
+' are on one line (trvpsl); 1 to n: position of the first point off the plane.
 Public Declare PtrSafe Sub trvppc Lib "Trelvin64.dll" Alias "trvppc" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -978,8 +1132,9 @@ Public Declare PtrSafe Sub trvplg Lib "Trelvin64.dll" Alias "trvplg" (ByRef x As
     ByRef a As Single, ByRef b As Single, ByRef c As Single, ByRef d As Single)
 
 ' Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
-' status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on
-' their line; 5 P2 is beyond P1.
+' status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
+' is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0
+' on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and P1.
 Public Declare PtrSafe Sub trvpl1 Lib "Trelvin64.dll" Alias "trvpl1" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -987,8 +1142,9 @@ Public Declare PtrSafe Sub trvpl1 Lib "Trelvin64.dll" Alias "trvpl1" (ByRef x0 A
     ByRef status As Long)
 
 ' Plane through a point, parallel to two lines.
-' status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
-' of opposite sense; 7 A and B, or C and D, coincide (trvcnt).
+' status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
+' same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 7
+' no_length: A and B, or C and D, coincide (trvcnt).
 Public Declare PtrSafe Sub trvpl2 Lib "Trelvin64.dll" Alias "trvpl2" (ByRef x As Single, _
     ByRef y As Single, ByRef z As Single, ByRef xa As Single, ByRef ya As Single, _
     ByRef za As Single, ByRef xb As Single, ByRef yb As Single, ByRef zb As Single, _
@@ -997,8 +1153,9 @@ Public Declare PtrSafe Sub trvpl2 Lib "Trelvin64.dll" Alias "trvpl2" (ByRef x As
     ByRef c As Single, ByRef d As Single, ByRef status As Long)
 
 ' Plane that contains one line and is parallel to another: trvpl2 through A.
-' status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
-' of opposite sense; 7 A and B, or C and D, coincide (trvcnt).
+' status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
+' same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 7
+' no_length: A and B, or C and D, coincide (trvcnt).
 Public Declare PtrSafe Sub trvpl3 Lib "Trelvin64.dll" Alias "trvpl3" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef xb As Single, ByRef yb As Single, _
     ByRef zb As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
@@ -1006,7 +1163,8 @@ Public Declare PtrSafe Sub trvpl3 Lib "Trelvin64.dll" Alias "trvpl3" (ByRef xa A
     ByRef b As Single, ByRef c As Single, ByRef d As Single, ByRef status As Long)
 
 ' Plane through a point, perpendicular to a segment.
-' status: 0 done; 1 A and B coincide, each coordinate within the tolerance (trvcnt).
+' status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
+' coincide, each coordinate within the tolerance (trvcnt).
 Public Declare PtrSafe Sub trvpl4 Lib "Trelvin64.dll" Alias "trvpl4" (ByRef x As Single, _
     ByRef y As Single, ByRef z As Single, ByRef xa As Single, ByRef ya As Single, _
     ByRef za As Single, ByRef xb As Single, ByRef yb As Single, ByRef zb As Single, _
@@ -1014,14 +1172,16 @@ Public Declare PtrSafe Sub trvpl4 Lib "Trelvin64.dll" Alias "trvpl4" (ByRef x As
     ByRef status As Long)
 
 ' Plane with given intercepts on the axes.
-' status: 0 done; 1 an intercept is within the tolerance or NaN.
+' status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the tolerance
+' or NaN.
 Public Declare PtrSafe Sub trvpl5 Lib "Trelvin64.dll" Alias "trvpl5" (ByRef ix As Single, _
     ByRef iy As Single, ByRef iz As Single, ByRef a As Single, ByRef b As Single, _
     ByRef c As Single, ByRef d As Single, ByRef status As Long)
 
 ' Plane of two lines, each given by a point and a direction.
-' status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
-' of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each component.
+' status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
+' same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
+' skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
 Public Declare PtrSafe Sub trvpl6 Lib "Trelvin64.dll" Alias "trvpl6" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
@@ -1029,8 +1189,10 @@ Public Declare PtrSafe Sub trvpl6 Lib "Trelvin64.dll" Alias "trvpl6" (ByRef xa A
     ByRef b As Single, ByRef c As Single, ByRef d As Single, ByRef status As Long)
 
 ' Plane of three points turned about the line from P0 to P1.
-' status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is at P1; 3 P2 is
-' between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond P1.
+' status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
+' is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2 is between
+' P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on
+' the line of P0 and P1.
 Public Declare PtrSafe Sub trvpl7 Lib "Trelvin64.dll" Alias "trvpl7" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -1038,8 +1200,8 @@ Public Declare PtrSafe Sub trvpl7 Lib "Trelvin64.dll" Alias "trvpl7" (ByRef x0 A
     ByRef d As Single, ByRef status As Long)
 
 ' Whether a point lies on the plane of three points.
-' status: 0 it does, and any point does where P0 = P1; -1 it does not, or the three points span no
-' plane (trvpsl).
+' status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1; -1
+' no: the point does not lie on the plane, or the three points span no plane (trvpsl).
 Public Declare PtrSafe Sub trvpsp Lib "Trelvin64.dll" Alias "trvpsp" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -1052,14 +1214,17 @@ Public Declare PtrSafe Sub trvpld Lib "Trelvin64.dll" Alias "trvpld" (ByRef x As
     ByRef d As Single, ByRef dist As Single)
 
 ' Whether a point lies on a plane.
-' status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is exactly zero.
+' status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point does not lie on
+' the plane, or the distance is NaN; 1 zero_normal: the normal of the plane is exactly zero.
 Public Declare PtrSafe Sub trvpspg Lib "Trelvin64.dll" Alias "trvpspg" (ByRef x As Single, _
     ByRef y As Single, ByRef z As Single, ByRef a As Single, ByRef b As Single, ByRef c As Single, _
     ByRef d As Single, ByRef tol As Single, ByRef status As Long)
 
 ' Relation of two directions, taken as lines through the origin.
-' status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5 perpendicular; 7 u or
-' w is within the tolerance in each component.
+' status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same, opposite
+' nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the directions are
+' opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is within the
+' tolerance in each component.
 Public Declare PtrSafe Sub trvplv Lib "Trelvin64.dll" Alias "trvplv" (ByRef ux As Single, _
     ByRef uy As Single, ByRef uz As Single, ByRef wx As Single, ByRef wy As Single, _
     ByRef wz As Single, ByRef v7 As Single, ByRef v8 As Single, ByRef status As Long)
@@ -1070,18 +1235,20 @@ Public Declare PtrSafe Sub trvpnp Lib "Trelvin64.dll" Alias "trvpnp" (ByRef X As
     ByRef d As Single, ByRef n As Long, ByRef count As Long, ByRef index As Long)
 
 ' Relation of two lines.
-' status: 0 they cross, not at a right angle; 1 parallel and distinct, of the same sense; 2 parallel
-' and distinct, of opposite sense; 3 the same line, of the same sense; 4 the same line, of opposite
-' sense; 5 they cross at a right angle; 6 skew; 7 A and B, or C and D, coincide, each coordinate
-' within the tolerance.
+' status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle; 1 parallel_same:
+' parallel and distinct lines of the same direction; 2 parallel_opposite: parallel and distinct
+' lines of opposite direction; 3 same_line: the same line, of the same direction; 4 opposite_line:
+' the same line, of opposite direction; 5 perpendicular: the lines cross at a right angle; 6 skew:
+' the lines are skew; 7 coincident: A and B, or C and D, coincide, each coordinate within the
+' tolerance.
 Public Declare PtrSafe Sub trvdirl Lib "Trelvin64.dll" Alias "trvdirl" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef xb As Single, ByRef yb As Single, _
     ByRef zb As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
     ByRef xd As Single, ByRef yd As Single, ByRef zd As Single, ByRef status As Long)
 
 ' Whether three segments span space.
-' status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above the tolerance, in
-' the cube of the length unit.
+' status: test: 0 flat: the triple product of B - A, D - C and F - E is within the tolerance; 1
+' spanning: the triple product is above the tolerance, in the cube of the length unit.
 Public Declare PtrSafe Sub trv3sp Lib "Trelvin64.dll" Alias "trv3sp" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef xb As Single, ByRef yb As Single, _
     ByRef zb As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
@@ -1090,22 +1257,23 @@ Public Declare PtrSafe Sub trv3sp Lib "Trelvin64.dll" Alias "trv3sp" (ByRef xa A
     ByRef zf As Single, ByRef status As Long)
 
 ' Distance of a point from a line.
-' status: 0 always.
+' status: outcome (TrvStatus): 0 done: always.
 Public Declare PtrSafe Sub trv3ldb Lib "Trelvin64.dll" Alias "trv3ldb" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef xb As Single, ByRef yb As Single, _
     ByRef zb As Single, ByRef xq As Single, ByRef yq As Single, ByRef zq As Single, _
     ByRef status As Long, ByRef dist As Single)
 
 ' Signed distance of a point from a line, in the plane of both.
-' status: 0 always.
+' status: outcome (TrvStatus): 0 done: always.
 Public Declare PtrSafe Sub trv3lda Lib "Trelvin64.dll" Alias "trv3lda" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef xb As Single, ByRef yb As Single, _
     ByRef zb As Single, ByRef xq As Single, ByRef yq As Single, ByRef zq As Single, _
     ByRef status As Long, ByRef dist As Single)
 
 ' Intersection of the lines A + t*u and C + s*w.
-' status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
-' of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each component.
+' status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
+' same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
+' skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
 Public Declare PtrSafe Sub trv3lni Lib "Trelvin64.dll" Alias "trv3lni" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
@@ -1113,8 +1281,9 @@ Public Declare PtrSafe Sub trv3lni Lib "Trelvin64.dll" Alias "trv3lni" (ByRef xa
     ByRef xi As Single, ByRef yi As Single, ByRef zi As Single)
 
 ' Intersection of the line P + t*u with a plane.
-' status: 0 done; 3 the line is parallel to the plane: the cosine of u and the normal is within the
-' tolerance; 4 u or the normal is within the tolerance in each component.
+' status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the plane, the
+' cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within the
+' tolerance in each component.
 Public Declare PtrSafe Sub trvpli Lib "Trelvin64.dll" Alias "trvpli" (ByRef x As Single, _
     ByRef y As Single, ByRef z As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef a As Single, ByRef b As Single, ByRef c As Single, _
@@ -1122,14 +1291,16 @@ Public Declare PtrSafe Sub trvpli Lib "Trelvin64.dll" Alias "trvpli" (ByRef x As
     ByRef status As Long)
 
 ' Position of a plane against the axes.
-' position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4 parallel to the z axis;
-' 5 normal to the z axis; 6 normal to the x axis; 7 normal to the y axis; 8 the plane z = 0; 9 the
-' plane x = 0; 10 the plane y = 0.
+' position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
+' parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the plane
+' is parallel to the z axis; 5 normal_z: the plane is normal to the z axis; 6 normal_x: the plane is
+' normal to the x axis; 7 normal_y: the plane is normal to the y axis; 8 at_z_zero: the plane is z =
+' 0; 9 at_x_zero: the plane is x = 0; 10 at_y_zero: the plane is y = 0.
 Public Declare PtrSafe Sub trvplp Lib "Trelvin64.dll" Alias "trvplp" (ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef d As Single, ByRef position As Long)
 
 ' Points of a list near a line.
-' status: 0 always; unwritten when n < 1.
+' status: outcome (TrvStatus): 0 done: always; unwritten if n < 1.
 Public Declare PtrSafe Sub trvpnl Lib "Trelvin64.dll" Alias "trvpnl" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef xb As Single, ByRef yb As Single, _
     ByRef zb As Single, ByRef X As Single, ByRef Y As Single, ByVal zf As LongPtr, _
@@ -1137,9 +1308,10 @@ Public Declare PtrSafe Sub trvpnl Lib "Trelvin64.dll" Alias "trvpnl" (ByRef xa A
     ByRef index As Long)
 
 ' Carries a point along when the line through it is moved.
-' status: 0 not moved: the three points are not collinear, or Q1 is at P; 3 moved, Q1 and Q2 on one
-' side of P; 4 moved, on either side of P; 6 moved, rounding takes the three for skew lines; 7
-' moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance.
+' status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3 moved_one_side:
+' Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved, Q1 and Q2 are on
+' either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points for skew lines; 7
+' moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance.
 Public Declare PtrSafe Sub trvlpc Lib "Trelvin64.dll" Alias "trvlpc" (ByRef xp As Single, _
     ByRef yp As Single, ByRef zp As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _

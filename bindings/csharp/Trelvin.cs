@@ -1,4 +1,4 @@
-// Generated from include/trelvin by tools/bindings.py.
+// Generated from include/trelvin by tools/generate.py.
 //
 // Every routine of Trelvin for C#, from .NET Framework 2.0 and Mono on. One source for all systems:
 // the library "trelvin" is Trelvin.dll on Windows and libtrelvin.so elsewhere. The contracts are in
@@ -19,10 +19,193 @@ namespace Trelvin
         public const string Version = "1.1.0";
         private const string Library = "trelvin";
 
+
+        // Whether a computation was done.
+        public const int trvStatusDone = 0;
+        public const int trvStatusRefused = -1;
+
+        // Whether a point of an arc was found; note that 1 means done here.
+        public const int trvArcDone = 1;
+        public const int trvArcRefused = 0;
+
+        // Whether a frame was found.
+        public const int trvFrameDone = 0;
+        public const int trvFrameNoFrame = -2;
+
+        // Whether two points coincide: each difference of their coordinates is within the
+        // tolerance.
+        public const int trvCoincidenceDistinct = 0;
+        public const int trvCoincidenceCoincident = 1;
+
+        // How many points were found.
+        public const int trvPointsNone = 0;
+        public const int trvPointsOne = 1;
+        public const int trvPointsTwo = 2;
+
+        // Which of three components are above the tolerance.
+        public const int trvComponentsNone = 0;
+        public const int trvComponentsAll = 1;
+        public const int trvComponentsFirst = 2;
+        public const int trvComponentsSecond = 3;
+        public const int trvComponentsThird = 4;
+        public const int trvComponentsFirstSecond = 5;
+        public const int trvComponentsSecondThird = 6;
+        public const int trvComponentsFirstThird = 7;
+
+        // Whether a point lies on a line of space.
+        public const int trvOnLineNo = 0;
+        public const int trvOnLineYes = 1;
+
+        // Whether a point lies on a plane; note that 0 means yes.
+        public const int trvOnPlaneYes = 0;
+        public const int trvOnPlaneNo = -1;
+        public const int trvOnPlaneZeroNormal = 1;
+
+        // How two lines of the plane lie to each other.
+        public const int trvPlaneLinesOnePoint = 0;
+        public const int trvPlaneLinesSameLine = 1;
+        public const int trvPlaneLinesParallel = 2;
+
+        // Three-point test (trvpsl): where P2 is, seen from P0 and P1.
+        public const int trvThreePointsSpansPlane = 0;
+        public const int trvThreePointsAtP0 = 1;
+        public const int trvThreePointsAtP1 = 2;
+        public const int trvThreePointsBetween = 3;
+        public const int trvThreePointsBeyondP0 = 4;
+        public const int trvThreePointsBeyondP1 = 5;
+
+        // How two lines of space lie to each other (trvdirl).
+        public const int trvLinesCrossing = 0;
+        public const int trvLinesParallelSame = 1;
+        public const int trvLinesParallelOpposite = 2;
+        public const int trvLinesSameLine = 3;
+        public const int trvLinesOppositeLine = 4;
+        public const int trvLinesPerpendicular = 5;
+        public const int trvLinesSkew = 6;
+        public const int trvLinesCoincident = 7;
+
+        // What came of two lines of space: a result, or the relation that allows none.
+        public const int trvTwoLinesDone = 0;
+        public const int trvTwoLinesSameLine = 3;
+        public const int trvTwoLinesOppositeLine = 4;
+        public const int trvTwoLinesSkew = 6;
+        public const int trvTwoLinesNoLength = 7;
+
+        // Kind of a part of a section.
+        public const int trvPartConcentrated = 1;
+        public const int trvPartPolygon = 2;
+        public const int trvPartCircle = 3;
+        public const int trvPartSmallerSegment = 4;
+        public const int trvPartLargerSegment = 5;
+
+        // trvcin: class.
         public const int trvcinUncutAbove = 1;
         public const int trvcinUncutBelow = 2;
         public const int trvcinCutBelow = 3;
         public const int trvcinCutAbove = 4;
+
+        // trvapp: where each point is.
+        public const int trvappInside = 1;
+        public const int trvappOutside = 2;
+        public const int trvappNoSector = -1;
+
+        // trvcer10: outcome.
+        public const int trvcer10CrossingOrRefused = 0;
+        public const int trvcer10AlongChord = 1;
+        public const int trvcer10Parallel = 2;
+
+        // trvptp1: which points of A have a partner in B.
+        public const int trvptp1NoPair = 0;
+        public const int trvptp1SomePairs = 1;
+        public const int trvptp1AllPaired = 2;
+
+        // trvpin: where P1 is.
+        public const int trvpinInside = 1;
+        public const int trvpinOutside = 0;
+        public const int trvpinRefused = -1;
+
+        // trvcnt1: test.
+        public const int trvcnt1Zero = 1;
+        public const int trvcnt1Nonzero = 0;
+
+        // trvvin: sign.
+        public const int trvvinPositive = 1;
+        public const int trvvinNotPositive = 2;
+
+        // trvpos1: what was found.
+        public const int trvpos1AtEntry = 1;
+        public const int trvpos1Between = 2;
+        public const int trvpos1Neither = 0;
+
+        // trvphip: outcome.
+        public const int trvphipNoLength = -1;
+
+        // trvcnv: test.
+        public const int trvcnvConvex = 1;
+        public const int trvcnvNotConvex = 0;
+        public const int trvcnvRefused = -1;
+
+        // trvdir: relation.
+        public const int trvdirOblique = 0;
+        public const int trvdirSame = 1;
+        public const int trvdirOpposite = 2;
+        public const int trvdirPerpendicular = 3;
+        public const int trvdirZero = 4;
+
+        // trvdirp: relation.
+        public const int trvdirpCrossing = 0;
+        public const int trvdirpParallelSame = 1;
+        public const int trvdirpParallelOpposite = 2;
+        public const int trvdirpCoincidentSame = 3;
+        public const int trvdirpCoincidentOpposite = 4;
+        public const int trvdirpPerpendicular = 5;
+        public const int trvdirpZeroNormal = 6;
+
+        // trvppc: outcome.
+        public const int trvppcDone = 0;
+        public const int trvppcNoFrame = -1;
+
+        // trvpl5: outcome.
+        public const int trvpl5Done = 0;
+        public const int trvpl5NoPlane = 1;
+
+        // trvplv: relation.
+        public const int trvplvZeroU = -1;
+        public const int trvplvOblique = 0;
+        public const int trvplvSame = 3;
+        public const int trvplvOpposite = 4;
+        public const int trvplvPerpendicular = 5;
+        public const int trvplvZero = 7;
+
+        // trv3sp: test.
+        public const int trv3spFlat = 0;
+        public const int trv3spSpanning = 1;
+
+        // trvpli: outcome.
+        public const int trvpliDone = 0;
+        public const int trvpliParallel = 3;
+        public const int trvpliZero = 4;
+
+        // trvplp: position.
+        public const int trvplpGeneral = 1;
+        public const int trvplpParallelX = 2;
+        public const int trvplpParallelY = 3;
+        public const int trvplpParallelZ = 4;
+        public const int trvplpNormalZ = 5;
+        public const int trvplpNormalX = 6;
+        public const int trvplpNormalY = 7;
+        public const int trvplpAtZZero = 8;
+        public const int trvplpAtXZero = 9;
+        public const int trvplpAtYZero = 10;
+
+        // trvlpc: outcome.
+        public const int trvlpcNotMoved = 0;
+        public const int trvlpcMovedOneSide = 3;
+        public const int trvlpcMovedEitherSide = 4;
+        public const int trvlpcMovedSkew = 6;
+        public const int trvlpcMovedAtP = 7;
+
+        // Names of version 1.1, which the next version drops.
         public const int trvcer3Done = 1;
         public const int trvcer3Refused = 0;
         public const int trvcer8Done = 1;
@@ -35,9 +218,6 @@ namespace Trelvin
         public const int trvarc1Refused = 0;
         public const int trvcer4Done = 1;
         public const int trvcer4Refused = 0;
-        public const int trvcer10Refused = 0;
-        public const int trvcer10AlongChord = 1;
-        public const int trvcer10Parallel = 2;
         public const int trvcer5Done = 1;
         public const int trvcer5Refused = 0;
         public const int trvcer7Done = 1;
@@ -46,23 +226,16 @@ namespace Trelvin
         public const int trvardRefused = 0;
         public const int trvporOrdered = 0;
         public const int trvporRefused = -1;
-        public const int trvptp1NoPair = 0;
-        public const int trvptp1SomePairs = 1;
-        public const int trvptp1AllPaired = 2;
-        public const int trvpinInside = 1;
-        public const int trvpinOutside = 0;
-        public const int trvpinRefused = -1;
         public const int trvcntCoincident = 1;
         public const int trvcntDistinct = 0;
-        public const int trvcnt1Zero = 1;
-        public const int trvcnt1Nonzero = 0;
         public const int trv123Done = 0;
         public const int trv123Coincident = 1;
-        public const int trvvinPositive = 1;
-        public const int trvvinNotPositive = 2;
-        public const int trvpos1AtEntry = 1;
-        public const int trvpos1Between = 2;
-        public const int trvpos1Neither = 0;
+        public const int trvchiDone = 0;
+        public const int trvchiCoincident = 1;
+        public const int trvtrgDone = 0;
+        public const int trvtrgCoincident = 1;
+        public const int trvpl4Done = 0;
+        public const int trvpl4Coincident = 1;
         public const int trvlniOnePoint = 0;
         public const int trvlniSameLine = 1;
         public const int trvlniParallel = 2;
@@ -85,8 +258,6 @@ namespace Trelvin
         public const int trvln6FirstSecond = 5;
         public const int trvln6SecondThird = 6;
         public const int trvln6FirstThird = 7;
-        public const int trvln6OnLine = 1;
-        public const int trvln6OffLine = 0;
         public const int trvln7None = 0;
         public const int trvln7All = 1;
         public const int trvln7First = 2;
@@ -95,38 +266,32 @@ namespace Trelvin
         public const int trvln7FirstSecond = 5;
         public const int trvln7SecondThird = 6;
         public const int trvln7FirstThird = 7;
+        public const int trvln6OnLine = 1;
+        public const int trvln6OffLine = 0;
         public const int trvln7OnLine = 1;
         public const int trvln7OffLine = 0;
-        public const int trvphipNoLength = -1;
-        public const int trvchiDone = 0;
-        public const int trvchiCoincident = 1;
-        public const int trvcnvConvex = 1;
-        public const int trvcnvNotConvex = 0;
-        public const int trvcnvRefused = -1;
-        public const int trvtrgDone = 0;
-        public const int trvtrgCoincident = 1;
-        public const int trvdirOblique = 0;
-        public const int trvdirSame = 1;
-        public const int trvdirOpposite = 2;
-        public const int trvdirPerpendicular = 3;
-        public const int trvdirZero = 4;
-        public const int trvdirpCrossing = 0;
-        public const int trvdirpParallelSame = 1;
-        public const int trvdirpParallelOpposite = 2;
-        public const int trvdirpCoincidentSame = 3;
-        public const int trvdirpCoincidentOpposite = 4;
-        public const int trvdirpPerpendicular = 5;
-        public const int trvdirpZeroNormal = 6;
         public const int trvmxtDone = 0;
         public const int trvmxtRefused = -1;
-        public const int trvmxt_fbDone = 0;
-        public const int trvmxt_fbRefused = -1;
+        public const int trvmxtFbDone = 0;
+        public const int trvmxtFbRefused = -1;
         public const int trvpslSpansPlane = 0;
         public const int trvpslAtP0 = 1;
         public const int trvpslAtP1 = 2;
         public const int trvpslBetween = 3;
         public const int trvpslBeyondP0 = 4;
         public const int trvpslBeyondP1 = 5;
+        public const int trvpl1Done = 0;
+        public const int trvpl1AtP0 = 1;
+        public const int trvpl1AtP1 = 2;
+        public const int trvpl1Between = 3;
+        public const int trvpl1BeyondP0 = 4;
+        public const int trvpl1BeyondP1 = 5;
+        public const int trvpl7Done = 0;
+        public const int trvpl7AtP0 = 1;
+        public const int trvpl7AtP1 = 2;
+        public const int trvpl7Between = 3;
+        public const int trvpl7BeyondP0 = 4;
+        public const int trvpl7BeyondP1 = 5;
         public const int trvaxeDone = 0;
         public const int trvaxeNoFrame = -2;
         public const int trvaxelDone = 0;
@@ -135,14 +300,6 @@ namespace Trelvin
         public const int trvptrlNoFrame = -2;
         public const int trvpraDone = 0;
         public const int trvpraNoFrame = -2;
-        public const int trvppcDone = 0;
-        public const int trvppcNoFrame = -1;
-        public const int trvpl1Done = 0;
-        public const int trvpl1AtP0 = 1;
-        public const int trvpl1AtP1 = 2;
-        public const int trvpl1Between = 3;
-        public const int trvpl1BeyondP0 = 4;
-        public const int trvpl1BeyondP1 = 5;
         public const int trvpl2Done = 0;
         public const int trvpl2SameLine = 3;
         public const int trvpl2OppositeLine = 4;
@@ -151,32 +308,21 @@ namespace Trelvin
         public const int trvpl3SameLine = 3;
         public const int trvpl3OppositeLine = 4;
         public const int trvpl3Coincident = 7;
-        public const int trvpl4Done = 0;
-        public const int trvpl4Coincident = 1;
-        public const int trvpl5Done = 0;
-        public const int trvpl5NoPlane = 1;
         public const int trvpl6Done = 0;
         public const int trvpl6SameLine = 3;
         public const int trvpl6OppositeLine = 4;
         public const int trvpl6Skew = 6;
         public const int trvpl6Zero = 7;
-        public const int trvpl7Done = 0;
-        public const int trvpl7AtP0 = 1;
-        public const int trvpl7AtP1 = 2;
-        public const int trvpl7Between = 3;
-        public const int trvpl7BeyondP0 = 4;
-        public const int trvpl7BeyondP1 = 5;
+        public const int trv3lniDone = 0;
+        public const int trv3lniSameLine = 3;
+        public const int trv3lniOppositeLine = 4;
+        public const int trv3lniSkew = 6;
+        public const int trv3lniZero = 7;
         public const int trvpspOnPlane = 0;
         public const int trvpspOffPlane = -1;
         public const int trvpspgOnPlane = 0;
         public const int trvpspgOffPlane = -1;
         public const int trvpspgZeroNormal = 1;
-        public const int trvplvZeroU = -1;
-        public const int trvplvOblique = 0;
-        public const int trvplvSame = 3;
-        public const int trvplvOpposite = 4;
-        public const int trvplvPerpendicular = 5;
-        public const int trvplvZero = 7;
         public const int trvdirlCrossing = 0;
         public const int trvdirlParallelSame = 1;
         public const int trvdirlParallelOpposite = 2;
@@ -185,34 +331,9 @@ namespace Trelvin
         public const int trvdirlPerpendicular = 5;
         public const int trvdirlSkew = 6;
         public const int trvdirlCoincident = 7;
-        public const int trv3spFlat = 0;
-        public const int trv3spSpanning = 1;
         public const int trv3ldbDone = 0;
         public const int trv3ldaDone = 0;
-        public const int trv3lniDone = 0;
-        public const int trv3lniSameLine = 3;
-        public const int trv3lniOppositeLine = 4;
-        public const int trv3lniSkew = 6;
-        public const int trv3lniZero = 7;
-        public const int trvpliDone = 0;
-        public const int trvpliParallel = 3;
-        public const int trvpliZero = 4;
-        public const int trvplpGeneral = 1;
-        public const int trvplpParallelX = 2;
-        public const int trvplpParallelY = 3;
-        public const int trvplpParallelZ = 4;
-        public const int trvplpNormalZ = 5;
-        public const int trvplpNormalX = 6;
-        public const int trvplpNormalY = 7;
-        public const int trvplpAtZZero = 8;
-        public const int trvplpAtXZero = 9;
-        public const int trvplpAtYZero = 10;
         public const int trvpnlDone = 0;
-        public const int trvlpcNotMoved = 0;
-        public const int trvlpcMovedOneSide = 3;
-        public const int trvlpcMovedEitherSide = 4;
-        public const int trvlpcMovedSkew = 6;
-        public const int trvlpcMovedAtP = 7;
 
         // Circles and arcs of the plane
 
@@ -232,16 +353,16 @@ namespace Trelvin
         }
 
         /// <summary>Intersection of a line and a circle.</summary>
-        /// <remarks>n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts
-        /// it.</remarks>
+        /// <remarks>n: number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the
+        /// line touches the circle; 2 two: the line cuts the circle.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvlci(ref float a, ref float b, ref float c, ref float D,
             ref float E, ref float F, ref int n, ref float x1, ref float y1, ref float x2,
             ref float y2);
 
         /// <summary>Intersection of a line and a circle.</summary>
-        /// <remarks>n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts
-        /// it.</remarks>
+        /// <remarks>n: number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the
+        /// line touches the circle; 2 two: the line cuts the circle.</remarks>
         public static void trvlci(float a, float b, float c, float D, float E, float F, out int n,
             out float x1, out float y1, out float x2, out float y2)
         {
@@ -252,8 +373,9 @@ namespace Trelvin
 
         /// <summary>Intersection of two circles: that of their radical line with the first circle
         /// (trvlci).</summary>
-        /// <remarks>n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is
-        /// within the tolerance; 1 the circles touch; 2 they cut each other.</remarks>
+        /// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or
+        /// are concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch;
+        /// 2 two: the circles cut each other.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvc12(ref float D1, ref float E1, ref float F1, ref float D2,
             ref float E2, ref float F2, ref int n, ref float x1, ref float y1, ref float x2,
@@ -261,8 +383,9 @@ namespace Trelvin
 
         /// <summary>Intersection of two circles: that of their radical line with the first circle
         /// (trvlci).</summary>
-        /// <remarks>n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is
-        /// within the tolerance; 1 the circles touch; 2 they cut each other.</remarks>
+        /// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or
+        /// are concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch;
+        /// 2 two: the circles cut each other.</remarks>
         public static void trvc12(float D1, float E1, float F1, float D2, float E2, float F2,
             out int n, out float x1, out float y1, out float x2, out float y2)
         {
@@ -273,18 +396,18 @@ namespace Trelvin
         }
 
         /// <summary>Centres of the circles of a radius through two points.</summary>
-        /// <remarks>n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half
-        /// the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are
-        /// the same point; 2 two.</remarks>
+        /// <remarks>n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or
+        /// less than half the chord, the discriminant is NaN, or the chord is horizontal; 1 one:
+        /// both candidates are the same point; 2 two: there are two points.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer2(ref float x1, ref float y1, ref float x2, ref float y2,
             ref int side, ref float r, ref float xa, ref float ya, ref float xb, ref float yb,
             ref float xc, ref float yc, ref int n);
 
         /// <summary>Centres of the circles of a radius through two points.</summary>
-        /// <remarks>n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half
-        /// the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are
-        /// the same point; 2 two.</remarks>
+        /// <remarks>n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or
+        /// less than half the chord, the discriminant is NaN, or the chord is horizontal; 1 one:
+        /// both candidates are the same point; 2 two: there are two points.</remarks>
         public static void trvcer2(float x1, float y1, float x2, float y2, int side, float r,
             out float xa, out float ya, out float xb, out float yb, out float xc, out float yc,
             out int n)
@@ -296,17 +419,19 @@ namespace Trelvin
         }
 
         /// <summary>Circle through two points with a given sagitta.</summary>
-        /// <remarks>n: number of centres (trvcer2): 0 h &lt; 1e-5, P1 = P2 exactly, r is at most
-        /// 1e-5 or less than half the chord, the discriminant is NaN, or the chord is horizontal; 1
-        /// both candidates are the same point; 2 two.</remarks>
+        /// <remarks>n: number of centres of trvcer2 (TrvPoints): 0 none: h &lt; 1e-5, P1 = P2
+        /// exactly, r is at most 1e-5 or less than half the chord, the discriminant is NaN, or the
+        /// chord is horizontal; 1 one: both candidates are the same point; 2 two: there are two
+        /// points.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer1(ref float x1, ref float y1, ref float x2, ref float y2,
             ref int side, ref float h, ref float r, ref float xc, ref float yc, ref int n);
 
         /// <summary>Circle through two points with a given sagitta.</summary>
-        /// <remarks>n: number of centres (trvcer2): 0 h &lt; 1e-5, P1 = P2 exactly, r is at most
-        /// 1e-5 or less than half the chord, the discriminant is NaN, or the chord is horizontal; 1
-        /// both candidates are the same point; 2 two.</remarks>
+        /// <remarks>n: number of centres of trvcer2 (TrvPoints): 0 none: h &lt; 1e-5, P1 = P2
+        /// exactly, r is at most 1e-5 or less than half the chord, the discriminant is NaN, or the
+        /// chord is horizontal; 1 one: both candidates are the same point; 2 two: there are two
+        /// points.</remarks>
         public static void trvcer1(float x1, float y1, float x2, float y2, int side, float h,
             out float r, out float xc, out float yc, out int n)
         {
@@ -316,15 +441,19 @@ namespace Trelvin
         }
 
         /// <summary>Classifies a circle cut by a line, with a trace.</summary>
-        /// <remarks>position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it;
-        /// 3 cut, centre below it; 4 cut, centre on or above it.</remarks>
+        /// <remarks>position: class: 1 uncut_above: the circle is not cut, its centre is above the
+        /// x axis; 2 uncut_below: the circle is not cut, its centre is on or below the x axis; 3
+        /// cut_below: the circle is cut, its centre is below the x axis; 4 cut_above: the circle is
+        /// cut, its centre is on or above the x axis.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcin([In] float[] X, [In] float[] Y, ref float a, ref float b,
             ref float c, ref int position, ref float x1, ref float y1, ref float x2, ref float y2);
 
         /// <summary>Classifies a circle cut by a line, with a trace.</summary>
-        /// <remarks>position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it;
-        /// 3 cut, centre below it; 4 cut, centre on or above it.</remarks>
+        /// <remarks>position: class: 1 uncut_above: the circle is not cut, its centre is above the
+        /// x axis; 2 uncut_below: the circle is not cut, its centre is on or below the x axis; 3
+        /// cut_below: the circle is cut, its centre is below the x axis; 4 cut_above: the circle is
+        /// cut, its centre is on or above the x axis.</remarks>
         public static void trvcin(float[] X, float[] Y, float a, float b, float c, out int position,
             out float x1, out float y1, out float x2, out float y2)
         {
@@ -334,15 +463,15 @@ namespace Trelvin
         }
 
         /// <summary>Turns a point about a centre.</summary>
-        /// <remarks>status: 1 done; 0 the point's distance from the centre is within the
-        /// tolerance.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// point's distance from the centre is within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer3(ref float x0, ref float y0, ref float x, ref float y,
             ref float angle, ref float xr, ref float yr, ref int status);
 
         /// <summary>Turns a point about a centre.</summary>
-        /// <remarks>status: 1 done; 0 the point's distance from the centre is within the
-        /// tolerance.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// point's distance from the centre is within the tolerance.</remarks>
         public static void trvcer3(float x0, float y0, ref float x, ref float y, float angle,
             out float xr, out float yr, out int status)
         {
@@ -353,8 +482,9 @@ namespace Trelvin
 
         /// <summary>Point of an arc above a station of its chord, perpendicular to the
         /// chord.</summary>
-        /// <remarks>status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and
-        /// B differ by more, or the station is not farther than that from both ends.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more, or the
+        /// station is not farther than that from both ends.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer8(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float x, ref float y,
@@ -362,8 +492,9 @@ namespace Trelvin
 
         /// <summary>Point of an arc above a station of its chord, perpendicular to the
         /// chord.</summary>
-        /// <remarks>status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and
-        /// B differ by more, or the station is not farther than that from both ends.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more, or the
+        /// station is not farther than that from both ends.</remarks>
         public static void trvcer8(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, out float x, out float y, out int status)
         {
@@ -375,9 +506,10 @@ namespace Trelvin
 
         /// <summary>Point of an arc on the line from its centre through a station of its
         /// chord.</summary>
-        /// <remarks>status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and
-        /// B differ by more, the station is not farther than that from both ends, or d is closer
-        /// than that to the diameter.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more, the station
+        /// is not farther than that from both ends, or d is closer than that to the
+        /// diameter.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer6(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float x, ref float y,
@@ -385,9 +517,10 @@ namespace Trelvin
 
         /// <summary>Point of an arc on the line from its centre through a station of its
         /// chord.</summary>
-        /// <remarks>status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and
-        /// B differ by more, the station is not farther than that from both ends, or d is closer
-        /// than that to the diameter.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more, the station
+        /// is not farther than that from both ends, or d is closer than that to the
+        /// diameter.</remarks>
         public static void trvcer6(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, out float x, out float y, out int status)
         {
@@ -399,9 +532,10 @@ namespace Trelvin
 
         /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to
         /// the chord.</summary>
-        /// <remarks>status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the
-        /// width is at most 0.001, the radii of A and B differ by more, or the strip comes closer
-        /// than that to an end of the chord.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii
+        /// of A and B differ by more, or the strip comes closer than that to an end of the
+        /// chord.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer9(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float w, ref float x1,
@@ -409,9 +543,10 @@ namespace Trelvin
 
         /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to
         /// the chord.</summary>
-        /// <remarks>status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the
-        /// width is at most 0.001, the radii of A and B differ by more, or the strip comes closer
-        /// than that to an end of the chord.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii
+        /// of A and B differ by more, or the strip comes closer than that to an end of the
+        /// chord.</remarks>
         public static void trvcer9(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, float w, out float x1, out float y1, out float x2, out float y2,
             out int status)
@@ -423,15 +558,15 @@ namespace Trelvin
         }
 
         /// <summary>Lengths of the two arcs between two points of a circle.</summary>
-        /// <remarks>status: 1 done; 0 the radius, or the distance of A and B, is within the
-        /// tolerance.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius, or the distance of A and B, is within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvarc1(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s1, ref float s2, ref int status);
 
         /// <summary>Lengths of the two arcs between two points of a circle.</summary>
-        /// <remarks>status: 1 done; 0 the radius, or the distance of A and B, is within the
-        /// tolerance.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius, or the distance of A and B, is within the tolerance.</remarks>
         public static void trvarc1(float xc, float yc, float xa, float ya, float xb, float yb,
             out float s1, out float s2, out int status)
         {
@@ -469,12 +604,18 @@ namespace Trelvin
         }
 
         /// <summary>Marks points by a sector.</summary>
+        /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside:
+        /// the point is outside the sector; -1 no_sector: the rays' angle is within the tolerance,
+        /// which holds for all points alike.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvapp(ref float x0, ref float y0, ref float x1, ref float y1,
             ref float x2, ref float y2, ref int n, [In] float[] X, [In] float[] Y,
             [In, Out] int[] mark);
 
         /// <summary>Marks points by a sector.</summary>
+        /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside:
+        /// the point is outside the sector; -1 no_sector: the rays' angle is within the tolerance,
+        /// which holds for all points alike.</remarks>
         public static void trvapp(float x0, float y0, float x1, float y1, float x2, float y2, int n,
             float[] X, float[] Y, int[] mark)
         {
@@ -482,16 +623,18 @@ namespace Trelvin
         }
 
         /// <summary>Point of an arc on a line through a station of its chord.</summary>
-        /// <remarks>status: 1 done; 0 the radius or the chord is within the tolerance, the radii of
-        /// A and B differ by more, A and B coincide, or the line touches the circle.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius or the chord is within the tolerance, the radii of A and B differ by more, A and
+        /// B coincide, or the line touches the circle.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer4(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref float angle, ref float xo, ref float yo,
             ref int status);
 
         /// <summary>Point of an arc on a line through a station of its chord.</summary>
-        /// <remarks>status: 1 done; 0 the radius or the chord is within the tolerance, the radii of
-        /// A and B differ by more, A and B coincide, or the line touches the circle.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
+        /// radius or the chord is within the tolerance, the radii of A and B differ by more, A and
+        /// B coincide, or the line touches the circle.</remarks>
         public static void trvcer4(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, float angle, out float xo, out float yo,
             out int status)
@@ -503,20 +646,22 @@ namespace Trelvin
         }
 
         /// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
-        /// <remarks>status: 0 refused: the radius or the chord is within the tolerance, or the
-        /// radii of A and B differ by more, but also a crossing, and a retained one that is on the
-        /// chord's line but not at A or B (trvpsl above 2); 1 the line runs along the chord; 2 it
-        /// is parallel to it.</remarks>
+        /// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is
+        /// the normal result, or a crossing of an earlier call lies on the chord's line but not at
+        /// A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is
+        /// within the tolerance or the radii of A and B differ by more; 1 along_chord: the line
+        /// runs along the chord; 2 parallel: the line is parallel to the chord.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer10(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float turn, ref float angle, ref float xo, ref float yo,
             ref int status);
 
         /// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
-        /// <remarks>status: 0 refused: the radius or the chord is within the tolerance, or the
-        /// radii of A and B differ by more, but also a crossing, and a retained one that is on the
-        /// chord's line but not at A or B (trvpsl above 2); 1 the line runs along the chord; 2 it
-        /// is parallel to it.</remarks>
+        /// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is
+        /// the normal result, or a crossing of an earlier call lies on the chord's line but not at
+        /// A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is
+        /// within the tolerance or the radii of A and B differ by more; 1 along_chord: the line
+        /// runs along the chord; 2 parallel: the line is parallel to the chord.</remarks>
         public static void trvcer10(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float turn, float angle, out float xo, out float yo,
             out int status)
@@ -529,9 +674,9 @@ namespace Trelvin
 
         /// <summary>Point of an arc on the line from a station of its chord towards the
         /// sagitta.</summary>
-        /// <remarks>status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond
-        /// s is at most 1e-5, or the radii of A and B differ by more, or the line touches the
-        /// circle.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is
+        /// negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii
+        /// of A and B differ by more, or the line touches the circle.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer5(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref int side, ref float e, ref float xo,
@@ -539,9 +684,9 @@ namespace Trelvin
 
         /// <summary>Point of an arc on the line from a station of its chord towards the
         /// sagitta.</summary>
-        /// <remarks>status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond
-        /// s is at most 1e-5, or the radii of A and B differ by more, or the line touches the
-        /// circle.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is
+        /// negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii
+        /// of A and B differ by more, or the line touches the circle.</remarks>
         public static void trvcer5(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, int side, float e, out float xo, out float yo,
             out int status)
@@ -554,10 +699,10 @@ namespace Trelvin
 
         /// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
         /// parallel to the chord.</summary>
-        /// <remarks>status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest
-        /// beyond s is at most 1e-4, the radii of A and B differ by more and the rounding, side is
-        /// 0, the line is parallel to the chord, or it cuts less than twice 1e-4 off the
-        /// circle.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e
+        /// is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and
+        /// B differ by more and the rounding, side is 0, the line is parallel to the chord, or the
+        /// part of the line inside the circle is not longer than 2e-4.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer7(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref int side, ref float e, ref float angle,
@@ -566,10 +711,10 @@ namespace Trelvin
 
         /// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
         /// parallel to the chord.</summary>
-        /// <remarks>status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest
-        /// beyond s is at most 1e-4, the radii of A and B differ by more and the rounding, side is
-        /// 0, the line is parallel to the chord, or it cuts less than twice 1e-4 off the
-        /// circle.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e
+        /// is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and
+        /// B differ by more and the rounding, side is 0, the line is parallel to the chord, or the
+        /// part of the line inside the circle is not longer than 2e-4.</remarks>
         public static void trvcer7(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, int side, float e, float angle, out float xp,
             out float yp, out float xt, out float yt, out float xo, out float yo, out float len,
@@ -582,18 +727,18 @@ namespace Trelvin
         }
 
         /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-        /// <remarks>status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine
-        /// of the angle between the segments is within it, or the arc touches one beyond its end by
-        /// more.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a
+        /// segment is not above the tolerance, the sine of the angle between the segments is within
+        /// it, or the arc touches one beyond its end by more.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvard(ref float x0, ref float y0, ref float x1, ref float y1,
             ref float x2, ref float y2, ref float r, ref float xc, ref float yc, ref float xt1,
             ref float yt1, ref float xt2, ref float yt2, ref int status);
 
         /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-        /// <remarks>status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine
-        /// of the angle between the segments is within it, or the arc touches one beyond its end by
-        /// more.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a
+        /// segment is not above the tolerance, the sine of the angle between the segments is within
+        /// it, or the arc touches one beyond its end by more.</remarks>
         public static void trvard(float x0, float y0, float x1, float y1, float x2, float y2,
             float r, out float xc, out float yc, out float xt1, out float yt1, out float xt2,
             out float yt2, out int status)
@@ -653,15 +798,15 @@ namespace Trelvin
         }
 
         /// <summary>Order of parallel lines by where they cross an axis.</summary>
-        /// <remarks>status: 0 ordered; -1 not a family of parallel and distinct lines, or n &lt;
-        /// 1.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines
+        /// are not a family of parallel and distinct lines, or n &lt; 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpor(ref int n, [In] float[] A, [In] float[] B, [In] float[] C,
             [In, Out] int[] IDX, ref int status);
 
         /// <summary>Order of parallel lines by where they cross an axis.</summary>
-        /// <remarks>status: 0 ordered; -1 not a family of parallel and distinct lines, or n &lt;
-        /// 1.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines
+        /// are not a family of parallel and distinct lines, or n &lt; 1.</remarks>
         public static void trvpor(int n, float[] A, float[] B, float[] C, int[] IDX, out int status)
         {
             status = 0;
@@ -796,8 +941,8 @@ namespace Trelvin
 
         /// <summary>All pairs of points of two lists that agree within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: 0 no pair; 1 some points of A have a partner; 2 every point of A has
-        /// one.</remarks>
+        /// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1
+        /// some_pairs: some have; 2 all_paired: every one has.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptp1(ref int na, [In] float[] XA, [In] float[] YA,
             [In] float[] ZA, ref int nb, [In] float[] XB, [In] float[] YB, [In] float[] ZB,
@@ -805,8 +950,8 @@ namespace Trelvin
 
         /// <summary>All pairs of points of two lists that agree within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: 0 no pair; 1 some points of A have a partner; 2 every point of A has
-        /// one.</remarks>
+        /// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1
+        /// some_pairs: some have; 2 all_paired: every one has.</remarks>
         public static void trvptp1(int na, float[] XA, float[] YA, float[] ZA, int nb, float[] XB,
             float[] YB, float[] ZB, float tol, out int count, int[] IA, int[] IB, out int status)
         {
@@ -851,20 +996,18 @@ namespace Trelvin
         }
 
         /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
-        /// <remarks>status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n &lt;
-        /// 3, or P1 and P2 coincide within the tolerance in both coordinates. P1 on the outline
-        /// counts as the point just to its right, or just above where that is on the outline
-        /// too.</remarks>
+        /// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
+        /// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and
+        /// P2 coincide within the tolerance in both coordinates.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpin([In] float[] X, [In] float[] Y, ref int n, ref float x1,
             ref float y1, ref float x2, ref float y2, ref int count, [In, Out] float[] XI,
             [In, Out] float[] YI, [In, Out] float[] T, [In, Out] int[] EDGE, ref int status);
 
         /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
-        /// <remarks>status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n &lt;
-        /// 3, or P1 and P2 coincide within the tolerance in both coordinates. P1 on the outline
-        /// counts as the point just to its right, or just above where that is on the outline
-        /// too.</remarks>
+        /// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
+        /// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and
+        /// P2 coincide within the tolerance in both coordinates.</remarks>
         public static void trvpin(float[] X, float[] Y, int n, float x1, float y1, float x2,
             float y2, out int count, float[] XI, float[] YI, float[] T, int[] EDGE, out int status)
         {
@@ -918,13 +1061,15 @@ namespace Trelvin
         }
 
         /// <summary>Difference vector of two points, and whether they coincide.</summary>
-        /// <remarks>status: 1 each difference is within the tolerance; 0 otherwise.</remarks>
+        /// <remarks>status: coincidence (TrvCoincidence): 1 coincident: each difference is within
+        /// the tolerance; 0 distinct: a difference is above the tolerance or NaN.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcnt(ref float x1, ref float y1, ref float z1, ref float x2,
             ref float y2, ref float z2, ref float dx, ref float dy, ref float dz, ref int status);
 
         /// <summary>Difference vector of two points, and whether they coincide.</summary>
-        /// <remarks>status: 1 each difference is within the tolerance; 0 otherwise.</remarks>
+        /// <remarks>status: coincidence (TrvCoincidence): 1 coincident: each difference is within
+        /// the tolerance; 0 distinct: a difference is above the tolerance or NaN.</remarks>
         public static void trvcnt(float x1, float y1, float z1, float x2, float y2, float z2,
             out float dx, out float dy, out float dz, out int status)
         {
@@ -936,15 +1081,15 @@ namespace Trelvin
 
         /// <summary>Whether a vector is exactly zero; unlike trvcnt, no tolerance
         /// applies.</summary>
-        /// <remarks>status: 1 all components are zero of either sign; 0 otherwise (a NaN
-        /// included).</remarks>
+        /// <remarks>status: test: 1 zero: all components are zero, of either sign; 0 nonzero: a
+        /// component is not zero, or is NaN.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcnt1(ref float dx, ref float dy, ref float dz, ref int status);
 
         /// <summary>Whether a vector is exactly zero; unlike trvcnt, no tolerance
         /// applies.</summary>
-        /// <remarks>status: 1 all components are zero of either sign; 0 otherwise (a NaN
-        /// included).</remarks>
+        /// <remarks>status: test: 1 zero: all components are zero, of either sign; 0 nonzero: a
+        /// component is not zero, or is NaN.</remarks>
         public static void trvcnt1(float dx, float dy, float dz, out int status)
         {
             status = 0;
@@ -952,14 +1097,16 @@ namespace Trelvin
         }
 
         /// <summary>Point P1 + t*(P2 - P1) on the line through two points.</summary>
-        /// <remarks>status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1
+        /// coincident: P1 and P2 coincide within the tolerance (trvcnt).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trv123(ref float x1, ref float y1, ref float z1, ref float x2,
             ref float y2, ref float z2, ref float t, ref float x, ref float y, ref float z,
             ref int status);
 
         /// <summary>Point P1 + t*(P2 - P1) on the line through two points.</summary>
-        /// <remarks>status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1
+        /// coincident: P1 and P2 coincide within the tolerance (trvcnt).</remarks>
         public static void trv123(float x1, float y1, float z1, float x2, float y2, float z2,
             float t, out float x, out float y, out float z, out int status)
         {
@@ -1035,13 +1182,15 @@ namespace Trelvin
         }
 
         /// <summary>Sign of a value.</summary>
-        /// <remarks>status: 1 v is positive; 2 v is zero, negative or NaN.</remarks>
+        /// <remarks>status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or
+        /// NaN.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvvin(ref float u1, ref float v, ref float u3, ref float u4,
             ref float u5, ref int status);
 
         /// <summary>Sign of a value.</summary>
-        /// <remarks>status: 1 v is positive; 2 v is zero, negative or NaN.</remarks>
+        /// <remarks>status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or
+        /// NaN.</remarks>
         public static void trvvin(float u1, float v, float u3, float u4, float u5, out int status)
         {
             status = 0;
@@ -1061,16 +1210,18 @@ namespace Trelvin
 
         /// <summary>Entry of an ascending table that equals a value, or the interval that holds
         /// it.</summary>
-        /// <remarks>status: 1 A(i) equals x within the tolerance; 2 A(i) &lt; x &lt; A(i+1); 0
-        /// neither.</remarks>
+        /// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2
+        /// between: A(i) &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no
+        /// interval.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpos1(ref int n, [In] float[] A, ref float x, ref int status,
             ref int i);
 
         /// <summary>Entry of an ascending table that equals a value, or the interval that holds
         /// it.</summary>
-        /// <remarks>status: 1 A(i) equals x within the tolerance; 2 A(i) &lt; x &lt; A(i+1); 0
-        /// neither.</remarks>
+        /// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2
+        /// between: A(i) &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no
+        /// interval.</remarks>
         public static void trvpos1(int n, float[] A, float x, out int status, out int i)
         {
             status = i = 0;
@@ -1155,13 +1306,17 @@ namespace Trelvin
         }
 
         /// <summary>Intersection of two lines.</summary>
-        /// <remarks>status: 0 one point; 1 the same line; 2 parallel and distinct.</remarks>
+        /// <remarks>status: relation (TrvPlaneLines): 0 one_point: the lines have one point in
+        /// common; 1 same_line: the lines are the same; 2 parallel: the lines are parallel and
+        /// distinct.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvlni(ref float a1, ref float b1, ref float c1, ref float a2,
             ref float b2, ref float c2, ref int status, ref float x, ref float y);
 
         /// <summary>Intersection of two lines.</summary>
-        /// <remarks>status: 0 one point; 1 the same line; 2 parallel and distinct.</remarks>
+        /// <remarks>status: relation (TrvPlaneLines): 0 one_point: the lines have one point in
+        /// common; 1 same_line: the lines are the same; 2 parallel: the lines are parallel and
+        /// distinct.</remarks>
         public static void trvlni(float a1, float b1, float c1, float a2, float b2, float c2,
             out int status, out float x, out float y)
         {
@@ -1171,15 +1326,17 @@ namespace Trelvin
         }
 
         /// <summary>Distance of two parallel lines.</summary>
-        /// <remarks>status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni
-        /// tells.</remarks>
+        /// <remarks>status: relation (TrvPlaneLines): 0 one_point: the lines have one point in
+        /// common; 1 same_line: the lines are the same; 2 parallel: the lines are parallel and
+        /// distinct, as trvlni finds.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvlul(ref float a1, ref float b1, ref float c1, ref float a2,
             ref float b2, ref float c2, ref float d, ref int status);
 
         /// <summary>Distance of two parallel lines.</summary>
-        /// <remarks>status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni
-        /// tells.</remarks>
+        /// <remarks>status: relation (TrvPlaneLines): 0 one_point: the lines have one point in
+        /// common; 1 same_line: the lines are the same; 2 parallel: the lines are parallel and
+        /// distinct, as trvlni finds.</remarks>
         public static void trvlul(float a1, float b1, float c1, float a2, float b2, float c2,
             out float d, out int status)
         {
@@ -1189,15 +1346,23 @@ namespace Trelvin
         }
 
         /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-        /// <remarks>code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second
-        /// and third; 7 first and third.</remarks>
+        /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0
+        /// none: no component is; 1 all: all three components are; 2 first: the first component
+        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
+        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
+        /// and the third component are; 7 first_third: the first and the third component
+        /// are.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpsn(ref float p1, ref float p2, ref float p3, ref float q1,
             ref float q2, ref float q3, ref int code);
 
         /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-        /// <remarks>code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second
-        /// and third; 7 first and third.</remarks>
+        /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0
+        /// none: no component is; 1 all: all three components are; 2 first: the first component
+        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
+        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
+        /// and the third component are; 7 first_third: the first and the third component
+        /// are.</remarks>
         public static void trvpsn(float p1, float p2, float p3, float q1, float q2, float q3,
             out int code)
         {
@@ -1207,9 +1372,14 @@ namespace Trelvin
 
         /// <summary>Whether a point lies on the line of space through P0 with direction
         /// D.</summary>
-        /// <remarks>code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3
-        /// y; 4 z; 5 x and y; 6 y and z; 7 x and z.</remarks>
-        /// <remarks>on: 1 P lies on the line; 0 it does not, and always when code is 0.</remarks>
+        /// <remarks>code: which components of (P0 + D) - P0 are above the tolerance
+        /// (TrvComponents): 0 none: no component is; 1 all: all three components are; 2 first: the
+        /// first component alone is; 3 second: the second component alone is; 4 third: the third
+        /// component alone is; 5 first_second: the first and the second component are; 6
+        /// second_third: the second and the third component are; 7 first_third: the first and the
+        /// third component are.</remarks>
+        /// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the
+        /// line, or code is 0.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvln6(ref float x0, ref float y0, ref float z0, ref float dx,
             ref float dy, ref float dz, ref float px, ref float py, ref float pz, ref float tol,
@@ -1217,9 +1387,14 @@ namespace Trelvin
 
         /// <summary>Whether a point lies on the line of space through P0 with direction
         /// D.</summary>
-        /// <remarks>code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3
-        /// y; 4 z; 5 x and y; 6 y and z; 7 x and z.</remarks>
-        /// <remarks>on: 1 P lies on the line; 0 it does not, and always when code is 0.</remarks>
+        /// <remarks>code: which components of (P0 + D) - P0 are above the tolerance
+        /// (TrvComponents): 0 none: no component is; 1 all: all three components are; 2 first: the
+        /// first component alone is; 3 second: the second component alone is; 4 third: the third
+        /// component alone is; 5 first_second: the first and the second component are; 6
+        /// second_third: the second and the third component are; 7 first_third: the first and the
+        /// third component are.</remarks>
+        /// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the
+        /// line, or code is 0.</remarks>
         public static void trvln6(float x0, float y0, float z0, float dx, float dy, float dz,
             float px, float py, float pz, float tol, out int code, out int on)
         {
@@ -1230,9 +1405,14 @@ namespace Trelvin
 
         /// <summary>Line of two planes, and whether it agrees with a point at a retained
         /// station.</summary>
-        /// <remarks>code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3
-        /// ey; 4 ez; 5 ex and ey; 6 ey and ez; 7 ex and ez.</remarks>
-        /// <remarks>on: 1 P agrees with the line at the station; 0 it does not.</remarks>
+        /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents):
+        /// 0 none: no component is; 1 all: all three components are; 2 first: the first component
+        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
+        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
+        /// and the third component are; 7 first_third: the first and the third component
+        /// are.</remarks>
+        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
+        /// not match the line at the station.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvln7(ref float a1, ref float b1, ref float c1, ref float d1,
             ref float a2, ref float b2, ref float c2, ref float d2, ref float px, ref float py,
@@ -1241,9 +1421,14 @@ namespace Trelvin
 
         /// <summary>Line of two planes, and whether it agrees with a point at a retained
         /// station.</summary>
-        /// <remarks>code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3
-        /// ey; 4 ez; 5 ex and ey; 6 ey and ez; 7 ex and ez.</remarks>
-        /// <remarks>on: 1 P agrees with the line at the station; 0 it does not.</remarks>
+        /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents):
+        /// 0 none: no component is; 1 all: all three components are; 2 first: the first component
+        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
+        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
+        /// and the third component are; 7 first_third: the first and the third component
+        /// are.</remarks>
+        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
+        /// not match the line at the station.</remarks>
         public static void trvln7(float a1, float b1, float c1, float d1, float a2, float b2,
             float c2, float d2, float px, float py, float pz, out float ex, out float ey, float ez,
             float tol, out int code, out int on)
@@ -1295,15 +1480,17 @@ namespace Trelvin
         }
 
         /// <summary>Angle between two lines given by their directions.</summary>
-        /// <remarks>status: -1 a direction's length is within the tolerance; unwritten otherwise:
-        /// set it beforehand.</remarks>
+        /// <remarks>status: outcome: -1 no_length: a direction's length is within the tolerance;
+        /// unwritten on a condition: neither direction's length is within the tolerance, so it must
+        /// be set beforehand.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvphip(ref float ux, ref float uy, ref float uz, ref float vx,
             ref float vy, ref float vz, ref float phi, ref int status);
 
         /// <summary>Angle between two lines given by their directions.</summary>
-        /// <remarks>status: -1 a direction's length is within the tolerance; unwritten otherwise:
-        /// set it beforehand.</remarks>
+        /// <remarks>status: outcome: -1 no_length: a direction's length is within the tolerance;
+        /// unwritten on a condition: neither direction's length is within the tolerance, so it must
+        /// be set beforehand.</remarks>
         public static void trvphip(float ux, float uy, float uz, float vx, float vy, float vz,
             out float phi, out int status)
         {
@@ -1313,14 +1500,16 @@ namespace Trelvin
         }
 
         /// <summary>Directed angle at P0 from the ray to P1 to the ray to P2.</summary>
-        /// <remarks>status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1
+        /// coincident: P1 or P2 coincides with P0 (trvcnt).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvchi(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float chi,
             ref int status);
 
         /// <summary>Directed angle at P0 from the ray to P1 to the ray to P2.</summary>
-        /// <remarks>status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1
+        /// coincident: P1 or P2 coincides with P0 (trvcnt).</remarks>
         public static void trvchi(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, out float chi, out int status)
         {
@@ -1331,14 +1520,16 @@ namespace Trelvin
         }
 
         /// <summary>Convexity of a closed outline, of either orientation.</summary>
-        /// <remarks>status: 1 convex; 0 not convex, or winding more than once; -1 refused: n &lt;
-        /// 3, or a side whose length is within the tolerance.</remarks>
+        /// <remarks>status: test: 1 convex: the outline is convex; 0 not_convex: the outline is not
+        /// convex, or winds more than once; -1 refused: n &lt; 3, or the length of a side is within
+        /// the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcnv([In] float[] X, [In] float[] Y, ref int n, ref int status);
 
         /// <summary>Convexity of a closed outline, of either orientation.</summary>
-        /// <remarks>status: 1 convex; 0 not convex, or winding more than once; -1 refused: n &lt;
-        /// 3, or a side whose length is within the tolerance.</remarks>
+        /// <remarks>status: test: 1 convex: the outline is convex; 0 not_convex: the outline is not
+        /// convex, or winds more than once; -1 refused: n &lt; 3, or the length of a side is within
+        /// the tolerance.</remarks>
         public static void trvcnv(float[] X, float[] Y, int n, out int status)
         {
             status = 0;
@@ -1346,14 +1537,16 @@ namespace Trelvin
         }
 
         /// <summary>Cosine and sine of the angle between P2 - P1 and P4 - P3.</summary>
-        /// <remarks>status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1
+        /// coincident: P1 and P2, or P3 and P4, coincide (trvcnt).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvtrg(ref float x1, ref float y1, ref float z1, ref float x2,
             ref float y2, ref float z2, ref float x3, ref float y3, ref float z3, ref float x4,
             ref float y4, ref float z4, ref float cphi, ref float sphi, ref int status);
 
         /// <summary>Cosine and sine of the angle between P2 - P1 and P4 - P3.</summary>
-        /// <remarks>status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1
+        /// coincident: P1 and P2, or P3 and P4, coincide (trvcnt).</remarks>
         public static void trvtrg(float x1, float y1, float z1, float x2, float y2, float z2,
             float x3, float y3, float z3, float x4, float y4, float z4, out float cphi,
             out float sphi, out int status)
@@ -1365,14 +1558,18 @@ namespace Trelvin
         }
 
         /// <summary>Relation of two directions.</summary>
-        /// <remarks>code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all
+        /// <remarks>code: relation: 0 oblique: u and v have neither the same, opposite nor
+        /// perpendicular directions; 1 same: the directions are the same; 2 opposite: the
+        /// directions are opposite; 3 perpendicular: the directions are perpendicular; 4 zero: all
         /// components of u, or of v, are within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvdir(ref float ux, ref float uy, ref float uz, ref float vx,
             ref float vy, ref float vz, ref int code);
 
         /// <summary>Relation of two directions.</summary>
-        /// <remarks>code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all
+        /// <remarks>code: relation: 0 oblique: u and v have neither the same, opposite nor
+        /// perpendicular directions; 1 same: the directions are the same; 2 opposite: the
+        /// directions are opposite; 3 perpendicular: the directions are perpendicular; 4 zero: all
         /// components of u, or of v, are within the tolerance.</remarks>
         public static void trvdir(float ux, float uy, float uz, float vx, float vy, float vz,
             out int code)
@@ -1382,17 +1579,23 @@ namespace Trelvin
         }
 
         /// <summary>Relation of two planes.</summary>
-        /// <remarks>code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel,
-        /// normals opposite; 3 coincident, normals in the same direction; 4 coincident, normals
-        /// opposite; 5 perpendicular; 6 a normal is zero.</remarks>
+        /// <remarks>code: relation: 0 crossing: the planes cross, not at a right angle; 1
+        /// parallel_same: the planes are parallel and distinct, their normals in the same
+        /// direction; 2 parallel_opposite: the planes are parallel and distinct, their normals
+        /// opposite; 3 coincident_same: the planes coincide, their normals in the same direction; 4
+        /// coincident_opposite: the planes coincide, their normals opposite; 5 perpendicular: the
+        /// planes are perpendicular; 6 zero_normal: a normal is zero.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvdirp(ref float a1, ref float b1, ref float c1, ref float d1,
             ref float a2, ref float b2, ref float c2, ref float d2, ref int code);
 
         /// <summary>Relation of two planes.</summary>
-        /// <remarks>code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel,
-        /// normals opposite; 3 coincident, normals in the same direction; 4 coincident, normals
-        /// opposite; 5 perpendicular; 6 a normal is zero.</remarks>
+        /// <remarks>code: relation: 0 crossing: the planes cross, not at a right angle; 1
+        /// parallel_same: the planes are parallel and distinct, their normals in the same
+        /// direction; 2 parallel_opposite: the planes are parallel and distinct, their normals
+        /// opposite; 3 coincident_same: the planes coincide, their normals in the same direction; 4
+        /// coincident_opposite: the planes coincide, their normals opposite; 5 perpendicular: the
+        /// planes are perpendicular; 6 zero_normal: a normal is zero.</remarks>
         public static void trvdirp(float a1, float b1, float c1, float d1, float a2, float b2,
             float c2, float d2, out int code)
         {
@@ -1637,7 +1840,6 @@ namespace Trelvin
         }
 
         /// <summary>I section with unequal flanges.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_ia(ref float H, ref float B1, ref float B2, ref float T1,
             ref float T2, ref float TW, ref float q, ref int np, [In, Out] int[] nv,
@@ -1646,7 +1848,6 @@ namespace Trelvin
             [In, Out] float[] z5, [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>I section with unequal flanges.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_ia(float H, float B1, float B2, float T1, float T2, float TW,
             float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1657,7 +1858,6 @@ namespace Trelvin
         }
 
         /// <summary>I section lying on its side.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_h(ref float H, ref float B1, ref float B2, ref float T1,
             ref float T2, ref float TW, ref float q, ref int np, [In, Out] int[] nv,
@@ -1666,7 +1866,6 @@ namespace Trelvin
             [In, Out] float[] z5, [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>I section lying on its side.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_h(float H, float B1, float B2, float T1, float T2, float TW,
             float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1677,7 +1876,6 @@ namespace Trelvin
         }
 
         /// <summary>T section, flange at the top.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_t(ref float B, ref float H, ref float TF, ref float TW,
             ref float q, ref int np, [In, Out] int[] nv, [In, Out] float[] X, [In, Out] float[] Y,
@@ -1686,7 +1884,6 @@ namespace Trelvin
             [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>T section, flange at the top.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_t(float B, float H, float TF, float TW, float q, out int np,
             int[] nv, float[] X, float[] Y, int[] code, float[] sign, float[] z1, float[] z2,
             float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1697,7 +1894,6 @@ namespace Trelvin
         }
 
         /// <summary>Flat bar.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_b(ref int B, ref float H, ref float q, ref int np,
             [In, Out] int[] nv, [In, Out] float[] X, [In, Out] float[] Y, [In, Out] int[] code,
@@ -1706,7 +1902,6 @@ namespace Trelvin
             [In, Out] float[] q2);
 
         /// <summary>Flat bar.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_b(int B, float H, float q, out int np, int[] nv, float[] X,
             float[] Y, int[] code, float[] sign, float[] z1, float[] z2, float[] z3, float[] z4,
             float[] z5, float[] q1, float[] q2)
@@ -1717,7 +1912,6 @@ namespace Trelvin
 
         /// <summary>I section lying on its side with a cover plate on its flanges' top edges,
         /// closing one cell.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_h1b(ref float W, ref float D, ref float P, ref float T1,
             ref float T2, ref float TW, ref float TP, ref float q, ref int np, [In, Out] int[] nv,
@@ -1727,7 +1921,6 @@ namespace Trelvin
 
         /// <summary>I section lying on its side with a cover plate on its flanges' top edges,
         /// closing one cell.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_h1b(float W, float D, float P, float T1, float T2, float TW,
             float TP, float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1738,7 +1931,6 @@ namespace Trelvin
         }
 
         /// <summary>Box girder with overhanging flanges.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_box(ref float BT, ref float BB, ref float TT, ref float TB,
             ref float H, ref float TW, ref float G, ref float q, ref int np, [In, Out] int[] nv,
@@ -1747,7 +1939,6 @@ namespace Trelvin
             [In, Out] float[] z5, [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>Box girder with overhanging flanges.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_box(float BT, float BB, float TT, float TB, float H, float TW,
             float G, float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1758,7 +1949,6 @@ namespace Trelvin
         }
 
         /// <summary>Rectangular hollow section with sharp corners.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_rhs(ref float B, ref float H, ref float T, ref float q,
             ref int np, [In, Out] int[] nv, [In, Out] float[] X, [In, Out] float[] Y,
@@ -1767,7 +1957,6 @@ namespace Trelvin
             [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>Rectangular hollow section with sharp corners.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_rhs(float B, float H, float T, float q, out int np, int[] nv,
             float[] X, float[] Y, int[] code, float[] sign, float[] z1, float[] z2, float[] z3,
             float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1778,7 +1967,6 @@ namespace Trelvin
         }
 
         /// <summary>Two equal angles back to back, horizontal legs at the top.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_l2(ref float B, ref float H, ref float G, ref float T,
             ref float TV, ref float q, ref int np, [In, Out] int[] nv, [In, Out] float[] X,
@@ -1787,7 +1975,6 @@ namespace Trelvin
             [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>Two equal angles back to back, horizontal legs at the top.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_l2(float B, float H, float G, float T, float TV, float q,
             out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign, float[] z1,
             float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1799,7 +1986,6 @@ namespace Trelvin
 
         /// <summary>Top plate on a closed cell of two webs and a bottom plate between
         /// them.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_tab(ref float B, ref float H, ref float BW, ref float E,
             ref float T, ref float TW, ref float TB, ref float q, ref int np, [In, Out] int[] nv,
@@ -1809,7 +1995,6 @@ namespace Trelvin
 
         /// <summary>Top plate on a closed cell of two webs and a bottom plate between
         /// them.</summary>
-        /// <remarks>np: number of polygons: 2.</remarks>
         public static void trvsec_tab(float B, float H, float BW, float E, float T, float TW,
             float TB, float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1820,7 +2005,6 @@ namespace Trelvin
         }
 
         /// <summary>Two flanges joined by two webs and a middle plate, closing two cells.</summary>
-        /// <remarks>np: number of polygons: 3.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_h2b(ref float B, ref float W, ref float HI, ref float TW1,
             ref float TW2, ref float TM, ref float TF, ref float q, ref int np, [In, Out] int[] nv,
@@ -1829,7 +2013,6 @@ namespace Trelvin
             [In, Out] float[] z5, [In, Out] float[] q1, [In, Out] float[] q2);
 
         /// <summary>Two flanges joined by two webs and a middle plate, closing two cells.</summary>
-        /// <remarks>np: number of polygons: 3.</remarks>
         public static void trvsec_h2b(float B, float W, float HI, float TW1, float TW2, float TM,
             float TF, float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
             float[] z1, float[] z2, float[] z3, float[] z4, float[] z5, float[] q1, float[] q2)
@@ -1841,7 +2024,6 @@ namespace Trelvin
 
         /// <summary>I section with unequal flanges, an eccentric web and 45-degree
         /// fillets.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_i(ref float H, ref float B1, ref float B2, ref float T1,
             ref float T2, ref float TW, ref float S1, ref float S2, ref float E, ref float q,
@@ -1852,7 +2034,6 @@ namespace Trelvin
 
         /// <summary>I section with unequal flanges, an eccentric web and 45-degree
         /// fillets.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_i(float H, float B1, float B2, float T1, float T2, float TW,
             float S1, float S2, float E, float q, out int np, int[] nv, float[] X, float[] Y,
             int[] code, float[] sign, float[] z1, float[] z2, float[] z3, float[] z4, float[] z5,
@@ -1865,7 +2046,6 @@ namespace Trelvin
 
         /// <summary>Channel open to the right, with lips turned inwards and folds turned back
         /// towards the web.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvsec_c(ref float H, ref float B1, ref float B2, ref float C1,
             ref float C2, ref float D1, ref float D2, ref float TW, ref float T1, ref float T2,
@@ -1877,7 +2057,6 @@ namespace Trelvin
 
         /// <summary>Channel open to the right, with lips turned inwards and folds turned back
         /// towards the web.</summary>
-        /// <remarks>np: number of polygons: 1.</remarks>
         public static void trvsec_c(float H, float B1, float B2, float C1, float C2, float D1,
             float D2, float TW, float T1, float T2, float TC1, float TC2, float TD1, float TD2,
             float q, out int np, int[] nv, float[] X, float[] Y, int[] code, float[] sign,
@@ -1914,13 +2093,12 @@ namespace Trelvin
         }
 
         /// <summary>Properties of an open section of thin plates.</summary>
-        /// <remarks>status: -1 refused, nothing else is written: n &lt; 1, a coordinate or a
-        /// thickness that is infinite or NaN, a length or a thickness not above the tolerance; 0
-        /// done; 2 to n this plate is the first at fault, it starts at no end of an earlier one, or
-        /// ends at one and closes a cell: what is listed up to xp,yp is written, the rest is not;
-        /// n+2 to 2*n plate status - n is the first at fault, it crosses, touches or overlaps an
-        /// earlier one elsewhere than at its start, which may close a cell: what is listed up to
-        /// xp,yp is written, the rest is not.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n
+        /// &lt; 1, a coordinate or a thickness is infinite or NaN, or a length or a thickness is
+        /// not above the tolerance; 2 to n: this plate is the first at fault, it starts at no end
+        /// of an earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is
+        /// the first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at
+        /// its start, which may close a cell.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmxt(ref int n, [In] float[] X1, [In] float[] Y1,
             [In] float[] X2, [In] float[] Y2, [In] float[] T, ref float A, ref float xs,
@@ -1931,13 +2109,12 @@ namespace Trelvin
             [In, Out] float[] W1, [In, Out] float[] W2, ref int status);
 
         /// <summary>Properties of an open section of thin plates.</summary>
-        /// <remarks>status: -1 refused, nothing else is written: n &lt; 1, a coordinate or a
-        /// thickness that is infinite or NaN, a length or a thickness not above the tolerance; 0
-        /// done; 2 to n this plate is the first at fault, it starts at no end of an earlier one, or
-        /// ends at one and closes a cell: what is listed up to xp,yp is written, the rest is not;
-        /// n+2 to 2*n plate status - n is the first at fault, it crosses, touches or overlaps an
-        /// earlier one elsewhere than at its start, which may close a cell: what is listed up to
-        /// xp,yp is written, the rest is not.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n
+        /// &lt; 1, a coordinate or a thickness is infinite or NaN, or a length or a thickness is
+        /// not above the tolerance; 2 to n: this plate is the first at fault, it starts at no end
+        /// of an earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is
+        /// the first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at
+        /// its start, which may close a cell.</remarks>
         public static void trvmxt(int n, float[] X1, float[] Y1, float[] X2, float[] Y2, float[] T,
             out float A, out float xs, out float ys, out float Ix, out float Iy, out float Ixy,
             out float I1, out float I2, out float alpha, out float rx, out float ry, out float Wx1,
@@ -1955,8 +2132,8 @@ namespace Trelvin
         }
 
         /// <summary>Properties of a flat bar, centred on the origin.</summary>
-        /// <remarks>status: -1 refused, nothing else is written: a side that is infinite, NaN or
-        /// not above the tolerance; 0 done.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: a
+        /// side is infinite, NaN or not above the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmxt_fb(ref float B, ref float H, ref float A, ref float xs,
             ref float ys, ref float Ix, ref float Iy, ref float Ixy, ref float I1, ref float I2,
@@ -1966,8 +2143,8 @@ namespace Trelvin
             [In, Out] float[] W1, [In, Out] float[] W2, ref int status);
 
         /// <summary>Properties of a flat bar, centred on the origin.</summary>
-        /// <remarks>status: -1 refused, nothing else is written: a side that is infinite, NaN or
-        /// not above the tolerance; 0 done.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: a
+        /// side is infinite, NaN or not above the tolerance.</remarks>
         public static void trvmxt_fb(float B, float H, out float A, out float xs, out float ys,
             out float Ix, out float Iy, out float Ixy, out float I1, out float I2, out float alpha,
             out float rx, out float ry, out float Wx1, out float Wx2, out float Wy1, out float Wy2,
@@ -2030,15 +2207,19 @@ namespace Trelvin
         }
 
         /// <summary>Three-point test: whether P0, P1 and P2 span a plane.</summary>
-        /// <remarks>status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4
-        /// P2 is beyond P0 on their line; 5 P2 is beyond P1.</remarks>
+        /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
+        /// plane; 1 at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4
+        /// beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the
+        /// line of P0 and P1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpsl(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref int status);
 
         /// <summary>Three-point test: whether P0, P1 and P2 span a plane.</summary>
-        /// <remarks>status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4
-        /// P2 is beyond P0 on their line; 5 P2 is beyond P1.</remarks>
+        /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
+        /// plane; 1 at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4
+        /// beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the
+        /// line of P0 and P1.</remarks>
         public static void trvpsl(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, out int status)
         {
@@ -2074,8 +2255,8 @@ namespace Trelvin
         }
 
         /// <summary>Frame of the plane through three points.</summary>
-        /// <remarks>status: 0 done; -2 P2 is at P0 or P1, or the three are on one line
-        /// (trvpsl).</remarks>
+        /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2
+        /// is at P0 or P1, or the three points are on one line (trvpsl).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvaxe(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float e1x,
@@ -2083,8 +2264,8 @@ namespace Trelvin
             ref float e3x, ref float e3y, ref float e3z, ref int status);
 
         /// <summary>Frame of the plane through three points.</summary>
-        /// <remarks>status: 0 done; -2 P2 is at P0 or P1, or the three are on one line
-        /// (trvpsl).</remarks>
+        /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2
+        /// is at P0 or P1, or the three points are on one line (trvpsl).</remarks>
         public static void trvaxe(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, out float e1x, out float e1y, out float e1z,
             out float e2x, out float e2y, out float e2z, out float e3x, out float e3y,
@@ -2097,8 +2278,8 @@ namespace Trelvin
         }
 
         /// <summary>Frame of an axis from P0 to P1.</summary>
-        /// <remarks>status: 0 done, also along y; -2 the distance of P0 and P1 is within the
-        /// tolerance.</remarks>
+        /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
+        /// distance of P0 and P1 is within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvaxel(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float angle, ref float e1x, ref float e1y,
@@ -2106,8 +2287,8 @@ namespace Trelvin
             ref float e3y, ref float e3z, ref int status);
 
         /// <summary>Frame of an axis from P0 to P1.</summary>
-        /// <remarks>status: 0 done, also along y; -2 the distance of P0 and P1 is within the
-        /// tolerance.</remarks>
+        /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
+        /// distance of P0 and P1 is within the tolerance.</remarks>
         public static void trvaxel(float x0, float y0, float z0, float x1, float y1, float z1,
             float angle, out float e1x, out float e1y, out float e1z, out float e2x, out float e2y,
             out float e2z, out float e3x, out float e3y, out float e3z, out int status)
@@ -2134,8 +2315,8 @@ namespace Trelvin
         }
 
         /// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
-        /// <remarks>status: 0 done; -2 P2 is at P0 or P1, or the three are on one line
-        /// (trvpsl).</remarks>
+        /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2
+        /// is at P0 or P1, or the three points are on one line (trvpsl).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptrl(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2,
@@ -2143,8 +2324,8 @@ namespace Trelvin
             ref float dy, ref float dz, ref float ax, ref float ay, ref float az, ref int status);
 
         /// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
-        /// <remarks>status: 0 done; -2 P2 is at P0 or P1, or the three are on one line
-        /// (trvpsl).</remarks>
+        /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2
+        /// is at P0 or P1, or the three points are on one line (trvpsl).</remarks>
         public static void trvptrl(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, float[] X, float[] Y, float[] Z, int n, float dx,
             float dy, float dz, float ax, float ay, float az, out int status)
@@ -2155,16 +2336,16 @@ namespace Trelvin
         }
 
         /// <summary>Turns points about the axis from P0 through P1, in place.</summary>
-        /// <remarks>status: 0 done, also along y; -2 the distance of P0 and P1 is within the
-        /// tolerance.</remarks>
+        /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
+        /// distance of P0 and P1 is within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpra(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, [In, Out] float[] X, [In, Out] float[] Y,
             [In, Out] float[] Z, ref int n, ref float angle, ref int status);
 
         /// <summary>Turns points about the axis from P0 through P1, in place.</summary>
-        /// <remarks>status: 0 done, also along y; -2 the distance of P0 and P1 is within the
-        /// tolerance.</remarks>
+        /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
+        /// distance of P0 and P1 is within the tolerance.</remarks>
         public static void trvpra(float x0, float y0, float z0, float x1, float y1, float z1,
             float[] X, float[] Y, float[] Z, int n, float angle, out int status)
         {
@@ -2175,8 +2356,9 @@ namespace Trelvin
 
         /// <summary>Turns points of a plane in the frame of the three points that span it, then
         /// shifts them, in place.</summary>
-        /// <remarks>status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1
-        /// to n position of the first point off the plane.</remarks>
+        /// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1,
+        /// or the three points are on one line (trvpsl); 1 to n: position of the first point off
+        /// the plane.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvppc(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float dx,
@@ -2186,8 +2368,9 @@ namespace Trelvin
 
         /// <summary>Turns points of a plane in the frame of the three points that span it, then
         /// shifts them, in place.</summary>
-        /// <remarks>status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1
-        /// to n position of the first point off the plane.</remarks>
+        /// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1,
+        /// or the three points are on one line (trvpsl); 1 to n: position of the first point off
+        /// the plane.</remarks>
         public static void trvppc(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, float dx, float dy, float dz, float ax, float ay,
             float az, int n, float[] X, float[] Y, float[] Z, float tol, out int status)
@@ -2213,16 +2396,20 @@ namespace Trelvin
         }
 
         /// <summary>Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).</summary>
-        /// <remarks>status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2
-        /// is beyond P0 on their line; 5 P2 is beyond P1.</remarks>
+        /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
+        /// plane; 1 at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4
+        /// beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the
+        /// line of P0 and P1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl1(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float a,
             ref float b, ref float c, ref float d, ref int status);
 
         /// <summary>Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).</summary>
-        /// <remarks>status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2
-        /// is beyond P0 on their line; 5 P2 is beyond P1.</remarks>
+        /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
+        /// plane; 1 at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4
+        /// beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the
+        /// line of P0 and P1.</remarks>
         public static void trvpl1(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, out float a, out float b, out float c, out float d,
             out int status)
@@ -2234,9 +2421,9 @@ namespace Trelvin
         }
 
         /// <summary>Plane through a point, parallel to two lines.</summary>
-        /// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same
-        /// sense; 4 the same, of opposite sense; 7 A and B, or C and D, coincide
-        /// (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
+        /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
+        /// of opposite direction; 7 no_length: A and B, or C and D, coincide (trvcnt).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl2(ref float x, ref float y, ref float z, ref float xa,
             ref float ya, ref float za, ref float xb, ref float yb, ref float zb, ref float xc,
@@ -2244,9 +2431,9 @@ namespace Trelvin
             ref float b, ref float c, ref float d, ref int status);
 
         /// <summary>Plane through a point, parallel to two lines.</summary>
-        /// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same
-        /// sense; 4 the same, of opposite sense; 7 A and B, or C and D, coincide
-        /// (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
+        /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
+        /// of opposite direction; 7 no_length: A and B, or C and D, coincide (trvcnt).</remarks>
         public static void trvpl2(float x, float y, float z, float xa, float ya, float za, float xb,
             float yb, float zb, float xc, float yc, float zc, float xd, float yd, float zd,
             out float a, out float b, out float c, out float d, out int status)
@@ -2259,9 +2446,9 @@ namespace Trelvin
 
         /// <summary>Plane that contains one line and is parallel to another: trvpl2 through
         /// A.</summary>
-        /// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same
-        /// sense; 4 the same, of opposite sense; 7 A and B, or C and D, coincide
-        /// (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
+        /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
+        /// of opposite direction; 7 no_length: A and B, or C and D, coincide (trvcnt).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl3(ref float xa, ref float ya, ref float za, ref float xb,
             ref float yb, ref float zb, ref float xc, ref float yc, ref float zc, ref float xd,
@@ -2270,9 +2457,9 @@ namespace Trelvin
 
         /// <summary>Plane that contains one line and is parallel to another: trvpl2 through
         /// A.</summary>
-        /// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same
-        /// sense; 4 the same, of opposite sense; 7 A and B, or C and D, coincide
-        /// (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
+        /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
+        /// of opposite direction; 7 no_length: A and B, or C and D, coincide (trvcnt).</remarks>
         public static void trvpl3(float xa, float ya, float za, float xb, float yb, float zb,
             float xc, float yc, float zc, float xd, float yd, float zd, out float a, out float b,
             out float c, out float d, out int status)
@@ -2284,16 +2471,16 @@ namespace Trelvin
         }
 
         /// <summary>Plane through a point, perpendicular to a segment.</summary>
-        /// <remarks>status: 0 done; 1 A and B coincide, each coordinate within the tolerance
-        /// (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1
+        /// coincident: A and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl4(ref float x, ref float y, ref float z, ref float xa,
             ref float ya, ref float za, ref float xb, ref float yb, ref float zb, ref float a,
             ref float b, ref float c, ref float d, ref int status);
 
         /// <summary>Plane through a point, perpendicular to a segment.</summary>
-        /// <remarks>status: 0 done; 1 A and B coincide, each coordinate within the tolerance
-        /// (trvcnt).</remarks>
+        /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1
+        /// coincident: A and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
         public static void trvpl4(float x, float y, float z, float xa, float ya, float za, float xb,
             float yb, float zb, out float a, out float b, out float c, out float d, out int status)
         {
@@ -2304,13 +2491,15 @@ namespace Trelvin
         }
 
         /// <summary>Plane with given intercepts on the axes.</summary>
-        /// <remarks>status: 0 done; 1 an intercept is within the tolerance or NaN.</remarks>
+        /// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is
+        /// within the tolerance or NaN.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl5(ref float ix, ref float iy, ref float iz, ref float a,
             ref float b, ref float c, ref float d, ref int status);
 
         /// <summary>Plane with given intercepts on the axes.</summary>
-        /// <remarks>status: 0 done; 1 an intercept is within the tolerance or NaN.</remarks>
+        /// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is
+        /// within the tolerance or NaN.</remarks>
         public static void trvpl5(float ix, float iy, float iz, out float a, out float b,
             out float c, out float d, out int status)
         {
@@ -2320,9 +2509,10 @@ namespace Trelvin
         }
 
         /// <summary>Plane of two lines, each given by a point and a direction.</summary>
-        /// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same
-        /// sense; 4 the same, of opposite sense; 6 the lines are skew; 7 a direction is within the
-        /// tolerance in each component.</remarks>
+        /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
+        /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
+        /// the tolerance in each component.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl6(ref float xa, ref float ya, ref float za, ref float ux,
             ref float uy, ref float uz, ref float xc, ref float yc, ref float zc, ref float wx,
@@ -2330,9 +2520,10 @@ namespace Trelvin
             ref int status);
 
         /// <summary>Plane of two lines, each given by a point and a direction.</summary>
-        /// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same
-        /// sense; 4 the same, of opposite sense; 6 the lines are skew; 7 a direction is within the
-        /// tolerance in each component.</remarks>
+        /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
+        /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
+        /// the tolerance in each component.</remarks>
         public static void trvpl6(float xa, float ya, float za, float ux, float uy, float uz,
             float xc, float yc, float zc, float wx, float wy, float wz, out float a, out float b,
             out float c, out float d, out int status)
@@ -2344,18 +2535,20 @@ namespace Trelvin
         }
 
         /// <summary>Plane of three points turned about the line from P0 to P1.</summary>
-        /// <remarks>status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is
-        /// at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond
-        /// P1.</remarks>
+        /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
+        /// plane; 1 at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at
+        /// P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0
+        /// and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and P1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl7(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float angle,
             ref float a, ref float b, ref float c, ref float d, ref int status);
 
         /// <summary>Plane of three points turned about the line from P0 to P1.</summary>
-        /// <remarks>status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is
-        /// at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond
-        /// P1.</remarks>
+        /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
+        /// plane; 1 at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at
+        /// P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0
+        /// and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and P1.</remarks>
         public static void trvpl7(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, float angle, out float a, out float b, out float c,
             out float d, out int status)
@@ -2367,16 +2560,18 @@ namespace Trelvin
         }
 
         /// <summary>Whether a point lies on the plane of three points.</summary>
-        /// <remarks>status: 0 it does, and any point does where P0 = P1; -1 it does not, or the
-        /// three points span no plane (trvpsl).</remarks>
+        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point
+        /// does if P0 = P1; -1 no: the point does not lie on the plane, or the three points span no
+        /// plane (trvpsl).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpsp(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float x,
             ref float y, ref float z, ref float tol, ref int status);
 
         /// <summary>Whether a point lies on the plane of three points.</summary>
-        /// <remarks>status: 0 it does, and any point does where P0 = P1; -1 it does not, or the
-        /// three points span no plane (trvpsl).</remarks>
+        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point
+        /// does if P0 = P1; -1 no: the point does not lie on the plane, or the three points span no
+        /// plane (trvpsl).</remarks>
         public static void trvpsp(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, float x, float y, float z, float tol, out int status)
         {
@@ -2399,15 +2594,17 @@ namespace Trelvin
         }
 
         /// <summary>Whether a point lies on a plane.</summary>
-        /// <remarks>status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is
-        /// exactly zero.</remarks>
+        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point
+        /// does not lie on the plane, or the distance is NaN; 1 zero_normal: the normal of the
+        /// plane is exactly zero.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpspg(ref float x, ref float y, ref float z, ref float a,
             ref float b, ref float c, ref float d, ref float tol, ref int status);
 
         /// <summary>Whether a point lies on a plane.</summary>
-        /// <remarks>status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is
-        /// exactly zero.</remarks>
+        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point
+        /// does not lie on the plane, or the distance is NaN; 1 zero_normal: the normal of the
+        /// plane is exactly zero.</remarks>
         public static void trvpspg(float x, float y, float z, float a, float b, float c, float d,
             float tol, out int status)
         {
@@ -2416,15 +2613,19 @@ namespace Trelvin
         }
 
         /// <summary>Relation of two directions, taken as lines through the origin.</summary>
-        /// <remarks>status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5
-        /// perpendicular; 7 u or w is within the tolerance in each component.</remarks>
+        /// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither
+        /// the same, opposite nor perpendicular directions; 3 same: the directions are the same; 4
+        /// opposite: the directions are opposite; 5 perpendicular: the directions are
+        /// perpendicular; 7 zero: u or w is within the tolerance in each component.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvplv(ref float ux, ref float uy, ref float uz, ref float wx,
             ref float wy, ref float wz, ref float v7, ref float v8, ref int status);
 
         /// <summary>Relation of two directions, taken as lines through the origin.</summary>
-        /// <remarks>status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5
-        /// perpendicular; 7 u or w is within the tolerance in each component.</remarks>
+        /// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither
+        /// the same, opposite nor perpendicular directions; 3 same: the directions are the same; 4
+        /// opposite: the directions are opposite; 5 perpendicular: the directions are
+        /// perpendicular; 7 zero: u or w is within the tolerance in each component.</remarks>
         public static void trvplv(float ux, float uy, float uz, float wx, float wy, float wz,
             float v7, float v8, out int status)
         {
@@ -2447,20 +2648,24 @@ namespace Trelvin
         }
 
         /// <summary>Relation of two lines.</summary>
-        /// <remarks>status: 0 they cross, not at a right angle; 1 parallel and distinct, of the
-        /// same sense; 2 parallel and distinct, of opposite sense; 3 the same line, of the same
-        /// sense; 4 the same line, of opposite sense; 5 they cross at a right angle; 6 skew; 7 A
-        /// and B, or C and D, coincide, each coordinate within the tolerance.</remarks>
+        /// <remarks>status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle;
+        /// 1 parallel_same: parallel and distinct lines of the same direction; 2 parallel_opposite:
+        /// parallel and distinct lines of opposite direction; 3 same_line: the same line, of the
+        /// same direction; 4 opposite_line: the same line, of opposite direction; 5 perpendicular:
+        /// the lines cross at a right angle; 6 skew: the lines are skew; 7 coincident: A and B, or
+        /// C and D, coincide, each coordinate within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvdirl(ref float xa, ref float ya, ref float za, ref float xb,
             ref float yb, ref float zb, ref float xc, ref float yc, ref float zc, ref float xd,
             ref float yd, ref float zd, ref int status);
 
         /// <summary>Relation of two lines.</summary>
-        /// <remarks>status: 0 they cross, not at a right angle; 1 parallel and distinct, of the
-        /// same sense; 2 parallel and distinct, of opposite sense; 3 the same line, of the same
-        /// sense; 4 the same line, of opposite sense; 5 they cross at a right angle; 6 skew; 7 A
-        /// and B, or C and D, coincide, each coordinate within the tolerance.</remarks>
+        /// <remarks>status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle;
+        /// 1 parallel_same: parallel and distinct lines of the same direction; 2 parallel_opposite:
+        /// parallel and distinct lines of opposite direction; 3 same_line: the same line, of the
+        /// same direction; 4 opposite_line: the same line, of opposite direction; 5 perpendicular:
+        /// the lines cross at a right angle; 6 skew: the lines are skew; 7 coincident: A and B, or
+        /// C and D, coincide, each coordinate within the tolerance.</remarks>
         public static void trvdirl(float xa, float ya, float za, float xb, float yb, float zb,
             float xc, float yc, float zc, float xd, float yd, float zd, out int status)
         {
@@ -2470,8 +2675,9 @@ namespace Trelvin
         }
 
         /// <summary>Whether three segments span space.</summary>
-        /// <remarks>status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above
-        /// the tolerance, in the cube of the length unit.</remarks>
+        /// <remarks>status: test: 0 flat: the triple product of B - A, D - C and F - E is within
+        /// the tolerance; 1 spanning: the triple product is above the tolerance, in the cube of the
+        /// length unit.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trv3sp(ref float xa, ref float ya, ref float za, ref float xb,
             ref float yb, ref float zb, ref float xc, ref float yc, ref float zc, ref float xd,
@@ -2479,8 +2685,9 @@ namespace Trelvin
             ref float yf, ref float zf, ref int status);
 
         /// <summary>Whether three segments span space.</summary>
-        /// <remarks>status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above
-        /// the tolerance, in the cube of the length unit.</remarks>
+        /// <remarks>status: test: 0 flat: the triple product of B - A, D - C and F - E is within
+        /// the tolerance; 1 spanning: the triple product is above the tolerance, in the cube of the
+        /// length unit.</remarks>
         public static void trv3sp(float xa, float ya, float za, float xb, float yb, float zb,
             float xc, float yc, float zc, float xd, float yd, float zd, float xe, float ye,
             float ze, float xf, float yf, float zf, out int status)
@@ -2491,14 +2698,14 @@ namespace Trelvin
         }
 
         /// <summary>Distance of a point from a line.</summary>
-        /// <remarks>status: 0 always.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: always.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trv3ldb(ref float xa, ref float ya, ref float za, ref float xb,
             ref float yb, ref float zb, ref float xq, ref float yq, ref float zq, ref int status,
             ref float dist);
 
         /// <summary>Distance of a point from a line.</summary>
-        /// <remarks>status: 0 always.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: always.</remarks>
         public static void trv3ldb(float xa, float ya, float za, float xb, float yb, float zb,
             float xq, float yq, float zq, out int status, out float dist)
         {
@@ -2509,14 +2716,14 @@ namespace Trelvin
         }
 
         /// <summary>Signed distance of a point from a line, in the plane of both.</summary>
-        /// <remarks>status: 0 always.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: always.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trv3lda(ref float xa, ref float ya, ref float za, ref float xb,
             ref float yb, ref float zb, ref float xq, ref float yq, ref float zq, ref int status,
             ref float dist);
 
         /// <summary>Signed distance of a point from a line, in the plane of both.</summary>
-        /// <remarks>status: 0 always.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: always.</remarks>
         public static void trv3lda(float xa, float ya, float za, float xb, float yb, float zb,
             float xq, float yq, float zq, out int status, out float dist)
         {
@@ -2527,41 +2734,43 @@ namespace Trelvin
         }
 
         /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
-        /// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same
-        /// sense; 4 the same, of opposite sense; 6 the lines are skew; 7 a direction is within the
-        /// tolerance in each component.</remarks>
+        /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
+        /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
+        /// the tolerance in each component.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trv3lni(ref float xa, ref float ya, ref float za, ref float ux,
             ref float uy, ref float uz, ref float xc, ref float yc, ref float zc, ref float wx,
             ref float wy, ref float wz, ref int status, ref float xi, ref float yi, ref float zi);
 
         /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
-        /// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same
-        /// sense; 4 the same, of opposite sense; 6 the lines are skew; 7 a direction is within the
-        /// tolerance in each component.</remarks>
+        /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
+        /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
+        /// the tolerance in each component.</remarks>
         public static void trv3lni(ref float xa, ref float ya, ref float za, float ux, float uy,
             float uz, ref float xc, ref float yc, ref float zc, float wx, float wy, float wz,
-            out int status, out float xi, out float yi, out float zi)
+            out int status, ref float xi, ref float yi, out float zi)
         {
-            xi = yi = zi = 0;
+            zi = 0;
             status = 0;
             trv3lni(ref xa, ref ya, ref za, ref ux, ref uy, ref uz, ref xc, ref yc, ref zc, ref wx,
                 ref wy, ref wz, ref status, ref xi, ref yi, ref zi);
         }
 
         /// <summary>Intersection of the line P + t*u with a plane.</summary>
-        /// <remarks>status: 0 done; 3 the line is parallel to the plane: the cosine of u and the
-        /// normal is within the tolerance; 4 u or the normal is within the tolerance in each
-        /// component.</remarks>
+        /// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is
+        /// parallel to the plane, the cosine of u and the normal is within the tolerance; 4 zero: u
+        /// or the normal is within the tolerance in each component.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpli(ref float x, ref float y, ref float z, ref float ux,
             ref float uy, ref float uz, ref float a, ref float b, ref float c, ref float d,
             ref float xi, ref float yi, ref float zi, ref int status);
 
         /// <summary>Intersection of the line P + t*u with a plane.</summary>
-        /// <remarks>status: 0 done; 3 the line is parallel to the plane: the cosine of u and the
-        /// normal is within the tolerance; 4 u or the normal is within the tolerance in each
-        /// component.</remarks>
+        /// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is
+        /// parallel to the plane, the cosine of u and the normal is within the tolerance; 4 zero: u
+        /// or the normal is within the tolerance in each component.</remarks>
         public static void trvpli(float x, float y, float z, float ux, float uy, float uz, float a,
             float b, float c, float d, out float xi, out float yi, out float zi, out int status)
         {
@@ -2572,17 +2781,23 @@ namespace Trelvin
         }
 
         /// <summary>Position of a plane against the axes.</summary>
-        /// <remarks>position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4
-        /// parallel to the z axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to the
-        /// y axis; 8 the plane z = 0; 9 the plane x = 0; 10 the plane y = 0.</remarks>
+        /// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x:
+        /// the plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis;
+        /// 4 parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to
+        /// the z axis; 6 normal_x: the plane is normal to the x axis; 7 normal_y: the plane is
+        /// normal to the y axis; 8 at_z_zero: the plane is z = 0; 9 at_x_zero: the plane is x = 0;
+        /// 10 at_y_zero: the plane is y = 0.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvplp(ref float a, ref float b, ref float c, ref float d,
             ref int position);
 
         /// <summary>Position of a plane against the axes.</summary>
-        /// <remarks>position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4
-        /// parallel to the z axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to the
-        /// y axis; 8 the plane z = 0; 9 the plane x = 0; 10 the plane y = 0.</remarks>
+        /// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x:
+        /// the plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis;
+        /// 4 parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to
+        /// the z axis; 6 normal_x: the plane is normal to the x axis; 7 normal_y: the plane is
+        /// normal to the y axis; 8 at_z_zero: the plane is z = 0; 9 at_x_zero: the plane is x = 0;
+        /// 10 at_y_zero: the plane is y = 0.</remarks>
         public static void trvplp(float a, float b, float c, float d, out int position)
         {
             position = 0;
@@ -2590,14 +2805,14 @@ namespace Trelvin
         }
 
         /// <summary>Points of a list near a line.</summary>
-        /// <remarks>status: 0 always; unwritten when n &lt; 1.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: always; unwritten if n &lt; 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpnl(ref float xa, ref float ya, ref float za, ref float xb,
             ref float yb, ref float zb, [In] float[] X, [In] float[] Y, PositionFunction zf,
             ref int n, ref float tol, ref int status, ref int count, [In, Out] int[] index);
 
         /// <summary>Points of a list near a line.</summary>
-        /// <remarks>status: 0 always; unwritten when n &lt; 1.</remarks>
+        /// <remarks>status: outcome (TrvStatus): 0 done: always; unwritten if n &lt; 1.</remarks>
         public static void trvpnl(float xa, float ya, float za, float xb, float yb, float zb,
             float[] X, float[] Y, PositionFunction zf, int n, float tol, out int status,
             out int count, int[] index)
@@ -2608,10 +2823,11 @@ namespace Trelvin
         }
 
         /// <summary>Carries a point along when the line through it is moved.</summary>
-        /// <remarks>status: 0 not moved: the three points are not collinear, or Q1 is at P; 3
-        /// moved, Q1 and Q2 on one side of P; 4 moved, on either side of P; 6 moved, rounding takes
-        /// the three for skew lines; 7 moved, Q2 is at P, or Q1 is by each coordinate yet not by
-        /// its distance.</remarks>
+        /// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at
+        /// P; 3 moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side:
+        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding
+        /// takes the three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is
+        /// by each coordinate yet not by its distance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvlpc(ref float xp, ref float yp, ref float zp, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float dxp,
@@ -2619,10 +2835,11 @@ namespace Trelvin
             ref int status);
 
         /// <summary>Carries a point along when the line through it is moved.</summary>
-        /// <remarks>status: 0 not moved: the three points are not collinear, or Q1 is at P; 3
-        /// moved, Q1 and Q2 on one side of P; 4 moved, on either side of P; 6 moved, rounding takes
-        /// the three for skew lines; 7 moved, Q2 is at P, or Q1 is by each coordinate yet not by
-        /// its distance.</remarks>
+        /// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at
+        /// P; 3 moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side:
+        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding
+        /// takes the three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is
+        /// by each coordinate yet not by its distance.</remarks>
         public static void trvlpc(float xp, float yp, float zp, float x1, float y1, float z1,
             ref float x2, ref float y2, ref float z2, float dxp, float dyp, float dzp, float dx1,
             float dy1, float dz1, out int status)

@@ -1,4 +1,4 @@
-! Generated from include/trelvin by tools/bindings.py.
+! Generated from include/trelvin by tools/generate.py.
 !
 ! Every routine of Trelvin for Fortran 2003 and later. Compilers preprocess the file for its suffix.
 ! An array is passed by its name or, from an element on, by that element. What a contract calls
@@ -19,10 +19,191 @@ module trelvin
 
   character(*), parameter :: trelvin_version = "1.1.0"
 
+  ! Whether a computation was done.
+  integer(c_int32_t), parameter :: trv_status_done = 0
+  integer(c_int32_t), parameter :: trv_status_refused = -1
+
+  ! Whether a point of an arc was found; note that 1 means done here.
+  integer(c_int32_t), parameter :: trv_arc_done = 1
+  integer(c_int32_t), parameter :: trv_arc_refused = 0
+
+  ! Whether a frame was found.
+  integer(c_int32_t), parameter :: trv_frame_done = 0
+  integer(c_int32_t), parameter :: trv_frame_no_frame = -2
+
+  ! Whether two points coincide: each difference of their coordinates is within the tolerance.
+  integer(c_int32_t), parameter :: trv_coincidence_distinct = 0
+  integer(c_int32_t), parameter :: trv_coincidence_coincident = 1
+
+  ! How many points were found.
+  integer(c_int32_t), parameter :: trv_points_none = 0
+  integer(c_int32_t), parameter :: trv_points_one = 1
+  integer(c_int32_t), parameter :: trv_points_two = 2
+
+  ! Which of three components are above the tolerance.
+  integer(c_int32_t), parameter :: trv_components_none = 0
+  integer(c_int32_t), parameter :: trv_components_all = 1
+  integer(c_int32_t), parameter :: trv_components_first = 2
+  integer(c_int32_t), parameter :: trv_components_second = 3
+  integer(c_int32_t), parameter :: trv_components_third = 4
+  integer(c_int32_t), parameter :: trv_components_first_second = 5
+  integer(c_int32_t), parameter :: trv_components_second_third = 6
+  integer(c_int32_t), parameter :: trv_components_first_third = 7
+
+  ! Whether a point lies on a line of space.
+  integer(c_int32_t), parameter :: trv_on_line_no = 0
+  integer(c_int32_t), parameter :: trv_on_line_yes = 1
+
+  ! Whether a point lies on a plane; note that 0 means yes.
+  integer(c_int32_t), parameter :: trv_on_plane_yes = 0
+  integer(c_int32_t), parameter :: trv_on_plane_no = -1
+  integer(c_int32_t), parameter :: trv_on_plane_zero_normal = 1
+
+  ! How two lines of the plane lie to each other.
+  integer(c_int32_t), parameter :: trv_plane_lines_one_point = 0
+  integer(c_int32_t), parameter :: trv_plane_lines_same_line = 1
+  integer(c_int32_t), parameter :: trv_plane_lines_parallel = 2
+
+  ! Three-point test (trvpsl): where P2 is, seen from P0 and P1.
+  integer(c_int32_t), parameter :: trv_three_points_spans_plane = 0
+  integer(c_int32_t), parameter :: trv_three_points_at_p0 = 1
+  integer(c_int32_t), parameter :: trv_three_points_at_p1 = 2
+  integer(c_int32_t), parameter :: trv_three_points_between = 3
+  integer(c_int32_t), parameter :: trv_three_points_beyond_p0 = 4
+  integer(c_int32_t), parameter :: trv_three_points_beyond_p1 = 5
+
+  ! How two lines of space lie to each other (trvdirl).
+  integer(c_int32_t), parameter :: trv_lines_crossing = 0
+  integer(c_int32_t), parameter :: trv_lines_parallel_same = 1
+  integer(c_int32_t), parameter :: trv_lines_parallel_opposite = 2
+  integer(c_int32_t), parameter :: trv_lines_same_line = 3
+  integer(c_int32_t), parameter :: trv_lines_opposite_line = 4
+  integer(c_int32_t), parameter :: trv_lines_perpendicular = 5
+  integer(c_int32_t), parameter :: trv_lines_skew = 6
+  integer(c_int32_t), parameter :: trv_lines_coincident = 7
+
+  ! What came of two lines of space: a result, or the relation that allows none.
+  integer(c_int32_t), parameter :: trv_two_lines_done = 0
+  integer(c_int32_t), parameter :: trv_two_lines_same_line = 3
+  integer(c_int32_t), parameter :: trv_two_lines_opposite_line = 4
+  integer(c_int32_t), parameter :: trv_two_lines_skew = 6
+  integer(c_int32_t), parameter :: trv_two_lines_no_length = 7
+
+  ! Kind of a part of a section.
+  integer(c_int32_t), parameter :: trv_part_concentrated = 1
+  integer(c_int32_t), parameter :: trv_part_polygon = 2
+  integer(c_int32_t), parameter :: trv_part_circle = 3
+  integer(c_int32_t), parameter :: trv_part_smaller_segment = 4
+  integer(c_int32_t), parameter :: trv_part_larger_segment = 5
+
+  ! trvcin: class.
   integer(c_int32_t), parameter :: trvcin_uncut_above = 1
   integer(c_int32_t), parameter :: trvcin_uncut_below = 2
   integer(c_int32_t), parameter :: trvcin_cut_below = 3
   integer(c_int32_t), parameter :: trvcin_cut_above = 4
+
+  ! trvapp: where each point is.
+  integer(c_int32_t), parameter :: trvapp_inside = 1
+  integer(c_int32_t), parameter :: trvapp_outside = 2
+  integer(c_int32_t), parameter :: trvapp_no_sector = -1
+
+  ! trvcer10: outcome.
+  integer(c_int32_t), parameter :: trvcer10_crossing_or_refused = 0
+  integer(c_int32_t), parameter :: trvcer10_along_chord = 1
+  integer(c_int32_t), parameter :: trvcer10_parallel = 2
+
+  ! trvptp1: which points of A have a partner in B.
+  integer(c_int32_t), parameter :: trvptp1_no_pair = 0
+  integer(c_int32_t), parameter :: trvptp1_some_pairs = 1
+  integer(c_int32_t), parameter :: trvptp1_all_paired = 2
+
+  ! trvpin: where P1 is.
+  integer(c_int32_t), parameter :: trvpin_inside = 1
+  integer(c_int32_t), parameter :: trvpin_outside = 0
+  integer(c_int32_t), parameter :: trvpin_refused = -1
+
+  ! trvcnt1: test.
+  integer(c_int32_t), parameter :: trvcnt1_zero = 1
+  integer(c_int32_t), parameter :: trvcnt1_nonzero = 0
+
+  ! trvvin: sign.
+  integer(c_int32_t), parameter :: trvvin_positive = 1
+  integer(c_int32_t), parameter :: trvvin_not_positive = 2
+
+  ! trvpos1: what was found.
+  integer(c_int32_t), parameter :: trvpos1_at_entry = 1
+  integer(c_int32_t), parameter :: trvpos1_between = 2
+  integer(c_int32_t), parameter :: trvpos1_neither = 0
+
+  ! trvphip: outcome.
+  integer(c_int32_t), parameter :: trvphip_no_length = -1
+
+  ! trvcnv: test.
+  integer(c_int32_t), parameter :: trvcnv_convex = 1
+  integer(c_int32_t), parameter :: trvcnv_not_convex = 0
+  integer(c_int32_t), parameter :: trvcnv_refused = -1
+
+  ! trvdir: relation.
+  integer(c_int32_t), parameter :: trvdir_oblique = 0
+  integer(c_int32_t), parameter :: trvdir_same = 1
+  integer(c_int32_t), parameter :: trvdir_opposite = 2
+  integer(c_int32_t), parameter :: trvdir_perpendicular = 3
+  integer(c_int32_t), parameter :: trvdir_zero = 4
+
+  ! trvdirp: relation.
+  integer(c_int32_t), parameter :: trvdirp_crossing = 0
+  integer(c_int32_t), parameter :: trvdirp_parallel_same = 1
+  integer(c_int32_t), parameter :: trvdirp_parallel_opposite = 2
+  integer(c_int32_t), parameter :: trvdirp_coincident_same = 3
+  integer(c_int32_t), parameter :: trvdirp_coincident_opposite = 4
+  integer(c_int32_t), parameter :: trvdirp_perpendicular = 5
+  integer(c_int32_t), parameter :: trvdirp_zero_normal = 6
+
+  ! trvppc: outcome.
+  integer(c_int32_t), parameter :: trvppc_done = 0
+  integer(c_int32_t), parameter :: trvppc_no_frame = -1
+
+  ! trvpl5: outcome.
+  integer(c_int32_t), parameter :: trvpl5_done = 0
+  integer(c_int32_t), parameter :: trvpl5_no_plane = 1
+
+  ! trvplv: relation.
+  integer(c_int32_t), parameter :: trvplv_zero_u = -1
+  integer(c_int32_t), parameter :: trvplv_oblique = 0
+  integer(c_int32_t), parameter :: trvplv_same = 3
+  integer(c_int32_t), parameter :: trvplv_opposite = 4
+  integer(c_int32_t), parameter :: trvplv_perpendicular = 5
+  integer(c_int32_t), parameter :: trvplv_zero = 7
+
+  ! trv3sp: test.
+  integer(c_int32_t), parameter :: trv3sp_flat = 0
+  integer(c_int32_t), parameter :: trv3sp_spanning = 1
+
+  ! trvpli: outcome.
+  integer(c_int32_t), parameter :: trvpli_done = 0
+  integer(c_int32_t), parameter :: trvpli_parallel = 3
+  integer(c_int32_t), parameter :: trvpli_zero = 4
+
+  ! trvplp: position.
+  integer(c_int32_t), parameter :: trvplp_general = 1
+  integer(c_int32_t), parameter :: trvplp_parallel_x = 2
+  integer(c_int32_t), parameter :: trvplp_parallel_y = 3
+  integer(c_int32_t), parameter :: trvplp_parallel_z = 4
+  integer(c_int32_t), parameter :: trvplp_normal_z = 5
+  integer(c_int32_t), parameter :: trvplp_normal_x = 6
+  integer(c_int32_t), parameter :: trvplp_normal_y = 7
+  integer(c_int32_t), parameter :: trvplp_at_z_zero = 8
+  integer(c_int32_t), parameter :: trvplp_at_x_zero = 9
+  integer(c_int32_t), parameter :: trvplp_at_y_zero = 10
+
+  ! trvlpc: outcome.
+  integer(c_int32_t), parameter :: trvlpc_not_moved = 0
+  integer(c_int32_t), parameter :: trvlpc_moved_one_side = 3
+  integer(c_int32_t), parameter :: trvlpc_moved_either_side = 4
+  integer(c_int32_t), parameter :: trvlpc_moved_skew = 6
+  integer(c_int32_t), parameter :: trvlpc_moved_at_p = 7
+
+  ! Names of version 1.1, which the next version drops.
   integer(c_int32_t), parameter :: trvcer3_done = 1
   integer(c_int32_t), parameter :: trvcer3_refused = 0
   integer(c_int32_t), parameter :: trvcer8_done = 1
@@ -35,9 +216,6 @@ module trelvin
   integer(c_int32_t), parameter :: trvarc1_refused = 0
   integer(c_int32_t), parameter :: trvcer4_done = 1
   integer(c_int32_t), parameter :: trvcer4_refused = 0
-  integer(c_int32_t), parameter :: trvcer10_refused = 0
-  integer(c_int32_t), parameter :: trvcer10_along_chord = 1
-  integer(c_int32_t), parameter :: trvcer10_parallel = 2
   integer(c_int32_t), parameter :: trvcer5_done = 1
   integer(c_int32_t), parameter :: trvcer5_refused = 0
   integer(c_int32_t), parameter :: trvcer7_done = 1
@@ -46,23 +224,16 @@ module trelvin
   integer(c_int32_t), parameter :: trvard_refused = 0
   integer(c_int32_t), parameter :: trvpor_ordered = 0
   integer(c_int32_t), parameter :: trvpor_refused = -1
-  integer(c_int32_t), parameter :: trvptp1_no_pair = 0
-  integer(c_int32_t), parameter :: trvptp1_some_pairs = 1
-  integer(c_int32_t), parameter :: trvptp1_all_paired = 2
-  integer(c_int32_t), parameter :: trvpin_inside = 1
-  integer(c_int32_t), parameter :: trvpin_outside = 0
-  integer(c_int32_t), parameter :: trvpin_refused = -1
   integer(c_int32_t), parameter :: trvcnt_coincident = 1
   integer(c_int32_t), parameter :: trvcnt_distinct = 0
-  integer(c_int32_t), parameter :: trvcnt1_zero = 1
-  integer(c_int32_t), parameter :: trvcnt1_nonzero = 0
   integer(c_int32_t), parameter :: trv123_done = 0
   integer(c_int32_t), parameter :: trv123_coincident = 1
-  integer(c_int32_t), parameter :: trvvin_positive = 1
-  integer(c_int32_t), parameter :: trvvin_not_positive = 2
-  integer(c_int32_t), parameter :: trvpos1_at_entry = 1
-  integer(c_int32_t), parameter :: trvpos1_between = 2
-  integer(c_int32_t), parameter :: trvpos1_neither = 0
+  integer(c_int32_t), parameter :: trvchi_done = 0
+  integer(c_int32_t), parameter :: trvchi_coincident = 1
+  integer(c_int32_t), parameter :: trvtrg_done = 0
+  integer(c_int32_t), parameter :: trvtrg_coincident = 1
+  integer(c_int32_t), parameter :: trvpl4_done = 0
+  integer(c_int32_t), parameter :: trvpl4_coincident = 1
   integer(c_int32_t), parameter :: trvlni_one_point = 0
   integer(c_int32_t), parameter :: trvlni_same_line = 1
   integer(c_int32_t), parameter :: trvlni_parallel = 2
@@ -85,8 +256,6 @@ module trelvin
   integer(c_int32_t), parameter :: trvln6_first_second = 5
   integer(c_int32_t), parameter :: trvln6_second_third = 6
   integer(c_int32_t), parameter :: trvln6_first_third = 7
-  integer(c_int32_t), parameter :: trvln6_on_line = 1
-  integer(c_int32_t), parameter :: trvln6_off_line = 0
   integer(c_int32_t), parameter :: trvln7_none = 0
   integer(c_int32_t), parameter :: trvln7_all = 1
   integer(c_int32_t), parameter :: trvln7_first = 2
@@ -95,28 +264,10 @@ module trelvin
   integer(c_int32_t), parameter :: trvln7_first_second = 5
   integer(c_int32_t), parameter :: trvln7_second_third = 6
   integer(c_int32_t), parameter :: trvln7_first_third = 7
+  integer(c_int32_t), parameter :: trvln6_on_line = 1
+  integer(c_int32_t), parameter :: trvln6_off_line = 0
   integer(c_int32_t), parameter :: trvln7_on_line = 1
   integer(c_int32_t), parameter :: trvln7_off_line = 0
-  integer(c_int32_t), parameter :: trvphip_no_length = -1
-  integer(c_int32_t), parameter :: trvchi_done = 0
-  integer(c_int32_t), parameter :: trvchi_coincident = 1
-  integer(c_int32_t), parameter :: trvcnv_convex = 1
-  integer(c_int32_t), parameter :: trvcnv_not_convex = 0
-  integer(c_int32_t), parameter :: trvcnv_refused = -1
-  integer(c_int32_t), parameter :: trvtrg_done = 0
-  integer(c_int32_t), parameter :: trvtrg_coincident = 1
-  integer(c_int32_t), parameter :: trvdir_oblique = 0
-  integer(c_int32_t), parameter :: trvdir_same = 1
-  integer(c_int32_t), parameter :: trvdir_opposite = 2
-  integer(c_int32_t), parameter :: trvdir_perpendicular = 3
-  integer(c_int32_t), parameter :: trvdir_zero = 4
-  integer(c_int32_t), parameter :: trvdirp_crossing = 0
-  integer(c_int32_t), parameter :: trvdirp_parallel_same = 1
-  integer(c_int32_t), parameter :: trvdirp_parallel_opposite = 2
-  integer(c_int32_t), parameter :: trvdirp_coincident_same = 3
-  integer(c_int32_t), parameter :: trvdirp_coincident_opposite = 4
-  integer(c_int32_t), parameter :: trvdirp_perpendicular = 5
-  integer(c_int32_t), parameter :: trvdirp_zero_normal = 6
   integer(c_int32_t), parameter :: trvmxt_done = 0
   integer(c_int32_t), parameter :: trvmxt_refused = -1
   integer(c_int32_t), parameter :: trvmxt_fb_done = 0
@@ -127,6 +278,18 @@ module trelvin
   integer(c_int32_t), parameter :: trvpsl_between = 3
   integer(c_int32_t), parameter :: trvpsl_beyond_p0 = 4
   integer(c_int32_t), parameter :: trvpsl_beyond_p1 = 5
+  integer(c_int32_t), parameter :: trvpl1_done = 0
+  integer(c_int32_t), parameter :: trvpl1_at_p0 = 1
+  integer(c_int32_t), parameter :: trvpl1_at_p1 = 2
+  integer(c_int32_t), parameter :: trvpl1_between = 3
+  integer(c_int32_t), parameter :: trvpl1_beyond_p0 = 4
+  integer(c_int32_t), parameter :: trvpl1_beyond_p1 = 5
+  integer(c_int32_t), parameter :: trvpl7_done = 0
+  integer(c_int32_t), parameter :: trvpl7_at_p0 = 1
+  integer(c_int32_t), parameter :: trvpl7_at_p1 = 2
+  integer(c_int32_t), parameter :: trvpl7_between = 3
+  integer(c_int32_t), parameter :: trvpl7_beyond_p0 = 4
+  integer(c_int32_t), parameter :: trvpl7_beyond_p1 = 5
   integer(c_int32_t), parameter :: trvaxe_done = 0
   integer(c_int32_t), parameter :: trvaxe_no_frame = -2
   integer(c_int32_t), parameter :: trvaxel_done = 0
@@ -135,14 +298,6 @@ module trelvin
   integer(c_int32_t), parameter :: trvptrl_no_frame = -2
   integer(c_int32_t), parameter :: trvpra_done = 0
   integer(c_int32_t), parameter :: trvpra_no_frame = -2
-  integer(c_int32_t), parameter :: trvppc_done = 0
-  integer(c_int32_t), parameter :: trvppc_no_frame = -1
-  integer(c_int32_t), parameter :: trvpl1_done = 0
-  integer(c_int32_t), parameter :: trvpl1_at_p0 = 1
-  integer(c_int32_t), parameter :: trvpl1_at_p1 = 2
-  integer(c_int32_t), parameter :: trvpl1_between = 3
-  integer(c_int32_t), parameter :: trvpl1_beyond_p0 = 4
-  integer(c_int32_t), parameter :: trvpl1_beyond_p1 = 5
   integer(c_int32_t), parameter :: trvpl2_done = 0
   integer(c_int32_t), parameter :: trvpl2_same_line = 3
   integer(c_int32_t), parameter :: trvpl2_opposite_line = 4
@@ -151,32 +306,21 @@ module trelvin
   integer(c_int32_t), parameter :: trvpl3_same_line = 3
   integer(c_int32_t), parameter :: trvpl3_opposite_line = 4
   integer(c_int32_t), parameter :: trvpl3_coincident = 7
-  integer(c_int32_t), parameter :: trvpl4_done = 0
-  integer(c_int32_t), parameter :: trvpl4_coincident = 1
-  integer(c_int32_t), parameter :: trvpl5_done = 0
-  integer(c_int32_t), parameter :: trvpl5_no_plane = 1
   integer(c_int32_t), parameter :: trvpl6_done = 0
   integer(c_int32_t), parameter :: trvpl6_same_line = 3
   integer(c_int32_t), parameter :: trvpl6_opposite_line = 4
   integer(c_int32_t), parameter :: trvpl6_skew = 6
   integer(c_int32_t), parameter :: trvpl6_zero = 7
-  integer(c_int32_t), parameter :: trvpl7_done = 0
-  integer(c_int32_t), parameter :: trvpl7_at_p0 = 1
-  integer(c_int32_t), parameter :: trvpl7_at_p1 = 2
-  integer(c_int32_t), parameter :: trvpl7_between = 3
-  integer(c_int32_t), parameter :: trvpl7_beyond_p0 = 4
-  integer(c_int32_t), parameter :: trvpl7_beyond_p1 = 5
+  integer(c_int32_t), parameter :: trv3lni_done = 0
+  integer(c_int32_t), parameter :: trv3lni_same_line = 3
+  integer(c_int32_t), parameter :: trv3lni_opposite_line = 4
+  integer(c_int32_t), parameter :: trv3lni_skew = 6
+  integer(c_int32_t), parameter :: trv3lni_zero = 7
   integer(c_int32_t), parameter :: trvpsp_on_plane = 0
   integer(c_int32_t), parameter :: trvpsp_off_plane = -1
   integer(c_int32_t), parameter :: trvpspg_on_plane = 0
   integer(c_int32_t), parameter :: trvpspg_off_plane = -1
   integer(c_int32_t), parameter :: trvpspg_zero_normal = 1
-  integer(c_int32_t), parameter :: trvplv_zero_u = -1
-  integer(c_int32_t), parameter :: trvplv_oblique = 0
-  integer(c_int32_t), parameter :: trvplv_same = 3
-  integer(c_int32_t), parameter :: trvplv_opposite = 4
-  integer(c_int32_t), parameter :: trvplv_perpendicular = 5
-  integer(c_int32_t), parameter :: trvplv_zero = 7
   integer(c_int32_t), parameter :: trvdirl_crossing = 0
   integer(c_int32_t), parameter :: trvdirl_parallel_same = 1
   integer(c_int32_t), parameter :: trvdirl_parallel_opposite = 2
@@ -185,34 +329,9 @@ module trelvin
   integer(c_int32_t), parameter :: trvdirl_perpendicular = 5
   integer(c_int32_t), parameter :: trvdirl_skew = 6
   integer(c_int32_t), parameter :: trvdirl_coincident = 7
-  integer(c_int32_t), parameter :: trv3sp_flat = 0
-  integer(c_int32_t), parameter :: trv3sp_spanning = 1
   integer(c_int32_t), parameter :: trv3ldb_done = 0
   integer(c_int32_t), parameter :: trv3lda_done = 0
-  integer(c_int32_t), parameter :: trv3lni_done = 0
-  integer(c_int32_t), parameter :: trv3lni_same_line = 3
-  integer(c_int32_t), parameter :: trv3lni_opposite_line = 4
-  integer(c_int32_t), parameter :: trv3lni_skew = 6
-  integer(c_int32_t), parameter :: trv3lni_zero = 7
-  integer(c_int32_t), parameter :: trvpli_done = 0
-  integer(c_int32_t), parameter :: trvpli_parallel = 3
-  integer(c_int32_t), parameter :: trvpli_zero = 4
-  integer(c_int32_t), parameter :: trvplp_general = 1
-  integer(c_int32_t), parameter :: trvplp_parallel_x = 2
-  integer(c_int32_t), parameter :: trvplp_parallel_y = 3
-  integer(c_int32_t), parameter :: trvplp_parallel_z = 4
-  integer(c_int32_t), parameter :: trvplp_normal_z = 5
-  integer(c_int32_t), parameter :: trvplp_normal_x = 6
-  integer(c_int32_t), parameter :: trvplp_normal_y = 7
-  integer(c_int32_t), parameter :: trvplp_at_z_zero = 8
-  integer(c_int32_t), parameter :: trvplp_at_x_zero = 9
-  integer(c_int32_t), parameter :: trvplp_at_y_zero = 10
   integer(c_int32_t), parameter :: trvpnl_done = 0
-  integer(c_int32_t), parameter :: trvlpc_not_moved = 0
-  integer(c_int32_t), parameter :: trvlpc_moved_one_side = 3
-  integer(c_int32_t), parameter :: trvlpc_moved_either_side = 4
-  integer(c_int32_t), parameter :: trvlpc_moved_skew = 6
-  integer(c_int32_t), parameter :: trvlpc_moved_at_p = 7
 
   !> A function of the host's: a Real for a position. For 32-bit Windows the function itself says
   !! !GCC$ ATTRIBUTES STDCALL :: its_name
@@ -237,7 +356,8 @@ module trelvin
     end subroutine
 
     !> Intersection of a line and a circle.
-    !! n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it.
+    !! n: number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the line touches
+    !! the circle; 2 two: the line cuts the circle.
     subroutine trvlci(a, b, c, D, E, F, n, x1, y1, x2, y2) bind(c, name="trvlci")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvlci
@@ -247,8 +367,9 @@ module trelvin
     end subroutine
 
     !> Intersection of two circles: that of their radical line with the first circle (trvlci).
-    !! n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the
-    !! tolerance; 1 the circles touch; 2 they cut each other.
+    !! n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric:
+    !! |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles
+    !! cut each other.
     subroutine trvc12(D1, E1, F1, D2, E2, F2, n, x1, y1, x2, y2) bind(c, name="trvc12")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvc12
@@ -258,8 +379,9 @@ module trelvin
     end subroutine
 
     !> Centres of the circles of a radius through two points.
-    !! n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord, the
-    !! discriminant is NaN, or the chord is horizontal; 1 both candidates are the same point; 2 two.
+    !! n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or less than
+    !! half the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both candidates
+    !! are the same point; 2 two: there are two points.
     subroutine trvcer2(x1, y1, x2, y2, side, r, xa, ya, xb, yb, xc, yc, n) bind(c, name="trvcer2")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer2
@@ -271,9 +393,9 @@ module trelvin
     end subroutine
 
     !> Circle through two points with a given sagitta.
-    !! n: number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less than
-    !! half the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are
-    !! the same point; 2 two.
+    !! n: number of centres of trvcer2 (TrvPoints): 0 none: h < 1e-5, P1 = P2 exactly, r is at most
+    !! 1e-5 or less than half the chord, the discriminant is NaN, or the chord is horizontal; 1 one:
+    !! both candidates are the same point; 2 two: there are two points.
     subroutine trvcer1(x1, y1, x2, y2, side, h, r, xc, yc, n) bind(c, name="trvcer1")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer1
@@ -285,8 +407,10 @@ module trelvin
     end subroutine
 
     !> Classifies a circle cut by a line, with a trace.
-    !! position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3 cut, centre
-    !! below it; 4 cut, centre on or above it.
+    !! position: class: 1 uncut_above: the circle is not cut, its centre is above the x axis; 2
+    !! uncut_below: the circle is not cut, its centre is on or below the x axis; 3 cut_below: the
+    !! circle is cut, its centre is below the x axis; 4 cut_above: the circle is cut, its centre is
+    !! on or above the x axis.
     subroutine trvcin(X, Y, a, b, c, position, x1, y1, x2, y2) bind(c, name="trvcin")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcin
@@ -296,7 +420,8 @@ module trelvin
     end subroutine
 
     !> Turns a point about a centre.
-    !! status: 1 done; 0 the point's distance from the centre is within the tolerance.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance
+    !! from the centre is within the tolerance.
     subroutine trvcer3(x0, y0, x, y, angle, xr, yr, status) bind(c, name="trvcer3")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer3
@@ -308,8 +433,9 @@ module trelvin
     end subroutine
 
     !> Point of an arc above a station of its chord, perpendicular to the chord.
-    !! status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by
-    !! more, or the station is not farther than that from both ends.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
+    !! chord is at most 0.001, the radii of A and B differ by more, or the station is not farther
+    !! than that from both ends.
     subroutine trvcer8(xc, yc, xa, ya, xb, yb, side, d, x, y, status) bind(c, name="trvcer8")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer8
@@ -321,9 +447,9 @@ module trelvin
     end subroutine
 
     !> Point of an arc on the line from its centre through a station of its chord.
-    !! status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by
-    !! more, the station is not farther than that from both ends, or d is closer than that to the
-    !! diameter.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
+    !! chord is at most 0.001, the radii of A and B differ by more, the station is not farther than
+    !! that from both ends, or d is closer than that to the diameter.
     subroutine trvcer6(xc, yc, xa, ya, xb, yb, side, d, x, y, status) bind(c, name="trvcer6")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer6
@@ -335,9 +461,9 @@ module trelvin
     end subroutine
 
     !> Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
-    !! status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is at most
-    !! 0.001, the radii of A and B differ by more, or the strip comes closer than that to an end of
-    !! the chord.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord,
+    !! d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by
+    !! more, or the strip comes closer than that to an end of the chord.
     subroutine trvcer9(xc, yc, xa, ya, xb, yb, side, d, w, x1, y1, x2, y2, &
         status) bind(c, name="trvcer9")
       import :: c_float, c_int32_t
@@ -350,7 +476,8 @@ module trelvin
     end subroutine
 
     !> Lengths of the two arcs between two points of a circle.
-    !! status: 1 done; 0 the radius, or the distance of A and B, is within the tolerance.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, or the
+    !! distance of A and B, is within the tolerance.
     subroutine trvarc1(xc, yc, xa, ya, xb, yb, s1, s2, status) bind(c, name="trvarc1")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvarc1
@@ -377,6 +504,9 @@ module trelvin
     end subroutine
 
     !> Marks points by a sector.
+    !! mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
+    !! outside the sector; -1 no_sector: the rays' angle is within the tolerance, which holds for
+    !! all points alike.
     subroutine trvapp(x0, y0, x1, y1, x2, y2, n, X, Y, mark) bind(c, name="trvapp")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvapp
@@ -387,8 +517,9 @@ module trelvin
     end subroutine
 
     !> Point of an arc on a line through a station of its chord.
-    !! status: 1 done; 0 the radius or the chord is within the tolerance, the radii of A and B
-    !! differ by more, A and B coincide, or the line touches the circle.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
+    !! chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the
+    !! line touches the circle.
     subroutine trvcer4(xc, yc, xa, ya, xb, yb, s, angle, xo, yo, status) bind(c, name="trvcer4")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer4
@@ -399,9 +530,11 @@ module trelvin
     end subroutine
 
     !> Crossing of an arc's chord with a line through its turned end.
-    !! status: 0 refused: the radius or the chord is within the tolerance, or the radii of A and B
-    !! differ by more, but also a crossing, and a retained one that is on the chord's line but not
-    !! at A or B (trvpsl above 2); 1 the line runs along the chord; 2 it is parallel to it.
+    !! status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal
+    !! result, or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl
+    !! above 2), or the input is rejected, since the radius or the chord is within the tolerance or
+    !! the radii of A and B differ by more; 1 along_chord: the line runs along the chord; 2
+    !! parallel: the line is parallel to the chord.
     subroutine trvcer10(xc, yc, xa, ya, xb, yb, turn, angle, xo, yo, &
         status) bind(c, name="trvcer10")
       import :: c_float, c_int32_t
@@ -413,8 +546,9 @@ module trelvin
     end subroutine
 
     !> Point of an arc on the line from a station of its chord towards the sagitta.
-    !! status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is at most
-    !! 1e-5, or the radii of A and B differ by more, or the line touches the circle.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e,
+    !! the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by
+    !! more, or the line touches the circle.
     subroutine trvcer5(xc, yc, xa, ya, xb, yb, s, side, e, xo, yo, status) bind(c, name="trvcer5")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer5
@@ -428,9 +562,10 @@ module trelvin
 
     !> Crossings of a line through a station of an arc's chord with the arc and with a parallel to
     !! the chord.
-    !! status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest beyond s is at
-    !! most 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is
-    !! parallel to the chord, or it cuts less than twice 1e-4 off the circle.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative,
+    !! the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more
+    !! and the rounding, side is 0, the line is parallel to the chord, or the part of the line
+    !! inside the circle is not longer than 2e-4.
     subroutine trvcer7(xc, yc, xa, ya, xb, yb, s, side, e, angle, xp, yp, xt, yt, xo, yo, len, &
         status) bind(c, name="trvcer7")
       import :: c_float, c_int32_t
@@ -444,8 +579,9 @@ module trelvin
     end subroutine
 
     !> Rounds the corner at P0 between the segments to P1 and to P2.
-    !! status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine of the angle
-    !! between the segments is within it, or the arc touches one beyond its end by more.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not
+    !! above the tolerance, the sine of the angle between the segments is within it, or the arc
+    !! touches one beyond its end by more.
     subroutine trvard(x0, y0, x1, y1, x2, y2, r, xc, yc, xt1, yt1, xt2, yt2, &
         status) bind(c, name="trvard")
       import :: c_float, c_int32_t
@@ -491,7 +627,8 @@ module trelvin
     end subroutine
 
     !> Order of parallel lines by where they cross an axis.
-    !! status: 0 ordered; -1 not a family of parallel and distinct lines, or n < 1.
+    !! status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a
+    !! family of parallel and distinct lines, or n < 1.
     subroutine trvpor(n, A, B, C, IDX, status) bind(c, name="trvpor")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpor
@@ -615,7 +752,8 @@ module trelvin
     end subroutine
 
     !> All pairs of points of two lists that agree within a tolerance in each coordinate.
-    !! status: 0 no pair; 1 some points of A have a partner; 2 every point of A has one.
+    !! status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have;
+    !! 2 all_paired: every one has.
     subroutine trvptp1(na, XA, YA, ZA, nb, XB, YB, ZB, tol, count, IA, IB, &
         status) bind(c, name="trvptp1")
       import :: c_float, c_int32_t
@@ -669,9 +807,9 @@ module trelvin
     end subroutine
 
     !> Where the segment from P1 to P2 crosses a closed outline.
-    !! status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1 and P2
-    !! coincide within the tolerance in both coordinates. P1 on the outline counts as the point just
-    !! to its right, or just above where that is on the outline too.
+    !! status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1
+    !! is outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within
+    !! the tolerance in both coordinates.
     subroutine trvpin(X, Y, n, x1, y1, x2, y2, count, XI, YI, T, EDGE, &
         status) bind(c, name="trvpin")
       import :: c_float, c_int32_t
@@ -712,7 +850,8 @@ module trelvin
     end subroutine
 
     !> Difference vector of two points, and whether they coincide.
-    !! status: 1 each difference is within the tolerance; 0 otherwise.
+    !! status: coincidence (TrvCoincidence): 1 coincident: each difference is within the tolerance;
+    !! 0 distinct: a difference is above the tolerance or NaN.
     subroutine trvcnt(x1, y1, z1, x2, y2, z2, dx, dy, dz, status) bind(c, name="trvcnt")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcnt
@@ -722,7 +861,8 @@ module trelvin
     end subroutine
 
     !> Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.
-    !! status: 1 all components are zero of either sign; 0 otherwise (a NaN included).
+    !! status: test: 1 zero: all components are zero, of either sign; 0 nonzero: a component is not
+    !! zero, or is NaN.
     subroutine trvcnt1(dx, dy, dz, status) bind(c, name="trvcnt1")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcnt1
@@ -731,7 +871,8 @@ module trelvin
     end subroutine
 
     !> Point P1 + t*(P2 - P1) on the line through two points.
-    !! status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt).
+    !! status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 and P2
+    !! coincide within the tolerance (trvcnt).
     subroutine trv123(x1, y1, z1, x2, y2, z2, t, x, y, z, status) bind(c, name="trv123")
       import :: c_float, c_int32_t
       TRELVIN_CALL trv123
@@ -781,7 +922,7 @@ module trelvin
     end subroutine
 
     !> Sign of a value.
-    !! status: 1 v is positive; 2 v is zero, negative or NaN.
+    !! status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or NaN.
     subroutine trvvin(u1, v, u3, u4, u5, status) bind(c, name="trvvin")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvvin
@@ -799,7 +940,8 @@ module trelvin
     end subroutine
 
     !> Entry of an ascending table that equals a value, or the interval that holds it.
-    !! status: 1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither.
+    !! status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
+    !! A(i+1); 0 neither: x equals no element and lies in no interval.
     subroutine trvpos1(n, A, x, status, i) bind(c, name="trvpos1")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpos1
@@ -857,7 +999,8 @@ module trelvin
     end subroutine
 
     !> Intersection of two lines.
-    !! status: 0 one point; 1 the same line; 2 parallel and distinct.
+    !! status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1
+    !! same_line: the lines are the same; 2 parallel: the lines are parallel and distinct.
     subroutine trvlni(a1, b1, c1, a2, b2, c2, status, x, y) bind(c, name="trvlni")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvlni
@@ -867,7 +1010,9 @@ module trelvin
     end subroutine
 
     !> Distance of two parallel lines.
-    !! status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells.
+    !! status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1
+    !! same_line: the lines are the same; 2 parallel: the lines are parallel and distinct, as trvlni
+    !! finds.
     subroutine trvlul(a1, b1, c1, a2, b2, c2, d, status) bind(c, name="trvlul")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvlul
@@ -877,8 +1022,11 @@ module trelvin
     end subroutine
 
     !> Which components of two triples differ by more than the tolerance.
-    !! code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and third; 7
-    !! first and third.
+    !! code: which components differ by more than the tolerance (TrvComponents): 0 none: no
+    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
+    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
+    !! the first and the second component are; 6 second_third: the second and the third component
+    !! are; 7 first_third: the first and the third component are.
     subroutine trvpsn(p1, p2, p3, q1, q2, q3, code) bind(c, name="trvpsn")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpsn
@@ -887,9 +1035,13 @@ module trelvin
     end subroutine
 
     !> Whether a point lies on the line of space through P0 with direction D.
-    !! code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y; 4 z; 5 x
-    !! and y; 6 y and z; 7 x and z.
-    !! on: 1 P lies on the line; 0 it does not, and always when code is 0.
+    !! code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
+    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
+    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
+    !! the first and the second component are; 6 second_third: the second and the third component
+    !! are; 7 first_third: the first and the third component are.
+    !! on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is
+    !! 0.
     subroutine trvln6(x0, y0, z0, dx, dy, dz, px, py, pz, tol, code, on) bind(c, name="trvln6")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvln6
@@ -898,9 +1050,13 @@ module trelvin
     end subroutine
 
     !> Line of two planes, and whether it agrees with a point at a retained station.
-    !! code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3 ey; 4 ez; 5
-    !! ex and ey; 6 ey and ez; 7 ex and ez.
-    !! on: 1 P agrees with the line at the station; 0 it does not.
+    !! code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
+    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
+    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
+    !! the first and the second component are; 6 second_third: the second and the third component
+    !! are; 7 first_third: the first and the third component are.
+    !! on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the
+    !! line at the station.
     subroutine trvln7(a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz, ex, ey, ez, tol, code, &
         on) bind(c, name="trvln7")
       import :: c_float, c_int32_t
@@ -936,8 +1092,8 @@ module trelvin
     end subroutine
 
     !> Angle between two lines given by their directions.
-    !! status: -1 a direction's length is within the tolerance; unwritten otherwise: set it
-    !! beforehand.
+    !! status: outcome: -1 no_length: a direction's length is within the tolerance; unwritten on a
+    !! condition: neither direction's length is within the tolerance, so it must be set beforehand.
     subroutine trvphip(ux, uy, uz, vx, vy, vz, phi, status) bind(c, name="trvphip")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvphip
@@ -947,7 +1103,8 @@ module trelvin
     end subroutine
 
     !> Directed angle at P0 from the ray to P1 to the ray to P2.
-    !! status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt).
+    !! status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 or P2
+    !! coincides with P0 (trvcnt).
     subroutine trvchi(x0, y0, z0, x1, y1, z1, x2, y2, z2, chi, status) bind(c, name="trvchi")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvchi
@@ -957,8 +1114,8 @@ module trelvin
     end subroutine
 
     !> Convexity of a closed outline, of either orientation.
-    !! status: 1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a side whose
-    !! length is within the tolerance.
+    !! status: test: 1 convex: the outline is convex; 0 not_convex: the outline is not convex, or
+    !! winds more than once; -1 refused: n < 3, or the length of a side is within the tolerance.
     subroutine trvcnv(X, Y, n, status) bind(c, name="trvcnv")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcnv
@@ -968,7 +1125,8 @@ module trelvin
     end subroutine
 
     !> Cosine and sine of the angle between P2 - P1 and P4 - P3.
-    !! status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt).
+    !! status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 and P2,
+    !! or P3 and P4, coincide (trvcnt).
     subroutine trvtrg(x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4, cphi, sphi, &
         status) bind(c, name="trvtrg")
       import :: c_float, c_int32_t
@@ -979,8 +1137,10 @@ module trelvin
     end subroutine
 
     !> Relation of two directions.
-    !! code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all components of u, or
-    !! of v, are within the tolerance.
+    !! code: relation: 0 oblique: u and v have neither the same, opposite nor perpendicular
+    !! directions; 1 same: the directions are the same; 2 opposite: the directions are opposite; 3
+    !! perpendicular: the directions are perpendicular; 4 zero: all components of u, or of v, are
+    !! within the tolerance.
     subroutine trvdir(ux, uy, uz, vx, vy, vz, code) bind(c, name="trvdir")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvdir
@@ -989,9 +1149,12 @@ module trelvin
     end subroutine
 
     !> Relation of two planes.
-    !! code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel, normals opposite;
-    !! 3 coincident, normals in the same direction; 4 coincident, normals opposite; 5 perpendicular;
-    !! 6 a normal is zero.
+    !! code: relation: 0 crossing: the planes cross, not at a right angle; 1 parallel_same: the
+    !! planes are parallel and distinct, their normals in the same direction; 2 parallel_opposite:
+    !! the planes are parallel and distinct, their normals opposite; 3 coincident_same: the planes
+    !! coincide, their normals in the same direction; 4 coincident_opposite: the planes coincide,
+    !! their normals opposite; 5 perpendicular: the planes are perpendicular; 6 zero_normal: a
+    !! normal is zero.
     subroutine trvdirp(a1, b1, c1, d1, a2, b2, c2, d2, code) bind(c, name="trvdirp")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvdirp
@@ -1154,7 +1317,6 @@ module trelvin
     end subroutine
 
     !> I section with unequal flanges.
-    !! np: number of polygons: 1.
     subroutine trvsec_ia(H, B1, B2, T1, T2, TW, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, &
         q1, q2) bind(c, name="trvsec_ia")
       import :: c_float, c_int32_t
@@ -1168,7 +1330,6 @@ module trelvin
     end subroutine
 
     !> I section lying on its side.
-    !! np: number of polygons: 1.
     subroutine trvsec_h(H, B1, B2, T1, T2, TW, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, &
         q1, q2) bind(c, name="trvsec_h")
       import :: c_float, c_int32_t
@@ -1182,7 +1343,6 @@ module trelvin
     end subroutine
 
     !> T section, flange at the top.
-    !! np: number of polygons: 1.
     subroutine trvsec_t(B, H, TF, TW, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, &
         q2) bind(c, name="trvsec_t")
       import :: c_float, c_int32_t
@@ -1196,7 +1356,6 @@ module trelvin
     end subroutine
 
     !> Flat bar.
-    !! np: number of polygons: 1.
     subroutine trvsec_b(B, H, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, &
         q2) bind(c, name="trvsec_b")
       import :: c_float, c_int32_t
@@ -1211,7 +1370,6 @@ module trelvin
     end subroutine
 
     !> I section lying on its side with a cover plate on its flanges' top edges, closing one cell.
-    !! np: number of polygons: 2.
     subroutine trvsec_h1b(W, D, P, T1, T2, TW, TP, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, &
         z5, q1, q2) bind(c, name="trvsec_h1b")
       import :: c_float, c_int32_t
@@ -1225,7 +1383,6 @@ module trelvin
     end subroutine
 
     !> Box girder with overhanging flanges.
-    !! np: number of polygons: 2.
     subroutine trvsec_box(BT, BB, TT, TB, H, TW, G, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, &
         z5, q1, q2) bind(c, name="trvsec_box")
       import :: c_float, c_int32_t
@@ -1239,7 +1396,6 @@ module trelvin
     end subroutine
 
     !> Rectangular hollow section with sharp corners.
-    !! np: number of polygons: 2.
     subroutine trvsec_rhs(B, H, T, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, &
         q2) bind(c, name="trvsec_rhs")
       import :: c_float, c_int32_t
@@ -1253,7 +1409,6 @@ module trelvin
     end subroutine
 
     !> Two equal angles back to back, horizontal legs at the top.
-    !! np: number of polygons: 2.
     subroutine trvsec_l2(B, H, G, T, TV, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, &
         q2) bind(c, name="trvsec_l2")
       import :: c_float, c_int32_t
@@ -1267,7 +1422,6 @@ module trelvin
     end subroutine
 
     !> Top plate on a closed cell of two webs and a bottom plate between them.
-    !! np: number of polygons: 2.
     subroutine trvsec_tab(B, H, BW, E, T, TW, TB, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, &
         q1, q2) bind(c, name="trvsec_tab")
       import :: c_float, c_int32_t
@@ -1281,7 +1435,6 @@ module trelvin
     end subroutine
 
     !> Two flanges joined by two webs and a middle plate, closing two cells.
-    !! np: number of polygons: 3.
     subroutine trvsec_h2b(B, W, HI, TW1, TW2, TM, TF, q, np, nv, X, Y, code, sign, z1, z2, z3, z4, &
         z5, q1, q2) bind(c, name="trvsec_h2b")
       import :: c_float, c_int32_t
@@ -1295,7 +1448,6 @@ module trelvin
     end subroutine
 
     !> I section with unequal flanges, an eccentric web and 45-degree fillets.
-    !! np: number of polygons: 1.
     subroutine trvsec_i(H, B1, B2, T1, T2, TW, S1, S2, E, q, np, nv, X, Y, code, sign, z1, z2, z3, &
         z4, z5, q1, q2) bind(c, name="trvsec_i")
       import :: c_float, c_int32_t
@@ -1309,7 +1461,6 @@ module trelvin
     end subroutine
 
     !> Channel open to the right, with lips turned inwards and folds turned back towards the web.
-    !! np: number of polygons: 1.
     subroutine trvsec_c(H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2, TD1, TD2, q, np, nv, X, &
         Y, code, sign, z1, z2, z3, z4, z5, q1, q2) bind(c, name="trvsec_c")
       import :: c_float, c_int32_t
@@ -1339,12 +1490,12 @@ module trelvin
     end subroutine
 
     !> Properties of an open section of thin plates.
-    !! status: -1 refused, nothing else is written: n < 1, a coordinate or a thickness that is
-    !! infinite or NaN, a length or a thickness not above the tolerance; 0 done; 2 to n this plate
-    !! is the first at fault, it starts at no end of an earlier one, or ends at one and closes a
-    !! cell: what is listed up to xp,yp is written, the rest is not; n+2 to 2*n plate status - n is
-    !! the first at fault, it crosses, touches or overlaps an earlier one elsewhere than at its
-    !! start, which may close a cell: what is listed up to xp,yp is written, the rest is not.
+    !! status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a
+    !! coordinate or a thickness is infinite or NaN, or a length or a thickness is not above the
+    !! tolerance; 2 to n: this plate is the first at fault, it starts at no end of an earlier plate,
+    !! or ends at one and closes a cell; n+2 to 2*n: plate status - n is the first at fault, it
+    !! crosses, touches or overlaps an earlier plate elsewhere than at its start, which may close a
+    !! cell.
     subroutine trvmxt(n, X1, Y1, X2, Y2, T, A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, &
         Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt, xm, ym, Iw, r0, W1, W2, &
         status) bind(c, name="trvmxt")
@@ -1354,12 +1505,12 @@ module trelvin
       real(c_float), intent(in) :: X1(*), Y1(*), X2(*), Y2(*), T(*)
       real(c_float), intent(inout) :: A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, &
         Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt, xm, ym, Iw, r0, W1(*), W2(*)
-      integer(c_int32_t), intent(inout) :: status
+      integer(c_int32_t), intent(out) :: status
     end subroutine
 
     !> Properties of a flat bar, centred on the origin.
-    !! status: -1 refused, nothing else is written: a side that is infinite, NaN or not above the
-    !! tolerance; 0 done.
+    !! status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: a side is
+    !! infinite, NaN or not above the tolerance.
     subroutine trvmxt_fb(B, H, A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2, &
         Wpx, Wpy, xp, yp, It, Wt, xm, ym, Iw, r0, W1, W2, status) bind(c, name="trvmxt_fb")
       import :: c_float, c_int32_t
@@ -1367,7 +1518,7 @@ module trelvin
       real(c_float), intent(in) :: B, H
       real(c_float), intent(inout) :: A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, &
         Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt, xm, ym, Iw, r0, W1(*), W2(*)
-      integer(c_int32_t), intent(inout) :: status
+      integer(c_int32_t), intent(out) :: status
     end subroutine
 
     ! Rotations, frames, planes and lines of space
@@ -1417,8 +1568,9 @@ module trelvin
     end subroutine
 
     !> Three-point test: whether P0, P1 and P2 span a plane.
-    !! status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0
-    !! on their line; 5 P2 is beyond P1.
+    !! status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+    !! at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2
+    !! is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and P1.
     subroutine trvpsl(x0, y0, z0, x1, y1, z1, x2, y2, z2, status) bind(c, name="trvpsl")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpsl
@@ -1445,7 +1597,8 @@ module trelvin
     end subroutine
 
     !> Frame of the plane through three points.
-    !! status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).
+    !! status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1,
+    !! or the three points are on one line (trvpsl).
     subroutine trvaxe(x0, y0, z0, x1, y1, z1, x2, y2, z2, e1x, e1y, e1z, e2x, e2y, e2z, e3x, e3y, &
         e3z, status) bind(c, name="trvaxe")
       import :: c_float, c_int32_t
@@ -1456,7 +1609,8 @@ module trelvin
     end subroutine
 
     !> Frame of an axis from P0 to P1.
-    !! status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance.
+    !! status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0
+    !! and P1 is within the tolerance.
     subroutine trvaxel(x0, y0, z0, x1, y1, z1, angle, e1x, e1y, e1z, e2x, e2y, e2z, e3x, e3y, e3z, &
         status) bind(c, name="trvaxel")
       import :: c_float, c_int32_t
@@ -1476,7 +1630,8 @@ module trelvin
     end subroutine
 
     !> Shifts points and turns them in the frame of three points, in place.
-    !! status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).
+    !! status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1,
+    !! or the three points are on one line (trvpsl).
     subroutine trvptrl(x0, y0, z0, x1, y1, z1, x2, y2, z2, X, Y, Z, n, dx, dy, dz, ax, ay, az, &
         status) bind(c, name="trvptrl")
       import :: c_float, c_int32_t
@@ -1489,7 +1644,8 @@ module trelvin
     end subroutine
 
     !> Turns points about the axis from P0 through P1, in place.
-    !! status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance.
+    !! status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0
+    !! and P1 is within the tolerance.
     subroutine trvpra(x0, y0, z0, x1, y1, z1, X, Y, Z, n, angle, status) bind(c, name="trvpra")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpra
@@ -1502,8 +1658,8 @@ module trelvin
 
     !> Turns points of a plane in the frame of the three points that span it, then shifts them, in
     !! place.
-    !! status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1 to n position
-    !! of the first point off the plane.
+    !! status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three
+    !! points are on one line (trvpsl); 1 to n: position of the first point off the plane.
     subroutine trvppc(x0, y0, z0, x1, y1, z1, x2, y2, z2, dx, dy, dz, ax, ay, az, n, X, Y, Z, tol, &
         status) bind(c, name="trvppc")
       import :: c_float, c_int32_t
@@ -1524,8 +1680,9 @@ module trelvin
     end subroutine
 
     !> Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
-    !! status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on
-    !! their line; 5 P2 is beyond P1.
+    !! status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+    !! at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2
+    !! is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and P1.
     subroutine trvpl1(x0, y0, z0, x1, y1, z1, x2, y2, z2, a, b, c, d, &
         status) bind(c, name="trvpl1")
       import :: c_float, c_int32_t
@@ -1536,8 +1693,9 @@ module trelvin
     end subroutine
 
     !> Plane through a point, parallel to two lines.
-    !! status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the
-    !! same, of opposite sense; 7 A and B, or C and D, coincide (trvcnt).
+    !! status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
+    !! the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+    !! direction; 7 no_length: A and B, or C and D, coincide (trvcnt).
     subroutine trvpl2(x, y, z, xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, a, b, c, d, &
         status) bind(c, name="trvpl2")
       import :: c_float, c_int32_t
@@ -1548,8 +1706,9 @@ module trelvin
     end subroutine
 
     !> Plane that contains one line and is parallel to another: trvpl2 through A.
-    !! status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the
-    !! same, of opposite sense; 7 A and B, or C and D, coincide (trvcnt).
+    !! status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
+    !! the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+    !! direction; 7 no_length: A and B, or C and D, coincide (trvcnt).
     subroutine trvpl3(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, a, b, c, d, &
         status) bind(c, name="trvpl3")
       import :: c_float, c_int32_t
@@ -1560,7 +1719,8 @@ module trelvin
     end subroutine
 
     !> Plane through a point, perpendicular to a segment.
-    !! status: 0 done; 1 A and B coincide, each coordinate within the tolerance (trvcnt).
+    !! status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
+    !! coincide, each coordinate within the tolerance (trvcnt).
     subroutine trvpl4(x, y, z, xa, ya, za, xb, yb, zb, a, b, c, d, status) bind(c, name="trvpl4")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpl4
@@ -1570,7 +1730,8 @@ module trelvin
     end subroutine
 
     !> Plane with given intercepts on the axes.
-    !! status: 0 done; 1 an intercept is within the tolerance or NaN.
+    !! status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the
+    !! tolerance or NaN.
     subroutine trvpl5(ix, iy, iz, a, b, c, d, status) bind(c, name="trvpl5")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpl5
@@ -1580,9 +1741,10 @@ module trelvin
     end subroutine
 
     !> Plane of two lines, each given by a point and a direction.
-    !! status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the
-    !! same, of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each
-    !! component.
+    !! status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
+    !! the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+    !! direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in
+    !! each component.
     subroutine trvpl6(xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy, wz, a, b, c, d, &
         status) bind(c, name="trvpl6")
       import :: c_float, c_int32_t
@@ -1593,8 +1755,10 @@ module trelvin
     end subroutine
 
     !> Plane of three points turned about the line from P0 to P1.
-    !! status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is at P1; 3 P2
-    !! is between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond P1.
+    !! status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+    !! at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between:
+    !! P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1:
+    !! P2 is beyond P1 on the line of P0 and P1.
     subroutine trvpl7(x0, y0, z0, x1, y1, z1, x2, y2, z2, angle, a, b, c, d, &
         status) bind(c, name="trvpl7")
       import :: c_float, c_int32_t
@@ -1605,8 +1769,8 @@ module trelvin
     end subroutine
 
     !> Whether a point lies on the plane of three points.
-    !! status: 0 it does, and any point does where P0 = P1; -1 it does not, or the three points span
-    !! no plane (trvpsl).
+    !! status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1;
+    !! -1 no: the point does not lie on the plane, or the three points span no plane (trvpsl).
     subroutine trvpsp(x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z, tol, &
         status) bind(c, name="trvpsp")
       import :: c_float, c_int32_t
@@ -1624,7 +1788,8 @@ module trelvin
     end subroutine
 
     !> Whether a point lies on a plane.
-    !! status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is exactly zero.
+    !! status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point does not lie
+    !! on the plane, or the distance is NaN; 1 zero_normal: the normal of the plane is exactly zero.
     subroutine trvpspg(x, y, z, a, b, c, d, tol, status) bind(c, name="trvpspg")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpspg
@@ -1633,8 +1798,10 @@ module trelvin
     end subroutine
 
     !> Relation of two directions, taken as lines through the origin.
-    !! status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5 perpendicular; 7
-    !! u or w is within the tolerance in each component.
+    !! status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
+    !! opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the
+    !! directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is
+    !! within the tolerance in each component.
     subroutine trvplv(ux, uy, uz, wx, wy, wz, v7, v8, status) bind(c, name="trvplv")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvplv
@@ -1654,9 +1821,11 @@ module trelvin
     end subroutine
 
     !> Relation of two lines.
-    !! status: 0 they cross, not at a right angle; 1 parallel and distinct, of the same sense; 2
-    !! parallel and distinct, of opposite sense; 3 the same line, of the same sense; 4 the same
-    !! line, of opposite sense; 5 they cross at a right angle; 6 skew; 7 A and B, or C and D,
+    !! status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle; 1
+    !! parallel_same: parallel and distinct lines of the same direction; 2 parallel_opposite:
+    !! parallel and distinct lines of opposite direction; 3 same_line: the same line, of the same
+    !! direction; 4 opposite_line: the same line, of opposite direction; 5 perpendicular: the lines
+    !! cross at a right angle; 6 skew: the lines are skew; 7 coincident: A and B, or C and D,
     !! coincide, each coordinate within the tolerance.
     subroutine trvdirl(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, &
         status) bind(c, name="trvdirl")
@@ -1667,8 +1836,8 @@ module trelvin
     end subroutine
 
     !> Whether three segments span space.
-    !! status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above the tolerance,
-    !! in the cube of the length unit.
+    !! status: test: 0 flat: the triple product of B - A, D - C and F - E is within the tolerance; 1
+    !! spanning: the triple product is above the tolerance, in the cube of the length unit.
     subroutine trv3sp(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, xe, ye, ze, xf, yf, zf, &
         status) bind(c, name="trv3sp")
       import :: c_float, c_int32_t
@@ -1679,7 +1848,7 @@ module trelvin
     end subroutine
 
     !> Distance of a point from a line.
-    !! status: 0 always.
+    !! status: outcome (TrvStatus): 0 done: always.
     subroutine trv3ldb(xa, ya, za, xb, yb, zb, xq, yq, zq, status, dist) bind(c, name="trv3ldb")
       import :: c_float, c_int32_t
       TRELVIN_CALL trv3ldb
@@ -1689,7 +1858,7 @@ module trelvin
     end subroutine
 
     !> Signed distance of a point from a line, in the plane of both.
-    !! status: 0 always.
+    !! status: outcome (TrvStatus): 0 done: always.
     subroutine trv3lda(xa, ya, za, xb, yb, zb, xq, yq, zq, status, dist) bind(c, name="trv3lda")
       import :: c_float, c_int32_t
       TRELVIN_CALL trv3lda
@@ -1699,9 +1868,10 @@ module trelvin
     end subroutine
 
     !> Intersection of the lines A + t*u and C + s*w.
-    !! status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the
-    !! same, of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each
-    !! component.
+    !! status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
+    !! the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+    !! direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in
+    !! each component.
     subroutine trv3lni(xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy, wz, status, xi, yi, &
         zi) bind(c, name="trv3lni")
       import :: c_float, c_int32_t
@@ -1715,8 +1885,9 @@ module trelvin
     end subroutine
 
     !> Intersection of the line P + t*u with a plane.
-    !! status: 0 done; 3 the line is parallel to the plane: the cosine of u and the normal is within
-    !! the tolerance; 4 u or the normal is within the tolerance in each component.
+    !! status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
+    !! plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is
+    !! within the tolerance in each component.
     subroutine trvpli(x, y, z, ux, uy, uz, a, b, c, d, xi, yi, zi, status) bind(c, name="trvpli")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpli
@@ -1726,9 +1897,12 @@ module trelvin
     end subroutine
 
     !> Position of a plane against the axes.
-    !! position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4 parallel to the z
-    !! axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to the y axis; 8 the plane z =
-    !! 0; 9 the plane x = 0; 10 the plane y = 0.
+    !! position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
+    !! parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the
+    !! plane is parallel to the z axis; 5 normal_z: the plane is normal to the z axis; 6 normal_x:
+    !! the plane is normal to the x axis; 7 normal_y: the plane is normal to the y axis; 8
+    !! at_z_zero: the plane is z = 0; 9 at_x_zero: the plane is x = 0; 10 at_y_zero: the plane is y
+    !! = 0.
     subroutine trvplp(a, b, c, d, position) bind(c, name="trvplp")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvplp
@@ -1737,7 +1911,7 @@ module trelvin
     end subroutine
 
     !> Points of a list near a line.
-    !! status: 0 always; unwritten when n < 1.
+    !! status: outcome (TrvStatus): 0 done: always; unwritten if n < 1.
     subroutine trvpnl(xa, ya, za, xb, yb, zb, X, Y, zf, n, tol, status, count, &
         index) bind(c, name="trvpnl")
       import :: c_float, c_int32_t, trvfunction
@@ -1746,13 +1920,17 @@ module trelvin
       procedure(trvfunction) :: zf
       integer(c_int32_t), intent(in) :: n
       real(c_float), intent(in) :: tol
-      integer(c_int32_t), intent(inout) :: status, count, index(*)
+      integer(c_int32_t), intent(inout) :: status
+      integer(c_int32_t), intent(out) :: count
+      integer(c_int32_t), intent(inout) :: index(*)
     end subroutine
 
     !> Carries a point along when the line through it is moved.
-    !! status: 0 not moved: the three points are not collinear, or Q1 is at P; 3 moved, Q1 and Q2 on
-    !! one side of P; 4 moved, on either side of P; 6 moved, rounding takes the three for skew
-    !! lines; 7 moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance.
+    !! status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
+    !! moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is
+    !! moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three
+    !! points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet
+    !! not by its distance.
     subroutine trvlpc(xp, yp, zp, x1, y1, z1, x2, y2, z2, dxp, dyp, dzp, dx1, dy1, dz1, &
         status) bind(c, name="trvlpc")
       import :: c_float, c_int32_t

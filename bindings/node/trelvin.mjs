@@ -1,4 +1,4 @@
-// Generated from include/trelvin by tools/bindings.py.
+// Generated from include/trelvin by tools/generate.py.
 //
 // Every routine of Trelvin for Node.js. Inputs are given by value, what a routine writes comes back
 // as an object; ./call.mjs tells how. The contracts are in include/trelvin.
@@ -8,10 +8,192 @@ export const version = "1.1.0";
 
 /** @typedef {ArrayLike<number>} Numbers */
 
+
+// Whether a computation was done.
+export const trvStatusDone = 0;
+export const trvStatusRefused = -1;
+
+// Whether a point of an arc was found; note that 1 means done here.
+export const trvArcDone = 1;
+export const trvArcRefused = 0;
+
+// Whether a frame was found.
+export const trvFrameDone = 0;
+export const trvFrameNoFrame = -2;
+
+// Whether two points coincide: each difference of their coordinates is within the tolerance.
+export const trvCoincidenceDistinct = 0;
+export const trvCoincidenceCoincident = 1;
+
+// How many points were found.
+export const trvPointsNone = 0;
+export const trvPointsOne = 1;
+export const trvPointsTwo = 2;
+
+// Which of three components are above the tolerance.
+export const trvComponentsNone = 0;
+export const trvComponentsAll = 1;
+export const trvComponentsFirst = 2;
+export const trvComponentsSecond = 3;
+export const trvComponentsThird = 4;
+export const trvComponentsFirstSecond = 5;
+export const trvComponentsSecondThird = 6;
+export const trvComponentsFirstThird = 7;
+
+// Whether a point lies on a line of space.
+export const trvOnLineNo = 0;
+export const trvOnLineYes = 1;
+
+// Whether a point lies on a plane; note that 0 means yes.
+export const trvOnPlaneYes = 0;
+export const trvOnPlaneNo = -1;
+export const trvOnPlaneZeroNormal = 1;
+
+// How two lines of the plane lie to each other.
+export const trvPlaneLinesOnePoint = 0;
+export const trvPlaneLinesSameLine = 1;
+export const trvPlaneLinesParallel = 2;
+
+// Three-point test (trvpsl): where P2 is, seen from P0 and P1.
+export const trvThreePointsSpansPlane = 0;
+export const trvThreePointsAtP0 = 1;
+export const trvThreePointsAtP1 = 2;
+export const trvThreePointsBetween = 3;
+export const trvThreePointsBeyondP0 = 4;
+export const trvThreePointsBeyondP1 = 5;
+
+// How two lines of space lie to each other (trvdirl).
+export const trvLinesCrossing = 0;
+export const trvLinesParallelSame = 1;
+export const trvLinesParallelOpposite = 2;
+export const trvLinesSameLine = 3;
+export const trvLinesOppositeLine = 4;
+export const trvLinesPerpendicular = 5;
+export const trvLinesSkew = 6;
+export const trvLinesCoincident = 7;
+
+// What came of two lines of space: a result, or the relation that allows none.
+export const trvTwoLinesDone = 0;
+export const trvTwoLinesSameLine = 3;
+export const trvTwoLinesOppositeLine = 4;
+export const trvTwoLinesSkew = 6;
+export const trvTwoLinesNoLength = 7;
+
+// Kind of a part of a section.
+export const trvPartConcentrated = 1;
+export const trvPartPolygon = 2;
+export const trvPartCircle = 3;
+export const trvPartSmallerSegment = 4;
+export const trvPartLargerSegment = 5;
+
+// trvcin: class.
 export const trvcinUncutAbove = 1;
 export const trvcinUncutBelow = 2;
 export const trvcinCutBelow = 3;
 export const trvcinCutAbove = 4;
+
+// trvapp: where each point is.
+export const trvappInside = 1;
+export const trvappOutside = 2;
+export const trvappNoSector = -1;
+
+// trvcer10: outcome.
+export const trvcer10CrossingOrRefused = 0;
+export const trvcer10AlongChord = 1;
+export const trvcer10Parallel = 2;
+
+// trvptp1: which points of A have a partner in B.
+export const trvptp1NoPair = 0;
+export const trvptp1SomePairs = 1;
+export const trvptp1AllPaired = 2;
+
+// trvpin: where P1 is.
+export const trvpinInside = 1;
+export const trvpinOutside = 0;
+export const trvpinRefused = -1;
+
+// trvcnt1: test.
+export const trvcnt1Zero = 1;
+export const trvcnt1Nonzero = 0;
+
+// trvvin: sign.
+export const trvvinPositive = 1;
+export const trvvinNotPositive = 2;
+
+// trvpos1: what was found.
+export const trvpos1AtEntry = 1;
+export const trvpos1Between = 2;
+export const trvpos1Neither = 0;
+
+// trvphip: outcome.
+export const trvphipNoLength = -1;
+
+// trvcnv: test.
+export const trvcnvConvex = 1;
+export const trvcnvNotConvex = 0;
+export const trvcnvRefused = -1;
+
+// trvdir: relation.
+export const trvdirOblique = 0;
+export const trvdirSame = 1;
+export const trvdirOpposite = 2;
+export const trvdirPerpendicular = 3;
+export const trvdirZero = 4;
+
+// trvdirp: relation.
+export const trvdirpCrossing = 0;
+export const trvdirpParallelSame = 1;
+export const trvdirpParallelOpposite = 2;
+export const trvdirpCoincidentSame = 3;
+export const trvdirpCoincidentOpposite = 4;
+export const trvdirpPerpendicular = 5;
+export const trvdirpZeroNormal = 6;
+
+// trvppc: outcome.
+export const trvppcDone = 0;
+export const trvppcNoFrame = -1;
+
+// trvpl5: outcome.
+export const trvpl5Done = 0;
+export const trvpl5NoPlane = 1;
+
+// trvplv: relation.
+export const trvplvZeroU = -1;
+export const trvplvOblique = 0;
+export const trvplvSame = 3;
+export const trvplvOpposite = 4;
+export const trvplvPerpendicular = 5;
+export const trvplvZero = 7;
+
+// trv3sp: test.
+export const trv3spFlat = 0;
+export const trv3spSpanning = 1;
+
+// trvpli: outcome.
+export const trvpliDone = 0;
+export const trvpliParallel = 3;
+export const trvpliZero = 4;
+
+// trvplp: position.
+export const trvplpGeneral = 1;
+export const trvplpParallelX = 2;
+export const trvplpParallelY = 3;
+export const trvplpParallelZ = 4;
+export const trvplpNormalZ = 5;
+export const trvplpNormalX = 6;
+export const trvplpNormalY = 7;
+export const trvplpAtZZero = 8;
+export const trvplpAtXZero = 9;
+export const trvplpAtYZero = 10;
+
+// trvlpc: outcome.
+export const trvlpcNotMoved = 0;
+export const trvlpcMovedOneSide = 3;
+export const trvlpcMovedEitherSide = 4;
+export const trvlpcMovedSkew = 6;
+export const trvlpcMovedAtP = 7;
+
+// Names of version 1.1, which the next version drops.
 export const trvcer3Done = 1;
 export const trvcer3Refused = 0;
 export const trvcer8Done = 1;
@@ -24,9 +206,6 @@ export const trvarc1Done = 1;
 export const trvarc1Refused = 0;
 export const trvcer4Done = 1;
 export const trvcer4Refused = 0;
-export const trvcer10Refused = 0;
-export const trvcer10AlongChord = 1;
-export const trvcer10Parallel = 2;
 export const trvcer5Done = 1;
 export const trvcer5Refused = 0;
 export const trvcer7Done = 1;
@@ -35,23 +214,16 @@ export const trvardDone = 1;
 export const trvardRefused = 0;
 export const trvporOrdered = 0;
 export const trvporRefused = -1;
-export const trvptp1NoPair = 0;
-export const trvptp1SomePairs = 1;
-export const trvptp1AllPaired = 2;
-export const trvpinInside = 1;
-export const trvpinOutside = 0;
-export const trvpinRefused = -1;
 export const trvcntCoincident = 1;
 export const trvcntDistinct = 0;
-export const trvcnt1Zero = 1;
-export const trvcnt1Nonzero = 0;
 export const trv123Done = 0;
 export const trv123Coincident = 1;
-export const trvvinPositive = 1;
-export const trvvinNotPositive = 2;
-export const trvpos1AtEntry = 1;
-export const trvpos1Between = 2;
-export const trvpos1Neither = 0;
+export const trvchiDone = 0;
+export const trvchiCoincident = 1;
+export const trvtrgDone = 0;
+export const trvtrgCoincident = 1;
+export const trvpl4Done = 0;
+export const trvpl4Coincident = 1;
 export const trvlniOnePoint = 0;
 export const trvlniSameLine = 1;
 export const trvlniParallel = 2;
@@ -74,8 +246,6 @@ export const trvln6Third = 4;
 export const trvln6FirstSecond = 5;
 export const trvln6SecondThird = 6;
 export const trvln6FirstThird = 7;
-export const trvln6OnLine = 1;
-export const trvln6OffLine = 0;
 export const trvln7None = 0;
 export const trvln7All = 1;
 export const trvln7First = 2;
@@ -84,38 +254,32 @@ export const trvln7Third = 4;
 export const trvln7FirstSecond = 5;
 export const trvln7SecondThird = 6;
 export const trvln7FirstThird = 7;
+export const trvln6OnLine = 1;
+export const trvln6OffLine = 0;
 export const trvln7OnLine = 1;
 export const trvln7OffLine = 0;
-export const trvphipNoLength = -1;
-export const trvchiDone = 0;
-export const trvchiCoincident = 1;
-export const trvcnvConvex = 1;
-export const trvcnvNotConvex = 0;
-export const trvcnvRefused = -1;
-export const trvtrgDone = 0;
-export const trvtrgCoincident = 1;
-export const trvdirOblique = 0;
-export const trvdirSame = 1;
-export const trvdirOpposite = 2;
-export const trvdirPerpendicular = 3;
-export const trvdirZero = 4;
-export const trvdirpCrossing = 0;
-export const trvdirpParallelSame = 1;
-export const trvdirpParallelOpposite = 2;
-export const trvdirpCoincidentSame = 3;
-export const trvdirpCoincidentOpposite = 4;
-export const trvdirpPerpendicular = 5;
-export const trvdirpZeroNormal = 6;
 export const trvmxtDone = 0;
 export const trvmxtRefused = -1;
-export const trvmxt_fbDone = 0;
-export const trvmxt_fbRefused = -1;
+export const trvmxtFbDone = 0;
+export const trvmxtFbRefused = -1;
 export const trvpslSpansPlane = 0;
 export const trvpslAtP0 = 1;
 export const trvpslAtP1 = 2;
 export const trvpslBetween = 3;
 export const trvpslBeyondP0 = 4;
 export const trvpslBeyondP1 = 5;
+export const trvpl1Done = 0;
+export const trvpl1AtP0 = 1;
+export const trvpl1AtP1 = 2;
+export const trvpl1Between = 3;
+export const trvpl1BeyondP0 = 4;
+export const trvpl1BeyondP1 = 5;
+export const trvpl7Done = 0;
+export const trvpl7AtP0 = 1;
+export const trvpl7AtP1 = 2;
+export const trvpl7Between = 3;
+export const trvpl7BeyondP0 = 4;
+export const trvpl7BeyondP1 = 5;
 export const trvaxeDone = 0;
 export const trvaxeNoFrame = -2;
 export const trvaxelDone = 0;
@@ -124,14 +288,6 @@ export const trvptrlDone = 0;
 export const trvptrlNoFrame = -2;
 export const trvpraDone = 0;
 export const trvpraNoFrame = -2;
-export const trvppcDone = 0;
-export const trvppcNoFrame = -1;
-export const trvpl1Done = 0;
-export const trvpl1AtP0 = 1;
-export const trvpl1AtP1 = 2;
-export const trvpl1Between = 3;
-export const trvpl1BeyondP0 = 4;
-export const trvpl1BeyondP1 = 5;
 export const trvpl2Done = 0;
 export const trvpl2SameLine = 3;
 export const trvpl2OppositeLine = 4;
@@ -140,32 +296,21 @@ export const trvpl3Done = 0;
 export const trvpl3SameLine = 3;
 export const trvpl3OppositeLine = 4;
 export const trvpl3Coincident = 7;
-export const trvpl4Done = 0;
-export const trvpl4Coincident = 1;
-export const trvpl5Done = 0;
-export const trvpl5NoPlane = 1;
 export const trvpl6Done = 0;
 export const trvpl6SameLine = 3;
 export const trvpl6OppositeLine = 4;
 export const trvpl6Skew = 6;
 export const trvpl6Zero = 7;
-export const trvpl7Done = 0;
-export const trvpl7AtP0 = 1;
-export const trvpl7AtP1 = 2;
-export const trvpl7Between = 3;
-export const trvpl7BeyondP0 = 4;
-export const trvpl7BeyondP1 = 5;
+export const trv3lniDone = 0;
+export const trv3lniSameLine = 3;
+export const trv3lniOppositeLine = 4;
+export const trv3lniSkew = 6;
+export const trv3lniZero = 7;
 export const trvpspOnPlane = 0;
 export const trvpspOffPlane = -1;
 export const trvpspgOnPlane = 0;
 export const trvpspgOffPlane = -1;
 export const trvpspgZeroNormal = 1;
-export const trvplvZeroU = -1;
-export const trvplvOblique = 0;
-export const trvplvSame = 3;
-export const trvplvOpposite = 4;
-export const trvplvPerpendicular = 5;
-export const trvplvZero = 7;
 export const trvdirlCrossing = 0;
 export const trvdirlParallelSame = 1;
 export const trvdirlParallelOpposite = 2;
@@ -174,34 +319,9 @@ export const trvdirlOppositeLine = 4;
 export const trvdirlPerpendicular = 5;
 export const trvdirlSkew = 6;
 export const trvdirlCoincident = 7;
-export const trv3spFlat = 0;
-export const trv3spSpanning = 1;
 export const trv3ldbDone = 0;
 export const trv3ldaDone = 0;
-export const trv3lniDone = 0;
-export const trv3lniSameLine = 3;
-export const trv3lniOppositeLine = 4;
-export const trv3lniSkew = 6;
-export const trv3lniZero = 7;
-export const trvpliDone = 0;
-export const trvpliParallel = 3;
-export const trvpliZero = 4;
-export const trvplpGeneral = 1;
-export const trvplpParallelX = 2;
-export const trvplpParallelY = 3;
-export const trvplpParallelZ = 4;
-export const trvplpNormalZ = 5;
-export const trvplpNormalX = 6;
-export const trvplpNormalY = 7;
-export const trvplpAtZZero = 8;
-export const trvplpAtXZero = 9;
-export const trvplpAtYZero = 10;
 export const trvpnlDone = 0;
-export const trvlpcNotMoved = 0;
-export const trvlpcMovedOneSide = 3;
-export const trvlpcMovedEitherSide = 4;
-export const trvlpcMovedSkew = 6;
-export const trvlpcMovedAtP = 7;
 
 // Circles and arcs of the plane
 
@@ -216,7 +336,8 @@ export const trvcer = routine("trvcer", ["in real xc", "in real yc", "in real r"
 /**
  * Intersection of a line and a circle.
  *
- * n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it.
+ * n: number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the line touches the
+ * circle; 2 two: the line cuts the circle.
  *
  * @type {(a: number, b: number, c: number, D: number, E: number, F: number) => {n: number, x1:
  *   number, y1: number, x2: number, y2: number}}
@@ -228,8 +349,9 @@ export const trvlci = routine("trvlci", ["in real a", "in real b", "in real c", 
 /**
  * Intersection of two circles: that of their radical line with the first circle (trvlci).
  *
- * n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the
- * tolerance; 1 the circles touch; 2 they cut each other.
+ * n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric: |D2
+ * - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles cut each
+ * other.
  *
  * @type {(D1: number, E1: number, F1: number, D2: number, E2: number, F2: number) => {n: number,
  *   x1: number, y1: number, x2: number, y2: number}}
@@ -241,8 +363,9 @@ export const trvc12 = routine("trvc12", ["in real D1", "in real E1", "in real F1
 /**
  * Centres of the circles of a radius through two points.
  *
- * n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord, the
- * discriminant is NaN, or the chord is horizontal; 1 both candidates are the same point; 2 two.
+ * n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or less than half
+ * the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both candidates are the
+ * same point; 2 two: there are two points.
  *
  * @type {(x1: number, y1: number, x2: number, y2: number, side: number, r: number) => {xa: number,
  *   ya: number, xb: number, yb: number, xc: number, yc: number, n: number}}
@@ -254,9 +377,9 @@ export const trvcer2 = routine("trvcer2", ["in real x1", "in real y1", "in real 
 /**
  * Circle through two points with a given sagitta.
  *
- * n: number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less than half
- * the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates are the same
- * point; 2 two.
+ * n: number of centres of trvcer2 (TrvPoints): 0 none: h < 1e-5, P1 = P2 exactly, r is at most 1e-5
+ * or less than half the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both
+ * candidates are the same point; 2 two: there are two points.
  *
  * @type {(x1: number, y1: number, x2: number, y2: number, side: number, h: number) => {r: number,
  *   xc: number, yc: number, n: number}}
@@ -267,8 +390,10 @@ export const trvcer1 = routine("trvcer1", ["in real x1", "in real y1", "in real 
 /**
  * Classifies a circle cut by a line, with a trace.
  *
- * position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3 cut, centre
- * below it; 4 cut, centre on or above it.
+ * position: class: 1 uncut_above: the circle is not cut, its centre is above the x axis; 2
+ * uncut_below: the circle is not cut, its centre is on or below the x axis; 3 cut_below: the circle
+ * is cut, its centre is below the x axis; 4 cut_above: the circle is cut, its centre is on or above
+ * the x axis.
  *
  * @type {(X: Numbers, Y: Numbers, a: number, b: number, c: number) => {position: number, x1:
  *   number, y1: number, x2: number, y2: number}}
@@ -279,7 +404,8 @@ export const trvcin = routine("trvcin", ["in real X[2]", "in real Y[2]", "in rea
 /**
  * Turns a point about a centre.
  *
- * status: 1 done; 0 the point's distance from the centre is within the tolerance.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance from
+ * the centre is within the tolerance.
  *
  * @type {(x0: number, y0: number, x: number, y: number, angle: number) => {x: number, y: number,
  *   xr: number, yr: number, status: number}}
@@ -290,8 +416,9 @@ export const trvcer3 = routine("trvcer3", ["in real x0", "in real y0", "inout re
 /**
  * Point of an arc above a station of its chord, perpendicular to the chord.
  *
- * status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by more,
- * or the station is not farther than that from both ends.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
+ * at most 0.001, the radii of A and B differ by more, or the station is not farther than that from
+ * both ends.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number) => {x: number, y: number, status: number}}
@@ -303,8 +430,9 @@ export const trvcer8 = routine("trvcer8", ["in real xc", "in real yc", "in real 
 /**
  * Point of an arc on the line from its centre through a station of its chord.
  *
- * status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by more,
- * the station is not farther than that from both ends, or d is closer than that to the diameter.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
+ * at most 0.001, the radii of A and B differ by more, the station is not farther than that from
+ * both ends, or d is closer than that to the diameter.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number) => {x: number, y: number, status: number}}
@@ -316,9 +444,9 @@ export const trvcer6 = routine("trvcer6", ["in real xc", "in real yc", "in real 
 /**
  * Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
  *
- * status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is at most
- * 0.001, the radii of A and B differ by more, or the strip comes closer than that to an end of the
- * chord.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord, d,
+ * the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or
+ * the strip comes closer than that to an end of the chord.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number, w: number) => {x1: number, y1: number, x2: number, y2: number, status: number}}
@@ -330,7 +458,8 @@ export const trvcer9 = routine("trvcer9", ["in real xc", "in real yc", "in real 
 /**
  * Lengths of the two arcs between two points of a circle.
  *
- * status: 1 done; 0 the radius, or the distance of A and B, is within the tolerance.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, or the
+ * distance of A and B, is within the tolerance.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number) => {s1: number,
  *   s2: number, status: number}}
@@ -359,6 +488,10 @@ export const trvhin = routine("trvhin", ["in real x0", "in real y0", "in real z0
 /**
  * Marks points by a sector.
  *
+ * mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
+ * outside the sector; -1 no_sector: the rays' angle is within the tolerance, which holds for all
+ * points alike.
+ *
  * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, X: Numbers, Y:
  *   Numbers, counts?: {n?: number}) => {mark: Int32Array}}
  */
@@ -368,8 +501,9 @@ export const trvapp = routine("trvapp", ["in real x0", "in real y0", "in real x1
 /**
  * Point of an arc on a line through a station of its chord.
  *
- * status: 1 done; 0 the radius or the chord is within the tolerance, the radii of A and B differ by
- * more, A and B coincide, or the line touches the circle.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
+ * within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches
+ * the circle.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, angle:
  *   number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, xo: number,
@@ -382,9 +516,11 @@ export const trvcer4 = routine("trvcer4", ["inout real xc", "inout real yc", "in
 /**
  * Crossing of an arc's chord with a line through its turned end.
  *
- * status: 0 refused: the radius or the chord is within the tolerance, or the radii of A and B
- * differ by more, but also a crossing, and a retained one that is on the chord's line but not at A
- * or B (trvpsl above 2); 1 the line runs along the chord; 2 it is parallel to it.
+ * status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal result,
+ * or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or
+ * the input is rejected, since the radius or the chord is within the tolerance or the radii of A
+ * and B differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the line is
+ * parallel to the chord.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, turn: number,
  *   angle: number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, xo:
@@ -397,8 +533,9 @@ export const trvcer10 = routine("trvcer10", ["inout real xc", "inout real yc", "
 /**
  * Point of an arc on the line from a station of its chord towards the sagitta.
  *
- * status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is at most
- * 1e-5, or the radii of A and B differ by more, or the line touches the circle.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e, the
+ * radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more,
+ * or the line touches the circle.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, side:
  *   number, e: number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number,
@@ -412,9 +549,10 @@ export const trvcer5 = routine("trvcer5", ["inout real xc", "inout real yc", "in
  * Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
  * chord.
  *
- * status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest beyond s is at most
- * 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is parallel to
- * the chord, or it cuts less than twice 1e-4 off the circle.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative, the
+ * radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the
+ * rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle
+ * is not longer than 2e-4.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, side:
  *   number, e: number, angle: number) => {xc: number, yc: number, xa: number, ya: number, xb:
@@ -429,8 +567,9 @@ export const trvcer7 = routine("trvcer7", ["inout real xc", "inout real yc", "in
 /**
  * Rounds the corner at P0 between the segments to P1 and to P2.
  *
- * status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine of the angle
- * between the segments is within it, or the arc touches one beyond its end by more.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not
+ * above the tolerance, the sine of the angle between the segments is within it, or the arc touches
+ * one beyond its end by more.
  *
  * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, r: number) =>
  *   {xc: number, yc: number, xt1: number, yt1: number, xt2: number, yt2: number, status: number}}
@@ -474,7 +613,8 @@ export const trvordi = routine("trvordi", ["in real V[n]", "in int n = V", "out 
 /**
  * Order of parallel lines by where they cross an axis.
  *
- * status: 0 ordered; -1 not a family of parallel and distinct lines, or n < 1.
+ * status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a family
+ * of parallel and distinct lines, or n < 1.
  *
  * @type {(A: Numbers, B: Numbers, C: Numbers, counts?: {n?: number}) => {IDX: Int32Array, status:
  *   number}}
@@ -589,7 +729,8 @@ export const trvmer16 = routine("trvmer16", ["inout real X[n, n used]", "inout r
 /**
  * All pairs of points of two lists that agree within a tolerance in each coordinate.
  *
- * status: 0 no pair; 1 some points of A have a partner; 2 every point of A has one.
+ * status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have; 2
+ * all_paired: every one has.
  *
  * @type {(XA: Numbers, YA: Numbers, ZA: Numbers, XB: Numbers, YB: Numbers, ZB: Numbers, tol:
  *   number, counts?: {na?: number, nb?: number}) => {count: number, IA: Int32Array, IB: Int32Array,
@@ -633,9 +774,9 @@ export const trvppp = routine("trvppp", ["in real X[n]", "in real Y[n]", "in int
 /**
  * Where the segment from P1 to P2 crosses a closed outline.
  *
- * status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1 and P2
- * coincide within the tolerance in both coordinates. P1 on the outline counts as the point just to
- * its right, or just above where that is on the outline too.
+ * status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1 is
+ * outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within the
+ * tolerance in both coordinates.
  *
  * @type {(X: Numbers, Y: Numbers, x1: number, y1: number, x2: number, y2: number, counts?: {n?:
  *   number}) => {count: number, XI: Float32Array, YI: Float32Array, T: Float32Array, EDGE:
@@ -679,7 +820,8 @@ export const trvpre = routine("trvpre", ["in real x1", "in real y1", "in real z1
 /**
  * Difference vector of two points, and whether they coincide.
  *
- * status: 1 each difference is within the tolerance; 0 otherwise.
+ * status: coincidence (TrvCoincidence): 1 coincident: each difference is within the tolerance; 0
+ * distinct: a difference is above the tolerance or NaN.
  *
  * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number) => {dx: number,
  *   dy: number, dz: number, status: number}}
@@ -690,7 +832,8 @@ export const trvcnt = routine("trvcnt", ["in real x1", "in real y1", "in real z1
 /**
  * Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.
  *
- * status: 1 all components are zero of either sign; 0 otherwise (a NaN included).
+ * status: test: 1 zero: all components are zero, of either sign; 0 nonzero: a component is not
+ * zero, or is NaN.
  *
  * @type {(dx: number, dy: number, dz: number) => {status: number}}
  */
@@ -700,7 +843,8 @@ export const trvcnt1 = routine("trvcnt1", ["in real dx", "in real dy", "in real 
 /**
  * Point P1 + t*(P2 - P1) on the line through two points.
  *
- * status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt).
+ * status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 and P2
+ * coincide within the tolerance (trvcnt).
  *
  * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number, t: number) => {x:
  *   number, y: number, z: number, status: number}}
@@ -754,7 +898,7 @@ export const trvint = routine("trvint", ["in real x1", "in real x2", "in real y1
 /**
  * Sign of a value.
  *
- * status: 1 v is positive; 2 v is zero, negative or NaN.
+ * status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or NaN.
  *
  * @type {(u1: number, v: number, u3: number, u4: number, u5: number) => {status: number}}
  */
@@ -771,7 +915,8 @@ export const trvpos = routine("trvpos", ["in int n = A", "in real A[n]", "in rea
 /**
  * Entry of an ascending table that equals a value, or the interval that holds it.
  *
- * status: 1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither.
+ * status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
+ * A(i+1); 0 neither: x equals no element and lies in no interval.
  *
  * @type {(A: Numbers, x: number, counts?: {n?: number}) => {status: number, i: number}}
  */
@@ -831,7 +976,8 @@ export const trvlds = routine("trvlds", ["in real x", "in real y", "in real a", 
 /**
  * Intersection of two lines.
  *
- * status: 0 one point; 1 the same line; 2 parallel and distinct.
+ * status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1 same_line:
+ * the lines are the same; 2 parallel: the lines are parallel and distinct.
  *
  * @type {(a1: number, b1: number, c1: number, a2: number, b2: number, c2: number) => {status:
  *   number, x: number, y: number}}
@@ -842,7 +988,8 @@ export const trvlni = routine("trvlni", ["in real a1", "in real b1", "in real c1
 /**
  * Distance of two parallel lines.
  *
- * status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells.
+ * status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1 same_line:
+ * the lines are the same; 2 parallel: the lines are parallel and distinct, as trvlni finds.
  *
  * @type {(a1: number, b1: number, c1: number, a2: number, b2: number, c2: number) => {d: number,
  *   status: number}}
@@ -853,8 +1000,11 @@ export const trvlul = routine("trvlul", ["in real a1", "in real b1", "in real c1
 /**
  * Which components of two triples differ by more than the tolerance.
  *
- * code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and third; 7 first
- * and third.
+ * code: which components differ by more than the tolerance (TrvComponents): 0 none: no component
+ * is; 1 all: all three components are; 2 first: the first component alone is; 3 second: the second
+ * component alone is; 4 third: the third component alone is; 5 first_second: the first and the
+ * second component are; 6 second_third: the second and the third component are; 7 first_third: the
+ * first and the third component are.
  *
  * @type {(p1: number, p2: number, p3: number, q1: number, q2: number, q3: number) => {code:
  *   number}}
@@ -865,10 +1015,13 @@ export const trvpsn = routine("trvpsn", ["in real p1", "in real p2", "in real p3
 /**
  * Whether a point lies on the line of space through P0 with direction D.
  *
- * code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y; 4 z; 5 x and
- * y; 6 y and z; 7 x and z.
+ * code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
+ * component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
+ * the second component alone is; 4 third: the third component alone is; 5 first_second: the first
+ * and the second component are; 6 second_third: the second and the third component are; 7
+ * first_third: the first and the third component are.
  *
- * on: 1 P lies on the line; 0 it does not, and always when code is 0.
+ * on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is 0.
  *
  * @type {(x0: number, y0: number, z0: number, dx: number, dy: number, dz: number, px: number, py:
  *   number, pz: number, tol: number) => {code: number, on: number}}
@@ -880,10 +1033,14 @@ export const trvln6 = routine("trvln6", ["in real x0", "in real y0", "in real z0
 /**
  * Line of two planes, and whether it agrees with a point at a retained station.
  *
- * code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3 ey; 4 ez; 5 ex
- * and ey; 6 ey and ez; 7 ex and ez.
+ * code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
+ * component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
+ * the second component alone is; 4 third: the third component alone is; 5 first_second: the first
+ * and the second component are; 6 second_third: the second and the third component are; 7
+ * first_third: the first and the third component are.
  *
- * on: 1 P agrees with the line at the station; 0 it does not.
+ * on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the line
+ * at the station.
  *
  * @type {(a1: number, b1: number, c1: number, d1: number, a2: number, b2: number, c2: number, d2:
  *   number, px: number, py: number, pz: number, ez: number, tol: number) => {ex: number, ey:
@@ -921,7 +1078,8 @@ export const trvphi1 = routine("trvphi1", ["in real ux", "in real uy", "in real 
 /**
  * Angle between two lines given by their directions.
  *
- * status: -1 a direction's length is within the tolerance; unwritten otherwise: set it beforehand.
+ * status: outcome: -1 no_length: a direction's length is within the tolerance; unwritten on a
+ * condition: neither direction's length is within the tolerance, so it must be set beforehand.
  *
  * @type {(ux: number, uy: number, uz: number, vx: number, vy: number, vz: number) => {phi: number,
  *   status: number}}
@@ -932,7 +1090,8 @@ export const trvphip = routine("trvphip", ["in real ux", "in real uy", "in real 
 /**
  * Directed angle at P0 from the ray to P1 to the ray to P2.
  *
- * status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt).
+ * status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 or P2
+ * coincides with P0 (trvcnt).
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number) => {chi: number, status: number}}
@@ -944,8 +1103,8 @@ export const trvchi = routine("trvchi", ["in real x0", "in real y0", "in real z0
 /**
  * Convexity of a closed outline, of either orientation.
  *
- * status: 1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a side whose
- * length is within the tolerance.
+ * status: test: 1 convex: the outline is convex; 0 not_convex: the outline is not convex, or winds
+ * more than once; -1 refused: n < 3, or the length of a side is within the tolerance.
  *
  * @type {(X: Numbers, Y: Numbers, counts?: {n?: number}) => {status: number}}
  */
@@ -955,7 +1114,8 @@ export const trvcnv = routine("trvcnv", ["in real X[n]", "in real Y[n]", "in int
 /**
  * Cosine and sine of the angle between P2 - P1 and P4 - P3.
  *
- * status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt).
+ * status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 and P2, or
+ * P3 and P4, coincide (trvcnt).
  *
  * @type {(x1: number, y1: number, z1: number, x2: number, y2: number, z2: number, x3: number, y3:
  *   number, z3: number, x4: number, y4: number, z4: number) => {cphi: number, sphi: number, status:
@@ -968,8 +1128,9 @@ export const trvtrg = routine("trvtrg", ["in real x1", "in real y1", "in real z1
 /**
  * Relation of two directions.
  *
- * code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all components of u, or of
- * v, are within the tolerance.
+ * code: relation: 0 oblique: u and v have neither the same, opposite nor perpendicular directions;
+ * 1 same: the directions are the same; 2 opposite: the directions are opposite; 3 perpendicular:
+ * the directions are perpendicular; 4 zero: all components of u, or of v, are within the tolerance.
  *
  * @type {(ux: number, uy: number, uz: number, vx: number, vy: number, vz: number) => {code:
  *   number}}
@@ -980,9 +1141,11 @@ export const trvdir = routine("trvdir", ["in real ux", "in real uy", "in real uz
 /**
  * Relation of two planes.
  *
- * code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel, normals opposite; 3
- * coincident, normals in the same direction; 4 coincident, normals opposite; 5 perpendicular; 6 a
- * normal is zero.
+ * code: relation: 0 crossing: the planes cross, not at a right angle; 1 parallel_same: the planes
+ * are parallel and distinct, their normals in the same direction; 2 parallel_opposite: the planes
+ * are parallel and distinct, their normals opposite; 3 coincident_same: the planes coincide, their
+ * normals in the same direction; 4 coincident_opposite: the planes coincide, their normals
+ * opposite; 5 perpendicular: the planes are perpendicular; 6 zero_normal: a normal is zero.
  *
  * @type {(a1: number, b1: number, c1: number, d1: number, a2: number, b2: number, c2: number, d2:
  *   number) => {code: number}}
@@ -1150,8 +1313,6 @@ export const trvef2 = routine("trvef2", ["in real bl", "in real w", "in real t",
 /**
  * I section with unequal flanges.
  *
- * np: number of polygons: 1.
- *
  * @type {(H: number, B1: number, B2: number, T1: number, T2: number, TW: number, q: number) => {np:
  *   number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array,
  *   z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1:
@@ -1166,8 +1327,6 @@ export const trvsec_ia = routine("trvsec_ia", ["in real H", "in real B1", "in re
 /**
  * I section lying on its side.
  *
- * np: number of polygons: 1.
- *
  * @type {(H: number, B1: number, B2: number, T1: number, T2: number, TW: number, q: number) => {np:
  *   number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array,
  *   z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1:
@@ -1180,8 +1339,6 @@ export const trvsec_h = routine("trvsec_h", ["in real H", "in real B1", "in real
 
 /**
  * T section, flange at the top.
- *
- * np: number of polygons: 1.
  *
  * @type {(B: number, H: number, TF: number, TW: number, q: number) => {np: number, nv: Int32Array,
  *   X: Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array, z1: Float32Array, z2:
@@ -1196,8 +1353,6 @@ export const trvsec_t = routine("trvsec_t", ["in real B", "in real H", "in real 
 /**
  * Flat bar.
  *
- * np: number of polygons: 1.
- *
  * @type {(B: number, H: number, q: number) => {np: number, nv: Int32Array, X: Float32Array, Y:
  *   Float32Array, code: Int32Array, sign: Float32Array, z1: Float32Array, z2: Float32Array, z3:
  *   Float32Array, z4: Float32Array, z5: Float32Array, q1: Float32Array, q2: Float32Array}}
@@ -1209,8 +1364,6 @@ export const trvsec_b = routine("trvsec_b", ["in int B", "in real H", "in real q
 
 /**
  * I section lying on its side with a cover plate on its flanges' top edges, closing one cell.
- *
- * np: number of polygons: 2.
  *
  * @type {(W: number, D: number, P: number, T1: number, T2: number, TW: number, TP: number, q:
  *   number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array,
@@ -1226,8 +1379,6 @@ export const trvsec_h1b = routine("trvsec_h1b", ["in real W", "in real D", "in r
 /**
  * Box girder with overhanging flanges.
  *
- * np: number of polygons: 2.
- *
  * @type {(BT: number, BB: number, TT: number, TB: number, H: number, TW: number, G: number, q:
  *   number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array,
  *   sign: Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5:
@@ -1242,8 +1393,6 @@ export const trvsec_box = routine("trvsec_box", ["in real BT", "in real BB", "in
 /**
  * Rectangular hollow section with sharp corners.
  *
- * np: number of polygons: 2.
- *
  * @type {(B: number, H: number, T: number, q: number) => {np: number, nv: Int32Array, X:
  *   Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array, z1: Float32Array, z2:
  *   Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1: Float32Array, q2:
@@ -1257,8 +1406,6 @@ export const trvsec_rhs = routine("trvsec_rhs", ["in real B", "in real H", "in r
 /**
  * Two equal angles back to back, horizontal legs at the top.
  *
- * np: number of polygons: 2.
- *
  * @type {(B: number, H: number, G: number, T: number, TV: number, q: number) => {np: number, nv:
  *   Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array, sign: Float32Array, z1:
  *   Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5: Float32Array, q1:
@@ -1271,8 +1418,6 @@ export const trvsec_l2 = routine("trvsec_l2", ["in real B", "in real H", "in rea
 
 /**
  * Top plate on a closed cell of two webs and a bottom plate between them.
- *
- * np: number of polygons: 2.
  *
  * @type {(B: number, H: number, BW: number, E: number, T: number, TW: number, TB: number, q:
  *   number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array,
@@ -1288,8 +1433,6 @@ export const trvsec_tab = routine("trvsec_tab", ["in real B", "in real H", "in r
 /**
  * Two flanges joined by two webs and a middle plate, closing two cells.
  *
- * np: number of polygons: 3.
- *
  * @type {(B: number, W: number, HI: number, TW1: number, TW2: number, TM: number, TF: number, q:
  *   number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array, code: Int32Array,
  *   sign: Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4: Float32Array, z5:
@@ -1304,8 +1447,6 @@ export const trvsec_h2b = routine("trvsec_h2b", ["in real B", "in real W", "in r
 /**
  * I section with unequal flanges, an eccentric web and 45-degree fillets.
  *
- * np: number of polygons: 1.
- *
  * @type {(H: number, B1: number, B2: number, T1: number, T2: number, TW: number, S1: number, S2:
  *   number, E: number, q: number) => {np: number, nv: Int32Array, X: Float32Array, Y: Float32Array,
  *   code: Int32Array, sign: Float32Array, z1: Float32Array, z2: Float32Array, z3: Float32Array, z4:
@@ -1319,8 +1460,6 @@ export const trvsec_i = routine("trvsec_i", ["in real H", "in real B1", "in real
 
 /**
  * Channel open to the right, with lips turned inwards and folds turned back towards the web.
- *
- * np: number of polygons: 1.
  *
  * @type {(H: number, B1: number, B2: number, C1: number, C2: number, D1: number, D2: number, TW:
  *   number, T1: number, T2: number, TC1: number, TC2: number, TD1: number, TD2: number, q: number)
@@ -1354,12 +1493,11 @@ export const trvwar_c = routine("trvwar_c", ["in real B", "in real H", "in real 
 /**
  * Properties of an open section of thin plates.
  *
- * status: -1 refused, nothing else is written: n < 1, a coordinate or a thickness that is infinite
- * or NaN, a length or a thickness not above the tolerance; 0 done; 2 to n this plate is the first
- * at fault, it starts at no end of an earlier one, or ends at one and closes a cell: what is listed
- * up to xp,yp is written, the rest is not; n+2 to 2*n plate status - n is the first at fault, it
- * crosses, touches or overlaps an earlier one elsewhere than at its start, which may close a cell:
- * what is listed up to xp,yp is written, the rest is not.
+ * status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a coordinate or
+ * a thickness is infinite or NaN, or a length or a thickness is not above the tolerance; 2 to n:
+ * this plate is the first at fault, it starts at no end of an earlier plate, or ends at one and
+ * closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses, touches or
+ * overlaps an earlier plate elsewhere than at its start, which may close a cell.
  *
  * @type {(X1: Numbers, Y1: Numbers, X2: Numbers, Y2: Numbers, T: Numbers, counts?: {n?: number}) =>
  *   {A: number, xs: number, ys: number, Ix: number, Iy: number, Ixy: number, I1: number, I2:
@@ -1378,8 +1516,8 @@ export const trvmxt = routine("trvmxt", ["in int n = X1 Y1 X2 Y2 T", "in real X1
 /**
  * Properties of a flat bar, centred on the origin.
  *
- * status: -1 refused, nothing else is written: a side that is infinite, NaN or not above the
- * tolerance; 0 done.
+ * status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: a side is infinite,
+ * NaN or not above the tolerance.
  *
  * @type {(B: number, H: number) => {A: number, xs: number, ys: number, Ix: number, Iy: number, Ixy:
  *   number, I1: number, I2: number, alpha: number, rx: number, ry: number, Wx1: number, Wx2:
@@ -1435,8 +1573,9 @@ export const trvrotz = routine("trvrotz", ["in int mode", "inout real x[n]", "in
 /**
  * Three-point test: whether P0, P1 and P2 span a plane.
  *
- * status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on
- * their line; 5 P2 is beyond P1.
+ * status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
+ * is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0
+ * on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and P1.
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number) => {status: number}}
@@ -1466,7 +1605,8 @@ export const trvtrn = routine("trvtrn", ["inout real p[3]", "in real a1", "in re
 /**
  * Frame of the plane through three points.
  *
- * status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).
+ * status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1, or
+ * the three points are on one line (trvpsl).
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number) => {e1x: number, e1y: number, e1z: number, e2x: number, e2y: number, e2z:
@@ -1480,7 +1620,8 @@ export const trvaxe = routine("trvaxe", ["in real x0", "in real y0", "in real z0
 /**
  * Frame of an axis from P0 to P1.
  *
- * status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance.
+ * status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0 and
+ * P1 is within the tolerance.
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, angle: number) =>
  *   {e1x: number, e1y: number, e1z: number, e2x: number, e2y: number, e2z: number, e3x: number,
@@ -1505,7 +1646,8 @@ export const trvptr = routine("trvptr", ["inout real X[n]", "inout real Y[n]", "
 /**
  * Shifts points and turns them in the frame of three points, in place.
  *
- * status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).
+ * status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1, or
+ * the three points are on one line (trvpsl).
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, X: Numbers, Y: Numbers, Z: Numbers, dx: number, dy: number, dz: number, ax:
@@ -1520,7 +1662,8 @@ export const trvptrl = routine("trvptrl", ["in real x0", "in real y0", "in real 
 /**
  * Turns points about the axis from P0 through P1, in place.
  *
- * status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance.
+ * status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0 and
+ * P1 is within the tolerance.
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, X: Numbers, Y:
  *   Numbers, Z: Numbers, angle: number, counts?: {n?: number}) => {X: Float32Array, Y:
@@ -1534,8 +1677,8 @@ export const trvpra = routine("trvpra", ["in real x0", "in real y0", "in real z0
  * Turns points of a plane in the frame of the three points that span it, then shifts them, in
  * place.
  *
- * status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1 to n position of
- * the first point off the plane.
+ * status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three
+ * points are on one line (trvpsl); 1 to n: position of the first point off the plane.
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, dx: number, dy: number, dz: number, ax: number, ay: number, az: number, X:
@@ -1560,8 +1703,9 @@ export const trvplg = routine("trvplg", ["in real x", "in real y", "in real z", 
 /**
  * Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
  *
- * status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on
- * their line; 5 P2 is beyond P1.
+ * status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
+ * is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0
+ * on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and P1.
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number) => {a: number, b: number, c: number, d: number, status: number}}
@@ -1573,8 +1717,9 @@ export const trvpl1 = routine("trvpl1", ["in real x0", "in real y0", "in real z0
 /**
  * Plane through a point, parallel to two lines.
  *
- * status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
- * of opposite sense; 7 A and B, or C and D, coincide (trvcnt).
+ * status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
+ * same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 7
+ * no_length: A and B, or C and D, coincide (trvcnt).
  *
  * @type {(x: number, y: number, z: number, xa: number, ya: number, za: number, xb: number, yb:
  *   number, zb: number, xc: number, yc: number, zc: number, xd: number, yd: number, zd: number) =>
@@ -1588,8 +1733,9 @@ export const trvpl2 = routine("trvpl2", ["in real x", "in real y", "in real z", 
 /**
  * Plane that contains one line and is parallel to another: trvpl2 through A.
  *
- * status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
- * of opposite sense; 7 A and B, or C and D, coincide (trvcnt).
+ * status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
+ * same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 7
+ * no_length: A and B, or C and D, coincide (trvcnt).
  *
  * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xc: number, yc:
  *   number, zc: number, xd: number, yd: number, zd: number) => {a: number, b: number, c: number, d:
@@ -1602,7 +1748,8 @@ export const trvpl3 = routine("trvpl3", ["in real xa", "in real ya", "in real za
 /**
  * Plane through a point, perpendicular to a segment.
  *
- * status: 0 done; 1 A and B coincide, each coordinate within the tolerance (trvcnt).
+ * status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
+ * coincide, each coordinate within the tolerance (trvcnt).
  *
  * @type {(x: number, y: number, z: number, xa: number, ya: number, za: number, xb: number, yb:
  *   number, zb: number) => {a: number, b: number, c: number, d: number, status: number}}
@@ -1614,7 +1761,8 @@ export const trvpl4 = routine("trvpl4", ["in real x", "in real y", "in real z", 
 /**
  * Plane with given intercepts on the axes.
  *
- * status: 0 done; 1 an intercept is within the tolerance or NaN.
+ * status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the tolerance
+ * or NaN.
  *
  * @type {(ix: number, iy: number, iz: number) => {a: number, b: number, c: number, d: number,
  *   status: number}}
@@ -1625,8 +1773,9 @@ export const trvpl5 = routine("trvpl5", ["in real ix", "in real iy", "in real iz
 /**
  * Plane of two lines, each given by a point and a direction.
  *
- * status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
- * of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each component.
+ * status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
+ * same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
+ * skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
  *
  * @type {(xa: number, ya: number, za: number, ux: number, uy: number, uz: number, xc: number, yc:
  *   number, zc: number, wx: number, wy: number, wz: number) => {a: number, b: number, c: number, d:
@@ -1639,8 +1788,10 @@ export const trvpl6 = routine("trvpl6", ["in real xa", "in real ya", "in real za
 /**
  * Plane of three points turned about the line from P0 to P1.
  *
- * status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is at P1; 3 P2 is
- * between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond P1.
+ * status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
+ * is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2 is between
+ * P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on
+ * the line of P0 and P1.
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, angle: number) => {a: number, b: number, c: number, d: number, status:
@@ -1653,8 +1804,8 @@ export const trvpl7 = routine("trvpl7", ["in real x0", "in real y0", "in real z0
 /**
  * Whether a point lies on the plane of three points.
  *
- * status: 0 it does, and any point does where P0 = P1; -1 it does not, or the three points span no
- * plane (trvpsl).
+ * status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1; -1
+ * no: the point does not lie on the plane, or the three points span no plane (trvpsl).
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, x: number, y: number, z: number, tol: number) => {status: number}}
@@ -1675,7 +1826,8 @@ export const trvpld = routine("trvpld", ["in real x", "in real y", "in real z", 
 /**
  * Whether a point lies on a plane.
  *
- * status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is exactly zero.
+ * status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point does not lie on
+ * the plane, or the distance is NaN; 1 zero_normal: the normal of the plane is exactly zero.
  *
  * @type {(x: number, y: number, z: number, a: number, b: number, c: number, d: number, tol: number)
  *   => {status: number}}
@@ -1686,8 +1838,10 @@ export const trvpspg = routine("trvpspg", ["in real x", "in real y", "in real z"
 /**
  * Relation of two directions, taken as lines through the origin.
  *
- * status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5 perpendicular; 7 u
- * or w is within the tolerance in each component.
+ * status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
+ * opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the
+ * directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is
+ * within the tolerance in each component.
  *
  * @type {(ux: number, uy: number, uz: number, wx: number, wy: number, wz: number, v7: number, v8:
  *   number) => {status: number}}
@@ -1708,10 +1862,12 @@ export const trvpnp = routine("trvpnp", ["in real X[n]", "in real Y[n]", "in rea
 /**
  * Relation of two lines.
  *
- * status: 0 they cross, not at a right angle; 1 parallel and distinct, of the same sense; 2
- * parallel and distinct, of opposite sense; 3 the same line, of the same sense; 4 the same line, of
- * opposite sense; 5 they cross at a right angle; 6 skew; 7 A and B, or C and D, coincide, each
- * coordinate within the tolerance.
+ * status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle; 1 parallel_same:
+ * parallel and distinct lines of the same direction; 2 parallel_opposite: parallel and distinct
+ * lines of opposite direction; 3 same_line: the same line, of the same direction; 4 opposite_line:
+ * the same line, of opposite direction; 5 perpendicular: the lines cross at a right angle; 6 skew:
+ * the lines are skew; 7 coincident: A and B, or C and D, coincide, each coordinate within the
+ * tolerance.
  *
  * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xc: number, yc:
  *   number, zc: number, xd: number, yd: number, zd: number) => {status: number}}
@@ -1723,8 +1879,8 @@ export const trvdirl = routine("trvdirl", ["in real xa", "in real ya", "in real 
 /**
  * Whether three segments span space.
  *
- * status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above the tolerance, in
- * the cube of the length unit.
+ * status: test: 0 flat: the triple product of B - A, D - C and F - E is within the tolerance; 1
+ * spanning: the triple product is above the tolerance, in the cube of the length unit.
  *
  * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xc: number, yc:
  *   number, zc: number, xd: number, yd: number, zd: number, xe: number, ye: number, ze: number, xf:
@@ -1738,7 +1894,7 @@ export const trv3sp = routine("trv3sp", ["in real xa", "in real ya", "in real za
 /**
  * Distance of a point from a line.
  *
- * status: 0 always.
+ * status: outcome (TrvStatus): 0 done: always.
  *
  * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xq: number, yq:
  *   number, zq: number) => {status: number, dist: number}}
@@ -1750,7 +1906,7 @@ export const trv3ldb = routine("trv3ldb", ["in real xa", "in real ya", "in real 
 /**
  * Signed distance of a point from a line, in the plane of both.
  *
- * status: 0 always.
+ * status: outcome (TrvStatus): 0 done: always.
  *
  * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, xq: number, yq:
  *   number, zq: number) => {status: number, dist: number}}
@@ -1762,23 +1918,26 @@ export const trv3lda = routine("trv3lda", ["in real xa", "in real ya", "in real 
 /**
  * Intersection of the lines A + t*u and C + s*w.
  *
- * status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4 the same,
- * of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each component.
+ * status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
+ * same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
+ * skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
  *
  * @type {(xa: number, ya: number, za: number, ux: number, uy: number, uz: number, xc: number, yc:
- *   number, zc: number, wx: number, wy: number, wz: number) => {xa: number, ya: number, za: number,
- *   xc: number, yc: number, zc: number, status: number, xi: number, yi: number, zi: number}}
+ *   number, zc: number, wx: number, wy: number, wz: number, xi: number, yi: number) => {xa: number,
+ *   ya: number, za: number, xc: number, yc: number, zc: number, status: number, xi: number, yi:
+ *   number, zi: number}}
  */
 export const trv3lni = routine("trv3lni", ["inout real xa", "inout real ya", "inout real za",
   "in real ux", "in real uy", "in real uz", "inout real xc", "inout real yc", "inout real zc",
-  "in real wx", "in real wy", "in real wz", "out int status", "out real xi", "out real yi",
+  "in real wx", "in real wy", "in real wz", "out int status", "inout real xi", "inout real yi",
   "out real zi"]);
 
 /**
  * Intersection of the line P + t*u with a plane.
  *
- * status: 0 done; 3 the line is parallel to the plane: the cosine of u and the normal is within the
- * tolerance; 4 u or the normal is within the tolerance in each component.
+ * status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the plane,
+ * the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within the
+ * tolerance in each component.
  *
  * @type {(x: number, y: number, z: number, ux: number, uy: number, uz: number, a: number, b:
  *   number, c: number, d: number) => {xi: number, yi: number, zi: number, status: number}}
@@ -1790,9 +1949,11 @@ export const trvpli = routine("trvpli", ["in real x", "in real y", "in real z", 
 /**
  * Position of a plane against the axes.
  *
- * position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4 parallel to the z
- * axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to the y axis; 8 the plane z = 0;
- * 9 the plane x = 0; 10 the plane y = 0.
+ * position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
+ * parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the
+ * plane is parallel to the z axis; 5 normal_z: the plane is normal to the z axis; 6 normal_x: the
+ * plane is normal to the x axis; 7 normal_y: the plane is normal to the y axis; 8 at_z_zero: the
+ * plane is z = 0; 9 at_x_zero: the plane is x = 0; 10 at_y_zero: the plane is y = 0.
  *
  * @type {(a: number, b: number, c: number, d: number) => {position: number}}
  */
@@ -1802,7 +1963,7 @@ export const trvplp = routine("trvplp", ["in real a", "in real b", "in real c", 
 /**
  * Points of a list near a line.
  *
- * status: 0 always; unwritten when n < 1.
+ * status: outcome (TrvStatus): 0 done: always; unwritten if n < 1.
  *
  * @type {(xa: number, ya: number, za: number, xb: number, yb: number, zb: number, X: Numbers, Y:
  *   Numbers, zf: (position: number) => number, tol: number, counts?: {n?: number}) => {status:
@@ -1815,9 +1976,11 @@ export const trvpnl = routine("trvpnl", ["in real xa", "in real ya", "in real za
 /**
  * Carries a point along when the line through it is moved.
  *
- * status: 0 not moved: the three points are not collinear, or Q1 is at P; 3 moved, Q1 and Q2 on one
- * side of P; 4 moved, on either side of P; 6 moved, rounding takes the three for skew lines; 7
- * moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance.
+ * status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
+ * moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved, Q1
+ * and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points for
+ * skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its
+ * distance.
  *
  * @type {(xp: number, yp: number, zp: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, dxp: number, dyp: number, dzp: number, dx1: number, dy1: number, dz1:

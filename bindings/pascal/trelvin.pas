@@ -1,4 +1,4 @@
-// Generated from include/trelvin by tools/bindings.py.
+// Generated from include/trelvin by tools/generate.py.
 //
 // Every routine of Trelvin for Free Pascal and Delphi. Every argument goes by its address, an array
 // by an element: X[0], or wherever it starts; a plain `const` would pass the value of a Single.
@@ -22,10 +22,192 @@ const
   TrelvinLibrary = 'libtrelvin.so';
   {$IFEND}
 
+
+  // Whether a computation was done.
+  trv_status_done = 0;
+  trv_status_refused = -1;
+
+  // Whether a point of an arc was found; note that 1 means done here.
+  trv_arc_done = 1;
+  trv_arc_refused = 0;
+
+  // Whether a frame was found.
+  trv_frame_done = 0;
+  trv_frame_no_frame = -2;
+
+  // Whether two points coincide: each difference of their coordinates is within the tolerance.
+  trv_coincidence_distinct = 0;
+  trv_coincidence_coincident = 1;
+
+  // How many points were found.
+  trv_points_none = 0;
+  trv_points_one = 1;
+  trv_points_two = 2;
+
+  // Which of three components are above the tolerance.
+  trv_components_none = 0;
+  trv_components_all = 1;
+  trv_components_first = 2;
+  trv_components_second = 3;
+  trv_components_third = 4;
+  trv_components_first_second = 5;
+  trv_components_second_third = 6;
+  trv_components_first_third = 7;
+
+  // Whether a point lies on a line of space.
+  trv_on_line_no = 0;
+  trv_on_line_yes = 1;
+
+  // Whether a point lies on a plane; note that 0 means yes.
+  trv_on_plane_yes = 0;
+  trv_on_plane_no = -1;
+  trv_on_plane_zero_normal = 1;
+
+  // How two lines of the plane lie to each other.
+  trv_plane_lines_one_point = 0;
+  trv_plane_lines_same_line = 1;
+  trv_plane_lines_parallel = 2;
+
+  // Three-point test (trvpsl): where P2 is, seen from P0 and P1.
+  trv_three_points_spans_plane = 0;
+  trv_three_points_at_p0 = 1;
+  trv_three_points_at_p1 = 2;
+  trv_three_points_between = 3;
+  trv_three_points_beyond_p0 = 4;
+  trv_three_points_beyond_p1 = 5;
+
+  // How two lines of space lie to each other (trvdirl).
+  trv_lines_crossing = 0;
+  trv_lines_parallel_same = 1;
+  trv_lines_parallel_opposite = 2;
+  trv_lines_same_line = 3;
+  trv_lines_opposite_line = 4;
+  trv_lines_perpendicular = 5;
+  trv_lines_skew = 6;
+  trv_lines_coincident = 7;
+
+  // What came of two lines of space: a result, or the relation that allows none.
+  trv_two_lines_done = 0;
+  trv_two_lines_same_line = 3;
+  trv_two_lines_opposite_line = 4;
+  trv_two_lines_skew = 6;
+  trv_two_lines_no_length = 7;
+
+  // Kind of a part of a section.
+  trv_part_concentrated = 1;
+  trv_part_polygon = 2;
+  trv_part_circle = 3;
+  trv_part_smaller_segment = 4;
+  trv_part_larger_segment = 5;
+
+  // trvcin: class.
   trvcin_uncut_above = 1;
   trvcin_uncut_below = 2;
   trvcin_cut_below = 3;
   trvcin_cut_above = 4;
+
+  // trvapp: where each point is.
+  trvapp_inside = 1;
+  trvapp_outside = 2;
+  trvapp_no_sector = -1;
+
+  // trvcer10: outcome.
+  trvcer10_crossing_or_refused = 0;
+  trvcer10_along_chord = 1;
+  trvcer10_parallel = 2;
+
+  // trvptp1: which points of A have a partner in B.
+  trvptp1_no_pair = 0;
+  trvptp1_some_pairs = 1;
+  trvptp1_all_paired = 2;
+
+  // trvpin: where P1 is.
+  trvpin_inside = 1;
+  trvpin_outside = 0;
+  trvpin_refused = -1;
+
+  // trvcnt1: test.
+  trvcnt1_zero = 1;
+  trvcnt1_nonzero = 0;
+
+  // trvvin: sign.
+  trvvin_positive = 1;
+  trvvin_not_positive = 2;
+
+  // trvpos1: what was found.
+  trvpos1_at_entry = 1;
+  trvpos1_between = 2;
+  trvpos1_neither = 0;
+
+  // trvphip: outcome.
+  trvphip_no_length = -1;
+
+  // trvcnv: test.
+  trvcnv_convex = 1;
+  trvcnv_not_convex = 0;
+  trvcnv_refused = -1;
+
+  // trvdir: relation.
+  trvdir_oblique = 0;
+  trvdir_same = 1;
+  trvdir_opposite = 2;
+  trvdir_perpendicular = 3;
+  trvdir_zero = 4;
+
+  // trvdirp: relation.
+  trvdirp_crossing = 0;
+  trvdirp_parallel_same = 1;
+  trvdirp_parallel_opposite = 2;
+  trvdirp_coincident_same = 3;
+  trvdirp_coincident_opposite = 4;
+  trvdirp_perpendicular = 5;
+  trvdirp_zero_normal = 6;
+
+  // trvppc: outcome.
+  trvppc_done = 0;
+  trvppc_no_frame = -1;
+
+  // trvpl5: outcome.
+  trvpl5_done = 0;
+  trvpl5_no_plane = 1;
+
+  // trvplv: relation.
+  trvplv_zero_u = -1;
+  trvplv_oblique = 0;
+  trvplv_same = 3;
+  trvplv_opposite = 4;
+  trvplv_perpendicular = 5;
+  trvplv_zero = 7;
+
+  // trv3sp: test.
+  trv3sp_flat = 0;
+  trv3sp_spanning = 1;
+
+  // trvpli: outcome.
+  trvpli_done = 0;
+  trvpli_parallel = 3;
+  trvpli_zero = 4;
+
+  // trvplp: position.
+  trvplp_general = 1;
+  trvplp_parallel_x = 2;
+  trvplp_parallel_y = 3;
+  trvplp_parallel_z = 4;
+  trvplp_normal_z = 5;
+  trvplp_normal_x = 6;
+  trvplp_normal_y = 7;
+  trvplp_at_z_zero = 8;
+  trvplp_at_x_zero = 9;
+  trvplp_at_y_zero = 10;
+
+  // trvlpc: outcome.
+  trvlpc_not_moved = 0;
+  trvlpc_moved_one_side = 3;
+  trvlpc_moved_either_side = 4;
+  trvlpc_moved_skew = 6;
+  trvlpc_moved_at_p = 7;
+
+  // Names of version 1.1, which the next version drops.
   trvcer3_done = 1;
   trvcer3_refused = 0;
   trvcer8_done = 1;
@@ -38,9 +220,6 @@ const
   trvarc1_refused = 0;
   trvcer4_done = 1;
   trvcer4_refused = 0;
-  trvcer10_refused = 0;
-  trvcer10_along_chord = 1;
-  trvcer10_parallel = 2;
   trvcer5_done = 1;
   trvcer5_refused = 0;
   trvcer7_done = 1;
@@ -49,23 +228,16 @@ const
   trvard_refused = 0;
   trvpor_ordered = 0;
   trvpor_refused = -1;
-  trvptp1_no_pair = 0;
-  trvptp1_some_pairs = 1;
-  trvptp1_all_paired = 2;
-  trvpin_inside = 1;
-  trvpin_outside = 0;
-  trvpin_refused = -1;
   trvcnt_coincident = 1;
   trvcnt_distinct = 0;
-  trvcnt1_zero = 1;
-  trvcnt1_nonzero = 0;
   trv123_done = 0;
   trv123_coincident = 1;
-  trvvin_positive = 1;
-  trvvin_not_positive = 2;
-  trvpos1_at_entry = 1;
-  trvpos1_between = 2;
-  trvpos1_neither = 0;
+  trvchi_done = 0;
+  trvchi_coincident = 1;
+  trvtrg_done = 0;
+  trvtrg_coincident = 1;
+  trvpl4_done = 0;
+  trvpl4_coincident = 1;
   trvlni_one_point = 0;
   trvlni_same_line = 1;
   trvlni_parallel = 2;
@@ -88,8 +260,6 @@ const
   trvln6_first_second = 5;
   trvln6_second_third = 6;
   trvln6_first_third = 7;
-  trvln6_on_line = 1;
-  trvln6_off_line = 0;
   trvln7_none = 0;
   trvln7_all = 1;
   trvln7_first = 2;
@@ -98,28 +268,10 @@ const
   trvln7_first_second = 5;
   trvln7_second_third = 6;
   trvln7_first_third = 7;
+  trvln6_on_line = 1;
+  trvln6_off_line = 0;
   trvln7_on_line = 1;
   trvln7_off_line = 0;
-  trvphip_no_length = -1;
-  trvchi_done = 0;
-  trvchi_coincident = 1;
-  trvcnv_convex = 1;
-  trvcnv_not_convex = 0;
-  trvcnv_refused = -1;
-  trvtrg_done = 0;
-  trvtrg_coincident = 1;
-  trvdir_oblique = 0;
-  trvdir_same = 1;
-  trvdir_opposite = 2;
-  trvdir_perpendicular = 3;
-  trvdir_zero = 4;
-  trvdirp_crossing = 0;
-  trvdirp_parallel_same = 1;
-  trvdirp_parallel_opposite = 2;
-  trvdirp_coincident_same = 3;
-  trvdirp_coincident_opposite = 4;
-  trvdirp_perpendicular = 5;
-  trvdirp_zero_normal = 6;
   trvmxt_done = 0;
   trvmxt_refused = -1;
   trvmxt_fb_done = 0;
@@ -130,6 +282,18 @@ const
   trvpsl_between = 3;
   trvpsl_beyond_p0 = 4;
   trvpsl_beyond_p1 = 5;
+  trvpl1_done = 0;
+  trvpl1_at_p0 = 1;
+  trvpl1_at_p1 = 2;
+  trvpl1_between = 3;
+  trvpl1_beyond_p0 = 4;
+  trvpl1_beyond_p1 = 5;
+  trvpl7_done = 0;
+  trvpl7_at_p0 = 1;
+  trvpl7_at_p1 = 2;
+  trvpl7_between = 3;
+  trvpl7_beyond_p0 = 4;
+  trvpl7_beyond_p1 = 5;
   trvaxe_done = 0;
   trvaxe_no_frame = -2;
   trvaxel_done = 0;
@@ -138,14 +302,6 @@ const
   trvptrl_no_frame = -2;
   trvpra_done = 0;
   trvpra_no_frame = -2;
-  trvppc_done = 0;
-  trvppc_no_frame = -1;
-  trvpl1_done = 0;
-  trvpl1_at_p0 = 1;
-  trvpl1_at_p1 = 2;
-  trvpl1_between = 3;
-  trvpl1_beyond_p0 = 4;
-  trvpl1_beyond_p1 = 5;
   trvpl2_done = 0;
   trvpl2_same_line = 3;
   trvpl2_opposite_line = 4;
@@ -154,32 +310,21 @@ const
   trvpl3_same_line = 3;
   trvpl3_opposite_line = 4;
   trvpl3_coincident = 7;
-  trvpl4_done = 0;
-  trvpl4_coincident = 1;
-  trvpl5_done = 0;
-  trvpl5_no_plane = 1;
   trvpl6_done = 0;
   trvpl6_same_line = 3;
   trvpl6_opposite_line = 4;
   trvpl6_skew = 6;
   trvpl6_zero = 7;
-  trvpl7_done = 0;
-  trvpl7_at_p0 = 1;
-  trvpl7_at_p1 = 2;
-  trvpl7_between = 3;
-  trvpl7_beyond_p0 = 4;
-  trvpl7_beyond_p1 = 5;
+  trv3lni_done = 0;
+  trv3lni_same_line = 3;
+  trv3lni_opposite_line = 4;
+  trv3lni_skew = 6;
+  trv3lni_zero = 7;
   trvpsp_on_plane = 0;
   trvpsp_off_plane = -1;
   trvpspg_on_plane = 0;
   trvpspg_off_plane = -1;
   trvpspg_zero_normal = 1;
-  trvplv_zero_u = -1;
-  trvplv_oblique = 0;
-  trvplv_same = 3;
-  trvplv_opposite = 4;
-  trvplv_perpendicular = 5;
-  trvplv_zero = 7;
   trvdirl_crossing = 0;
   trvdirl_parallel_same = 1;
   trvdirl_parallel_opposite = 2;
@@ -188,34 +333,9 @@ const
   trvdirl_perpendicular = 5;
   trvdirl_skew = 6;
   trvdirl_coincident = 7;
-  trv3sp_flat = 0;
-  trv3sp_spanning = 1;
   trv3ldb_done = 0;
   trv3lda_done = 0;
-  trv3lni_done = 0;
-  trv3lni_same_line = 3;
-  trv3lni_opposite_line = 4;
-  trv3lni_skew = 6;
-  trv3lni_zero = 7;
-  trvpli_done = 0;
-  trvpli_parallel = 3;
-  trvpli_zero = 4;
-  trvplp_general = 1;
-  trvplp_parallel_x = 2;
-  trvplp_parallel_y = 3;
-  trvplp_parallel_z = 4;
-  trvplp_normal_z = 5;
-  trvplp_normal_x = 6;
-  trvplp_normal_y = 7;
-  trvplp_at_z_zero = 8;
-  trvplp_at_x_zero = 9;
-  trvplp_at_y_zero = 10;
   trvpnl_done = 0;
-  trvlpc_not_moved = 0;
-  trvlpc_moved_one_side = 3;
-  trvlpc_moved_either_side = 4;
-  trvlpc_moved_skew = 6;
-  trvlpc_moved_at_p = 7;
 
 type
   TTrvReals = Single; // the first element of an array
@@ -234,8 +354,8 @@ procedure trvcer(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer';
 
 /// <summary>Intersection of a line and a circle.</summary>
-/// <remarks>n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts
-/// it.</remarks>
+/// <remarks>n: number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the line
+/// touches the circle; 2 two: the line cuts the circle.</remarks>
 procedure trvlci(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a, b, c, D, E, F: Single;
   out n: LongInt;
@@ -244,8 +364,9 @@ procedure trvlci(
 
 /// <summary>Intersection of two circles: that of their radical line with the first circle
 /// (trvlci).</summary>
-/// <remarks>n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the
-/// tolerance; 1 the circles touch; 2 they cut each other.</remarks>
+/// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or are
+/// concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the
+/// circles cut each other.</remarks>
 procedure trvc12(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} D1, E1, F1, D2, E2, F2: Single;
   out n: LongInt;
@@ -253,9 +374,9 @@ procedure trvc12(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvc12';
 
 /// <summary>Centres of the circles of a radius through two points.</summary>
-/// <remarks>n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord,
-/// the discriminant is NaN, or the chord is horizontal; 1 both candidates are the same point; 2
-/// two.</remarks>
+/// <remarks>n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or less
+/// than half the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both candidates
+/// are the same point; 2 two: there are two points.</remarks>
 procedure trvcer2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x1, y1, x2, y2: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -265,9 +386,9 @@ procedure trvcer2(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer2';
 
 /// <summary>Circle through two points with a given sagitta.</summary>
-/// <remarks>n: number of centres (trvcer2): 0 h &lt; 1e-5, P1 = P2 exactly, r is at most 1e-5 or
-/// less than half the chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates
-/// are the same point; 2 two.</remarks>
+/// <remarks>n: number of centres of trvcer2 (TrvPoints): 0 none: h &lt; 1e-5, P1 = P2 exactly, r is
+/// at most 1e-5 or less than half the chord, the discriminant is NaN, or the chord is horizontal; 1
+/// one: both candidates are the same point; 2 two: there are two points.</remarks>
 procedure trvcer1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x1, y1, x2, y2: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -277,8 +398,10 @@ procedure trvcer1(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer1';
 
 /// <summary>Classifies a circle cut by a line, with a trace.</summary>
-/// <remarks>position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3 cut,
-/// centre below it; 4 cut, centre on or above it.</remarks>
+/// <remarks>position: class: 1 uncut_above: the circle is not cut, its centre is above the x axis;
+/// 2 uncut_below: the circle is not cut, its centre is on or below the x axis; 3 cut_below: the
+/// circle is cut, its centre is below the x axis; 4 cut_above: the circle is cut, its centre is on
+/// or above the x axis.</remarks>
 procedure trvcin(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X, Y: TTrvReals;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a, b, c: Single;
@@ -287,8 +410,8 @@ procedure trvcin(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcin';
 
 /// <summary>Turns a point about a centre.</summary>
-/// <remarks>status: 1 done; 0 the point's distance from the centre is within the
-/// tolerance.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's
+/// distance from the centre is within the tolerance.</remarks>
 procedure trvcer3(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0: Single;
   var x, y: Single;
@@ -298,8 +421,9 @@ procedure trvcer3(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer3';
 
 /// <summary>Point of an arc above a station of its chord, perpendicular to the chord.</summary>
-/// <remarks>status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ
-/// by more, or the station is not farther than that from both ends.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
+/// the chord is at most 0.001, the radii of A and B differ by more, or the station is not farther
+/// than that from both ends.</remarks>
 procedure trvcer8(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -309,9 +433,9 @@ procedure trvcer8(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer8';
 
 /// <summary>Point of an arc on the line from its centre through a station of its chord.</summary>
-/// <remarks>status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ
-/// by more, the station is not farther than that from both ends, or d is closer than that to the
-/// diameter.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
+/// the chord is at most 0.001, the radii of A and B differ by more, the station is not farther than
+/// that from both ends, or d is closer than that to the diameter.</remarks>
 procedure trvcer6(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -322,9 +446,9 @@ procedure trvcer6(
 
 /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to the
 /// chord.</summary>
-/// <remarks>status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is
-/// at most 0.001, the radii of A and B differ by more, or the strip comes closer than that to an
-/// end of the chord.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the
+/// chord, d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ
+/// by more, or the strip comes closer than that to an end of the chord.</remarks>
 procedure trvcer9(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -334,8 +458,8 @@ procedure trvcer9(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer9';
 
 /// <summary>Lengths of the two arcs between two points of a circle.</summary>
-/// <remarks>status: 1 done; 0 the radius, or the distance of A and B, is within the
-/// tolerance.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, or
+/// the distance of A and B, is within the tolerance.</remarks>
 procedure trvarc1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   var s1, s2: Single;
@@ -356,6 +480,9 @@ procedure trvhin(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvhin';
 
 /// <summary>Marks points by a sector.</summary>
+/// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the
+/// point is outside the sector; -1 no_sector: the rays' angle is within the tolerance, which holds
+/// for all points alike.</remarks>
 procedure trvapp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, x1, y1, x2, y2: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
@@ -364,8 +491,9 @@ procedure trvapp(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvapp';
 
 /// <summary>Point of an arc on a line through a station of its chord.</summary>
-/// <remarks>status: 1 done; 0 the radius or the chord is within the tolerance, the radii of A and B
-/// differ by more, A and B coincide, or the line touches the circle.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
+/// the chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the
+/// line touches the circle.</remarks>
 procedure trvcer4(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s, angle: Single;
@@ -374,10 +502,11 @@ procedure trvcer4(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer4';
 
 /// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
-/// <remarks>status: 0 refused: the radius or the chord is within the tolerance, or the radii of A
-/// and B differ by more, but also a crossing, and a retained one that is on the chord's line but
-/// not at A or B (trvpsl above 2); 1 the line runs along the chord; 2 it is parallel to
-/// it.</remarks>
+/// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal
+/// result, or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl
+/// above 2), or the input is rejected, since the radius or the chord is within the tolerance or the
+/// radii of A and B differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the
+/// line is parallel to the chord.</remarks>
 procedure trvcer10(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} turn, angle: Single;
@@ -386,8 +515,9 @@ procedure trvcer10(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer10';
 
 /// <summary>Point of an arc on the line from a station of its chord towards the sagitta.</summary>
-/// <remarks>status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is at
-/// most 1e-5, or the radii of A and B differ by more, or the line touches the circle.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative,
+/// or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ
+/// by more, or the line touches the circle.</remarks>
 procedure trvcer5(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s: Single;
@@ -399,9 +529,10 @@ procedure trvcer5(
 
 /// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
 /// parallel to the chord.</summary>
-/// <remarks>status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest beyond s
-/// is at most 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is
-/// parallel to the chord, or it cuts less than twice 1e-4 off the circle.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is
+/// negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ
+/// by more and the rounding, side is 0, the line is parallel to the chord, or the part of the line
+/// inside the circle is not longer than 2e-4.</remarks>
 procedure trvcer7(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s: Single;
@@ -412,9 +543,9 @@ procedure trvcer7(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer7';
 
 /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-/// <remarks>status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine of the
-/// angle between the segments is within it, or the arc touches one beyond its end by
-/// more.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment
+/// is not above the tolerance, the sine of the angle between the segments is within it, or the arc
+/// touches one beyond its end by more.</remarks>
 procedure trvard(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, x1, y1, x2, y2, r: Single;
   var xc, yc, xt1, yt1, xt2, yt2: Single;
@@ -449,8 +580,8 @@ procedure trvordi(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvordi';
 
 /// <summary>Order of parallel lines by where they cross an axis.</summary>
-/// <remarks>status: 0 ordered; -1 not a family of parallel and distinct lines, or n &lt;
-/// 1.</remarks>
+/// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not
+/// a family of parallel and distinct lines, or n &lt; 1.</remarks>
 procedure trvpor(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A, B, C: TTrvReals;
@@ -566,8 +697,8 @@ procedure trvmer16(
 
 /// <summary>All pairs of points of two lists that agree within a tolerance in each
 /// coordinate.</summary>
-/// <remarks>status: 0 no pair; 1 some points of A have a partner; 2 every point of A has
-/// one.</remarks>
+/// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some
+/// have; 2 all_paired: every one has.</remarks>
 procedure trvptp1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} XA, YA, ZA: TTrvReals;
@@ -614,9 +745,9 @@ procedure trvppp(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvppp';
 
 /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
-/// <remarks>status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n &lt; 3, or P1
-/// and P2 coincide within the tolerance in both coordinates. P1 on the outline counts as the point
-/// just to its right, or just above where that is on the outline too.</remarks>
+/// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
+/// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and P2
+/// coincide within the tolerance in both coordinates.</remarks>
 procedure trvpin(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X, Y: TTrvReals;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
@@ -650,7 +781,8 @@ procedure trvpre(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpre';
 
 /// <summary>Difference vector of two points, and whether they coincide.</summary>
-/// <remarks>status: 1 each difference is within the tolerance; 0 otherwise.</remarks>
+/// <remarks>status: coincidence (TrvCoincidence): 1 coincident: each difference is within the
+/// tolerance; 0 distinct: a difference is above the tolerance or NaN.</remarks>
 procedure trvcnt(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x1, y1, z1, x2, y2, z2: Single;
   out dx, dy, dz: Single;
@@ -658,15 +790,16 @@ procedure trvcnt(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcnt';
 
 /// <summary>Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.</summary>
-/// <remarks>status: 1 all components are zero of either sign; 0 otherwise (a NaN
-/// included).</remarks>
+/// <remarks>status: test: 1 zero: all components are zero, of either sign; 0 nonzero: a component
+/// is not zero, or is NaN.</remarks>
 procedure trvcnt1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} dx, dy, dz: Single;
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcnt1';
 
 /// <summary>Point P1 + t*(P2 - P1) on the line through two points.</summary>
-/// <remarks>status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt).</remarks>
+/// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1
+/// and P2 coincide within the tolerance (trvcnt).</remarks>
 procedure trv123(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x1, y1, z1, x2, y2, z2, t: Single;
   var x, y, z: Single;
@@ -704,7 +837,8 @@ procedure trvint(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvint';
 
 /// <summary>Sign of a value.</summary>
-/// <remarks>status: 1 v is positive; 2 v is zero, negative or NaN.</remarks>
+/// <remarks>status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or
+/// NaN.</remarks>
 procedure trvvin(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} u1, v, u3, u4, u5: Single;
   out status: LongInt);
@@ -720,8 +854,8 @@ procedure trvpos(
 
 /// <summary>Entry of an ascending table that equals a value, or the interval that holds
 /// it.</summary>
-/// <remarks>status: 1 A(i) equals x within the tolerance; 2 A(i) &lt; x &lt; A(i+1); 0
-/// neither.</remarks>
+/// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i)
+/// &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no interval.</remarks>
 procedure trvpos1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvReals;
@@ -766,7 +900,8 @@ procedure trvlds(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvlds';
 
 /// <summary>Intersection of two lines.</summary>
-/// <remarks>status: 0 one point; 1 the same line; 2 parallel and distinct.</remarks>
+/// <remarks>status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1
+/// same_line: the lines are the same; 2 parallel: the lines are parallel and distinct.</remarks>
 procedure trvlni(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a1, b1, c1, a2, b2, c2: Single;
   out status: LongInt;
@@ -774,8 +909,9 @@ procedure trvlni(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvlni';
 
 /// <summary>Distance of two parallel lines.</summary>
-/// <remarks>status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni
-/// tells.</remarks>
+/// <remarks>status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1
+/// same_line: the lines are the same; 2 parallel: the lines are parallel and distinct, as trvlni
+/// finds.</remarks>
 procedure trvlul(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a1, b1, c1, a2, b2, c2: Single;
   var d: Single;
@@ -783,26 +919,37 @@ procedure trvlul(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvlul';
 
 /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-/// <remarks>code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and
-/// third; 7 first and third.</remarks>
+/// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0 none: no
+/// component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
+/// the second component alone is; 4 third: the third component alone is; 5 first_second: the first
+/// and the second component are; 6 second_third: the second and the third component are; 7
+/// first_third: the first and the third component are.</remarks>
 procedure trvpsn(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} p1, p2, p3, q1, q2, q3: Single;
   out code: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpsn';
 
 /// <summary>Whether a point lies on the line of space through P0 with direction D.</summary>
-/// <remarks>code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y; 4 z;
-/// 5 x and y; 6 y and z; 7 x and z.</remarks>
-/// <remarks>on: 1 P lies on the line; 0 it does not, and always when code is 0.</remarks>
+/// <remarks>code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0
+/// none: no component is; 1 all: all three components are; 2 first: the first component alone is; 3
+/// second: the second component alone is; 4 third: the third component alone is; 5 first_second:
+/// the first and the second component are; 6 second_third: the second and the third component are;
+/// 7 first_third: the first and the third component are.</remarks>
+/// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or
+/// code is 0.</remarks>
 procedure trvln6(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, dx, dy, dz, px, py, pz, tol: Single;
   out code, on_: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvln6';
 
 /// <summary>Line of two planes, and whether it agrees with a point at a retained station.</summary>
-/// <remarks>code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3 ey; 4
-/// ez; 5 ex and ey; 6 ey and ez; 7 ex and ez.</remarks>
-/// <remarks>on: 1 P agrees with the line at the station; 0 it does not.</remarks>
+/// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none:
+/// no component is; 1 all: all three components are; 2 first: the first component alone is; 3
+/// second: the second component alone is; 4 third: the third component alone is; 5 first_second:
+/// the first and the second component are; 6 second_third: the second and the third component are;
+/// 7 first_third: the first and the third component are.</remarks>
+/// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match
+/// the line at the station.</remarks>
 procedure trvln7(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz: Single;
   out ex, ey: Single;
@@ -829,7 +976,8 @@ procedure trvphi1(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvphi1';
 
 /// <summary>Angle between two lines given by their directions.</summary>
-/// <remarks>status: -1 a direction's length is within the tolerance; unwritten otherwise: set it
+/// <remarks>status: outcome: -1 no_length: a direction's length is within the tolerance; unwritten
+/// on a condition: neither direction's length is within the tolerance, so it must be set
 /// beforehand.</remarks>
 procedure trvphip(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ux, uy, uz, vx, vy, vz: Single;
@@ -838,7 +986,8 @@ procedure trvphip(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvphip';
 
 /// <summary>Directed angle at P0 from the ray to P1 to the ray to P2.</summary>
-/// <remarks>status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt).</remarks>
+/// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1
+/// or P2 coincides with P0 (trvcnt).</remarks>
 procedure trvchi(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2: Single;
   var chi: Single;
@@ -846,8 +995,9 @@ procedure trvchi(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvchi';
 
 /// <summary>Convexity of a closed outline, of either orientation.</summary>
-/// <remarks>status: 1 convex; 0 not convex, or winding more than once; -1 refused: n &lt; 3, or a
-/// side whose length is within the tolerance.</remarks>
+/// <remarks>status: test: 1 convex: the outline is convex; 0 not_convex: the outline is not convex,
+/// or winds more than once; -1 refused: n &lt; 3, or the length of a side is within the
+/// tolerance.</remarks>
 procedure trvcnv(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X, Y: TTrvReals;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
@@ -855,7 +1005,8 @@ procedure trvcnv(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcnv';
 
 /// <summary>Cosine and sine of the angle between P2 - P1 and P4 - P3.</summary>
-/// <remarks>status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt).</remarks>
+/// <remarks>status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1
+/// and P2, or P3 and P4, coincide (trvcnt).</remarks>
 procedure trvtrg(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4,
     z4: Single;
@@ -864,17 +1015,22 @@ procedure trvtrg(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvtrg';
 
 /// <summary>Relation of two directions.</summary>
-/// <remarks>code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all components of
-/// u, or of v, are within the tolerance.</remarks>
+/// <remarks>code: relation: 0 oblique: u and v have neither the same, opposite nor perpendicular
+/// directions; 1 same: the directions are the same; 2 opposite: the directions are opposite; 3
+/// perpendicular: the directions are perpendicular; 4 zero: all components of u, or of v, are
+/// within the tolerance.</remarks>
 procedure trvdir(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ux, uy, uz, vx, vy, vz: Single;
   out code: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvdir';
 
 /// <summary>Relation of two planes.</summary>
-/// <remarks>code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel, normals
-/// opposite; 3 coincident, normals in the same direction; 4 coincident, normals opposite; 5
-/// perpendicular; 6 a normal is zero.</remarks>
+/// <remarks>code: relation: 0 crossing: the planes cross, not at a right angle; 1 parallel_same:
+/// the planes are parallel and distinct, their normals in the same direction; 2 parallel_opposite:
+/// the planes are parallel and distinct, their normals opposite; 3 coincident_same: the planes
+/// coincide, their normals in the same direction; 4 coincident_opposite: the planes coincide, their
+/// normals opposite; 5 perpendicular: the planes are perpendicular; 6 zero_normal: a normal is
+/// zero.</remarks>
 procedure trvdirp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a1, b1, c1, d1, a2, b2, c2, d2: Single;
   out code: LongInt);
@@ -1011,7 +1167,6 @@ procedure trvef2(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvef2';
 
 /// <summary>I section with unequal flanges.</summary>
-/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_ia(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, B1, B2, T1, T2, TW, q: Single;
   out np: LongInt;
@@ -1022,7 +1177,6 @@ procedure trvsec_ia(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_ia';
 
 /// <summary>I section lying on its side.</summary>
-/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_h(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, B1, B2, T1, T2, TW, q: Single;
   out np: LongInt;
@@ -1033,7 +1187,6 @@ procedure trvsec_h(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_h';
 
 /// <summary>T section, flange at the top.</summary>
-/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_t(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H, TF, TW, q: Single;
   out np: LongInt;
@@ -1044,7 +1197,6 @@ procedure trvsec_t(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_t';
 
 /// <summary>Flat bar.</summary>
-/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_b(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, q: Single;
@@ -1057,7 +1209,6 @@ procedure trvsec_b(
 
 /// <summary>I section lying on its side with a cover plate on its flanges' top edges, closing one
 /// cell.</summary>
-/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_h1b(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} W, D, P, T1, T2, TW, TP, q: Single;
   out np: LongInt;
@@ -1068,7 +1219,6 @@ procedure trvsec_h1b(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_h1b';
 
 /// <summary>Box girder with overhanging flanges.</summary>
-/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_box(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} BT, BB, TT, TB, H, TW, G, q: Single;
   out np: LongInt;
@@ -1079,7 +1229,6 @@ procedure trvsec_box(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_box';
 
 /// <summary>Rectangular hollow section with sharp corners.</summary>
-/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_rhs(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H, T, q: Single;
   out np: LongInt;
@@ -1090,7 +1239,6 @@ procedure trvsec_rhs(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_rhs';
 
 /// <summary>Two equal angles back to back, horizontal legs at the top.</summary>
-/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_l2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H, G, T, TV, q: Single;
   out np: LongInt;
@@ -1101,7 +1249,6 @@ procedure trvsec_l2(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_l2';
 
 /// <summary>Top plate on a closed cell of two webs and a bottom plate between them.</summary>
-/// <remarks>np: number of polygons: 2.</remarks>
 procedure trvsec_tab(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H, BW, E, T, TW, TB, q: Single;
   out np: LongInt;
@@ -1112,7 +1259,6 @@ procedure trvsec_tab(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_tab';
 
 /// <summary>Two flanges joined by two webs and a middle plate, closing two cells.</summary>
-/// <remarks>np: number of polygons: 3.</remarks>
 procedure trvsec_h2b(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, W, HI, TW1, TW2, TM, TF, q: Single;
   out np: LongInt;
@@ -1123,7 +1269,6 @@ procedure trvsec_h2b(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsec_h2b';
 
 /// <summary>I section with unequal flanges, an eccentric web and 45-degree fillets.</summary>
-/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_i(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, B1, B2, T1, T2, TW, S1, S2, E, q: Single;
   out np: LongInt;
@@ -1135,7 +1280,6 @@ procedure trvsec_i(
 
 /// <summary>Channel open to the right, with lips turned inwards and folds turned back towards the
 /// web.</summary>
-/// <remarks>np: number of polygons: 1.</remarks>
 procedure trvsec_c(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2,
     TD1, TD2, q: Single;
@@ -1159,30 +1303,30 @@ procedure trvwar_c(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvwar_c';
 
 /// <summary>Properties of an open section of thin plates.</summary>
-/// <remarks>status: -1 refused, nothing else is written: n &lt; 1, a coordinate or a thickness that
-/// is infinite or NaN, a length or a thickness not above the tolerance; 0 done; 2 to n this plate
-/// is the first at fault, it starts at no end of an earlier one, or ends at one and closes a cell:
-/// what is listed up to xp,yp is written, the rest is not; n+2 to 2*n plate status - n is the first
-/// at fault, it crosses, touches or overlaps an earlier one elsewhere than at its start, which may
-/// close a cell: what is listed up to xp,yp is written, the rest is not.</remarks>
+/// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n &lt; 1, a
+/// coordinate or a thickness is infinite or NaN, or a length or a thickness is not above the
+/// tolerance; 2 to n: this plate is the first at fault, it starts at no end of an earlier plate, or
+/// ends at one and closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses,
+/// touches or overlaps an earlier plate elsewhere than at its start, which may close a
+/// cell.</remarks>
 procedure trvmxt(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X1, Y1, X2, Y2, T: TTrvReals;
   var A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt,
     xm, ym, Iw, r0: Single;
   var W1, W2: TTrvReals;
-  var status: LongInt);
+  out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmxt';
 
 /// <summary>Properties of a flat bar, centred on the origin.</summary>
-/// <remarks>status: -1 refused, nothing else is written: a side that is infinite, NaN or not above
-/// the tolerance; 0 done.</remarks>
+/// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: a side is
+/// infinite, NaN or not above the tolerance.</remarks>
 procedure trvmxt_fb(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} B, H: Single;
   var A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt,
     xm, ym, Iw, r0: Single;
   var W1, W2: TTrvReals;
-  var status: LongInt);
+  out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmxt_fb';
 
 // Rotations, frames, planes and lines of space
@@ -1224,8 +1368,10 @@ procedure trvrotz(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvrotz';
 
 /// <summary>Three-point test: whether P0, P1 and P2 span a plane.</summary>
-/// <remarks>status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is
-/// beyond P0 on their line; 5 P2 is beyond P1.</remarks>
+/// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+/// at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is
+/// beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and
+/// P1.</remarks>
 procedure trvpsl(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2: Single;
   out status: LongInt);
@@ -1246,7 +1392,8 @@ procedure trvtrn(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvtrn';
 
 /// <summary>Frame of the plane through three points.</summary>
-/// <remarks>status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).</remarks>
+/// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0
+/// or P1, or the three points are on one line (trvpsl).</remarks>
 procedure trvaxe(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2: Single;
   out e1x, e1y, e1z, e2x, e2y, e2z, e3x, e3y, e3z: Single;
@@ -1254,8 +1401,8 @@ procedure trvaxe(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvaxe';
 
 /// <summary>Frame of an axis from P0 to P1.</summary>
-/// <remarks>status: 0 done, also along y; -2 the distance of P0 and P1 is within the
-/// tolerance.</remarks>
+/// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance
+/// of P0 and P1 is within the tolerance.</remarks>
 procedure trvaxel(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, angle: Single;
   out e1x, e1y, e1z, e2x, e2y, e2z, e3x, e3y, e3z: Single;
@@ -1271,7 +1418,8 @@ procedure trvptr(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptr';
 
 /// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
-/// <remarks>status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl).</remarks>
+/// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0
+/// or P1, or the three points are on one line (trvpsl).</remarks>
 procedure trvptrl(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2: Single;
   var X, Y, Z: TTrvReals;
@@ -1281,8 +1429,8 @@ procedure trvptrl(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptrl';
 
 /// <summary>Turns points about the axis from P0 through P1, in place.</summary>
-/// <remarks>status: 0 done, also along y; -2 the distance of P0 and P1 is within the
-/// tolerance.</remarks>
+/// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance
+/// of P0 and P1 is within the tolerance.</remarks>
 procedure trvpra(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1: Single;
   var X, Y, Z: TTrvReals;
@@ -1293,8 +1441,9 @@ procedure trvpra(
 
 /// <summary>Turns points of a plane in the frame of the three points that span it, then shifts
 /// them, in place.</summary>
-/// <remarks>status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1 to n
-/// position of the first point off the plane.</remarks>
+/// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the
+/// three points are on one line (trvpsl); 1 to n: position of the first point off the
+/// plane.</remarks>
 procedure trvppc(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2, dx, dy, dz, ax,
     ay, az: Single;
@@ -1311,8 +1460,10 @@ procedure trvplg(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvplg';
 
 /// <summary>Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).</summary>
-/// <remarks>status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond
-/// P0 on their line; 5 P2 is beyond P1.</remarks>
+/// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+/// at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is
+/// beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the line of P0 and
+/// P1.</remarks>
 procedure trvpl1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2: Single;
   out a, b, c, d: Single;
@@ -1320,8 +1471,9 @@ procedure trvpl1(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl1';
 
 /// <summary>Plane through a point, parallel to two lines.</summary>
-/// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
-/// the same, of opposite sense; 7 A and B, or C and D, coincide (trvcnt).</remarks>
+/// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines
+/// are the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+/// direction; 7 no_length: A and B, or C and D, coincide (trvcnt).</remarks>
 procedure trvpl2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x, y, z, xa, ya, za, xb, yb, zb, xc, yc, zc, xd,
     yd, zd: Single;
@@ -1330,8 +1482,9 @@ procedure trvpl2(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl2';
 
 /// <summary>Plane that contains one line and is parallel to another: trvpl2 through A.</summary>
-/// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
-/// the same, of opposite sense; 7 A and B, or C and D, coincide (trvcnt).</remarks>
+/// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines
+/// are the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+/// direction; 7 no_length: A and B, or C and D, coincide (trvcnt).</remarks>
 procedure trvpl3(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd,
     zd: Single;
@@ -1340,8 +1493,8 @@ procedure trvpl3(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl3';
 
 /// <summary>Plane through a point, perpendicular to a segment.</summary>
-/// <remarks>status: 0 done; 1 A and B coincide, each coordinate within the tolerance
-/// (trvcnt).</remarks>
+/// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A
+/// and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
 procedure trvpl4(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x, y, z, xa, ya, za, xb, yb, zb: Single;
   out a, b, c, d: Single;
@@ -1349,7 +1502,8 @@ procedure trvpl4(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl4';
 
 /// <summary>Plane with given intercepts on the axes.</summary>
-/// <remarks>status: 0 done; 1 an intercept is within the tolerance or NaN.</remarks>
+/// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the
+/// tolerance or NaN.</remarks>
 procedure trvpl5(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ix, iy, iz: Single;
   out a, b, c, d: Single;
@@ -1357,8 +1511,9 @@ procedure trvpl5(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl5';
 
 /// <summary>Plane of two lines, each given by a point and a direction.</summary>
-/// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
-/// the same, of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each
+/// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines
+/// are the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+/// direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in each
 /// component.</remarks>
 procedure trvpl6(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy,
@@ -1368,8 +1523,10 @@ procedure trvpl6(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl6';
 
 /// <summary>Plane of three points turned about the line from P0 to P1.</summary>
-/// <remarks>status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is at P1;
-/// 3 P2 is between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond P1.</remarks>
+/// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+/// at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2
+/// is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is
+/// beyond P1 on the line of P0 and P1.</remarks>
 procedure trvpl7(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2, angle: Single;
   out a, b, c, d: Single;
@@ -1377,8 +1534,9 @@ procedure trvpl7(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl7';
 
 /// <summary>Whether a point lies on the plane of three points.</summary>
-/// <remarks>status: 0 it does, and any point does where P0 = P1; -1 it does not, or the three
-/// points span no plane (trvpsl).</remarks>
+/// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0
+/// = P1; -1 no: the point does not lie on the plane, or the three points span no plane
+/// (trvpsl).</remarks>
 procedure trvpsp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z,
     tol: Single;
@@ -1392,7 +1550,8 @@ procedure trvpld(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpld';
 
 /// <summary>Whether a point lies on a plane.</summary>
-/// <remarks>status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is exactly
+/// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point does
+/// not lie on the plane, or the distance is NaN; 1 zero_normal: the normal of the plane is exactly
 /// zero.</remarks>
 procedure trvpspg(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x, y, z, a, b, c, d, tol: Single;
@@ -1400,8 +1559,10 @@ procedure trvpspg(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpspg';
 
 /// <summary>Relation of two directions, taken as lines through the origin.</summary>
-/// <remarks>status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5
-/// perpendicular; 7 u or w is within the tolerance in each component.</remarks>
+/// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the
+/// same, opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite:
+/// the directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w
+/// is within the tolerance in each component.</remarks>
 procedure trvplv(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ux, uy, uz, wx, wy, wz, v7, v8: Single;
   out status: LongInt);
@@ -1418,10 +1579,12 @@ procedure trvpnp(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpnp';
 
 /// <summary>Relation of two lines.</summary>
-/// <remarks>status: 0 they cross, not at a right angle; 1 parallel and distinct, of the same sense;
-/// 2 parallel and distinct, of opposite sense; 3 the same line, of the same sense; 4 the same line,
-/// of opposite sense; 5 they cross at a right angle; 6 skew; 7 A and B, or C and D, coincide, each
-/// coordinate within the tolerance.</remarks>
+/// <remarks>status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle; 1
+/// parallel_same: parallel and distinct lines of the same direction; 2 parallel_opposite: parallel
+/// and distinct lines of opposite direction; 3 same_line: the same line, of the same direction; 4
+/// opposite_line: the same line, of opposite direction; 5 perpendicular: the lines cross at a right
+/// angle; 6 skew: the lines are skew; 7 coincident: A and B, or C and D, coincide, each coordinate
+/// within the tolerance.</remarks>
 procedure trvdirl(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd,
     zd: Single;
@@ -1429,8 +1592,9 @@ procedure trvdirl(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvdirl';
 
 /// <summary>Whether three segments span space.</summary>
-/// <remarks>status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above the
-/// tolerance, in the cube of the length unit.</remarks>
+/// <remarks>status: test: 0 flat: the triple product of B - A, D - C and F - E is within the
+/// tolerance; 1 spanning: the triple product is above the tolerance, in the cube of the length
+/// unit.</remarks>
 procedure trv3sp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, xe,
     ye, ze, xf, yf, zf: Single;
@@ -1438,7 +1602,7 @@ procedure trv3sp(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trv3sp';
 
 /// <summary>Distance of a point from a line.</summary>
-/// <remarks>status: 0 always.</remarks>
+/// <remarks>status: outcome (TrvStatus): 0 done: always.</remarks>
 procedure trv3ldb(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, xb, yb, zb, xq, yq, zq: Single;
   out status: LongInt;
@@ -1446,7 +1610,7 @@ procedure trv3ldb(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trv3ldb';
 
 /// <summary>Signed distance of a point from a line, in the plane of both.</summary>
-/// <remarks>status: 0 always.</remarks>
+/// <remarks>status: outcome (TrvStatus): 0 done: always.</remarks>
 procedure trv3lda(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, xb, yb, zb, xq, yq, zq: Single;
   out status: LongInt;
@@ -1454,8 +1618,9 @@ procedure trv3lda(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trv3lda';
 
 /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
-/// <remarks>status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
-/// the same, of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance in each
+/// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines
+/// are the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+/// direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in each
 /// component.</remarks>
 procedure trv3lni(
   var xa, ya, za: Single;
@@ -1467,8 +1632,9 @@ procedure trv3lni(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trv3lni';
 
 /// <summary>Intersection of the line P + t*u with a plane.</summary>
-/// <remarks>status: 0 done; 3 the line is parallel to the plane: the cosine of u and the normal is
-/// within the tolerance; 4 u or the normal is within the tolerance in each component.</remarks>
+/// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
+/// plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within
+/// the tolerance in each component.</remarks>
 procedure trvpli(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x, y, z, ux, uy, uz, a, b, c, d: Single;
   var xi, yi, zi: Single;
@@ -1476,30 +1642,36 @@ procedure trvpli(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpli';
 
 /// <summary>Position of a plane against the axes.</summary>
-/// <remarks>position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4 parallel to
-/// the z axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to the y axis; 8 the plane
-/// z = 0; 9 the plane x = 0; 10 the plane y = 0.</remarks>
+/// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the
+/// plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4
+/// parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to the z axis;
+/// 6 normal_x: the plane is normal to the x axis; 7 normal_y: the plane is normal to the y axis; 8
+/// at_z_zero: the plane is z = 0; 9 at_x_zero: the plane is x = 0; 10 at_y_zero: the plane is y =
+/// 0.</remarks>
 procedure trvplp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a, b, c, d: Single;
   out position: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvplp';
 
 /// <summary>Points of a list near a line.</summary>
-/// <remarks>status: 0 always; unwritten when n &lt; 1.</remarks>
+/// <remarks>status: outcome (TrvStatus): 0 done: always; unwritten if n &lt; 1.</remarks>
 procedure trvpnl(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, xb, yb, zb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X, Y: TTrvReals;
   zf: TTrvFunction;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single;
-  var status, count: LongInt;
+  var status: LongInt;
+  out count: LongInt;
   var index: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpnl';
 
 /// <summary>Carries a point along when the line through it is moved.</summary>
-/// <remarks>status: 0 not moved: the three points are not collinear, or Q1 is at P; 3 moved, Q1 and
-/// Q2 on one side of P; 4 moved, on either side of P; 6 moved, rounding takes the three for skew
-/// lines; 7 moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance.</remarks>
+/// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
+/// moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved,
+/// Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points
+/// for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by
+/// its distance.</remarks>
 procedure trvlpc(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xp, yp, zp, x1, y1, z1: Single;
   var x2, y2, z2: Single;

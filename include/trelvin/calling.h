@@ -36,6 +36,9 @@
 
 #include <stdint.h>
 
+#include "trelvin/names.h"
+#include "trelvin/values.h"
+
 /* The version of the interface, for a program to read while it is compiled. */
 #define TRELVIN_VERSION_MAJOR 1
 #define TRELVIN_VERSION_MINOR 1

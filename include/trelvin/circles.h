@@ -11,6 +11,12 @@
  *
  * trvapp and trvcer10 run the three-point test (trvpsl) and so read and rewrite the cosine that it
  * retains: a call of theirs can decide a later one of trvpsl.
+ *
+ *     float a = 0, b = 1, c = -3, D = 0, E = 0, F = -25, x1, y1, x2, y2;
+ *     int32_t n;
+ *     trvlci(&a, &b, &c, &D, &E, &F, &n, &x1, &y1, &x2, &y2); // y = 3 and x*x + y*y = 25
+ *     if (n == TRV_POINTS_TWO) printf("(%g, %g) and (%g, %g)\n", x1, y1, x2, y2);
+ *     // prints (4, 3) and (-4, 3)
  */
 #ifndef TRELVIN_CIRCLES_H
 #define TRELVIN_CIRCLES_H
@@ -46,10 +52,11 @@ TRELVIN_ROUTINE trvcer(TrvIn xc, TrvIn yc, TrvIn r, TrvOut D, TrvOut E, TrvOut F
  *
  * @param[in]  a,b,c  line a*x + b*y + c = 0
  * @param[in]  D,E,F  circle
- * @param[out] n      number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it
+ * @param[out] n      number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the
+ *                    line touches the circle; 2 two: the line cuts the circle
  * @param[out] x1,y1  first point, of the larger root: the larger y, or the larger x where the line
- *                    is taken as horizontal; unwritten when n is 0
- * @param[out] x2,y2  second point; unwritten when n is 0 or 1
+ *                    is taken as horizontal; unwritten if n is 0
+ * @param[out] x2,y2  second point; unwritten if n is 0 or 1
  */
 TRELVIN_ROUTINE trvlci(TrvIn a, TrvIn b, TrvIn c, TrvIn D, TrvIn E, TrvIn F, TrvIntOut n, TrvOut x1,
                        TrvOut y1, TrvOut x2, TrvOut y2);
@@ -61,10 +68,11 @@ TRELVIN_ROUTINE trvlci(TrvIn a, TrvIn b, TrvIn c, TrvIn D, TrvIn E, TrvIn F, Trv
  *
  * @param[in]  D1,E1,F1  first circle
  * @param[in]  D2,E2,F2  second circle
- * @param[out] n         number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is
- *                       within the tolerance; 1 the circles touch; 2 they cut each other
- * @param[out] x1,y1     first point, as of trvlci; unwritten when n is 0
- * @param[out] x2,y2     second point; unwritten when n is 0 or 1
+ * @param[out] n         number of points (TrvPoints): 0 none: the circles have no common point, or
+ *                       are concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the
+ *                       circles touch; 2 two: the circles cut each other
+ * @param[out] x1,y1     first point, as of trvlci; unwritten if n is 0
+ * @param[out] x2,y2     second point; unwritten if n is 0 or 1
  */
 TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F2, TrvIntOut n,
                        TrvOut x1, TrvOut y1, TrvOut x2, TrvOut y2);
@@ -82,12 +90,15 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * @param[in]  side   positive picks the candidate on the side of trvln3's normal of P1 and P2,
  *                    negative the other one, zero the first candidate
  * @param[in]  r      radius
- * @param[out] xa,ya  first candidate; unwritten when n is 0, unless the chord is horizontal
- * @param[out] xb,yb  second candidate; likewise
- * @param[out] xc,yc  chosen centre; likewise, and unwritten where a NaN decides
- * @param[out] n      number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the
- *                    chord, the discriminant is NaN, or the chord is horizontal; 1 both candidates
- *                    are the same point; 2 two
+ * @param[out] xa,ya  first candidate; unwritten on a condition: n is 0 and the chord is not
+ *                    horizontal
+ * @param[out] xb,yb  second candidate; unwritten on a condition: n is 0 and the chord is not
+ *                    horizontal
+ * @param[out] xc,yc  chosen centre; unwritten on a condition: n is 0 and the chord is not
+ *                    horizontal, or a NaN decides
+ * @param[out] n      number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or
+ *                    less than half the chord, the discriminant is NaN, or the chord is horizontal;
+ *                    1 one: both candidates are the same point; 2 two
  */
 TRELVIN_ROUTINE trvcer2(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, TrvIn r, TrvOut xa,
                         TrvOut ya, TrvOut xb, TrvOut yb, TrvOut xc, TrvOut yc, TrvIntOut n);
@@ -104,12 +115,12 @@ TRELVIN_ROUTINE trvcer2(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, T
  * @param[in]  side   positive picks the centre on the side of trvln3's normal of P1 and P2,
  *                    negative the other one, zero the first candidate of trvcer2
  * @param[in]  h      sagitta: height of the arc above the middle of the chord
- * @param[out] r      radius; unwritten when h < 1e-5
- * @param[out] xc,yc  chosen centre; unwritten when n is 0, unless the chord is horizontal, or where
- *                    a NaN decides
- * @param[out] n      number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or
- *                    less than half the chord, the discriminant is NaN, or the chord is horizontal;
- *                    1 both candidates are the same point; 2 two
+ * @param[out] r      radius; unwritten on a condition: h < 1e-5
+ * @param[out] xc,yc  chosen centre; unwritten on a condition: n is 0 and the chord is not
+ *                    horizontal, or a NaN decides
+ * @param[out] n      number of centres of trvcer2 (TrvPoints): 0 none: h < 1e-5, P1 = P2 exactly, r
+ *                    is at most 1e-5 or less than half the chord, the discriminant is NaN, or the
+ *                    chord is horizontal; 1 one: both candidates are the same point; 2 two
  */
 TRELVIN_ROUTINE trvcer1(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, TrvIn h, TrvOut r,
                         TrvOut xc, TrvOut yc, TrvIntOut n);
@@ -128,14 +139,18 @@ TRELVIN_ROUTINE trvcer1(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, T
  * cannot be written the call computes as always and the file is closed; the next call opens it
  * again and starts on a line of its own.
  *
- * Retains: the open trace file.
+ * Retains: the open trace file (trvcin).
  *
  * @param[in]  X,Y       arrays of 2: the centre, then a point on the circle
  * @param[in]  a,b,c     line a*x + b*y + c = 0
- * @param[out] position  1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3
- *                       cut, centre below it; 4 cut, centre on or above it
- * @param[out] x1,y1     first intersection (trvlci); unwritten where the line misses the circle
- * @param[out] x2,y2     second intersection; unwritten where it misses or touches the circle
+ * @param[out] position  class: 1 uncut_above: the circle is not cut, its centre is above the x
+ *                       axis; 2 uncut_below: the circle is not cut, its centre is on or below the x
+ *                       axis; 3 cut_below: the circle is cut, its centre is below the x axis; 4
+ *                       cut_above: the circle is cut, its centre is on or above the x axis
+ * @param[out] x1,y1     first intersection (trvlci); unwritten on a condition: the line misses the
+ *                       circle
+ * @param[out] x2,y2     second intersection; unwritten on a condition: the line misses or touches
+ *                       the circle
  */
 TRELVIN_ROUTINE trvcin(TrvArrayIn X, TrvArrayIn Y, TrvIn a, TrvIn b, TrvIn c, TrvIntOut position,
                        TrvOut x1, TrvOut y1, TrvOut x2, TrvOut y2);
@@ -151,8 +166,9 @@ TRELVIN_ROUTINE trvcin(TrvArrayIn X, TrvArrayIn Y, TrvIn a, TrvIn b, TrvIn c, Tr
  * @param[inout] x,y     point; comes back rounded by the way to the centre and back; relative to
  *                       the centre when status is 0
  * @param[in]    angle   angle in radians, counter-clockwise
- * @param[out]   xr,yr   turned point; unwritten when status is 0
- * @param[out]   status  1 done; 0 the point's distance from the centre is within the tolerance
+ * @param[out]   xr,yr   turned point; unwritten if status is 0
+ * @param[out]   status  outcome (TrvArc): 1 done; 0 refused: the point's distance from the centre
+ *                       is within the tolerance
  */
 TRELVIN_ROUTINE trvcer3(TrvIn x0, TrvIn y0, TrvInOut x, TrvInOut y, TrvIn angle, TrvOut xr,
                         TrvOut yr, TrvIntOut status);
@@ -163,7 +179,7 @@ TRELVIN_ROUTINE trvcer3(TrvIn x0, TrvIn y0, TrvInOut x, TrvInOut y, TrvIn angle,
  * Lengths are compared with 0.001. Where the perpendicular touches the circle (trvlci), the second
  * intersection is that of an earlier call; where it misses it, both are.
  *
- * Retains: both intersections, shared with no routine, zero after loading.
+ * Retains: both intersections (trvcer8).
  *
  * @param[in]  xc,yc   centre C
  * @param[in]  xa,ya   first end A
@@ -171,9 +187,10 @@ TRELVIN_ROUTINE trvcer3(TrvIn x0, TrvIn y0, TrvInOut x, TrvInOut y, TrvIn angle,
  * @param[in]  side    with the first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
  *                     negative, else the other one
  * @param[in]  d       station: distance from A along the chord
- * @param[out] x,y     point; unwritten when status is 0
- * @param[out] status  1 done; 0 the radius or the chord is at most 0.001, the radii of A and B
- *                     differ by more, or the station is not farther than that from both ends
+ * @param[out] x,y     point; unwritten if status is 0
+ * @param[out] status  outcome (TrvArc): 1 done; 0 refused: the radius or the chord is at most
+ *                     0.001, the radii of A and B differ by more, or the station is not farther
+ *                     than that from both ends
  */
 TRELVIN_ROUTINE trvcer8(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn yb, TrvIntIn side,
                         TrvIn d, TrvOut x, TrvOut y, TrvIntOut status);
@@ -185,7 +202,7 @@ TRELVIN_ROUTINE trvcer8(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
  * intersection is that of an earlier call; where it misses it, both are. Where the station is at
  * the centre there is no line, and the point is the second intersection of an earlier call.
  *
- * Retains: both intersections, shared with no routine, zero after loading.
+ * Retains: both intersections (trvcer6).
  *
  * @param[in]  xc,yc   centre C
  * @param[in]  xa,ya   first end A
@@ -193,10 +210,10 @@ TRELVIN_ROUTINE trvcer8(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
  * @param[in]  side    with the first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
  *                     negative, else the other one
  * @param[in]  d       station: distance from A along the chord
- * @param[out] x,y     point; unwritten when status is 0
- * @param[out] status  1 done; 0 the radius or the chord is at most 0.001, the radii of A and B
- *                     differ by more, the station is not farther than that from both ends, or d is
- *                     closer than that to the diameter
+ * @param[out] x,y     point; unwritten if status is 0
+ * @param[out] status  outcome (TrvArc): 1 done; 0 refused: the radius or the chord is at most
+ *                     0.001, the radii of A and B differ by more, the station is not farther than
+ *                     that from both ends, or d is closer than that to the diameter
  */
 TRELVIN_ROUTINE trvcer6(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn yb, TrvIntIn side,
                         TrvIn d, TrvOut x, TrvOut y, TrvIntOut status);
@@ -208,7 +225,7 @@ TRELVIN_ROUTINE trvcer6(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
  * perpendicular touches the circle (trvlci), the second intersection is that of the edge or the
  * call before; where it misses it, both are.
  *
- * Retains: both intersections, shared with no routine, zero after loading.
+ * Retains: both intersections (trvcer9).
  *
  * @param[in]  xc,yc   centre C
  * @param[in]  xa,ya   first end A
@@ -217,11 +234,11 @@ TRELVIN_ROUTINE trvcer6(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
  *                     C)) is negative, else the other one
  * @param[in]  d       station of the strip's middle: distance from A along the chord
  * @param[in]  w       width of the strip
- * @param[out] x1,y1   point above the station d - w/2; unwritten when status is 0
- * @param[out] x2,y2   point above the station d + w/2; unwritten when status is 0
- * @param[out] status  1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is
- *                     at most 0.001, the radii of A and B differ by more, or the strip comes closer
- *                     than that to an end of the chord
+ * @param[out] x1,y1   point above the station d - w/2; unwritten if status is 0
+ * @param[out] x2,y2   point above the station d + w/2; unwritten if status is 0
+ * @param[out] status  outcome (TrvArc): 1 done; 0 refused: the radius, the chord, d, the chord's
+ *                     rest beyond d or the width is at most 0.001, the radii of A and B differ by
+ *                     more, or the strip comes closer than that to an end of the chord
  */
 TRELVIN_ROUTINE trvcer9(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn yb, TrvIntIn side,
                         TrvIn d, TrvIn w, TrvOut x1, TrvOut y1, TrvOut x2, TrvOut y2,
@@ -238,9 +255,10 @@ TRELVIN_ROUTINE trvcer9(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn 
  * @param[in]  xa,ya   A; its distance from the centre is the radius
  * @param[in]  xb,yb   B
  * @param[out] s1      length of the shorter arc: the angle at C (trvphi3) times the radius;
- *                     unwritten when status is 0
- * @param[out] s2      length of the longer arc; unwritten when status is 0
- * @param[out] status  1 done; 0 the radius, or the distance of A and B, is within the tolerance
+ *                     unwritten if status is 0
+ * @param[out] s2      length of the longer arc; unwritten if status is 0
+ * @param[out] status  outcome (TrvArc): 1 done; 0 refused: the radius, or the distance of A and B,
+ *                     is within the tolerance
  */
 TRELVIN_ROUTINE trvarc1(TrvIn xc, TrvIn yc, TrvIn xa, TrvIn ya, TrvIn xb, TrvIn yb, TrvOut s1,
                         TrvOut s2, TrvIntOut status);
@@ -284,17 +302,20 @@ TRELVIN_ROUTINE trvhin(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * A point is outside where its signed distances from the rays' lines (trvln3, trvlds) have opposite
  * signs, or where its foot on the first line lies beyond the vertex (trvpsl). A NaN in a point puts
  * it inside, one in the vertex or the first ray all points; with one in the second ray the foot
- * decides alone. Takes time in proportion to n.
+ * decides alone.
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Cost: takes time in proportion to n.
+ *
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  x0,y0  vertex P0
  * @param[in]  x1,y1  point on the first ray
  * @param[in]  x2,y2  point on the second ray
  * @param[in]  n      number of points
  * @param[in]  X,Y    arrays of n: points
- * @param[out] mark   array of n: 1 inside; 2 outside; -1 no sector: the rays' angle is within the
- *                    tolerance, which it is for all points alike
+ * @param[out] mark   array of n: where each point is: 1 inside: the point is inside the sector; 2
+ *                    outside: the point is outside the sector; -1 no_sector: the rays' angle is
+ *                    within the tolerance, which holds for all points alike
  */
 TRELVIN_ROUTINE trvapp(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn n,
                        TrvArrayIn X, TrvArrayIn Y, TrvIntArrayOut mark);
@@ -308,17 +329,19 @@ TRELVIN_ROUTINE trvapp(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * points on the chord count as across. A line that misses the circle is not refused: the result of
  * an earlier call stands, as if it had been found in this chord's frame, and is carried out of it.
  *
- * Retains: the point, shared with no routine, zero after loading.
+ * Retains: the point (trvcer4).
  *
- * @param[inout] xc,yc   centre C; rewritten with its value to rounding when status is 1
- * @param[inout] xa,ya   first end A; likewise
- * @param[inout] xb,yb   second end B; likewise
+ * @param[inout] xc,yc   centre C; rewritten with its value to rounding; unchanged if status is 0
+ * @param[inout] xa,ya   first end A; rewritten with its value to rounding; unchanged if status is 0
+ * @param[inout] xb,yb   second end B; rewritten with its value to rounding; unchanged if status is
+ *                       0
  * @param[in]    s       station: distance from A along the chord, beyond its ends too
  * @param[in]    angle   direction of the line in radians, measured from the chord A to B,
  *                       counter-clockwise (trvln1)
- * @param[out]   xo,yo   point; unwritten when status is 0
- * @param[out]   status  1 done; 0 the radius or the chord is within the tolerance, the radii of A
- *                       and B differ by more, A and B coincide, or the line touches the circle
+ * @param[out]   xo,yo   point; unwritten if status is 0
+ * @param[out]   status  outcome (TrvArc): 1 done; 0 refused: the radius or the chord is within the
+ *                       tolerance, the radii of A and B differ by more, A and B coincide, or the
+ *                       line touches the circle
  */
 TRELVIN_ROUTINE trvcer4(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIn angle, TrvOut xo, TrvOut yo, TrvIntOut status);
@@ -329,20 +352,25 @@ TRELVIN_ROUTINE trvcer4(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  * A is turned about the centre; the line runs through the turned point. Where it is parallel to the
  * chord, or along it, the crossing of an earlier call stands, in the chord's frame.
  *
- * Retains: the crossing, shared with no routine, zero after loading; and the cosine of the
- * three-point test, shared with all that run it (trvpsl).
+ * Retains: the crossing (trvcer10); the cosine of the three-point test (trvpsl).
  *
- * @param[inout] xc,yc   centre C; rewritten with its value to rounding unless refused
- * @param[inout] xa,ya   first end A; likewise
- * @param[inout] xb,yb   second end B; likewise
+ * @param[inout] xc,yc   centre C; rewritten with its value to rounding; unchanged on a condition:
+ *                       the input is rejected
+ * @param[inout] xa,ya   first end A; rewritten with its value to rounding; unchanged on a
+ *                       condition: the input is rejected
+ * @param[inout] xb,yb   second end B; rewritten with its value to rounding; unchanged on a
+ *                       condition: the input is rejected
  * @param[in]    turn    angle in radians by which A is turned about C, counter-clockwise
  * @param[in]    angle   direction of the line in radians, measured from the chord A to B,
  *                       counter-clockwise (trvln1)
- * @param[out]   xo,yo   crossing; unwritten when refused
- * @param[out]   status  0 refused: the radius or the chord is within the tolerance, or the radii of
- *                       A and B differ by more, but also a crossing, and a retained one that is on
- *                       the chord's line but not at A or B (trvpsl above 2); 1 the line runs along
- *                       the chord; 2 it is parallel to it
+ * @param[out]   xo,yo   crossing; unwritten on a condition: the input is rejected, so it must be
+ *                       set beforehand where status 0 is to be told apart
+ * @param[out]   status  outcome: 0 crossing_or_refused: the line crosses the chord, which is the
+ *                       normal result, or a crossing of an earlier call lies on the chord's line
+ *                       but not at A or B (trvpsl above 2), or the input is rejected, since the
+ *                       radius or the chord is within the tolerance or the radii of A and B differ
+ *                       by more; 1 along_chord: the line runs along the chord; 2 parallel: the line
+ *                       is parallel to the chord
  */
 TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                          TrvInOut yb, TrvIn turn, TrvIn angle, TrvOut xo, TrvOut yo,
@@ -358,18 +386,21 @@ TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, Trv
  * and the arc's, agree within the tolerance in each coordinate yet lie farther apart, the station,
  * or T, of an earlier call stands.
  *
- * Retains: the station, T and the point, shared with no routine, zero after loading.
+ * Retains: the station, T and the point (trvcer5).
  *
- * @param[inout] xc,yc   centre C; rewritten with its value to rounding when status is 1
- * @param[inout] xa,ya   first end A; likewise, and also when the line touches the circle
- * @param[inout] xb,yb   second end B; likewise when status is 1
+ * @param[inout] xc,yc   centre C; rewritten with its value to rounding; unchanged if status is 0
+ * @param[inout] xa,ya   first end A; rewritten with its value to rounding, also if the line touches
+ *                       the circle; unchanged on a condition: status is 0 and the line does not
+ *                       touch the circle
+ * @param[inout] xb,yb   second end B; rewritten with its value to rounding; unchanged if status is
+ *                       0
  * @param[in]    s       station: distance from A along the chord, not negative
  * @param[in]    side    factor of the half angle that turns A clockwise to the arc's middle point
  * @param[in]    e       distance of T from the chord
- * @param[out]   xo,yo   point; unwritten when status is 0
- * @param[out]   status  1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is
- *                       at most 1e-5, or the radii of A and B differ by more, or the line touches
- *                       the circle
+ * @param[out]   xo,yo   point; unwritten if status is 0
+ * @param[out]   status  outcome (TrvArc): 1 done; 0 refused: s is negative, or e, the radius, the
+ *                       chord or its rest beyond s is at most 1e-5, or the radii of A and B differ
+ *                       by more, or the line touches the circle
  */
 TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvOut xo, TrvOut yo,
@@ -395,14 +426,14 @@ TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  * @param[in]    e       distance of the parallel from the chord, not negative; 0 puts T at P
  * @param[in]    angle   direction of the line in radians, measured from the chord A to B,
  *                       counter-clockwise; the line runs both ways
- * @param[out]   xp,yp   station P; unwritten when status is 0
- * @param[out]   xt,yt   crossing T with the parallel; unwritten when status is 0
- * @param[out]   xo,yo   crossing O with the circle about C through A; unwritten when status is 0
- * @param[out]   len     length of PO; unwritten when status is 0
- * @param[out]   status  1 done; 0 refused: s or e is negative, the radius or the chord's rest
- *                       beyond s is at most 1e-4, the radii of A and B differ by more and the
- *                       rounding, side is 0, the line is parallel to the chord, or it cuts less
- *                       than twice 1e-4 off the circle
+ * @param[out]   xp,yp   station P; unwritten if status is 0
+ * @param[out]   xt,yt   crossing T with the parallel; unwritten if status is 0
+ * @param[out]   xo,yo   crossing O with the circle about C through A; unwritten if status is 0
+ * @param[out]   len     length of PO; unwritten if status is 0
+ * @param[out]   status  outcome (TrvArc): 1 done; 0 refused: s or e is negative, the radius or the
+ *                       chord's rest beyond s is at most 1e-4, the radii of A and B differ by more
+ *                       and the rounding, side is 0, the line is parallel to the chord, or the part
+ *                       of the line inside the circle is not longer than 2e-4
  */
 TRELVIN_ROUTINE trvcer7(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvInOut xb,
                         TrvInOut yb, TrvIn s, TrvIntIn side, TrvIn e, TrvIn angle, TrvOut xp,
@@ -422,12 +453,12 @@ TRELVIN_ROUTINE trvcer7(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  * @param[in]  x1,y1    P1
  * @param[in]  x2,y2    P2
  * @param[in]  r        radius
- * @param[out] xc,yc    centre of the arc; unwritten when status is 0
- * @param[out] xt1,yt1  where the arc touches the segment to P1; unwritten when status is 0
- * @param[out] xt2,yt2  where it touches the segment to P2; unwritten when status is 0
- * @param[out] status   1 done; 0 refused: r or a segment is not above the tolerance, the sine of
- *                      the angle between the segments is within it, or the arc touches one beyond
- *                      its end by more
+ * @param[out] xc,yc    centre of the arc; unwritten if status is 0
+ * @param[out] xt1,yt1  where the arc touches the segment to P1; unwritten if status is 0
+ * @param[out] xt2,yt2  where it touches the segment to P2; unwritten if status is 0
+ * @param[out] status   outcome (TrvArc): 1 done; 0 refused: r or a segment is not above the
+ *                      tolerance, the sine of the angle between the segments is within it, or the
+ *                      arc touches one beyond its end by more
  */
 TRELVIN_ROUTINE trvard(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIn r,
                        TrvOut xc, TrvOut yc, TrvOut xt1, TrvOut yt1, TrvOut xt2, TrvOut yt2,

@@ -3,6 +3,12 @@
  * Ordering, searching, matching and joining of lists.
  *
  * Positions count from 1. A count below 1 means an empty list.
+ *
+ *     float A[3] = {0, 0, 0}, B[3] = {1, 1, 1}, C[3] = {-5, 2, -1};
+ *     int32_t n = 3, IDX[3], status;
+ *     trvpor(&n, A, B, C, IDX, &status); // the lines y = 5, y = -2 and y = 1
+ *     if (status == TRV_STATUS_DONE) printf("%d %d %d\n", (int)IDX[0], (int)IDX[1], (int)IDX[2]);
+ *     // prints 2 3 1
  */
 #ifndef TRELVIN_LISTS_H
 #define TRELVIN_LISTS_H
@@ -16,8 +22,10 @@
  *
  * The result is that of a selection sort that takes the last of equal smallest entries: a NaN stays
  * where it is, the others are sorted around it, and which of -0 and 0 comes first follows from the
- * swaps. Time grows with n, with n*log(n) where zeros of both signs occur. More than 32 entries
- * take 8*n bytes of the heap for the call. Where memory is short the sort is in place and takes
+ * swaps.
+ *
+ * Cost: time grows with n, with n*log(n) where zeros of both signs occur. More than 32 entries take
+ * 8*n bytes of the heap for the call. Where memory is short the sort is in place and takes
  * n*log(n), with NaNs or zeros of both signs n*n.
  *
  * Retains: nothing.
@@ -30,8 +38,8 @@ TRELVIN_ROUTINE trvord(TrvArrayInOut V, TrvIntIn n);
 /**
  * Sorts Integers ascending, in place.
  *
- * Time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where memory is
- * short the sort is in place and takes n*log(n).
+ * Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
+ * memory is short the sort is in place and takes n*log(n).
  *
  * Retains: nothing.
  *
@@ -48,14 +56,16 @@ TRELVIN_ROUTINE trvord1(TrvIntArrayInOut V, TrvIntIn n);
  * later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity), an entry as
  * large as the largest is never used up: IDX(k) is then the position of the last number of the
  * list. A round finds nothing where the list holds a NaN at k, by then: a NaN at the head of the
- * list makes the sum a NaN. Time grows with n. Takes 16*n bytes of the heap for the call.
+ * list makes the sum a NaN.
+ *
+ * Cost: time grows with n. Takes 16*n bytes of the heap for the call.
  *
  * Retains: nothing.
  *
  * @param[in]  V    array of n: entries
  * @param[in]  n    number of entries
- * @param[out] IDX  array of n: IDX(k) is the position of the k-th smallest entry; unwritten when n
- *                  < 1 or memory is short; IDX(k) alone is unwritten when its round finds nothing
+ * @param[out] IDX  array of n: IDX(k) is the position of the k-th smallest element; unwritten on a
+ *                  condition: IDX(k) if its round finds nothing
  */
 TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
 
@@ -64,17 +74,19 @@ TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
  *
  * That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the y
  * axis and apart from it. Parallel and distinct is what trvlni finds between the first line and
- * each other one; a single line is ordered. Time grows with n. Takes 20*n bytes of the heap for the
- * call.
+ * each other one; a single line is ordered.
+ *
+ * Cost: time grows with n. Takes 20*n bytes of the heap for the call.
  *
  * Retains: nothing.
  *
  * @param[in]  n       number of lines
  * @param[in]  A,B,C   arrays of n: lines A*x + B*y + C = 0
  * @param[out] IDX     array of n: positions by ascending crossing, equal ones from the highest
- *                     position down, infinite and NaN ones as trvordi orders them; 1 ... n when
- *                     status is -1; unwritten when n < 1, or when memory is short for an order
- * @param[out] status  0 ordered; -1 not a family of parallel and distinct lines, or n < 1
+ *                     position down, infinite and NaN ones as trvordi orders them; 1 ... n if
+ *                     status is -1; unwritten on a condition: IDX(k) as trvordi leaves it
+ * @param[out] status  outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are
+ *                     not a family of parallel and distinct lines, or n < 1
  */
 TRELVIN_ROUTINE trvpor(TrvIntIn n, TrvArrayIn A, TrvArrayIn B, TrvArrayIn C, TrvIntArrayOut IDX,
                        TrvIntOut status);
@@ -112,9 +124,11 @@ TRELVIN_ROUTINE trvsel1(TrvIntIn n, TrvIntArrayIn V, TrvIntIn key, TrvIntOut cou
  * All pairs of entries of two lists that differ by at most a tolerance.
  *
  * Equal infinities have no difference and make no pair, and neither does anything at a tolerance
- * that is negative or NaN; here the merging routines differ. Time grows with na+nb and the number
- * of pairs, unless entries crowd within a few tolerances: a crowd's are all compared. Takes up to
- * 32*(na+nb) bytes of the heap for the call; where memory is short all entries are compared.
+ * that is negative or NaN; here the merging routines differ.
+ *
+ * Cost: time grows with na+nb and the number of pairs, unless entries crowd within a few
+ * tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the call;
+ * where memory is short all entries are compared.
  *
  * Retains: nothing.
  *
@@ -124,8 +138,9 @@ TRELVIN_ROUTINE trvsel1(TrvIntIn n, TrvIntArrayIn V, TrvIntIn key, TrvIntOut cou
  * @param[in]  B      array of nb: entries
  * @param[out] count  number of pairs
  * @param[out] IA,IB  arrays of max(na+nb,na*nb): positions in A and in B, by A, then by B; first
- *                    entries 1 to na+nb, the sum of the counts as they are, are set to 0, and those
- *                    that are no pair stay 0; unwritten beyond both na+nb and count
+ *                    elements 1 to na+nb, the sum of the counts as they are, are set to 0, and
+ *                    those that are no pair stay 0; unwritten on a condition: elements beyond both
+ *                    na+nb and count
  * @param[in]  tol    largest difference, itself included
  */
 TRELVIN_ROUTINE trvmer13(TrvIntIn na, TrvArrayIn A, TrvIntIn nb, TrvArrayIn B, TrvIntOut count,
@@ -164,11 +179,11 @@ TRELVIN_ROUTINE trvmer11(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayI
 /**
  * Sorts Integers ascending and drops repeats, in place.
  *
- * Time and memory are those of trvord1.
+ * Cost: time and memory are those of trvord1.
  *
  * Retains: nothing.
  *
- * @param[inout] V  array of n: entries; unspecified beyond the new n
+ * @param[inout] V  array of n, n used: entries; unspecified beyond the new n
  * @param[inout] n  number of entries; below 1 nothing happens
  */
 TRELVIN_ROUTINE trvmer2(TrvIntArrayInOut V, TrvIntInOut n);
@@ -177,12 +192,14 @@ TRELVIN_ROUTINE trvmer2(TrvIntArrayInOut V, TrvIntInOut n);
  * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
  *
  * Entries agree that are equal or differ by at most 1e-5. So a NaN agrees with nothing, an infinity
- * with itself. -0 comes before 0, NaNs come last and all stay. Time grows with n. More than 32
- * entries take 8*n bytes of the heap for the call; where memory is short the sort takes n*log(n).
+ * with itself. -0 comes before 0, NaNs come last and all stay.
+ *
+ * Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
+ * memory is short the sort takes n*log(n).
  *
  * Retains: nothing.
  *
- * @param[inout] V  array of n: entries; unspecified beyond the new n
+ * @param[inout] V  array of n, n used: entries; unspecified beyond the new n
  * @param[inout] n  number of entries; below 1 nothing happens
  */
 TRELVIN_ROUTINE trvmer3(TrvArrayInOut V, TrvIntInOut n);
@@ -192,12 +209,14 @@ TRELVIN_ROUTINE trvmer3(TrvArrayInOut V, TrvIntInOut n);
  *
  * Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
  * infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. -0
- * comes before 0, NaNs come last and all stay. Time grows with n. More than 32 entries take 8*n
- * bytes of the heap for the call; where memory is short the sort takes n*log(n).
+ * comes before 0, NaNs come last and all stay.
+ *
+ * Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
+ * memory is short the sort takes n*log(n).
  *
  * Retains: nothing.
  *
- * @param[inout] V    array of n: entries; unspecified beyond the new n
+ * @param[inout] V    array of n, n used: entries; unspecified beyond the new n
  * @param[inout] n    number of entries; below 1 nothing happens
  * @param[in]    tol  largest difference of a repeat, itself included; may be an entry of V
  */
@@ -207,10 +226,11 @@ TRELVIN_ROUTINE trvmer12(TrvArrayInOut V, TrvIntInOut n, TrvIn tol);
  * Joins to a list those entries of another that it does not hold yet.
  *
  * Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
- * infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. Time
- * grows with na+nb, unless entries crowd within a few tolerances: a crowd's are compared with each
- * other. Takes up to 48*(na+nb) bytes of the heap for the call; where memory is short all entries
- * are compared.
+ * infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree.
+ *
+ * Cost: time grows with na+nb, unless entries crowd within a few tolerances: a crowd's are compared
+ * with each other. Takes up to 48*(na+nb) bytes of the heap for the call; where memory is short all
+ * entries are compared.
  *
  * Retains: nothing.
  *
@@ -231,8 +251,9 @@ TRELVIN_ROUTINE trvmer4(TrvIntIn na, TrvArrayIn A, TrvIntIn nb, TrvArrayIn B, Tr
 /**
  * Entries of a list that another holds too.
  *
- * Time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for the
- * call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the stack.
+ * Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for
+ * the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the
+ * stack.
  *
  * Retains: nothing.
  *
@@ -250,13 +271,15 @@ TRELVIN_ROUTINE trvmer14(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayI
 /**
  * Removes from a list the entries that another holds, in place.
  *
- * Time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for the
- * call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the stack.
+ * Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for
+ * the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the
+ * stack.
  *
  * Retains: nothing.
  *
  * @param[inout] na     number of entries of A; below 1 it stays as it is
- * @param[inout] A      array of na: those that stay, in their order; unspecified beyond the new na
+ * @param[inout] A      array of na, na used: those that stay, in their order; unspecified beyond
+ *                      the new na
  * @param[in]    nb     number of entries of B; below 1 there are none
  * @param[in]    B      array of nb: entries
  * @param[out]   count  how many were removed
@@ -270,11 +293,13 @@ TRELVIN_ROUTINE trvmer15(TrvIntInOut na, TrvIntArrayInOut A, TrvIntIn nb, TrvInt
  * A vertex that agrees with the last one left is dropped, and at the end those that agree with the
  * first. Vertices agree whose x and y both are equal or differ by at most the tolerance. So a NaN
  * agrees with nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
- * coordinates alone agree. Time grows with n.
+ * coordinates alone agree.
+ *
+ * Cost: time grows with n.
  *
  * Retains: nothing.
  *
- * @param[inout] X,Y  arrays of n: vertices; unspecified beyond the new n
+ * @param[inout] X,Y  arrays of n, n used: vertices; unspecified beyond the new n
  * @param[inout] n    number of vertices; below 1 nothing happens
  * @param[in]    tol  largest difference of either coordinate, itself included
  */
@@ -287,9 +312,11 @@ TRELVIN_ROUTINE trvmer16(TrvArrayInOut X, TrvArrayInOut Y, TrvIntInOut n, TrvIn 
  *
  * Coordinates agree that are equal or differ by at most the tolerance. So a NaN agrees with
  * nothing, an infinity with itself, and at a tolerance that is negative or NaN equal coordinates
- * alone agree. Time grows with na+nb and the number of pairs, unless points crowd within a few
- * tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the call;
- * where memory is short all points are compared.
+ * alone agree.
+ *
+ * Cost: time grows with na+nb and the number of pairs, unless points crowd within a few tolerances:
+ * a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the call; where memory
+ * is short all points are compared.
  *
  * Retains: nothing.
  *
@@ -300,7 +327,8 @@ TRELVIN_ROUTINE trvmer16(TrvArrayInOut X, TrvArrayInOut Y, TrvIntInOut n, TrvIn 
  * @param[in]  tol       largest difference of a coordinate, itself included
  * @param[out] count     number of pairs
  * @param[out] IA,IB     arrays of na*nb, count used: positions in A and in B, by A, then by B
- * @param[out] status    0 no pair; 1 some points of A have a partner; 2 every point of A has one
+ * @param[out] status    which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs:
+ *                       some have; 2 all_paired: every one has
  */
 TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA, TrvIntIn nb,
                         TrvArrayIn XB, TrvArrayIn YB, TrvArrayIn ZB, TrvIn tol, TrvIntOut count,
@@ -312,9 +340,10 @@ TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
  * A point is at the first place it agrees with, else it makes a new one. Points agree when each of
  * their coordinates is equal or differs by at most the tolerance. So a NaN agrees with nothing, an
  * infinity with itself, and at a tolerance that is negative or NaN equal coordinates alone agree.
- * Time grows with na+nb+nc and the number of pairs, unless points crowd within a few tolerances: a
- * crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the call; where memory
- * is short all points are compared.
+ *
+ * Cost: time grows with na+nb+nc and the number of pairs, unless points crowd within a few
+ * tolerances: a crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the call;
+ * where memory is short all points are compared.
  *
  * Retains: nothing.
  *
@@ -340,8 +369,8 @@ TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
  * @param[out] nk        number of points at it; 0 where there is no such place
  * @param[out] PK        array of na+nb+nc, nk used: their positions, counted on through A, B and C
  * @param[out] nz        number of levels
- * @param[out] ZL        array of na+nb+nc: the distinct z of the places, ascending, as trvmer12
- *                       leaves them; unspecified from nz+1 to nout, unwritten beyond
+ * @param[out] ZL        array of na+nb+nc, nz used: the distinct z of the places, ascending, as
+ *                       trvmer12 leaves them; unspecified up to nout
  */
 TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA, TrvIntIn nb,
                         TrvArrayIn XB, TrvArrayIn YB, TrvArrayIn ZB, TrvIntIn nc, TrvArrayIn XC,
@@ -359,8 +388,10 @@ TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
  *
  * An edge counts from its lower end, included, to its upper end, excluded. So the count is even,
  * and the first and second, third and fourth crossing and so on bound the inside. Formed in double
- * precision and rounded once. Time grows with n. More than 32 crossings take up to 8*n bytes of the
- * heap for the call; where memory is short their sort takes n*log(n).
+ * precision and rounded once.
+ *
+ * Cost: time grows with n. More than 32 crossings take up to 8*n bytes of the heap for the call;
+ * where memory is short their sort takes n*log(n).
  *
  * Retains: nothing.
  *
@@ -384,7 +415,9 @@ TRELVIN_ROUTINE trvppp(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn y0, TrvIntO
  * counts when P1 and P2 are not both on the same side of the edge crossed: ends on the outline
  * count. Sides are formed in double precision, and are exact where differences of coordinates take
  * no more than 26 bits, whole numbers up to 33554432 for example; points are formed in double
- * precision and rounded once. Time grows with n, and with count*log(count); nothing is allocated.
+ * precision and rounded once.
+ *
+ * Cost: time grows with n, and with count*log(count); nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -399,10 +432,9 @@ TRELVIN_ROUTINE trvppp(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn y0, TrvIntO
  * @param[out] EDGE    array of n, count used: the edges crossed, ascending where places are equal;
  *                     edge i runs from vertex i to vertex i+1; at a vertex or a run the edge by
  *                     which the outline leaves the line
- * @param[out] status  1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1
- *                     and P2 coincide within the tolerance in both coordinates. P1 on the outline
- *                     counts as the point just to its right, or just above where that is on the
- *                     outline too
+ * @param[out] status  where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
+ *                     outside: P1 is outside the outline by the even-odd rule; -1 refused: n < 3,
+ *                     or P1 and P2 coincide within the tolerance in both coordinates
  */
 TRELVIN_ROUTINE trvpin(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn x1, TrvIn y1, TrvIn x2,
                        TrvIn y2, TrvIntOut count, TrvArrayOut XI, TrvArrayOut YI, TrvArrayOut T,

@@ -9,6 +9,12 @@
  * Lines and planes by their coefficients lose digits far from the origin: the constant grows with
  * the coordinates and cancels again. 1e5 units away a distance from a line (trvlds) has no digit
  * left, nor has an intersection (trvlni). Take a local origin first (trvtra, trv3tra).
+ *
+ *     float a1 = 1, b1 = 0, c1 = -4, a2 = 0, b2 = 1, c2 = -3, x, y;
+ *     int32_t status;
+ *     trvlni(&a1, &b1, &c1, &a2, &b2, &c2, &status, &x, &y); // x = 4 and y = 3
+ *     if (status == TRV_PLANE_LINES_ONE_POINT) printf("(%g, %g)\n", x, y);
+ *     // prints (4, 3)
  */
 #ifndef TRELVIN_PLANE_H
 #define TRELVIN_PLANE_H
@@ -66,7 +72,8 @@ TRELVIN_ROUTINE trvpre(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
  * @param[in]  x1,y1,z1  first point
  * @param[in]  x2,y2,z2  second point
  * @param[out] dx,dy,dz  second point minus first; always written
- * @param[out] status    1 each difference is within the tolerance; 0 otherwise
+ * @param[out] status    coincidence (TrvCoincidence): 1 coincident: each difference is within the
+ *                       tolerance; 0 distinct: a difference is above the tolerance or NaN
  */
 TRELVIN_ROUTINE trvcnt(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvOut dx,
                        TrvOut dy, TrvOut dz, TrvIntOut status);
@@ -77,7 +84,8 @@ TRELVIN_ROUTINE trvcnt(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
  * Retains: nothing.
  *
  * @param[in]  dx,dy,dz  vector
- * @param[out] status    1 all components are zero of either sign; 0 otherwise (a NaN included)
+ * @param[out] status    test: 1 zero: all components are zero, of either sign; 0 nonzero: a
+ *                       component is not zero, or is NaN
  */
 TRELVIN_ROUTINE trvcnt1(TrvIn dx, TrvIn dy, TrvIn dz, TrvIntOut status);
 
@@ -89,8 +97,9 @@ TRELVIN_ROUTINE trvcnt1(TrvIn dx, TrvIn dy, TrvIn dz, TrvIntOut status);
  * @param[in]  x1,y1,z1  P1, found at t = 0
  * @param[in]  x2,y2,z2  P2, found at t = 1
  * @param[in]  t         fraction of the segment, not a length; any value
- * @param[out] x,y,z     point; unwritten when status is 1
- * @param[out] status    0 done; 1 P1 and P2 coincide within the tolerance (trvcnt)
+ * @param[out] x,y,z     point; unwritten if status is 1
+ * @param[out] status    outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident:
+ *                       P1 and P2 coincide within the tolerance (trvcnt)
  */
 TRELVIN_ROUTINE trv123(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn t,
                        TrvOut x, TrvOut y, TrvOut z, TrvIntOut status);
@@ -165,7 +174,7 @@ TRELVIN_ROUTINE trvint(TrvIn x1, TrvIn x2, TrvIn y1, TrvIn y2, TrvIn x, TrvOut y
  * @param[in]  u1        ignored, as u3, u4 and u5 are
  * @param[in]  v         value
  * @param[in]  u3,u4,u5  ignored
- * @param[out] status    1 v is positive; 2 v is zero, negative or NaN
+ * @param[out] status    sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or NaN
  */
 TRELVIN_ROUTINE trvvin(TrvIn u1, TrvIn v, TrvIn u3, TrvIn u4, TrvIn u5, TrvIntOut status);
 
@@ -191,7 +200,8 @@ TRELVIN_ROUTINE trvpos(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut i);
  * @param[in]  n       number of entries
  * @param[in]  A       array of n: entries, ascending
  * @param[in]  x       value
- * @param[out] status  1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither
+ * @param[out] status  what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between:
+ *                     A(i) < x < A(i+1); 0 neither: x equals no element and lies in no interval
  * @param[out] i       first such position; 0 when status is 0
  */
 TRELVIN_ROUTINE trvpos1(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut status, TrvIntOut i);
@@ -295,8 +305,8 @@ TRELVIN_ROUTINE trvlds(TrvIn x, TrvIn y, TrvIn a, TrvIn b, TrvIn c, TrvOut d);
  *
  * @param[in]  a1,b1,c1  first line
  * @param[in]  a2,b2,c2  second line
- * @param[out] status    0 one point; 1 the same line; 2 parallel and distinct
- * @param[out] x,y       point; unwritten when status is 1 or 2
+ * @param[out] status    relation (TrvPlaneLines): 0 one_point; 1 same_line; 2 parallel
+ * @param[out] x,y       point; unwritten if status is 1 or 2
  */
 TRELVIN_ROUTINE trvlni(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c2, TrvIntOut status,
                        TrvOut x, TrvOut y);
@@ -309,9 +319,10 @@ TRELVIN_ROUTINE trvlni(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
  * @param[in]  a1,b1,c1  first line
  * @param[in]  a2,b2,c2  second line
  * @param[out] d         signed distance for which trvln2 makes the second line of the first:
- *                       positive towards the normal (a1, b1); 0 when status is 1; unwritten when it
- *                       is 0; formed in double precision and rounded once
- * @param[out] status    0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells
+ *                       positive towards the normal (a1, b1); 0 if status is 1; formed in double
+ *                       precision and rounded once; unwritten if status is 0
+ * @param[out] status    relation (TrvPlaneLines): 0 one_point; 1 same_line; 2 parallel: the lines
+ *                       are parallel and distinct, as trvlni finds
  */
 TRELVIN_ROUTINE trvlul(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c2, TrvOut d,
                        TrvIntOut status);
@@ -323,8 +334,9 @@ TRELVIN_ROUTINE trvlul(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
  *
  * @param[in]  p1,p2,p3  first triple
  * @param[in]  q1,q2,q3  second triple
- * @param[out] code      0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and
- *                       third; 7 first and third
+ * @param[out] code      which components differ by more than the tolerance (TrvComponents): 0 none;
+ *                       1 all; 2 first; 3 second; 4 third; 5 first_second; 6 second_third; 7
+ *                       first_third
  */
 TRELVIN_ROUTINE trvpsn(TrvIn p1, TrvIn p2, TrvIn p3, TrvIn q1, TrvIn q2, TrvIn q3, TrvIntOut code);
 
@@ -340,9 +352,11 @@ TRELVIN_ROUTINE trvpsn(TrvIn p1, TrvIn p2, TrvIn p3, TrvIn q1, TrvIn q2, TrvIn q
  * @param[in]  dx,dy,dz  direction D, of any length
  * @param[in]  px,py,pz  point P
  * @param[in]  tol       largest coordinate difference allowed, itself included
- * @param[out] code      0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y;
- *                       4 z; 5 x and y; 6 y and z; 7 x and z
- * @param[out] on        1 P lies on the line; 0 it does not, and always when code is 0
+ * @param[out] code      which components of (P0 + D) - P0 are above the tolerance (TrvComponents):
+ *                       0 none; 1 all; 2 first; 3 second; 4 third; 5 first_second; 6 second_third;
+ *                       7 first_third
+ * @param[out] on        test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the
+ *                       line, or code is 0
  */
 TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn dz, TrvIn px,
                        TrvIn py, TrvIn pz, TrvIn tol, TrvIntOut code, TrvIntOut on);
@@ -357,7 +371,7 @@ TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn d
  * line at minus the station. One call with planes that are nearly parallel, infinite or NaN can
  * leave a station that is infinite or NaN; no later call recovers from it.
  *
- * Retains: the station X, Y, Z, shared with no other routine.
+ * Retains: the station X, Y, Z (trvln7).
  *
  * @param[in]  a1,b1,c1,d1  first plane
  * @param[in]  a2,b2,c2,d2  second plane
@@ -366,9 +380,11 @@ TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn d
  * @param[out] ey           a1*c2 - c1*a2, the second component of the cross product negated
  * @param[in]  ez           third component: read, neither computed nor written
  * @param[in]  tol          largest coordinate difference allowed, itself included
- * @param[out] code         0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex;
- *                          3 ey; 4 ez; 5 ex and ey; 6 ey and ez; 7 ex and ez
- * @param[out] on           1 P agrees with the line at the station; 0 it does not
+ * @param[out] code         which components of (ex, ey, ez) are above the tolerance
+ *                          (TrvComponents): 0 none; 1 all; 2 first; 3 second; 4 third; 5
+ *                          first_second; 6 second_third; 7 first_third
+ * @param[out] on           test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
+ *                          not match the line at the station
  */
 TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b2, TrvIn c2,
                        TrvIn d2, TrvIn px, TrvIn py, TrvIn pz, TrvOut ex, TrvOut ey, TrvIn ez,
@@ -431,9 +447,11 @@ TRELVIN_ROUTINE trvphi1(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
  *
  * @param[in]  ux,uy,uz  direction of the first line
  * @param[in]  vx,vy,vz  direction of the second line
- * @param[out] phi       angle in [0, pi/2]; unwritten when a direction has no length
- * @param[out] status    -1 a direction's length is within the tolerance; unwritten otherwise: set
- *                       it beforehand
+ * @param[out] phi       angle in [0, pi/2]; unwritten on a condition: a direction's length is
+ *                       within the tolerance
+ * @param[out] status    outcome: -1 no_length: a direction's length is within the tolerance;
+ *                       unwritten on a condition: neither direction's length is within the
+ *                       tolerance, so it must be set beforehand
  */
 TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn vz, TrvOut phi,
                         TrvIntOut status);
@@ -451,8 +469,9 @@ TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
  * @param[in]  x0,y0,z0  vertex P0
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
- * @param[out] chi       angle in [0, 2*pi); unwritten when status is 1
- * @param[out] status    0 done; 1 P1 or P2 coincides with P0 (trvcnt)
+ * @param[out] chi       angle in [0, 2*pi); unwritten if status is 1
+ * @param[out] status    outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident:
+ *                       P1 or P2 coincides with P0 (trvcnt)
  */
 TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvOut chi, TrvIntOut status);
@@ -468,8 +487,9 @@ TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  *
  * @param[in]  X,Y     arrays of n: vertices, the first not repeated
  * @param[in]  n       number of vertices
- * @param[out] status  1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a
- *                     side whose length is within the tolerance
+ * @param[out] status  test: 1 convex: the outline is convex; 0 not_convex: the outline is not
+ *                     convex, or winds more than once; -1 refused: n < 3, or the length of a side
+ *                     is within the tolerance
  */
 TRELVIN_ROUTINE trvcnv(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIntOut status);
 
@@ -482,9 +502,10 @@ TRELVIN_ROUTINE trvcnv(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIntOut status)
  * @param[in]  x2,y2,z2  P2
  * @param[in]  x3,y3,z3  P3
  * @param[in]  x4,y4,z4  P4
- * @param[out] cphi      cosine; unwritten when status is 1
- * @param[out] sphi      sine, never negative; unwritten when status is 1
- * @param[out] status    0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt)
+ * @param[out] cphi      cosine; unwritten if status is 1
+ * @param[out] sphi      sine, never negative; unwritten if status is 1
+ * @param[out] status    outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident:
+ *                       P1 and P2, or P3 and P4, coincide (trvcnt)
  */
 TRELVIN_ROUTINE trvtrg(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn x3,
                        TrvIn y3, TrvIn z3, TrvIn x4, TrvIn y4, TrvIn z4, TrvOut cphi, TrvOut sphi,
@@ -500,8 +521,11 @@ TRELVIN_ROUTINE trvtrg(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
  *
  * @param[in]  ux,uy,uz  u
  * @param[in]  vx,vy,vz  v
- * @param[out] code      0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all
- *                       components of u, or of v, are within the tolerance
+ * @param[out] code      relation: 0 oblique: u and v have neither the same, opposite nor
+ *                       perpendicular directions; 1 same: the directions are the same; 2 opposite:
+ *                       the directions are opposite; 3 perpendicular: the directions are
+ *                       perpendicular; 4 zero: all components of u, or of v, are within the
+ *                       tolerance
  */
 TRELVIN_ROUTINE trvdir(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn vz, TrvIntOut code);
 
@@ -519,9 +543,13 @@ TRELVIN_ROUTINE trvdir(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn v
  *
  * @param[in]  a1,b1,c1,d1  first plane
  * @param[in]  a2,b2,c2,d2  second plane
- * @param[out] code         0 they cross; 1 parallel, normals in the same direction; 2 parallel,
- *                          normals opposite; 3 coincident, normals in the same direction; 4
- *                          coincident, normals opposite; 5 perpendicular; 6 a normal is zero
+ * @param[out] code         relation: 0 crossing: the planes cross, not at a right angle; 1
+ *                          parallel_same: the planes are parallel and distinct, their normals in
+ *                          the same direction; 2 parallel_opposite: the planes are parallel and
+ *                          distinct, their normals opposite; 3 coincident_same: the planes
+ *                          coincide, their normals in the same direction; 4 coincident_opposite:
+ *                          the planes coincide, their normals opposite; 5 perpendicular: the planes
+ *                          are perpendicular; 6 zero_normal: a normal is zero
  */
 TRELVIN_ROUTINE trvdirp(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b2, TrvIn c2,
                         TrvIn d2, TrvIntOut code);

@@ -9,6 +9,13 @@
  *
  * A section is the sum of its parts, which trvair, trvstm and trvinm give one by one, each with a
  * factor. No routine here retains anything.
+ *
+ *     float x[4] = {0, 6, 6}, y[4] = {0, 0, 4}; // the spare element is the library's
+ *     float value = 0, factor = 1, area = 0;
+ *     int32_t n = 3, kind = TRV_PART_POLYGON;
+ *     trvair(x, y, &n, &kind, &value, &factor, &area);
+ *     printf("%g\n", area);
+ *     // prints 12
  */
 #ifndef TRELVIN_PROPERTIES_H
 #define TRELVIN_PROPERTIES_H
@@ -24,8 +31,9 @@
  * half the sum of (y(i+1) - y(i))*(x(i) + x(i+1)) over the n edges, summed in double precision and
  * rounded once, so that an outline far from the origin keeps its figures. Positive for a
  * counter-clockwise outline (x to the right, y up), negative for a clockwise one; loops of a
- * self-intersecting outline add up with their signs. The last vertex may repeat the first. The time
- * grows with n.
+ * self-intersecting outline add up with their signs. The last vertex may repeat the first.
+ *
+ * Cost: the time grows with n.
  *
  * Retains: nothing.
  *
@@ -43,8 +51,9 @@ TRELVIN_ROUTINE trvapl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut area
  * The exact integrals over the closed outline by Green's theorem, Sx = -1/2 integral of y^2 dx and
  * Sy = 1/2 integral of x^2 dy along it, as sums over the edges in double precision, each rounded
  * once. Right for a counter-clockwise outline, negated for a clockwise one; loops of a
- * self-intersecting outline add up with their signs. The last vertex may repeat the first. The time
- * grows with n.
+ * self-intersecting outline add up with their signs. The last vertex may repeat the first.
+ *
+ * Cost: the time grows with n.
  *
  * Retains: nothing.
  *
@@ -60,11 +69,13 @@ TRELVIN_ROUTINE trvspl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut sx, 
 /**
  * Second moments of a polygon.
  *
- * The exact integrals over the closed outline by Green's theorem, Ix = -1/3 integral of y^3 dx,
- * Iy = 1/3 integral of x^3 dy and Ixy = 1/2 integral of x^2*y dy along it, as sums over the edges
- * in double precision, each rounded once. Right for a counter-clockwise outline, negated for a
+ * The exact integrals over the closed outline by Green's theorem, Ix = -1/3 integral of y^3 dx, Iy
+ * = 1/3 integral of x^3 dy and Ixy = 1/2 integral of x^2*y dy along it, as sums over the edges in
+ * double precision, each rounded once. Right for a counter-clockwise outline, negated for a
  * clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex may
- * repeat the first. The time grows with n.
+ * repeat the first.
+ *
+ * Cost: the time grows with n.
  *
  * Retains: nothing.
  *
@@ -97,7 +108,7 @@ TRELVIN_ROUTINE trvipl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut ix, 
  * @param[in]  xc,yc  centre
  * @param[in]  x1,y1  first end of the chord P1
  * @param[in]  x2,y2  second end of the chord P2
- * @param[in]  kind   5 the larger segment; any other value the smaller one
+ * @param[in]  kind   part kind (TrvPart): 5 larger_segment; any other value is the smaller segment
  * @param[out] area   area, positive
  * @param[out] xs,ys  centroid
  */
@@ -119,7 +130,7 @@ TRELVIN_ROUTINE trvacp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * @param[in]  xc,yc  centre
  * @param[in]  x1,y1  first end of the chord P1
  * @param[in]  x2,y2  second end of the chord P2
- * @param[in]  kind   5 the larger segment; any other value the smaller one
+ * @param[in]  kind   part kind (TrvPart): 5 larger_segment; any other value is the smaller segment
  * @param[out] ix     second moment about the x axis, the integral of y*y dA
  * @param[out] iy     second moment about the y axis, the integral of x*x dA
  * @param[out] ixy    area*xs*ys, without the segment's own product of inertia about its centroid:
@@ -141,13 +152,14 @@ TRELVIN_ROUTINE trvicp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * @param[inout] x,y     arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
  *                       element n+1 is overwritten with vertex 1 for kind 2, nothing is written
  *                       otherwise; nothing is read for an unknown kind
- * @param[in]    n       vertices of kind 2, at least 0, which gives 0: for a negative n element
- *                       n+1 would be before the arrays; ignored for other kinds
- * @param[in]    kind    1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
- *                       counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle;
- *                       4 smaller circular segment, point 1 the centre, 2 and 3 the ends of its
- *                       chord; 5 larger circular segment, likewise; any other value is an unknown
- *                       kind
+ * @param[in]    n       vertices of kind 2, at least 0, which gives 0: for a negative n element n+1
+ *                       would be before the arrays; ignored for other kinds
+ * @param[in]    kind    part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2
+ *                       polygon: points 1 to n are the vertices, counter-clockwise; 3 circle: a
+ *                       full circle, point 1 is its centre, point 2 is on it; 4 smaller_segment:
+ *                       the smaller circular segment, point 1 is the centre, points 2 and 3 are the
+ *                       ends of its chord; 5 larger_segment: the larger circular segment, given as
+ *                       the smaller one; any other value is an unknown kind
  * @param[in]    value   area for kind 1, ignored otherwise
  * @param[in]    factor  multiplies the result. A hole is a part with the factor -1, a polygon then
  *                       still counter-clockwise: a clockwise one with -1 adds
@@ -170,11 +182,12 @@ TRELVIN_ROUTINE trvair(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
  *                       otherwise; nothing is read for an unknown kind
  * @param[in]    n       vertices of kind 2, at least 0, which gives zeros: for a negative n element
  *                       n+1 would be before the arrays; ignored for other kinds
- * @param[in]    kind    1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
- *                       counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle;
- *                       4 smaller circular segment, point 1 the centre, 2 and 3 the ends of its
- *                       chord; 5 larger circular segment, likewise; any other value is an unknown
- *                       kind
+ * @param[in]    kind    part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2
+ *                       polygon: points 1 to n are the vertices, counter-clockwise; 3 circle: a
+ *                       full circle, point 1 is its centre, point 2 is on it; 4 smaller_segment:
+ *                       the smaller circular segment, point 1 is the centre, points 2 and 3 are the
+ *                       ends of its chord; 5 larger_segment: the larger circular segment, given as
+ *                       the smaller one; any other value is an unknown kind
  * @param[in]    value   area for kind 1, ignored otherwise
  * @param[in]    factor  multiplies the results. A hole is a part with the factor -1, a polygon then
  *                       still counter-clockwise: a clockwise one with -1 adds
@@ -208,11 +221,13 @@ TRELVIN_ROUTINE trvstm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
  *                          otherwise; nothing is read for an unknown kind
  * @param[in]    n          vertices of kind 2, at least 0, which gives zeros: for a negative n
  *                          element n+1 would be before the arrays; ignored for other kinds
- * @param[in]    kind       1 area concentrated at point 1, or a region with that centroid by its
- *                          own moments; 2 polygon, points 1 to n the vertices, counter-clockwise;
- *                          3 full circle, point 1 the centre, 2 on the circle; 4 smaller circular
- *                          segment, point 1 the centre, 2 and 3 the ends of its chord; 5 larger
- *                          circular segment, likewise; any other value is an unknown kind
+ * @param[in]    kind       part kind (TrvPart): 1 concentrated: area concentrated at point 1, or a
+ *                          region with that centroid by its own moments; 2 polygon: points 1 to n
+ *                          are the vertices, counter-clockwise; 3 circle: a full circle, point 1 is
+ *                          its centre, point 2 is on it; 4 smaller_segment: the smaller circular
+ *                          segment, point 1 is the centre, points 2 and 3 are the ends of its
+ *                          chord; 5 larger_segment: the larger circular segment, given as the
+ *                          smaller one; any other value is an unknown kind
  * @param[in]    value      area for kind 1, ignored otherwise
  * @param[in]    angle      turn of the own axes in radians for kind 1, ignored otherwise
  * @param[in]    factor     multiplies the results. A hole is a part with the factor -1, a polygon
@@ -255,7 +270,8 @@ TRELVIN_ROUTINE trvinp(TrvIn ix, TrvIn iy, TrvIn ixy, TrvOut i1, TrvOut i2, TrvO
  * Integral of equally spaced samples over [a, b] by the trapezoidal rule.
  *
  * The last interior sample f(n-1) does not enter the sum, and for n = 3 no interior sample does.
- * The time grows with n.
+ *
+ * Cost: the time grows with n.
  *
  * Retains: nothing.
  *

@@ -10,6 +10,14 @@
  *
  * A polygon that trvair, trvstm and trvinm take needs a spare element behind its last vertex. Copy
  * one out of a list of several before it is passed on, or the next polygon loses its first vertex.
+ *
+ *     float B = 200, H = 15, A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2;
+ *     float Wpx, Wpy, xp, yp, It, Wt, xm, ym, Iw, r0, W1[1], W2[1];
+ *     int32_t status;
+ *     trvmxt_fb(&B, &H, &A, &xs, &ys, &Ix, &Iy, &Ixy, &I1, &I2, &alpha, &rx, &ry, &Wx1, &Wx2, &Wy1,
+ *               &Wy2, &Wpx, &Wpy, &xp, &yp, &It, &Wt, &xm, &ym, &Iw, &r0, W1, W2, &status);
+ *     if (status == TRV_STATUS_DONE) printf("A %g, Ix %g\n", A, Ix);
+ *     // prints A 3000, Ix 56250
  */
 #ifndef TRELVIN_SECTIONS_H
 #define TRELVIN_SECTIONS_H
@@ -46,7 +54,7 @@ TRELVIN_ROUTINE trvro2(TrvIn b, TrvIn t, TrvIn r1, TrvIn r2, TrvIn psi, TrvIn ks
  * NaN, the factor of the previous call stands; zero after loading, which gives ceff = 0. The
  * reduction is that of trvro2 for psi = 1.
  *
- * Retains: the buckling factor, shared with none.
+ * Retains: the buckling factor (trvefr).
  *
  * @param[in]  c     width of the fold
  * @param[in]  bp    width of the plate
@@ -83,8 +91,8 @@ TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ce
  * @param[in]  r2   square root of the reference strength: sqrt(235) for N/mm2
  * @param[in]  s1   stress at the more compressed edge
  * @param[in]  s2   stress at the other edge
- * @param[out] be1  effective width at the edge of s1
- * @param[out] be2  effective width at the other edge; both unwritten when both stresses are
+ * @param[out] be1  effective width at the edge of s1; unwritten on a condition: that of be2
+ * @param[out] be2  effective width at the other edge; unwritten on a condition: both stresses are
  *                  within the tolerance, s1 is not positive, s2 is above s1 by more than the
  *                  tolerance, or s2 = -3*s1
  */
@@ -103,7 +111,7 @@ TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1,
  * @param[in]  B2,T2           width and thickness of flange 2, at the top
  * @param[in]  TW              web thickness
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 1
+ * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 12
  * @param[out] X,Y             arrays of 12: vertices about the middle of the bounding box
  * @param[out] code            array of 1: 2, the part kind "polygon" of trvair
@@ -127,7 +135,7 @@ TRELVIN_ROUTINE trvsec_ia(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn
  * @param[in]  B2,T2           width and thickness of flange 2, on the right
  * @param[in]  TW              web thickness
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 1
+ * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 12
  * @param[out] X,Y             arrays of 12: vertices about the middle of the bounding box
  * @param[out] code            array of 1: 2, the part kind "polygon" of trvair
@@ -150,7 +158,7 @@ TRELVIN_ROUTINE trvsec_h(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
  * @param[in]  H               height
  * @param[in]  TW              stem thickness
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 1
+ * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 8
  * @param[out] X,Y             arrays of 8: vertices about the middle of the bounding box
  * @param[out] code            array of 1: 2, the part kind "polygon" of trvair
@@ -171,10 +179,9 @@ TRELVIN_ROUTINE trvsec_t(TrvIn B, TrvIn H, TrvIn TF, TrvIn TW, TrvIn q, TrvIntOu
  * @param[in]  B               width, an Integer
  * @param[in]  H               height
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 1
+ * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 12, although X and Y receive 4
- * @param[out] X,Y             arrays of 12: the 4 vertices; provide for 12 and read 4, the rest is
- *                             unwritten
+ * @param[out] X,Y             arrays of 12, 4 used: the 4 vertices; provide for 12 and read 4
  * @param[out] code            array of 1: 2, the part kind "polygon" of trvair
  * @param[out] sign            array of 1: 1, of a solid, the factor of trvair
  * @param[out] z1,z2,z3,z4,z5  arrays of 1: 0
@@ -198,7 +205,7 @@ TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArray
  * @param[in]  T1,T2           thicknesses of the left and the right flange
  * @param[in]  TW              web thickness
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 2
+ * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 12, 4
  * @param[out] X,Y             arrays of 16: vertices, of the solid and of its cell
  * @param[out] code            array of 2: 2, 2, the part kind "polygon" of trvair
@@ -223,7 +230,7 @@ TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn 
  * @param[in]  TW              thickness of each web
  * @param[in]  G               clear distance of the webs
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 2
+ * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 12, 4
  * @param[out] X,Y             arrays of 16: vertices, of the solid and of its cell
  * @param[out] code            array of 2: 2, 2, the part kind "polygon" of trvair
@@ -245,7 +252,7 @@ TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvI
  * @param[in]  B,H             width and height
  * @param[in]  T               wall thickness
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 2
+ * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 4, 4
  * @param[out] X,Y             arrays of 8: vertices, of the solid and of its cell
  * @param[out] code            array of 2: 2, 2, the part kind "polygon" of trvair
@@ -267,7 +274,7 @@ TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, Trv
  * @param[in]  H,TV            height and thickness of a vertical leg
  * @param[in]  G               gap between the vertical legs
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 2
+ * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 6, 6
  * @param[out] X,Y             arrays of 12: vertices, of the left angle and of the right one
  * @param[out] code            array of 2: 2, 2, the part kind "polygon" of trvair
@@ -292,7 +299,7 @@ TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q,
  * @param[in]  TW              thickness of each web
  * @param[in]  TB              thickness of the bottom plate
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 2
+ * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 12, 4
  * @param[out] X,Y             arrays of 16: vertices, of the solid and of its cell
  * @param[out] code            array of 2: 2, 2, the part kind "polygon" of trvair
@@ -317,7 +324,7 @@ TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn T
  * @param[in]  TW1,TW2         thicknesses of the left and the right web
  * @param[in]  TM              thickness of the middle plate, at mid-height
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 3
+ * @param[out] np              number of polygons, always 3
  * @param[out] nv              array of 3: numbers of vertices: 12, 4, 4
  * @param[out] X,Y             arrays of 20: vertices, of the solid, the upper and the lower cell
  * @param[out] code            array of 3: 2, 2, 2, the part kind "polygon" of trvair
@@ -343,7 +350,7 @@ TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, Trv
  * @param[in]  S1,S2           legs of the fillets between the web and flanges 1, 2; 0 for none
  * @param[in]  E               distance of the web from the middle, to the right
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 1
+ * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 16
  * @param[out] X,Y             arrays of 16: vertices about the middle of the bounding box
  * @param[out] code            array of 1: 2, the part kind "polygon" of trvair
@@ -374,7 +381,7 @@ TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
  * @param[in]  TC1,TC2         thicknesses of the lips
  * @param[in]  TD1,TD2         thicknesses of the folds
  * @param[in]  q               value handed on with each polygon
- * @param[out] np              number of polygons: 1
+ * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 16
  * @param[out] X,Y             arrays of 16: vertices about the middle of the bounding box
  * @param[out] code            array of 1: 2, the part kind "polygon" of trvair
@@ -456,44 +463,50 @@ TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw);
  * Area, moments and moduli are those of the plates as rectangles about their centre lines, overlaps
  * at the joints counted twice. Shear centre, warping constant and sectorial coordinates are those
  * of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed in double precision and
- * rounded once. Time grows with n^2; no memory is taken.
+ * rounded once.
+ *
+ * Cost: time grows with n^2; no memory is taken.
  *
  * Retains: nothing.
  *
- * @param[in]  n         number of plates
- * @param[in]  X1,Y1     arrays of n: starts of the centre lines
- * @param[in]  X2,Y2     arrays of n: ends of the centre lines
- * @param[in]  T         array of n: thicknesses
- * @param[out] A         area
- * @param[out] xs,ys     centroid
- * @param[out] Ix,Iy     second moments about the centroid, of y^2 and of x^2
- * @param[out] Ixy       product of inertia about the centroid
- * @param[out] I1        moment about the axis turned by alpha from the x axis
- * @param[out] I2        moment about the axis perpendicular to it; either may be the larger
- * @param[out] alpha     angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 where
- *                       |Ixy| is at most 1e-8*(Ix + Iy), else pi/4 where |Iy - Ix| is
- * @param[out] rx,ry     radii of gyration: sqrt(Ix/A), sqrt(Iy/A)
- * @param[out] Wx1,Wx2   elastic moduli of the top and the bottom fibre
- * @param[out] Wy1,Wy2   elastic moduli of the right and the left fibre
- * @param[out] Wpx,Wpy   plastic moduli about the equal-area axes
- * @param[out] xp,yp     equal-area axes: the vertical one at xp, the horizontal one at yp; in the
- *                       middle of a gap between the halves
- * @param[out] It        torsion constant: sum of l*t^3/3
- * @param[out] Wt        torsion modulus: It over the greatest thickness
- * @param[out] xm,ym     shear centre; the centroid where all plates are on one line
- * @param[out] Iw        warping constant
- * @param[out] r0        polar radius of gyration about the shear centre
- * @param[out] W1,W2     arrays of n: normalised sectorial coordinate at the plates' starts and
- *                       ends, counter-clockwise positive
- * @param[out] status    -1 refused, nothing else is written: n < 1, a coordinate or a thickness
- *                       that is infinite or NaN, a length or a thickness not above the tolerance;
- *                       0 done;
- *                       2 to n this plate is the first at fault, it starts at no end of an earlier
- *                       one, or ends at one and closes a cell: what is listed up to xp,yp is
- *                       written, the rest is not;
- *                       n+2 to 2*n plate status - n is the first at fault, it crosses, touches or
- *                       overlaps an earlier one elsewhere than at its start, which may close a
- *                       cell: what is listed up to xp,yp is written, the rest is not
+ * @param[in]  n        number of plates
+ * @param[in]  X1,Y1    arrays of n: starts of the centre lines
+ * @param[in]  X2,Y2    arrays of n: ends of the centre lines
+ * @param[in]  T        array of n: thicknesses
+ * @param[out] A        area; unwritten if status is -1
+ * @param[out] xs,ys    centroid; unwritten if status is -1
+ * @param[out] Ix,Iy    second moments about the centroid, of y^2 and of x^2; unwritten if status is
+ *                      -1
+ * @param[out] Ixy      product of inertia about the centroid; unwritten if status is -1
+ * @param[out] I1       moment about the axis turned by alpha from the x axis; unwritten if status
+ *                      is -1
+ * @param[out] I2       moment about the axis perpendicular to it; either may be the larger;
+ *                      unwritten if status is -1
+ * @param[out] alpha    angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 where
+ *                      |Ixy| is at most 1e-8*(Ix + Iy), else pi/4 where |Iy - Ix| is; unwritten if
+ *                      status is -1
+ * @param[out] rx,ry    radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
+ * @param[out] Wx1,Wx2  elastic moduli of the top and the bottom fibre; unwritten if status is -1
+ * @param[out] Wy1,Wy2  elastic moduli of the right and the left fibre; unwritten if status is -1
+ * @param[out] Wpx,Wpy  plastic moduli about the equal-area axes; unwritten if status is -1
+ * @param[out] xp,yp    equal-area axes: the vertical one at xp, the horizontal one at yp; in the
+ *                      middle of a gap between the halves; unwritten if status is -1
+ * @param[out] It       torsion constant: sum of l*t^3/3; unwritten unless status is 0
+ * @param[out] Wt       torsion modulus: It over the greatest thickness; unwritten unless status is
+ *                      0
+ * @param[out] xm,ym    shear centre; the centroid where all plates are on one line; unwritten
+ *                      unless status is 0
+ * @param[out] Iw       warping constant; unwritten unless status is 0
+ * @param[out] r0       polar radius of gyration about the shear centre; unwritten unless status is
+ *                      0
+ * @param[out] W1,W2    arrays of n: normalised sectorial coordinate at the plates' starts and ends,
+ *                      counter-clockwise positive; unwritten unless status is 0
+ * @param[out] status   outcome (TrvStatus): 0 done; -1 refused: n < 1, a coordinate or a thickness
+ *                      is infinite or NaN, or a length or a thickness is not above the tolerance; 2
+ *                      to n: this plate is the first at fault, it starts at no end of an earlier
+ *                      plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is the
+ *                      first at fault, it crosses, touches or overlaps an earlier plate elsewhere
+ *                      than at its start, which may close a cell
  */
 TRELVIN_ROUTINE trvmxt(TrvIntIn n, TrvArrayIn X1, TrvArrayIn Y1, TrvArrayIn X2, TrvArrayIn Y2,
                        TrvArrayIn T, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
@@ -510,28 +523,31 @@ TRELVIN_ROUTINE trvmxt(TrvIntIn n, TrvArrayIn X1, TrvArrayIn Y1, TrvArrayIn X2, 
  *
  * Retains: nothing.
  *
- * @param[in]  B         width, along x
- * @param[in]  H         height, along y
- * @param[out] A         area
- * @param[out] xs,ys     centroid: 0
- * @param[out] Ix,Iy     second moments about the centroid, of y^2 and of x^2
- * @param[out] Ixy       product of inertia: 0
- * @param[out] I1,I2     principal moments: Ix, Iy
- * @param[out] alpha     angle of the axis of I1 from the x axis: 0
- * @param[out] rx,ry     radii of gyration: sqrt(Ix/A), sqrt(Iy/A)
- * @param[out] Wx1,Wx2   elastic moduli of the top and the bottom fibre
- * @param[out] Wy1,Wy2   elastic moduli of the right and the left fibre
- * @param[out] Wpx,Wpy   plastic moduli about the x and the y axis
- * @param[out] xp,yp     equal-area axes: 0
- * @param[out] It        torsion constant
- * @param[out] Wt        torsion modulus: torque over the greatest shear stress
- * @param[out] xm,ym     shear centre: 0
- * @param[out] Iw        warping constant of the warping across the thickness: (B*H)^3/144
- * @param[out] r0        polar radius of gyration
- * @param[out] W1,W2     arrays of 1: sectorial coordinate at the centre line's ends: 0
- * @param[out] status    -1 refused, nothing else is written: a side that is infinite, NaN or not
- *                       above the tolerance;
- *                       0 done
+ * @param[in]  B        width, along x
+ * @param[in]  H        height, along y
+ * @param[out] A        area; unwritten if status is -1
+ * @param[out] xs,ys    centroid: 0; unwritten if status is -1
+ * @param[out] Ix,Iy    second moments about the centroid, of y^2 and of x^2; unwritten if status is
+ *                      -1
+ * @param[out] Ixy      product of inertia: 0; unwritten if status is -1
+ * @param[out] I1,I2    principal moments: Ix, Iy; unwritten if status is -1
+ * @param[out] alpha    angle of the axis of I1 from the x axis: 0; unwritten if status is -1
+ * @param[out] rx,ry    radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
+ * @param[out] Wx1,Wx2  elastic moduli of the top and the bottom fibre; unwritten if status is -1
+ * @param[out] Wy1,Wy2  elastic moduli of the right and the left fibre; unwritten if status is -1
+ * @param[out] Wpx,Wpy  plastic moduli about the x and the y axis; unwritten if status is -1
+ * @param[out] xp,yp    equal-area axes: 0; unwritten if status is -1
+ * @param[out] It       torsion constant; unwritten if status is -1
+ * @param[out] Wt       torsion modulus: torque over the greatest shear stress; unwritten if status
+ *                      is -1
+ * @param[out] xm,ym    shear centre: 0; unwritten if status is -1
+ * @param[out] Iw       warping constant of the warping across the thickness: (B*H)^3/144; unwritten
+ *                      if status is -1
+ * @param[out] r0       polar radius of gyration; unwritten if status is -1
+ * @param[out] W1,W2    arrays of 1: sectorial coordinate at the centre line's ends: 0; unwritten if
+ *                      status is -1
+ * @param[out] status   outcome (TrvStatus): 0 done; -1 refused: a side is infinite, NaN or not
+ *                      above the tolerance
  */
 TRELVIN_ROUTINE trvmxt_fb(TrvIn B, TrvIn H, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
                           TrvOut Ixy, TrvOut I1, TrvOut I2, TrvOut alpha, TrvOut rx, TrvOut ry,

@@ -11,6 +11,13 @@
  *
  * The three-point test trvpsl retains a cosine between calls, and every routine that runs the test
  * shares it: all that build a frame or a plane from three points or relate two lines.
+ *
+ *     float xa = 0, ya = 0, za = 0, xb = 4, yb = 0, zb = 0; // one line along x,
+ *     float xc = 0, yc = 0, zc = 3, xd = 0, yd = 4, zd = 3; // the other along y, 3 above it
+ *     int32_t status;
+ *     trvdirl(&xa, &ya, &za, &xb, &yb, &zb, &xc, &yc, &zc, &xd, &yd, &zd, &status);
+ *     if (status == TRV_LINES_SKEW) printf("skew\n");
+ *     // prints skew
  */
 #ifndef TRELVIN_SPACE_H
 #define TRELVIN_SPACE_H
@@ -22,7 +29,7 @@
 /**
  * Turns plane points about the origin, in place.
  *
- * Takes time in proportion to n and no memory.
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
@@ -36,7 +43,7 @@ TRELVIN_ROUTINE trvrot(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvIntIn
 /**
  * Turns points about the x axis, in place.
  *
- * Takes time in proportion to n and no memory.
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
@@ -54,7 +61,7 @@ TRELVIN_ROUTINE trvrotx(TrvIntIn mode, TrvArrayIn x, TrvArrayInOut y, TrvArrayIn
  *
  * Unlike its sisters it turns left-handedly about its axis unless mode is 1.
  *
- * Takes time in proportion to n and no memory.
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
@@ -71,7 +78,7 @@ TRELVIN_ROUTINE trvroty(TrvIntIn mode, TrvArrayInOut x, TrvArrayIn y, TrvArrayIn
 /**
  * Turns points about the z axis, in place.
  *
- * Takes time in proportion to n and no memory.
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
@@ -96,15 +103,13 @@ TRELVIN_ROUTINE trvrotz(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvArra
  * of the last call that found one stands (0 after loading). P0 = P1 is not tested and gives 0, as
  * does any P2 on the line whose distances from both come out equal.
  *
- * Retains: the cosine, shared with all that run the test: trvaxe, trvptrl, trvppc, trvpl1, trvpl2,
- * trvpl3, trvpl6, trvpl7, trvpsp, trvplv, trvdirl, trv3lda, trv3lni, trvlpc and those of circles.h
- * that say so.
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
- * @param[out] status    0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is
- *                       beyond P0 on their line; 5 P2 is beyond P1
+ * @param[out] status    three-point test (TrvThreePoints): 0 spans_plane; 1 at_p0; 2 at_p1; 3
+ *                       between; 4 beyond_p0; 5 beyond_p1
  */
 TRELVIN_ROUTINE trvpsl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIntOut status);
@@ -112,7 +117,7 @@ TRELVIN_ROUTINE trvpsl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 /**
  * Moves the origin of points to (dx, dy, dz), in place.
  *
- * Takes time in proportion to n and no memory.
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
@@ -146,7 +151,7 @@ TRELVIN_ROUTINE trvtrn(TrvArrayInOut p, TrvIn a1, TrvIn a2, TrvIn a3, TrvIn a4, 
  * whose length is below 1e-5 before it is normalised stays zero: all three where P0 = P1, the last
  * two where the points are very close; the status is 0 then.
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  x0,y0,z0     P0
  * @param[in]  x1,y1,z1     P1
@@ -154,7 +159,8 @@ TRELVIN_ROUTINE trvtrn(TrvArrayInOut p, TrvIn a1, TrvIn a2, TrvIn a3, TrvIn a4, 
  * @param[out] e1x,e1y,e1z  first axis
  * @param[out] e2x,e2y,e2z  second axis
  * @param[out] e3x,e3y,e3z  third axis; all nine are zero when status is -2
- * @param[out] status       0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl)
+ * @param[out] status       outcome (TrvFrame): 0 done; -2 no_frame: P2 is at P0 or P1, or the three
+ *                          points are on one line (trvpsl)
  */
 TRELVIN_ROUTINE trvaxe(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvOut e1x, TrvOut e1y, TrvOut e1z, TrvOut e2x,
@@ -178,8 +184,8 @@ TRELVIN_ROUTINE trvaxe(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[out] e1x,e1y,e1z  first axis
  * @param[out] e2x,e2y,e2z  second axis
  * @param[out] e3x,e3y,e3z  third axis; all nine are zero when status is -2
- * @param[out] status       0 done, also along y; -2 the distance of P0 and P1 is within the
- *                          tolerance
+ * @param[out] status       outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
+ *                          distance of P0 and P1 is within the tolerance
  */
 TRELVIN_ROUTINE trvaxel(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn angle,
                         TrvOut e1x, TrvOut e1y, TrvOut e1z, TrvOut e2x, TrvOut e2y, TrvOut e2z,
@@ -192,7 +198,7 @@ TRELVIN_ROUTINE trvaxel(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn 
  * left-handed about y. A shift none of whose components is above the tolerance is left out, and so
  * is a turn whose angle is not.
  *
- * Takes time in proportion to n and no memory.
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
@@ -213,18 +219,21 @@ TRELVIN_ROUTINE trvptr(TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z, TrvInt
  * coordinate.
  *
  * Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read before a
- * point is moved. Takes time in proportion to n and no memory.
+ * point is moved.
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Cost: takes time in proportion to n and no memory.
+ *
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]    x0,y0,z0  P0, the origin of the frame
  * @param[in]    x1,y1,z1  P1
  * @param[in]    x2,y2,z2  P2
- * @param[inout] X,Y,Z     arrays of n: coordinates; untouched when status is -2
+ * @param[inout] X,Y,Z     arrays of n: coordinates; unchanged if status is -2
  * @param[in]    n         number of points; below 1 only the status is written
  * @param[in]    dx,dy,dz  shift in local coordinates, before the turns
  * @param[in]    ax,ay,az  angles in radians about the local axes x, y and z
- * @param[out]   status    0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl)
+ * @param[out]   status    outcome (TrvFrame): 0 done; -2 no_frame: P2 is at P0 or P1, or the three
+ *                         points are on one line (trvpsl)
  */
 TRELVIN_ROUTINE trvptrl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                         TrvIn y2, TrvIn z2, TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z,
@@ -238,17 +247,19 @@ TRELVIN_ROUTINE trvptrl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn 
  * (trvaxel). Use trv3tra and trvroty there.
  *
  * Single inputs may be elements of the arrays, P0 and P1 two of the points: they are read before a
- * point is moved. Takes time in proportion to n and no memory.
+ * point is moved.
+ *
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
  * @param[in]    x0,y0,z0  P0
  * @param[in]    x1,y1,z1  P1
- * @param[inout] X,Y,Z     arrays of n: coordinates; untouched when status is -2
+ * @param[inout] X,Y,Z     arrays of n: coordinates; unchanged if status is -2
  * @param[in]    n         number of points; below 1 only the status is written
  * @param[in]    angle     angle in radians, right-handed about the direction from P0 to P1
- * @param[out]   status    0 done, also along y; -2 the distance of P0 and P1 is within the
- *                         tolerance
+ * @param[out]   status    outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
+ *                         distance of P0 and P1 is within the tolerance
  */
 TRELVIN_ROUTINE trvpra(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvArrayInOut X,
                        TrvArrayInOut Y, TrvArrayInOut Z, TrvIntIn n, TrvIn angle, TrvIntOut status);
@@ -261,9 +272,11 @@ TRELVIN_ROUTINE trvpra(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * (trvaxe), the points lose that coordinate.
  *
  * Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read before a
- * point is moved. Takes time in proportion to n and no memory.
+ * point is moved.
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Cost: takes time in proportion to n and no memory.
+ *
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]    x0,y0,z0  P0, the origin of the frame
  * @param[in]    x1,y1,z1  P1
@@ -272,11 +285,12 @@ TRELVIN_ROUTINE trvpra(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]    ax,ay,az  angles in radians about the local axes x, y and z, right-handed about x
  *                         and z, left-handed about y
  * @param[in]    n         number of points; below 1 only the status is written
- * @param[inout] X,Y,Z     arrays of n: coordinates; untouched unless status is 0
+ * @param[inout] X,Y,Z     arrays of n: coordinates; unchanged unless status is 0
  * @param[in]    tol       largest residual of a point of the plane, itself included: its distance
  *                         times the length of (P1 - P0) x (P2 - P0), in the cube of the length unit
- * @param[out]   status    0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1 to
- *                         n position of the first point off the plane
+ * @param[out]   status    outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or
+ *                         the three points are on one line (trvpsl); 1 to n: position of the first
+ *                         point off the plane
  */
 TRELVIN_ROUTINE trvppc(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIn dx, TrvIn dy, TrvIn dz, TrvIn ax, TrvIn ay,
@@ -306,14 +320,14 @@ TRELVIN_ROUTINE trvplg(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, 
  *
  * Far from the origin d loses digits; take a local origin there (trv3tra).
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
  * @param[out] a,b,c,d   plane; all zero when status is not 0, and where P0 = P1
- * @param[out] status    0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is
- *                       beyond P0 on their line; 5 P2 is beyond P1
+ * @param[out] status    three-point test (TrvThreePoints): 0 spans_plane; 1 at_p0; 2 at_p1; 3
+ *                       between; 4 beyond_p0; 5 beyond_p1
  */
 TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
@@ -325,7 +339,7 @@ TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * (a, b, c) = (B - A) x (D - C). Far from the origin d loses digits; take a local origin there
  * (trv3tra).
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  x,y,z     point
  * @param[in]  xa,ya,za  A, on the first line
@@ -334,9 +348,8 @@ TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  xd,yd,zd  D, on the second line
  * @param[out] a,b,c,d   plane; all zero when status is not 0; its normal is zero, or nearly, where
  *                       the lines are parallel
- * @param[out] status    0 done, also for parallel lines; 3 the lines are the same, of the same
- *                       sense; 4 the same, of opposite sense; 7 A and B, or C and D, coincide
- *                       (trvcnt)
+ * @param[out] status    outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line; 4
+ *                       opposite_line; 7 no_length: A and B, or C and D, coincide (trvcnt)
  */
 TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb,
                        TrvIn zb, TrvIn xc, TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd,
@@ -347,7 +360,7 @@ TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  *
  * Far from the origin d loses digits; take a local origin there (trv3tra).
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  xa,ya,za  A, on the first line
  * @param[in]  xb,yb,zb  B, on the first line
@@ -355,9 +368,8 @@ TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  * @param[in]  xd,yd,zd  D, on the second line
  * @param[out] a,b,c,d   plane; all zero when status is not 0; its normal is zero, or nearly, where
  *                       the lines are parallel
- * @param[out] status    0 done, also for parallel lines; 3 the lines are the same, of the same
- *                       sense; 4 the same, of opposite sense; 7 A and B, or C and D, coincide
- *                       (trvcnt)
+ * @param[out] status    outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line; 4
+ *                       opposite_line; 7 no_length: A and B, or C and D, coincide (trvcnt)
  */
 TRELVIN_ROUTINE trvpl3(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
                        TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd, TrvOut a, TrvOut b,
@@ -374,7 +386,8 @@ TRELVIN_ROUTINE trvpl3(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
  * @param[in]  xa,ya,za  A
  * @param[in]  xb,yb,zb  B; the normal is B - A
  * @param[out] a,b,c,d   plane; all zero when status is 1
- * @param[out] status    0 done; 1 A and B coincide, each coordinate within the tolerance (trvcnt)
+ * @param[out] status    outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident:
+ *                       A and B coincide, each coordinate within the tolerance (trvcnt)
  */
 TRELVIN_ROUTINE trvpl4(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb,
                        TrvIn zb, TrvOut a, TrvOut b, TrvOut c, TrvOut d, TrvIntOut status);
@@ -386,7 +399,8 @@ TRELVIN_ROUTINE trvpl4(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  *
  * @param[in]  ix,iy,iz  intercepts
  * @param[out] a,b,c,d   plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
- * @param[out] status    0 done; 1 an intercept is within the tolerance or NaN
+ * @param[out] status    outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within
+ *                       the tolerance or NaN
  */
 TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
                        TrvIntOut status);
@@ -398,18 +412,18 @@ TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut 
  * first time left (trvpsl). Far from the origin d loses digits; take a local origin there
  * (trv3tra).
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  xa,ya,za  A, on the first line
  * @param[in]  ux,uy,uz  direction of the first line
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  wx,wy,wz  direction of the second line
- * @param[out] a,b,c,d   plane; its normal is zero, or nearly, for parallel lines; unwritten when
- *                       the first relation is 3, 4, 6 or 7; all zero where only the second is 3 or
- *                       4
- * @param[out] status    0 done, also for parallel lines; 3 the lines are the same, of the same
- *                       sense; 4 the same, of opposite sense; 6 the lines are skew; 7 a direction
- *                       is within the tolerance in each component
+ * @param[out] a,b,c,d   plane; its normal is zero, or nearly, for parallel lines; all zero if only
+ *                       the second relation is 3 or 4; unwritten on a condition: the first relation
+ *                       is 3, 4, 6 or 7
+ * @param[out] status    outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line; 4
+ *                       opposite_line; 6 skew; 7 no_length: a direction is within the tolerance in
+ *                       each component
  */
 TRELVIN_ROUTINE trvpl6(TrvIn xa, TrvIn ya, TrvIn za, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn xc,
                        TrvIn yc, TrvIn zc, TrvIn wx, TrvIn wy, TrvIn wz, TrvOut a, TrvOut b,
@@ -422,16 +436,16 @@ TRELVIN_ROUTINE trvpl6(TrvIn xa, TrvIn ya, TrvIn za, TrvIn ux, TrvIn uy, TrvIn u
  * the digits that P0 has; at angle 0 it is the third axis of trvaxe. Far from the origin d loses
  * digits; take a local origin there (trv3tra).
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
  * @param[in]  angle     angle in radians, right-handed about the direction from P0 to P1
  * @param[out] a,b,c,d   plane; all zero when status is not 0
- * @param[out] status    0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is at
- *                       P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is
- *                       beyond P1
+ * @param[out] status    three-point test (TrvThreePoints): 0 spans_plane; 1 at_p0: P2 is at P0, or
+ *                       P0 and P0 + normal coincide (trvcnt); 2 at_p1; 3 between; 4 beyond_p0; 5
+ *                       beyond_p1
  */
 TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIn angle, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
@@ -442,7 +456,7 @@ TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  *
  * Far from the origin the figure loses digits; take a local origin there (trv3tra).
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1
@@ -450,8 +464,9 @@ TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  x,y,z     point
  * @param[in]  tol       largest residual allowed, itself included: the distance times the length of
  *                       (P1 - P0) x (P2 - P0), in the cube of the length unit
- * @param[out] status    0 it does, and any point does where P0 = P1; -1 it does not, or the three
- *                       points span no plane (trvpsl)
+ * @param[out] status    test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if
+ *                       P0 = P1; -1 no: the point does not lie on the plane, or the three points
+ *                       span no plane (trvpsl)
  */
 TRELVIN_ROUTINE trvpsp(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIn x, TrvIn y, TrvIn z, TrvIn tol, TrvIntOut status);
@@ -480,8 +495,8 @@ TRELVIN_ROUTINE trvpld(TrvIn x, TrvIn y, TrvIn z, TrvIn a, TrvIn b, TrvIn c, Trv
  * @param[in]  x,y,z    point
  * @param[in]  a,b,c,d  plane a*x + b*y + c*z + d = 0
  * @param[in]  tol      largest distance allowed, itself included
- * @param[out] status   0 it does; -1 it does not, or the distance is NaN; 1 the normal is exactly
- *                      zero
+ * @param[out] status   test (TrvOnPlane): 0 yes; -1 no: the point does not lie on the plane, or the
+ *                      distance is NaN; 1 zero_normal
  */
 TRELVIN_ROUTINE trvpspg(TrvIn x, TrvIn y, TrvIn z, TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIn tol,
                         TrvIntOut status);
@@ -489,13 +504,16 @@ TRELVIN_ROUTINE trvpspg(TrvIn x, TrvIn y, TrvIn z, TrvIn a, TrvIn b, TrvIn c, Tr
 /**
  * Relation of two directions, taken as lines through the origin.
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  ux,uy,uz  u
  * @param[in]  wx,wy,wz  w
  * @param[in]  v7,v8     ignored
- * @param[out] status    -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5
- *                       perpendicular; 7 u or w is within the tolerance in each component
+ * @param[out] status    relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the
+ *                       same, opposite nor perpendicular directions; 3 same: the directions are the
+ *                       same; 4 opposite: the directions are opposite; 5 perpendicular: the
+ *                       directions are perpendicular; 7 zero: u or w is within the tolerance in
+ *                       each component
  */
 TRELVIN_ROUTINE trvplv(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy, TrvIn wz, TrvIn v7,
                        TrvIn v8, TrvIntOut status);
@@ -504,17 +522,18 @@ TRELVIN_ROUTINE trvplv(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy, TrvIn w
  * Points of a list on a plane, by a running residual.
  *
  * The residual starts at d and is not reset between points: each point adds a*x, b*y and c*z to it,
- * in this order, and is found when it is exactly zero then. Takes time in proportion to n and no
- * memory.
+ * in this order, and is found when it is exactly zero then.
+ *
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
  * @param[in]    X,Y,Z  arrays of n: coordinates
  * @param[in]    a,b,c  normal of the plane
- * @param[inout] d      constant of the plane; the last residual afterwards; untouched when n < 1
+ * @param[inout] d      constant of the plane; the last residual afterwards; unchanged if n < 1
  * @param[in]    n      number of points
  * @param[out]   count  how many are found
- * @param[out]   index  array of n, count used: their positions, ascending; unwritten beyond count
+ * @param[out]   index  array of n, count used: their positions, ascending
  */
 TRELVIN_ROUTINE trvpnp(TrvArrayIn X, TrvArrayIn Y, TrvArrayIn Z, TrvIn a, TrvIn b, TrvIn c,
                        TrvInOut d, TrvIntIn n, TrvIntOut count, TrvIntArrayOut index);
@@ -528,17 +547,15 @@ TRELVIN_ROUTINE trvpnp(TrvArrayIn X, TrvArrayIn Y, TrvArrayIn Z, TrvIn a, TrvIn 
  * for D. Skew means that the triple product of B - A, D - C and C - A is above the tolerance; it is
  * not scaled, so long lines count as skew sooner.
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  xa,ya,za  A, on the first line
  * @param[in]  xb,yb,zb  B, on the first line
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  xd,yd,zd  D, on the second line
- * @param[out] status    0 they cross, not at a right angle; 1 parallel and distinct, of the same
- *                       sense; 2 parallel and distinct, of opposite sense; 3 the same line, of the
- *                       same sense; 4 the same line, of opposite sense; 5 they cross at a right
- *                       angle; 6 skew; 7 A and B, or C and D, coincide, each coordinate within the
- *                       tolerance
+ * @param[out] status    relation (TrvLines): 0 crossing; 1 parallel_same; 2 parallel_opposite; 3
+ *                       same_line; 4 opposite_line; 5 perpendicular; 6 skew; 7 coincident: A and B,
+ *                       or C and D, coincide, each coordinate within the tolerance
  */
 TRELVIN_ROUTINE trvdirl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
                         TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd, TrvIntOut status);
@@ -554,8 +571,9 @@ TRELVIN_ROUTINE trvdirl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * @param[in]  xd,yd,zd  D
  * @param[in]  xe,ye,ze  E
  * @param[in]  xf,yf,zf  F
- * @param[out] status    0 they do not; 1 the triple product of B - A, D - C and F - E is above the
- *                       tolerance, in the cube of the length unit
+ * @param[out] status    test: 0 flat: the triple product of B - A, D - C and F - E is within the
+ *                       tolerance; 1 spanning: the triple product is above the tolerance, in the
+ *                       cube of the length unit
  */
 TRELVIN_ROUTINE trv3sp(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xc,
                        TrvIn yc, TrvIn zc, TrvIn xd, TrvIn yd, TrvIn zd, TrvIn xe, TrvIn ye,
@@ -572,7 +590,7 @@ TRELVIN_ROUTINE trv3sp(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
  * @param[in]  xa,ya,za  A
  * @param[in]  xb,yb,zb  B
  * @param[in]  xq,yq,zq  Q
- * @param[out] status    0 always
+ * @param[out] status    outcome (TrvStatus): 0 done: always
  * @param[out] dist      distance, never negative; the distance from A where A and B coincide
  *                       (trvcnt)
  */
@@ -586,12 +604,12 @@ TRELVIN_ROUTINE trv3ldb(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * +z, else +x: positive to the right of the way from A to B, seen against that normal. Far from the
  * origin the figure loses digits; take a local origin there (trv3tra).
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  xa,ya,za  A
  * @param[in]  xb,yb,zb  B
  * @param[in]  xq,yq,zq  Q
- * @param[out] status    0 always
+ * @param[out] status    outcome (TrvStatus): 0 done: always
  * @param[out] dist      distance; 0 where Q is on the line or very close to a short one (trvaxe);
  *                       the distance from A where A and B coincide (trvcnt)
  */
@@ -607,20 +625,22 @@ TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * Parallel lines have no point: the caller's xi and yi are read, as local coordinates, and come
  * back in global ones, with status 0.
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
- * @param[inout] xa,ya,za  A; zero afterwards; untouched when status is not 0
+ * @param[inout] xa,ya,za  A; zero afterwards; unchanged unless status is 0
  * @param[in]    ux,uy,uz  direction of the first line
- * @param[inout] xc,yc,zc  C; C - A afterwards; untouched when status is not 0
+ * @param[inout] xc,yc,zc  C; C - A afterwards; unchanged unless status is 0
  * @param[in]    wx,wy,wz  direction of the second line
- * @param[out]   status    0 done, also for parallel lines; 3 the lines are the same, of the same
- *                         sense; 4 the same, of opposite sense; 6 the lines are skew; 7 a direction
- *                         is within the tolerance in each component
- * @param[out]   xi,yi,zi  point; unwritten when status is not 0
+ * @param[out]   status    outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line; 4
+ *                         opposite_line; 6 skew; 7 no_length: a direction is within the tolerance
+ *                         in each component
+ * @param[inout] xi,yi     x and y of the point; read if the lines are parallel, as local
+ *                         coordinates; unchanged unless status is 0
+ * @param[out]   zi        z of the point; unwritten unless status is 0
  */
 TRELVIN_ROUTINE trv3lni(TrvInOut xa, TrvInOut ya, TrvInOut za, TrvIn ux, TrvIn uy, TrvIn uz,
                         TrvInOut xc, TrvInOut yc, TrvInOut zc, TrvIn wx, TrvIn wy, TrvIn wz,
-                        TrvIntOut status, TrvOut xi, TrvOut yi, TrvOut zi);
+                        TrvIntOut status, TrvInOut xi, TrvInOut yi, TrvOut zi);
 
 /**
  * Intersection of the line P + t*u with a plane.
@@ -632,10 +652,10 @@ TRELVIN_ROUTINE trv3lni(TrvInOut xa, TrvInOut ya, TrvInOut za, TrvIn ux, TrvIn u
  * @param[in]  x,y,z     P
  * @param[in]  ux,uy,uz  direction u, of any length
  * @param[in]  a,b,c,d   plane a*x + b*y + c*z + d = 0
- * @param[out] xi,yi,zi  point; unwritten when status is 3 or 4
- * @param[out] status    0 done; 3 the line is parallel to the plane: the cosine of u and the normal
- *                       is within the tolerance; 4 u or the normal is within the tolerance in each
- *                       component
+ * @param[out] xi,yi,zi  point; unwritten if status is 3 or 4
+ * @param[out] status    outcome: 0 done: the point is computed; 3 parallel: the line is parallel to
+ *                       the plane, the cosine of u and the normal is within the tolerance; 4 zero:
+ *                       u or the normal is within the tolerance in each component
  */
 TRELVIN_ROUTINE trvpli(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn a, TrvIn b,
                        TrvIn c, TrvIn d, TrvOut xi, TrvOut yi, TrvOut zi, TrvIntOut status);
@@ -649,17 +669,21 @@ TRELVIN_ROUTINE trvpli(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, 
  * Retains: nothing.
  *
  * @param[in]  a,b,c,d   plane a*x + b*y + c*z + d = 0
- * @param[out] position  1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4 parallel
- *                       to the z axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to
- *                       the y axis; 8 the plane z = 0; 9 the plane x = 0; 10 the plane y = 0
+ * @param[out] position  position: 1 general: the plane is parallel to no axis; 2 parallel_x: the
+ *                       plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the
+ *                       y axis; 4 parallel_z: the plane is parallel to the z axis; 5 normal_z: the
+ *                       plane is normal to the z axis; 6 normal_x: the plane is normal to the x
+ *                       axis; 7 normal_y: the plane is normal to the y axis; 8 at_z_zero: the plane
+ *                       is z = 0; 9 at_x_zero: the plane is x = 0; 10 at_y_zero: the plane is y = 0
  */
 TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position);
 
 /**
  * Points of a list near a line.
  *
- * Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component. Takes
- * time in proportion to n and no memory.
+ * Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component.
+ *
+ * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.
  *
@@ -670,9 +694,9 @@ TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position);
  *                       with 1 to n in this order
  * @param[in]  n         number of points
  * @param[in]  tol       largest distance allowed, itself included; a NaN distance is not
- * @param[out] status    0 always; unwritten when n < 1
+ * @param[out] status    outcome (TrvStatus): 0 done: always; unwritten if n < 1
  * @param[out] count     how many are found
- * @param[out] index     array of n, count used: their positions, ascending; unwritten beyond count
+ * @param[out] index     array of n, count used: their positions, ascending
  */
 TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvArrayIn X,
                        TrvArrayIn Y, TrvFunctionIn zf, TrvIntIn n, TrvIn tol, TrvIntOut status,
@@ -684,17 +708,19 @@ TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
  * P and Q1 move by dP and dQ1; Q2 keeps its place on their line in proportion. Only the relation of
  * the lines Q2-P and Q1-P tells whether the three are collinear (trvdirl).
  *
- * Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+ * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]    xp,yp,zp     P
  * @param[in]    x1,y1,z1     Q1
- * @param[inout] x2,y2,z2     Q2; untouched when status is 0
+ * @param[inout] x2,y2,z2     Q2; unchanged if status is 0
  * @param[in]    dxp,dyp,dzp  move of P
  * @param[in]    dx1,dy1,dz1  move of Q1
- * @param[out]   status       0 not moved: the three points are not collinear, or Q1 is at P; 3
- *                            moved, Q1 and Q2 on one side of P; 4 moved, on either side of P; 6
- *                            moved, rounding takes the three for skew lines; 7 moved, Q2 is at P,
- *                            or Q1 is by each coordinate yet not by its distance
+ * @param[out]   status       outcome: 0 not_moved: the three points are not collinear, or Q1 is at
+ *                            P; 3 moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4
+ *                            moved_either_side: Q2 is moved, Q1 and Q2 are on either side of P; 6
+ *                            moved_skew: Q2 is moved, rounding takes the three points for skew
+ *                            lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each
+ *                            coordinate yet not by its distance
  */
 TRELVIN_ROUTINE trvlpc(TrvIn xp, TrvIn yp, TrvIn zp, TrvIn x1, TrvIn y1, TrvIn z1, TrvInOut x2,
                        TrvInOut y2, TrvInOut z2, TrvIn dxp, TrvIn dyp, TrvIn dzp, TrvIn dx1,

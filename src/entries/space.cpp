@@ -339,7 +339,7 @@ TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
 
 TRELVIN_ROUTINE trv3lni(TrvInOut xa, TrvInOut ya, TrvInOut za, TrvIn ux, TrvIn uy, TrvIn uz,
                         TrvInOut xc, TrvInOut yc, TrvInOut zc, TrvIn wx, TrvIn wy, TrvIn wz,
-                        TrvIntOut status, TrvOut xi, TrvOut yi, TrvOut zi) {
+                        TrvIntOut status, TrvInOut xi, TrvInOut yi, TrvOut zi) {
   const Door door;
   // Parallel lines have no point of their own: the caller's xi and yi are read for it.
   const SpaceIntersection found = intersect(Point3{xa, ya, za}, {ux, uy, uz}, Point3{xc, yc, zc},

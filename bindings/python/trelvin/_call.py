@@ -7,6 +7,7 @@ import inspect
 import math
 import re
 import struct
+from enum import IntEnum
 from functools import lru_cache
 from pathlib import Path
 from typing import Any, Callable, NamedTuple
@@ -70,7 +71,10 @@ class Routine:
 
     by_name: dict[str, Routine] = {}
 
-    def __init__(self, name: str, result: type | None, arguments: str, retains: bool = False):
+    def __init__(
+        self, name: str, result: type | None, arguments: str, retains: bool = False,
+        values: dict[str, type[IntEnum]] | None = None,
+    ):  # fmt: skip
         self.name = name
         self.arguments = [_argument(text) for text in arguments.split("; ")]
         self.inputs = [a for a in self.arguments if a.direction != "out"]
@@ -81,6 +85,11 @@ class Routine:
         }
         self.array_outputs = [a for a in outputs if a.is_array]
         self.result = result
+        self.values = [  # of the results: the place, and the members by their numbers
+            (i, {member.value: member for member in values[a.name]})
+            for i, a in enumerate(self.written)
+            if values and a.name in values
+        ]
         self.named = {a.name: a for a in self.arguments}
         sized = " ".join(size for a in self.arguments if a.is_array for size in a.sizes)
         self.counts = [a for a in self.inputs if a.name in re.findall(r"[A-Za-z]\w*", sized)]
@@ -115,7 +124,14 @@ class Routine:
         except (TypeError, struct.error, OverflowError):  # convert it, or tell what is wrong
             return self.call(tuple(values[i] for i, _ in self._cell_inputs))
         self._loop(self._address, len(self._offsets), block, self._offsets, self._no_strides, 1)
-        written = self._unpack(block, self._first_written)
+        return self.results(self._unpack(block, self._first_written))
+
+    def results(self, written: Any) -> Any:
+        """What the caller gets: each status as the member of its enumeration."""
+        if self.values:
+            written = list(written)
+            for i, members in self.values:
+                written[i] = members.get(written[i], written[i])
         return self.result._make(written) if self.result else written[0]
 
     def call(self, values: tuple, in_place: bool = False, batch: bool = False) -> Any:
@@ -368,6 +384,8 @@ class _Call:
             columns = self.columns[kind]
             self.operands.update(zip(names, columns if self.batch else columns[:, 0].tolist()))
         values = [self._result(argument) for argument in self.routine.written]
+        if not self.batch:
+            return self.routine.results(values)
         return self.routine.result._make(values) if self.routine.result else values[0]
 
     def _result(self, argument: Argument) -> Any:

@@ -14,31 +14,39 @@ if TYPE_CHECKING:
 _NAN = float("nan")
 
 __all__ = [
-    "trvcer", "TrvcerResult", "trvlci", "TrvlciResult", "trvc12", "Trvc12Result", "Trvc12N",
-    "trvcer2", "Trvcer2Result", "Trvcer2N", "trvcer1", "Trvcer1Result", "Trvcer1N", "trvcin",
-    "TrvcinResult", "trvcer3", "Trvcer3Result", "Trvcer3Status", "trvcer8", "Trvcer8Result",
-    "Trvcer8Status", "trvcer6", "Trvcer6Result", "Trvcer6Status", "trvcer9", "Trvcer9Result",
-    "Trvcer9Status", "trvarc1", "Trvarc1Result", "Trvarc1Status", "trvaxph", "trvhin",
-    "TrvhinResult", "trvapp", "trvcer4", "Trvcer4Result", "Trvcer4Status", "trvcer10",
-    "Trvcer10Result", "Trvcer10Status", "trvcer5", "Trvcer5Result", "Trvcer5Status", "trvcer7",
-    "Trvcer7Result", "Trvcer7Status", "trvard", "TrvardResult", "TrvardStatus", "trvenv",
-    "TrvenvResult", "trvord", "trvord1", "trvordi", "trvpor", "TrvporResult", "TrvporStatus",
-    "trvorv", "TrvorvResult", "trvsel1", "Trvsel1Result", "trvmer13", "Trvmer13Result",
-    "trvmer1", "Trvmer1Result", "trvmer11", "Trvmer11Result", "trvmer2", "Trvmer2Result",
-    "trvmer3", "Trvmer3Result", "trvmer12", "Trvmer12Result", "trvmer4", "Trvmer4Result",
-    "trvmer14", "Trvmer14Result", "trvmer15", "Trvmer15Result", "trvmer16", "Trvmer16Result",
-    "trvptp1", "Trvptp1Result", "Trvptp1Status", "trvptp2", "Trvptp2Result", "trvppp",
-    "TrvpppResult", "trvpin", "TrvpinResult", "TrvpinStatus", "trvpds", "trvpri", "trvpre",
-    "trvcnt", "TrvcntResult", "TrvcntStatus", "trvcnt1", "Trvcnt1Status", "trv123",
-    "Trv123Result", "Trv123Status", "trvmed", "TrvmedResult", "trvdtr2", "trvdtr3", "trvgrc",
-    "TrvgrcResult", "trvint", "trvvin", "TrvvinStatus", "trvpos", "trvpos1", "Trvpos1Result",
-    "Trvpos1Status", "trvln3", "Trvln3Result", "trvln1", "Trvln1Result", "trvln4",
+    "TrvStatus", "TrvArc", "TrvFrame", "TrvCoincidence", "TrvPoints", "TrvComponents",
+    "TrvOnLine", "TrvOnPlane", "TrvPlaneLines", "TrvThreePoints", "TrvLines", "TrvTwoLines",
+    "TrvPart", "TrvcinPosition", "TrvappMark", "Trvcer10Status", "Trvptp1Status",
+    "TrvpinStatus", "Trvcnt1Status", "TrvvinStatus", "Trvpos1Status", "TrvphipStatus",
+    "TrvcnvStatus", "TrvdirCode", "TrvdirpCode", "TrvppcStatus", "Trvpl5Status", "TrvplvStatus",
+    "Trv3spStatus", "TrvpliStatus", "TrvplpPosition", "TrvlpcStatus", "Trvc12N", "Trvcer2N",
+    "Trvcer1N", "Trvcer3Status", "Trvcer8Status", "Trvcer6Status", "Trvcer9Status",
+    "Trvarc1Status", "Trvcer4Status", "Trvcer5Status", "Trvcer7Status", "TrvardStatus",
+    "TrvporStatus", "TrvcntStatus", "Trv123Status", "TrvlniStatus", "TrvlulStatus",
+    "TrvpsnCode", "Trvln6Code", "Trvln6On", "Trvln7Code", "Trvln7On", "TrvchiStatus",
+    "TrvtrgStatus", "TrvmxtStatus", "TrvmxtFbStatus", "TrvpslStatus", "TrvaxeStatus",
+    "TrvaxelStatus", "TrvptrlStatus", "TrvpraStatus", "Trvpl1Status", "Trvpl2Status",
+    "Trvpl3Status", "Trvpl4Status", "Trvpl6Status", "Trvpl7Status", "TrvpspgStatus",
+    "TrvdirlStatus", "Trv3lniStatus", "trvcer", "TrvcerResult", "trvlci", "TrvlciResult",
+    "trvc12", "Trvc12Result", "trvcer2", "Trvcer2Result", "trvcer1", "Trvcer1Result", "trvcin",
+    "TrvcinResult", "trvcer3", "Trvcer3Result", "trvcer8", "Trvcer8Result", "trvcer6",
+    "Trvcer6Result", "trvcer9", "Trvcer9Result", "trvarc1", "Trvarc1Result", "trvaxph",
+    "trvhin", "TrvhinResult", "trvapp", "trvcer4", "Trvcer4Result", "trvcer10",
+    "Trvcer10Result", "trvcer5", "Trvcer5Result", "trvcer7", "Trvcer7Result", "trvard",
+    "TrvardResult", "trvenv", "TrvenvResult", "trvord", "trvord1", "trvordi", "trvpor",
+    "TrvporResult", "trvorv", "TrvorvResult", "trvsel1", "Trvsel1Result", "trvmer13",
+    "Trvmer13Result", "trvmer1", "Trvmer1Result", "trvmer11", "Trvmer11Result", "trvmer2",
+    "Trvmer2Result", "trvmer3", "Trvmer3Result", "trvmer12", "Trvmer12Result", "trvmer4",
+    "Trvmer4Result", "trvmer14", "Trvmer14Result", "trvmer15", "Trvmer15Result", "trvmer16",
+    "Trvmer16Result", "trvptp1", "Trvptp1Result", "trvptp2", "Trvptp2Result", "trvppp",
+    "TrvpppResult", "trvpin", "TrvpinResult", "trvpds", "trvpri", "trvpre", "trvcnt",
+    "TrvcntResult", "trvcnt1", "trv123", "Trv123Result", "trvmed", "TrvmedResult", "trvdtr2",
+    "trvdtr3", "trvgrc", "TrvgrcResult", "trvint", "trvvin", "trvpos", "trvpos1",
+    "Trvpos1Result", "trvln3", "Trvln3Result", "trvln1", "Trvln1Result", "trvln4",
     "Trvln4Result", "trvln2", "Trvln2Result", "trvln5", "Trvln5Result", "trvlds", "trvlni",
-    "TrvlniResult", "TrvlniStatus", "trvlul", "TrvlulResult", "TrvlulStatus", "trvpsn",
-    "TrvpsnCode", "trvln6", "Trvln6Result", "Trvln6Code", "Trvln6On", "trvln7", "Trvln7Result",
-    "Trvln7Code", "Trvln7On", "trvphi", "trvphi3", "trvphi1", "trvphip", "TrvphipResult",
-    "trvchi", "TrvchiResult", "TrvchiStatus", "trvcnv", "TrvcnvStatus", "trvtrg",
-    "TrvtrgResult", "TrvtrgStatus", "trvdir", "TrvdirCode", "trvdirp", "TrvdirpCode", "trvmov",
+    "TrvlniResult", "trvlul", "TrvlulResult", "trvpsn", "trvln6", "Trvln6Result", "trvln7",
+    "Trvln7Result", "trvphi", "trvphi3", "trvphi1", "trvphip", "TrvphipResult", "trvchi",
+    "TrvchiResult", "trvcnv", "trvtrg", "TrvtrgResult", "trvdir", "trvdirp", "trvmov",
     "TrvmovResult", "trvtra", "TrvtraResult", "trvinv", "trvadr", "TrvadrResult", "trvapl",
     "TrvaplResult", "trvspl", "TrvsplResult", "trvipl", "TrviplResult", "trvacp",
     "TrvacpResult", "trvicp", "TrvicpResult", "trvair", "TrvairResult", "trvstm",
@@ -48,152 +56,159 @@ __all__ = [
     "TrvsecH1bResult", "trvsec_box", "TrvsecBoxResult", "trvsec_rhs", "TrvsecRhsResult",
     "trvsec_l2", "TrvsecL2Result", "trvsec_tab", "TrvsecTabResult", "trvsec_h2b",
     "TrvsecH2bResult", "trvsec_i", "TrvsecIResult", "trvsec_c", "TrvsecCResult", "trvshc_c",
-    "trvwar_c", "trvmxt", "TrvmxtResult", "TrvmxtStatus", "trvmxt_fb", "TrvmxtFbResult",
-    "TrvmxtFbStatus", "trvrot", "TrvrotResult", "trvrotx", "TrvrotxResult", "trvroty",
-    "TrvrotyResult", "trvrotz", "TrvrotzResult", "trvpsl", "TrvpslStatus", "trv3tra",
-    "Trv3traResult", "trvtrn", "trvaxe", "TrvaxeResult", "TrvaxeStatus", "trvaxel",
-    "TrvaxelResult", "TrvaxelStatus", "trvptr", "TrvptrResult", "trvptrl", "TrvptrlResult",
-    "TrvptrlStatus", "trvpra", "TrvpraResult", "TrvpraStatus", "trvppc", "TrvppcResult",
-    "TrvppcStatus", "trvplg", "TrvplgResult", "trvpl1", "Trvpl1Result", "Trvpl1Status",
-    "trvpl2", "Trvpl2Result", "Trvpl2Status", "trvpl3", "Trvpl3Result", "Trvpl3Status",
-    "trvpl4", "Trvpl4Result", "Trvpl4Status", "trvpl5", "Trvpl5Result", "Trvpl5Status",
-    "trvpl6", "Trvpl6Result", "Trvpl6Status", "trvpl7", "Trvpl7Result", "Trvpl7Status",
-    "trvpsp", "trvpld", "trvpspg", "TrvpspgStatus", "trvplv", "TrvplvStatus", "trvpnp",
-    "TrvpnpResult", "trvdirl", "TrvdirlStatus", "trv3sp", "Trv3spStatus", "trv3ldb",
-    "Trv3ldbResult", "trv3lda", "Trv3ldaResult", "trv3lni", "Trv3lniResult", "Trv3lniStatus",
-    "trvpli", "TrvpliResult", "TrvpliStatus", "trvplp", "TrvplpPosition", "trvpnl",
-    "TrvpnlResult", "trvlpc", "TrvlpcResult", "TrvlpcStatus"
+    "trvwar_c", "trvmxt", "TrvmxtResult", "trvmxt_fb", "TrvmxtFbResult", "trvrot",
+    "TrvrotResult", "trvrotx", "TrvrotxResult", "trvroty", "TrvrotyResult", "trvrotz",
+    "TrvrotzResult", "trvpsl", "trv3tra", "Trv3traResult", "trvtrn", "trvaxe", "TrvaxeResult",
+    "trvaxel", "TrvaxelResult", "trvptr", "TrvptrResult", "trvptrl", "TrvptrlResult", "trvpra",
+    "TrvpraResult", "trvppc", "TrvppcResult", "trvplg", "TrvplgResult", "trvpl1",
+    "Trvpl1Result", "trvpl2", "Trvpl2Result", "trvpl3", "Trvpl3Result", "trvpl4",
+    "Trvpl4Result", "trvpl5", "Trvpl5Result", "trvpl6", "Trvpl6Result", "trvpl7",
+    "Trvpl7Result", "trvpsp", "trvpld", "trvpspg", "trvplv", "trvpnp", "TrvpnpResult",
+    "trvdirl", "trv3sp", "trv3ldb", "Trv3ldbResult", "trv3lda", "Trv3ldaResult", "trv3lni",
+    "Trv3lniResult", "trvpli", "TrvpliResult", "trvplp", "trvpnl", "TrvpnlResult", "trvlpc",
+    "TrvlpcResult"
 ]
 
 MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     "trvlci": {
         "n": {
-            1: 'it touches it',
-            2: 'it cuts it',
+            0: 'the line misses the circle',
+            1: 'the line touches the circle',
+            2: 'the line cuts the circle',
         },
     },
     "trvc12": {
         "n": {
+            0: 'the circles have no common point, or are concentric: |D2 - D1| + |E2 - E1| is within the tolerance',
             1: 'the circles touch',
-            2: 'they cut each other',
+            2: 'the circles cut each other',
         },
     },
     "trvcer2": {
         "n": {
+            0: 'P1 = P2 exactly, r is at most 1e-5 or less than half the chord, the discriminant is NaN, or the chord is horizontal',
             1: 'both candidates are the same point',
-            2: 'two',
+            2: 'there are two points',
         },
     },
     "trvcer1": {
         "n": {
+            0: 'h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less than half the chord, the discriminant is NaN, or the chord is horizontal',
             1: 'both candidates are the same point',
-            2: 'two',
+            2: 'there are two points',
         },
     },
     "trvcin": {
         "position": {
-            1: 'not cut, centre above the x axis',
-            2: 'not cut, centre on or below it',
-            3: 'cut, centre below it',
-            4: 'cut, centre on or above it',
+            1: 'the circle is not cut, its centre is above the x axis',
+            2: 'the circle is not cut, its centre is on or below the x axis',
+            3: 'the circle is cut, its centre is below the x axis',
+            4: 'the circle is cut, its centre is on or above the x axis',
         },
     },
     "trvcer3": {
         "status": {
             0: "the point's distance from the centre is within the tolerance",
-            1: 'done',
+            1: 'the outputs are computed',
         },
     },
     "trvcer8": {
         "status": {
             0: 'the radius or the chord is at most 0.001, the radii of A and B differ by more, or the station is not farther than that from both ends',
-            1: 'done',
+            1: 'the outputs are computed',
         },
     },
     "trvcer6": {
         "status": {
             0: 'the radius or the chord is at most 0.001, the radii of A and B differ by more, the station is not farther than that from both ends, or d is closer than that to the diameter',
-            1: 'done',
+            1: 'the outputs are computed',
         },
     },
     "trvcer9": {
         "status": {
             0: "the radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or the strip comes closer than that to an end of the chord",
-            1: 'done',
+            1: 'the outputs are computed',
         },
     },
     "trvarc1": {
         "status": {
             0: 'the radius, or the distance of A and B, is within the tolerance',
-            1: 'done',
+            1: 'the outputs are computed',
+        },
+    },
+    "trvapp": {
+        "mark": {
+            -1: "the rays' angle is within the tolerance, which holds for all points alike",
+            1: 'the point is inside the sector',
+            2: 'the point is outside the sector',
         },
     },
     "trvcer4": {
         "status": {
             0: 'the radius or the chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches the circle',
-            1: 'done',
+            1: 'the outputs are computed',
         },
     },
     "trvcer10": {
         "status": {
-            0: "refused: the radius or the chord is within the tolerance, or the radii of A and B differ by more, but also a crossing, and a retained one that is on the chord's line but not at A or B (trvpsl above 2)",
+            0: "the line crosses the chord, which is the normal result, or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is within the tolerance or the radii of A and B differ by more",
             1: 'the line runs along the chord',
-            2: 'it is parallel to it',
+            2: 'the line is parallel to the chord',
         },
     },
     "trvcer5": {
         "status": {
             0: 's is negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more, or the line touches the circle',
-            1: 'done',
+            1: 'the outputs are computed',
         },
     },
     "trvcer7": {
         "status": {
-            0: "refused: s or e is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is parallel to the chord, or it cuts less than twice 1e-4 off the circle",
-            1: 'done',
+            0: "s or e is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle is not longer than 2e-4",
+            1: 'the outputs are computed',
         },
     },
     "trvard": {
         "status": {
-            0: 'refused: r or a segment is not above the tolerance, the sine of the angle between the segments is within it, or the arc touches one beyond its end by more',
-            1: 'done',
+            0: 'r or a segment is not above the tolerance, the sine of the angle between the segments is within it, or the arc touches one beyond its end by more',
+            1: 'the outputs are computed',
         },
     },
     "trvpor": {
         "status": {
-            -1: 'not a family of parallel and distinct lines, or n < 1',
-            0: 'ordered',
+            -1: 'the lines are not a family of parallel and distinct lines, or n < 1',
+            0: 'IDX holds the order',
         },
     },
     "trvptp1": {
         "status": {
-            0: 'no pair',
-            1: 'some points of A have a partner',
-            2: 'every point of A has one',
+            0: 'none has',
+            1: 'some have',
+            2: 'every one has',
         },
     },
     "trvpin": {
         "status": {
-            -1: 'refused: n < 3, or P1 and P2 coincide within the tolerance in both coordinates. P1 on the outline counts as the point just to its right, or just above where that is on the outline too',
-            0: 'it is not',
-            1: 'P1 is inside, by the even-odd rule',
+            -1: 'n < 3, or P1 and P2 coincide within the tolerance in both coordinates',
+            0: 'P1 is outside the outline by the even-odd rule',
+            1: 'P1 is inside the outline by the even-odd rule',
         },
     },
     "trvcnt": {
         "status": {
-            0: 'otherwise',
+            0: 'a difference is above the tolerance or NaN',
             1: 'each difference is within the tolerance',
         },
     },
     "trvcnt1": {
         "status": {
-            0: 'otherwise (a NaN included)',
-            1: 'all components are zero of either sign',
+            0: 'a component is not zero, or is NaN',
+            1: 'all components are zero, of either sign',
         },
     },
     "trv123": {
         "status": {
-            0: 'done',
+            0: 'the output is written',
             1: 'P1 and P2 coincide within the tolerance (trvcnt)',
         },
     },
@@ -205,67 +220,67 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvpos1": {
         "status": {
-            0: 'neither',
+            0: 'x equals no element and lies in no interval',
             1: 'A(i) equals x within the tolerance',
             2: 'A(i) < x < A(i+1)',
         },
     },
     "trvlni": {
         "status": {
-            0: 'one point',
-            1: 'the same line',
-            2: 'parallel and distinct',
+            0: 'the lines have one point in common',
+            1: 'the lines are the same',
+            2: 'the lines are parallel and distinct',
         },
     },
     "trvlul": {
         "status": {
-            0: 'they cross',
-            1: 'the same line',
-            2: 'parallel and distinct, as trvlni tells',
+            0: 'the lines have one point in common',
+            1: 'the lines are the same',
+            2: 'the lines are parallel and distinct, as trvlni finds',
         },
     },
     "trvpsn": {
         "code": {
-            0: 'none',
-            1: 'all',
-            2: 'first',
-            3: 'second',
-            4: 'third',
-            5: 'first and second',
-            6: 'second and third',
-            7: 'first and third',
+            0: 'no component is',
+            1: 'all three components are',
+            2: 'the first component alone is',
+            3: 'the second component alone is',
+            4: 'the third component alone is',
+            5: 'the first and the second component are',
+            6: 'the second and the third component are',
+            7: 'the first and the third component are',
         },
     },
     "trvln6": {
         "code": {
-            0: 'no component of (P0 + D) - P0 is above the tolerance',
-            1: 'all are',
-            2: 'x',
-            3: 'y',
-            4: 'z',
-            5: 'x and y',
-            6: 'y and z',
-            7: 'x and z',
+            0: 'no component is',
+            1: 'all three components are',
+            2: 'the first component alone is',
+            3: 'the second component alone is',
+            4: 'the third component alone is',
+            5: 'the first and the second component are',
+            6: 'the second and the third component are',
+            7: 'the first and the third component are',
         },
         "on": {
-            0: 'it does not, and always when code is 0',
+            0: 'P does not lie on the line, or code is 0',
             1: 'P lies on the line',
         },
     },
     "trvln7": {
         "code": {
-            0: 'no component of (ex, ey, ez) is above the tolerance',
-            1: 'all are',
-            2: 'ex',
-            3: 'ey',
-            4: 'ez',
-            5: 'ex and ey',
-            6: 'ey and ez',
-            7: 'ex and ez',
+            0: 'no component is',
+            1: 'all three components are',
+            2: 'the first component alone is',
+            3: 'the second component alone is',
+            4: 'the third component alone is',
+            5: 'the first and the second component are',
+            6: 'the second and the third component are',
+            7: 'the first and the third component are',
         },
         "on": {
-            0: 'it does not',
-            1: 'P agrees with the line at the station',
+            0: 'P does not match the line at the station',
+            1: 'P matches the line at the station',
         },
     },
     "trvphip": {
@@ -275,239 +290,191 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvchi": {
         "status": {
-            0: 'done',
+            0: 'the output is written',
             1: 'P1 or P2 coincides with P0 (trvcnt)',
         },
     },
     "trvcnv": {
         "status": {
-            -1: 'refused: n < 3, or a side whose length is within the tolerance',
-            0: 'not convex, or winding more than once',
-            1: 'convex',
+            -1: 'n < 3, or the length of a side is within the tolerance',
+            0: 'the outline is not convex, or winds more than once',
+            1: 'the outline is convex',
         },
     },
     "trvtrg": {
         "status": {
-            0: 'done',
+            0: 'the output is written',
             1: 'P1 and P2, or P3 and P4, coincide (trvcnt)',
         },
     },
     "trvdir": {
         "code": {
-            0: 'oblique',
-            1: 'the same direction',
-            2: 'opposite',
-            3: 'perpendicular',
+            0: 'u and v have neither the same, opposite nor perpendicular directions',
+            1: 'the directions are the same',
+            2: 'the directions are opposite',
+            3: 'the directions are perpendicular',
             4: 'all components of u, or of v, are within the tolerance',
         },
     },
     "trvdirp": {
         "code": {
-            0: 'they cross',
-            1: 'parallel, normals in the same direction',
-            2: 'parallel, normals opposite',
-            3: 'coincident, normals in the same direction',
-            4: 'coincident, normals opposite',
-            5: 'perpendicular',
+            0: 'the planes cross, not at a right angle',
+            1: 'the planes are parallel and distinct, their normals in the same direction',
+            2: 'the planes are parallel and distinct, their normals opposite',
+            3: 'the planes coincide, their normals in the same direction',
+            4: 'the planes coincide, their normals opposite',
+            5: 'the planes are perpendicular',
             6: 'a normal is zero',
-        },
-    },
-    "trvsec_ia": {
-        "np": {
-        },
-    },
-    "trvsec_h": {
-        "np": {
-        },
-    },
-    "trvsec_t": {
-        "np": {
-        },
-    },
-    "trvsec_b": {
-        "np": {
-        },
-    },
-    "trvsec_h1b": {
-        "np": {
-        },
-    },
-    "trvsec_box": {
-        "np": {
-        },
-    },
-    "trvsec_rhs": {
-        "np": {
-        },
-    },
-    "trvsec_l2": {
-        "np": {
-        },
-    },
-    "trvsec_tab": {
-        "np": {
-        },
-    },
-    "trvsec_h2b": {
-        "np": {
-        },
-    },
-    "trvsec_i": {
-        "np": {
-        },
-    },
-    "trvsec_c": {
-        "np": {
         },
     },
     "trvmxt": {
         "status": {
-            -1: 'refused, nothing else is written: n < 1, a coordinate or a thickness that is infinite or NaN, a length or a thickness not above the tolerance',
-            0: 'done',
+            -1: 'n < 1, a coordinate or a thickness is infinite or NaN, or a length or a thickness is not above the tolerance',
+            0: 'the outputs are computed',
         },
     },
     "trvmxt_fb": {
         "status": {
-            -1: 'refused, nothing else is written: a side that is infinite, NaN or not above the tolerance',
-            0: 'done',
+            -1: 'a side is infinite, NaN or not above the tolerance',
+            0: 'the outputs are computed',
         },
     },
     "trvpsl": {
         "status": {
-            0: 'they do',
+            0: 'P0, P1 and P2 span a plane',
             1: 'P2 is at P0',
             2: 'P2 is at P1',
             3: 'P2 is between P0 and P1',
-            4: 'P2 is beyond P0 on their line',
-            5: 'P2 is beyond P1',
+            4: 'P2 is beyond P0 on the line of P0 and P1',
+            5: 'P2 is beyond P1 on the line of P0 and P1',
         },
     },
     "trvaxe": {
         "status": {
-            -2: 'P2 is at P0 or P1, or the three are on one line (trvpsl)',
-            0: 'done',
+            -2: 'P2 is at P0 or P1, or the three points are on one line (trvpsl)',
+            0: 'the outputs are computed',
         },
     },
     "trvaxel": {
         "status": {
             -2: 'the distance of P0 and P1 is within the tolerance',
-            0: 'done, also along y',
+            0: 'also for an axis along y',
         },
     },
     "trvptrl": {
         "status": {
-            -2: 'P2 is at P0 or P1, or the three are on one line (trvpsl)',
-            0: 'done',
+            -2: 'P2 is at P0 or P1, or the three points are on one line (trvpsl)',
+            0: 'the outputs are computed',
         },
     },
     "trvpra": {
         "status": {
             -2: 'the distance of P0 and P1 is within the tolerance',
-            0: 'done, also along y',
+            0: 'also for an axis along y',
         },
     },
     "trvppc": {
         "status": {
-            -1: 'P2 is at P0 or P1, or the three are on one line (trvpsl)',
-            0: 'done',
+            -1: 'P2 is at P0 or P1, or the three points are on one line (trvpsl)',
+            0: 'the points are moved',
         },
     },
     "trvpl1": {
         "status": {
-            0: 'done',
+            0: 'P0, P1 and P2 span a plane',
             1: 'P2 is at P0',
             2: 'P2 is at P1',
             3: 'P2 is between P0 and P1',
-            4: 'P2 is beyond P0 on their line',
-            5: 'P2 is beyond P1',
+            4: 'P2 is beyond P0 on the line of P0 and P1',
+            5: 'P2 is beyond P1 on the line of P0 and P1',
         },
     },
     "trvpl2": {
         "status": {
-            0: 'done, also for parallel lines',
-            3: 'the lines are the same, of the same sense',
-            4: 'the same, of opposite sense',
+            0: 'also for parallel lines',
+            3: 'the lines are the same, of the same direction',
+            4: 'the lines are the same, of opposite direction',
             7: 'A and B, or C and D, coincide (trvcnt)',
         },
     },
     "trvpl3": {
         "status": {
-            0: 'done, also for parallel lines',
-            3: 'the lines are the same, of the same sense',
-            4: 'the same, of opposite sense',
+            0: 'also for parallel lines',
+            3: 'the lines are the same, of the same direction',
+            4: 'the lines are the same, of opposite direction',
             7: 'A and B, or C and D, coincide (trvcnt)',
         },
     },
     "trvpl4": {
         "status": {
-            0: 'done',
+            0: 'the plane is computed',
             1: 'A and B coincide, each coordinate within the tolerance (trvcnt)',
         },
     },
     "trvpl5": {
         "status": {
-            0: 'done',
+            0: 'the plane is computed',
             1: 'an intercept is within the tolerance or NaN',
         },
     },
     "trvpl6": {
         "status": {
-            0: 'done, also for parallel lines',
-            3: 'the lines are the same, of the same sense',
-            4: 'the same, of opposite sense',
+            0: 'also for parallel lines',
+            3: 'the lines are the same, of the same direction',
+            4: 'the lines are the same, of opposite direction',
             6: 'the lines are skew',
             7: 'a direction is within the tolerance in each component',
         },
     },
     "trvpl7": {
         "status": {
-            0: 'done',
+            0: 'P0, P1 and P2 span a plane',
             1: 'P2 is at P0, or P0 and P0 + normal coincide (trvcnt)',
             2: 'P2 is at P1',
             3: 'P2 is between P0 and P1',
-            4: 'P2 is beyond P0 on their line',
-            5: 'P2 is beyond P1',
+            4: 'P2 is beyond P0 on the line of P0 and P1',
+            5: 'P2 is beyond P1 on the line of P0 and P1',
         },
     },
     "trvpsp": {
         "status": {
-            -1: 'it does not, or the three points span no plane (trvpsl)',
-            0: 'it does, and any point does where P0 = P1',
+            -1: 'the point does not lie on the plane, or the three points span no plane (trvpsl)',
+            0: 'the point lies on the plane, as any point does if P0 = P1',
         },
     },
     "trvpspg": {
         "status": {
-            -1: 'it does not, or the distance is NaN',
-            0: 'it does',
-            1: 'the normal is exactly zero',
+            -1: 'the point does not lie on the plane, or the distance is NaN',
+            0: 'the point lies on the plane',
+            1: 'the normal of the plane is exactly zero',
         },
     },
     "trvplv": {
         "status": {
             -1: 'u is exactly zero',
-            0: 'oblique',
-            3: 'the same direction',
-            4: 'opposite',
-            5: 'perpendicular',
+            0: 'u and w have neither the same, opposite nor perpendicular directions',
+            3: 'the directions are the same',
+            4: 'the directions are opposite',
+            5: 'the directions are perpendicular',
             7: 'u or w is within the tolerance in each component',
         },
     },
     "trvdirl": {
         "status": {
-            0: 'they cross, not at a right angle',
-            1: 'parallel and distinct, of the same sense',
-            2: 'parallel and distinct, of opposite sense',
-            3: 'the same line, of the same sense',
-            4: 'the same line, of opposite sense',
-            5: 'they cross at a right angle',
-            6: 'skew',
+            0: 'the lines cross, not at a right angle',
+            1: 'parallel and distinct lines of the same direction',
+            2: 'parallel and distinct lines of opposite direction',
+            3: 'the same line, of the same direction',
+            4: 'the same line, of opposite direction',
+            5: 'the lines cross at a right angle',
+            6: 'the lines are skew',
             7: 'A and B, or C and D, coincide, each coordinate within the tolerance',
         },
     },
     "trv3sp": {
         "status": {
-            0: 'they do not',
-            1: 'the triple product of B - A, D - C and F - E is above the tolerance, in the cube of the length unit',
+            0: 'the triple product of B - A, D - C and F - E is within the tolerance',
+            1: 'the triple product is above the tolerance, in the cube of the length unit',
         },
     },
     "trv3ldb": {
@@ -522,32 +489,32 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trv3lni": {
         "status": {
-            0: 'done, also for parallel lines',
-            3: 'the lines are the same, of the same sense',
-            4: 'the same, of opposite sense',
+            0: 'also for parallel lines',
+            3: 'the lines are the same, of the same direction',
+            4: 'the lines are the same, of opposite direction',
             6: 'the lines are skew',
             7: 'a direction is within the tolerance in each component',
         },
     },
     "trvpli": {
         "status": {
-            0: 'done',
-            3: 'the line is parallel to the plane: the cosine of u and the normal is within the tolerance',
+            0: 'the point is computed',
+            3: 'the line is parallel to the plane, the cosine of u and the normal is within the tolerance',
             4: 'u or the normal is within the tolerance in each component',
         },
     },
     "trvplp": {
         "position": {
-            1: 'general',
-            2: 'parallel to the x axis',
-            3: 'parallel to the y axis',
-            4: 'parallel to the z axis',
-            5: 'normal to the z axis',
-            6: 'normal to the x axis',
-            7: 'normal to the y axis',
-            8: 'the plane z = 0',
-            9: 'the plane x = 0',
-            10: 'the plane y = 0',
+            1: 'the plane is parallel to no axis',
+            2: 'the plane is parallel to the x axis',
+            3: 'the plane is parallel to the y axis',
+            4: 'the plane is parallel to the z axis',
+            5: 'the plane is normal to the z axis',
+            6: 'the plane is normal to the x axis',
+            7: 'the plane is normal to the y axis',
+            8: 'the plane is z = 0',
+            9: 'the plane is x = 0',
+            10: 'the plane is y = 0',
         },
     },
     "trvpnl": {
@@ -557,14 +524,393 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvlpc": {
         "status": {
-            0: 'not moved: the three points are not collinear, or Q1 is at P',
-            3: 'moved, Q1 and Q2 on one side of P',
-            4: 'moved, on either side of P',
-            6: 'moved, rounding takes the three for skew lines',
-            7: 'moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance',
+            0: 'the three points are not collinear, or Q1 is at P',
+            3: 'Q2 is moved, Q1 and Q2 are on one side of P',
+            4: 'Q2 is moved, Q1 and Q2 are on either side of P',
+            6: 'Q2 is moved, rounding takes the three points for skew lines',
+            7: 'Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance',
         },
     },
 }
+
+
+class TrvStatus(IntEnum):
+    """Whether a computation was done."""
+
+    DONE = 0
+    REFUSED = -1
+    ORDERED = DONE  # of version 1.1
+
+
+class TrvArc(IntEnum):
+    """Whether a point of an arc was found; note that 1 means done here."""
+
+    DONE = 1
+    REFUSED = 0
+
+
+class TrvFrame(IntEnum):
+    """Whether a frame was found."""
+
+    DONE = 0
+    NO_FRAME = -2
+
+
+class TrvCoincidence(IntEnum):
+    """Whether two points coincide: each difference of their coordinates is within the
+    tolerance."""
+
+    DISTINCT = 0
+    COINCIDENT = 1
+    EACH_DIFFERENCE_IS_WITHIN_THE_TOLERANCE = COINCIDENT  # of version 1.1
+    DONE = DISTINCT  # of version 1.1
+    P1_AND_P2_COINCIDE_WITHIN_THE_TOLERANCE = COINCIDENT  # of version 1.1
+
+
+class TrvPoints(IntEnum):
+    """How many points were found."""
+
+    NONE = 0
+    ONE = 1
+    TWO = 2
+    CIRCLES_TOUCH = ONE  # of version 1.1
+    THEY_CUT_EACH_OTHER = TWO  # of version 1.1
+    BOTH_CANDIDATES_ARE_THE_SAME_POINT = ONE  # of version 1.1
+
+
+class TrvComponents(IntEnum):
+    """Which of three components are above the tolerance."""
+
+    NONE = 0
+    ALL = 1
+    FIRST = 2
+    SECOND = 3
+    THIRD = 4
+    FIRST_SECOND = 5
+    SECOND_THIRD = 6
+    FIRST_THIRD = 7
+    FIRST_AND_SECOND = FIRST_SECOND  # of version 1.1
+    SECOND_AND_THIRD = SECOND_THIRD  # of version 1.1
+    FIRST_AND_THIRD = FIRST_THIRD  # of version 1.1
+    ALL_ARE = ALL  # of version 1.1
+    X = FIRST  # of version 1.1
+    Y = SECOND  # of version 1.1
+    Z = THIRD  # of version 1.1
+    X_AND_Y = FIRST_SECOND  # of version 1.1
+    Y_AND_Z = SECOND_THIRD  # of version 1.1
+    X_AND_Z = FIRST_THIRD  # of version 1.1
+    EX = FIRST  # of version 1.1
+    EY = SECOND  # of version 1.1
+    EZ = THIRD  # of version 1.1
+    EX_AND_EY = FIRST_SECOND  # of version 1.1
+    EY_AND_EZ = SECOND_THIRD  # of version 1.1
+    EX_AND_EZ = FIRST_THIRD  # of version 1.1
+
+
+class TrvOnLine(IntEnum):
+    """Whether a point lies on a line of space."""
+
+    NO = 0
+    YES = 1
+    P_LIES_ON_THE_LINE = YES  # of version 1.1
+    P_AGREES_WITH_THE_LINE_AT_THE_STATION = YES  # of version 1.1
+
+
+class TrvOnPlane(IntEnum):
+    """Whether a point lies on a plane; note that 0 means yes."""
+
+    YES = 0
+    NO = -1
+    ZERO_NORMAL = 1
+    NORMAL_IS_EXACTLY_ZERO = ZERO_NORMAL  # of version 1.1
+
+
+class TrvPlaneLines(IntEnum):
+    """How two lines of the plane lie to each other."""
+
+    ONE_POINT = 0
+    SAME_LINE = 1
+    PARALLEL = 2
+    PARALLEL_AND_DISTINCT = PARALLEL  # of version 1.1
+    THEY_CROSS = ONE_POINT  # of version 1.1
+
+
+class TrvThreePoints(IntEnum):
+    """Three-point test (trvpsl): where P2 is, seen from P0 and P1."""
+
+    SPANS_PLANE = 0
+    AT_P0 = 1
+    AT_P1 = 2
+    BETWEEN = 3
+    BEYOND_P0 = 4
+    BEYOND_P1 = 5
+    THEY_DO = SPANS_PLANE  # of version 1.1
+    P2_IS_AT_P0 = AT_P0  # of version 1.1
+    P2_IS_AT_P1 = AT_P1  # of version 1.1
+    P2_IS_BETWEEN_P0_AND_P1 = BETWEEN  # of version 1.1
+    P2_IS_BEYOND_P0_ON_THEIR_LINE = BEYOND_P0  # of version 1.1
+    P2_IS_BEYOND_P1 = BEYOND_P1  # of version 1.1
+    DONE = SPANS_PLANE  # of version 1.1
+
+
+class TrvLines(IntEnum):
+    """How two lines of space lie to each other (trvdirl)."""
+
+    CROSSING = 0
+    PARALLEL_SAME = 1
+    PARALLEL_OPPOSITE = 2
+    SAME_LINE = 3
+    OPPOSITE_LINE = 4
+    PERPENDICULAR = 5
+    SKEW = 6
+    COINCIDENT = 7
+    THEY_CROSS_AT_A_RIGHT_ANGLE = PERPENDICULAR  # of version 1.1
+
+
+class TrvTwoLines(IntEnum):
+    """What came of two lines of space: a result, or the relation that allows none."""
+
+    DONE = 0
+    SAME_LINE = 3
+    OPPOSITE_LINE = 4
+    SKEW = 6
+    NO_LENGTH = 7
+    LINES_ARE_SKEW = SKEW  # of version 1.1
+
+
+class TrvPart(IntEnum):
+    """Kind of a part of a section."""
+
+    CONCENTRATED = 1
+    POLYGON = 2
+    CIRCLE = 3
+    SMALLER_SEGMENT = 4
+    LARGER_SEGMENT = 5
+
+
+class TrvcinPosition(IntEnum):
+    """trvcin: class."""
+
+    UNCUT_ABOVE = 1
+    UNCUT_BELOW = 2
+    CUT_BELOW = 3
+    CUT_ABOVE = 4
+
+
+class TrvappMark(IntEnum):
+    """trvapp: where each point is."""
+
+    INSIDE = 1
+    OUTSIDE = 2
+    NO_SECTOR = -1
+
+
+class Trvcer10Status(IntEnum):
+    """trvcer10: outcome."""
+
+    CROSSING_OR_REFUSED = 0
+    ALONG_CHORD = 1
+    PARALLEL = 2
+    LINE_RUNS_ALONG_THE_CHORD = ALONG_CHORD  # of version 1.1
+
+
+class Trvptp1Status(IntEnum):
+    """trvptp1: which points of A have a partner in B."""
+
+    NO_PAIR = 0
+    SOME_PAIRS = 1
+    ALL_PAIRED = 2
+    SOME_POINTS_OF_A_HAVE_A_PARTNER = SOME_PAIRS  # of version 1.1
+    EVERY_POINT_OF_A_HAS_ONE = ALL_PAIRED  # of version 1.1
+
+
+class TrvpinStatus(IntEnum):
+    """trvpin: where P1 is."""
+
+    INSIDE = 1
+    OUTSIDE = 0
+    REFUSED = -1
+
+
+class Trvcnt1Status(IntEnum):
+    """trvcnt1: test."""
+
+    ZERO = 1
+    NONZERO = 0
+    ALL_COMPONENTS_ARE_ZERO_OF_EITHER_SIGN = ZERO  # of version 1.1
+
+
+class TrvvinStatus(IntEnum):
+    """trvvin: sign."""
+
+    POSITIVE = 1
+    NOT_POSITIVE = 2
+    V_IS_POSITIVE = POSITIVE  # of version 1.1
+
+
+class Trvpos1Status(IntEnum):
+    """trvpos1: what was found."""
+
+    AT_ENTRY = 1
+    BETWEEN = 2
+    NEITHER = 0
+
+
+class TrvphipStatus(IntEnum):
+    """trvphip: outcome."""
+
+    NO_LENGTH = -1
+
+
+class TrvcnvStatus(IntEnum):
+    """trvcnv: test."""
+
+    CONVEX = 1
+    NOT_CONVEX = 0
+    REFUSED = -1
+
+
+class TrvdirCode(IntEnum):
+    """trvdir: relation."""
+
+    OBLIQUE = 0
+    SAME = 1
+    OPPOSITE = 2
+    PERPENDICULAR = 3
+    ZERO = 4
+    SAME_DIRECTION = SAME  # of version 1.1
+
+
+class TrvdirpCode(IntEnum):
+    """trvdirp: relation."""
+
+    CROSSING = 0
+    PARALLEL_SAME = 1
+    PARALLEL_OPPOSITE = 2
+    COINCIDENT_SAME = 3
+    COINCIDENT_OPPOSITE = 4
+    PERPENDICULAR = 5
+    ZERO_NORMAL = 6
+    THEY_CROSS = CROSSING  # of version 1.1
+    A_NORMAL_IS_ZERO = ZERO_NORMAL  # of version 1.1
+
+
+class TrvppcStatus(IntEnum):
+    """trvppc: outcome."""
+
+    DONE = 0
+    NO_FRAME = -1
+
+
+class Trvpl5Status(IntEnum):
+    """trvpl5: outcome."""
+
+    DONE = 0
+    NO_PLANE = 1
+
+
+class TrvplvStatus(IntEnum):
+    """trvplv: relation."""
+
+    ZERO_U = -1
+    OBLIQUE = 0
+    SAME = 3
+    OPPOSITE = 4
+    PERPENDICULAR = 5
+    ZERO = 7
+    U_IS_EXACTLY_ZERO = ZERO_U  # of version 1.1
+    SAME_DIRECTION = SAME  # of version 1.1
+
+
+class Trv3spStatus(IntEnum):
+    """trv3sp: test."""
+
+    FLAT = 0
+    SPANNING = 1
+    THEY_DO_NOT = FLAT  # of version 1.1
+
+
+class TrvpliStatus(IntEnum):
+    """trvpli: outcome."""
+
+    DONE = 0
+    PARALLEL = 3
+    ZERO = 4
+    LINE_IS_PARALLEL_TO_THE_PLANE = PARALLEL  # of version 1.1
+
+
+class TrvplpPosition(IntEnum):
+    """trvplp: position."""
+
+    GENERAL = 1
+    PARALLEL_X = 2
+    PARALLEL_Y = 3
+    PARALLEL_Z = 4
+    NORMAL_Z = 5
+    NORMAL_X = 6
+    NORMAL_Y = 7
+    AT_Z_ZERO = 8
+    AT_X_ZERO = 9
+    AT_Y_ZERO = 10
+    PARALLEL_TO_THE_X_AXIS = PARALLEL_X  # of version 1.1
+    PARALLEL_TO_THE_Y_AXIS = PARALLEL_Y  # of version 1.1
+    PARALLEL_TO_THE_Z_AXIS = PARALLEL_Z  # of version 1.1
+    NORMAL_TO_THE_Z_AXIS = NORMAL_Z  # of version 1.1
+    NORMAL_TO_THE_X_AXIS = NORMAL_X  # of version 1.1
+    NORMAL_TO_THE_Y_AXIS = NORMAL_Y  # of version 1.1
+
+
+class TrvlpcStatus(IntEnum):
+    """trvlpc: outcome."""
+
+    NOT_MOVED = 0
+    MOVED_ONE_SIDE = 3
+    MOVED_EITHER_SIDE = 4
+    MOVED_SKEW = 6
+    MOVED_AT_P = 7
+
+
+# Names of version 1.1, which the next version drops.
+Trvc12N = TrvPoints
+Trvcer2N = TrvPoints
+Trvcer1N = TrvPoints
+Trvcer3Status = TrvArc
+Trvcer8Status = TrvArc
+Trvcer6Status = TrvArc
+Trvcer9Status = TrvArc
+Trvarc1Status = TrvArc
+Trvcer4Status = TrvArc
+Trvcer5Status = TrvArc
+Trvcer7Status = TrvArc
+TrvardStatus = TrvArc
+TrvporStatus = TrvStatus
+TrvcntStatus = TrvCoincidence
+Trv123Status = TrvCoincidence
+TrvlniStatus = TrvPlaneLines
+TrvlulStatus = TrvPlaneLines
+TrvpsnCode = TrvComponents
+Trvln6Code = TrvComponents
+Trvln6On = TrvOnLine
+Trvln7Code = TrvComponents
+Trvln7On = TrvOnLine
+TrvchiStatus = TrvCoincidence
+TrvtrgStatus = TrvCoincidence
+TrvmxtStatus = TrvStatus
+TrvmxtFbStatus = TrvStatus
+TrvpslStatus = TrvThreePoints
+TrvaxeStatus = TrvFrame
+TrvaxelStatus = TrvFrame
+TrvptrlStatus = TrvFrame
+TrvpraStatus = TrvFrame
+Trvpl1Status = TrvThreePoints
+Trvpl2Status = TrvTwoLines
+Trvpl3Status = TrvTwoLines
+Trvpl4Status = TrvCoincidence
+Trvpl6Status = TrvTwoLines
+Trvpl7Status = TrvThreePoints
+TrvpspgStatus = TrvOnPlane
+TrvdirlStatus = TrvLines
+Trv3lniStatus = TrvTwoLines
 
 
 class TrvcerResult(NamedTuple):
@@ -597,7 +943,7 @@ def trvcer(
 
 
 class TrvlciResult(NamedTuple):
-    n: int
+    n: TrvPoints
     x1: float
     y1: float
     x2: float
@@ -608,6 +954,7 @@ _trvlci = Routine(
     "trvlci", TrvlciResult,
     "in real a; in real b; in real c; in real D; in real E; in real F; out int n; "
     "out real x1; out real y1; out real x2; out real y2",
+    values=dict(n=TrvPoints)
 )
 
 
@@ -616,14 +963,14 @@ def trvlci(
 ) -> TrvlciResult:
     """Intersection of a line and a circle.
 
-    The line is solved for x where |a| is above the tolerance, else it is taken as horizontal. There
-    is one point when the discriminant of the quadratic is within the tolerance. It grows with the
-    fourth power of a and b and the square of the radius, so small circles are touched rather than
-    cut. A NaN discriminant gives two points with NaN.
+    The line is solved for x where |a| is above the tolerance, else it is taken as horizontal.
+    There is one point when the discriminant of the quadratic is within the tolerance. It grows
+    with the fourth power of a and b and the square of the radius, so small circles are touched
+    rather than cut. A NaN discriminant gives two points with NaN.
 
-    The nearer the line is to the direction of x, the fewer digits are left, also at the origin: with
-    |a| a hundredth of |b| and circles of some hundred units, points are off by about a unit. Routines
-    that cut a circle by a line inherit this (trvc12, trvcer1, trvcer2, trvcer6).
+    The nearer the line is to the direction of x, the fewer digits are left, also at the origin:
+    with |a| a hundredth of |b| and circles of some hundred units, points are off by about a
+    unit. Routines that cut a circle by a line inherit this (trvc12, trvcer1, trvcer2, trvcer6).
 
     Retains: nothing.
 
@@ -632,23 +979,19 @@ def trvlci(
       D, E, F: circle
 
     Returns:
-      n: number of points: 0 the line misses the circle; 1 it touches it; 2 it cuts it
+      n: number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the line
+        touches the circle; 2 two: the line cuts the circle
       x1, y1: first point, of the larger root: the larger y, or the larger x where the line is
-        taken as horizontal; unwritten when n is 0
-      x2, y2: second point; unwritten when n is 0 or 1
+        taken as horizontal; unwritten if n is 0
+      x2, y2: second point; unwritten if n is 0 or 1
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvlci.cells(a, b, c, D, E, F, 0, _NAN, _NAN, _NAN, _NAN)
 
 
-class Trvc12N(IntEnum):
-    CIRCLES_TOUCH = 1
-    THEY_CUT_EACH_OTHER = 2
-
-
 class Trvc12Result(NamedTuple):
-    n: int
+    n: TrvPoints
     x1: float
     y1: float
     x2: float
@@ -659,6 +1002,7 @@ _trvc12 = Routine(
     "trvc12", Trvc12Result,
     "in real D1; in real E1; in real F1; in real D2; in real E2; in real F2; out int n; "
     "out real x1; out real y1; out real x2; out real y2",
+    values=dict(n=TrvPoints)
 )
 
 
@@ -674,19 +1018,15 @@ def trvc12(
       D2, E2, F2: second circle
 
     Returns:
-      n: number of points: 0 none, or concentric circles: |D2 - D1| + |E2 - E1| is within the
-        tolerance; 1 the circles touch; 2 they cut each other
-      x1, y1: first point, as of trvlci; unwritten when n is 0
-      x2, y2: second point; unwritten when n is 0 or 1
+      n: number of points (TrvPoints): 0 none: the circles have no common point, or are
+        concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2
+        two: the circles cut each other
+      x1, y1: first point, as of trvlci; unwritten if n is 0
+      x2, y2: second point; unwritten if n is 0 or 1
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvc12.cells(D1, E1, F1, D2, E2, F2, 0, _NAN, _NAN, _NAN, _NAN)
-
-
-class Trvcer2N(IntEnum):
-    BOTH_CANDIDATES_ARE_THE_SAME_POINT = 1
-    TWO = 2
 
 
 class Trvcer2Result(NamedTuple):
@@ -696,13 +1036,14 @@ class Trvcer2Result(NamedTuple):
     yb: float
     xc: float
     yc: float
-    n: int
+    n: TrvPoints
 
 
 _trvcer2 = Routine(
     "trvcer2", Trvcer2Result,
     "in real x1; in real y1; in real x2; in real y2; in int side; in real r; out real xa; "
     "out real ya; out real xb; out real yb; out real xc; out real yc; out int n",
+    values=dict(n=TrvPoints)
 )
 
 
@@ -711,8 +1052,8 @@ def trvcer2(
 ) -> Trvcer2Result:
     """Centres of the circles of a radius through two points.
 
-    A horizontal chord (|y2 - y1| < 1e-5) writes both candidates and the choice but leaves n at 0;
-    its candidates' y are NaN where the radius is less than half the chord.
+    A horizontal chord (|y2 - y1| < 1e-5) writes both candidates and the choice but leaves n at
+    0; its candidates' y are NaN where the radius is less than half the chord.
 
     Retains: nothing.
 
@@ -724,34 +1065,31 @@ def trvcer2(
       r: radius
 
     Returns:
-      xa, ya: first candidate; unwritten when n is 0, unless the chord is horizontal
-      xb, yb: second candidate; likewise
-      xc, yc: chosen centre; likewise, and unwritten where a NaN decides
-      n: number of centres: 0 P1 = P2 exactly, r is at most 1e-5 or less than half the chord,
-        the discriminant is NaN, or the chord is horizontal; 1 both candidates are the same
-        point; 2 two
+      xa, ya: first candidate; unwritten on a condition: n is 0 and the chord is not horizontal
+      xb, yb: second candidate; unwritten on a condition: n is 0 and the chord is not horizontal
+      xc, yc: chosen centre; unwritten on a condition: n is 0 and the chord is not horizontal,
+        or a NaN decides
+      n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or less than
+        half the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both
+        candidates are the same point; 2 two: there are two points
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer2.cells(x1, y1, x2, y2, side, r, _NAN, _NAN, _NAN, _NAN, _NAN, _NAN, 0)
 
 
-class Trvcer1N(IntEnum):
-    BOTH_CANDIDATES_ARE_THE_SAME_POINT = 1
-    TWO = 2
-
-
 class Trvcer1Result(NamedTuple):
     r: float
     xc: float
     yc: float
-    n: int
+    n: TrvPoints
 
 
 _trvcer1 = Routine(
     "trvcer1", Trvcer1Result,
     "in real x1; in real y1; in real x2; in real y2; in int side; in real h; out real r; "
     "out real xc; out real yc; out int n",
+    values=dict(n=TrvPoints)
 )
 
 
@@ -772,12 +1110,12 @@ def trvcer1(
       h: sagitta: height of the arc above the middle of the chord
 
     Returns:
-      r: radius; unwritten when h < 1e-5
-      xc, yc: chosen centre; unwritten when n is 0, unless the chord is horizontal, or where a
-        NaN decides
-      n: number of centres (trvcer2): 0 h < 1e-5, P1 = P2 exactly, r is at most 1e-5 or less
-        than half the chord, the discriminant is NaN, or the chord is horizontal; 1 both
-        candidates are the same point; 2 two
+      r: radius; unwritten on a condition: h < 1e-5
+      xc, yc: chosen centre; unwritten on a condition: n is 0 and the chord is not horizontal,
+        or a NaN decides
+      n: number of centres of trvcer2 (TrvPoints): 0 none: h < 1e-5, P1 = P2 exactly, r is at
+        most 1e-5 or less than half the chord, the discriminant is NaN, or the chord is
+        horizontal; 1 one: both candidates are the same point; 2 two: there are two points
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -785,7 +1123,7 @@ def trvcer1(
 
 
 class TrvcinResult(NamedTuple):
-    position: int
+    position: TrvcinPosition
     x1: float
     y1: float
     x2: float
@@ -797,6 +1135,7 @@ _trvcin = Routine(
     "in real X[2]; in real Y[2]; in real a; in real b; in real c; out int position; "
     "out real x1; out real y1; out real x2; out real y2",
     retains=True,
+    values=dict(position=TrvcinPosition)
 )
 
 
@@ -805,36 +1144,35 @@ def trvcin(
 ) -> TrvcinResult:
     """Classifies a circle cut by a line, with a trace.
 
-    The region is that of the centre's y, whatever the line; the line decides only whether the circle
-    is cut. Each call appends three lines to OUTPUT.TXT, in Windows-1253: a heading, the class, and
-    what it means, with the points of a cut circle.
+    The region is that of the centre's y, whatever the line; the line decides only whether the
+    circle is cut. Each call appends three lines to OUTPUT.TXT, in Windows-1253: a heading, the
+    class, and what it means, with the points of a cut circle.
 
-    The first call opens the file in the directory that is current then; it stays open, wherever the
-    current directory goes, until the library is unloaded. It is never emptied, and complete after
-    each call. The record of a call goes out in one write, behind what other processes append; on
-    Windows under a lock of a byte far behind the text, for which it does not wait long. Where it
-    cannot be written the call computes as always and the file is closed; the next call opens it
-    again and starts on a line of its own.
+    The first call opens the file in the directory that is current then; it stays open, wherever
+    the current directory goes, until the library is unloaded. It is never emptied, and complete
+    after each call. The record of a call goes out in one write, behind what other processes
+    append; on Windows under a lock of a byte far behind the text, for which it does not wait
+    long. Where it cannot be written the call computes as always and the file is closed; the
+    next call opens it again and starts on a line of its own.
 
-    Retains: the open trace file.
+    Retains: the open trace file (trvcin).
 
     Arguments:
       X, Y: arrays of 2: the centre, then a point on the circle
       a, b, c: line a*x + b*y + c = 0
 
     Returns:
-      position: 1 not cut, centre above the x axis; 2 not cut, centre on or below it; 3 cut,
-        centre below it; 4 cut, centre on or above it
-      x1, y1: first intersection (trvlci); unwritten where the line misses the circle
-      x2, y2: second intersection; unwritten where it misses or touches the circle
+      position: class: 1 uncut_above: the circle is not cut, its centre is above the x axis; 2
+        uncut_below: the circle is not cut, its centre is on or below the x axis; 3 cut_below:
+        the circle is cut, its centre is below the x axis; 4 cut_above: the circle is cut, its
+        centre is on or above the x axis
+      x1, y1: first intersection (trvlci); unwritten on a condition: the line misses the circle
+      x2, y2: second intersection; unwritten on a condition: the line misses or touches the
+        circle
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcin.call((X, Y, a, b, c))
-
-
-class Trvcer3Status(IntEnum):
-    DONE = 1
 
 
 class Trvcer3Result(NamedTuple):
@@ -842,13 +1180,14 @@ class Trvcer3Result(NamedTuple):
     y: float
     xr: float
     yr: float
-    status: int
+    status: TrvArc
 
 
 _trvcer3 = Routine(
     "trvcer3", Trvcer3Result,
     "in real x0; in real y0; inout real x; inout real y; in real angle; out real xr; "
     "out real yr; out int status",
+    values=dict(status=TrvArc)
 )
 
 
@@ -868,22 +1207,19 @@ def trvcer3(
     Returns:
       x, y: point; comes back rounded by the way to the centre and back; relative to the centre
         when status is 0
-      xr, yr: turned point; unwritten when status is 0
-      status: 1 done; 0 the point's distance from the centre is within the tolerance
+      xr, yr: turned point; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's
+        distance from the centre is within the tolerance
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer3.cells(x0, y0, angle, x, y, _NAN, _NAN, 0)
 
 
-class Trvcer8Status(IntEnum):
-    DONE = 1
-
-
 class Trvcer8Result(NamedTuple):
     x: float
     y: float
-    status: int
+    status: TrvArc
 
 
 _trvcer8 = Routine(
@@ -891,6 +1227,7 @@ _trvcer8 = Routine(
     "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; "
     "in real d; out real x; out real y; out int status",
     retains=True,
+    values=dict(status=TrvArc)
 )
 
 
@@ -899,10 +1236,10 @@ def trvcer8(
 ) -> Trvcer8Result:
     """Point of an arc above a station of its chord, perpendicular to the chord.
 
-    Lengths are compared with 0.001. Where the perpendicular touches the circle (trvlci), the second
-    intersection is that of an earlier call; where it misses it, both are.
+    Lengths are compared with 0.001. Where the perpendicular touches the circle (trvlci), the
+    second intersection is that of an earlier call; where it misses it, both are.
 
-    Retains: both intersections, shared with no routine, zero after loading.
+    Retains: both intersections (trvcer8).
 
     Arguments:
       xc, yc: centre C
@@ -913,23 +1250,20 @@ def trvcer8(
       d: station: distance from A along the chord
 
     Returns:
-      x, y: point; unwritten when status is 0
-      status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by
-        more, or the station is not farther than that from both ends
+      x, y: point; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
+        chord is at most 0.001, the radii of A and B differ by more, or the station is not
+        farther than that from both ends
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer8.cells(xc, yc, xa, ya, xb, yb, side, d, _NAN, _NAN, 0)
 
 
-class Trvcer6Status(IntEnum):
-    DONE = 1
-
-
 class Trvcer6Result(NamedTuple):
     x: float
     y: float
-    status: int
+    status: TrvArc
 
 
 _trvcer6 = Routine(
@@ -937,6 +1271,7 @@ _trvcer6 = Routine(
     "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; "
     "in real d; out real x; out real y; out int status",
     retains=True,
+    values=dict(status=TrvArc)
 )
 
 
@@ -946,10 +1281,10 @@ def trvcer6(
     """Point of an arc on the line from its centre through a station of its chord.
 
     Lengths are compared with 0.001. Where the line touches the circle (trvlci), the second
-    intersection is that of an earlier call; where it misses it, both are. Where the station is at
-    the centre there is no line, and the point is the second intersection of an earlier call.
+    intersection is that of an earlier call; where it misses it, both are. Where the station is
+    at the centre there is no line, and the point is the second intersection of an earlier call.
 
-    Retains: both intersections, shared with no routine, zero after loading.
+    Retains: both intersections (trvcer6).
 
     Arguments:
       xc, yc: centre C
@@ -960,18 +1295,14 @@ def trvcer6(
       d: station: distance from A along the chord
 
     Returns:
-      x, y: point; unwritten when status is 0
-      status: 1 done; 0 the radius or the chord is at most 0.001, the radii of A and B differ by
-        more, the station is not farther than that from both ends, or d is closer than that to
-        the diameter
+      x, y: point; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
+        chord is at most 0.001, the radii of A and B differ by more, the station is not farther
+        than that from both ends, or d is closer than that to the diameter
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer6.cells(xc, yc, xa, ya, xb, yb, side, d, _NAN, _NAN, 0)
-
-
-class Trvcer9Status(IntEnum):
-    DONE = 1
 
 
 class Trvcer9Result(NamedTuple):
@@ -979,7 +1310,7 @@ class Trvcer9Result(NamedTuple):
     y1: float
     x2: float
     y2: float
-    status: int
+    status: TrvArc
 
 
 _trvcer9 = Routine(
@@ -987,6 +1318,7 @@ _trvcer9 = Routine(
     "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; in int side; "
     "in real d; in real w; out real x1; out real y1; out real x2; out real y2; out int status",
     retains=True,
+    values=dict(status=TrvArc)
 )
 
 
@@ -997,10 +1329,10 @@ def trvcer9(
     """Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
 
     Lengths are compared with 0.001. Both edges share one pair of intersections: where a
-    perpendicular touches the circle (trvlci), the second intersection is that of the edge or the
-    call before; where it misses it, both are.
+    perpendicular touches the circle (trvlci), the second intersection is that of the edge or
+    the call before; where it misses it, both are.
 
-    Retains: both intersections, shared with no routine, zero after loading.
+    Retains: both intersections (trvcer9).
 
     Arguments:
       xc, yc: centre C
@@ -1012,31 +1344,28 @@ def trvcer9(
       w: width of the strip
 
     Returns:
-      x1, y1: point above the station d - w/2; unwritten when status is 0
-      x2, y2: point above the station d + w/2; unwritten when status is 0
-      status: 1 done; 0 the radius, the chord, d, the chord's rest beyond d or the width is at
-        most 0.001, the radii of A and B differ by more, or the strip comes closer than that to
-        an end of the chord
+      x1, y1: point above the station d - w/2; unwritten if status is 0
+      x2, y2: point above the station d + w/2; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the
+        chord, d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B
+        differ by more, or the strip comes closer than that to an end of the chord
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer9.cells(xc, yc, xa, ya, xb, yb, side, d, w, _NAN, _NAN, _NAN, _NAN, 0)
 
 
-class Trvarc1Status(IntEnum):
-    DONE = 1
-
-
 class Trvarc1Result(NamedTuple):
     s1: float
     s2: float
-    status: int
+    status: TrvArc
 
 
 _trvarc1 = Routine(
     "trvarc1", Trvarc1Result,
     "in real xc; in real yc; in real xa; in real ya; in real xb; in real yb; out real s1; "
     "out real s2; out int status",
+    values=dict(status=TrvArc)
 )
 
 
@@ -1053,10 +1382,11 @@ def trvarc1(
       xb, yb: B
 
     Returns:
-      s1: length of the shorter arc: the angle at C (trvphi3) times the radius; unwritten when
+      s1: length of the shorter arc: the angle at C (trvphi3) times the radius; unwritten if
         status is 0
-      s2: length of the longer arc; unwritten when status is 0
-      status: 1 done; 0 the radius, or the distance of A and B, is within the tolerance
+      s2: length of the longer arc; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, or the
+        distance of A and B, is within the tolerance
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1108,8 +1438,8 @@ def trvhin(
 ) -> TrvhinResult:
     """Distances and stations of two points against a segment.
 
-    Distances are taken from the segment's line in the plane of x and y, lengths in space. A distance
-    greater than the length it belongs to gives a NaN station.
+    Distances are taken from the segment's line in the plane of x and y, lengths in space. A
+    distance greater than the length it belongs to gives a NaN station.
 
     Retains: nothing.
 
@@ -1144,12 +1474,14 @@ def trvapp(
 ) -> NDArray[int32]:
     """Marks points by a sector.
 
-    A point is outside where its signed distances from the rays' lines (trvln3, trvlds) have opposite
-    signs, or where its foot on the first line lies beyond the vertex (trvpsl). A NaN in a point puts
-    it inside, one in the vertex or the first ray all points; with one in the second ray the foot
-    decides alone. Takes time in proportion to n.
+    A point is outside where its signed distances from the rays' lines (trvln3, trvlds) have
+    opposite signs, or where its foot on the first line lies beyond the vertex (trvpsl). A NaN
+    in a point puts it inside, one in the vertex or the first ray all points; with one in the
+    second ray the foot decides alone.
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Cost: takes time in proportion to n.
+
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x0, y0: vertex P0
@@ -1159,14 +1491,11 @@ def trvapp(
       X, Y: arrays of n: points
 
     Returns:
-      mark: array of n: 1 inside; 2 outside; -1 no sector: the rays' angle is within the
-        tolerance, which it is for all points alike
+      mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point
+        is outside the sector; -1 no_sector: the rays' angle is within the tolerance, which
+        holds for all points alike
     """
     return _trvapp.call((x0, y0, x1, y1, x2, y2, n, X, Y))
-
-
-class Trvcer4Status(IntEnum):
-    DONE = 1
 
 
 class Trvcer4Result(NamedTuple):
@@ -1178,7 +1507,7 @@ class Trvcer4Result(NamedTuple):
     yb: float
     xo: float
     yo: float
-    status: int
+    status: TrvArc
 
 
 _trvcer4 = Routine(
@@ -1186,6 +1515,7 @@ _trvcer4 = Routine(
     "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; "
     "inout real yb; in real s; in real angle; out real xo; out real yo; out int status",
     retains=True,
+    values=dict(status=TrvArc)
 )
 
 
@@ -1194,35 +1524,33 @@ def trvcer4(
 ) -> Trvcer4Result:
     """Point of an arc on a line through a station of its chord.
 
-    Of the two points in which the line meets the circle, the one across the chord from the centre;
-    points on the chord count as across. A line that misses the circle is not refused: the result of
-    an earlier call stands, as if it had been found in this chord's frame, and is carried out of it.
+    Of the two points in which the line meets the circle, the one across the chord from the
+    centre; points on the chord count as across. A line that misses the circle is not refused:
+    the result of an earlier call stands, as if it had been found in this chord's frame, and is
+    carried out of it.
 
-    Retains: the point, shared with no routine, zero after loading.
+    Retains: the point (trvcer4).
 
     Arguments:
-      xc, yc: centre C; rewritten with its value to rounding when status is 1
-      xa, ya: first end A; likewise
-      xb, yb: second end B; likewise
+      xc, yc: centre C; rewritten with its value to rounding; unchanged if status is 0
+      xa, ya: first end A; rewritten with its value to rounding; unchanged if status is 0
+      xb, yb: second end B; rewritten with its value to rounding; unchanged if status is 0
       s: station: distance from A along the chord, beyond its ends too
       angle: direction of the line in radians, measured from the chord A to B, counter-clockwise
         (trvln1)
 
     Returns:
-      xc, yc: centre C; rewritten with its value to rounding when status is 1
-      xa, ya: first end A; likewise
-      xb, yb: second end B; likewise
-      xo, yo: point; unwritten when status is 0
-      status: 1 done; 0 the radius or the chord is within the tolerance, the radii of A and B
-        differ by more, A and B coincide, or the line touches the circle
+      xc, yc: centre C; rewritten with its value to rounding; unchanged if status is 0
+      xa, ya: first end A; rewritten with its value to rounding; unchanged if status is 0
+      xb, yb: second end B; rewritten with its value to rounding; unchanged if status is 0
+      xo, yo: point; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
+        chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or
+        the line touches the circle
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer4.cells(s, angle, xc, yc, xa, ya, xb, yb, _NAN, _NAN, 0)
-
-
-class Trvcer10Status(IntEnum):
-    LINE_RUNS_ALONG_THE_CHORD = 1
 
 
 class Trvcer10Result(NamedTuple):
@@ -1234,7 +1562,7 @@ class Trvcer10Result(NamedTuple):
     yb: float
     xo: float
     yo: float
-    status: int
+    status: Trvcer10Status
 
 
 _trvcer10 = Routine(
@@ -1242,6 +1570,7 @@ _trvcer10 = Routine(
     "inout real xc; inout real yc; inout real xa; inout real ya; inout real xb; "
     "inout real yb; in real turn; in real angle; out real xo; out real yo; out int status",
     retains=True,
+    values=dict(status=Trvcer10Status)
 )
 
 
@@ -1250,37 +1579,40 @@ def trvcer10(
 ) -> Trvcer10Result:
     """Crossing of an arc's chord with a line through its turned end.
 
-    A is turned about the centre; the line runs through the turned point. Where it is parallel to the
-    chord, or along it, the crossing of an earlier call stands, in the chord's frame.
+    A is turned about the centre; the line runs through the turned point. Where it is parallel
+    to the chord, or along it, the crossing of an earlier call stands, in the chord's frame.
 
-    Retains: the crossing, shared with no routine, zero after loading; and the cosine of the
-    three-point test, shared with all that run it (trvpsl).
+    Retains: the crossing (trvcer10); the cosine of the three-point test (trvpsl).
 
     Arguments:
-      xc, yc: centre C; rewritten with its value to rounding unless refused
-      xa, ya: first end A; likewise
-      xb, yb: second end B; likewise
+      xc, yc: centre C; rewritten with its value to rounding; unchanged on a condition: the
+        input is rejected
+      xa, ya: first end A; rewritten with its value to rounding; unchanged on a condition: the
+        input is rejected
+      xb, yb: second end B; rewritten with its value to rounding; unchanged on a condition: the
+        input is rejected
       turn: angle in radians by which A is turned about C, counter-clockwise
       angle: direction of the line in radians, measured from the chord A to B, counter-clockwise
         (trvln1)
 
     Returns:
-      xc, yc: centre C; rewritten with its value to rounding unless refused
-      xa, ya: first end A; likewise
-      xb, yb: second end B; likewise
-      xo, yo: crossing; unwritten when refused
-      status: 0 refused: the radius or the chord is within the tolerance, or the radii of A and
-        B differ by more, but also a crossing, and a retained one that is on the chord's line
-        but not at A or B (trvpsl above 2); 1 the line runs along the chord; 2 it is parallel to
-        it
+      xc, yc: centre C; rewritten with its value to rounding; unchanged on a condition: the
+        input is rejected
+      xa, ya: first end A; rewritten with its value to rounding; unchanged on a condition: the
+        input is rejected
+      xb, yb: second end B; rewritten with its value to rounding; unchanged on a condition: the
+        input is rejected
+      xo, yo: crossing; unwritten on a condition: the input is rejected, so it must be set
+        beforehand where status 0 is to be told apart
+      status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal
+        result, or a crossing of an earlier call lies on the chord's line but not at A or B
+        (trvpsl above 2), or the input is rejected, since the radius or the chord is within the
+        tolerance or the radii of A and B differ by more; 1 along_chord: the line runs along the
+        chord; 2 parallel: the line is parallel to the chord
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer10.cells(turn, angle, xc, yc, xa, ya, xb, yb, _NAN, _NAN, 0)
-
-
-class Trvcer5Status(IntEnum):
-    DONE = 1
 
 
 class Trvcer5Result(NamedTuple):
@@ -1292,7 +1624,7 @@ class Trvcer5Result(NamedTuple):
     yb: float
     xo: float
     yo: float
-    status: int
+    status: TrvArc
 
 
 _trvcer5 = Routine(
@@ -1301,6 +1633,7 @@ _trvcer5 = Routine(
     "inout real yb; in real s; in int side; in real e; out real xo; out real yo; "
     "out int status",
     retains=True,
+    values=dict(status=TrvArc)
 )
 
 
@@ -1310,39 +1643,37 @@ def trvcer5(
 ) -> Trvcer5Result:
     """Point of an arc on the line from a station of its chord towards the sagitta.
 
-    T is at the distance e from the chord's middle towards the arc's middle point. Of the two points
-    in which the line from the station through T meets the circle, the one on T's side of the chord.
-    A line that misses the circle is not refused: the result of an earlier call stands, as if it had
-    been found in this chord's frame, and is carried out of it. Where A and B, or the chord's middle
-    and the arc's, agree within the tolerance in each coordinate yet lie farther apart, the station,
-    or T, of an earlier call stands.
+    T is at the distance e from the chord's middle towards the arc's middle point. Of the two
+    points in which the line from the station through T meets the circle, the one on T's side of
+    the chord. A line that misses the circle is not refused: the result of an earlier call
+    stands, as if it had been found in this chord's frame, and is carried out of it. Where A and
+    B, or the chord's middle and the arc's, agree within the tolerance in each coordinate yet
+    lie farther apart, the station, or T, of an earlier call stands.
 
-    Retains: the station, T and the point, shared with no routine, zero after loading.
+    Retains: the station, T and the point (trvcer5).
 
     Arguments:
-      xc, yc: centre C; rewritten with its value to rounding when status is 1
-      xa, ya: first end A; likewise, and also when the line touches the circle
-      xb, yb: second end B; likewise when status is 1
+      xc, yc: centre C; rewritten with its value to rounding; unchanged if status is 0
+      xa, ya: first end A; rewritten with its value to rounding, also if the line touches the
+        circle; unchanged on a condition: status is 0 and the line does not touch the circle
+      xb, yb: second end B; rewritten with its value to rounding; unchanged if status is 0
       s: station: distance from A along the chord, not negative
       side: factor of the half angle that turns A clockwise to the arc's middle point
       e: distance of T from the chord
 
     Returns:
-      xc, yc: centre C; rewritten with its value to rounding when status is 1
-      xa, ya: first end A; likewise, and also when the line touches the circle
-      xb, yb: second end B; likewise when status is 1
-      xo, yo: point; unwritten when status is 0
-      status: 1 done; 0 s is negative, or e, the radius, the chord or its rest beyond s is at
-        most 1e-5, or the radii of A and B differ by more, or the line touches the circle
+      xc, yc: centre C; rewritten with its value to rounding; unchanged if status is 0
+      xa, ya: first end A; rewritten with its value to rounding, also if the line touches the
+        circle; unchanged on a condition: status is 0 and the line does not touch the circle
+      xb, yb: second end B; rewritten with its value to rounding; unchanged if status is 0
+      xo, yo: point; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or
+        e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B
+        differ by more, or the line touches the circle
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer5.cells(s, side, e, xc, yc, xa, ya, xb, yb, _NAN, _NAN, 0)
-
-
-class Trvcer7Status(IntEnum):
-    REFUSED = 0
-    DONE = 1
 
 
 class Trvcer7Result(NamedTuple):
@@ -1359,7 +1690,7 @@ class Trvcer7Result(NamedTuple):
     xo: float
     yo: float
     len_: float
-    status: int
+    status: TrvArc
 
 
 _trvcer7 = Routine(
@@ -1368,6 +1699,7 @@ _trvcer7 = Routine(
     "inout real yb; in real s; in int side; in real e; in real angle; out real xp; "
     "out real yp; out real xt; out real yt; out real xo; out real yo; out real len_; "
     "out int status",
+    values=dict(status=TrvArc)
 )
 
 
@@ -1375,13 +1707,13 @@ def trvcer7(
     xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int,
     e: float, angle: float
 ) -> Trvcer7Result:
-    """Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
-    chord.
+    """Crossings of a line through a station of an arc's chord with the arc and with a parallel
+    to the chord.
 
-    T is on the parallel at the distance e from the chord on the given side, O on the circle on that
-    side. Formed in double precision and rounded once. Lengths, and the sine of the angle, are
-    compared with 1e-4; radii may differ by the rounding of the coordinates besides, 3.6e-7 times the
-    largest coordinate of the arc. A NaN is refused.
+    T is on the parallel at the distance e from the chord on the given side, O on the circle on
+    that side. Formed in double precision and rounded once. Lengths, and the sine of the angle,
+    are compared with 1e-4; radii may differ by the rounding of the coordinates besides, 3.6e-7
+    times the largest coordinate of the arc. A NaN is refused.
 
     Retains: nothing.
 
@@ -1400,23 +1732,19 @@ def trvcer7(
       xc, yc: centre C; comes back as it went in
       xa, ya: first end A; likewise
       xb, yb: second end B; likewise
-      xp, yp: station P; unwritten when status is 0
-      xt, yt: crossing T with the parallel; unwritten when status is 0
-      xo, yo: crossing O with the circle about C through A; unwritten when status is 0
-      len_: length of PO; unwritten when status is 0
-      status: 1 done; 0 refused: s or e is negative, the radius or the chord's rest beyond s is
-        at most 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line
-        is parallel to the chord, or it cuts less than twice 1e-4 off the circle
+      xp, yp: station P; unwritten if status is 0
+      xt, yt: crossing T with the parallel; unwritten if status is 0
+      xo, yo: crossing O with the circle about C through A; unwritten if status is 0
+      len_: length of PO; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative,
+        the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by
+        more and the rounding, side is 0, the line is parallel to the chord, or the part of the
+        line inside the circle is not longer than 2e-4
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvcer7.cells(s, side, e, angle, xc, yc, xa, ya, xb, yb, _NAN, _NAN, _NAN, _NAN,
         _NAN, _NAN, _NAN, 0)
-
-
-class TrvardStatus(IntEnum):
-    REFUSED = 0
-    DONE = 1
 
 
 class TrvardResult(NamedTuple):
@@ -1426,7 +1754,7 @@ class TrvardResult(NamedTuple):
     yt1: float
     xt2: float
     yt2: float
-    status: int
+    status: TrvArc
 
 
 _trvard = Routine(
@@ -1434,6 +1762,7 @@ _trvard = Routine(
     "in real x0; in real y0; in real x1; in real y1; in real x2; in real y2; in real r; "
     "out real xc; out real yc; out real xt1; out real yt1; out real xt2; out real yt2; "
     "out int status",
+    values=dict(status=TrvArc)
 )
 
 
@@ -1453,11 +1782,12 @@ def trvard(
       r: radius
 
     Returns:
-      xc, yc: centre of the arc; unwritten when status is 0
-      xt1, yt1: where the arc touches the segment to P1; unwritten when status is 0
-      xt2, yt2: where it touches the segment to P2; unwritten when status is 0
-      status: 1 done; 0 refused: r or a segment is not above the tolerance, the sine of the
-        angle between the segments is within it, or the arc touches one beyond its end by more
+      xc, yc: centre of the arc; unwritten if status is 0
+      xt1, yt1: where the arc touches the segment to P1; unwritten if status is 0
+      xt2, yt2: where it touches the segment to P2; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is
+        not above the tolerance, the sine of the angle between the segments is within it, or the
+        arc touches one beyond its end by more
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1511,11 +1841,13 @@ def trvord(
 ) -> NDArray[float32]:
     """Sorts Reals ascending, in place.
 
-    The result is that of a selection sort that takes the last of equal smallest entries: a NaN stays
-    where it is, the others are sorted around it, and which of -0 and 0 comes first follows from the
-    swaps. Time grows with n, with n*log(n) where zeros of both signs occur. More than 32 entries
-    take 8*n bytes of the heap for the call. Where memory is short the sort is in place and takes
-    n*log(n), with NaNs or zeros of both signs n*n.
+    The result is that of a selection sort that takes the last of equal smallest entries: a NaN
+    stays where it is, the others are sorted around it, and which of -0 and 0 comes first
+    follows from the swaps.
+
+    Cost: time grows with n, with n*log(n) where zeros of both signs occur. More than 32 entries
+    take 8*n bytes of the heap for the call. Where memory is short the sort is in place and
+    takes n*log(n), with NaNs or zeros of both signs n*n.
 
     Retains: nothing.
 
@@ -1540,8 +1872,8 @@ def trvord1(
 ) -> NDArray[int32]:
     """Sorts Integers ascending, in place.
 
-    Time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where memory is
-    short the sort is in place and takes n*log(n).
+    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
+    memory is short the sort is in place and takes n*log(n).
 
     Retains: nothing.
 
@@ -1566,12 +1898,14 @@ def trvordi(
 ) -> NDArray[int32]:
     """Positions of the entries of a list in ascending order; the list itself stays.
 
-    Equal entries, -0 and 0 among them, are listed from the highest position to the lowest. The k-th
-    round finds the smallest entry and puts the largest of the list plus 1 in its place, for the
-    later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity), an entry as
-    large as the largest is never used up: IDX(k) is then the position of the last number of the
-    list. A round finds nothing where the list holds a NaN at k, by then: a NaN at the head of the
-    list makes the sum a NaN. Time grows with n. Takes 16*n bytes of the heap for the call.
+    Equal entries, -0 and 0 among them, are listed from the highest position to the lowest. The
+    k-th round finds the smallest entry and puts the largest of the list plus 1 in its place,
+    for the later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity),
+    an entry as large as the largest is never used up: IDX(k) is then the position of the last
+    number of the list. A round finds nothing where the list holds a NaN at k, by then: a NaN at
+    the head of the list makes the sum a NaN.
+
+    Cost: time grows with n. Takes 16*n bytes of the heap for the call.
 
     Retains: nothing.
 
@@ -1580,27 +1914,24 @@ def trvordi(
       n: number of entries
 
     Returns:
-      IDX: array of n: IDX(k) is the position of the k-th smallest entry; unwritten when n < 1
-        or memory is short; IDX(k) alone is unwritten when its round finds nothing
+      IDX: array of n: IDX(k) is the position of the k-th smallest element; unwritten on a
+        condition: IDX(k) if its round finds nothing
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvordi.call((V, n))
 
 
-class TrvporStatus(IntEnum):
-    ORDERED = 0
-
-
 class TrvporResult(NamedTuple):
     IDX: NDArray[int32]
-    status: int
+    status: TrvStatus
 
 
 _trvpor = Routine(
     "trvpor", TrvporResult,
     "in int n = A B C; in real A[n]; in real B[n]; in real C[n]; out int IDX[n]; "
     "out int status",
+    values=dict(status=TrvStatus)
 )
 
 
@@ -1609,10 +1940,11 @@ def trvpor(
 ) -> TrvporResult:
     """Order of parallel lines by where they cross an axis.
 
-    That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the y
-    axis and apart from it. Parallel and distinct is what trvlni finds between the first line and
-    each other one; a single line is ordered. Time grows with n. Takes 20*n bytes of the heap for the
-    call.
+    That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the
+    y axis and apart from it. Parallel and distinct is what trvlni finds between the first line
+    and each other one; a single line is ordered.
+
+    Cost: time grows with n. Takes 20*n bytes of the heap for the call.
 
     Retains: nothing.
 
@@ -1622,9 +1954,10 @@ def trvpor(
 
     Returns:
       IDX: array of n: positions by ascending crossing, equal ones from the highest position
-        down, infinite and NaN ones as trvordi orders them; 1 ... n when status is -1; unwritten
-        when n < 1, or when memory is short for an order
-      status: 0 ordered; -1 not a family of parallel and distinct lines, or n < 1
+        down, infinite and NaN ones as trvordi orders them; 1 ... n if status is -1; unwritten
+        on a condition: IDX(k) as trvordi leaves it
+      status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a
+        family of parallel and distinct lines, or n < 1
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1649,8 +1982,9 @@ def trvorv(
 ) -> TrvorvResult:
     """Puts the corners of a quadrilateral of space in cyclic order, in place.
 
-    An order stands when the two triangles on its diagonal from the first corner turn the same way,
-    or one of them is degenerate. Tried are (1, 2, 3, 4), then (1, 2, 4, 3); else it is (1, 4, 2, 3).
+    An order stands when the two triangles on its diagonal from the first corner turn the same
+    way, or one of them is degenerate. Tried are (1, 2, 3, 4), then (1, 2, 4, 3); else it is (1,
+    4, 2, 3).
 
     Retains: nothing.
 
@@ -1712,10 +2046,12 @@ def trvmer13(
 ) -> Trvmer13Result:
     """All pairs of entries of two lists that differ by at most a tolerance.
 
-    Equal infinities have no difference and make no pair, and neither does anything at a tolerance
-    that is negative or NaN; here the merging routines differ. Time grows with na+nb and the number
-    of pairs, unless entries crowd within a few tolerances: a crowd's are all compared. Takes up to
-    32*(na+nb) bytes of the heap for the call; where memory is short all entries are compared.
+    Equal infinities have no difference and make no pair, and neither does anything at a
+    tolerance that is negative or NaN; here the merging routines differ.
+
+    Cost: time grows with na+nb and the number of pairs, unless entries crowd within a few
+    tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the
+    call; where memory is short all entries are compared.
 
     Retains: nothing.
 
@@ -1729,8 +2065,8 @@ def trvmer13(
     Returns:
       count_: number of pairs
       IA, IB: arrays of max(na+nb,na*nb): positions in A and in B, by A, then by B; first
-        entries 1 to na+nb, the sum of the counts as they are, are set to 0, and those that are
-        no pair stay 0; unwritten beyond both na+nb and count
+        elements 1 to na+nb, the sum of the counts as they are, are set to 0, and those that are
+        no pair stay 0; unwritten on a condition: elements beyond both na+nb and count
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1752,7 +2088,8 @@ _trvmer1 = Routine(
 def trvmer1(
     A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer1Result:
-    """Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
+    """Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as
+    Integers.
 
     Retains: nothing.
 
@@ -1817,16 +2154,16 @@ def trvmer2(
 ) -> Trvmer2Result:
     """Sorts Integers ascending and drops repeats, in place.
 
-    Time and memory are those of trvord1.
+    Cost: time and memory are those of trvord1.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries; unspecified beyond the new n
+      V: array of n, n used: entries; unspecified beyond the new n
       n: number of entries; below 1 nothing happens
 
     Returns:
-      V: array of n: entries; unspecified beyond the new n
+      V: array of n, n used: entries; unspecified beyond the new n
       n: number of entries; below 1 nothing happens
     """
     return _trvmer2.call((V, n), in_place)
@@ -1848,18 +2185,20 @@ def trvmer3(
 ) -> Trvmer3Result:
     """Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
 
-    Entries agree that are equal or differ by at most 1e-5. So a NaN agrees with nothing, an infinity
-    with itself. -0 comes before 0, NaNs come last and all stay. Time grows with n. More than 32
-    entries take 8*n bytes of the heap for the call; where memory is short the sort takes n*log(n).
+    Entries agree that are equal or differ by at most 1e-5. So a NaN agrees with nothing, an
+    infinity with itself. -0 comes before 0, NaNs come last and all stay.
+
+    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
+    memory is short the sort takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries; unspecified beyond the new n
+      V: array of n, n used: entries; unspecified beyond the new n
       n: number of entries; below 1 nothing happens
 
     Returns:
-      V: array of n: entries; unspecified beyond the new n
+      V: array of n, n used: entries; unspecified beyond the new n
       n: number of entries; below 1 nothing happens
     """
     return _trvmer3.call((V, n), in_place)
@@ -1881,20 +2220,22 @@ def trvmer12(
 ) -> Trvmer12Result:
     """Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
 
-    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
-    infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. -0
-    comes before 0, NaNs come last and all stay. Time grows with n. More than 32 entries take 8*n
-    bytes of the heap for the call; where memory is short the sort takes n*log(n).
+    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with
+    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal entries
+    alone agree. -0 comes before 0, NaNs come last and all stay.
+
+    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
+    memory is short the sort takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries; unspecified beyond the new n
+      V: array of n, n used: entries; unspecified beyond the new n
       n: number of entries; below 1 nothing happens
       tol: largest difference of a repeat, itself included; may be an entry of V
 
     Returns:
-      V: array of n: entries; unspecified beyond the new n
+      V: array of n, n used: entries; unspecified beyond the new n
       n: number of entries; below 1 nothing happens
     """
     return _trvmer12.call((V, n, tol), in_place)
@@ -1918,11 +2259,13 @@ def trvmer4(
 ) -> Trvmer4Result:
     """Joins to a list those entries of another that it does not hold yet.
 
-    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
-    infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. Time
-    grows with na+nb, unless entries crowd within a few tolerances: a crowd's are compared with each
-    other. Takes up to 48*(na+nb) bytes of the heap for the call; where memory is short all entries
-    are compared.
+    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with
+    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal entries
+    alone agree.
+
+    Cost: time grows with na+nb, unless entries crowd within a few tolerances: a crowd's are
+    compared with each other. Takes up to 48*(na+nb) bytes of the heap for the call; where
+    memory is short all entries are compared.
 
     Retains: nothing.
 
@@ -1960,8 +2303,9 @@ def trvmer14(
 ) -> Trvmer14Result:
     """Entries of a list that another holds too.
 
-    Time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for the
-    call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the stack.
+    Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap
+    for the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB
+    of the stack.
 
     Retains: nothing.
 
@@ -1996,20 +2340,21 @@ def trvmer15(
 ) -> Trvmer15Result:
     """Removes from a list the entries that another holds, in place.
 
-    Time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for the
-    call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the stack.
+    Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap
+    for the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB
+    of the stack.
 
     Retains: nothing.
 
     Arguments:
       na: number of entries of A; below 1 it stays as it is
-      A: array of na: those that stay, in their order; unspecified beyond the new na
+      A: array of na, na used: those that stay, in their order; unspecified beyond the new na
       nb: number of entries of B; below 1 there are none
       B: array of nb: entries
 
     Returns:
       na: number of entries of A; below 1 it stays as it is
-      A: array of na: those that stay, in their order; unspecified beyond the new na
+      A: array of na, na used: those that stay, in their order; unspecified beyond the new na
       count_: how many were removed
     """
     return _trvmer15.call((na, A, nb, B), in_place)
@@ -2032,36 +2377,32 @@ def trvmer16(
 ) -> Trvmer16Result:
     """Drops repeated vertices of a closed outline, in place.
 
-    A vertex that agrees with the last one left is dropped, and at the end those that agree with the
-    first. Vertices agree whose x and y both are equal or differ by at most the tolerance. So a NaN
-    agrees with nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
-    coordinates alone agree. Time grows with n.
+    A vertex that agrees with the last one left is dropped, and at the end those that agree with
+    the first. Vertices agree whose x and y both are equal or differ by at most the tolerance.
+    So a NaN agrees with nothing, an infinity with itself, and at a tolerance that is negative
+    or NaN equal coordinates alone agree.
+
+    Cost: time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      X, Y: arrays of n: vertices; unspecified beyond the new n
+      X, Y: arrays of n, n used: vertices; unspecified beyond the new n
       n: number of vertices; below 1 nothing happens
       tol: largest difference of either coordinate, itself included
 
     Returns:
-      X, Y: arrays of n: vertices; unspecified beyond the new n
+      X, Y: arrays of n, n used: vertices; unspecified beyond the new n
       n: number of vertices; below 1 nothing happens
     """
     return _trvmer16.call((X, Y, n, tol), in_place)
-
-
-class Trvptp1Status(IntEnum):
-    NO_PAIR = 0
-    SOME_POINTS_OF_A_HAVE_A_PARTNER = 1
-    EVERY_POINT_OF_A_HAS_ONE = 2
 
 
 class Trvptp1Result(NamedTuple):
     count_: int
     IA: NDArray[int32]
     IB: NDArray[int32]
-    status: int
+    status: Trvptp1Status
 
 
 _trvptp1 = Routine(
@@ -2070,6 +2411,7 @@ _trvptp1 = Routine(
     "in int nb = XB YB ZB; in real XB[nb]; in real YB[nb]; in real ZB[nb]; in real tol; "
     "out int count_; out int IA[na*nb, count_ used]; out int IB[na*nb, count_ used]; "
     "out int status",
+    values=dict(status=Trvptp1Status)
 )
 
 
@@ -2080,10 +2422,12 @@ def trvptp1(
     """All pairs of points of two lists that agree within a tolerance in each coordinate.
 
     Coordinates agree that are equal or differ by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal coordinates
-    alone agree. Time grows with na+nb and the number of pairs, unless points crowd within a few
-    tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the call;
-    where memory is short all points are compared.
+    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
+    coordinates alone agree.
+
+    Cost: time grows with na+nb and the number of pairs, unless points crowd within a few
+    tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the
+    call; where memory is short all points are compared.
 
     Retains: nothing.
 
@@ -2097,7 +2441,8 @@ def trvptp1(
     Returns:
       count_: number of pairs
       IA, IB: arrays of na*nb, count used: positions in A and in B, by A, then by B
-      status: 0 no pair; 1 some points of A have a partner; 2 every point of A has one
+      status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some
+        have; 2 all_paired: every one has
     """
     return _trvptp1.call((na, XA, YA, ZA, nb, XB, YB, ZB, tol))
 
@@ -2147,12 +2492,14 @@ def trvptp2(
 ) -> Trvptp2Result:
     """Merges three lists of points into one list of places.
 
-    A point is at the first place it agrees with, else it makes a new one. Points agree when each of
-    their coordinates is equal or differs by at most the tolerance. So a NaN agrees with nothing, an
-    infinity with itself, and at a tolerance that is negative or NaN equal coordinates alone agree.
-    Time grows with na+nb+nc and the number of pairs, unless points crowd within a few tolerances: a
-    crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the call; where memory
-    is short all points are compared.
+    A point is at the first place it agrees with, else it makes a new one. Points agree when
+    each of their coordinates is equal or differs by at most the tolerance. So a NaN agrees with
+    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
+    coordinates alone agree.
+
+    Cost: time grows with na+nb+nc and the number of pairs, unless points crowd within a few
+    tolerances: a crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the
+    call; where memory is short all points are compared.
 
     Retains: nothing.
 
@@ -2181,10 +2528,8 @@ def trvptp2(
       nk: number of points at it; 0 where there is no such place
       PK: array of na+nb+nc, nk used: their positions, counted on through A, B and C
       nz: number of levels
-      ZL: array of na+nb+nc: the distinct z of the places, ascending, as trvmer12 leaves them;
-        unspecified from nz+1 to nout, unwritten beyond
-
-    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+      ZL: array of na+nb+nc, nz used: the distinct z of the places, ascending, as trvmer12
+        leaves them; unspecified up to nout
     """
     return _trvptp2.call((na, XA, YA, ZA, nb, XB, YB, ZB, nc, XC, YC, ZC, tol, k))
 
@@ -2206,10 +2551,12 @@ def trvppp(
 ) -> TrvpppResult:
     """Where the horizontal line y = y0 crosses a closed outline.
 
-    An edge counts from its lower end, included, to its upper end, excluded. So the count is even,
-    and the first and second, third and fourth crossing and so on bound the inside. Formed in double
-    precision and rounded once. Time grows with n. More than 32 crossings take up to 8*n bytes of the
-    heap for the call; where memory is short their sort takes n*log(n).
+    An edge counts from its lower end, included, to its upper end, excluded. So the count is
+    even, and the first and second, third and fourth crossing and so on bound the inside. Formed
+    in double precision and rounded once.
+
+    Cost: time grows with n. More than 32 crossings take up to 8*n bytes of the heap for the
+    call; where memory is short their sort takes n*log(n).
 
     Retains: nothing.
 
@@ -2226,17 +2573,13 @@ def trvppp(
     return _trvppp.call((X, Y, n, y0))
 
 
-class TrvpinStatus(IntEnum):
-    REFUSED = -1
-
-
 class TrvpinResult(NamedTuple):
     count_: int
     XI: NDArray[float32]
     YI: NDArray[float32]
     T: NDArray[float32]
     EDGE: NDArray[int32]
-    status: int
+    status: TrvpinStatus
 
 
 _trvpin = Routine(
@@ -2244,6 +2587,7 @@ _trvpin = Routine(
     "in real X[n]; in real Y[n]; in int n = X Y; in real x1; in real y1; in real x2; "
     "in real y2; out int count_; out real XI[n, count_ used]; out real YI[n, count_ used]; "
     "out real T[n, count_ used]; out int EDGE[n, count_ used]; out int status",
+    values=dict(status=TrvpinStatus)
 )
 
 
@@ -2253,14 +2597,16 @@ def trvpin(
 ) -> TrvpinResult:
     """Where the segment from P1 to P2 crosses a closed outline.
 
-    A crossing is where the outline passes from one side of the segment's line to the other, at a
-    vertex on the line too. An outline that touches the line, or runs along it, and goes back to its
-    side does not cross. One that runs along it and leaves to the other side crosses once, where the
-    segment, seen from P1, first meets the run, whichever way the outline goes round. A crossing
-    counts when P1 and P2 are not both on the same side of the edge crossed: ends on the outline
-    count. Sides are formed in double precision, and are exact where differences of coordinates take
-    no more than 26 bits, whole numbers up to 33554432 for example; points are formed in double
-    precision and rounded once. Time grows with n, and with count*log(count); nothing is allocated.
+    A crossing is where the outline passes from one side of the segment's line to the other, at
+    a vertex on the line too. An outline that touches the line, or runs along it, and goes back
+    to its side does not cross. One that runs along it and leaves to the other side crosses
+    once, where the segment, seen from P1, first meets the run, whichever way the outline goes
+    round. A crossing counts when P1 and P2 are not both on the same side of the edge crossed:
+    ends on the outline count. Sides are formed in double precision, and are exact where
+    differences of coordinates take no more than 26 bits, whole numbers up to 33554432 for
+    example; points are formed in double precision and rounded once.
+
+    Cost: time grows with n, and with count*log(count); nothing is allocated.
 
     Retains: nothing.
 
@@ -2277,9 +2623,9 @@ def trvpin(
       EDGE: array of n, count used: the edges crossed, ascending where places are equal; edge i
         runs from vertex i to vertex i+1; at a vertex or a run the edge by which the outline
         leaves the line
-      status: 1 P1 is inside, by the even-odd rule; 0 it is not; -1 refused: n < 3, or P1 and P2
-        coincide within the tolerance in both coordinates. P1 on the outline counts as the point
-        just to its right, or just above where that is on the outline too
+      status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside:
+        P1 is outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide
+        within the tolerance in both coordinates
     """
     return _trvpin.call((X, Y, n, x1, y1, x2, y2))
 
@@ -2363,21 +2709,18 @@ def trvpre(
     return _trvpre.call((x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4))
 
 
-class TrvcntStatus(IntEnum):
-    EACH_DIFFERENCE_IS_WITHIN_THE_TOLERANCE = 1
-
-
 class TrvcntResult(NamedTuple):
     dx: float
     dy: float
     dz: float
-    status: int
+    status: TrvCoincidence
 
 
 _trvcnt = Routine(
     "trvcnt", TrvcntResult,
     "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; out real dx; "
     "out real dy; out real dz; out int status",
+    values=dict(status=TrvCoincidence)
 )
 
 
@@ -2394,24 +2737,22 @@ def trvcnt(
 
     Returns:
       dx, dy, dz: second point minus first; always written
-      status: 1 each difference is within the tolerance; 0 otherwise
+      status: coincidence (TrvCoincidence): 1 coincident: each difference is within the
+        tolerance; 0 distinct: a difference is above the tolerance or NaN
     """
     return _trvcnt.cells(x1, y1, z1, x2, y2, z2, _NAN, _NAN, _NAN, 0)
-
-
-class Trvcnt1Status(IntEnum):
-    ALL_COMPONENTS_ARE_ZERO_OF_EITHER_SIGN = 1
 
 
 _trvcnt1 = Routine(
     "trvcnt1", None,
     "in real dx; in real dy; in real dz; out int status",
+    values=dict(status=Trvcnt1Status)
 )
 
 
 def trvcnt1(
     dx: float, dy: float, dz: float
-) -> int:
+) -> Trvcnt1Status:
     """Whether a vector is exactly zero; unlike trvcnt, no tolerance applies.
 
     Retains: nothing.
@@ -2420,27 +2761,24 @@ def trvcnt1(
       dx, dy, dz: vector
 
     Returns:
-      status: 1 all components are zero of either sign; 0 otherwise (a NaN included)
+      status: test: 1 zero: all components are zero, of either sign; 0 nonzero: a component is
+        not zero, or is NaN
     """
     return _trvcnt1.cells(dx, dy, dz, 0)
-
-
-class Trv123Status(IntEnum):
-    DONE = 0
-    P1_AND_P2_COINCIDE_WITHIN_THE_TOLERANCE = 1
 
 
 class Trv123Result(NamedTuple):
     x: float
     y: float
     z: float
-    status: int
+    status: TrvCoincidence
 
 
 _trv123 = Routine(
     "trv123", Trv123Result,
     "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real t; "
     "out real x; out real y; out real z; out int status",
+    values=dict(status=TrvCoincidence)
 )
 
 
@@ -2457,8 +2795,9 @@ def trv123(
       t: fraction of the segment, not a length; any value
 
     Returns:
-      x, y, z: point; unwritten when status is 1
-      status: 0 done; 1 P1 and P2 coincide within the tolerance (trvcnt)
+      x, y, z: point; unwritten if status is 1
+      status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 and
+        P2 coincide within the tolerance (trvcnt)
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -2599,19 +2938,16 @@ def trvint(
     return _trvint.cells(x1, x2, y1, y2, x, _NAN)
 
 
-class TrvvinStatus(IntEnum):
-    V_IS_POSITIVE = 1
-
-
 _trvvin = Routine(
     "trvvin", None,
     "in real u1; in real v; in real u3; in real u4; in real u5; out int status",
+    values=dict(status=TrvvinStatus)
 )
 
 
 def trvvin(
     u1: float, v: float, u3: float, u4: float, u5: float
-) -> int:
+) -> TrvvinStatus:
     """Sign of a value.
 
     Retains: nothing.
@@ -2622,7 +2958,7 @@ def trvvin(
       u3, u4, u5: ignored
 
     Returns:
-      status: 1 v is positive; 2 v is zero, negative or NaN
+      status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or NaN
     """
     return _trvvin.cells(u1, v, u3, u4, u5, 0)
 
@@ -2651,18 +2987,15 @@ def trvpos(
     return _trvpos.call((n, A, x))
 
 
-class Trvpos1Status(IntEnum):
-    NEITHER = 0
-
-
 class Trvpos1Result(NamedTuple):
-    status: int
+    status: Trvpos1Status
     i: int
 
 
 _trvpos1 = Routine(
     "trvpos1", Trvpos1Result,
     "in int n = A; in real A[n]; in real x; out int status; out int i",
+    values=dict(status=Trvpos1Status)
 )
 
 
@@ -2681,7 +3014,8 @@ def trvpos1(
       x: value
 
     Returns:
-      status: 1 A(i) equals x within the tolerance; 2 A(i) < x < A(i+1); 0 neither
+      status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) <
+        x < A(i+1); 0 neither: x equals no element and lies in no interval
       i: first such position; 0 when status is 0
     """
     return _trvpos1.call((n, A, x))
@@ -2704,8 +3038,8 @@ def trvln3(
 ) -> Trvln3Result:
     """Line through two points.
 
-    a = y2 - y1, b = 0 - (x2 - x1), c = y1*x2 - y2*x1: the normal (a, b) points to the right of the
-    direction from P1 to P2 and is as long as the segment.
+    a = y2 - y1, b = 0 - (x2 - x1), c = y1*x2 - y2*x1: the normal (a, b) points to the right of
+    the direction from P1 to P2 and is as long as the segment.
 
     Retains: nothing.
 
@@ -2736,8 +3070,8 @@ def trvln1(
 ) -> Trvln1Result:
     """Line through a point at an angle to the x axis.
 
-    An angle closer than 1e-5 to pi/2 or -pi/2 gives the vertical line (1, 0, 0 - x0), and so does a
-    NaN. Every other angle, 3*pi/2 included, gives (tan(phi), -1, y0 - tan(phi)*x0).
+    An angle closer than 1e-5 to pi/2 or -pi/2 gives the vertical line (1, 0, 0 - x0), and so
+    does a NaN. Every other angle, 3*pi/2 included, gives (tan(phi), -1, y0 - tan(phi)*x0).
 
     Retains: nothing.
 
@@ -2769,8 +3103,8 @@ def trvln4(
 ) -> Trvln4Result:
     """Line through a point with a direction.
 
-    (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) where dx is exactly zero; no
-    tolerance applies.
+    (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) where dx is exactly zero;
+    no tolerance applies.
 
     Retains: nothing.
 
@@ -2834,7 +3168,8 @@ def trvln5(
 ) -> Trvln5Result:
     """Internal bisector of the angle at P0 between the rays to P1 and P2.
 
-    The normal (a, b) is the difference of the unit vectors towards P1 and P2, times both lengths.
+    The normal (a, b) is the difference of the unit vectors towards P1 and P2, times both
+    lengths.
 
     Retains: nothing.
 
@@ -2875,14 +3210,8 @@ def trvlds(
     return _trvlds.cells(x, y, a, b, c, _NAN)
 
 
-class TrvlniStatus(IntEnum):
-    ONE_POINT = 0
-    SAME_LINE = 1
-    PARALLEL_AND_DISTINCT = 2
-
-
 class TrvlniResult(NamedTuple):
-    status: int
+    status: TrvPlaneLines
     x: float
     y: float
 
@@ -2891,6 +3220,7 @@ _trvlni = Routine(
     "trvlni", TrvlniResult,
     "in real a1; in real b1; in real c1; in real a2; in real b2; in real c2; out int status; "
     "out real x; out real y",
+    values=dict(status=TrvPlaneLines)
 )
 
 
@@ -2899,9 +3229,9 @@ def trvlni(
 ) -> TrvlniResult:
     """Intersection of two lines.
 
-    The lines cross when the determinant a1*b2 - a2*b1 is above the tolerance; else they are distinct
-    when b1*c2 - b2*c1 or a2*c1 - a1*c2 is. Neither is scaled: lines with small coefficients count
-    as parallel, and as the same line, sooner.
+    The lines cross when the determinant a1*b2 - a2*b1 is above the tolerance; else they are
+    distinct when b1*c2 - b2*c1 or a2*c1 - a1*c2 is. Neither is scaled: lines with small
+    coefficients count as parallel, and as the same line, sooner.
 
     Retains: nothing.
 
@@ -2910,28 +3240,25 @@ def trvlni(
       a2, b2, c2: second line
 
     Returns:
-      status: 0 one point; 1 the same line; 2 parallel and distinct
-      x, y: point; unwritten when status is 1 or 2
+      status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1
+        same_line: the lines are the same; 2 parallel: the lines are parallel and distinct
+      x, y: point; unwritten if status is 1 or 2
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvlni.cells(a1, b1, c1, a2, b2, c2, 0, _NAN, _NAN)
 
 
-class TrvlulStatus(IntEnum):
-    THEY_CROSS = 0
-    SAME_LINE = 1
-
-
 class TrvlulResult(NamedTuple):
     d: float
-    status: int
+    status: TrvPlaneLines
 
 
 _trvlul = Routine(
     "trvlul", TrvlulResult,
     "in real a1; in real b1; in real c1; in real a2; in real b2; in real c2; out real d; "
     "out int status",
+    values=dict(status=TrvPlaneLines)
 )
 
 
@@ -2948,35 +3275,27 @@ def trvlul(
 
     Returns:
       d: signed distance for which trvln2 makes the second line of the first: positive towards
-        the normal (a1, b1); 0 when status is 1; unwritten when it is 0; formed in double
-        precision and rounded once
-      status: 0 they cross; 1 the same line; 2 parallel and distinct, as trvlni tells
+        the normal (a1, b1); 0 if status is 1; formed in double precision and rounded once;
+        unwritten if status is 0
+      status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1
+        same_line: the lines are the same; 2 parallel: the lines are parallel and distinct, as
+        trvlni finds
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvlul.cells(a1, b1, c1, a2, b2, c2, _NAN, 0)
 
 
-class TrvpsnCode(IntEnum):
-    NONE = 0
-    ALL = 1
-    FIRST = 2
-    SECOND = 3
-    THIRD = 4
-    FIRST_AND_SECOND = 5
-    SECOND_AND_THIRD = 6
-    FIRST_AND_THIRD = 7
-
-
 _trvpsn = Routine(
     "trvpsn", None,
     "in real p1; in real p2; in real p3; in real q1; in real q2; in real q3; out int code",
+    values=dict(code=TrvComponents)
 )
 
 
 def trvpsn(
     p1: float, p2: float, p3: float, q1: float, q2: float, q3: float
-) -> int:
+) -> TrvComponents:
     """Which components of two triples differ by more than the tolerance.
 
     Retains: nothing.
@@ -2986,35 +3305,25 @@ def trvpsn(
       q1, q2, q3: second triple
 
     Returns:
-      code: 0 none; 1 all; 2 first; 3 second; 4 third; 5 first and second; 6 second and third; 7
-        first and third
+      code: which components differ by more than the tolerance (TrvComponents): 0 none: no
+        component is; 1 all: all three components are; 2 first: the first component alone is; 3
+        second: the second component alone is; 4 third: the third component alone is; 5
+        first_second: the first and the second component are; 6 second_third: the second and the
+        third component are; 7 first_third: the first and the third component are
     """
     return _trvpsn.cells(p1, p2, p3, q1, q2, q3, 0)
 
 
-class Trvln6Code(IntEnum):
-    ALL_ARE = 1
-    X = 2
-    Y = 3
-    Z = 4
-    X_AND_Y = 5
-    Y_AND_Z = 6
-    X_AND_Z = 7
-
-
-class Trvln6On(IntEnum):
-    P_LIES_ON_THE_LINE = 1
-
-
 class Trvln6Result(NamedTuple):
-    code: int
-    on: int
+    code: TrvComponents
+    on: TrvOnLine
 
 
 _trvln6 = Routine(
     "trvln6", Trvln6Result,
     "in real x0; in real y0; in real z0; in real dx; in real dy; in real dz; in real px; "
     "in real py; in real pz; in real tol; out int code; out int on",
+    values=dict(code=TrvComponents, on=TrvOnLine)
 )
 
 
@@ -3024,8 +3333,8 @@ def trvln6(
 ) -> Trvln6Result:
     """Whether a point lies on the line of space through P0 with direction D.
 
-    The components of D above the tolerance tell which coordinate of P places it along the line; each
-    other coordinate must then agree with the line's.
+    The components of D above the tolerance tell which coordinate of P places it along the line;
+    each other coordinate must then agree with the line's.
 
     Retains: nothing.
 
@@ -3036,32 +3345,22 @@ def trvln6(
       tol: largest coordinate difference allowed, itself included
 
     Returns:
-      code: 0 no component of (P0 + D) - P0 is above the tolerance; 1 all are; 2 x; 3 y; 4 z; 5
-        x and y; 6 y and z; 7 x and z
-      on: 1 P lies on the line; 0 it does not, and always when code is 0
+      code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none:
+        no component is; 1 all: all three components are; 2 first: the first component alone is;
+        3 second: the second component alone is; 4 third: the third component alone is; 5
+        first_second: the first and the second component are; 6 second_third: the second and the
+        third component are; 7 first_third: the first and the third component are
+      on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code
+        is 0
     """
     return _trvln6.cells(x0, y0, z0, dx, dy, dz, px, py, pz, tol, 0, 0)
-
-
-class Trvln7Code(IntEnum):
-    ALL_ARE = 1
-    EX = 2
-    EY = 3
-    EZ = 4
-    EX_AND_EY = 5
-    EY_AND_EZ = 6
-    EX_AND_EZ = 7
-
-
-class Trvln7On(IntEnum):
-    P_AGREES_WITH_THE_LINE_AT_THE_STATION = 1
 
 
 class Trvln7Result(NamedTuple):
     ex: float
     ey: float
-    code: int
-    on: int
+    code: TrvComponents
+    on: TrvOnLine
 
 
 _trvln7 = Routine(
@@ -3070,6 +3369,7 @@ _trvln7 = Routine(
     "in real d2; in real px; in real py; in real pz; out real ex; out real ey; in real ez; "
     "in real tol; out int code; out int on",
     retains=True,
+    values=dict(code=TrvComponents, on=TrvOnLine)
 )
 
 
@@ -3079,14 +3379,15 @@ def trvln7(
 ) -> Trvln7Result:
     """Line of two planes, and whether it agrees with a point at a retained station.
 
-    The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the tolerance.
-    Its station there is not the coordinate of P but that of the previous call: X, Y and Z are zero
-    after loading, and each call replaces the two it computes. The point agrees when its other two
-    coordinates are those computed at the station; along y, with the sign of ey, z is that of the
-    line at minus the station. One call with planes that are nearly parallel, infinite or NaN can
-    leave a station that is infinite or NaN; no later call recovers from it.
+    The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the
+    tolerance. Its station there is not the coordinate of P but that of the previous call: X, Y
+    and Z are zero after loading, and each call replaces the two it computes. The point agrees
+    when its other two coordinates are those computed at the station; along y, with the sign of
+    ey, z is that of the line at minus the station. One call with planes that are nearly
+    parallel, infinite or NaN can leave a station that is infinite or NaN; no later call
+    recovers from it.
 
-    Retains: the station X, Y, Z, shared with no other routine.
+    Retains: the station X, Y, Z (trvln7).
 
     Arguments:
       a1, b1, c1, d1: first plane
@@ -3098,9 +3399,13 @@ def trvln7(
     Returns:
       ex: b1*c2 - c1*b2
       ey: a1*c2 - c1*a2, the second component of the cross product negated
-      code: 0 no component of (ex, ey, ez) is above the tolerance; 1 all are; 2 ex; 3 ey; 4 ez;
-        5 ex and ey; 6 ey and ez; 7 ex and ez
-      on: 1 P agrees with the line at the station; 0 it does not
+      code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
+        component is; 1 all: all three components are; 2 first: the first component alone is; 3
+        second: the second component alone is; 4 third: the third component alone is; 5
+        first_second: the first and the second component are; 6 second_third: the second and the
+        third component are; 7 first_third: the first and the third component are
+      on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the
+        line at the station
     """
     return _trvln7.cells(a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz, ez, tol, _NAN, _NAN, 0, 0)
 
@@ -3116,9 +3421,9 @@ def trvphi(
 ) -> float:
     """Angle at P0 between the rays to P1 and P2, in the plane.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
-    -1 the angle is NaN, as can happen for collinear points. Angles below some 1e-4, or that close to
-    pi, come out as 0, as pi or as NaN; trvchi is accurate there.
+    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
+    1 or -1 the angle is NaN, as can happen for collinear points. Angles below some 1e-4, or
+    that close to pi, come out as 0, as pi or as NaN; trvchi is accurate there.
 
     Retains: nothing.
 
@@ -3146,9 +3451,9 @@ def trvphi3(
 ) -> float:
     """Angle at P0 between the rays to P1 and P2, in space.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
-    -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi or as NaN;
-    trvchi is accurate there.
+    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
+    1 or -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi
+    or as NaN; trvchi is accurate there.
 
     Retains: nothing.
 
@@ -3174,9 +3479,9 @@ def trvphi1(
 ) -> float:
     """Angle between two vectors.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
-    -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi or as NaN;
-    trvchi is accurate there.
+    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
+    1 or -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi
+    or as NaN; trvchi is accurate there.
 
     Retains: nothing.
 
@@ -3192,13 +3497,14 @@ def trvphi1(
 
 class TrvphipResult(NamedTuple):
     phi: float
-    status: int
+    status: TrvphipStatus | int
 
 
 _trvphip = Routine(
     "trvphip", TrvphipResult,
     "in real ux; in real uy; in real uz; in real vx; in real vy; in real vz; out real phi; "
     "out int status",
+    values=dict(status=TrvphipStatus)
 )
 
 
@@ -3214,8 +3520,10 @@ def trvphip(
       vx, vy, vz: direction of the second line
 
     Returns:
-      phi: angle in [0, pi/2]; unwritten when a direction has no length
-      status: -1 a direction's length is within the tolerance; unwritten otherwise: set it
+      phi: angle in [0, pi/2]; unwritten on a condition: a direction's length is within the
+        tolerance
+      status: outcome: -1 no_length: a direction's length is within the tolerance; unwritten on
+        a condition: neither direction's length is within the tolerance, so it must be set
         beforehand
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
@@ -3223,19 +3531,16 @@ def trvphip(
     return _trvphip.cells(ux, uy, uz, vx, vy, vz, _NAN, 0)
 
 
-class TrvchiStatus(IntEnum):
-    DONE = 0
-
-
 class TrvchiResult(NamedTuple):
     chi: float
-    status: int
+    status: TrvCoincidence
 
 
 _trvchi = Routine(
     "trvchi", TrvchiResult,
     "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
     "in real y2; in real z2; out real chi; out int status",
+    values=dict(status=TrvCoincidence)
 )
 
 
@@ -3245,10 +3550,11 @@ def trvchi(
 ) -> TrvchiResult:
     """Directed angle at P0 from the ray to P1 to the ray to P2.
 
-    Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third axis of
-    trvaxe: the first of its components y, z, x that is above the tolerance becomes positive, or the
-    first that is not zero. So it is counter-clockwise in the plane z = 0. Formed in double precision
-    and rounded once, it is as accurate near 0, pi and 2*pi as elsewhere.
+    Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third
+    axis of trvaxe: the first of its components y, z, x that is above the tolerance becomes
+    positive, or the first that is not zero. So it is counter-clockwise in the plane z = 0.
+    Formed in double precision and rounded once, it is as accurate near 0, pi and 2*pi as
+    elsewhere.
 
     Retains: nothing.
 
@@ -3258,33 +3564,30 @@ def trvchi(
       x2, y2, z2: P2
 
     Returns:
-      chi: angle in [0, 2*pi); unwritten when status is 1
-      status: 0 done; 1 P1 or P2 coincides with P0 (trvcnt)
+      chi: angle in [0, 2*pi); unwritten if status is 1
+      status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 or
+        P2 coincides with P0 (trvcnt)
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvchi.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN, 0)
 
 
-class TrvcnvStatus(IntEnum):
-    REFUSED = -1
-    CONVEX = 1
-
-
 _trvcnv = Routine(
     "trvcnv", None,
     "in real X[n]; in real Y[n]; in int n = X Y; out int status",
+    values=dict(status=TrvcnvStatus)
 )
 
 
 def trvcnv(
     X: ArrayLike, Y: ArrayLike, *, n: int | None = None
-) -> int:
+) -> TrvcnvStatus:
     """Convexity of a closed outline, of either orientation.
 
-    A vertex within the tolerance of the line through its neighbours counts as straight, unless the
-    outline turns back there: spikes, and outlines all of whose vertices lie on one line, are not
-    convex, nor is one with a NaN or an infinite vertex.
+    A vertex within the tolerance of the line through its neighbours counts as straight, unless
+    the outline turns back there: spikes, and outlines all of whose vertices lie on one line,
+    are not convex, nor is one with a NaN or an infinite vertex.
 
     Retains: nothing.
 
@@ -3293,20 +3596,16 @@ def trvcnv(
       n: number of vertices
 
     Returns:
-      status: 1 convex; 0 not convex, or winding more than once; -1 refused: n < 3, or a side
-        whose length is within the tolerance
+      status: test: 1 convex: the outline is convex; 0 not_convex: the outline is not convex, or
+        winds more than once; -1 refused: n < 3, or the length of a side is within the tolerance
     """
     return _trvcnv.call((X, Y, n))
-
-
-class TrvtrgStatus(IntEnum):
-    DONE = 0
 
 
 class TrvtrgResult(NamedTuple):
     cphi: float
     sphi: float
-    status: int
+    status: TrvCoincidence
 
 
 _trvtrg = Routine(
@@ -3314,6 +3613,7 @@ _trvtrg = Routine(
     "in real x1; in real y1; in real z1; in real x2; in real y2; in real z2; in real x3; "
     "in real y3; in real z3; in real x4; in real y4; in real z4; out real cphi; "
     "out real sphi; out int status",
+    values=dict(status=TrvCoincidence)
 )
 
 
@@ -3332,35 +3632,30 @@ def trvtrg(
       x4, y4, z4: P4
 
     Returns:
-      cphi: cosine; unwritten when status is 1
-      sphi: sine, never negative; unwritten when status is 1
-      status: 0 done; 1 P1 and P2, or P3 and P4, coincide (trvcnt)
+      cphi: cosine; unwritten if status is 1
+      sphi: sine, never negative; unwritten if status is 1
+      status: outcome (TrvCoincidence): 0 distinct: the output is written; 1 coincident: P1 and
+        P2, or P3 and P4, coincide (trvcnt)
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvtrg.cells(x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4, _NAN, _NAN, 0)
 
 
-class TrvdirCode(IntEnum):
-    OBLIQUE = 0
-    SAME_DIRECTION = 1
-    OPPOSITE = 2
-    PERPENDICULAR = 3
-
-
 _trvdir = Routine(
     "trvdir", None,
     "in real ux; in real uy; in real uz; in real vx; in real vy; in real vz; out int code",
+    values=dict(code=TrvdirCode)
 )
 
 
 def trvdir(
     ux: float, uy: float, uz: float, vx: float, vy: float, vz: float
-) -> int:
+) -> TrvdirCode:
     """Relation of two directions.
 
-    The cosine of their angle decides, within the tolerance; a later code goes before an earlier one.
-    So directions up to 0.00447 radians apart, 4.47 mm a metre, are the same.
+    The cosine of their angle decides, within the tolerance; a later code goes before an earlier
+    one. So directions up to 0.00447 radians apart, 4.47 mm a metre, are the same.
 
     Retains: nothing.
 
@@ -3369,32 +3664,29 @@ def trvdir(
       vx, vy, vz: v
 
     Returns:
-      code: 0 oblique; 1 the same direction; 2 opposite; 3 perpendicular; 4 all components of u,
-        or of v, are within the tolerance
+      code: relation: 0 oblique: u and v have neither the same, opposite nor perpendicular
+        directions; 1 same: the directions are the same; 2 opposite: the directions are
+        opposite; 3 perpendicular: the directions are perpendicular; 4 zero: all components of
+        u, or of v, are within the tolerance
     """
     return _trvdir.cells(ux, uy, uz, vx, vy, vz, 0)
-
-
-class TrvdirpCode(IntEnum):
-    THEY_CROSS = 0
-    PERPENDICULAR = 5
-    A_NORMAL_IS_ZERO = 6
 
 
 _trvdirp = Routine(
     "trvdirp", None,
     "in real a1; in real b1; in real c1; in real d1; in real a2; in real b2; in real c2; "
     "in real d2; out int code",
+    values=dict(code=TrvdirpCode)
 )
 
 
 def trvdirp(
     a1: float, b1: float, c1: float, d1: float, a2: float, b2: float, c2: float, d2: float
-) -> int:
+) -> TrvdirpCode:
     """Relation of two planes.
 
-    The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are parallel, and
-    a normal is zero whose components are within the tolerance.
+    The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are
+    parallel, and a normal is zero whose components are within the tolerance.
 
     Planes with parallel normals are distinct when the ratio of their normals, taken at the last
     component of the second one above the tolerance, and that of their constants (0 where d2 is
@@ -3407,9 +3699,12 @@ def trvdirp(
       a2, b2, c2, d2: second plane
 
     Returns:
-      code: 0 they cross; 1 parallel, normals in the same direction; 2 parallel, normals
-        opposite; 3 coincident, normals in the same direction; 4 coincident, normals opposite; 5
-        perpendicular; 6 a normal is zero
+      code: relation: 0 crossing: the planes cross, not at a right angle; 1 parallel_same: the
+        planes are parallel and distinct, their normals in the same direction; 2
+        parallel_opposite: the planes are parallel and distinct, their normals opposite; 3
+        coincident_same: the planes coincide, their normals in the same direction; 4
+        coincident_opposite: the planes coincide, their normals opposite; 5 perpendicular: the
+        planes are perpendicular; 6 zero_normal: a normal is zero
     """
     return _trvdirp.cells(a1, b1, c1, d1, a2, b2, c2, d2, 0)
 
@@ -3517,7 +3812,8 @@ def trvadr(
     V: ArrayLike, k: int, A: ArrayLike, *, n: int | None = None, m: int | None = None,
     in_place: bool = False
 ) -> TrvadrResult:
-    """Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+    """Inserts a list into another. Elements move bit for bit, so Reals pass as well as
+    Integers.
 
     Retains: nothing.
 
@@ -3552,12 +3848,14 @@ def trvapl(
 ) -> TrvaplResult:
     """Area of a polygon.
 
-    The exact integral over the closed outline by Green's theorem, A = integral of x dy along it:
-    half the sum of (y(i+1) - y(i))*(x(i) + x(i+1)) over the n edges, summed in double precision and
-    rounded once, so that an outline far from the origin keeps its figures. Positive for a
-    counter-clockwise outline (x to the right, y up), negative for a clockwise one; loops of a
-    self-intersecting outline add up with their signs. The last vertex may repeat the first. The time
-    grows with n.
+    The exact integral over the closed outline by Green's theorem, A = integral of x dy along
+    it: half the sum of (y(i+1) - y(i))*(x(i) + x(i+1)) over the n edges, summed in double
+    precision and rounded once, so that an outline far from the origin keeps its figures.
+    Positive for a counter-clockwise outline (x to the right, y up), negative for a clockwise
+    one; loops of a self-intersecting outline add up with their signs. The last vertex may
+    repeat the first.
+
+    Cost: the time grows with n.
 
     Retains: nothing.
 
@@ -3593,11 +3891,12 @@ def trvspl(
 ) -> TrvsplResult:
     """First moments of a polygon.
 
-    The exact integrals over the closed outline by Green's theorem, Sx = -1/2 integral of y^2 dx and
-    Sy = 1/2 integral of x^2 dy along it, as sums over the edges in double precision, each rounded
-    once. Right for a counter-clockwise outline, negated for a clockwise one; loops of a
-    self-intersecting outline add up with their signs. The last vertex may repeat the first. The time
-    grows with n.
+    The exact integrals over the closed outline by Green's theorem, Sx = -1/2 integral of y^2 dx
+    and Sy = 1/2 integral of x^2 dy along it, as sums over the edges in double precision, each
+    rounded once. Right for a counter-clockwise outline, negated for a clockwise one; loops of a
+    self-intersecting outline add up with their signs. The last vertex may repeat the first.
+
+    Cost: the time grows with n.
 
     Retains: nothing.
 
@@ -3636,11 +3935,13 @@ def trvipl(
 ) -> TrviplResult:
     """Second moments of a polygon.
 
-    The exact integrals over the closed outline by Green's theorem, Ix = -1/3 integral of y^3 dx,
-    Iy = 1/3 integral of x^3 dy and Ixy = 1/2 integral of x^2*y dy along it, as sums over the edges
-    in double precision, each rounded once. Right for a counter-clockwise outline, negated for a
-    clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex may
-    repeat the first. The time grows with n.
+    The exact integrals over the closed outline by Green's theorem, Ix = -1/3 integral of y^3
+    dx, Iy = 1/3 integral of x^3 dy and Ixy = 1/2 integral of x^2*y dy along it, as sums over
+    the edges in double precision, each rounded once. Right for a counter-clockwise outline,
+    negated for a clockwise one; loops of a self-intersecting outline add up with their signs.
+    The last vertex may repeat the first.
+
+    Cost: the time grows with n.
 
     Retains: nothing.
 
@@ -3678,13 +3979,14 @@ def trvacp(
 ) -> TrvacpResult:
     """Area and centroid of a circular segment, the region between an arc and its chord.
 
-    The radius r is the distance of P1 from the centre; P2 fixes the angle phi, that of trvphi, and
-    the chord's direction. The order of P1 and P2 does not matter when both lie on the circle. The
-    larger segment has the angle 2*pi - phi. The area is r^2*(phi - sin phi)/2, and the centroid lies
-    4*r*sin^3(phi/2)/(3*(phi - sin phi)) from the centre, across the chord for the smaller segment.
+    The radius r is the distance of P1 from the centre; P2 fixes the angle phi, that of trvphi,
+    and the chord's direction. The order of P1 and P2 does not matter when both lie on the
+    circle. The larger segment has the angle 2*pi - phi. The area is r^2*(phi - sin phi)/2, and
+    the centroid lies 4*r*sin^3(phi/2)/(3*(phi - sin phi)) from the centre, across the chord for
+    the smaller segment.
 
-    The centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller segment whose
-    angle is 0; the area is a number then.
+    The centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller segment
+    whose angle is 0; the area is a number then.
 
     Retains: nothing.
 
@@ -3692,7 +3994,8 @@ def trvacp(
       xc, yc: centre
       x1, y1: first end of the chord P1
       x2, y2: second end of the chord P2
-      kind: 5 the larger segment; any other value the smaller one
+      kind: part kind (TrvPart): 5 larger_segment: the larger circular segment at a chord; any
+        other value is the smaller segment
 
     Returns:
       area: area, positive
@@ -3719,12 +4022,13 @@ def trvicp(
 ) -> TrvicpResult:
     """Second moments of a circular segment, the region between an arc and its chord.
 
-    The segment is that of trvacp: its radius is the distance of P1 from the centre; P2 fixes the
-    angle and the chord's direction. Its moments about its axis of symmetry and about the parallel of
-    the chord through its centroid are turned to the axes of x and y and shifted to the origin.
+    The segment is that of trvacp: its radius is the distance of P1 from the centre; P2 fixes
+    the angle and the chord's direction. Its moments about its axis of symmetry and about the
+    parallel of the chord through its centroid are turned to the axes of x and y and shifted to
+    the origin.
 
-    All three are NaN for a chord through the centre, for P1 = P2, and for a smaller segment whose
-    angle is 0.
+    All three are NaN for a chord through the centre, for P1 = P2, and for a smaller segment
+    whose angle is 0.
 
     Retains: nothing.
 
@@ -3732,7 +4036,8 @@ def trvicp(
       xc, yc: centre
       x1, y1: first end of the chord P1
       x2, y2: second end of the chord P2
-      kind: 5 the larger segment; any other value the smaller one
+      kind: part kind (TrvPart): 5 larger_segment: the larger circular segment at a chord; any
+        other value is the smaller segment
 
     Returns:
       ix: second moment about the x axis, the integral of y*y dA
@@ -3773,10 +4078,11 @@ def trvair(
         an unknown kind
       n: vertices of kind 2, at least 0, which gives 0: for a negative n element n+1 would be
         before the arrays; ignored for other kinds
-      kind: 1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
-        counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle; 4 smaller
-        circular segment, point 1 the centre, 2 and 3 the ends of its chord; 5 larger circular
-        segment, likewise; any other value is an unknown kind
+      kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2 polygon: points
+        1 to n are the vertices, counter-clockwise; 3 circle: a full circle, point 1 is its
+        centre, point 2 is on it; 4 smaller_segment: the smaller circular segment, point 1 is
+        the centre, points 2 and 3 are the ends of its chord; 5 larger_segment: the larger
+        circular segment, given as the smaller one; any other value is an unknown kind
       value: area for kind 1, ignored otherwise
       factor: multiplies the result. A hole is a part with the factor -1, a polygon then still
         counter-clockwise: a clockwise one with -1 adds
@@ -3814,8 +4120,8 @@ def trvstm(
 ) -> TrvstmResult:
     """First moments of a part of a section.
 
-    A polygon is that of trvspl, its moments negated when it is listed clockwise; the segments are
-    those of trvacp.
+    A polygon is that of trvspl, its moments negated when it is listed clockwise; the segments
+    are those of trvacp.
 
     Retains: nothing.
 
@@ -3825,10 +4131,11 @@ def trvstm(
         an unknown kind
       n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
         be before the arrays; ignored for other kinds
-      kind: 1 area concentrated at point 1; 2 polygon, points 1 to n the vertices,
-        counter-clockwise; 3 full circle, point 1 the centre, 2 on the circle; 4 smaller
-        circular segment, point 1 the centre, 2 and 3 the ends of its chord; 5 larger circular
-        segment, likewise; any other value is an unknown kind
+      kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2 polygon: points
+        1 to n are the vertices, counter-clockwise; 3 circle: a full circle, point 1 is its
+        centre, point 2 is on it; 4 smaller_segment: the smaller circular segment, point 1 is
+        the centre, points 2 and 3 are the ends of its chord; 5 larger_segment: the larger
+        circular segment, given as the smaller one; any other value is an unknown kind
       value: area for kind 1, ignored otherwise
       factor: multiplies the results. A hole is a part with the factor -1, a polygon then still
         counter-clockwise: a clockwise one with -1 adds
@@ -3867,13 +4174,13 @@ def trvinm(
 ) -> TrvinmResult:
     """Second moments of a part of a section.
 
-    A polygon is that of trvipl, its moments negated when it is listed clockwise; the segments are
-    those of trvicp.
+    A polygon is that of trvipl, its moments negated when it is listed clockwise; the segments
+    are those of trvicp.
 
-    A part of kind 1 brings its own centroidal moments in ix, iy and ixy, which are turned by `angle`
-    and shifted to the origin. Turning takes each new value into the next, so it is not the rotation
-    of a tensor: with s, c and t the sine and cosine of the angle and the sine of its double, in
-    order
+    A part of kind 1 brings its own centroidal moments in ix, iy and ixy, which are turned by
+    `angle` and shifted to the origin. Turning takes each new value into the next, so it is not
+    the rotation of a tensor: with s, c and t the sine and cosine of the angle and the sine of
+    its double, in order
 
       ix  = ix*c^2 + iy*s^2 - ixy*t
       iy  = iy*c^2 + s^2*ix + ixy*t
@@ -3889,11 +4196,12 @@ def trvinm(
         an unknown kind
       n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
         be before the arrays; ignored for other kinds
-      kind: 1 area concentrated at point 1, or a region with that centroid by its own moments; 2
-        polygon, points 1 to n the vertices, counter-clockwise; 3 full circle, point 1 the
-        centre, 2 on the circle; 4 smaller circular segment, point 1 the centre, 2 and 3 the
-        ends of its chord; 5 larger circular segment, likewise; any other value is an unknown
-        kind
+      kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1, or a region with
+        that centroid by its own moments; 2 polygon: points 1 to n are the vertices,
+        counter-clockwise; 3 circle: a full circle, point 1 is its centre, point 2 is on it; 4
+        smaller_segment: the smaller circular segment, point 1 is the centre, points 2 and 3 are
+        the ends of its chord; 5 larger_segment: the larger circular segment, given as the
+        smaller one; any other value is an unknown kind
       value: area for kind 1, ignored otherwise
       angle: turn of the own axes in radians for kind 1, ignored otherwise
       factor: multiplies the results. A hole is a part with the factor -1, a polygon then still
@@ -3938,9 +4246,9 @@ def trvinp(
 
     Since alpha is at most an eighth of a turn, i1 is the larger one when ix is larger than iy.
 
-    The axes count as principal already, i1 = ix, i2 = iy and alpha = 0, when |ixy/(ix + iy)| is at
-    most 1e-8 or NaN. Else with |iy - ix| < 1e-12 alpha is an eighth of a turn, i1 the mean of ix and
-    iy less ixy, i2 the mean and ixy.
+    The axes count as principal already, i1 = ix, i2 = iy and alpha = 0, when |ixy/(ix + iy)| is
+    at most 1e-8 or NaN. Else with |iy - ix| < 1e-12 alpha is an eighth of a turn, i1 the mean
+    of ix and iy less ixy, i2 the mean and ixy.
 
     Retains: nothing.
 
@@ -3966,8 +4274,10 @@ def trvinr(
 ) -> float:
     """Integral of equally spaced samples over [a, b] by the trapezoidal rule.
 
-    The last interior sample f(n-1) does not enter the sum, and for n = 3 no interior sample does.
-    The time grows with n.
+    The last interior sample f(n-1) does not enter the sum, and for n = 3 no interior sample
+    does.
+
+    Cost: the time grows with n.
 
     Retains: nothing.
 
@@ -3994,8 +4304,8 @@ def trvro2(
 ) -> float:
     """Reduction factor of an internal compression element, EN 1993-1-5, 4.4(2).
 
-    The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). No reduction up to
-    0.5 + sqrt(0.085 - 0.055*psi), else (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1.
+    The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). No reduction up to 0.5 +
+    sqrt(0.085 - 0.055*psi), else (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1.
     There is no lower bound. ks = 0 gives 0; psi above 0.085/0.055 takes the second formula.
 
     Retains: nothing.
@@ -4027,12 +4337,12 @@ def trvefr(
 ) -> float:
     """Effective width of an edge fold on a plate it stiffens, after EN 1993-1-3, 5.5.3.2.
 
-    The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. That departs
-    from the clause, which has 0.5 + 0.83*(c/bp - 0.35)^(2/3) there. Beyond 0.6, or where c/bp is
-    NaN, the factor of the previous call stands; zero after loading, which gives ceff = 0. The
-    reduction is that of trvro2 for psi = 1.
+    The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. That
+    departs from the clause, which has 0.5 + 0.83*(c/bp - 0.35)^(2/3) there. Beyond 0.6, or
+    where c/bp is NaN, the factor of the previous call stands; zero after loading, which gives
+    ceff = 0. The reduction is that of trvro2 for psi = 1.
 
-    Retains: the buckling factor, shared with none.
+    Retains: the buckling factor (trvefr).
 
     Arguments:
       c: width of the fold
@@ -4075,8 +4385,9 @@ def trvef2(
       -1 to -3      5.98*(1 - psi)^2              0.4*rho*w           0.6*rho*w
       below -3      none                          w/2                 w/2
 
-    psi counts as 1 or 0 where s1 - s2 or s2 is within the tolerance, as -1 where |s1 + s2| is below
-    it. Cases overlap there: 1 gives way to a ratio below it, 0 to any tension or compression at s2.
+    psi counts as 1 or 0 where s1 - s2 or s2 is within the tolerance, as -1 where |s1 + s2| is
+    below it. Cases overlap there: 1 gives way to a ratio below it, 0 to any tension or
+    compression at s2.
 
     Retains: nothing.
 
@@ -4090,9 +4401,10 @@ def trvef2(
       s2: stress at the other edge
 
     Returns:
-      be1: effective width at the edge of s1
-      be2: effective width at the other edge; both unwritten when both stresses are within the
-        tolerance, s1 is not positive, s2 is above s1 by more than the tolerance, or s2 = -3*s1
+      be1: effective width at the edge of s1; unwritten on a condition: that of be2
+      be2: effective width at the other edge; unwritten on a condition: both stresses are within
+        the tolerance, s1 is not positive, s2 is above s1 by more than the tolerance, or s2 =
+        -3*s1
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -4139,7 +4451,7 @@ def trvsec_ia(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 1
+      np: number of polygons, always 1
       nv: array of 1: numbers of vertices: 12
       X, Y: arrays of 12: vertices about the middle of the bounding box
       code: array of 1: 2, the part kind "polygon" of trvair
@@ -4190,7 +4502,7 @@ def trvsec_h(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 1
+      np: number of polygons, always 1
       nv: array of 1: numbers of vertices: 12
       X, Y: arrays of 12: vertices about the middle of the bounding box
       code: array of 1: 2, the part kind "polygon" of trvair
@@ -4240,7 +4552,7 @@ def trvsec_t(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 1
+      np: number of polygons, always 1
       nv: array of 1: numbers of vertices: 8
       X, Y: arrays of 8: vertices about the middle of the bounding box
       code: array of 1: 2, the part kind "polygon" of trvair
@@ -4288,15 +4600,13 @@ def trvsec_b(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 1
+      np: number of polygons, always 1
       nv: array of 1: numbers of vertices: 12, although X and Y receive 4
-      X, Y: arrays of 12: the 4 vertices; provide for 12 and read 4, the rest is unwritten
+      X, Y: arrays of 12, 4 used: the 4 vertices; provide for 12 and read 4
       code: array of 1: 2, the part kind "polygon" of trvair
       sign: array of 1: 1, of a solid, the factor of trvair
       z1, z2, z3, z4, z5: arrays of 1: 0
       q1, q2: arrays of 1: q
-
-    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvsec_b.call((B, H, q))
 
@@ -4329,7 +4639,8 @@ _trvsec_h1b = Routine(
 def trvsec_h1b(
     W: float, D: float, P: float, T1: float, T2: float, TW: float, TP: float, q: float
 ) -> TrvsecH1bResult:
-    """I section lying on its side with a cover plate on its flanges' top edges, closing one cell.
+    """I section lying on its side with a cover plate on its flanges' top edges, closing one
+    cell.
 
     The web lies at the flanges' mid-height.
 
@@ -4344,7 +4655,7 @@ def trvsec_h1b(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 2
+      np: number of polygons, always 2
       nv: array of 2: numbers of vertices: 12, 4
       X, Y: arrays of 16: vertices, of the solid and of its cell
       code: array of 2: 2, 2, the part kind "polygon" of trvair
@@ -4396,7 +4707,7 @@ def trvsec_box(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 2
+      np: number of polygons, always 2
       nv: array of 2: numbers of vertices: 12, 4
       X, Y: arrays of 16: vertices, of the solid and of its cell
       code: array of 2: 2, 2, the part kind "polygon" of trvair
@@ -4444,7 +4755,7 @@ def trvsec_rhs(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 2
+      np: number of polygons, always 2
       nv: array of 2: numbers of vertices: 4, 4
       X, Y: arrays of 8: vertices, of the solid and of its cell
       code: array of 2: 2, 2, the part kind "polygon" of trvair
@@ -4494,7 +4805,7 @@ def trvsec_l2(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 2
+      np: number of polygons, always 2
       nv: array of 2: numbers of vertices: 6, 6
       X, Y: arrays of 12: vertices, of the left angle and of the right one
       code: array of 2: 2, 2, the part kind "polygon" of trvair
@@ -4547,7 +4858,7 @@ def trvsec_tab(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 2
+      np: number of polygons, always 2
       nv: array of 2: numbers of vertices: 12, 4
       X, Y: arrays of 16: vertices, of the solid and of its cell
       code: array of 2: 2, 2, the part kind "polygon" of trvair
@@ -4599,7 +4910,7 @@ def trvsec_h2b(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 3
+      np: number of polygons, always 3
       nv: array of 3: numbers of vertices: 12, 4, 4
       X, Y: arrays of 20: vertices, of the solid, the upper and the lower cell
       code: array of 3: 2, 2, 2, the part kind "polygon" of trvair
@@ -4653,7 +4964,7 @@ def trvsec_i(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 1
+      np: number of polygons, always 1
       nv: array of 1: numbers of vertices: 16
       X, Y: arrays of 16: vertices about the middle of the bounding box
       code: array of 1: 2, the part kind "polygon" of trvair
@@ -4694,10 +5005,11 @@ def trvsec_c(
     H: float, B1: float, B2: float, C1: float, C2: float, D1: float, D2: float, TW: float,
     T1: float, T2: float, TC1: float, TC2: float, TD1: float, TD2: float, q: float
 ) -> TrvsecCResult:
-    """Channel open to the right, with lips turned inwards and folds turned back towards the web.
+    """Channel open to the right, with lips turned inwards and folds turned back towards the
+    web.
 
-    Lengths are outer ones. A lip no longer than its flange is thick is none, and without a lip there
-    is no fold; a fold no longer than its lip is thick is none.
+    Lengths are outer ones. A lip no longer than its flange is thick is none, and without a lip
+    there is no fold; a fold no longer than its lip is thick is none.
 
     Retains: nothing.
 
@@ -4713,7 +5025,7 @@ def trvsec_c(
       q: value handed on with each polygon
 
     Returns:
-      np: number of polygons: 1
+      np: number of polygons, always 1
       nv: array of 1: numbers of vertices: 16
       X, Y: arrays of 16: vertices about the middle of the bounding box
       code: array of 1: 2, the part kind "polygon" of trvair
@@ -4735,16 +5047,16 @@ def trvshc_c(
 ) -> float:
     """Distance of a channel's shear centre from its centroid.
 
-    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is lipped
-    when C is above the tolerance.
+    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is
+    lipped when C is above the tolerance.
 
       plain   e0 = b^2/(2*b + h) + 3*b^2/(h + 6*b)
       lipped  e0 = b*(b + 2*c)/(h + 2*b + 2*c) + b*t*(3*b*h^2 + 6*c*h^2 - 8*c^3)/(12*I)
               I  = t*(h^3 + 6*(b + c)*h^2 - 12*c^2*h + 8*c^3)/12
 
     The first term is the centroid's distance from the web, the second the shear centre's on the
-    other side (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix, table
-    A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B, sharp corners).
+    other side (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix,
+    table A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B, sharp corners).
 
     Retains: nothing.
 
@@ -4771,9 +5083,10 @@ def trvwar_c(
 ) -> float:
     """Warping constant of a channel.
 
-    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is lipped
-    when C is above the tolerance. With A the area, xg and e the distances of centroid and shear
-    centre from the web, and I the second moment about the axis of symmetry, all as trvshc_c:
+    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is
+    lipped when C is above the tolerance. With A the area, xg and e the distances of centroid
+    and shear centre from the web, and I the second moment about the axis of symmetry, all as
+    trvshc_c:
 
       plain   Iw = t*b^3*h^2*(3*b + 2*h)/(12*(h + 6*b))
       lipped  Iw = t^2/A * (xg*A*h^2*(b^2/3 + e^2 - e*b)/t
@@ -4782,8 +5095,8 @@ def trvwar_c(
                             + e*c^2*(8*b^2*c + 2*e*(2*c*(c - h) + b*(2*c - 3*h)))/3
                             + b^2*h^2*((3*c + b)*(4*c + h) - 6*c^2)/6 - e^2*h^4/4)
 
-    (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix, table A-3; lipped:
-    W.-W. Yu, Cold-formed steel design, appendix B, sharp corners.)
+    (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix, table A-3;
+    lipped: W.-W. Yu, Cold-formed steel design, appendix B, sharp corners.)
 
     Retains: nothing.
 
@@ -4798,11 +5111,6 @@ def trvwar_c(
         section has no size
     """
     return _trvwar_c.cells(B, H, C, t, _NAN)
-
-
-class TrvmxtStatus(IntEnum):
-    REFUSED = -1
-    DONE = 0
 
 
 class TrvmxtResult(NamedTuple):
@@ -4833,7 +5141,7 @@ class TrvmxtResult(NamedTuple):
     r0: float
     W1: NDArray[float32]
     W2: NDArray[float32]
-    status: int
+    status: TrvStatus | int
 
 
 _trvmxt = Routine(
@@ -4844,6 +5152,7 @@ _trvmxt = Routine(
     "out real Wx1; out real Wx2; out real Wy1; out real Wy2; out real Wpx; out real Wpy; "
     "out real xp; out real yp; out real It; out real Wt; out real xm; out real ym; "
     "out real Iw; out real r0; out real W1[n]; out real W2[n]; out int status",
+    values=dict(status=TrvStatus)
 )
 
 
@@ -4853,15 +5162,18 @@ def trvmxt(
 ) -> TrvmxtResult:
     """Properties of an open section of thin plates.
 
-    Each plate is given by its centre line and its thickness. The first starts anywhere, each further
-    one at an end of an earlier one, within the tolerance in each coordinate. A plate that others
-    join between its ends is given as two. Plates meet at their ends only: elsewhere none comes to
-    another within 1e-5, or within 2^-22 of the greatest coordinate where that is more.
+    Each plate is given by its centre line and its thickness. The first starts anywhere, each
+    further one at an end of an earlier one, within the tolerance in each coordinate. A plate
+    that others join between its ends is given as two. Plates meet at their ends only: elsewhere
+    none comes to another within 1e-5, or within 2^-22 of the greatest coordinate where that is
+    more.
 
-    Area, moments and moduli are those of the plates as rectangles about their centre lines, overlaps
-    at the joints counted twice. Shear centre, warping constant and sectorial coordinates are those
-    of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed in double precision and
-    rounded once. Time grows with n^2; no memory is taken.
+    Area, moments and moduli are those of the plates as rectangles about their centre lines,
+    overlaps at the joints counted twice. Shear centre, warping constant and sectorial
+    coordinates are those of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed
+    in double precision and rounded once.
+
+    Cost: time grows with n^2; no memory is taken.
 
     Retains: nothing.
 
@@ -4872,41 +5184,39 @@ def trvmxt(
       T: array of n: thicknesses
 
     Returns:
-      A: area
-      xs, ys: centroid
-      Ix, Iy: second moments about the centroid, of y^2 and of x^2
-      Ixy: product of inertia about the centroid
-      I1: moment about the axis turned by alpha from the x axis
-      I2: moment about the axis perpendicular to it; either may be the larger
+      A: area; unwritten if status is -1
+      xs, ys: centroid; unwritten if status is -1
+      Ix, Iy: second moments about the centroid, of y^2 and of x^2; unwritten if status is -1
+      Ixy: product of inertia about the centroid; unwritten if status is -1
+      I1: moment about the axis turned by alpha from the x axis; unwritten if status is -1
+      I2: moment about the axis perpendicular to it; either may be the larger; unwritten if
+        status is -1
       alpha: angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 where |Ixy|
-        is at most 1e-8*(Ix + Iy), else pi/4 where |Iy - Ix| is
-      rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A)
-      Wx1, Wx2: elastic moduli of the top and the bottom fibre
-      Wy1, Wy2: elastic moduli of the right and the left fibre
-      Wpx, Wpy: plastic moduli about the equal-area axes
+        is at most 1e-8*(Ix + Iy), else pi/4 where |Iy - Ix| is; unwritten if status is -1
+      rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
+      Wx1, Wx2: elastic moduli of the top and the bottom fibre; unwritten if status is -1
+      Wy1, Wy2: elastic moduli of the right and the left fibre; unwritten if status is -1
+      Wpx, Wpy: plastic moduli about the equal-area axes; unwritten if status is -1
       xp, yp: equal-area axes: the vertical one at xp, the horizontal one at yp; in the middle
-        of a gap between the halves
-      It: torsion constant: sum of l*t^3/3
-      Wt: torsion modulus: It over the greatest thickness
-      xm, ym: shear centre; the centroid where all plates are on one line
-      Iw: warping constant
-      r0: polar radius of gyration about the shear centre
+        of a gap between the halves; unwritten if status is -1
+      It: torsion constant: sum of l*t^3/3; unwritten unless status is 0
+      Wt: torsion modulus: It over the greatest thickness; unwritten unless status is 0
+      xm, ym: shear centre; the centroid where all plates are on one line; unwritten unless
+        status is 0
+      Iw: warping constant; unwritten unless status is 0
+      r0: polar radius of gyration about the shear centre; unwritten unless status is 0
       W1, W2: arrays of n: normalised sectorial coordinate at the plates' starts and ends,
-        counter-clockwise positive
-      status: -1 refused, nothing else is written: n < 1, a coordinate or a thickness that is
-        infinite or NaN, a length or a thickness not above the tolerance; 0 done; 2 to n this
-        plate is the first at fault, it starts at no end of an earlier one, or ends at one and
-        closes a cell: what is listed up to xp,yp is written, the rest is not; n+2 to 2*n plate
-        status - n is the first at fault, it crosses, touches or overlaps an earlier one
-        elsewhere than at its start, which may close a cell: what is listed up to xp,yp is
-        written, the rest is not
+        counter-clockwise positive; unwritten unless status is 0
+      status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a
+        coordinate or a thickness is infinite or NaN, or a length or a thickness is not above
+        the tolerance; 2 to n: this plate is the first at fault, it starts at no end of an
+        earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is the
+        first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at its
+        start, which may close a cell
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvmxt.call((n, X1, Y1, X2, Y2, T))
-
-
-class TrvmxtFbStatus(IntEnum):
-    REFUSED = -1
-    DONE = 0
 
 
 class TrvmxtFbResult(NamedTuple):
@@ -4937,7 +5247,7 @@ class TrvmxtFbResult(NamedTuple):
     r0: float
     W1: NDArray[float32]
     W2: NDArray[float32]
-    status: int
+    status: TrvStatus
 
 
 _trvmxt_fb = Routine(
@@ -4947,6 +5257,7 @@ _trvmxt_fb = Routine(
     "out real Wx1; out real Wx2; out real Wy1; out real Wy2; out real Wpx; out real Wpy; "
     "out real xp; out real yp; out real It; out real Wt; out real xm; out real ym; "
     "out real Iw; out real r0; out real W1[1]; out real W2[1]; out int status",
+    values=dict(status=TrvStatus)
 )
 
 
@@ -4965,25 +5276,29 @@ def trvmxt_fb(
       H: height, along y
 
     Returns:
-      A: area
-      xs, ys: centroid: 0
-      Ix, Iy: second moments about the centroid, of y^2 and of x^2
-      Ixy: product of inertia: 0
-      I1, I2: principal moments: Ix, Iy
-      alpha: angle of the axis of I1 from the x axis: 0
-      rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A)
-      Wx1, Wx2: elastic moduli of the top and the bottom fibre
-      Wy1, Wy2: elastic moduli of the right and the left fibre
-      Wpx, Wpy: plastic moduli about the x and the y axis
-      xp, yp: equal-area axes: 0
-      It: torsion constant
-      Wt: torsion modulus: torque over the greatest shear stress
-      xm, ym: shear centre: 0
-      Iw: warping constant of the warping across the thickness: (B*H)^3/144
-      r0: polar radius of gyration
-      W1, W2: arrays of 1: sectorial coordinate at the centre line's ends: 0
-      status: -1 refused, nothing else is written: a side that is infinite, NaN or not above the
-        tolerance; 0 done
+      A: area; unwritten if status is -1
+      xs, ys: centroid: 0; unwritten if status is -1
+      Ix, Iy: second moments about the centroid, of y^2 and of x^2; unwritten if status is -1
+      Ixy: product of inertia: 0; unwritten if status is -1
+      I1, I2: principal moments: Ix, Iy; unwritten if status is -1
+      alpha: angle of the axis of I1 from the x axis: 0; unwritten if status is -1
+      rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
+      Wx1, Wx2: elastic moduli of the top and the bottom fibre; unwritten if status is -1
+      Wy1, Wy2: elastic moduli of the right and the left fibre; unwritten if status is -1
+      Wpx, Wpy: plastic moduli about the x and the y axis; unwritten if status is -1
+      xp, yp: equal-area axes: 0; unwritten if status is -1
+      It: torsion constant; unwritten if status is -1
+      Wt: torsion modulus: torque over the greatest shear stress; unwritten if status is -1
+      xm, ym: shear centre: 0; unwritten if status is -1
+      Iw: warping constant of the warping across the thickness: (B*H)^3/144; unwritten if status
+        is -1
+      r0: polar radius of gyration; unwritten if status is -1
+      W1, W2: arrays of 1: sectorial coordinate at the centre line's ends: 0; unwritten if
+        status is -1
+      status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: a side is
+        infinite, NaN or not above the tolerance
+
+    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvmxt_fb.call((B, H))
 
@@ -5005,7 +5320,7 @@ def trvrot(
 ) -> TrvrotResult:
     """Turns plane points about the origin, in place.
 
-    Takes time in proportion to n and no memory.
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
@@ -5039,7 +5354,7 @@ def trvrotx(
 ) -> TrvrotxResult:
     """Turns points about the x axis, in place.
 
-    Takes time in proportion to n and no memory.
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
@@ -5076,7 +5391,7 @@ def trvroty(
 
     Unlike its sisters it turns left-handedly about its axis unless mode is 1.
 
-    Takes time in proportion to n and no memory.
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
@@ -5111,7 +5426,7 @@ def trvrotz(
 ) -> TrvrotzResult:
     """Turns points about the z axis, in place.
 
-    Takes time in proportion to n and no memory.
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
@@ -5128,39 +5443,29 @@ def trvrotz(
     return _trvrotz.call((mode, x, y, z, n, angle), in_place)
 
 
-class TrvpslStatus(IntEnum):
-    THEY_DO = 0
-    P2_IS_AT_P0 = 1
-    P2_IS_AT_P1 = 2
-    P2_IS_BETWEEN_P0_AND_P1 = 3
-    P2_IS_BEYOND_P0_ON_THEIR_LINE = 4
-    P2_IS_BEYOND_P1 = 5
-
-
 _trvpsl = Routine(
     "trvpsl", None,
     "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
     "in real y2; in real z2; out int status",
     retains=True,
+    values=dict(status=TrvThreePoints)
 )
 
 
 def trvpsl(
     x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
     z2: float
-) -> int:
+) -> TrvThreePoints:
     """Three-point test: whether P0, P1 and P2 span a plane.
 
-    The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance: up to 0.00447 radians
-    from pi or 0 the three are on one line, as are the ends of 6 m and a point 6 mm beside its middle.
-    Where P2 agrees with
-    P0 or P1 within the tolerance in each coordinate yet lies farther than that from it, the cosine
-    of the last call that found one stands (0 after loading). P0 = P1 is not tested and gives 0, as
-    does any P2 on the line whose distances from both come out equal.
+    The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance: up to 0.00447
+    radians from pi or 0 the three are on one line, as are the ends of 6 m and a point 6 mm
+    beside its middle. Where P2 agrees with P0 or P1 within the tolerance in each coordinate yet
+    lies farther than that from it, the cosine of the last call that found one stands (0 after
+    loading). P0 = P1 is not tested and gives 0, as does any P2 on the line whose distances from
+    both come out equal.
 
-    Retains: the cosine, shared with all that run the test: trvaxe, trvptrl, trvppc, trvpl1, trvpl2,
-    trvpl3, trvpl6, trvpl7, trvpsp, trvplv, trvdirl, trv3lda, trv3lni, trvlpc and those of circles.h
-    that say so.
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x0, y0, z0: P0
@@ -5168,8 +5473,10 @@ def trvpsl(
       x2, y2, z2: P2
 
     Returns:
-      status: 0 they do; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond
-        P0 on their line; 5 P2 is beyond P1
+      status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+        at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4
+        beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the
+        line of P0 and P1
     """
     return _trvpsl.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, 0)
 
@@ -5193,7 +5500,7 @@ def trv3tra(
 ) -> Trv3traResult:
     """Moves the origin of points to (dx, dy, dz), in place.
 
-    Takes time in proportion to n and no memory.
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
@@ -5236,10 +5543,6 @@ def trvtrn(
     return _trvtrn.call((p, a1, a2, a3, a4, a5, a6, a7, a8, a9, mode), in_place)
 
 
-class TrvaxeStatus(IntEnum):
-    DONE = 0
-
-
 class TrvaxeResult(NamedTuple):
     e1x: float
     e1y: float
@@ -5250,7 +5553,7 @@ class TrvaxeResult(NamedTuple):
     e3x: float
     e3y: float
     e3z: float
-    status: int
+    status: TrvFrame
 
 
 _trvaxe = Routine(
@@ -5259,6 +5562,7 @@ _trvaxe = Routine(
     "in real y2; in real z2; out real e1x; out real e1y; out real e1z; out real e2x; "
     "out real e2y; out real e2z; out real e3x; out real e3y; out real e3z; out int status",
     retains=True,
+    values=dict(status=TrvFrame)
 )
 
 
@@ -5268,12 +5572,12 @@ def trvaxe(
 ) -> TrvaxeResult:
     """Frame of the plane through three points.
 
-    e1 runs from P0 to P1; e3 is the normal, turned towards +y if the y component of (P1 - P0) x (P2
-    - P0) is above the tolerance, else likewise towards +z, else towards +x; e2 = e3 x e1. An axis
-    whose length is below 1e-5 before it is normalised stays zero: all three where P0 = P1, the last
-    two where the points are very close; the status is 0 then.
+    e1 runs from P0 to P1; e3 is the normal, turned towards +y if the y component of (P1 - P0) x
+    (P2 - P0) is above the tolerance, else likewise towards +z, else towards +x; e2 = e3 x e1.
+    An axis whose length is below 1e-5 before it is normalised stays zero: all three where P0 =
+    P1, the last two where the points are very close; the status is 0 then.
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x0, y0, z0: P0
@@ -5284,14 +5588,11 @@ def trvaxe(
       e1x, e1y, e1z: first axis
       e2x, e2y, e2z: second axis
       e3x, e3y, e3z: third axis; all nine are zero when status is -2
-      status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl)
+      status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or
+        P1, or the three points are on one line (trvpsl)
     """
     return _trvaxe.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN, _NAN, _NAN, _NAN, _NAN, _NAN,
         _NAN, _NAN, _NAN, 0)
-
-
-class TrvaxelStatus(IntEnum):
-    DONE = 0
 
 
 class TrvaxelResult(NamedTuple):
@@ -5304,7 +5605,7 @@ class TrvaxelResult(NamedTuple):
     e3x: float
     e3y: float
     e3z: float
-    status: int
+    status: TrvFrame
 
 
 _trvaxel = Routine(
@@ -5312,6 +5613,7 @@ _trvaxel = Routine(
     "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real angle; "
     "out real e1x; out real e1y; out real e1z; out real e2x; out real e2y; out real e2z; "
     "out real e3x; out real e3y; out real e3z; out int status",
+    values=dict(status=TrvFrame)
 )
 
 
@@ -5320,11 +5622,11 @@ def trvaxel(
 ) -> TrvaxelResult:
     """Frame of an axis from P0 to P1.
 
-    At angle 0, e2 is the global y axis freed of its component along e1, and e3 = e1 x e2; a positive
-    angle turns both right-handedly about e1.
+    At angle 0, e2 is the global y axis freed of its component along e1, and e3 = e1 x e2; a
+    positive angle turns both right-handedly about e1.
 
-    An axis along y, a column, has no such e2: e2 and e3 are NaN or infinite then, with status 0. Ask
-    trvaxe with a third point instead.
+    An axis along y, a column, has no such e2: e2 and e3 are NaN or infinite then, with status
+    0. Ask trvaxe with a third point instead.
 
     Retains: nothing.
 
@@ -5337,7 +5639,8 @@ def trvaxel(
       e1x, e1y, e1z: first axis
       e2x, e2y, e2z: second axis
       e3x, e3y, e3z: third axis; all nine are zero when status is -2
-      status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance
+      status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of
+        P0 and P1 is within the tolerance
     """
     return _trvaxel.cells(x0, y0, z0, x1, y1, z1, angle, _NAN, _NAN, _NAN, _NAN, _NAN, _NAN,
         _NAN, _NAN, _NAN, 0)
@@ -5360,13 +5663,14 @@ def trvptr(
     X: ArrayLike, Y: ArrayLike, Z: ArrayLike, x0: float, y0: float, z0: float, ax: float,
     ay: float, az: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvptrResult:
-    """Shifts points and turns them about the global axes x, y and z, in this order and in place.
+    """Shifts points and turns them about the global axes x, y and z, in this order and in
+    place.
 
     Each turn is that of trvrotx, trvroty and trvrotz with mode 2: right-handed about x and z,
-    left-handed about y. A shift none of whose components is above the tolerance is left out, and so
-    is a turn whose angle is not.
+    left-handed about y. A shift none of whose components is above the tolerance is left out,
+    and so is a turn whose angle is not.
 
-    Takes time in proportion to n and no memory.
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
@@ -5382,15 +5686,11 @@ def trvptr(
     return _trvptr.call((X, Y, Z, n, x0, y0, z0, ax, ay, az), in_place)
 
 
-class TrvptrlStatus(IntEnum):
-    DONE = 0
-
-
 class TrvptrlResult(NamedTuple):
     X: NDArray[float32]
     Y: NDArray[float32]
     Z: NDArray[float32]
-    status: int
+    status: TrvFrame
 
 
 _trvptrl = Routine(
@@ -5400,6 +5700,7 @@ _trvptrl = Routine(
     "in int n = X Y Z; in real dx; in real dy; in real dz; in real ax; in real ay; "
     "in real az; out int status",
     retains=True,
+    values=dict(status=TrvFrame)
 )
 
 
@@ -5410,48 +5711,48 @@ def trvptrl(
 ) -> TrvptrlResult:
     """Shifts points and turns them in the frame of three points, in place.
 
-    In local coordinates each point is shifted by (dx, dy, dz), then turned about the local axes x, y
-    and z as trvrotx, trvroty and trvrotz turn with mode 2: right-handed about x and z, left-handed
-    about y. No angle is left out. Where the frame has a zero axis (trvaxe), the points lose that
-    coordinate.
+    In local coordinates each point is shifted by (dx, dy, dz), then turned about the local axes
+    x, y and z as trvrotx, trvroty and trvrotz turn with mode 2: right-handed about x and z,
+    left-handed about y. No angle is left out. Where the frame has a zero axis (trvaxe), the
+    points lose that coordinate.
 
-    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read before a
-    point is moved. Takes time in proportion to n and no memory.
+    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read
+    before a point is moved.
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Cost: takes time in proportion to n and no memory.
+
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x0, y0, z0: P0, the origin of the frame
       x1, y1, z1: P1
       x2, y2, z2: P2
-      X, Y, Z: arrays of n: coordinates; untouched when status is -2
+      X, Y, Z: arrays of n: coordinates; unchanged if status is -2
       n: number of points; below 1 only the status is written
       dx, dy, dz: shift in local coordinates, before the turns
       ax, ay, az: angles in radians about the local axes x, y and z
 
     Returns:
-      X, Y, Z: arrays of n: coordinates; untouched when status is -2
-      status: 0 done; -2 P2 is at P0 or P1, or the three are on one line (trvpsl)
+      X, Y, Z: arrays of n: coordinates; unchanged if status is -2
+      status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or
+        P1, or the three points are on one line (trvpsl)
     """
     return _trvptrl.call((x0, y0, z0, x1, y1, z1, x2, y2, z2, X, Y, Z, n, dx, dy, dz, ax, ay,
         az), in_place)
-
-
-class TrvpraStatus(IntEnum):
-    DONE = 0
 
 
 class TrvpraResult(NamedTuple):
     X: NDArray[float32]
     Y: NDArray[float32]
     Z: NDArray[float32]
-    status: int
+    status: TrvFrame
 
 
 _trvpra = Routine(
     "trvpra", TrvpraResult,
     "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; inout real X[n]; "
     "inout real Y[n]; inout real Z[n]; in int n = X Y Z; in real angle; out int status",
+    values=dict(status=TrvFrame)
 )
 
 
@@ -5461,37 +5762,36 @@ def trvpra(
 ) -> TrvpraResult:
     """Turns points about the axis from P0 through P1, in place.
 
-    An axis along the global y axis, a column, gives points that are NaN or infinite, with status 0
-    (trvaxel). Use trv3tra and trvroty there.
+    An axis along the global y axis, a column, gives points that are NaN or infinite, with
+    status 0 (trvaxel). Use trv3tra and trvroty there.
 
-    Single inputs may be elements of the arrays, P0 and P1 two of the points: they are read before a
-    point is moved. Takes time in proportion to n and no memory.
+    Single inputs may be elements of the arrays, P0 and P1 two of the points: they are read
+    before a point is moved.
+
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
     Arguments:
       x0, y0, z0: P0
       x1, y1, z1: P1
-      X, Y, Z: arrays of n: coordinates; untouched when status is -2
+      X, Y, Z: arrays of n: coordinates; unchanged if status is -2
       n: number of points; below 1 only the status is written
       angle: angle in radians, right-handed about the direction from P0 to P1
 
     Returns:
-      X, Y, Z: arrays of n: coordinates; untouched when status is -2
-      status: 0 done, also along y; -2 the distance of P0 and P1 is within the tolerance
+      X, Y, Z: arrays of n: coordinates; unchanged if status is -2
+      status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of
+        P0 and P1 is within the tolerance
     """
     return _trvpra.call((x0, y0, z0, x1, y1, z1, X, Y, Z, n, angle), in_place)
-
-
-class TrvppcStatus(IntEnum):
-    DONE = 0
 
 
 class TrvppcResult(NamedTuple):
     X: NDArray[float32]
     Y: NDArray[float32]
     Z: NDArray[float32]
-    status: int
+    status: TrvppcStatus | int
 
 
 _trvppc = Routine(
@@ -5501,6 +5801,7 @@ _trvppc = Routine(
     "in real az; in int n = X Y Z; inout real X[n]; inout real Y[n]; inout real Z[n]; "
     "in real tol; out int status",
     retains=True,
+    values=dict(status=TrvppcStatus)
 )
 
 
@@ -5509,16 +5810,18 @@ def trvppc(
     z2: float, dx: float, dy: float, dz: float, ax: float, ay: float, az: float, X: ArrayLike,
     Y: ArrayLike, Z: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvppcResult:
-    """Turns points of a plane in the frame of the three points that span it, then shifts them, in
-    place.
+    """Turns points of a plane in the frame of the three points that span it, then shifts them,
+    in place.
 
-    Unlike trvptrl, the shift is global and comes after the turns. Where the frame has a zero axis
-    (trvaxe), the points lose that coordinate.
+    Unlike trvptrl, the shift is global and comes after the turns. Where the frame has a zero
+    axis (trvaxe), the points lose that coordinate.
 
-    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read before a
-    point is moved. Takes time in proportion to n and no memory.
+    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read
+    before a point is moved.
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Cost: takes time in proportion to n and no memory.
+
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x0, y0, z0: P0, the origin of the frame
@@ -5528,14 +5831,14 @@ def trvppc(
       ax, ay, az: angles in radians about the local axes x, y and z, right-handed about x and z,
         left-handed about y
       n: number of points; below 1 only the status is written
-      X, Y, Z: arrays of n: coordinates; untouched unless status is 0
+      X, Y, Z: arrays of n: coordinates; unchanged unless status is 0
       tol: largest residual of a point of the plane, itself included: its distance times the
         length of (P1 - P0) x (P2 - P0), in the cube of the length unit
 
     Returns:
-      X, Y, Z: arrays of n: coordinates; untouched unless status is 0
-      status: 0 done; -1 P2 is at P0 or P1, or the three are on one line (trvpsl); 1 to n
-        position of the first point off the plane
+      X, Y, Z: arrays of n: coordinates; unchanged unless status is 0
+      status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the
+        three points are on one line (trvpsl); 1 to n: position of the first point off the plane
     """
     return _trvppc.call((x0, y0, z0, x1, y1, z1, x2, y2, z2, dx, dy, dz, ax, ay, az, n, X, Y, Z,
         tol), in_place)
@@ -5561,8 +5864,8 @@ def trvplg(
 ) -> TrvplgResult:
     """Plane through a point, spanned by two directions.
 
-    (a, b, c) = u x w, not normalised; all four are zero where u and w are parallel. Far from the
-    origin d loses digits; take a local origin there (trv3tra).
+    (a, b, c) = u x w, not normalised; all four are zero where u and w are parallel. Far from
+    the origin d loses digits; take a local origin there (trv3tra).
 
     Retains: nothing.
 
@@ -5577,21 +5880,12 @@ def trvplg(
     return _trvplg.cells(x, y, z, ux, uy, uz, wx, wy, wz, _NAN, _NAN, _NAN, _NAN)
 
 
-class Trvpl1Status(IntEnum):
-    DONE = 0
-    P2_IS_AT_P0 = 1
-    P2_IS_AT_P1 = 2
-    P2_IS_BETWEEN_P0_AND_P1 = 3
-    P2_IS_BEYOND_P0_ON_THEIR_LINE = 4
-    P2_IS_BEYOND_P1 = 5
-
-
 class Trvpl1Result(NamedTuple):
     a: float
     b: float
     c: float
     d: float
-    status: int
+    status: TrvThreePoints
 
 
 _trvpl1 = Routine(
@@ -5599,6 +5893,7 @@ _trvpl1 = Routine(
     "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
     "in real y2; in real z2; out real a; out real b; out real c; out real d; out int status",
     retains=True,
+    values=dict(status=TrvThreePoints)
 )
 
 
@@ -5610,7 +5905,7 @@ def trvpl1(
 
     Far from the origin d loses digits; take a local origin there (trv3tra).
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x0, y0, z0: P0
@@ -5619,14 +5914,12 @@ def trvpl1(
 
     Returns:
       a, b, c, d: plane; all zero when status is not 0, and where P0 = P1
-      status: 0 done; 1 P2 is at P0; 2 P2 is at P1; 3 P2 is between P0 and P1; 4 P2 is beyond P0
-        on their line; 5 P2 is beyond P1
+      status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+        at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4
+        beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the
+        line of P0 and P1
     """
     return _trvpl1.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN, _NAN, _NAN, _NAN, 0)
-
-
-class Trvpl2Status(IntEnum):
-    DONE = 0
 
 
 class Trvpl2Result(NamedTuple):
@@ -5634,7 +5927,7 @@ class Trvpl2Result(NamedTuple):
     b: float
     c: float
     d: float
-    status: int
+    status: TrvTwoLines
 
 
 _trvpl2 = Routine(
@@ -5643,6 +5936,7 @@ _trvpl2 = Routine(
     "in real yb; in real zb; in real xc; in real yc; in real zc; in real xd; in real yd; "
     "in real zd; out real a; out real b; out real c; out real d; out int status",
     retains=True,
+    values=dict(status=TrvTwoLines)
 )
 
 
@@ -5655,7 +5949,7 @@ def trvpl2(
     (a, b, c) = (B - A) x (D - C). Far from the origin d loses digits; take a local origin there
     (trv3tra).
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x, y, z: point
@@ -5667,15 +5961,12 @@ def trvpl2(
     Returns:
       a, b, c, d: plane; all zero when status is not 0; its normal is zero, or nearly, where the
         lines are parallel
-      status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
-        the same, of opposite sense; 7 A and B, or C and D, coincide (trvcnt)
+      status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
+        the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+        direction; 7 no_length: A and B, or C and D, coincide (trvcnt)
     """
     return _trvpl2.cells(x, y, z, xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, _NAN, _NAN,
         _NAN, _NAN, 0)
-
-
-class Trvpl3Status(IntEnum):
-    DONE = 0
 
 
 class Trvpl3Result(NamedTuple):
@@ -5683,7 +5974,7 @@ class Trvpl3Result(NamedTuple):
     b: float
     c: float
     d: float
-    status: int
+    status: TrvTwoLines
 
 
 _trvpl3 = Routine(
@@ -5692,6 +5983,7 @@ _trvpl3 = Routine(
     "in real yc; in real zc; in real xd; in real yd; in real zd; out real a; out real b; "
     "out real c; out real d; out int status",
     retains=True,
+    values=dict(status=TrvTwoLines)
 )
 
 
@@ -5703,7 +5995,7 @@ def trvpl3(
 
     Far from the origin d loses digits; take a local origin there (trv3tra).
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       xa, ya, za: A, on the first line
@@ -5714,15 +6006,12 @@ def trvpl3(
     Returns:
       a, b, c, d: plane; all zero when status is not 0; its normal is zero, or nearly, where the
         lines are parallel
-      status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
-        the same, of opposite sense; 7 A and B, or C and D, coincide (trvcnt)
+      status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
+        the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+        direction; 7 no_length: A and B, or C and D, coincide (trvcnt)
     """
     return _trvpl3.cells(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, _NAN, _NAN, _NAN, _NAN,
         0)
-
-
-class Trvpl4Status(IntEnum):
-    DONE = 0
 
 
 class Trvpl4Result(NamedTuple):
@@ -5730,13 +6019,14 @@ class Trvpl4Result(NamedTuple):
     b: float
     c: float
     d: float
-    status: int
+    status: TrvCoincidence
 
 
 _trvpl4 = Routine(
     "trvpl4", Trvpl4Result,
     "in real x; in real y; in real z; in real xa; in real ya; in real za; in real xb; "
     "in real yb; in real zb; out real a; out real b; out real c; out real d; out int status",
+    values=dict(status=TrvCoincidence)
 )
 
 
@@ -5757,13 +6047,10 @@ def trvpl4(
 
     Returns:
       a, b, c, d: plane; all zero when status is 1
-      status: 0 done; 1 A and B coincide, each coordinate within the tolerance (trvcnt)
+      status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
+        coincide, each coordinate within the tolerance (trvcnt)
     """
     return _trvpl4.cells(x, y, z, xa, ya, za, xb, yb, zb, _NAN, _NAN, _NAN, _NAN, 0)
-
-
-class Trvpl5Status(IntEnum):
-    DONE = 0
 
 
 class Trvpl5Result(NamedTuple):
@@ -5771,13 +6058,14 @@ class Trvpl5Result(NamedTuple):
     b: float
     c: float
     d: float
-    status: int
+    status: Trvpl5Status
 
 
 _trvpl5 = Routine(
     "trvpl5", Trvpl5Result,
     "in real ix; in real iy; in real iz; out real a; out real b; out real c; out real d; "
     "out int status",
+    values=dict(status=Trvpl5Status)
 )
 
 
@@ -5793,14 +6081,10 @@ def trvpl5(
 
     Returns:
       a, b, c, d: plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
-      status: 0 done; 1 an intercept is within the tolerance or NaN
+      status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the
+        tolerance or NaN
     """
     return _trvpl5.cells(ix, iy, iz, _NAN, _NAN, _NAN, _NAN, 0)
-
-
-class Trvpl6Status(IntEnum):
-    DONE = 0
-    LINES_ARE_SKEW = 6
 
 
 class Trvpl6Result(NamedTuple):
@@ -5808,7 +6092,7 @@ class Trvpl6Result(NamedTuple):
     b: float
     c: float
     d: float
-    status: int
+    status: TrvTwoLines
 
 
 _trvpl6 = Routine(
@@ -5817,6 +6101,7 @@ _trvpl6 = Routine(
     "in real yc; in real zc; in real wx; in real wy; in real wz; out real a; out real b; "
     "out real c; out real d; out int status",
     retains=True,
+    values=dict(status=TrvTwoLines)
 )
 
 
@@ -5826,11 +6111,11 @@ def trvpl6(
 ) -> Trvpl6Result:
     """Plane of two lines, each given by a point and a direction.
 
-    The relation of the lines is taken twice, the second time by trvpl2, with the cosine that the
-    first time left (trvpsl). Far from the origin d loses digits; take a local origin there
+    The relation of the lines is taken twice, the second time by trvpl2, with the cosine that
+    the first time left (trvpsl). Far from the origin d loses digits; take a local origin there
     (trv3tra).
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       xa, ya, za: A, on the first line
@@ -5839,10 +6124,11 @@ def trvpl6(
       wx, wy, wz: direction of the second line
 
     Returns:
-      a, b, c, d: plane; its normal is zero, or nearly, for parallel lines; unwritten when the
-        first relation is 3, 4, 6 or 7; all zero where only the second is 3 or 4
-      status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
-        the same, of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance
+      a, b, c, d: plane; its normal is zero, or nearly, for parallel lines; all zero if only the
+        second relation is 3 or 4; unwritten on a condition: the first relation is 3, 4, 6 or 7
+      status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
+        the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+        direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance
         in each component
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
@@ -5851,20 +6137,12 @@ def trvpl6(
         0)
 
 
-class Trvpl7Status(IntEnum):
-    DONE = 0
-    P2_IS_AT_P1 = 2
-    P2_IS_BETWEEN_P0_AND_P1 = 3
-    P2_IS_BEYOND_P0_ON_THEIR_LINE = 4
-    P2_IS_BEYOND_P1 = 5
-
-
 class Trvpl7Result(NamedTuple):
     a: float
     b: float
     c: float
     d: float
-    status: int
+    status: TrvThreePoints
 
 
 _trvpl7 = Routine(
@@ -5873,6 +6151,7 @@ _trvpl7 = Routine(
     "in real y2; in real z2; in real angle; out real a; out real b; out real c; out real d; "
     "out int status",
     retains=True,
+    values=dict(status=TrvThreePoints)
 )
 
 
@@ -5882,11 +6161,11 @@ def trvpl7(
 ) -> Trvpl7Result:
     """Plane of three points turned about the line from P0 to P1.
 
-    The normal is a unit vector, formed by adding it to P0 and taking P0 off again, which leaves it
-    the digits that P0 has; at angle 0 it is the third axis of trvaxe. Far from the origin d loses
-    digits; take a local origin there (trv3tra).
+    The normal is a unit vector, formed by adding it to P0 and taking P0 off again, which leaves
+    it the digits that P0 has; at angle 0 it is the third axis of trvaxe. Far from the origin d
+    loses digits; take a local origin there (trv3tra).
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x0, y0, z0: P0
@@ -5896,8 +6175,10 @@ def trvpl7(
 
     Returns:
       a, b, c, d: plane; all zero when status is not 0
-      status: 0 done; 1 P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 P2 is at P1; 3
-        P2 is between P0 and P1; 4 P2 is beyond P0 on their line; 5 P2 is beyond P1
+      status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
+        at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3
+        between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1;
+        5 beyond_p1: P2 is beyond P1 on the line of P0 and P1
     """
     return _trvpl7.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, angle, _NAN, _NAN, _NAN, _NAN, 0)
 
@@ -5907,18 +6188,19 @@ _trvpsp = Routine(
     "in real x0; in real y0; in real z0; in real x1; in real y1; in real z1; in real x2; "
     "in real y2; in real z2; in real x; in real y; in real z; in real tol; out int status",
     retains=True,
+    values=dict(status=TrvOnPlane)
 )
 
 
 def trvpsp(
     x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
     z2: float, x: float, y: float, z: float, tol: float
-) -> int:
+) -> TrvOnPlane:
     """Whether a point lies on the plane of three points.
 
     Far from the origin the figure loses digits; take a local origin there (trv3tra).
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       x0, y0, z0: P0
@@ -5929,8 +6211,9 @@ def trvpsp(
         x (P2 - P0), in the cube of the length unit
 
     Returns:
-      status: 0 it does, and any point does where P0 = P1; -1 it does not, or the three points
-        span no plane (trvpsl)
+      status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 =
+        P1; -1 no: the point does not lie on the plane, or the three points span no plane
+        (trvpsl)
     """
     return _trvpsp.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z, tol, 0)
 
@@ -5962,20 +6245,17 @@ def trvpld(
     return _trvpld.cells(x, y, z, a, b, c, d, _NAN)
 
 
-class TrvpspgStatus(IntEnum):
-    NORMAL_IS_EXACTLY_ZERO = 1
-
-
 _trvpspg = Routine(
     "trvpspg", None,
     "in real x; in real y; in real z; in real a; in real b; in real c; in real d; "
     "in real tol; out int status",
+    values=dict(status=TrvOnPlane)
 )
 
 
 def trvpspg(
     x: float, y: float, z: float, a: float, b: float, c: float, d: float, tol: float
-) -> int:
+) -> TrvOnPlane:
     """Whether a point lies on a plane.
 
     Far from the origin the figure loses digits; take a local origin there (trv3tra).
@@ -5988,17 +6268,11 @@ def trvpspg(
       tol: largest distance allowed, itself included
 
     Returns:
-      status: 0 it does; -1 it does not, or the distance is NaN; 1 the normal is exactly zero
+      status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point does not
+        lie on the plane, or the distance is NaN; 1 zero_normal: the normal of the plane is
+        exactly zero
     """
     return _trvpspg.cells(x, y, z, a, b, c, d, tol, 0)
-
-
-class TrvplvStatus(IntEnum):
-    U_IS_EXACTLY_ZERO = -1
-    OBLIQUE = 0
-    SAME_DIRECTION = 3
-    OPPOSITE = 4
-    PERPENDICULAR = 5
 
 
 _trvplv = Routine(
@@ -6006,15 +6280,16 @@ _trvplv = Routine(
     "in real ux; in real uy; in real uz; in real wx; in real wy; in real wz; in real v7; "
     "in real v8; out int status",
     retains=True,
+    values=dict(status=TrvplvStatus)
 )
 
 
 def trvplv(
     ux: float, uy: float, uz: float, wx: float, wy: float, wz: float, v7: float, v8: float
-) -> int:
+) -> TrvplvStatus:
     """Relation of two directions, taken as lines through the origin.
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       ux, uy, uz: u
@@ -6022,8 +6297,10 @@ def trvplv(
       v7, v8: ignored
 
     Returns:
-      status: -1 u is exactly zero; 0 oblique; 3 the same direction; 4 opposite; 5
-        perpendicular; 7 u or w is within the tolerance in each component
+      status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
+        opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite:
+        the directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero:
+        u or w is within the tolerance in each component
     """
     return _trvplv.cells(ux, uy, uz, wx, wy, wz, v7, v8, 0)
 
@@ -6047,31 +6324,25 @@ def trvpnp(
 ) -> TrvpnpResult:
     """Points of a list on a plane, by a running residual.
 
-    The residual starts at d and is not reset between points: each point adds a*x, b*y and c*z to it,
-    in this order, and is found when it is exactly zero then. Takes time in proportion to n and no
-    memory.
+    The residual starts at d and is not reset between points: each point adds a*x, b*y and c*z
+    to it, in this order, and is found when it is exactly zero then.
+
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
     Arguments:
       X, Y, Z: arrays of n: coordinates
       a, b, c: normal of the plane
-      d: constant of the plane; the last residual afterwards; untouched when n < 1
+      d: constant of the plane; the last residual afterwards; unchanged if n < 1
       n: number of points
 
     Returns:
-      d: constant of the plane; the last residual afterwards; untouched when n < 1
+      d: constant of the plane; the last residual afterwards; unchanged if n < 1
       count_: how many are found
-      index_: array of n, count used: their positions, ascending; unwritten beyond count
-
-    What is unwritten is NaN where it is a Real, 0 where it is an Integer.
+      index_: array of n, count used: their positions, ascending
     """
     return _trvpnp.call((X, Y, Z, a, b, c, d, n))
-
-
-class TrvdirlStatus(IntEnum):
-    THEY_CROSS_AT_A_RIGHT_ANGLE = 5
-    SKEW = 6
 
 
 _trvdirl = Routine(
@@ -6079,20 +6350,21 @@ _trvdirl = Routine(
     "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; "
     "in real yc; in real zc; in real xd; in real yd; in real zd; out int status",
     retains=True,
+    values=dict(status=TrvLines)
 )
 
 
 def trvdirl(
     xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float,
     zc: float, xd: float, yd: float, zd: float
-) -> int:
+) -> TrvLines:
     """Relation of two lines.
 
-    The same line means that C or D is on the line AB by the three-point test, which runs for C, then
-    for D. Skew means that the triple product of B - A, D - C and C - A is above the tolerance; it is
-    not scaled, so long lines count as skew sooner.
+    The same line means that C or D is on the line AB by the three-point test, which runs for C,
+    then for D. Skew means that the triple product of B - A, D - C and C - A is above the
+    tolerance; it is not scaled, so long lines count as skew sooner.
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       xa, ya, za: A, on the first line
@@ -6101,16 +6373,14 @@ def trvdirl(
       xd, yd, zd: D, on the second line
 
     Returns:
-      status: 0 they cross, not at a right angle; 1 parallel and distinct, of the same sense; 2
-        parallel and distinct, of opposite sense; 3 the same line, of the same sense; 4 the same
-        line, of opposite sense; 5 they cross at a right angle; 6 skew; 7 A and B, or C and D,
-        coincide, each coordinate within the tolerance
+      status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle; 1
+        parallel_same: parallel and distinct lines of the same direction; 2 parallel_opposite:
+        parallel and distinct lines of opposite direction; 3 same_line: the same line, of the
+        same direction; 4 opposite_line: the same line, of opposite direction; 5 perpendicular:
+        the lines cross at a right angle; 6 skew: the lines are skew; 7 coincident: A and B, or
+        C and D, coincide, each coordinate within the tolerance
     """
     return _trvdirl.cells(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, 0)
-
-
-class Trv3spStatus(IntEnum):
-    THEY_DO_NOT = 0
 
 
 _trv3sp = Routine(
@@ -6118,6 +6388,7 @@ _trv3sp = Routine(
     "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xc; "
     "in real yc; in real zc; in real xd; in real yd; in real zd; in real xe; in real ye; "
     "in real ze; in real xf; in real yf; in real zf; out int status",
+    values=dict(status=Trv3spStatus)
 )
 
 
@@ -6125,7 +6396,7 @@ def trv3sp(
     xa: float, ya: float, za: float, xb: float, yb: float, zb: float, xc: float, yc: float,
     zc: float, xd: float, yd: float, zd: float, xe: float, ye: float, ze: float, xf: float,
     yf: float, zf: float
-) -> int:
+) -> Trv3spStatus:
     """Whether three segments span space.
 
     Retains: nothing.
@@ -6139,15 +6410,16 @@ def trv3sp(
       xf, yf, zf: F
 
     Returns:
-      status: 0 they do not; 1 the triple product of B - A, D - C and F - E is above the
-        tolerance, in the cube of the length unit
+      status: test: 0 flat: the triple product of B - A, D - C and F - E is within the
+        tolerance; 1 spanning: the triple product is above the tolerance, in the cube of the
+        length unit
     """
     return _trv3sp.cells(xa, ya, za, xb, yb, zb, xc, yc, zc, xd, yd, zd, xe, ye, ze, xf, yf, zf,
         0)
 
 
 class Trv3ldbResult(NamedTuple):
-    status: int
+    status: TrvStatus
     dist: float
 
 
@@ -6155,6 +6427,7 @@ _trv3ldb = Routine(
     "trv3ldb", Trv3ldbResult,
     "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xq; "
     "in real yq; in real zq; out int status; out real dist",
+    values=dict(status=TrvStatus)
 )
 
 
@@ -6164,8 +6437,8 @@ def trv3ldb(
 ) -> Trv3ldbResult:
     """Distance of a point from a line.
 
-    The vector from Q to A takes A's y coordinate for its z component, so the figure is the distance
-    only where the z of A equals its y.
+    The vector from Q to A takes A's y coordinate for its z component, so the figure is the
+    distance only where the z of A equals its y.
 
     Retains: nothing.
 
@@ -6175,14 +6448,14 @@ def trv3ldb(
       xq, yq, zq: Q
 
     Returns:
-      status: 0 always
+      status: outcome (TrvStatus): 0 done: always
       dist: distance, never negative; the distance from A where A and B coincide (trvcnt)
     """
     return _trv3ldb.cells(xa, ya, za, xb, yb, zb, xq, yq, zq, 0, _NAN)
 
 
 class Trv3ldaResult(NamedTuple):
-    status: int
+    status: TrvStatus
     dist: float
 
 
@@ -6191,6 +6464,7 @@ _trv3lda = Routine(
     "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real xq; "
     "in real yq; in real zq; out int status; out real dist",
     retains=True,
+    values=dict(status=TrvStatus)
 )
 
 
@@ -6200,11 +6474,11 @@ def trv3lda(
 ) -> Trv3ldaResult:
     """Signed distance of a point from a line, in the plane of both.
 
-    The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe turns towards +y, else
-    +z, else +x: positive to the right of the way from A to B, seen against that normal. Far from the
-    origin the figure loses digits; take a local origin there (trv3tra).
+    The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe turns towards +y,
+    else +z, else +x: positive to the right of the way from A to B, seen against that normal.
+    Far from the origin the figure loses digits; take a local origin there (trv3tra).
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       xa, ya, za: A
@@ -6212,16 +6486,11 @@ def trv3lda(
       xq, yq, zq: Q
 
     Returns:
-      status: 0 always
+      status: outcome (TrvStatus): 0 done: always
       dist: distance; 0 where Q is on the line or very close to a short one (trvaxe); the
         distance from A where A and B coincide (trvcnt)
     """
     return _trv3lda.cells(xa, ya, za, xb, yb, zb, xq, yq, zq, 0, _NAN)
-
-
-class Trv3lniStatus(IntEnum):
-    DONE = 0
-    LINES_ARE_SKEW = 6
 
 
 class Trv3lniResult(NamedTuple):
@@ -6231,7 +6500,7 @@ class Trv3lniResult(NamedTuple):
     xc: float
     yc: float
     zc: float
-    status: int
+    status: TrvTwoLines
     xi: float
     yi: float
     zi: float
@@ -6241,60 +6510,62 @@ _trv3lni = Routine(
     "trv3lni", Trv3lniResult,
     "inout real xa; inout real ya; inout real za; in real ux; in real uy; in real uz; "
     "inout real xc; inout real yc; inout real zc; in real wx; in real wy; in real wz; "
-    "out int status; out real xi; out real yi; out real zi",
+    "out int status; inout real xi; inout real yi; out real zi",
     retains=True,
+    values=dict(status=TrvTwoLines)
 )
 
 
 def trv3lni(
     xa: float, ya: float, za: float, ux: float, uy: float, uz: float, xc: float, yc: float,
-    zc: float, wx: float, wy: float, wz: float
+    zc: float, wx: float, wy: float, wz: float, xi: float, yi: float
 ) -> Trv3lniResult:
     """Intersection of the lines A + t*u and C + s*w.
 
-    Works in the frame of A, A + u and C + w, with A as the origin, and leaves A and C in it. Where C
-    + w is on the first line there is no such frame, and the point is A with status 0.
+    Works in the frame of A, A + u and C + w, with A as the origin, and leaves A and C in it.
+    Where C + w is on the first line there is no such frame, and the point is A with status 0.
 
-    Parallel lines have no point: the caller's xi and yi are read, as local coordinates, and come
-    back in global ones, with status 0.
+    Parallel lines have no point: the caller's xi and yi are read, as local coordinates, and
+    come back in global ones, with status 0.
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
-      xa, ya, za: A; zero afterwards; untouched when status is not 0
+      xa, ya, za: A; zero afterwards; unchanged unless status is 0
       ux, uy, uz: direction of the first line
-      xc, yc, zc: C; C - A afterwards; untouched when status is not 0
+      xc, yc, zc: C; C - A afterwards; unchanged unless status is 0
       wx, wy, wz: direction of the second line
+      xi, yi: x and y of the point; read if the lines are parallel, as local coordinates;
+        unchanged unless status is 0
 
     Returns:
-      xa, ya, za: A; zero afterwards; untouched when status is not 0
-      xc, yc, zc: C; C - A afterwards; untouched when status is not 0
-      status: 0 done, also for parallel lines; 3 the lines are the same, of the same sense; 4
-        the same, of opposite sense; 6 the lines are skew; 7 a direction is within the tolerance
+      xa, ya, za: A; zero afterwards; unchanged unless status is 0
+      xc, yc, zc: C; C - A afterwards; unchanged unless status is 0
+      status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
+        the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
+        direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance
         in each component
-      xi, yi, zi: point; unwritten when status is not 0
+      xi, yi: x and y of the point; read if the lines are parallel, as local coordinates;
+        unchanged unless status is 0
+      zi: z of the point; unwritten unless status is 0
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
-    return _trv3lni.cells(ux, uy, uz, wx, wy, wz, xa, ya, za, xc, yc, zc, 0, _NAN, _NAN, _NAN)
-
-
-class TrvpliStatus(IntEnum):
-    DONE = 0
-    LINE_IS_PARALLEL_TO_THE_PLANE = 3
+    return _trv3lni.cells(ux, uy, uz, wx, wy, wz, xa, ya, za, xc, yc, zc, 0, xi, yi, _NAN)
 
 
 class TrvpliResult(NamedTuple):
     xi: float
     yi: float
     zi: float
-    status: int
+    status: TrvpliStatus
 
 
 _trvpli = Routine(
     "trvpli", TrvpliResult,
     "in real x; in real y; in real z; in real ux; in real uy; in real uz; in real a; "
     "in real b; in real c; in real d; out real xi; out real yi; out real zi; out int status",
+    values=dict(status=TrvpliStatus)
 )
 
 
@@ -6314,38 +6585,30 @@ def trvpli(
       a, b, c, d: plane a*x + b*y + c*z + d = 0
 
     Returns:
-      xi, yi, zi: point; unwritten when status is 3 or 4
-      status: 0 done; 3 the line is parallel to the plane: the cosine of u and the normal is
-        within the tolerance; 4 u or the normal is within the tolerance in each component
+      xi, yi, zi: point; unwritten if status is 3 or 4
+      status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
+        plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal
+        is within the tolerance in each component
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvpli.cells(x, y, z, ux, uy, uz, a, b, c, d, _NAN, _NAN, _NAN, 0)
 
 
-class TrvplpPosition(IntEnum):
-    GENERAL = 1
-    PARALLEL_TO_THE_X_AXIS = 2
-    PARALLEL_TO_THE_Y_AXIS = 3
-    PARALLEL_TO_THE_Z_AXIS = 4
-    NORMAL_TO_THE_Z_AXIS = 5
-    NORMAL_TO_THE_X_AXIS = 6
-    NORMAL_TO_THE_Y_AXIS = 7
-
-
 _trvplp = Routine(
     "trvplp", None,
     "in real a; in real b; in real c; in real d; out int position",
+    values=dict(position=TrvplpPosition)
 )
 
 
 def trvplp(
     a: float, b: float, c: float, d: float
-) -> int:
+) -> TrvplpPosition:
     """Position of a plane against the axes.
 
-    A coefficient within the tolerance counts as zero. A plane whose normal is zero is reported as 7
-    or 10.
+    A coefficient within the tolerance counts as zero. A plane whose normal is zero is reported
+    as 7 or 10.
 
     Retains: nothing.
 
@@ -6353,15 +6616,18 @@ def trvplp(
       a, b, c, d: plane a*x + b*y + c*z + d = 0
 
     Returns:
-      position: 1 general; 2 parallel to the x axis; 3 parallel to the y axis; 4 parallel to the
-        z axis; 5 normal to the z axis; 6 normal to the x axis; 7 normal to the y axis; 8 the
-        plane z = 0; 9 the plane x = 0; 10 the plane y = 0
+      position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane
+        is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4
+        parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to the
+        z axis; 6 normal_x: the plane is normal to the x axis; 7 normal_y: the plane is normal
+        to the y axis; 8 at_z_zero: the plane is z = 0; 9 at_x_zero: the plane is x = 0; 10
+        at_y_zero: the plane is y = 0
     """
     return _trvplp.cells(a, b, c, d, 0)
 
 
 class TrvpnlResult(NamedTuple):
-    status: int
+    status: TrvStatus | int
     count_: int
     index_: NDArray[int32]
 
@@ -6371,6 +6637,7 @@ _trvpnl = Routine(
     "in real xa; in real ya; in real za; in real xb; in real yb; in real zb; in real X[n]; "
     "in real Y[n]; in function zf; in int n = X Y; in real tol; out int status; "
     "out int count_; out int index_[n, count_ used]",
+    values=dict(status=TrvStatus)
 )
 
 
@@ -6380,8 +6647,9 @@ def trvpnl(
 ) -> TrvpnlResult:
     """Points of a list near a line.
 
-    Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component. Takes
-    time in proportion to n and no memory.
+    Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component.
+
+    Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
@@ -6395,24 +6663,20 @@ def trvpnl(
       tol: largest distance allowed, itself included; a NaN distance is not
 
     Returns:
-      status: 0 always; unwritten when n < 1
+      status: outcome (TrvStatus): 0 done: always; unwritten if n < 1
       count_: how many are found
-      index_: array of n, count used: their positions, ascending; unwritten beyond count
+      index_: array of n, count used: their positions, ascending
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
     return _trvpnl.call((xa, ya, za, xb, yb, zb, X, Y, zf, n, tol))
 
 
-class TrvlpcStatus(IntEnum):
-    NOT_MOVED = 0
-
-
 class TrvlpcResult(NamedTuple):
     x2: float
     y2: float
     z2: float
-    status: int
+    status: TrvlpcStatus
 
 
 _trvlpc = Routine(
@@ -6421,6 +6685,7 @@ _trvlpc = Routine(
     "inout real y2; inout real z2; in real dxp; in real dyp; in real dzp; in real dx1; "
     "in real dy1; in real dz1; out int status",
     retains=True,
+    values=dict(status=TrvlpcStatus)
 )
 
 
@@ -6430,22 +6695,24 @@ def trvlpc(
 ) -> TrvlpcResult:
     """Carries a point along when the line through it is moved.
 
-    P and Q1 move by dP and dQ1; Q2 keeps its place on their line in proportion. Only the relation of
-    the lines Q2-P and Q1-P tells whether the three are collinear (trvdirl).
+    P and Q1 move by dP and dQ1; Q2 keeps its place on their line in proportion. Only the
+    relation of the lines Q2-P and Q1-P tells whether the three are collinear (trvdirl).
 
-    Retains: the cosine of the three-point test, shared with all that run it (trvpsl).
+    Retains: the cosine of the three-point test (trvpsl).
 
     Arguments:
       xp, yp, zp: P
       x1, y1, z1: Q1
-      x2, y2, z2: Q2; untouched when status is 0
+      x2, y2, z2: Q2; unchanged if status is 0
       dxp, dyp, dzp: move of P
       dx1, dy1, dz1: move of Q1
 
     Returns:
-      x2, y2, z2: Q2; untouched when status is 0
-      status: 0 not moved: the three points are not collinear, or Q1 is at P; 3 moved, Q1 and Q2
-        on one side of P; 4 moved, on either side of P; 6 moved, rounding takes the three for
-        skew lines; 7 moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance
+      x2, y2, z2: Q2; unchanged if status is 0
+      status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
+        moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is
+        moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the
+        three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each
+        coordinate yet not by its distance
     """
     return _trvlpc.cells(xp, yp, zp, x1, y1, z1, dxp, dyp, dzp, dx1, dy1, dz1, x2, y2, z2, 0)
