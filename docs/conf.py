@@ -8,11 +8,11 @@ DOCS = Path(__file__).resolve().parent
 ROOT = DOCS.parent
 sys.path[:0] = [str(DOCS / "manual"), str(ROOT / "tools")]
 
-import bindings_facts  # noqa: E402
+import model  # noqa: E402
 import prepare  # noqa: E402
 
 project = "Trelvin"
-release = version = bindings_facts.version()
+release = version = model.read().version
 html_title = f"Trelvin {release}"
 extensions = ["myst_parser", "sphinx_inline_tabs", "sphinx_copybutton", "extension"]
 myst_enable_extensions = ["deflist"]

@@ -382,8 +382,10 @@ class Interface:
 
 # --- reading ----------------------------------------------------------------------------------
 
+OTHER_COMMENT = re.compile(
+    r"(/\*\*.*?\*/|/\* \S[^*]*? -+ \*/)|" + COMMENT.pattern, re.S)  # without a group, one of others
 PIECE = re.compile(
-    r"/\*\*(?P<doc>(?:(?!\*/).)*)\*/|/\* (?P<title>\S[^*]*?) -+ \*/|/\*.*?\*/|//[^\n]*"
+    r"/\*\*(?P<doc>(?:(?!\*/).)*)\*/|/\* (?P<title>\S[^*]*?) -+ \*/"
     r"|^TRELVIN_ROUTINE\s+(?P<routine>\w+)\s*\((?P<arguments>[^)]*)\)\s*;"
     r"|^enum (?P<enum>Trv\w+) \{(?P<body>.*?)\};",
     re.S | re.M,
@@ -441,6 +443,7 @@ class _Reader:
         self.interface.faults.append(f"{self.family.header}:{line}: {text}")
 
     def read(self, text):
+        text = OTHER_COMMENT.sub(lambda m: m[1] or "\n" * m[0].count("\n"), text)
         doc = None
         for match in PIECE.finditer(text):
             line = text.count("\n", 0, match.start()) + 1
@@ -490,7 +493,7 @@ class _Reader:
         start, lines = doc
         routine = Routine(name, self.family.name, self.group, line, [])
         described = self._contract(routine, start, lines)
-        for piece in COMMENT.sub(" ", arguments).split(","):
+        for piece in arguments.split(","):
             kind, argument = (piece.split() + ["", ""])[:2]
             if kind not in TYPES:
                 self._fault(line, f"{name}: {argument or 'an argument'}: unknown type {kind}")

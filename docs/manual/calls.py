@@ -18,7 +18,7 @@ unit, or Integers without.
 import re
 from dataclasses import dataclass, field
 
-import headers
+import model
 
 SINGLES = re.compile(r"(real|int) (\w+ = [^,]+(?:, \w+ = [^,]+)*)$")
 ARRAY = re.compile(r"(reals|ints) (\w+)\[(\d+)\](?: = (.+))?$")
@@ -59,7 +59,7 @@ class Step:
     kind: str  # comment, blank, declare, call, let, set, print
     text: str = ""
     new: list = field(default_factory=list)  # variables that appear with it
-    routine: headers.Routine = None
+    routine: model.Routine = None
     arguments: list = field(default_factory=list)
     label: str = ""
     values: list = field(default_factory=list)

@@ -3,9 +3,8 @@
 import re
 from functools import partial
 
-import bindings_facts
+import bindings_text
 import bindings_python
-import headers
 from calls import NAME
 
 WIDTH = 82  # of a line, so that it fits beside the table of contents
@@ -17,11 +16,11 @@ SPARE = "element n+1 is overwritten"  # by which an array counts as not changed
 
 
 def wrap(text, first):
-    return bindings_facts.wrap(text, first, width=WIDTH)
+    return bindings_text.wrap(text, first, width=WIDTH)
 
 
 def wrap_list(items, first, following, end, continuation=""):
-    return bindings_facts.wrap_list(items, first, following, end, continuation, WIDTH)
+    return bindings_text.wrap_list(items, first, following, end, continuation, WIDTH)
 
 
 class Language:
@@ -298,7 +297,7 @@ class CSharp(Language):
         return f"float {v.name} = {expression};"
 
     def passed(self, v, argument):
-        way = {"in": "", "out": "out ", "inout": "ref "}[headers.TYPES[argument.type][2]]
+        way = {"in": "", "out": "out ", "inout": "ref "}[argument.direction]
         return v.name if v.is_array else way + v.name
 
     def show(self, step):

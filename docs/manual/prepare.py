@@ -4,19 +4,19 @@ import json
 from pathlib import Path
 
 import calls
-import headers
+import model
 import reference
 import run
 import words
 
 DOCS = Path(__file__).resolve().parents[1]
-BUILD = headers.ROOT / "build/manual"
+BUILD = model.ROOT / "build/manual"
 PRINTED = BUILD / "printed.json"
 
 
 def tasks():
     """The tasks of docs/calls, by their names."""
-    routines = {routine.name: routine for routine in headers.routines_of(headers.read_all())}
+    routines = {routine.name: routine for routine in model.read().routines}
     return {path.stem: calls.read(path, routines) for path in sorted(DOCS.glob("calls/*.calls"))}
 
 

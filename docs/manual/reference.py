@@ -1,11 +1,9 @@
-"""Writes the pages of the reference from the interface headers: Markdown for Sphinx."""
+"""Writes the pages of the reference from the model of the interface: Markdown for Sphinx."""
 
 import re
 
-import bindings_facts
-import contract_text
-import contracts
-import headers
+import bindings_text
+import model
 
 DIRECTIONS = {"in": "in", "out": "out", "inout": "in and out"}
 FIGURES = {  # of a family, and of a group within one
@@ -34,10 +32,9 @@ def escaped(text):
 class Writer:
     """Texts with the routines that they name as links."""
 
-    def __init__(self, pages):
-        self.pages = pages
-        self.page_of = {r.name: page.family.name for page in pages for g in page.groups
-                        for r in g.routines}
+    def __init__(self, interface):
+        self.interface = interface
+        self.page_of = {routine.name: routine.family for routine in interface.routines}
 
     @staticmethod
     def link(name):
@@ -68,54 +65,63 @@ def table(columns, rows, classes):
 def signature(routine):
     arguments = [f"{a.type} {a.name}" for a in routine.arguments]
     start = f"void {routine.name}("
-    return ["```c", *bindings_facts.wrap_list(arguments, start, "    ", ");", width=82), "```", ""]
+    return ["```c", *bindings_text.wrap_list(arguments, start, "    ", ");", width=82), "```", ""]
 
 
-def _argument_row(writer, shown, names, argument):
-    text, size = argument.text, ""
-    if argument.is_array:
-        match = contracts.SIZE.match(text)
-        sizes, used, kind = match.groups()
-        size = f" of {sizes}" + f", {used} used" * bool(used) + f", by {kind}" * bool(kind)
-        text = text[match.end() :].strip() or "numbers"
-    kind = "Integer" if argument.is_integer else "Real"
-    if argument.type == "TrvFunctionIn":
-        kind = "function"
-    kind = f"{kind} array{escaped(size)}" if argument.is_array else kind
-    if contracts.names_values(argument) and any(a is argument for a, _ in shown.statuses):
-        text = "see below"
-    name = ", ".join(f"`{name}`" for name in names)
-    return [name, f"{DIRECTIONS[argument.direction]}, {kind}", writer.text(text, shown.name)]
+def _alike(arguments):
+    """Neighbours that share their description: [(names, the first of them)]."""
+    groups = bindings_text.groups(((a.text, a.type), a) for a in arguments)
+    return [([a.name for a in alike], alike[0]) for _, alike in groups]
 
 
-def _routine(writer, shown):
-    routine = shown.routine
+def _argument_row(writer, routine, names, argument):
+    size, kind = argument.size, "function"
+    if argument.kind != "function":
+        kind = "Integer" if argument.is_integer else "Real"
+    if size:
+        of = f" of {', '.join(size.sizes)}" + f", {size.used} used" * bool(size.used)
+        kind += f" array{escaped(of + f', by {size.kind}' * bool(size.kind))}"
+    text = argument.meaning or "numbers"
+    if argument.values:
+        text = f"{text.partition(':')[0]}: see below"
+    names = ", ".join(f"`{name}`" for name in names)
+    return [names, f"{DIRECTIONS[argument.direction]}, {kind}", writer.text(text, routine.name)]
+
+
+def _value_rows(argument):
+    """(value, name, meaning) as texts."""
+    values = argument.values
+    rows = [(str(v.number), values.enumeration.snake(v), v.meaning) for v in values.values]
+    return rows + [(*text.partition(": ")[::2],) for text in values.ranges]
+
+
+def _routine(writer, routine):
     lines = [f"({routine.name})=", f"### `{routine.name}`", ""]
-    for i, paragraph in enumerate(shown.paragraphs):
+    for i, paragraph in enumerate(routine.paragraphs):
         lines += writer.paragraph(paragraph, routine.name)
         lines += signature(routine) if i == 0 else []
-    rows = [_argument_row(writer, shown, *pair) for pair in shown.arguments]
+    rows = [_argument_row(writer, routine, *pair) for pair in _alike(routine.arguments)]
     lines += table(["Argument", "Kind", "Meaning"], rows, "arguments")
-    for argument, pairs in shown.statuses:
-        rows = [[f"**{escaped(value)}**", writer.text(meaning, routine.name)]
-                for value, meaning in pairs]
-        lines += table([f"`{argument.name}`", "Meaning"], rows, "statuses")
-    return lines + _facts(writer, shown)
+    for argument in routine.named_values():
+        rows = [[f"**{escaped(row[0])}**", f"`{row[1]}`" if len(row) > 2 else "",
+                 writer.text(row[-1], routine.name)] for row in _value_rows(argument)]
+        if argument.values.other:
+            rows.append(["**other**", "", writer.text(argument.values.other, routine.name)])
+        lines += table([f"`{argument.name}`", "Name", "Meaning"], rows, "statuses")
+    return lines + _facts(writer, routine)
 
 
-def _facts(writer, shown):
-    facts = []
-    unwritten = [f"{', '.join(f'`{n}`' for n in names)}: {writer.text(clause, shown.name)}"
-                 for names, clause in shown.unwritten]
-    if not unwritten:
-        written = all(bindings_facts.always_written(shown.routine, a) or a.is_array
-                      for a in shown.routine.arguments if a.direction == "out")
-        unwritten = ["nothing; every output is written on every path"] if written else []
-    facts += [("Unwritten", "; ".join(unwritten))] if unwritten else []
-    facts.append(("Retains", writer.text(shown.routine.retains.rstrip("."), shown.name)))
-    facts += [("Cost", writer.text(" ".join(shown.cost), shown.name))] if shown.cost else []
-    named = [writer.link(name) for name in shown.mentioned if name in writer.page_of]
-    facts += [("See also", ", ".join(named))] if named else []
+def _facts(writer, routine):
+    unwritten = [f"{', '.join(f'`{n}`' for n in names)}: {writer.text(a.kept.text, routine.name)}"
+                 for names, a in _alike(routine.arguments) if a.kept]  # fmt: skip
+    mentioned = re.findall(r"\btrv\w+\b", f"{routine.paragraphs} {routine.retains_text} " +
+                           " ".join(argument.text for argument in routine.arguments))
+    named = [writer.link(name) for name in dict.fromkeys(mentioned)
+             if name in writer.page_of and name != routine.name]  # fmt: skip
+    facts = [("Unwritten", "; ".join(unwritten) or "nothing; every output is written on every path"),
+             ("Retains", writer.text(routine.retains_text, routine.name)),
+             ("Cost", writer.text(routine.cost, routine.name)), ("See also", ", ".join(named))]
+    facts = [(name, text) for name, text in facts if text]
     return ["```{container} facts", *(f"**{name}** {text}\\" for name, text in facts[:-1]),
             f"**{facts[-1][0]}** {facts[-1][1]}", "```", ""]
 
@@ -124,66 +130,69 @@ def figure(name, caption=None):
     return [f"```{{trelvin-figure}} {name}", caption or CAPTIONS[name], "```", ""]
 
 
-def family_page(writer, page):
-    lines = [f"# {page.family.title}", ""]
-    for paragraph in page.intro:
+def family_page(writer, family):
+    lines = [f"# {family.title}", ""]
+    for paragraph in family.intro:
         lines += writer.paragraph(paragraph)
-    for name in FIGURES.get(page.family.name, []):
+    lines += ["```c", *family.example, "```", ""]
+    for name in FIGURES.get(family.name, []):
         lines += figure(name)
-    lines += [f"The declarations are in [`{page.family.header}`](../../{page.family.header}).", ""]
-    for group in page.groups:
-        rows = [[writer.link(r.name), writer.text(r.routine.brief, r.name)] for r in group.routines]
-        lines += [f"## {group.title}", ""] if group.title else []
-        for name in FIGURES.get(group.title, []):
+    lines += [f"The declarations are in [`{family.header}`](../../{family.header}).", ""]
+    for title, routines in family.groups():
+        rows = [[writer.link(r.name), writer.text(r.brief, r.name)] for r in routines]
+        lines += [f"## {title}", ""] if title else []
+        for name in FIGURES.get(title, []):
             lines += figure(name)
         lines += table(["Routine", ""], rows, "routines")
-        for shown in group.routines:
-            lines += _routine(writer, shown)
-            if shown.name.startswith("trvsec_"):
-                lines += figure(f"outline-{shown.name}", f"The outline of {shown.name}")
+        for routine in routines:
+            lines += _routine(writer, routine)
+            if routine.name.startswith("trvsec_"):
+                lines += figure(f"outline-{routine.name}", f"The outline of {routine.name}")
     return lines
 
 
 def all_routines(writer):
-    count = len(writer.page_of)
-    lines = ["# All routines", "", f"The {count} routines by family. Every one takes the address "
-             "of each argument and returns nothing; each links to its contract. Looking for a word "
-             "rather than a name: [Find by word](words.md).", "", "```{toctree}", ":hidden:", "",
-             *[page.family.name for page in writer.pages], "```", ""]
-    for page in writer.pages:
-        lines += [f"## [{page.family.title}]({page.family.name}.md)", ""]
-        rows = [[writer.link(r.name), writer.text(r.routine.brief, r.name)]
-                for group in page.groups for r in group.routines]
+    families = writer.interface.families
+    lines = ["# All routines", "", f"The {len(writer.page_of)} routines by family. Every one takes "
+             "the address of each argument and returns nothing; each links to its contract. Looking "
+             "for a word rather than a name: [Find by word](words.md).", "", "```{toctree}",
+             ":hidden:", "", *[family.name for family in families], "```", ""]
+    for family in families:
+        lines += [f"## [{family.title}]({family.name}.md)", ""]
+        rows = [[writer.link(r.name), writer.text(r.brief, r.name)] for r in family.routines]
         lines += table(["Routine", ""], rows, "routines")
     return lines
 
 
 def statuses(writer):
-    lines = ["# Statuses", "", "What the values of each status mean, and the names they have in "
-             "the bindings: `trvlni_parallel` in Fortran and Pascal, `trvlniParallel` in C#, "
-             "Basic and JavaScript. Python takes its names from the meanings, where they make one: "
-             "`TrvlniStatus.PARALLEL_AND_DISTINCT`. In C they are the numbers.", ""]
-    for page in writer.pages:
+    lines = ["# Statuses", "", "What the values of each status mean, and their names. The name "
+             "`trv_lines_skew` is that of Fortran and Pascal; it is `TRV_LINES_SKEW` in C and C++, "
+             "`trvLinesSkew` in C#, Basic and JavaScript, `TrvLines.SKEW` in Python. Names that "
+             "begin with `trv_` belong to several routines.", ""]
+    for family in writer.interface.families:
         rows = []
-        for shown in (r for group in page.groups for r in group.routines):
-            named = bindings_facts.constants_of(shown.routine)
-            for argument, pairs in shown.statuses:
-                for i, (value, meaning) in enumerate(pairs):
-                    name = [c.snake for c in named if str(c.value) == value] or [""]
-                    rows.append([writer.link(shown.name) if i == 0 else "", f"`{argument.name}`",
-                                 f"**{escaped(value)}**", writer.text(meaning, shown.name),
-                                 f"`{name[0]}`" if name[0] else ""])
+        for routine in family.routines:
+            for argument in (a for a in routine.named_values() if a.is_written):
+                for i, row in enumerate(_value_rows(argument)):
+                    rows.append([writer.link(routine.name) if i == 0 else "", f"`{argument.name}`",
+                                 f"**{escaped(row[0])}**", writer.text(row[-1], routine.name),
+                                 f"`{row[1]}`" if len(row) > 2 else ""])
         if rows:
-            lines += [f"## {page.family.title}", ""]
+            lines += [f"## {family.title}", ""]
             lines += table(["Routine", "Output", "Value", "Meaning", "Name"], rows, "values")
     return lines
 
 
+def compatibility():
+    """The table of the names of version 1.1, which docs/compatibility.md includes."""
+    rows = [[f"`{old}`", f"`{new}`"] for old, new in bindings_text.old_names()]
+    return table(["1.1", "now"], rows, "names")
+
+
 def write(folder, words_page):
     """Writes all pages that follow from the headers; `words_page` makes that of the words."""
-    pages = contract_text.pages()
-    writer = Writer(pages)
-    texts = {page.family.name: family_page(writer, page) for page in pages}
+    writer = Writer(model.read())
+    texts = {family.name: family_page(writer, family) for family in writer.interface.families}
     texts |= {"index": all_routines(writer), "statuses": statuses(writer),
               "words": words_page(writer)}
     folder.mkdir(parents=True, exist_ok=True)
@@ -192,4 +201,5 @@ def write(folder, words_page):
             stale.unlink()
     for name, lines in texts.items():
         (folder / f"{name}.md").write_text("\n".join(lines) + "\n")
+    (folder / "old_names.txt").write_text("\n".join(compatibility()) + "\n")
     return {name: f"reference/{family}" for name, family in writer.page_of.items()}

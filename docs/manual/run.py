@@ -6,12 +6,12 @@ import shutil
 import subprocess
 from concurrent.futures import ThreadPoolExecutor
 
-import headers
+import model
 import languages
 
-LIBRARY = headers.ROOT / "build/native/lib"
+LIBRARY = model.ROOT / "build/native/lib"
 OPTIONS = ["-L", str(LIBRARY), "-ltrelvin", "-Wl,-rpath," + str(LIBRARY)]
-BINDINGS = headers.ROOT / "bindings"
+BINDINGS = model.ROOT / "bindings"
 
 
 class Failed(RuntimeError):
@@ -75,12 +75,12 @@ PREPARE = {"Fortran": _prepare_fortran, "Pascal": _prepare_pascal, "C#": _prepar
 
 
 def _c(source, program):
-    return [["gcc", "-Wall", "-Wextra", "-Werror", "-I", headers.ROOT / "include", source, *OPTIONS,
+    return [["gcc", "-Wall", "-Wextra", "-Werror", "-I", model.ROOT / "include", source, *OPTIONS,
              "-lm", "-o", program], [program]]
 
 
 def _cpp(source, program):
-    return [["g++", "-Wall", "-Wextra", "-Werror", "-I", headers.ROOT / "include", source, *OPTIONS,
+    return [["g++", "-Wall", "-Wextra", "-Werror", "-I", model.ROOT / "include", source, *OPTIONS,
              "-o", program], [program]]
 
 

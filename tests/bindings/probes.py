@@ -65,7 +65,7 @@ static class Probe
 
 
 def kind_of(argument):
-    if argument.type == "TrvFunctionIn":
+    if argument.kind == "function":
         return "f"
     return ("i" if argument.is_integer else "r") + "s" * argument.is_array
 

@@ -84,7 +84,7 @@ class Results(unittest.TestCase):
         parallel = trelvin.trvlni(1, 0, 0, 1, 0, -5)
         self.assertTrue(np.isnan([parallel.x, parallel.y]).all())
         meanings = trelvin.MEANINGS["trvlni"]["status"]
-        self.assertEqual(meanings[parallel.status], "parallel and distinct")
+        self.assertEqual(meanings[parallel.status], "the lines are parallel and distinct")
         self.assertEqual(trelvin.trvphip(1, 0, 0, 0, 1, 0).status, 0)
         x, y = [0, 1, 1, 0], [0, 0, 1, 1]
         closed = trelvin.trvmxt(x, y, np.roll(x, -1), np.roll(y, -1), 4 * [0.1])
@@ -97,7 +97,9 @@ class Results(unittest.TestCase):
 
     def test_constants(self):
         status = trelvin.trvpl1(0, 0, 0, 1, 0, 0, 0.5, 0, 0).status
-        self.assertEqual(status, trelvin.Trvpl1Status.P2_IS_BETWEEN_P0_AND_P1)
+        self.assertEqual(status, trelvin.TrvThreePoints.BETWEEN)
+        self.assertIs(type(status), trelvin.TrvThreePoints)
+        self.assertIs(trelvin.Trvpl1Status.P2_IS_BETWEEN_P0_AND_P1, status)  # name of version 1.1
 
 
 class Counts(unittest.TestCase):

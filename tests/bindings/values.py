@@ -12,10 +12,9 @@ import tempfile
 from pathlib import Path
 
 import bindings_python
-import contracts
-import headers
+import model
 
-LIBRARY = headers.ROOT / "build" / "native" / "lib" / "libtrelvin.so"
+LIBRARY = model.ROOT / "build" / "native" / "lib" / "libtrelvin.so"
 ROOM = 64  # elements of an array
 CALLS = 8
 FUNCTION = ctypes.CFUNCTYPE(ctypes.c_float, ctypes.POINTER(ctypes.c_int32))
@@ -43,10 +42,10 @@ for (const [name, given, counts, wanted] of [
 def _draw(draw, argument):
     """What an argument holds before the call; Reals of a coarse grid meet special positions."""
     size = ROOM if argument.is_array else 1
-    if headers.TYPES[argument.type][2] == "out":
+    if argument.direction == "out":
         return size * [0 if argument.is_integer else float("nan")]
     if argument.is_integer:
-        least = max(0, contracts.least_of(argument.text) or 0)
+        least = max(0, argument.least or 0)
         return [draw.randint(least, 6) for _ in range(size)]
     return [draw.choice([draw.randint(-2, 2), draw.randint(1, 9) * 0.5]) for _ in range(size)]
 
@@ -55,7 +54,7 @@ def _case(library, routine, draw):
     told = [a.name for a in bindings_python.Routine(routine, named=str).inputs if a.lengths_of]
     memory, given, counts = {}, [], {}
     for argument in routine.arguments:
-        if argument.type == "TrvFunctionIn":
+        if argument.kind == "function":
             given.append(None)
             continue
         numbers = _draw(draw, argument)
@@ -63,7 +62,7 @@ def _case(library, routine, draw):
         memory[argument.name] = (kind * len(numbers))(*numbers)
         if argument.name in told:
             counts[argument.name] = numbers[0]
-        elif headers.TYPES[argument.type][2] != "out":
+        elif argument.direction != "out":
             given.append(numbers if argument.is_array else numbers[0])
     getattr(library, routine.name)(*(memory.get(a.name, HEIGHT) for a in routine.arguments))
     bits = {a.name: list(memoryview(memory[a.name]).cast("B").cast("i"))
