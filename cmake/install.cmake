@@ -10,6 +10,7 @@ install(TARGETS trelvin EXPORT TrelvinTargets
         LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
         ARCHIVE COMPONENT development)
 install(DIRECTORY include/trelvin TYPE INCLUDE)
+install(FILES bindings/trelvin.json DESTINATION ${CMAKE_INSTALL_DATADIR}/trelvin)  # for bindings
 get_target_property(library_name trelvin OUTPUT_NAME)  # of the file that programs link
 if(NOT library_name)
   set(library_name trelvin)

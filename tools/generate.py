@@ -151,40 +151,29 @@ def _facts(routine, i, argument):
 
 def as_json(interface):
     """The model for makers of further bindings; docs/model.md describes it."""
-    ordinals = entries.ordinals(interface.routines)
-    golden = golden_lines()
-    document = {
-        "version": interface.version,
-        "enumerations": [
-            {
-                "name": e.name,
-                "shared": e.shared,
-                "comment": bindings_text.comment_of(e),
-                "values": [{"number": v.number, "name": e.upper(v), "meaning": v.meaning}
-                           for v in e.values],
-            }
-            for e in interface.enumerations()
-        ],
-        "routines": [
-            {
-                "name": r.name,
-                "decorated": r.decorated,
-                "ordinals": [ordinals[r.name], ordinals[r.decorated]],
-                "family": r.family,
-                "group": r.group,
-                "text": r.paragraphs,
-                "cost": r.cost,
-                "retains": [{"what": what, "owner": owner} for what, owner in r.retains],
-                "golden": golden.get(r.name),
-                "arguments": [_as_json(a) for a in r.arguments],
-            }
-            for r in interface.routines
-        ],
-    }  # fmt: skip
-    return json.dumps(document, indent=1, ensure_ascii=False) + "\n"
+    enumerations = [_object(
+        name=e.name, shared=e.shared, comment=bindings_text.comment_of(e),
+        values=[{"number": v.number, "name": e.upper(v), "meaning": v.meaning} for v in e.values],
+    ) for e in interface.enumerations()]  # fmt: skip
+    ordinals, golden = entries.ordinals(interface.routines), golden_lines()
+    routines = [_object(
+        name=r.name, decorated=r.decorated, ordinals=[ordinals[r.name], ordinals[r.decorated]],
+        family=r.family, group=r.group, text=r.paragraphs, cost=r.cost,
+        retains=[{"what": what, "owner": owner} for what, owner in r.retains],
+        golden=golden.get(r.name),
+    )[:-1] + ', "arguments": [\n  ' + ",\n  ".join(_object(**_facts_of(a)) for a in r.arguments) + "]}"
+        for r in interface.routines]  # fmt: skip
+    return (f'{{"version": "{interface.version}",\n"enumerations": [\n' + ",\n".join(enumerations) +
+            '],\n"routines": [\n' + ",\n".join(routines) + "]}\n")  # fmt: skip
 
 
-def _as_json(argument):
+def _object(**facts):
+    """On one line, what is empty left out."""
+    facts = {key: fact for key, fact in facts.items() if fact not in ("", None, [])}
+    return json.dumps(facts, ensure_ascii=False)
+
+
+def _facts_of(argument):
     facts = {"name": argument.name, "direction": argument.direction, "kind": argument.kind,
              "meaning": argument.meaning}  # fmt: skip
     size, values, kept = argument.size, argument.values, argument.kept

@@ -111,8 +111,12 @@ def _routine(writer, routine):
     return lines + _facts(writer, routine)
 
 
+def _when(kept):
+    return f"if {kept.condition}" if kept.condition else kept.text.split(" ", 1)[1]
+
+
 def _facts(writer, routine):
-    unwritten = [f"{', '.join(f'`{n}`' for n in names)}: {writer.text(a.kept.text, routine.name)}"
+    unwritten = [f"{', '.join(f'`{n}`' for n in names)}: {writer.text(_when(a.kept), routine.name)}"
                  for names, a in _alike(routine.arguments) if a.kept]  # fmt: skip
     mentioned = re.findall(r"\btrv\w+\b", f"{routine.paragraphs} {routine.retains_text} " +
                            " ".join(argument.text for argument in routine.arguments))

@@ -114,7 +114,7 @@ Private Function FiguresOf(p As Plates) As Figures
     trvmxt p.n, p.x1(1), p.y1(1), p.x2(1), p.y2(1), p.t(1), f.A, f.xs, f.ys, f.Ix, f.Iy, f.Ixy, _
            f.I1, f.I2, f.alpha, f.rx, f.ry, f.Wx1, f.Wx2, f.Wy1, f.Wy2, f.Wpx, f.Wpy, f.xp, f.yp, _
            It, Wt, xm, ym, Iw, r0, w1(1), w2(1), status
-    If status = trvmxtRefused Then Err.Raise 5, , "a plate without length or thickness"
+    If status = trvStatusRefused Then Err.Raise 5, , "a plate without length or thickness"
     FiguresOf = f
 End Function
 

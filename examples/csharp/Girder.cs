@@ -46,7 +46,7 @@ static class Girder
             out f.Iy, out f.Ixy, out f.I1, out f.I2, out f.alpha, out f.rx, out f.ry, out f.Wx1,
             out f.Wx2, out f.Wy1, out f.Wy2, out f.Wpx, out f.Wpy, out f.xp, out f.yp, out It,
             out Wt, out xm, out ym, out Iw, out r0, w1, w2, out status);
-        if (status == Native.trvmxtRefused)
+        if (status == Native.trvStatusRefused)
             throw new ArgumentException("a plate without length or thickness");
         return f;
     }

@@ -59,7 +59,7 @@ program girder
   last = figures_of(reduced)
 
   call trvcer8(xc, yc, xa, ya, xb, yb, side, station, x, y, status)
-  if (status /= trvcer8_done) error stop "no point above the station"
+  if (status /= trv_arc_done) error stop "no point above the station"
   call trvarc1(xc, yc, xa, ya, xb, yb, shorter, longer, status)
 
   print two, "top plate", top1, top2, "mm"
@@ -97,6 +97,6 @@ contains
     call trvmxt(p%n, p%x1, p%y1, p%x2, p%y2, p%t, f%A, f%xs, f%ys, f%Ix, f%Iy, f%Ixy, f%I1, f%I2, &
                 f%alpha, f%rx, f%ry, f%Wx1, f%Wx2, f%Wy1, f%Wy2, f%Wpx, f%Wpy, f%xp, f%yp, &
                 It, Wt, xm, ym, Iw, r0, w1, w2, status)
-    if (status == trvmxt_refused) error stop "a plate without length or thickness"
+    if (status == trv_status_refused) error stop "a plate without length or thickness"
   end function
 end program

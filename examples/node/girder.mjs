@@ -18,7 +18,7 @@ const [left, right] = [-b / 2, b / 2];
 function figuresOf(...plates) {
   const column = (i) => plates.map((plate) => plate[i]);
   const figures = trelvin.trvmxt(...[0, 1, 2, 3, 4].map(column));
-  if (figures.status === trelvin.trvmxtRefused) {
+  if (figures.status === trelvin.trvStatusRefused) {
     throw new RangeError("a plate without length or thickness");
   }
   return figures;

@@ -48,7 +48,7 @@ begin
   trvmxt(p.n, p.x1[0], p.y1[0], p.x2[0], p.y2[0], p.t[0], f.A, f.xs, f.ys, f.Ix, f.Iy, f.Ixy, f.I1,
     f.I2, f.alpha, f.rx, f.ry, f.Wx1, f.Wx2, f.Wy1, f.Wy2, f.Wpx, f.Wpy, f.xp, f.yp, It, Wt, xm, ym,
     Iw, r0, w1[0], w2[0], status);
-  if status = trvmxt_refused then
+  if status = trv_status_refused then
   begin
     WriteLn(ErrOutput, 'a plate without length or thickness');
     Halt(1);

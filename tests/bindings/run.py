@@ -22,6 +22,7 @@ NODE_WIN32 = ROOT / "build" / "node-win32"
 sys.path.insert(0, str(ROOT / "tools"))
 
 import model  # noqa: E402
+import names  # noqa: E402
 import probes  # noqa: E402
 import values  # noqa: E402
 
@@ -188,6 +189,26 @@ def basic_faults():
                 yield f"{library}: {name}: {parameters}"
 
 
+def printed_by(language, name, code):
+    """What a program in C or C++ prints, or why it does not build."""
+    compiler, suffix, standard = {"C": ("gcc", "c", "c11"), "C++": ("g++", "cpp", "c++17")}[language]
+    source, program = OUT / f"{name}.{suffix}", OUT / f"{name}_{suffix}"
+    source.write_text(code)
+    flags = f"-std={standard} -Wall -Wextra -Wpedantic -Werror -Iinclude -Lbuild/native/lib"
+    built = run([compiler, *flags.split(), source, "-ltrelvin", "-o", program])
+    return built.stderr or table_of("native", "c", str(program), ROOT / "build/native/lib")
+
+
+def check_names():
+    """Names of values, and the examples at the heads of the headers."""
+    code = names.program(INTERFACE)
+    printed = {language: printed_by(language, "names", code) for language in ("C", "C++")}
+    report("names: the same in eight languages", "; ".join(names.faults(INTERFACE, printed)))
+    code, expected = names.examples(INTERFACE)
+    got = printed_by("C", "examples", code)
+    report("examples of the headers", "" if got == expected else f"other output:\n{got}")
+
+
 def main():
     platforms = sys.argv[1:] or ["native", "windows"]
     OUT.mkdir(parents=True, exist_ok=True)
@@ -198,6 +219,7 @@ def main():
             report(platform, f"the library is missing: cmake --build --preset {platform}")
             continue
         if platform == "native":
+            check_names()
         for built_for, language in COMMANDS:
             if built_for == platform:
                 check_language(platform, language)

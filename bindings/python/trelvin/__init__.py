@@ -15,8 +15,8 @@ to the area of a polygon. A number that is given must not be more than the array
 What a routine leaves unwritten is NaN where it is a Real, and 0 where it is an Integer. Arrays with
 a count come back with as many elements as it says.
 
-`batch` calls a routine for many rows at once. `MEANINGS` tells what the values of a status mean;
-where a meaning makes a name, there is a constant: `TrvpliStatus.DONE`.
+A status comes back as a member of its enumeration: `TrvPlaneLines.PARALLEL`. `MEANINGS` tells what
+each value means. `batch` calls a routine for many rows at once.
 
 Routines that retain nothing may be called from several threads at once. The others hold the
 interpreter's lock, but share what they retain.
