@@ -83,7 +83,7 @@ def _argument_row(writer, routine, names, argument):
         kind += f" array{escaped(of + f', by {size.kind}' * bool(size.kind))}"
     text = argument.meaning or "numbers"
     if argument.values:
-        text = f"{text.partition(':')[0]}: see below"
+        text = re.sub(r"( \(Trv\w+\))?:.*", ": see below", text)
     names = ", ".join(f"`{name}`" for name in names)
     return [names, f"{DIRECTIONS[argument.direction]}, {kind}", writer.text(text, routine.name)]
 
@@ -116,8 +116,12 @@ def _when(kept):
 
 
 def _facts(writer, routine):
-    unwritten = [f"{', '.join(f'`{n}`' for n in names)}: {writer.text(_when(a.kept), routine.name)}"
-                 for names, a in _alike(routine.arguments) if a.kept]  # fmt: skip
+    unwritten = {}  # names of arguments by when they are
+    for argument in routine.arguments:
+        if argument.kept:
+            unwritten.setdefault(_when(argument.kept), []).append(f"`{argument.name}`")
+    unwritten = [f"{', '.join(names)}: {writer.text(when, routine.name)}"
+                 for when, names in unwritten.items()]  # fmt: skip
     mentioned = re.findall(r"\btrv\w+\b", f"{routine.paragraphs} {routine.retains_text} " +
                            " ".join(argument.text for argument in routine.arguments))
     named = [writer.link(name) for name in dict.fromkeys(mentioned)

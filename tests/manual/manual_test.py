@@ -85,9 +85,12 @@ class Contents(unittest.TestCase):
     def test_a_contract_is_shown_to_its_last_word(self):
         for routine in ROUTINES.values():
             shown = " ".join(page(f"reference/{routine.family}").text.split())
-            told = [routine.brief, routine.retains_text]
-            told += [" ".join(clause.split(": ")[-1].split()[-4:]) for argument in routine.arguments
-                     for clause in argument.text.split("; ") if "(Trv" not in clause]
+            told = [routine.brief, routine.retains_text, routine.cost]
+            for argument in routine.arguments:
+                values = argument.values.values if argument.values else []
+                told += [value.meaning for value in values] or [argument.meaning]
+                told += [argument.kept.text.split(" ", 1)[1].removeprefix("on a condition: ")] \
+                    if argument.kept else []
             for words in told:
                 self.assertIn(words, shown, routine.name)
 
