@@ -6,6 +6,7 @@ Needs the Python packages pefile and pyelftools.
 
 import importlib.util
 import os
+import re
 import sys
 
 import entries
@@ -35,9 +36,14 @@ ALLOWED_IMPORTS = {
         "CloseHandle",
         "CreateFileA",
         "DisableThreadLibraryCalls",
+        "GetFileSize",
+        "GetFileType",
         "GetLastError",
+        "GetTickCount",
         "LockFileEx",
+        "SetHandleInformation",
         "SetLastError",
+        "Sleep",
         "UnlockFileEx",
         "WriteFile",
     },
@@ -45,6 +51,7 @@ ALLOWED_IMPORTS = {
 }
 BIND_NOW = 8  # of DT_FLAGS
 ALLOWED_DEPENDENCIES = {"libc.so.6", "libm.so.6"}
+OLDEST_C_LIBRARY = (2, 17)  # that the library must load with
 
 
 # --- Trelvin.dll and Trelvin64.dll ------------------------------------------------------------
@@ -122,6 +129,17 @@ def dependency_faults(library):
             yield f"calls {name} of the C++ run-time"
 
 
+def version_faults(library):
+    """Without the symbols' versions the library would load, and fail, with any C library."""
+    required = library.get_section_by_name(".gnu.version_r").iter_versions()
+    versions = {version.name for _, file in required for version in file}
+    print(f"libtrelvin.so needs {' '.join(sorted(versions))}")
+    for version in sorted(versions):
+        parts = re.fullmatch(r"GLIBC_(\d+)\.([\d.]+)", version)
+        if not parts or tuple(int(n) for n in ".".join(parts.groups()).split(".")) > OLDEST_C_LIBRARY:
+            yield f"needs {version}, newer than {'.'.join(map(str, OLDEST_C_LIBRARY))}"
+
+
 def interposition_faults(library, routines):
     names = set()  # that the loader looks up for the library
     for section in library.iter_sections():
@@ -156,6 +174,7 @@ def all_faults(routines):
         for check in (
             symbol_faults(library, routines),
             dependency_faults(library),
+            version_faults(library),
             interposition_faults(library, routines),
             image_faults_of_shared(library),
         ):

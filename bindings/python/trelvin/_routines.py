@@ -809,12 +809,25 @@ def trvcin(
     is cut. Each call appends three lines to OUTPUT.TXT, in Windows-1253: a heading, the class, and
     what it means, with the points of a cut circle.
 
-    The first call opens the file in the directory that is current then; it stays open, wherever the
-    current directory goes, until the library is unloaded. It is never emptied, and complete after
-    each call. The record of a call goes out in one write, behind what other processes append; on
-    Windows under a lock of a byte far behind the text, for which it does not wait long. Where it
-    cannot be written the call computes as always and the file is closed; the next call opens it
-    again and starts on a line of its own.
+    The first call opens the file in the directory that is current then. The file stays open until
+    the library is unloaded, even if the current directory changes or the file is renamed. It is
+    never emptied, and it is complete after each call. A call appends its record in one write,
+    behind what other processes append.
+
+    Only an ordinary file is written. If OUTPUT.TXT is a directory, a pipe or a device, or if the
+    record cannot be written, the call computes as always. After a failed write the file is closed.
+    The next call opens it again and starts on a new line. If the file is at a limit of its size,
+    the host gets no signal.
+
+    If the host closes the file's descriptor, or if a user deletes the file, the next call opens
+    OUTPUT.TXT as the first call does. If the host has opened a file of its own under the same
+    descriptor, the library neither writes to that file nor closes it.
+
+    Caution: on Windows the open file cannot be deleted or renamed, and a program that shares it for
+    reading only cannot open it. The host cannot close its handle. Processes take turns by a lock of
+    a byte far behind the text. If another process holds the lock and the file does not grow, a call
+    waits a quarter of a second and leaves its record out. Later calls leave their records out
+    without waiting, until the lock is free or the file grows.
 
     Retains: the open trace file.
 
