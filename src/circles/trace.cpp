@@ -76,10 +76,7 @@ class Turn {
   // quarter of a second, the process that has the lock was stopped. The turn is then missed, and so
   // is every later one, without waiting, until the file grows or the lock is free.
   Turn(HANDLE file, std::optional<std::uint32_t> &stuck_at) : file_(file) {
-    if (!is_taken()) {
-      stuck_at.reset();
-      return;
-    }
+    if (!is_taken()) return;
     DWORD size = GetFileSize(file_, nullptr);
     DWORD start = GetTickCount();
     missed_ = stuck_at == size;

@@ -76,6 +76,16 @@ const std::string end = "\n";
 
 void set_last_error(int error) { errno = error; }
 int last_error() { return errno; }
+
+int lowest_free_number() {
+  const int number = dup(STDOUT_FILENO);
+  ::close(number);
+  return number;
+}
+
+bool another_program_gets_it() {
+  return std::system("readlink /proc/self/fd/* | grep -q OUTPUT.TXT") == 0;
+}
 #endif
 
 std::string record(const char *position, const std::string &meaning) {
@@ -151,6 +161,7 @@ TEST_F(Trace, StaysWithTheFileOfTheFirstCall) {
   EXPECT_TRUE(refused);
   EXPECT_FALSE(std::filesystem::remove(file_name, refused));
 #else
+  const int next = lowest_free_number();
   std::filesystem::rename(file_name, "renamed");
   write_one();
   EXPECT_EQ(trace(), "");
@@ -158,7 +169,8 @@ TEST_F(Trace, StaysWithTheFileOfTheFirstCall) {
   std::filesystem::current_path("other");
   write_one();
   EXPECT_EQ(trace(), one);  // in a file as of a first call
-  EXPECT_NE(std::system("readlink /proc/self/fd/* | grep -q OUTPUT.TXT"), 0);  // after exec
+  EXPECT_EQ(lowest_free_number(), next);
+  EXPECT_FALSE(another_program_gets_it());
   std::filesystem::current_path("..");
 #endif
 }
@@ -310,15 +322,10 @@ TEST_F(Trace, LimitOfSizeSendsNoSignalAndTakesNone) {
 
 // As a daemon does, which closes the files that it finds open and opens its own.
 TEST_F(Trace, FilesOfTheHostAreNotWrittenAndNotClosed) {
-  const auto lowest_free = [] {
-    const int number = dup(STDOUT_FILENO);
-    ::close(number);
-    return number;
-  };
   int sockets[2] = {};
   ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, sockets), 0);
   const std::function<int()> files[] = {
-      [] { return ::open("own", O_CREAT | O_RDWR | O_APPEND, 0600); },
+      [] { return ::open("own", O_CREAT | O_WRONLY | O_APPEND | O_NONBLOCK, 0600); },
       [] { return ::open("own", O_RDONLY); },
       [] { return ::open(file_name, O_RDONLY); },
       [] { return ::open(file_name, O_WRONLY); },
@@ -326,22 +333,24 @@ TEST_F(Trace, FilesOfTheHostAreNotWrittenAndNotClosed) {
   };
   std::string expected;
   for (const auto &open_own : files) {
-    const int number = lowest_free();
+    const int number = lowest_free_number();
     write_one();
     ::close(number);
     ASSERT_EQ(open_own(), number);
-    const int next = lowest_free();
+    const int next = lowest_free_number();
     write_one();
     EXPECT_EQ(trace(), expected += one + one);
     EXPECT_NE(fcntl(number, F_GETFD), -1);
     ::close(next);
+    ::close(number);
   }
   EXPECT_EQ(std::filesystem::file_size("own"), 0U);
   char byte = 0;
   EXPECT_EQ(recv(sockets[1], &byte, 1, MSG_DONTWAIT), -1);
   ::close(STDIN_FILENO);
   write_one();
-  EXPECT_EQ(lowest_free(), STDIN_FILENO);  // which the trace leaves to the host
+  EXPECT_EQ(lowest_free_number(), STDIN_FILENO);  // which the trace leaves to the host
+  EXPECT_FALSE(another_program_gets_it());
 }
 
 #endif
