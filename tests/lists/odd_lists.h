@@ -35,7 +35,8 @@ class OddLists {
 
   // Up to 79 entries, few of them distinct: ties, signed zeros, and now and then what is stranger.
   Reals reals() {
-    constexpr float odd[] = {0.0F, -0.0F, not_a_number, infinity, -infinity, 16777216.0F, 1e30F};
+    constexpr float odd[] = {0.0F,     -0.0F,     not_a_number, -not_a_number,
+                             infinity, -infinity, 16777216.0F,  1e30F};
     const float unit = below(2) == 0 ? 1.0F : 0.25F;
     const std::int32_t range = 1 + below(40);
     const std::int32_t plain = below(3) * 4;  // how many plain entries go with an odd one
@@ -43,7 +44,7 @@ class OddLists {
     for (float &entry : list) {
       const auto sign = below(2) == 0 ? 1.0F : -1.0F;
       const bool strange = plain < 8 && below(1 + plain) == 0;
-      entry = strange ? odd[below(7)] : sign * unit * static_cast<float>(below(range));
+      entry = strange ? odd[below(8)] : sign * unit * static_cast<float>(below(range));
     }
     return list;
   }
