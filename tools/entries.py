@@ -57,8 +57,8 @@ def body_faults(families):
                 yield f"{name}: a body in src/entries/{family.name}.cpp, declared elsewhere"
         found |= dict(bodies)
         for name, body in bodies:
-            if not body.lstrip().startswith("const Door door;"):
-                yield f"{name}: does not start with `const Door door;`"
+            if not body.lstrip().startswith(("const Door door;", "Door door;")):
+                yield f"{name}: does not start with `const Door door;` or `Door door;`"
     yield from _bodies_in_rooms(families, found)
     for routine in routines_of(families):
         if routine.name in found and routine.retains:

@@ -48,14 +48,16 @@ TRELVIN_ROUTINE trvord1(TrvIntArrayInOut V, TrvIntIn n);
  * later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity), an entry as
  * large as the largest is never used up: IDX(k) is then the position of the last number of the
  * list. A round finds nothing where the list holds a NaN at k, by then: a NaN at the head of the
- * list makes the sum a NaN. Time grows with n. Takes 16*n bytes of the heap for the call.
+ * list makes the sum a NaN. Time grows with n. More than 512 entries take 16*n bytes of the heap for
+ * the call. If memory is short, the result is the same, but the list is read anew for each 512
+ * entries: time grows with n*n.
  *
  * Retains: nothing.
  *
  * @param[in]  V    array of n: entries
  * @param[in]  n    number of entries
  * @param[out] IDX  array of n: IDX(k) is the position of the k-th smallest entry; unwritten when n
- *                  < 1 or memory is short; IDX(k) alone is unwritten when its round finds nothing
+ *                  < 1; IDX(k) alone is unwritten when its round finds nothing
  */
 TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
 
@@ -64,8 +66,7 @@ TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
  *
  * That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the y
  * axis and apart from it. Parallel and distinct is what trvlni finds between the first line and
- * each other one; a single line is ordered. Time grows with n. Takes 20*n bytes of the heap for the
- * call.
+ * each other one; a single line is ordered. Time and memory are those of trvordi.
  *
  * Retains: nothing.
  *
@@ -73,7 +74,7 @@ TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
  * @param[in]  A,B,C   arrays of n: lines A*x + B*y + C = 0
  * @param[out] IDX     array of n: positions by ascending crossing, equal ones from the highest
  *                     position down, infinite and NaN ones as trvordi orders them; 1 ... n when
- *                     status is -1; unwritten when n < 1, or when memory is short for an order
+ *                     status is -1; unwritten when n < 1
  * @param[out] status  0 ordered; -1 not a family of parallel and distinct lines, or n < 1
  */
 TRELVIN_ROUTINE trvpor(TrvIntIn n, TrvArrayIn A, TrvArrayIn B, TrvArrayIn C, TrvIntArrayOut IDX,

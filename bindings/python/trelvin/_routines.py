@@ -1584,7 +1584,9 @@ def trvordi(
     later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity), an entry as
     large as the largest is never used up: IDX(k) is then the position of the last number of the
     list. A round finds nothing where the list holds a NaN at k, by then: a NaN at the head of the
-    list makes the sum a NaN. Time grows with n. Takes 16*n bytes of the heap for the call.
+    list makes the sum a NaN. Time grows with n. More than 512 entries take 16*n bytes of the heap for
+    the call. If memory is short, the result is the same, but the list is read anew for each 512
+    entries: time grows with n*n.
 
     Retains: nothing.
 
@@ -1593,8 +1595,8 @@ def trvordi(
       n: number of entries
 
     Returns:
-      IDX: array of n: IDX(k) is the position of the k-th smallest entry; unwritten when n < 1
-        or memory is short; IDX(k) alone is unwritten when its round finds nothing
+      IDX: array of n: IDX(k) is the position of the k-th smallest entry; unwritten when n < 1;
+        IDX(k) alone is unwritten when its round finds nothing
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1624,8 +1626,7 @@ def trvpor(
 
     That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the y
     axis and apart from it. Parallel and distinct is what trvlni finds between the first line and
-    each other one; a single line is ordered. Time grows with n. Takes 20*n bytes of the heap for the
-    call.
+    each other one; a single line is ordered. Time and memory are those of trvordi.
 
     Retains: nothing.
 
@@ -1636,7 +1637,7 @@ def trvpor(
     Returns:
       IDX: array of n: positions by ascending crossing, equal ones from the highest position
         down, infinite and NaN ones as trvordi orders them; 1 ... n when status is -1; unwritten
-        when n < 1, or when memory is short for an order
+        when n < 1
       status: 0 ordered; -1 not a family of parallel and distinct lines, or n < 1
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
@@ -6395,6 +6396,12 @@ def trvpnl(
 
     Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component. Takes
     time in proportion to n and no memory.
+
+    The function is called in the processor's state as the host has it. It may change that state: the
+    change stays with the host and has no influence on the results. It may call routines of this
+    library. It may leave by longjmp or by a structured exception of Windows: the host then has its
+    own state, status and count are unwritten, and index holds the positions found so far. An exception
+    of C++ must not leave the function.
 
     Retains: nothing.
 
