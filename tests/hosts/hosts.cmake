@@ -24,7 +24,7 @@ endfunction()
 
 set(libraries callers)
 add_host(digest hosts/digest.cpp)
-add_host_test(digest digest)
+add_host_test(digest digest --check ${CMAKE_CURRENT_SOURCE_DIR}/hosts/digest.txt)
 if(CMAKE_SYSTEM_PROCESSOR STREQUAL wasm32)
   return()
 endif()

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int calls = 100; // of each routine, on each thread
+constexpr int calls = 100;  // of each routine, on each thread
 constexpr int threads = 8;
 
 using Hashes = std::vector<std::uint64_t>;  // one for each routine
@@ -24,10 +24,11 @@ Hashes hashes_of(const std::vector<random_calls::Routine> &routines) {
   Hashes hashes;
   for (const random_calls::Routine &routine : routines) {
     Hash hash;
-    random_calls::draw(routine, routine.retains ? 0 : calls, [&](random_calls::Arguments &arguments) {
-      routine.call(random_calls::addresses_of(arguments));
-      hash.add(arguments);
-    });
+    random_calls::draw(routine, routine.retains ? 0 : calls,
+                       [&](random_calls::Arguments &arguments) {
+                         routine.call(random_calls::addresses_of(arguments));
+                         hash.add(arguments);
+                       });
     hashes.push_back(hash.value());
   }
   return hashes;
