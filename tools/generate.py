@@ -159,13 +159,13 @@ def main():
     check = sys.argv[1:] == ["--check"]
     families = headers.read_all()
     routines = headers.routines_of(families)
+    unsound = [*headers.faults(families), *headers.inexact(families)]
     faults = [
-        *headers.faults(families),
-        *headers.inexact(families),
+        *unsound,
         *entries.export_faults(routines),
         *entries.body_faults(families),
         *rooms.faults(),
-        *outdated(families, check),
+        *([] if unsound else outdated(families, check)),  # nothing follows from a faulty contract
     ]
     for fault in faults:
         print(f"generate: {fault}", file=sys.stderr)
