@@ -1,5 +1,7 @@
 #!/usr/bin/env python3
-"""Checks what the built libraries export, import and promise.
+"""Checks what the built libraries export, import and promise: those in build, or in another folder.
+
+    tools/check_exports.py [FOLDER]
 
 Needs the Python packages pefile and pyelftools.
 """
@@ -7,6 +9,7 @@ Needs the Python packages pefile and pyelftools.
 import importlib.util
 import os
 import sys
+from pathlib import Path
 
 import entries
 import headers
@@ -22,11 +25,9 @@ import pefile  # noqa: E402
 from elftools.elf.elffile import ELFFile  # noqa: E402
 from elftools.elf.relocation import RelocationSection  # noqa: E402
 
-DLLS = (
-    headers.ROOT / "build/windows/bin/Trelvin.dll",
-    headers.ROOT / "build/windows64/bin/Trelvin64.dll",
-)
-SHARED_LIBRARY = headers.ROOT / "build/native/lib/libtrelvin.so"
+BUILD = Path(sys.argv[1]) if len(sys.argv) > 1 else headers.ROOT / "build"
+DLLS = (BUILD / "windows/bin/Trelvin.dll", BUILD / "windows64/bin/Trelvin64.dll")
+SHARED_LIBRARY = BUILD / "native/lib/libtrelvin.so"
 
 LARGEST_DLL = 200 * 1024
 MEMORY = {"calloc", "free", "malloc", "memcpy", "memmove", "memset", "strlen"}
