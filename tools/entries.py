@@ -1,38 +1,41 @@
-"""Reads src/entries: the export table, and the bodies behind the interface headers."""
+"""What the libraries export, and the bodies behind the interface headers."""
 
 import re
 
 from headers import COMMENT, ROOT, routines_of
 
-TABLE = ROOT / "src" / "entries" / "Trelvin.def"
-EXPORT = re.compile(r'^\s*"?([\w@]+)"? = \S+ @(\d+)$', re.M)
+FIRST = 142  # routines of version 1: their names share the first ordinals
+DIGEST = ROOT / "tests" / "hosts" / "digest.txt"
 BODY = re.compile(r"^TRELVIN_ROUTINE\s+(\w+)\([^)]*\)\s*\{([^\n]*\}$|.*?^\}$)", re.M | re.S)
 
 
-def committed_ordinals():
-    """What the export table says; hosts may bind to these numbers, so they stay for good."""
-    text = TABLE.read_text() if TABLE.exists() else ""
-    return {name: int(ordinal) for name, ordinal in EXPORT.findall(text)}
+def _digest():
+    """The routines that the digest lists, in its order: later routines stand behind earlier ones."""
+    return re.findall(r"^(trv\w+) +\w+$", DIGEST.read_text().split("\ndigest ")[0], re.M)
 
 
-def ordinals(routines, committed):
-    """Every exported name with its ordinal: those of the table, and the next ones for new names."""
-    result = dict(committed)
-    names = {name for routine in routines for name in (routine.name, routine.decorated)}
-    for name in sorted(names - result.keys(), key=lambda name: name.removeprefix("_").encode()):
-        result[name] = max(result.values(), default=0) + 1
-    return result
+def by_age(routines):
+    """The routines in the order of the digest. New ones, which it does not list yet, come last."""
+    order = {name: place for place, name in enumerate(_digest())}
+    return sorted(routines, key=lambda routine: order.get(routine.name, len(order)))
 
 
-def in_order(routines):
-    """Every exported name and its ordinal, as an export table lists them."""
-    return sorted(ordinals(routines, committed_ordinals()).items(), key=lambda entry: entry[1])
+def ordinals(routines):
+    """Every exported name with its ordinal. Hosts may bind to ordinals, so these stay for good.
+
+    The names of the first routines are sorted by their bytes; the leading underscore of a decorated
+    name does not count. The two names of each later routine follow, routine by routine.
+    """
+    pairs = [(routine.name, routine.decorated) for routine in by_age(routines)]
+    names = [name for pair in pairs[:FIRST] for name in pair]
+    names.sort(key=lambda name: name.removeprefix("_").encode())
+    names += [name for pair in pairs[FIRST:] for name in pair]
+    return {name: ordinal for ordinal, name in enumerate(names, start=1)}
 
 
-def export_faults(routines, committed):
-    names = {name for routine in routines for name in (routine.name, routine.decorated)}
-    for name in sorted(committed.keys() - names):
-        yield f"{name}: exported with ordinal {committed[name]}, and no header declares it"
+def export_faults(routines):
+    for name in sorted(set(_digest()) - {routine.name for routine in routines}):
+        yield f"{name}: in tests/hosts/digest.txt, and no header declares it"
 
 
 def bodies_of(text):

@@ -13,6 +13,7 @@ import bindings_python
 import contracts
 import entries
 import headers
+import rooms
 
 
 TABLE_HEAD = ["; Generated from include/trelvin by tools/generate.py."]
@@ -23,16 +24,16 @@ def export_table(families):
     routines = headers.routines_of(families)
     symbols = {name: r.decorated[1:] for r in routines for name in (r.name, r.decorated)}
     lines = TABLE_HEAD + ["LIBRARY Trelvin", "EXPORTS"]
-    for name, ordinal in entries.in_order(routines):
+    for name, ordinal in entries.ordinals(routines).items():
         quoted = f'"{name}"' if "@" in name else name
-        lines.append(f"  {quoted} = {symbols.get(name, name.removeprefix('_'))} @{ordinal}")
+        lines.append(f"  {quoted} = {symbols[name]} @{ordinal}")
     return "\n".join(lines) + "\n"
 
 
 def export_table_64(families):
     """The names that 64-bit Windows leaves plain, by the same ordinals."""
     lines = TABLE_HEAD + ["LIBRARY Trelvin64", "EXPORTS"]
-    for name, ordinal in entries.in_order(headers.routines_of(families)):
+    for name, ordinal in entries.ordinals(headers.routines_of(families)).items():
         if "@" not in name:
             lines.append(f"  {name} @{ordinal}")
     return "\n".join(lines) + "\n"
@@ -48,6 +49,7 @@ ROUTINES_HEAD = """\
 // STATUS(name, argument, further, values)   that an Integer output may have, and from `further` on
 //                                           all larger ones too, or none
 // UNSHARED(name)                         outputs may not share the address of an input
+// RETAINS(name)                          values from call to call: one thread at a time may call it
 """
 MACROS = [
     "ROUTINE(name, count, names)",
@@ -55,6 +57,7 @@ MACROS = [
     "LEAST(name, argument, value)",
     "STATUS(name, argument, further, ...)",
     "UNSHARED(name)",
+    "RETAINS(name)",
 ]
 
 
@@ -62,20 +65,12 @@ def routine_list(families):
     lines = [ROUTINES_HEAD.rstrip()]
     for macro in MACROS:
         lines += [f"#ifndef {macro.split('(')[0]}", f"#define {macro}", "#endif"]
-    routines = sorted(headers.routines_of(families), key=_place_in_digest())
-    for routine in routines:
+    for routine in entries.by_age(headers.routines_of(families)):
         names = " ".join(argument.name for argument in routine.arguments)
         lines.append(f'ROUTINE({routine.name}, {len(routine.arguments)}, "{names}")')
         lines += _facts(routine)
     lines += [f"#undef {macro.split('(')[0]}" for macro in MACROS]
     return "\n".join(lines) + "\n"
-
-
-def _place_in_digest():
-    """A routine's sequence of calls depends on its place: new ones follow the committed ones."""
-    digest = headers.ROOT / "tests" / "hosts" / "digest.txt"
-    order = [line.split()[0] for line in digest.read_text().splitlines()]
-    return lambda routine: order.index(routine.name) if routine.name in order else len(order)
 
 
 def _facts(routine):
@@ -100,6 +95,8 @@ def _facts(routine):
             pass  # headers.inexact tells of it
     if "may not share" in routine.text:
         yield f"UNSHARED({routine.name})"
+    if routine.retains != "nothing.":
+        yield f"RETAINS({routine.name})"
 
 
 def index(families):
@@ -162,12 +159,13 @@ def main():
     check = sys.argv[1:] == ["--check"]
     families = headers.read_all()
     routines = headers.routines_of(families)
+    unsound = [*headers.faults(families), *headers.inexact(families)]
     faults = [
-        *headers.faults(families),
-        *headers.inexact(families),
-        *entries.export_faults(routines, entries.committed_ordinals()),
+        *unsound,
+        *entries.export_faults(routines),
         *entries.body_faults(families),
-        *outdated(families, check),
+        *rooms.faults(),
+        *([] if unsound else outdated(families, check)),  # nothing follows from a faulty contract
     ]
     for fault in faults:
         print(f"generate: {fault}", file=sys.stderr)

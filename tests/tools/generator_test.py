@@ -1,13 +1,15 @@
 """What the generator reads from contracts, and what it must never change."""
 
 import re
+import shutil
+import subprocess
 import sys
+import tempfile
 import unittest
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
 
-import check_rooms  # noqa: E402
 import contracts  # noqa: E402
 import entries  # noqa: E402
 import headers  # noqa: E402
@@ -106,15 +108,12 @@ class Values(unittest.TestCase):
 class Entries(unittest.TestCase):
     def test_ordinals_never_move(self):
         routines = headers.routines_of(headers.read_all())
-        committed = entries.committed_ordinals()
-        self.assertEqual(
-            [committed[name] for name in ("trv123", "_trv123@44", "trvpds")], [1, 2, 161]
-        )
         new = headers.Routine("trvaaa", "plane", "", [headers.Argument("x", "TrvIn")])
-        grown = entries.ordinals([new] + routines, committed)
-        self.assertEqual(committed, {name: grown[name] for name in committed})
-        last = max(committed.values())
-        self.assertEqual([grown["trvaaa"], grown["_trvaaa@4"]], [last + 1, last + 2])
+        ordinals = entries.ordinals([new, *routines])
+        for names, first in (("trv123 _trv123@44", 1), ("trvaaa _trvaaa@4", 285),
+                             ("trvmer1 trvmer11 _trvmer11@24 trvmer12", 127)):
+            got = [ordinals[name] for name in names.split()]
+            self.assertEqual(got, list(range(first, first + len(got))), names)
 
     def test_bodies_end_where_they_end(self):
         text = "TRELVIN_ROUTINE a(int x) { x; }\nTRELVIN_ROUTINE b(int x) {\n  if (x) {\n  }\n}\n"
@@ -123,22 +122,105 @@ class Entries(unittest.TestCase):
         self.assertNotIn("void", entries.bodies_of(text)[1][1])
 
 
-class Rooms(unittest.TestCase):
-    def test_a_room_stands_on_those_below_it(self):
-        def faults(room, line):
-            return len(list(check_rooms.faults_of((room, "x.cpp"), line + "\n")))
+# Files with every fault that the check tells of: in contracts, then behind sound ones.
+CONTRACTS = {"include/trelvin/odd.h": """/**
+ * @file
+ */
+TRELVIN_ROUTINE trvodd(TrvIn (*f)(TrvIn), TrvOut y);
+TRELVIN_ROUTINE trvpds(TrvLong x);
+/**
+ * Adds.
+ *
+ * Retains: nothing.
+ *
+ * @param[out] x  a term
+ * @param[in]  A  terms
+ * @param[out] y  the sum
+ */
+TRELVIN_ROUTINE trvsum(TrvIn x, TrvArrayIn A);
+"""}
+IN_CONTRACTS = """
+include/trelvin/odd.h: 1 declarations are not understood
+include/trelvin/odd.h: no title behind its @file
+include/trelvin/odd.h: trelvin.h does not include it
+trvpds: declared more than once
+trvpds: no contract, or no sentence in its first paragraph
+trvpds: x has the unknown type TrvLong
+trvpds: no line `Retains: ...`
+trvsum: x is in, its contract says out
+trvsum: its contract describes y, which is no argument
+trvsum: A: no `array of SIZE: ...`
+trvsum: a contract without a body
+"""
+CODE = {
+    "src/entries/lists.cpp": """
+TRELVIN_ROUTINE trvord1(int *V) { const Door door; retained = 0; }
+TRELVIN_ROUTINE trvord(float *V) { V[0] = 1; }
+TRELVIN_ROUTINE trvpds(float *V) { const Door door; }
+""",
+    "src/lists/matching.cpp": """
+#include "properties/polygons.h"
+#include "nowhere/polygons.h"
+#include "trelvin/lists.h"
+// TrvOut is but a word here
+TRELVIN_ROUTINE trvnone(TrvIn x) { const Door door; }
+TRELVIN_ROUTINE trvsel1(int *V) { const Door door; }
+""",
+    "src/cellar/x.h": "",
+    "tests/hosts/digest.txt": "trvgone    0123456789abcdef\n",
+}
+IN_CODE = """
+trvgone: in tests/hosts/digest.txt, and no header declares it
+src/entries/lists.cpp: not in the order of its header
+trvpds: a body in src/entries/lists.cpp, declared elsewhere
+trvord: does not start with `const Door door;`
+trvord1: retains nothing. Its body tells otherwise
+trvsel1: its body is not in src/entries/FAMILY.cpp
+trvnone: a body without a contract
+src/lists/matching.cpp: includes properties, which is not on a lower floor
+src/lists/matching.cpp: includes the unknown room nowhere
+src/lists/matching.cpp: a kernel includes the interface
+src/lists/matching.cpp: a kernel names TRELVIN_ROUTINE
+src/cellar/x.h: cellar has no floor in tools/rooms.py
+docs/routines.md is out of date: run tools/generate.py
+"""
 
-        self.assertEqual(faults("space", '#include "sections/plates.h"'), 0)
-        self.assertEqual(faults("lists", '#include "properties/polygons.h"'), 1)
-        self.assertEqual(faults("plane", '#include "space/planes.h"'), 1)
-        self.assertEqual(faults("plane", "void f(TrvIn x);  // TrvOut"), 1)
-        self.assertEqual(faults("cellar", ""), 1)
+
+class Check(unittest.TestCase):
+    """`generate.py --check` in a copy of the tree."""
+
+    def assert_told(self, files, messages):
+        with tempfile.TemporaryDirectory() as folder:
+            for place in ("include", "src", "tools", "bindings", "examples", "tests/hosts"):
+                shutil.copytree(headers.ROOT / place, Path(folder, place))
+            shutil.copy(headers.ROOT / "README.md", folder)
+            for file, text in files.items():
+                Path(folder, file).parent.mkdir(exist_ok=True)
+                Path(folder, file).write_text(text)
+            command = [sys.executable, Path(folder, "tools/generate.py"), "--check"]
+            done = subprocess.run(command, stderr=subprocess.PIPE, text=True, check=False)
+        told = done.stderr.replace("generate: ", "").splitlines()
+        self.assertEqual(set(messages.strip().splitlines()) - set(told), set(), done.stderr)
+        self.assertNotIn("TrvOut", done.stderr)
+        self.assertEqual(done.returncode, 1)
+
+    def test_faults_of_contracts_are_told(self):
+        self.assert_told(CONTRACTS, IN_CONTRACTS)
+
+    def test_faults_of_code_and_outdated_files_are_told(self):
+        self.assert_told(CODE, IN_CODE)
 
 
 class Tests(unittest.TestCase):
+    @staticmethod
+    def routines_in(text):
+        """The routines that code names, outside comments and texts."""
+        return set(re.findall(r"\btrv\w+", re.sub(r'"[^"]*"', "", headers.COMMENT.sub(" ", text))))
+
     def test_every_routine_has_a_unit_test(self):
+        self.assertEqual(self.routines_in('trva(x); // trvb\n/* trvc */ f("trvd")'), {"trva"})
         tests = Path(__file__).resolve().parents[1].glob("*/*_test.cpp")
-        named = set(re.findall(r"\btrv\w+", " ".join(test.read_text() for test in tests)))
+        named = self.routines_in("\n".join(test.read_text() for test in tests))
         routines = {routine.name for routine in headers.routines_of(headers.read_all())}
         self.assertEqual(routines - named, set())
 
