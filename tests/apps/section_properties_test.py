@@ -10,6 +10,7 @@ import math
 import os
 import re
 import shlex
+import stat
 import subprocess
 import sys
 import tempfile
@@ -17,6 +18,7 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 
 try:
+    import pty
     import resource
 except ImportError:  # not on Windows
     resource = None
@@ -26,6 +28,7 @@ if "--" in sys.argv:
     COMMAND = sys.argv[sys.argv.index("--") + 1:]
     del sys.argv[sys.argv.index("--"):]
 COMMAND = [os.path.abspath(word) if os.path.exists(word) else word for word in COMMAND]
+IS_NATIVE = resource is not None and ".exe" not in "".join(COMMAND)
 TOLERANCE = 2e-6  # a few single-precision roundings
 
 # Tables of sections after EN 10365: h b tw tf r in mm; then cm2, cm4, cm, cm3, and Iw in 1000 cm6.
@@ -437,7 +440,74 @@ class SectionProperties(unittest.TestCase):
         areas = [(row["line"], row["area"]) for row in csv.DictReader(one.splitlines())]
         self.assertTrue(areas == [(str(i), str(i)) for i in range(1, 50001)])
 
-    @unittest.skipIf(resource is None or ".exe" in "".join(COMMAND), "needs a limit on file sizes")
+    @unittest.skipUnless(IS_NATIVE, "needs limits of the system")
+    def test_jobs_do_without_threads_and_tell_of_memory(self):
+        def batch(jobs, limit, value):  # a stack of 32 TB for each thread: there is none to have
+            limited = functools.partial(
+                resource.setrlimit, limit, (value, resource.getrlimit(limit)[1]))
+            return run(f"batch - --jobs {jobs}", input="b 2 3\n" * 300, preexec_fn=limited)
+
+        alone = run("batch -", input="b 2 3\n" * 300).stdout
+        result = batch(8, resource.RLIMIT_STACK, 1 << 45)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertTrue(result.stdout == alone)
+        if batch(1, resource.RLIMIT_AS, 200 << 20).returncode == 0:  # not with a sanitizer
+            result = batch(256, resource.RLIMIT_AS, 200 << 20)
+            self.assertEqual((result.returncode, result.stderr),
+                             (1, "section_properties: not enough memory\n"))
+
+    def test_a_file_without_lines_is_refused(self):
+        longest = "#" + 65535 * "." + "\n"
+        with tempfile.TemporaryDirectory() as folder:
+            def answer(command, text):
+                with open(os.path.join(folder, "a.txt"), "w", encoding="utf-8") as file:
+                    file.write(text)
+                return run(command + " a.txt", folder)
+
+            for command, line in (("batch", "b 2 3\n"), ("plates --json", "0 0 9 0 1\n")):
+                lines = line + 20 * longest + line  # several blocks
+                good, long = answer(command, lines), answer(command, lines + "#" + longest + line)
+                self.assertEqual((good.returncode, long.returncode), (0, 2), good.stderr)
+                self.assertEqual(long.stdout, good.stdout if command == "batch" else "")
+                self.assertEqual(long.stderr, "section_properties: a.txt:23: the line is too long; "
+                                 "a line must have at most 65536 bytes\n")
+                for name in [folder] + ["/dev/zero"] * IS_NATIVE:
+                    result = run(f"{command} '{name}'", timeout=60)
+                    self.assertEqual(result.returncode, 2)
+                    told = "/dev/zero:1: the line is too long" if result.stderr.count("zero") else (
+                        f"cannot read '{name}'")
+                    self.assertIn(told, result.stderr)
+            self.assertEqual(json.loads(good.stdout)["area"], 18)
+
+    @unittest.skipUnless(IS_NATIVE, "needs a terminal")
+    def test_a_terminal_shows_the_progress(self):
+        def shown(arguments, **options):
+            terminal, end = pty.openpty()
+            seen = b""
+            with open(end, "wb") as stderr, open(terminal, "rb", buffering=0) as screen:
+                subprocess.run(COMMAND + shlex.split(arguments), stderr=stderr, check=True, **options)
+                os.write(end, b"$")  # the end, whatever was shown
+                while not seen.endswith(b"$"):
+                    seen += screen.read(999)
+            return seen.decode()
+
+        # One and a half blocks, of 16 bytes a line, with a section in each.
+        text = ("b 2 3          \n" + 65535 * "#              \n") + 32768 * "b 2 3          \n"
+        with tempfile.TemporaryDirectory() as folder:
+            with open(os.path.join(folder, "a.csv"), "w", encoding="utf-8") as file:
+                file.write(text)
+            options = {"cwd": folder, "stdout": subprocess.DEVNULL}
+            self.assertEqual(shown("batch a.csv", **options),
+                             f"\r[{20 * '#'}{10 * '.'}] 66 %  1 sections"
+                             f"\r[{30 * '#'}] 100 %  32769 sections\r\n$")
+            with open(os.path.join(folder, "a.csv"), "rb") as file:
+                self.assertEqual(shown("batch -", stdin=file, **options),
+                                 "\r1 sections\r32769 sections\r\n$")
+        end = pty.openpty()[1]
+        with open(end, "wb") as stdout:  # which shows the lines themselves
+            self.assertEqual(shown("batch -", input=b"b 2 3", stdout=stdout), "$")
+
+    @unittest.skipUnless(IS_NATIVE, "needs a limit on file sizes")
     def test_a_picture_that_fails_leaves_the_old_one(self):
         with tempfile.TemporaryDirectory() as folder:
             old = os.path.join(folder, "old.svg")
@@ -449,6 +519,48 @@ class SectionProperties(unittest.TestCase):
             self.assertEqual(os.listdir(folder), ["old.svg"])
             with open(old, encoding="utf-8") as file:
                 self.assertEqual(file.read(), "old")
+
+    def test_a_picture_takes_the_place_of_its_file_only(self):
+        with tempfile.TemporaryDirectory() as folder:
+            def draw(name, **options):
+                return run("rhs 100 100 5 --svg " + name, folder, **options).returncode
+
+            def content(name):
+                with open(os.path.join(folder, name), encoding="utf-8") as file:
+                    return file.read(5)
+
+            far = os.path.join(folder, "far")
+            old = os.path.join(far, "old.svg")
+            os.mkdir(far)
+            for name in (old, os.path.join(folder, "other")):
+                with open(name, "w", encoding="utf-8") as file:
+                    file.write("other")
+            links = {"a.svg.part": "other", "near.svg": "far/old.svg", "a.svg": "near.svg"}
+            for link, target in links.items():
+                os.symlink(target, os.path.join(folder, link))
+            os.chmod(old, 0o604)
+            if IS_NATIVE and os.getuid() == 0:
+                os.chown(old, 12, 34)
+            before = os.stat(old)
+            self.assertEqual((draw("a.svg"), content(old), content("other")), (0, "<?xml", "other"))
+            self.assertEqual({link: os.readlink(os.path.join(folder, link)) for link in links}, links)
+            self.assertEqual(os.listdir(far), ["old.svg"])
+            if not IS_NATIVE:
+                return
+            for kept in (stat.ST_MODE, stat.ST_UID, stat.ST_GID):
+                self.assertEqual(os.stat(old)[kept], before[kept])
+            os.remove(old)
+            self.assertEqual(draw("a.svg", umask=0o027), 0)  # creates what the link leads to
+            self.assertEqual(stat.S_IMODE(os.stat(old).st_mode), 0o640)
+
+            def take_names(count):  # those that the process will use
+                for i in range(count):
+                    os.symlink("other", f".section_properties-{os.getpid()}-{i}.part")
+
+            self.assertEqual(draw("new.svg", preexec_fn=lambda: take_names(1)), 0)
+            self.assertEqual(draw("none.svg", preexec_fn=lambda: take_names(100)), 1)
+            self.assertEqual((content("new.svg"), content("other")), ("<?xml", "other"))
+            self.assertEqual(len(os.listdir(folder)), 3 + 2 + 1 + 101)
 
     def test_a_picture_that_cannot_be_is_an_error_of_output(self):
         with tempfile.TemporaryDirectory() as folder:
