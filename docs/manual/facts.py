@@ -151,28 +151,31 @@ def limit(holds, low=1e-9, high=1.0):
     return low
 
 
-def _contract(name):
-    """The text of a routine's contract, or of calling.h."""
-    file = headers.ROOT / "include/trelvin" / f"{name}.h"
+@cache
+def _contracts():
+    """The text of every contract, and that of calling.h."""
+    calling = (headers.ROOT / "include/trelvin/calling.h").read_text()
     texts = {r.name: r.text for r in headers.routines_of(headers.read_all())}
-    text = file.read_text() if file.exists() else texts[name]
-    return " ".join(re.sub(r"^ \*", "", text, flags=re.M).split())
+    texts["calling"] = re.sub(r"^ \*", "", calling, flags=re.M)
+    return {name: " ".join(text.split()) for name, text in texts.items()}
 
 
 def told(name, phrase):
     """The number behind a phrase of a contract."""
-    return float(NUMBER.search(_contract(name).partition(phrase)[2]).group())
+    return float(NUMBER.search(_contracts()[name].partition(phrase)[2]).group())
 
 
 def says(name, phrase):
     """A phrase, if the contract has it word by word."""
-    return phrase if phrase in _contract(name) else f"no '{phrase}' in the contract of {name}"
+    return phrase if phrase in _contracts()[name] else f"no '{phrase}' in the contract of {name}"
+
+
+_pages = cache(contract_text.pages)
 
 
 def status(name, meaning):
     """The value of a status whose meaning has these words in the contract."""
-    shown = next(r for p in contract_text.pages() for g in p.groups for r in g.routines
-                 if r.name == name)
+    shown = next(r for p in _pages() for g in p.groups for r in g.routines if r.name == name)
     values = [v for _, pairs in shown.statuses for v, text in pairs if meaning in text]
     return int(values[0]) if len(values) == 1 else f"no single status of {name} with '{meaning}'"
 
@@ -619,7 +622,7 @@ def printed_of_hole():
 
 def kind(words):
     """The kind of a part that the contract describes so."""
-    return int(re.search(rf"(\d) {words}", _contract("trvair")).group(1))
+    return int(re.search(rf"(\d) {words}", _contracts()["trvair"]).group(1))
 
 
 def hole():
@@ -664,7 +667,7 @@ def principal_samples():
 
 def principal_range():
     """The least and the greatest alpha, in turns by degrees of one flat section."""
-    moments = [(3 + 2 * cos(p), 3 - 2 * cos(p), 2 * sin(p)) for p in range(1000)]
+    moments = [(3 + 2 * cos(p), 3 - 2 * cos(p), 2 * sin(p)) for p in range(400)]
     alphas = [principal(*each).alpha for each in moments]
     assert all((m[0] > m[1]) == (principal(*m).i1 > principal(*m).i2) for m in moments)
     return angle(min(alphas), max(alphas))
