@@ -209,7 +209,7 @@ class NothingUnchecked(SphinxTransform):
     shown = (nodes.literal, nodes.literal_block, nodes.raw, nodes.image)
 
     def apply(self, **kwargs):
-        if not re.match(r"conventions$|tasks/", self.env.docname):
+        if not re.match(r"accuracy$|conventions$|tasks/", self.env.docname):
             return
         for text in self.document.findall(nodes.Text):
             parents = []
@@ -217,7 +217,8 @@ class NothingUnchecked(SphinxTransform):
             while node:
                 parents.append(node)
                 node = node.parent
-            if any(isinstance(p, self.shown) or "checked" in p.get("classes", ()) for p in parents):
+            if any(isinstance(p, self.shown) or {"checked", "measured"} & {*p.get("classes", ())}
+                   for p in parents):
                 continue
             for word in facts.careful(text):
                 LOG.warning("'%s' in '%s': no fact stands behind it", word, text,

@@ -31,7 +31,6 @@ UNITS = {  # what one of the unit that a fact is in makes of each unit that may 
     "mm": {"cm": 0.1, "m": 0.001},
     "mm²": {"m²": 1e-6},
     "N/mm²": {},
-    "ulps": {},
     "times": {"%": 100},
 }
 WRITTEN = sorted({u for unit, others in UNITS.items() for u in (unit, *others) if u}, key=len)

@@ -103,6 +103,17 @@ HELD = [(r"apt-get ", _packages), (r"\./dev", _dev), (r"cmake (?!--install)", _c
 ONCE = re.compile(r"python3 -m venv|build/venv/bin/pip|apt-get|cmake|\./dev")  # on whatever page
 
 
+BINDINGS = {"fortran": "trelvin.F90", "pascal": "trelvin.pas", "csharp": "Trelvin.cs",
+            "basic": "Trelvin.bas", "node": "trelvin.mjs"}
+
+
+def unknown_names(page):
+    """What a page calls by a name that the binding of its language has not."""
+    binding = (ROOT / "bindings" / page / BINDINGS[page]).read_text()
+    names = re.findall(r"\btrv\w+", (ROOT / f"docs/{page}.md").read_text())
+    return sorted({name for name in names if not re.search(rf"\b{name}\b", binding)})
+
+
 def faults(page, windows, done):
     """(name, problem) of each heading with commands; the problem is empty where all is well.
 

@@ -125,6 +125,8 @@ def check_pages(platforms):
     for folder in ("node", "venv"):
         shutil.rmtree(ROOT / "build" / folder, ignore_errors=True)
     done = set()
+    for page in pages.BINDINGS:
+        report(f"{page}.md: names of the binding", ", ".join(pages.unknown_names(page)))
     for page in pages.PAGES:
         for name, problem in pages.faults(page, "windows" in platforms, done):
             report(name, problem)
