@@ -4,6 +4,7 @@ import json
 from pathlib import Path
 
 import calls
+import contract_text
 import headers
 import reference
 import run
@@ -23,6 +24,9 @@ def tasks():
 def prepare():
     printed = run.run(list(tasks().values()), BUILD / "tasks")
     pages = reference.write(DOCS / "reference", words.page)
+    lost = list(words.lost(reference.Writer(contract_text.pages())))
+    if lost:
+        raise calls.Faulty("\n".join(lost))
     PRINTED.write_text(json.dumps({"printed": printed, "pages": pages}))
 
 

@@ -86,9 +86,6 @@ class Digits(unittest.TestCase):
             expected = [zeros, 0 if name == "trvapp" else nans]
             self.assertLess(max(abs(f - e) for f, e in zip(found, expected)), 3, name)
         self.assertEqual(figures("trvapp", r"of sectors of (\S+) radians (\S+) %"), [first, zeros])
-        page = (root / "docs/tasks/distance.md").read_text()
-        self.assertEqual([float(x) for x in re.search(
-            r"pairs of\s+rays (\S+) radians apart\s+(\S+) % give 0", page).groups()], [first, zeros])
 
     def test_angles_against_the_axis(self):
         told = figures("trvaxph", r"at (\S+) radians (\S+) % of random directions give 0 or pi, at "
