@@ -1,12 +1,16 @@
 #!/usr/bin/env python3
-"""Checks what the built libraries export, import and promise.
+"""Checks what the built libraries export, import and promise: those in build, or in another folder.
+
+    tools/check_exports.py [FOLDER]
 
 Needs the Python packages pefile and pyelftools.
 """
 
 import importlib.util
 import os
+import re
 import sys
+from pathlib import Path
 
 import entries
 import model
@@ -22,11 +26,9 @@ import pefile  # noqa: E402
 from elftools.elf.elffile import ELFFile  # noqa: E402
 from elftools.elf.relocation import RelocationSection  # noqa: E402
 
-DLLS = (
-    model.ROOT / "build/windows/bin/Trelvin.dll",
-    model.ROOT / "build/windows64/bin/Trelvin64.dll",
-)
-SHARED_LIBRARY = model.ROOT / "build/native/lib/libtrelvin.so"
+BUILD = Path(sys.argv[1]) if len(sys.argv) > 1 else model.ROOT / "build"
+DLLS = (BUILD / "windows/bin/Trelvin.dll", BUILD / "windows64/bin/Trelvin64.dll")
+SHARED_LIBRARY = BUILD / "native/lib/libtrelvin.so"
 
 LARGEST_DLL = 200 * 1024
 MEMORY = {"calloc", "free", "malloc", "memcpy", "memmove", "memset", "strlen"}
@@ -35,9 +37,14 @@ ALLOWED_IMPORTS = {
         "CloseHandle",
         "CreateFileA",
         "DisableThreadLibraryCalls",
+        "GetFileSize",
+        "GetFileType",
         "GetLastError",
+        "GetTickCount",
         "LockFileEx",
+        "SetHandleInformation",
         "SetLastError",
+        "Sleep",
         "UnlockFileEx",
         "WriteFile",
     },
@@ -45,6 +52,7 @@ ALLOWED_IMPORTS = {
 }
 BIND_NOW = 8  # of DT_FLAGS
 ALLOWED_DEPENDENCIES = {"libc.so.6", "libm.so.6"}
+OLDEST_C_LIBRARY = (2, 17)  # that the library must load with
 
 
 # --- Trelvin.dll and Trelvin64.dll ------------------------------------------------------------
@@ -122,6 +130,17 @@ def dependency_faults(library):
             yield f"calls {name} of the C++ run-time"
 
 
+def version_faults(library):
+    """Without the symbols' versions the library would load, and fail, with any C library."""
+    required = library.get_section_by_name(".gnu.version_r").iter_versions()
+    versions = {version.name for _, file in required for version in file}
+    print(f"libtrelvin.so needs {' '.join(sorted(versions))}")
+    for version in sorted(versions):
+        parts = re.fullmatch(r"GLIBC_(\d+)\.([\d.]+)", version)
+        if not parts or tuple(int(n) for n in ".".join(parts.groups()).split(".")) > OLDEST_C_LIBRARY:
+            yield f"needs {version}, newer than {'.'.join(map(str, OLDEST_C_LIBRARY))}"
+
+
 def interposition_faults(library, routines):
     names = set()  # that the loader looks up for the library
     for section in library.iter_sections():
@@ -156,6 +175,7 @@ def all_faults(routines):
         for check in (
             symbol_faults(library, routines),
             dependency_faults(library),
+            version_faults(library),
             interposition_faults(library, routines),
             image_faults_of_shared(library),
         ):

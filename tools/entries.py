@@ -65,8 +65,8 @@ def _body_faults(interface):
                 yield f"{name}: a body in src/entries/{family.name}.cpp, declared elsewhere"
         found |= dict(bodies)
         for name, body in bodies:
-            if not body.lstrip().startswith("const Door door;"):
-                yield f"{name}: does not start with `const Door door;`"
+            if not body.lstrip().startswith(("const Door door;", "Door door;")):
+                yield f"{name}: does not start with `const Door door;` or `Door door;`"
     yield from _bodies_in_rooms(interface, found)
     for routine in interface.routines:
         if routine.name in found and routine.retains is not None:

@@ -84,6 +84,7 @@ ROUTINES_HEAD = """\
 // KEPT_ON_CONDITION(name, argument)               likewise, by a condition in words
 // RETAINS(name, owner)                   a routine whose retained values decide, this one included
 // UNSHARED(name)                         outputs may not share the address of an input
+// RETAINS(name)                          values from call to call: one thread at a time may call it
 """
 MACROS = [
     "ROUTINE(name, count, names)",
@@ -96,6 +97,7 @@ MACROS = [
     "KEPT_ON_CONDITION(name, argument)",
     "RETAINS(name, owner)",
     "UNSHARED(name)",
+    "RETAINS(name)",
 ]
 
 

@@ -327,6 +327,14 @@ class Routine:
         return self.paragraphs[0] if self.paragraphs else ""
 
     @property
+    def text(self):
+        """The whole contract, in one line."""
+        lines = [line for p in self.paragraphs for line in ([p] if isinstance(p, str) else p)]
+        lines += [self.cost, f"Retains: {self.retains_text}."]
+        lines += [f"{a.name} {a.text}" for a in self.arguments]
+        return " ".join(" ".join(lines).split())
+
+    @property
     def decorated(self):
         return f"_{self.name}@{4 * len(self.arguments)}"
 
@@ -338,7 +346,7 @@ class Routine:
 
     @property
     def retains_text(self):
-        return "; ".join(f"{what} ({owner})" for what, owner in self.retains) or "nothing"
+        return "; ".join(f"{what} ({owner})" for what, owner in self.retains or []) or "nothing"
 
     def named_values(self):
         """Its arguments that list values."""
@@ -369,6 +377,7 @@ class Interface:
     families: list
     shared: list  # enumerations
     faults: list
+    conventions: str = ""  # what holds for all routines
 
     @property
     def routines(self):
@@ -390,6 +399,7 @@ PIECE = re.compile(
     r"|^enum (?P<enum>Trv\w+) \{(?P<body>.*?)\};",
     re.S | re.M,
 )
+_FILE = re.compile(r"/\*\*\s*\* @file(.*?)\*/", re.S)
 ENUMERATOR = re.compile(r"(\w+) = (-?\d+),?\s*/\*\*< (.*?) \*/", re.S)
 PARAMETER = re.compile(r"@param\[(\w+)\]\s+([\w,]+)\s+(.*)", re.S)
 
@@ -405,6 +415,7 @@ def read():
     families.sort(key=lambda name: order.index(name) if name in order else len(order))
     interface = interface_of(texts["values"], {name: texts[name] for name in families}, version)
     interface.faults += missing
+    interface.conventions = " ".join(" ".join(_lines_of(_FILE.search(texts["calling"])[1])).split())
     return interface
 
 
@@ -469,7 +480,7 @@ class _Reader:
                 self._fault(1, "no title, or no indented example, behind its @file")
 
     def _file(self, lines):
-        self.family.title = lines[0].removesuffix(".")
+        self.family.title = " ".join(lines[:1]).removesuffix(".")
         for paragraph in _paragraphs(lines[1:]):
             if isinstance(paragraph, list) and paragraph[0].startswith("    "):
                 self.family.example = [line[4:] for line in paragraph]
@@ -525,8 +536,7 @@ class _Reader:
             self._fault(start, f"{routine.name}: no sentence in its first paragraph")
         if routine.retains is None:
             self._fault(start, f"{routine.name}: no line `Retains: nothing.` or `WHAT (OWNER).`")
-        text = " ".join(p if isinstance(p, str) else " ".join(p) for p in routine.paragraphs)
-        routine.shares_addresses = "may not share" not in text
+        routine.shares_addresses = "may not share" not in routine.text
         described = {}
         tags = [i for i, t in enumerate(lines) if t.startswith("@")] + [len(lines)]
         for begin, end in zip(tags, tags[1:]):

@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Plants faults in the sources, one at a time, and tells what finds them: the tests or the digest.
+"""Plants faults in the sources, one at a time, and tells what finds them: the tests, the first part of
+the digest, or its part near the limits.
 
-    tools/mutate.py --seed 1 --faults 100 [--only src/space] [--leave-out src/numeric] [--calls 6000]
+    tools/mutate.py --seed 1 --faults 100 [--hard] [--only src/space] [--leave-out src/numeric]
 
-Works on a copy in build/mutate. The digest is asked where the tests find nothing; a fault that changes
-nothing in an extended digest either counts as equivalent. Run by hand: a fault takes some seconds.
+Works on a copy in build/mutate. A fault that none of them finds, and that changes nothing in an extended
+digest either, counts as equivalent. Run by hand: a fault takes some seconds.
 """
 
 import argparse
@@ -13,13 +14,14 @@ import re
 import shutil
 import subprocess
 import sys
-import threading
 
 from model import COMMENT, ROOT
 
 TREE = ROOT / "build" / "mutate" / "tree"
 BUILD = ROOT / "build" / "mutate" / "build"
 VALUE = r"[\w.\[\]]+"
+TERM = VALUE + r"(?:\(\))?"
+END = r"(?![\w.\[(]| [*/])"
 SECONDS = 120  # a loop without end is found, too
 
 
@@ -43,11 +45,21 @@ FAULTS = [
     ("coordinate", r"\.([xyz])\b(?!\()", lambda m: {"x": ".y", "y": ".x", "z": ".y"}[m.group(1)]),
     ("argument", rf"\(({VALUE}), ({VALUE})(?=[,)])", lambda m: f"({m.group(2)}, {m.group(1)}"),
     ("argument", rf"\{{({VALUE}), ({VALUE})(?=[,}}])", lambda m: f"{{{m.group(2)}, {m.group(1)}"),
-    ("grouping", rf"\(({VALUE}) \+ ({VALUE})\) \+ ({VALUE})",
+    ("grouping", rf"\(({TERM}) \+ ({TERM})\) \+ ({TERM})",
      lambda m: f"{m.group(1)} + ({m.group(2)} + {m.group(3)})"),
-    ("grouping", rf"({VALUE}) ([+*]) ({VALUE}) \2 ({VALUE})",
+    ("grouping", rf"({TERM}) ([+*]) ({TERM}) \2 ({TERM}){END}",
      lambda m: f"{m.group(1)} {m.group(2)} ({m.group(3)} {m.group(2)} {m.group(4)})"),
+    ("grouping", rf"({TERM}) - ({TERM}) ([+-]) ({TERM}){END}",
+     lambda m: f"{m.group(1)} - ({m.group(2)} {'-' if m.group(3) == '+' else '+'} {m.group(4)})"),
+    ("grouping", rf"({TERM}) \* ({TERM}) / ({TERM})",
+     lambda m: f"{m.group(1)} * ({m.group(2)} / {m.group(3)})"),
+    ("tolerance", r"\btolerance\b", lambda m: "(tolerance * 1.001F)"),
+    ("NaN", r"(?<!!)\b(negligible|significant)\(",
+     lambda m: "!significant(" if m.group(1) == "negligible" else "!negligible("),
+    ("ulp", r"(?<![\w.])(tolerance|pi|half_pi|two_pi|\d+\.\d+F)(?![\w.])",
+     lambda m: f"({m.group()} * 1.0000001F)"),
 ]  # fmt: skip
+HARD = {"strict", "inclusive", "grouping", "tolerance", "NaN", "ulp"}
 NO_CODE = re.compile(r"^\s*(#|using |static_assert|template|struct |namespace|TRELVIN_ROUTINE)")
 
 
@@ -67,11 +79,11 @@ def sites(only, left_out):
                     yield kind, file, match.start(), match.end(), replacement
 
 
-def run(*command, cwd=BUILD):
+def run(*command, cwd=BUILD, seconds=SECONDS):
     """The output of a command; None where it fails, or does not end."""
     try:
         done = subprocess.run(
-            ["nice", *map(str, command)], cwd=cwd, timeout=SECONDS,
+            ["nice", *map(str, command)], cwd=cwd, timeout=seconds,
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace",
         )  # fmt: skip
     except subprocess.TimeoutExpired:
@@ -79,10 +91,10 @@ def run(*command, cwd=BUILD):
     return done.stdout if done.returncode == 0 else None
 
 
-def build():
+def build(seconds=SECONDS):
     """Programs are not linked again where the library alone has changed: they load it."""
     targets = ["trelvin", "trelvin_tests", "digest"]
-    return run("cmake", "--build", ".", "--target", *targets) is not None
+    return run("cmake", "--build", ".", "--target", *targets, seconds=seconds) is not None
 
 
 def tests_pass():
@@ -90,22 +102,10 @@ def tests_pass():
     return run("ctest", "-R", r"\.", "--stop-on-failure", "--timeout", "30") is not None
 
 
-def digest(calls, golden=None):
-    """The lines of the digest, as far as they agree with the golden ones."""
-    command = ["nice", "stdbuf", "-oL", "bin/digest", "--calls", str(calls)]
-    lines = []
-    with subprocess.Popen(
-        command, cwd=BUILD, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True
-    ) as process:
-        clock = threading.Timer(SECONDS, process.kill)
-        clock.start()
-        for line in process.stdout:
-            lines.append(line)
-            if golden and line != golden[len(lines) - 1]:
-                process.kill()
-                break
-        clock.cancel()
-    return lines
+def digest(calls):
+    """The lines of the digest."""
+    seconds = SECONDS * max(calls // 2500, 1)
+    return (run("bin/digest", "--calls", calls, seconds=seconds) or "").splitlines()
 
 
 def copy_tree():
@@ -129,11 +129,13 @@ def verdict(calls, golden, extended):
     """What finds the fault that is planted, or why it does not count."""
     if not build():
         return "does not compile"
-    if not tests_pass():
-        return "tests"
-    if digest(2500, golden) != golden:
-        return "digest alone"
-    return "equivalent" if digest(calls, extended) == extended else "nothing"
+    found = [] if tests_pass() else ["tests"]
+    lines, half = digest(2500), len(golden) // 2
+    found += ["digest"] if lines[:half] != golden[:half] else []
+    found += ["near"] if lines[half:] != golden[half:] else []
+    if not found and digest(calls) == extended:
+        return "equivalent"
+    return " ".join(found) or "nothing"
 
 
 def show(number, site, text, result):
@@ -147,20 +149,23 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
     parser.add_argument("--seed", type=int, required=True)
     parser.add_argument("--faults", type=int, default=100, help="how many to plant")
+    parser.add_argument("--hard", action="store_true", help="those that hide best alone")
     parser.add_argument("--only", default="src", help="files' folder, as src/space")
     parser.add_argument("--leave-out", action="append", default=[], help="folder or file")
-    parser.add_argument("--calls", type=int, default=6000, help="of a routine in the extended run")
+    parser.add_argument("--calls", type=int, default=20000, help="of a routine in the extended run")
     options = parser.parse_args()
 
     copy_tree()
     BUILD.mkdir(parents=True, exist_ok=True)
     run("cmake", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release", "-DTRELVIN_BUILD_EXAMPLES=OFF",
         "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-S", TREE, "-B", BUILD)  # fmt: skip
-    if not build() or not tests_pass():
+    if not build(seconds=3600) or not tests_pass():
         sys.exit("mutate: the sources as they are do not build, or fail their tests")
     golden, extended = digest(2500), digest(options.calls)
 
     places = list(sites(options.only, tuple(options.leave_out)))
+    if options.hard:
+        places = [place for place in places if place[0] in HARD]
     chosen = random.Random(options.seed).sample(places, min(options.faults, len(places)))
     results = []
     # A file after the other, so that a restored one is compiled with the next fault in it.
@@ -175,8 +180,10 @@ def main():
 
     count = {result: results.count(result) for result in dict.fromkeys(results)}
     print(", ".join(f"{result}: {number}" for result, number in count.items()))
-    changing = sum(count.get(result, 0) for result in ("tests", "digest alone", "nothing"))
-    print(f"the tests find {100 * count.get('tests', 0) / max(changing, 1):.1f} % of {changing}")
+    changing = [r.split() for r in results if r not in ("does not compile", "equivalent")]
+    for group in (["tests"], ["digest"], ["near"], ["tests", "digest"], ["tests", "digest", "near"]):
+        found = sum(1 for by in changing if set(by) & set(group))
+        print(f"{' or '.join(group)}: {100 * found / max(len(changing), 1):.1f} % of {len(changing)}")
 
 
 if __name__ == "__main__":

@@ -13,7 +13,7 @@ namespace {
 
 using namespace host;
 
-// As designer.js numbers them. The first one is empty when the words form a section; the others
+// As engine.js numbers them. The first one is empty when the words form a section; the others
 // are those of the last section.
 enum Text {
   refusal,

@@ -4,44 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "lines.h"
 #include "workers.h"
 
 namespace host {
 namespace {
 
 constexpr std::size_t block_of_a_job = std::size_t{1} << 20;
-
-// Whole lines, block after block.
-class Lines {
- public:
-  explicit Lines(std::FILE *file, std::size_t block) : file_(file), block_(block) {}
-
-  // The next lines, empty after the last one.
-  std::string_view next() {
-    buffer_.erase(0, taken_);
-    std::size_t end = 0;
-    do {
-      const std::size_t rest = buffer_.size();
-      buffer_.resize(rest + block_);
-      buffer_.resize(rest + std::fread(&buffer_[rest], 1, block_, file_));
-      is_at_end_ = buffer_.size() < rest + block_;
-      end = buffer_.rfind('\n');
-    } while (end == std::string::npos && !is_at_end_);
-    taken_ = is_at_end_ ? buffer_.size() : end + 1;
-    read_ += taken_;
-    return std::string_view(buffer_).substr(0, taken_);
-  }
-
-  [[nodiscard]] std::size_t read() const { return read_; }
-
- private:
-  std::FILE *file_;
-  std::size_t block_;
-  std::string buffer_;
-  std::size_t taken_ = 0;  // of the buffer, by the lines last handed out
-  std::size_t read_ = 0;
-  bool is_at_end_ = false;
-};
 
 // A share of a block, and what became of it.
 struct Share {
@@ -109,6 +78,7 @@ BatchResult run_batch(std::FILE *input, std::FILE *output, const BatchRun &run) 
     if (run.has_progress) show_progress(run, lines.read(), result.tally);
   }
   if (run.has_progress) std::fputc('\n', stderr);
+  if (lines.is_too_long()) result.too_long = line;
   result.is_read = std::ferror(input) == 0;
   result.is_written = std::fflush(output) == 0 && result.is_written;
   return result;

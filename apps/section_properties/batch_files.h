@@ -16,6 +16,7 @@ struct BatchRun {
 
 struct BatchResult {
   Tally tally;
+  std::size_t too_long = 0;  // number of the line that ended the batch as too long, 0 for none
   bool is_read = true;
   bool is_written = true;
 };

@@ -102,7 +102,7 @@ std::string usage_of(const std::string &name) {
 }
 
 std::string version() {
-  return "section_properties " TRELVIN_VERSION ", with Trelvin " TRELVIN_VERSION "\n";
+  return "section_properties " TRELVIN_VERSION "\n";  // the library's, as the two are one release
 }
 
 }  // namespace host

@@ -1,15 +1,16 @@
 // Properties of steel sections, from the command line.
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "batch_files.h"
 #include "command_line.h"
-#include "numbers.h"
+#include "lines.h"
+#include "output_file.h"
 #include "picture.h"
 #include "profiles.h"
 #include "report.h"
@@ -75,31 +76,27 @@ std::FILE *open_to_read(const std::string &name) {
 #endif
 }
 
-// Under another name first, so that a failure leaves neither half a file nor a lost one.
-bool write_file(const std::string &name, const std::string &content) {
-  try {
-    const fs::path file = fs::u8path(name);
-    if (fs::exists(file) && !fs::is_regular_file(file)) return false;
-    const fs::path unfinished = fs::path(file) += ".part";
-    std::ofstream stream(unfinished, std::ios::binary);
-    if (!stream) return false;
-    stream << content;
-    stream.close();
-    std::error_code error;
-    if (stream) fs::rename(unfinished, file, error);
-    if (stream && !error) return true;
-    fs::remove(unfinished, error);
-  } catch (const fs::filesystem_error &) {  // a name the system cannot take
-  }
-  return false;
-}
-
 int cannot_print() { return failure(bad_output, "cannot write to standard output"); }
 
 int print(const std::string &text) {
   keep_bytes(stdout);
   const bool is_written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
   return std::fflush(stdout) == 0 && is_written ? 0 : cannot_print();
+}
+
+// Returns what is wrong, or nothing.
+std::string read_plates(std::FILE *file, const std::string &name, std::vector<Plate> &plates) {
+  Lines lines(file, 2 * longest_line);
+  std::size_t line = 1;
+  std::string fault;
+  while (fault.empty()) {
+    const std::string_view block = lines.next();
+    if (block.empty()) break;
+    fault = read_plates(name, block, line, plates);
+  }
+  if (std::ferror(file) != 0) return "cannot read '" + name + "'";
+  if (lines.is_too_long() && fault.empty()) return too_long(name, line);
+  return fault.empty() && plates.empty() ? name + ": no plates" : fault;
 }
 
 // Commands ---------------------------------------------------------------------------------------
@@ -143,12 +140,12 @@ int run_plates(const Request &request) {
     return failure(bad_input, "plates takes a file", "usage: section_properties plates FILE\n");
   }
   const std::string &name = request.words[1];
-  std::ifstream stream(fs::u8path(name), std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(stream), {}};
-  if (!stream) return failure(bad_input, "cannot read '" + name + "'");
+  std::FILE *const file = open_to_read(name);
+  if (file == nullptr) return failure(bad_input, "cannot read '" + name + "'");
   std::vector<Plate> plates;
+  std::string fault = read_plates(file, name, plates);
+  std::fclose(file);
   Figures figures{};
-  std::string fault = read_plates(name, text, plates);
   if (fault.empty()) fault = figures_of(plates, figures);
   if (!fault.empty()) return failure(bad_input, fault);
   if (!are_representable(figures.properties)) {
@@ -181,6 +178,7 @@ int run_batch_of(const Request &request) {
   if (file != stdin) std::fclose(file);
   if (!result.is_written) return cannot_print();
   if (!result.is_read) return failure(bad_input, "cannot read '" + name + "'");
+  if (result.too_long > 0) return failure(bad_input, too_long(name, result.too_long));
   if (result.tally.refused == 0) return 0;
   return failure(bad_input, std::to_string(result.tally.refused) + " of " +
                                 std::to_string(result.tally.sections) + " lines are no sections");
@@ -199,8 +197,15 @@ int run(const std::vector<std::string> &arguments) {
   return run_profile(request);
 }
 
+// Called in any thread. Must not ask for memory itself.
+void stop_without_memory() {
+  std::fputs("section_properties: not enough memory\n", stderr);
+  std::_Exit(bad_output);
+}
+
 template <class Character>
 int run_program(int argc, Character **argv) {
+  std::set_new_handler(stop_without_memory);
   std::vector<std::string> arguments;
   for (int i = 1; i < argc; ++i) arguments.push_back(fs::path(argv[i]).u8string());
   return run(arguments);

@@ -44,10 +44,10 @@ bool read_numbers(std::string_view line, std::vector<float> &values) {
 
 }  // namespace
 
-std::string read_plates(const std::string &name, std::string_view text,
+std::string read_plates(const std::string &name, std::string_view text, std::size_t &number,
                         std::vector<Plate> &plates) {
   std::vector<float> v;
-  for (int number = 1; !text.empty(); ++number) {
+  for (; !text.empty(); ++number) {
     const std::size_t end = std::min(text.find('\n'), text.size());
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
@@ -58,7 +58,7 @@ std::string read_plates(const std::string &name, std::string_view text,
     }
     plates.push_back({v[0], v[1], v[2], v[3], v[4]});
   }
-  return plates.empty() ? name + ": no plates" : "";
+  return "";
 }
 
 Outline outline_of(const std::vector<Plate> &plates) {

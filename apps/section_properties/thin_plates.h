@@ -24,9 +24,11 @@ struct ThinSection {
 
 ThinSection thin_section(const std::vector<Plate> &plates);
 
-// Reads a plate a line: x1 y1 x2 y2 t. Empty lines and what follows a # do not count. Returns what
-// is wrong, headed by the name, or nothing.
-std::string read_plates(const std::string &name, std::string_view text, std::vector<Plate> &plates);
+// Reads a plate a line: x1 y1 x2 y2 t. Empty lines and what follows a # do not count. The number is
+// that of the first line, and then of the line behind the text. Returns what is wrong, headed by the
+// file's name and the line, or nothing.
+std::string read_plates(const std::string &name, std::string_view text, std::size_t &number,
+                        std::vector<Plate> &plates);
 
 Outline outline_of(const std::vector<Plate> &plates);
 

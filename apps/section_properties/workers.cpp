@@ -5,6 +5,7 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
+#include <system_error>
 #include <thread>
 #endif
 
@@ -14,7 +15,11 @@ namespace {
 struct Job {
   const std::function<void(std::size_t)> *task;
   std::size_t number;
+
+  void run() const { (*task)(number); }
 };
+
+// A job runs in a thread of its own. If the system has no thread left, wait() does the job.
 
 #ifdef _WIN32
 
@@ -24,18 +29,14 @@ class Thread {
   explicit Thread(Job &job) : job_(job), handle_(CreateThread(nullptr, 0, run, &job, 0, nullptr)) {}
 
   void wait() {
-    if (handle_ == nullptr) {  // there was no thread to have
-      run(&job_);
-      return;
-    }
+    if (handle_ == nullptr) return job_.run();
     WaitForSingleObject(handle_, INFINITE);
     CloseHandle(handle_);
   }
 
  private:
   static DWORD WINAPI run(void *address) {
-    const Job &job = *static_cast<Job *>(address);
-    (*job.task)(job.number);
+    static_cast<Job *>(address)->run();
     return 0;
   }
 
@@ -47,10 +48,17 @@ class Thread {
 
 class Thread {
  public:
-  explicit Thread(Job &job) : thread_([&job] { (*job.task)(job.number); }) {}
-  void wait() { thread_.join(); }
+  explicit Thread(Job &job) : job_(job) {
+    try {
+      thread_ = std::thread([&job] { job.run(); });
+    } catch (const std::system_error &) {  // wait() sees that there is no thread
+    }
+  }
+
+  void wait() { thread_.joinable() ? thread_.join() : job_.run(); }
 
  private:
+  Job &job_;
   std::thread thread_;
 };
 

@@ -6,7 +6,8 @@
 
 namespace host {
 
-// Calls task(0) to task(count - 1), each in a thread of its own, and waits for all.
+// Calls task(0) to task(count - 1), each in a thread of its own as far as the system has threads, and
+// waits for all.
 void run_all(std::size_t count, const std::function<void(std::size_t)> &task);
 
 }  // namespace host

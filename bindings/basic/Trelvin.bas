@@ -429,8 +429,8 @@ Public Declare PtrSafe Sub trvhin Lib "Trelvin64.dll" Alias "trvhin" (ByRef x0 A
 
 ' Marks points by a sector.
 ' mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
-' outside the sector; -1 no_sector: the rays' angle is within the tolerance, which holds for all
-' points alike.
+' outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same for
+' all points.
 Public Declare PtrSafe Sub trvapp Lib "Trelvin64.dll" Alias "trvapp" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single, ByRef n As Long, ByRef X As Single, ByRef Y As Single, ByRef mark As Long)

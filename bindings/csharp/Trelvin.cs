@@ -605,8 +605,8 @@ namespace Trelvin
 
         /// <summary>Marks points by a sector.</summary>
         /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside:
-        /// the point is outside the sector; -1 no_sector: the rays' angle is within the tolerance,
-        /// which holds for all points alike.</remarks>
+        /// the point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the
+        /// tolerance, the same for all points.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvapp(ref float x0, ref float y0, ref float x1, ref float y1,
             ref float x2, ref float y2, ref int n, [In] float[] X, [In] float[] Y,
@@ -614,8 +614,8 @@ namespace Trelvin
 
         /// <summary>Marks points by a sector.</summary>
         /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside:
-        /// the point is outside the sector; -1 no_sector: the rays' angle is within the tolerance,
-        /// which holds for all points alike.</remarks>
+        /// the point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the
+        /// tolerance, the same for all points.</remarks>
         public static void trvapp(float x0, float y0, float x1, float y1, float x2, float y2, int n,
             float[] X, float[] Y, int[] mark)
         {

@@ -505,8 +505,8 @@ module trelvin
 
     !> Marks points by a sector.
     !! mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
-    !! outside the sector; -1 no_sector: the rays' angle is within the tolerance, which holds for
-    !! all points alike.
+    !! outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same
+    !! for all points.
     subroutine trvapp(x0, y0, x1, y1, x2, y2, n, X, Y, mark) bind(c, name="trvapp")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvapp

@@ -489,8 +489,8 @@ export const trvhin = routine("trvhin", ["in real x0", "in real y0", "in real z0
  * Marks points by a sector.
  *
  * mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
- * outside the sector; -1 no_sector: the rays' angle is within the tolerance, which holds for all
- * points alike.
+ * outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same for
+ * all points.
  *
  * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, X: Numbers, Y:
  *   Numbers, counts?: {n?: number}) => {mark: Int32Array}}

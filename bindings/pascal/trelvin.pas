@@ -481,8 +481,8 @@ procedure trvhin(
 
 /// <summary>Marks points by a sector.</summary>
 /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the
-/// point is outside the sector; -1 no_sector: the rays' angle is within the tolerance, which holds
-/// for all points alike.</remarks>
+/// point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance,
+/// the same for all points.</remarks>
 procedure trvapp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, x1, y1, x2, y2: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;

@@ -12,7 +12,9 @@ from sphinx import addnodes
 from sphinx.directives.other import TocTree
 from sphinx.transforms import SphinxTransform
 from sphinx.util import logging
+from sphinx.util.docutils import ReferenceRole, SphinxRole
 
+import facts
 import languages
 import reference
 import words
@@ -56,11 +58,11 @@ class Figure(_OfManual):
             if config.trelvin_figures_required:
                 LOG.warning("no figure %s", name, location=self.env.docname)
             return []
-        caption = " ".join(self.content)
+        caption = nodes.caption("", "", *self.markdown(self.content)[0].children)
         wide = float(re.search(r'width="([\d.]+)', file.read_text()).group(1)) > 600
         figure = nodes.figure(classes=["drawn", "wide"] if wide else ["drawn"])
-        figure += nodes.image(uri=self.path_from_page(file), alt=caption, candidates={})
-        figure += nodes.caption("", caption)
+        figure += nodes.image(uri=self.path_from_page(file), alt=caption.astext(), candidates={})
+        figure += caption
         return [figure]
 
 
@@ -180,6 +182,49 @@ class Anchors(SphinxTransform):
             section.insert(1, addnodes.index(entries=found))
 
 
+class Checked(ReferenceRole):
+    """A text that says what the library does, by an expression of facts.py."""
+
+    def run(self):
+        try:
+            fault = facts.difference(self.title, facts.value(self.target))
+        except Exception as problem:  # of whatever kind: the page is at fault
+            fault = f"no fact ({problem!r})"
+        if fault:
+            LOG.warning("'%s': the library gives %s", self.title, fault, location=self.get_location())
+        return [nodes.inline(self.title, self.title, classes=["checked"])], []
+
+
+class Said(SphinxRole):
+    """A number or a word of sense that is not the library's: a definition, a reference."""
+
+    def run(self):
+        return [nodes.inline(self.text, self.text, classes=["checked"])], []
+
+
+class NothingUnchecked(SphinxTransform):
+    """Numbers and words of sign, sense and unit need a fact, on the pages that tell of the library."""
+
+    default_priority = 500
+    shown = (nodes.literal, nodes.literal_block, nodes.raw, nodes.image)
+
+    def apply(self, **kwargs):
+        if not re.match(r"accuracy$|conventions$|tasks/", self.env.docname):
+            return
+        for text in self.document.findall(nodes.Text):
+            parents = []
+            node = text.parent
+            while node:
+                parents.append(node)
+                node = node.parent
+            if any(isinstance(p, self.shown) or {"checked", "measured"} & {*p.get("classes", ())}
+                   for p in parents):
+                continue
+            for word in facts.careful(text):
+                LOG.warning("'%s' in '%s': no fact stands behind it", word, text,
+                            location=text.parent)
+
+
 class NothingOutside(SphinxTransform):
     """An address outside of the manual is shown, not linked to."""
 
@@ -216,7 +261,10 @@ def setup(app):
     app.add_directive("trelvin-table", Table)
     app.add_directive("trelvin-accuracy", Accuracy)
     app.add_directive("trelvin-pages", Pages)
+    app.add_role("checked", Checked())
+    app.add_role("said", Said())
     app.add_transform(Anchors)
+    app.add_transform(NothingUnchecked)
     app.add_transform(NothingOutside)
     app.connect("missing-reference", without_link)
     app.connect("source-read", with_page_of_designer)

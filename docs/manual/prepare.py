@@ -23,6 +23,9 @@ def tasks():
 def prepare():
     printed = run.run(list(tasks().values()), BUILD / "tasks")
     pages = reference.write(DOCS / "reference", words.page)
+    lost = list(words.lost(reference.Writer(model.read())))
+    if lost:
+        raise calls.Faulty("\n".join(lost))
     PRINTED.write_text(json.dumps({"printed": printed, "pages": pages}))
 
 

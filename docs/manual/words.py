@@ -1,4 +1,7 @@
-"""The index by words: which routines, tasks and pages answer to an engineer's word."""
+"""The index by words: which routines, tasks and pages answer to an engineer's word.
+
+What an entry points to must have all its words, or one of the terms in parentheses behind them.
+"""
 
 import re
 from pathlib import Path
@@ -8,9 +11,39 @@ FILE = Path(__file__).resolve().parents[1] / "words.txt"
 
 def read():
     """(word, [target, ...]) in the order of the alphabet; a target is a routine or a page."""
+    return [(word, targets) for word, _, targets in _entries()]
+
+
+def _entries():
+    """(word, other terms, targets) of each line."""
     lines = [line for line in FILE.read_text().splitlines() if line and not line.startswith("#")]
-    pairs = [line.split(": ") for line in lines]
-    return sorted(((word, targets.split()) for word, targets in pairs), key=lambda p: p[0].lower())
+    entries = [re.fullmatch(r"([^(:]+?)(?: \((.+)\))?: (.+)", line).groups() for line in lines]
+    entries = [(word, (terms or "").split(", "), targets.split()) for word, terms, targets in entries]
+    return sorted(entries, key=lambda entry: entry[0].lower())
+
+
+ENDING = re.compile(r"(ies|es|s|ing|ed|ion|al|y)$")
+SMALL = "of by to in the an on from a"
+
+
+def _has(text, term):
+    """Whether a text has all words of a term, but for their endings."""
+    words = [word for word in re.findall(r"\w+", term.lower()) if word not in SMALL.split()]
+    stems = [ENDING.sub("", word) if word[2:] else rf"{word}\b" for word in words]
+    return bool(stems) and all(re.search(rf"\b{stem}", text) for stem in stems)
+
+
+def lost(writer):
+    """Entries that point to what has none of their words."""
+    texts = {r.name: f"{r.group} {r.text} {r.name.replace('_', ' ')}".lower()
+             for r in writer.interface.routines}
+    for word, terms, targets in _entries():
+        for target in targets:
+            pages = [FILE.parent / f"{page}.md" for page in (target, target.removeprefix("section_"))]
+            text = " ".join(file.read_text().lower() for file in pages if file.exists())
+            text = texts.get(target, text)
+            if not any(_has(text, term) for term in (word, *terms)):
+                yield f"words.txt: {word}: neither this nor another term is in {target}"
 
 
 def title_of(page):

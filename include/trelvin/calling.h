@@ -80,7 +80,13 @@ typedef int32_t *TrvIntOut;
 typedef int32_t *TrvIntInOut;
 #endif
 
-/* A function of the host's, of the library's own calling convention: a Real for a position. */
+/*
+ * A function of the host's: it returns a Real for a position. Its calling convention is that of the
+ * routines, on 32-bit Windows __stdcall: it removes its argument, and returns the Real on the x87
+ * stack. It is called on the host's thread, and only during the routine's call. The position is the
+ * library's: the function may read it, but must neither write it nor keep its address. What else it
+ * may do is in the contract of the routine that takes it.
+ */
 typedef float(TRELVIN_CALL *TrvFunctionIn)(TrvIntIn position);
 
 typedef const float *TrvArrayIn;

@@ -58,7 +58,9 @@ TRELVIN_ROUTINE trvord1(TrvIntArrayInOut V, TrvIntIn n);
  * list. A round finds nothing where the list holds a NaN at k, by then: a NaN at the head of the
  * list makes the sum a NaN.
  *
- * Cost: time grows with n. Takes 16*n bytes of the heap for the call.
+ * Cost: time grows with n. More than 512 entries take 16*n bytes of the heap for the call. If
+ * memory is short, the result is the same, but the list is read anew for each 512 entries: time
+ * grows with n*n.
  *
  * Retains: nothing.
  *
@@ -76,7 +78,7 @@ TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
  * axis and apart from it. Parallel and distinct is what trvlni finds between the first line and
  * each other one; a single line is ordered.
  *
- * Cost: time grows with n. Takes 20*n bytes of the heap for the call.
+ * Cost: time and memory are those of trvordi.
  *
  * Retains: nothing.
  *

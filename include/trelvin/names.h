@@ -25,7 +25,7 @@ enum TrvappMark {
   TRVAPP_INSIDE = 1,
   /** the point is outside the sector */
   TRVAPP_OUTSIDE = 2,
-  /** the rays' angle is within the tolerance, which holds for all points alike */
+  /** the rays' angle by trvphi is within the tolerance, the same for all points */
   TRVAPP_NO_SECTOR = -1,
 };
 

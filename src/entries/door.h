@@ -37,6 +37,18 @@ class Door {
   Door(const Door &) = delete;
   Door &operator=(const Door &) = delete;
 
+  // What a function of the host's returns, called in the host's own control. One that never returns
+  // leaves the host with that, and one that changes it changes the host's, not the library's.
+  template <class Function>
+  auto outside(Function function) {
+    if (seldom(foreign_)) control_.leave();
+    const auto result = function();
+    control_ = FloatingPointControl();
+    foreign_ = control_.foreign();
+    if (seldom(foreign_)) control_.enter();
+    return result;
+  }
+
  private:
   FloatingPointControl control_;
   bool foreign_;

@@ -26,7 +26,7 @@ TRELVIN_ROUTINE trvord1(TrvIntArrayInOut V, TrvIntIn n) {
 
 TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX) {
   const Door door;
-  order(V, n, IDX);
+  order({V}, n, IDX);
 }
 
 TRELVIN_ROUTINE trvpor(TrvIntIn n, TrvArrayIn A, TrvArrayIn B, TrvArrayIn C, TrvIntArrayOut IDX,

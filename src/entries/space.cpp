@@ -368,14 +368,14 @@ TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position) {
 TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvArrayIn X,
                        TrvArrayIn Y, TrvFunctionIn zf, TrvIntIn n, TrvIn tol, TrvIntOut status,
                        TrvIntOut count, TrvIntArrayOut index) {
-  const Door door;
+  Door door;
   const SpaceLine line = {{xa, ya, za}, {xb, yb, zb}};
   const Integer points = n;
   const Real limit = tol;
   Integer found = 0;
   for (Integer i = 1; i <= points; ++i) {
-    const Point3 point = {X[i - 1], Y[i - 1], zf(i)};
-    if (within(limit, distance(line, point))) index[found++] = i;
+    const Point3 point = {X[i - 1], Y[i - 1], door.outside([&] { return zf(i); })};
+    if (is_near(line, point, limit)) index[found++] = i;
   }
   if (points >= 1) status = 0;
   count = found;

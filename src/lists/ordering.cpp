@@ -125,46 +125,105 @@ void sort(Real *list, Integer n) {
 
 namespace {
 
-// The rounds of `order` with all entries below the largest in their order. Room for n marks.
-void order_by_rounds(const Real *list, Integer n, const Placed *sorted, Integer numbers,
-                     Placed *marks, Integer *positions) {
-  Real largest = list[0];
-  for (Integer i = 1; i < n; ++i) {
-    if (list[i] > largest) largest = list[i];
-  }
-  const Real done = largest + 1;
-  Integer below = numbers;  // entries that are found once; at `done` all others are alike
-  if (done == largest) {
-    while (below > 0 && list[position_of(sorted[below - 1])] == largest) --below;
-  }
-  Integer last = n;  // the last number, found whenever all are alike
-  while (last > 0 && std::isnan(list[last - 1])) --last;
+constexpr Integer room_on_stack = 512;
 
-  const bool leaves_nan = std::isnan(done);
-  std::fill_n(marks, leaves_nan ? n : 0, 0);
-  Integer next = 0;
-  for (Integer k = 0; k < n; ++k) {
-    if (std::isnan(list[k]) || (leaves_nan && marks[k] != 0)) continue;
-    positions[k] = next < below ? position_of(sorted[next++]) + 1 : last;
-    if (leaves_nan) marks[positions[k] - 1] = 1;
+// The numbers of a list from the smallest to the largest, equal ones from the highest position down.
+//
+// They are fetched as many at a time as there is room for: all at once, or those that come next after
+// the last one given out. What was given out need not be marked: it is what does not come after that.
+class Ascending {
+ public:
+  // The work array has place for twice the room.
+  Ascending(Entries list, Integer n, Placed *work, Integer room)
+      : list_(list), n_(n), halves_{work, work + room}, room_(room) {}
+
+  // The position of the next number, from 0. There must be one.
+  Integer next() {
+    if (given_ == fetched_) fetch();
+    last_ = next_[given_++];
+    return ~position_of(last_);
   }
-}
+
+  [[nodiscard]] bool has_given(Integer i) const { return entry(i) <= last_; }
+
+ private:
+  [[nodiscard]] Placed entry(Integer i) const { return placed(key_of_magnitude(list_[i]), ~i); }
+
+  void fetch() {
+    given_ = 0;
+    fetched_ = 0;
+    if (room_ >= n_) {
+      for (Integer i = n_; i-- > 0;) {
+        if (!std::isnan(list_[i])) halves_[0][fetched_++] = entry(i);
+      }
+      next_ = sort_by_digits(halves_[0], halves_[1], static_cast<std::size_t>(fetched_), 32);
+    } else {
+      fetch_smallest();
+    }
+  }
+
+  // A heap holds the smallest found so far, the largest of those on top.
+  void fetch_smallest() {
+    Placed *const heap = halves_[0];
+    for (Integer i = 0; i < n_; ++i) {
+      if (std::isnan(list_[i]) || has_given(i)) continue;
+      if (fetched_ < room_) {
+        heap[fetched_++] = entry(i);
+      } else if (entry(i) < heap[0]) {
+        std::pop_heap(heap, heap + fetched_);
+        heap[fetched_ - 1] = entry(i);
+      } else {
+        continue;
+      }
+      std::push_heap(heap, heap + fetched_);
+    }
+    std::sort_heap(heap, heap + fetched_);
+    next_ = heap;
+  }
+
+  Entries list_;
+  Integer n_;
+  Placed *halves_[2];
+  Integer room_;
+  const Placed *next_ = nullptr;
+  Integer fetched_ = 0;
+  Integer given_ = 0;
+  Placed last_ = 0;  // less than the entry of any number
+};
 
 }  // namespace
 
-void order(const Real *list, Integer n, Integer *positions) {
+void order(Entries list, Integer n, Integer *positions) {
   if (n < 1) return;
-  const auto size = static_cast<std::size_t>(n);
-  const auto work = work_array<Placed>(2 * std::uint64_t{size});
-  if (!work) return;
-  Placed *const halves[] = {work.get(), work.get() + size};
-  Integer numbers = 0;
-  for (Integer i = n; i-- > 0;) {  // equal entries from the highest position down
-    if (!std::isnan(list[i])) halves[0][numbers++] = placed(key_of_magnitude(list[i]), i);
+  Placed on_stack[2 * room_on_stack];
+  const auto on_heap =
+      n > room_on_stack ? work_array<Placed>(2 * static_cast<std::uint64_t>(n)) : nullptr;
+  Ascending numbers(list, n, on_heap ? on_heap.get() : on_stack, on_heap ? n : room_on_stack);
+
+  Real largest = list[0];
+  Integer last = 0;  // the last number, found whenever all are alike
+  bool nan = false;
+  for (Integer i = 0; i < n; ++i) {
+    const Real entry = list[i];
+    if (entry > largest) largest = entry;
+    if (std::isnan(entry)) {
+      nan = true;
+    } else {
+      last = i + 1;
+    }
   }
-  const Placed *sorted =
-      sort_by_digits(halves[0], halves[1], static_cast<std::size_t>(numbers), 32);
-  order_by_rounds(list, n, sorted, numbers, halves[sorted == halves[0] ? 1 : 0], positions);
+  const Real done = largest + 1;
+  Integer below = n;      // entries that are found once
+  if (done == largest) {  // then all others are alike
+    below = 0;
+    for (Integer i = 0; i < n; ++i) below += list[i] < largest ? 1 : 0;
+  }
+
+  Integer round = 0;
+  for (Integer k = 0; k < n; ++k) {
+    if (nan && (std::isnan(list[k]) || (std::isnan(done) && numbers.has_given(k)))) continue;
+    positions[k] = round++ < below ? numbers.next() + 1 : last;
+  }
 }
 
 bool parallel_and_distinct(const LineArrays &lines, Integer n) {
@@ -176,15 +235,10 @@ bool parallel_and_distinct(const LineArrays &lines, Integer n) {
 }
 
 void order_parallels(const LineArrays &lines, Integer n, Integer *positions) {
-  const auto work = work_array<Real>(static_cast<std::uint64_t>(n));
-  if (!work) return;
-  Real *const keys = work.get();
   const Line y_axis = {1, 0, 0};
   const Line first = {lines.a[0], lines.b[0], lines.c[0]};
   const bool clear_of_axis = intersect(first, y_axis).relation == LineRelation::parallel;
-  const Real *divisor = clear_of_axis ? lines.a : lines.b;
-  for (Integer i = 0; i < n; ++i) keys[i] = 0 - lines.c[i] / divisor[i];
-  order(keys, n, positions);
+  order(Entries{lines.c, clear_of_axis ? lines.a : lines.b}, n, positions);
 }
 
 const Integer *cyclic_order(const Quadrilateral &q) {

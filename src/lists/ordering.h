@@ -14,10 +14,18 @@ void sort(Integer *list, Integer n);
 // -0 before 0, NaNs last.
 void sort(Real *list, Integer n);
 
+// The Reals of a list or, if there are divisors, 0 less their quotients.
+struct Entries {
+  const Real *values;
+  const Real *divisors = nullptr;
+  Real operator[](Integer i) const {
+    return divisors == nullptr ? values[i] : 0 - values[i] / divisors[i];
+  }
+};
+
 // Positions, from 1, of the entries in ascending order, equal ones from the highest position down. A
 // found entry counts as the largest plus 1 from then on; one that does not compare finds none.
-// Nothing is written where memory is short.
-void order(const Real *list, Integer n, Integer *positions);
+void order(Entries entries, Integer n, Integer *positions);
 
 struct LineArrays {
   const Real *a, *b, *c;

@@ -24,6 +24,10 @@ SpaceLineRelation relation_of_lines(const SpaceLine &first, const SpaceLine &sec
   return negligible(cosine) ? R::perpendicular : R::crossing;
 }
 
+bool is_near(const SpaceLine &line, Point3 q, Real limit) {
+  return within(limit, distance(line, q));
+}
+
 Real signed_distance(const SpaceLine &line, Point3 q, LastCosine &last) {
   const auto [a, b] = line;
   if (coincide(a, b)) return distance(a, q);

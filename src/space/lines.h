@@ -42,6 +42,10 @@ inline Real distance(const SpaceLine &line, Point3 q) {
   return length(cross(v, u)) / length(u);
 }
 
+// Whether the distance is within the limit. Never inline: none of it is computed where the host's
+// control may stand.
+bool is_near(const SpaceLine &line, Point3 q, Real limit);
+
 // In the plane of both, whose normal is turned towards +y, else +z, else +x.
 Real signed_distance(const SpaceLine &line, Point3 q, LastCosine &last);
 

@@ -3,13 +3,16 @@
 section_properties_test.py [unittest options] -- COMMAND...
 or with the command in the variable SECTION_PROPERTIES: "wine .../section_properties.exe".
 """
+import bisect
 import csv
+import decimal
 import functools
 import json
 import math
 import os
 import re
 import shlex
+import stat
 import subprocess
 import sys
 import tempfile
@@ -17,6 +20,7 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 
 try:
+    import pty
     import resource
 except ImportError:  # not on Windows
     resource = None
@@ -26,6 +30,7 @@ if "--" in sys.argv:
     COMMAND = sys.argv[sys.argv.index("--") + 1:]
     del sys.argv[sys.argv.index("--"):]
 COMMAND = [os.path.abspath(word) if os.path.exists(word) else word for word in COMMAND]
+IS_NATIVE = resource is not None and ".exe" not in "".join(COMMAND)
 TOLERANCE = 2e-6  # a few single-precision roundings
 
 # Tables of sections after EN 10365: h b tw tf r in mm; then cm2, cm4, cm, cm3, and Iw in 1000 cm6.
@@ -103,8 +108,92 @@ BAD_INPUT = {
     "rolld 1": "'rolled'?", "Channel 1": "mean 'c'?", "plate x": "'plates'?",
     "rhs 1,0,5 2 3": "B =",
     "rhs 1,0.5 2 3": "B =", "batch": "file", "batch missing.csv": "'missing.csv'",
-    "batch a b": "file", "batch a --jobs 0": "--jobs", "rhs 100 100 5 --all": "--all",
+    "batch a b": "file", "batch a --jobs 0": "--jobs",
+    "batch a --jobs 257": "--jobs", "batch a --jobs 2x": "--jobs", "b 1 -a": "option '-a'",
+    "b 1 -z": "option '-z'", "b 1 -A": "option '-A'", "b 1 -Z": "option '-Z'",
+    "b 1 2 --jobs 2": "batch", "batch a --json": "file", "rhs 100 100 5 --all": "--all",
 }
+
+
+# A section with a place for a dimension: the last value that fits, one that does not, and how the
+# message begins.
+LIMITS = [line.split("; ") for line in """
+ia {} 100 100 20 10 5; 31; 30; flanges T1 and T2
+ia 300 50 100 10 10 {}; 50; 51; web TW
+ia 300 100 50 10 10 {}; 50; 51; web TW
+i 100 90 90 20 30 10 30 {} 0; 19; 20; flanges and fillets
+i 100 50 90 9 9 10 10 5 {}; 10; 10.5; web TW with its fillets S1
+i 100 50 90 9 9 {} 10 5 10; 10; 11; web TW with its fillets S1
+i 100 50 90 9 9 10 {} 5 10; 10; 11; web TW with its fillets S1
+i 100 90 50 9 9 10 5 10 {}; 10; 10.5; web TW with its fillets S2
+i 100 90 50 9 9 {} 5 10 10; 10; 11; web TW with its fillets S2
+i 100 90 50 9 9 10 5 {} 10; 10; 11; web TW with its fillets S2
+c {} 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2; 46; 45; flanges and lips
+c {} 80 60 0 0 0 0 3 4 5 0 0 0 0; 10; 9; flanges and lips
+c 200 {} 60 0 0 0 0 3 4 5 0 0 0 0; 3.5; 3; lip or fold 1
+c 200 80 {} 0 0 0 0 3 4 5 0 0 0 0; 3.5; 3; lip or fold 2
+c 200 {} 60 25 0 2 0 3 4 5 2 0 0 0; 5.5; 5; lip or fold 1
+c 200 {} 60 4 0 9 0 3 4 5 0 0 0 0; 3.5; 3; lip or fold 1
+c 200 80 60 25 20 {} 10 3 4 5 2 2.5 1.5 2; 76.5; 77; lip or fold 1
+c 200 80 60 25 20 12 {} 3 4 5 2 2.5 1.5 2; 56.5; 57; lip or fold 2
+c 200 80 60 25 20 12 10 3 4 5 2 2.5 {} 2; 20.5; 21; lip or fold 1
+c 200 80 60 25 20 12 10 3 4 5 {} 2.5 1.5 2; .1; 0; lip or fold 1
+c 200 80 60 25 20 12 10 3 4 5 2 2.5 {} 2; .1; 0; lip or fold 1
+c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 {}; .1; 0; lip or fold 2
+t 100 {} 50 8; 51; 50; flange TF
+t 10 50 6 {}; 10; 11; stem TW
+h1b 250 {} 160 9 21 8 15; 31; 30; flanges T1 and T2
+h1b 250 200 {} 9 22 8 15; 9; 8; web TW
+h1b {} 200 160 9 22 8 15; 183; 182; cover plate
+h1b {} 200 160 22 9 8 15; 183; 182; cover plate
+box 300 200 20 25 {} 12 160; 46; 45; flanges TT
+box 300 {} 20 25 150 12 160; 184; 183; webs G
+box {} 300 20 25 150 12 160; 184; 183; webs G
+rhs 100 200 {}; 49; 50; walls T
+rhs 200 100 {}; 49; 50; walls T
+l 100 60 {} 0; 59; 60; legs
+l 60 100 {} 0; 59; 60; legs
+l 100 60 50 {}; 10; 11; fillet R
+l2 {} 150 12 10 14; 15; 14; vertical leg TV
+l2 100 {} 12 10 14; 11; 10; horizontal leg T 
+tab 500 400 {} 60 15 10 12; 21; 20; webs TW
+tab 500 {} 300 60 15 10 12; 73; 72; bottom plate
+tab {} 400 300 60 15 10 12; 281; 280; top plate
+h2b 300 {} 260 10 30 12 15; 41; 40; webs TW1
+h2b 300 240 {} 10 30 12 15; 13; 12; middle plate
+h2b {} 240 260 10 30 12 15; 240; 239; webs W
+rolled {} 150 7 10 9; 38; 20; flanges TF leave
+rolled 300 {} 7 10 15; 37; 6; web TW
+rolled {} 150 7 10 10; 40; 39; fillets R do not fit b
+rolled 300 {} 7 10 15; 37; 36; fillets R do not fit on
+b 1 {}; 1e12; 2e13; the section is
+b {} 1; 1e12; 2e13; the section is
+b 1 {}; 1e-12; 1e-13; the section is
+b {} 1; 1e-12; 1e-13; the section is""".splitlines()[1:]]
+
+# What is near to a word that is no profile.
+NEAR = {"lat": "", "rol": "", "rhz": "'rhs'", "girder": "'box'", "rroolled": "'rolled'",
+        "ROOT": "'l' or 'rolled'", "batc": "'batch'",
+        "section": "'ia', 'h', 't', 'h1b', 'rhs' or 'rolled'",
+        "plate": "'h1b', 'tab', 'h2b' or 'plates'"}
+
+# The rows of the table: heading, names of the figures, power of mm.
+ROWS = [line.split("; ") for line in """
+Area; A; 2
+Centroid; xs ys; 1
+First moments, origin; Sx Sy; 3
+Second moments, origin; Ix Iy Ixy; 4
+Second moments, centroid; Ix Iy Ixy; 4
+Principal moments, axes 1 and 2; I1 I2 alpha; 4
+Radii of gyration; rx ry; 1
+Polar moment, centroid; Ip; 4
+Fibres: top, bottom, right, left; ey1 ey2 ex1 ex2; 1
+Elastic moduli of the fibres; Wx1 Wx2 Wy1 Wy2; 3
+Plastic moduli; Wpx Wpy; 3
+Equal-area axes; xp yp; 1
+Shear centre; xm ym; 1
+Torsion constant; It; 4
+Warping constant; Iw; 6""".splitlines()[1:]]
 
 
 def run(arguments, folder=None, stdout=subprocess.PIPE, **options):
@@ -166,9 +255,9 @@ def plastic(heights):
         return sum((min(max(c, p[0]), p[1]) - p[0]) * (p[3] - p[2]) for p in heights)
 
     half = below(levels[-1]) / 2
-    low = max(level for level in levels if below(level) < half * (1 - 1e-9))
-    high = min(level for level in levels if below(level) > half * (1 + 1e-9))
-    gap = [level for level in levels if low < level < high]
+    first = bisect.bisect_left(levels, half * (1 - 1e-9), key=below)
+    last = bisect.bisect_right(levels, half * (1 + 1e-9), key=below)
+    low, gap, high = levels[first - 1], levels[first:last], levels[last]
     at = ((gap[0] + gap[-1]) / 2 if gap else
           low + (high - low) * (half - below(low)) / (below(high) - below(low)))
     modulus = 0
@@ -199,7 +288,10 @@ class SectionProperties(unittest.TestCase):
             with open(os.path.join(folder, "p.svg"), encoding="utf-8") as picture:  # over all
                 self.assertEqual(re.findall(r">(\d\d+)</text>", picture.read()), ["80", "200"])
             for ending in ("0 0 1", "0 0 0 x 2", "0 0 0 0 2"):
-                self.assertEqual(answer(PLATES + ending).returncode, 2)
+                result = answer(PLATES + ending)
+                self.assertEqual((result.returncode, result.stdout), (2, ""))
+                self.assertRegex(result.stderr, "p.txt:7: .* x1 y1|a plate has no length or")
+            self.assertIn(": p.txt: no plates\n", answer("# none").stderr)
             for closing in ("78 -75 78 75 2", "78 -75 20 99 2", "78 -75 20 120 2"):
                 self.assertNotIn("It", json.loads(answer(PLATES + closing).stdout))
 
@@ -222,6 +314,14 @@ class SectionProperties(unittest.TestCase):
         self.assertAlmostEqual((f["area"] - 2 * spandrel) / 1e2, 19.2, delta=0.05)
         self.assertAlmostEqual((f["I1"] - spandrel * (x - y) ** 2) / 1e4, 280, delta=0.5)
         self.assertAlmostEqual((f["I2"] - spandrel * (x + y) ** 2) / 1e4, 73.0, delta=0.05)
+
+    def test_a_fillet_has_a_product_of_inertia(self):
+        # A square less a quarter disc, about their corner at (-63, -38): integrals on paper.
+        r, x, y = 8, -63, -38
+        legs = add_plates([(0, 12, 0, 100), (12, 150, 0, 12)])[5]
+        area, first = r**2 * (1 - math.pi / 4), r**3 * (5 / 6 - math.pi / 4)
+        expected = legs + r**4 * (19 / 24 - math.pi / 4) + (x + y) * first + x * y * area
+        self.assertAlmostEqual(figures("l 150 100 12 8")["Ixy"] / expected, 1, delta=TOLERANCE)
 
     def test_outlines_are_the_sum_of_their_plates(self):
         for profile, (plates, _, _) in OUTLINES.items():
@@ -315,6 +415,45 @@ class SectionProperties(unittest.TestCase):
         self.assertAlmostEqual(figures("b 10 10")["It"], 1406, delta=0.6)
         self.assertEqual(figures("b 200,5 10")["area"], 2005)
 
+    def test_torsion_of_cells(self):
+        # On paper: 4*b^2*h^2/sum(l/t) of the cell, l*t^3/3 of its four walls and of all others.
+        for section, b, h, *plates in (
+                ("box 3000 2000 20 25 1500 12 1600", 1612, 1477.5, (1612, 20), (1612, 25),
+                 (1477.5, 12), (1477.5, 12), (1376, 20), (376, 25)),
+                ("h1b 250 200 160 9 22 8 15", 184.5, 87.5, (184.5, 15), (184.5, 8), (87.5, 9),
+                 (87.5, 22), (50, 15), (76, 9), (76, 22)),
+                ("h1b 180 200 160 30 40 8 15", 165, 87.5, (165, 15), (165, 8), (87.5, 30),
+                 (87.5, 40), (76, 30), (76, 40)),
+                ("tab 500 400 300 60 15 10 12", 290, 341.5, (290, 15), (290, 12), (341.5, 10),
+                 (341.5, 10), (200, 15), (60, 10), (60, 10)),
+                ("h2b 300 240 260 10 30 12 15", 220, 275, (220, 15), (220, 15), (275, 10),
+                 (275, 30), (60, 15), (60, 15), (220, 12))):
+            flow = 4 * (b * h) ** 2 / sum(length / t for length, t in plates[:4])
+            expected = flow + sum(length * t**3 / 3 for length, t in plates)
+            self.assertAlmostEqual(figures(section)["It"] / expected, 1, delta=TOLERANCE)
+        self.assertNotIn("It", figures("box 30 30 20 20 100 2 10"))  # thicker than long
+
+    def test_torsion_is_that_of_the_centre_lines(self):
+        sections = {
+            "c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2": (
+                "-38.5 -98 -38.5 97.5 3", "-38.5 -98 39 -98 4", "39 -98 39 -75.75 2",
+                "39 -75.75 28 -75.75 1.5", "-38.5 97.5 18.75 97.5 5", "18.75 97.5 18.75 81 2.5",
+                "18.75 81 10 81 2"),
+            "i 400 310 150 22 11 8.5 0 0 12": (
+                "12 -189 12 194.5 8.5", "12 -189 -155 -189 22", "12 -189 155 -189 22",
+                "12 194.5 -75 194.5 11", "12 194.5 75 194.5 11"),
+            "t 180 260 17 9.5": (
+                "0 121.5 0 -130 9.5", "0 121.5 -90 121.5 17", "0 121.5 90 121.5 17")}
+        with tempfile.TemporaryDirectory() as folder:
+            for section, plates in sections.items():
+                with open(os.path.join(folder, "p.txt"), "w", encoding="utf-8") as file:
+                    file.write("\n".join(plates))
+                f, sum_of_plates = figures(section), run("plates p.txt --json", folder).stdout
+                for name, expected in json.loads(sum_of_plates).items():
+                    if name in ("It", "Iw", "xm", "ym"):
+                        self.assertAlmostEqual(f[name], expected, msg=section + name,
+                                               delta=TOLERANCE * max(abs(expected), 100))
+
     def test_what_is_not_given_is_told(self):
         f = figures("l2 100 150 12 10 14")
         names = ["shear centre", "torsion constant", "warping constant"]
@@ -337,6 +476,35 @@ class SectionProperties(unittest.TestCase):
             self.assertRegex(slender, row)
         leftover = "ia 433.2 168.3 64.1 9.1 8.3 7.7"  # rounding leaves a tiny negative Sy
         self.assertNotRegex(run(leftover).stdout, r"-0\.?0* ")
+
+    def test_table_has_every_figure(self):
+        row = re.compile(r"(.{32}) (\w+) +(\S+) (mm\d?|rad) +(\S+) (cm\d?|deg)")
+        for section in ["rolled 300 150 7.1 10.7 15", "b 1e-8 1e-6", "b 1e5 1e5", *OUTLINES]:
+            f = figures(section)
+            f["A"] = f["area"]
+            expected = []
+            for heading, names, power in ROWS:
+                values = f["centroidal"] if heading == "Second moments, centroid" else f
+                for name in filter(values.__contains__, names.split()):
+                    unit = power.strip("1")
+                    units = ("rad", "deg") if name == "alpha" else ("mm" + unit, "cm" + unit)
+                    expected.append((heading, name, *units, values[name]))
+                    heading = ""
+            found = list(filter(None, map(row.fullmatch, run(section).stdout.splitlines())))
+            self.assertEqual([(m[1].rstrip(), m[2], m[4], m[6]) for m in found],
+                             [row[:4] for row in expected], section)
+            for m, (_, name, unit, _, value) in zip(found, expected):
+                factor = 180 / math.pi if unit == "rad" else 10.0 ** -int(unit[2:] or 1)
+                for shown, figure in ((m[3], value), (m[5], value * factor)):
+                    number = decimal.Decimal(shown)
+                    if "." not in shown:  # whole tens and more end in zeros
+                        number = number.normalize()
+                    step = 10.0 ** number.as_tuple().exponent
+                    self.assertAlmostEqual(float(shown), figure, msg=f"{section} {name}",
+                                           delta=0.51 * step + 1e-8 * abs(figure))
+                    if name in ("A", "I1", "rx", "Ip", "It") and "e" not in m[3]:
+                        self.assertGreaterEqual(len(shown.replace(".", "").lstrip("0")), 5, section)
+        self.assertIn(" 1e-14 mm2 ", run("b 1e-8 1e-6").stdout)
 
     def test_rounding_does_not_turn_the_axes(self):
         f = figures("box 1058.7 875.4 5.4 17.6 727.29 4.4 802.6")  # symmetric, Ix nearly Iy
@@ -378,6 +546,17 @@ class SectionProperties(unittest.TestCase):
                     self.assertTrue(len(message) == 1 or "usage: section_properties " in message[1])
                     self.assertEqual(os.listdir(folder), [])
         self.assertIn("rhs B H T", run("rhs 100 100").stderr)
+        for word, near in NEAR.items():
+            told = f", did you mean {near}?" if near else ""
+            self.assertEqual(run(word + " 1").stderr.splitlines()[0],
+                             f"section_properties: unknown profile '{word}'" + told)
+
+    def test_dimensions_have_limits(self):
+        lines = [form.format(value) for form, *values, _ in LIMITS for value in values]
+        rows = csv.DictReader(run("batch -", input="\n".join(lines)).stdout.splitlines())
+        named = [text for *_, message in LIMITS for text in ("^$", rf"^(\w+: )?{message}")]
+        for line, row, message in zip(lines, rows, named, strict=True):
+            self.assertRegex(row["error"], message, line)
 
     def test_help_lists_every_profile(self):
         result = run("--help")
@@ -395,7 +574,9 @@ class SectionProperties(unittest.TestCase):
         self.assertEqual((len(listed), listed[-1][0]), (len(OUTLINES) + 1, "plates"))
 
     def test_version_is_that_of_the_library(self):
-        self.assertRegex(run("--version").stdout, r"^section_properties \d+\.\d+\.\d+, with ")
+        with open(os.path.dirname(__file__) + "/../../include/trelvin/calling.h") as header:
+            version = re.search('TRELVIN_VERSION "(.*)"', header.read()).group(1)
+        self.assertEqual(run("--version").stdout, f"section_properties {version}\n")
 
     def test_batch_gives_the_figures_of_each_line(self):
         result = run("batch - --all", input="\n".join(OUTLINES))
@@ -437,7 +618,74 @@ class SectionProperties(unittest.TestCase):
         areas = [(row["line"], row["area"]) for row in csv.DictReader(one.splitlines())]
         self.assertTrue(areas == [(str(i), str(i)) for i in range(1, 50001)])
 
-    @unittest.skipIf(resource is None or ".exe" in "".join(COMMAND), "needs a limit on file sizes")
+    @unittest.skipUnless(IS_NATIVE, "needs limits of the system")
+    def test_jobs_do_without_threads_and_tell_of_memory(self):
+        def batch(jobs, limit, value):  # a stack of 32 TB for each thread: there is none to have
+            limited = functools.partial(
+                resource.setrlimit, limit, (value, resource.getrlimit(limit)[1]))
+            return run(f"batch - --jobs {jobs}", input="b 2 3\n" * 300, preexec_fn=limited)
+
+        alone = run("batch -", input="b 2 3\n" * 300).stdout
+        result = batch(8, resource.RLIMIT_STACK, 1 << 45)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertTrue(result.stdout == alone)
+        if batch(1, resource.RLIMIT_AS, 200 << 20).returncode == 0:  # not with a sanitizer
+            result = batch(256, resource.RLIMIT_AS, 200 << 20)
+            self.assertEqual((result.returncode, result.stderr),
+                             (1, "section_properties: not enough memory\n"))
+
+    def test_a_file_without_lines_is_refused(self):
+        longest = "#" + 65535 * "." + "\n"
+        with tempfile.TemporaryDirectory() as folder:
+            def answer(command, text):
+                with open(os.path.join(folder, "a.txt"), "w", encoding="utf-8") as file:
+                    file.write(text)
+                return run(command + " a.txt", folder)
+
+            for command, line in (("batch", "b 2 3\n"), ("plates --json", "0 0 9 0 1\n")):
+                lines = line + 20 * longest + line  # several blocks
+                good, long = answer(command, lines), answer(command, lines + "#" + longest + line)
+                self.assertEqual((good.returncode, long.returncode), (0, 2), good.stderr)
+                self.assertEqual(long.stdout, good.stdout if command == "batch" else "")
+                self.assertEqual(long.stderr, "section_properties: a.txt:23: the line is too long; "
+                                 "a line must have at most 65536 bytes\n")
+                for name in [folder] + ["/dev/zero"] * IS_NATIVE:
+                    result = run(f"{command} '{name}'", timeout=60)
+                    self.assertEqual(result.returncode, 2)
+                    told = "/dev/zero:1: the line is too long" if result.stderr.count("zero") else (
+                        f"cannot read '{name}'")
+                    self.assertIn(told, result.stderr)
+            self.assertEqual(json.loads(good.stdout)["area"], 18)
+
+    @unittest.skipUnless(IS_NATIVE, "needs a terminal")
+    def test_a_terminal_shows_the_progress(self):
+        def shown(arguments, **options):
+            terminal, end = pty.openpty()
+            seen = b""
+            with open(end, "wb") as stderr, open(terminal, "rb", buffering=0) as screen:
+                subprocess.run(COMMAND + arguments.split(), stderr=stderr, check=True, **options)
+                os.write(end, b"$")  # the end, whatever was shown
+                while not seen.endswith(b"$"):
+                    seen += screen.read(999)
+            return seen.decode()
+
+        # One and a half blocks, of 16 bytes a line, with a section in each.
+        text = ("b 2 3          \n" + 65535 * "#              \n") + 32768 * "b 2 3          \n"
+        with tempfile.TemporaryDirectory() as folder:
+            with open(os.path.join(folder, "a.csv"), "w", encoding="utf-8") as file:
+                file.write(text)
+            options = {"cwd": folder, "stdout": subprocess.DEVNULL}
+            self.assertEqual(shown("batch a.csv", **options),
+                             f"\r[{20 * '#'}{10 * '.'}] 66 %  1 sections"
+                             f"\r[{30 * '#'}] 100 %  32769 sections\r\n$")
+            with open(os.path.join(folder, "a.csv"), "rb") as file:
+                self.assertEqual(shown("batch -", stdin=file, **options),
+                                 "\r1 sections\r32769 sections\r\n$")
+        end = pty.openpty()[1]
+        with open(end, "wb") as stdout:  # which shows the lines themselves
+            self.assertEqual(shown("batch -", input=b"b 2 3", stdout=stdout), "$")
+
+    @unittest.skipUnless(IS_NATIVE, "needs a limit on file sizes")
     def test_a_picture_that_fails_leaves_the_old_one(self):
         with tempfile.TemporaryDirectory() as folder:
             old = os.path.join(folder, "old.svg")
@@ -449,6 +697,49 @@ class SectionProperties(unittest.TestCase):
             self.assertEqual(os.listdir(folder), ["old.svg"])
             with open(old, encoding="utf-8") as file:
                 self.assertEqual(file.read(), "old")
+
+    def test_a_picture_takes_the_place_of_its_file_only(self):
+        with tempfile.TemporaryDirectory() as folder:
+            def draw(name, **options):
+                return run("rhs 100 100 5 --svg " + name, folder, **options).returncode
+
+            def content(name):
+                with open(os.path.join(folder, name), encoding="utf-8") as file:
+                    return file.read(5)
+
+            far = os.path.join(folder, "far")
+            old = os.path.join(far, "old.svg")
+            os.mkdir(far)
+            for name in (old, os.path.join(folder, "other")):
+                with open(name, "w", encoding="utf-8") as file:
+                    file.write("other")
+            links = {"a.svg.part": "other", "near.svg": "far/old.svg", "a.svg": "near.svg"}
+            in_folder = {os.path.join(folder, link): target for link, target in links.items()}
+            for link, target in in_folder.items():
+                os.symlink(target, link)
+            os.chmod(old, 0o604)
+            if IS_NATIVE and os.getuid() == 0:
+                os.chown(old, 12, 34)
+            before = os.stat(old)
+            self.assertEqual((draw("a.svg"), content(old), content("other")), (0, "<?xml", "other"))
+            self.assertEqual({link: os.readlink(link) for link in in_folder}, in_folder)
+            self.assertEqual(os.listdir(far), ["old.svg"])
+            if not IS_NATIVE:
+                return
+            for kept in (stat.ST_MODE, stat.ST_UID, stat.ST_GID):
+                self.assertEqual(os.stat(old)[kept], before[kept])
+            os.remove(old)
+            self.assertEqual(draw("a.svg", umask=0o027), 0)  # creates what the link leads to
+            self.assertEqual(stat.S_IMODE(os.stat(old).st_mode), 0o640)
+
+            def take_names(count):  # those that the process will use
+                for i in range(count):
+                    os.symlink("../other", f"far/.section_properties-{os.getpid()}-{i}.part")
+
+            self.assertEqual(draw("far/new.svg", preexec_fn=lambda: take_names(1)), 0)
+            self.assertEqual(draw("far/none.svg", preexec_fn=lambda: take_names(100)), 1)
+            self.assertEqual((content("far/new.svg"), content("other")), ("<?xml", "other"))
+            self.assertEqual(len(os.listdir(far)), 2 + 101)
 
     def test_a_picture_that_cannot_be_is_an_error_of_output(self):
         with tempfile.TemporaryDirectory() as folder:

@@ -1,13 +1,12 @@
 #!/usr/bin/python3
-"""Builds hosts in every language against the built libraries, runs them and compares their table.
+"""Builds hosts in every language as the pages tell, runs them and compares their table.
 
     tests/bindings/run.py [native] [windows]
 
-Native needs build/native, windows build/windows and Wine. A compiler that is missing is a failure,
-but for those to Windows that are no package: free_pascal_win32.sh and node_win32.sh fetch them.
+Native needs build/native, windows build/windows and Wine. The commands are those of the pages in
+docs, so that a page with a broken command fails; probes of all routines are compiled by them too.
 """
 
-import json
 import os
 import re
 import shutil
@@ -17,12 +16,12 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 OUT = ROOT / "build" / "bindings"
-PASCAL_WIN32 = ROOT / "build" / "free-pascal-win32"
 NODE_WIN32 = ROOT / "build" / "node-win32"
 sys.path.insert(0, str(ROOT / "tools"))
 
 import model  # noqa: E402
 import names  # noqa: E402
+import pages  # noqa: E402
 import probes  # noqa: E402
 import values  # noqa: E402
 
@@ -30,42 +29,12 @@ INTERFACE = model.read()
 ROUTINES = INTERFACE.routines
 PROBES = {"fortran": ("probe.f90", probes.fortran), "pascal": ("probe.pas", probes.pascal),
           "csharp": ("Probe.cs", probes.csharp), "node": ("probe.mjs", values.javascript)}
-EXAMPLES = {"c": "girder.c", "cpp": "girder.cpp", "fortran": "girder.f90", "pascal": "girder.pas",
-            "csharp": "Girder.cs", "node": "girder.mjs"}
-
-WINDOWS_LINK = "-static {lib}/libTrelvin.dll.a"
+EXAMPLES = {"cpp": "girder.c", "fortran": "girder.f90", "pascal": "girder.pas", "csharp": "Girder.cs"}
 RUNNERS = {("native", "csharp"): "mono", ("native", "node"): "node",
            ("windows", "node"): f"{NODE_WIN32}/node.exe"}
-# Platform, language: package of Debian, command. The first word of a command is the compiler.
-COMMANDS = {
-    ("native", "c"): ("gcc", "gcc -O2 -Iinclude {source} -L{lib} -ltrelvin -lm -o {program}"),
-    ("native", "cpp"): ("g++", "g++ -O2 -Iinclude {source} -L{lib} -ltrelvin -o {program}"),
-    ("native", "fortran"): (
-        "gfortran",
-        "gfortran -O2 -Werror -J{out} bindings/fortran/trelvin.F90 {source} -L{lib} -ltrelvin"
-        " -o {program}"),
-    ("native", "pascal"): (
-        "fp-compiler",
-        "fpc -O2 -v0w -Sew -Fubindings/pascal -Fl{lib} -FU{out} {source} -o{program}"),
-    ("native", "csharp"): (
-        "mono-mcs mono-runtime",
-        "mcs -warnaserror bindings/csharp/Trelvin.cs {source} -out:{program}"),
-    ("native", "node"): ("nodejs", "cp {source} {program}"),
-    ("windows", "c"): (
-        "g++-mingw-w64-i686-win32",
-        "i686-w64-mingw32-gcc-win32 -O2 -Iinclude {source} " + WINDOWS_LINK + " -o {program}"),
-    ("windows", "cpp"): (
-        "g++-mingw-w64-i686-win32",
-        "i686-w64-mingw32-g++-win32 -O2 -Iinclude {source} " + WINDOWS_LINK + " -o {program}"),
-    ("windows", "fortran"): (
-        "gfortran-mingw-w64-i686-win32",
-        "i686-w64-mingw32-gfortran-win32 -O2 -Werror -J{out} bindings/fortran/trelvin.F90 {source} "
-        + WINDOWS_LINK + " -o {program}"),
-    ("windows", "pascal"): (
-        "", f"{PASCAL_WIN32}/ppc386 -n -Twin32 -O2 -v0w -Fu{PASCAL_WIN32}/units"
-        " -Fubindings/pascal -FU{out} {source} -o{program}"),
-    ("windows", "node"): ("", "cp {source} {program}"),
-}
+LANGUAGES = {"native": ["cpp", "fortran", "pascal", "csharp", "node"],
+             "windows": ["cpp", "fortran", "pascal", "node"]}
+STRICT = {"cpp": "-Wall -Werror", "fortran": "-Werror", "csharp": "-warnaserror"}
 passed, failed = 0, 0
 
 
@@ -101,44 +70,33 @@ def table_of(platform, language, program, lib):
         return printed.read() if code == 0 else f"exit {code}: {errors.read()[-400:]}"
 
 
-def install_for_node(platform):
-    """The package of bindings/node where the programs of a platform will find it."""
-    out = OUT / platform / "node"
-    shutil.rmtree(out, ignore_errors=True)
-    out.mkdir(parents=True)
-    command = ["npm", "install", "--prefix", out, "--no-package-lock", "--install-links",
-               "--ignore-scripts", "--no-audit", "--no-fund", "./bindings/node"]
-    # What koffi would take there; force, since it is not for this machine.
-    if platform == "windows":
-        package = json.loads((ROOT / "bindings/node/package.json").read_text())
-        version = package["dependencies"]["koffi"]
-        command += ["--force", f"@koromix/koffi-win32-ia32@{version}"]
-    name = f"{platform}: package for Node.js"
-    if not shutil.which("npm"):
-        report(name, "npm is missing: apt-get install npm")
-        return
-    done = run(command)
-    report(name, done.stderr[-1000:] if done.returncode else "")
+def command_of(platform, language, source, program):
+    """How the page of a language compiles its example, for another source."""
+    if language == "node":
+        return f"cp {source} {program}"
+    folder, page = ("c", "c") if language == "cpp" else (language, language)
+    example = f"examples/{folder}/{EXAMPLES[language]}"
+    (command,) = [line for heading, line in pages.commands_of(page)
+                  if example in line and (heading == "On Windows") == (platform == "windows")]
+    command = command.partition(" && ")[0].replace(example, str(source))
+    command = re.sub(r"build/(windows/bin/)?girder(\.exe)?", str(program), command)
+    if language == "cpp":
+        command = re.sub(r"^(\S*)gcc", r"\1g++", command)
+        command += " -static" * (platform == "windows")
+    return command.replace(" ", f" {STRICT.get(language, '')} ", 1)
 
 
 def check_host(platform, language, source, expected):
-    package, command = COMMANDS[platform, language]
     name = f"{platform}: {source.relative_to(ROOT)}"
-    tool = RUNNERS[platform, language] if language == "node" else command.split()[0]
-    if not shutil.which(tool):
-        if package:
-            report(name, f"{tool} is missing: apt-get install {package}")
-        else:
-            print(f"not run {name}: see tests/bindings/*_win32.sh")
-        return
-    out = OUT / platform / language
+    out = ROOT / "build/node" if language == "node" else OUT / platform / language
     out.mkdir(parents=True, exist_ok=True)
     lib = ROOT / "build" / platform / "lib"
     if platform == "windows":
         shutil.copy(ROOT / "build/windows/bin/Trelvin.dll", out)
     program = out / (source.name if language == "node" else f"{source.stem.lower()}.exe")
-    places = {"source": source, "program": program, "out": out, "lib": lib}
-    built = run([word.format(**places) for word in command.split()])
+    packages = f"{ROOT}/build/pages/trelvin/lib/pkgconfig"  # where README's commands put it
+    built = run(command_of(platform, language, source, program), shell=True,
+                env={**os.environ, "PKG_CONFIG_PATH": packages})
     if built.returncode != 0:
         report(name, "does not build:\n" + (built.stdout + built.stderr)[-2000:])
         return
@@ -147,11 +105,10 @@ def check_host(platform, language, source, expected):
 
 
 def check_language(platform, language):
-    expected = (ROOT / "examples/girder.txt").read_text()
     if language == "node":
-        install_for_node(platform)
         check_host(platform, language, ROOT / "tests/bindings/node_test.mjs", "")
-    check_host(platform, language, ROOT / "examples" / language / EXAMPLES[language], expected)
+    if language == "cpp":
+        check_host(platform, language, ROOT / "examples/cpp/girder.cpp", pages.GIRDER)
     if language in PROBES:
         file, text = PROBES[language]
         source = OUT / file
@@ -160,6 +117,18 @@ def check_language(platform, language):
             calls = re.sub(r".*ATTRIBUTES STDCALL.*\n", "", calls)
         source.write_text(calls)
         check_host(platform, language, source, "")
+
+
+def check_pages(platforms):
+    """The commands of the pages, which also install what the probes need."""
+    for folder in ("node", "venv"):
+        shutil.rmtree(ROOT / "build" / folder, ignore_errors=True)
+    done = set()
+    for page in pages.BINDINGS:
+        report(f"{page}.md: names of the binding", ", ".join(pages.unknown_names(page)))
+    for page in pages.PAGES:
+        for name, problem in pages.faults(page, "windows" in platforms, done):
+            report(name, problem)
 
 
 DECLARATION = re.compile(
@@ -214,15 +183,15 @@ def main():
     OUT.mkdir(parents=True, exist_ok=True)
     os.chdir(OUT)  # one routine writes a trace file where it is
     report("basic: every routine as its header has it", "; ".join(basic_faults()))
+    check_pages(platforms)
     for platform in platforms:
         if not list((ROOT / "build" / platform / "lib").glob("lib*")):
             report(platform, f"the library is missing: cmake --build --preset {platform}")
             continue
         if platform == "native":
             check_names()
-        for built_for, language in COMMANDS:
-            if built_for == platform:
-                check_language(platform, language)
+        for language in LANGUAGES[platform]:
+            check_language(platform, language)
     print(f"{passed} passed, {failed} failed")
     return 1 if failed else 0
 

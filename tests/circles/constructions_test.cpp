@@ -62,6 +62,11 @@ TEST(Constructions, PointsOnTheChord) {
   for (const int side : {0, 2})
     expect_near(construct(trvcer5, half, 3.0F, side, 1.0F), {-4, 2, 1}, 1e-6);
   expect_near(construct(trvcer10, arc, half_pi, 0.46364761F), {6, -1, 0}, 1e-6);
+  // From A the line through T is at 2*e over B: on T's side from 2*e*e beyond the tolerance on.
+  Arc flat = {0, 0, -4, 0, 4, 0};
+  const float e = 2.2360682e-3F;
+  expect_near(construct(trvcer5, flat, 0.0F, 1, e), {-4, 0, 1}, 1e-6);
+  expect_near(construct(trvcer5, flat, 0.0F, 1, std::nextafter(e, 1.0F)), {4, 2 * e, 1}, 1e-6);
 }
 
 TEST(Constructions, LineThatMissesTheCircleCarriesTheResultOfTheCallBefore) {
@@ -71,6 +76,13 @@ TEST(Constructions, LineThatMissesTheCircleCarriesTheResultOfTheCallBefore) {
   EXPECT_EQ(construct(trvcer4, arc, 9.0F, half_pi), refused);  // touches
   EXPECT_EQ(construct(trvcer4, arc, 10.0F, half_pi), (Values{1, -3, 1}));
   expect_near(construct(trvcer4, turned, 10.0F, half_pi), {7, -1, 1}, 1e-6);
+
+  // Along the tangent at A, too far out by rounding. The frame is turned by pi: A less the result
+  // of the call before, and that is retained in turn.
+  Arc half_turned = {1, 2, 13, -14, -11, -14};
+  expect_near(construct(trvcer5, arc, 1.0F, -1, 0.5F), {4, -2, 1}, 1e-6);
+  expect_near(construct(trvcer5, half_turned, 0.0F, 1, 9.0000048F), {9, -12, 1}, 1e-6);
+  expect_near(construct(trvcer5, half_turned, 0.0F, 1, 9.0000048F), {4, -2, 1}, 1e-6);
 }
 
 TEST(Constructions, LineAlongTheChordLeavesTheCrossingOfTheCallBefore) {
@@ -96,8 +108,12 @@ TEST(Constructions, Refusals) {
   EXPECT_EQ(construct(trvcer4, near, 0.0F, 1.0F), refused);
   EXPECT_NE(construct(trvcer10, near, 1.0F, 1.0F)[0], u);
 
-  Arc arc = level;
-  EXPECT_EQ(construct(trvcer5, arc, 1.0F, -1, t), refused);
+  Arc arc = level, large = {1000, 2000, -3000, -1000, 5000, -1000},
+      small = {0, 0, -2 * t, 0, 2 * t, 0};
+  EXPECT_EQ(construct(trvcer5, large, 1.0F, -1, t), refused);
+  EXPECT_EQ(construct(trvcer5, large, 1.0F, -1, beyond)[2], 1);
+  EXPECT_EQ(construct(trvcer5, small, 3 * t, 1, 100.0F), refused);
+  EXPECT_EQ(construct(trvcer5, small, std::nextafter(3 * t, 0.0F), 1, 100.0F)[2], 1);
   for (const float s : {-1e-30F, 7.999995F, 9.0F})
     EXPECT_EQ(construct(trvcer5, arc, s, -1, 0.5F), refused);
   for (const float s : {0.0F, 7.99998F}) EXPECT_EQ(construct(trvcer5, arc, s, -1, 0.5F)[2], 1);

@@ -20,16 +20,18 @@ TEST(Corners, ToleranceOfRadiusSegmentsAngleAndTouchingPoint) {
     return outputs(trvard, 0, 0, x1, y1, x2, y2, r);
   };
   const auto turned_back = [&](double side) { return corner(1, 0, -1, side, 2); };
+  const float t3 = 3 * tolerance, t4 = 4 * tolerance;  // exact
   for (const Values &refused :
-       {corner(10, 0, 0, 20, tolerance), corner(10, 0, 0, 20, not_a_number),
-        corner(tolerance, 0, 0, 20, beyond), corner(0, 20, tolerance, 0, beyond),
-        turned_back(tolerance), turned_back(-tolerance), corner(10, 0, 0, 20, 10.0000105)}) {
+       {corner(t3, 0, 0, t3, std::nextafter(t4, 1.0F)), corner(10, 0, 0, 20, tolerance),
+        corner(10, 0, 0, 20, not_a_number), corner(tolerance, 0, 0, 20, beyond),
+        corner(0, 20, tolerance, 0, beyond), turned_back(tolerance), turned_back(-tolerance),
+        corner(10, 0, 0, 20, 10.0000105)}) {
     EXPECT_EQ(refused,
               (Values{unwritten, unwritten, unwritten, unwritten, unwritten, unwritten, 0}));
   }
-  for (const Values &done :
-       {corner(10, 0, 0, 20, beyond), corner(beyond, 0, 0, beyond, beyond), turned_back(beyond),
-        turned_back(-beyond), corner(10, 0, 0, 20, 10.000009)}) {
+  for (const Values &done : {corner(t3, 0, 0, t3, t4), corner(10, 0, 0, 20, beyond),
+                             corner(beyond, 0, 0, beyond, beyond), turned_back(beyond),
+                             turned_back(-beyond), corner(10, 0, 0, 20, 10.000009)}) {
     EXPECT_EQ(done[6], 1);
   }
 }

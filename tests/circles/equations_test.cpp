@@ -55,6 +55,9 @@ TEST(Circles, CentresOfARadiusThroughTwoPoints) {
   EXPECT_EQ(outputs(trvcer2, 1, 7, 7, -1, 1, 5), (Values{4, 3, 4, 3, 4, 3, 1}));
   EXPECT_EQ(outputs(trvcer2, 0, 0, 0, 2, 1, 0.9999999), none);
   EXPECT_EQ(outputs(trvcer2, 3, 4, 3, 4, 1, 5), none);
+  // The discriminant is 4*(r^2 - 1e-6): the tolerance, then more.
+  EXPECT_EQ(outputs(trvcer2, 0, 0, 0, 2e-3F, 1, 1.87082868e-3F)[6], 1);
+  EXPECT_EQ(outputs(trvcer2, 0, 0, 0, 2e-3F, 1, 1.8708288e-3F)[6], 2);
   for (const float r : {tolerance, -5.0F, not_a_number})
     EXPECT_EQ(outputs(trvcer2, 0, 0, 0, tolerance, 1, r), none);
   EXPECT_EQ(outputs(trvcer2, 0, 0, 0, tolerance, 1, beyond)[6], 1);

@@ -81,6 +81,7 @@ struct Routine {
   std::vector<std::pair<std::size_t, std::int32_t>> least;
   std::vector<Status> statuses;
   bool shares_addresses;  // an output may have the address of a single input
+  bool retains;           // values from call to call
 };
 
 // Draws sets of arguments.

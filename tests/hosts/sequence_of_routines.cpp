@@ -109,6 +109,7 @@ std::vector<Routine> all_routines() {  // NOLINT(readability-function-size)
 #define STATUS(name, argument, further, ...) \
   routines.back().statuses.push_back({argument, further, {__VA_ARGS__}});
 #define UNSHARED(name) routines.back().shares_addresses = false;
+#define RETAINS(name, owner) routines.back().retains = true;
 #include "routines.inc"
   return routines;
 }

@@ -122,6 +122,13 @@ TEST(Crossings, SegmentsThatEndOnASideCrossItOnce) {
   EXPECT_EQ(cross(tall, -920, -99, -894, -360).edge, Integers{4});
 }
 
+TEST(Crossings, PlacesStayOnASegmentThatIsShortForItsEdge) {
+  // The long edge passes so near the origin that its place, rounded, is off the segment.
+  const Outline o = {{4.395e7F, -0.0225123949F, -1}, {6.029e7F, -0.0308821909F, 9}};
+  EXPECT_EQ(cross(o, 3e-4F, 1e-4F, 0, 0).t, Reals{1});
+  EXPECT_EQ(cross(o, 0, 0, 3e-4F, 1e-4F).t, Reals{0});
+}
+
 TEST(Crossings, OnTheOutlineThePointNextToTheRightIsInside) {
   const Outline square = {{-3, 4, 4, -3}, {-2, -2, 5, 5}};
   EXPECT_EQ(cross(square, -3, 1, 9, 1).status, 1);

@@ -1,8 +1,10 @@
 #!/usr/bin/python3
 """The built manual in out/manual: every address leads somewhere, and what it promises is there."""
 
+import cmath
 import html.parser
 import json
+import math
 import re
 import sys
 import unittest
@@ -18,8 +20,8 @@ import calls  # noqa: E402
 import languages  # noqa: E402
 import model  # noqa: E402
 import run  # noqa: E402
-import trelvin  # noqa: E402
 
+PRINTED = json.loads((ROOT / "build/manual/printed.json").read_text())["printed"]
 ROUTINES = {routine.name: routine for routine in model.read().routines}
 
 
@@ -109,73 +111,125 @@ class Contents(unittest.TestCase):
         self.assertRegex(page("conventions").text, r"cw, factor -1 +4\.0")
 
 
-class Claims(unittest.TestCase):
-    """Sentences of the page on conventions that none of its tasks prints."""
+def second_moments(rectangles):
+    """Area, centroid and moments about it, of rectangles by their width, height and centre."""
+    area = sum(w * h for w, h, _, _ in rectangles)
+    xs = sum(w * h * x for w, h, x, _ in rectangles) / area
+    ys = sum(w * h * y for w, h, _, y in rectangles) / area
+    return area, xs, ys, [sum(w * h * value for w, h, value in terms) for terms in (
+        [(w, h, h * h / 12 + (y - ys) ** 2) for w, h, _, y in rectangles],
+        [(w, h, w * w / 12 + (x - xs) ** 2) for w, h, x, _ in rectangles],
+        [(w, h, (x - xs) * (y - ys)) for w, h, x, y in rectangles])]
 
-    def test_a_column_has_no_axes_by_trvaxel_but_by_trvaxe(self):
-        axes = trelvin.trvaxel(0, 0, 0, 0, 3, 0, angle=0)
-        self.assertEqual(axes.status, 0)
-        self.assertNotEqual(axes.e2x, axes.e2x)
-        self.assertEqual(trelvin.trvaxe(0, 0, 0, 0, 3, 0, 0, 0, 1).e2z, 1)
-        self.assertNotEqual(*2 * [trelvin.trvpra(0, 0, 0, 0, 3, 0, [1], [0], [0], angle=1).X[0]])
 
-    def test_turns_about_y_are_left_handed_in_trvptr_trvptrl_and_trvppc(self):
-        point = [1], [0], [0]
-        axes = 0, 0, 0, 1, 0, 0, 0, 1, 0  # three points: the global axes
-        self.assertGreater(trelvin.trvptr(*point, 0, 0, 0, 0, 1, 0).Z[0], 0)
-        self.assertGreater(trelvin.trvptrl(*axes, *point, 0, 0, 0, 0, 1, 0).Z[0], 0)
-        self.assertGreater(trelvin.trvppc(*axes, 0, 0, 0, 0, 1, 0, *point, 1e-5).Z[0], 0)
+class Truths(unittest.TestCase):
+    """What the tasks print, label and unit with it, by other ways: numbers on paper and mathematics."""
 
-    def test_the_angle_of_trvaxel_and_trvpl7_is_right_handed(self):
-        self.assertGreater(trelvin.trvaxel(0, 0, 0, 1, 0, 0, angle=1).e2z, 0)  # from y towards z
-        self.assertLess(trelvin.trvpl7(0, 0, 0, 1, 0, 0, 0, 1, 0, angle=1).b, 0)  # z towards -y
+    def prints(self, task, text):
+        """Each line of the text, but for blanks, is one of those that the task prints."""
+        found = [" ".join(line.split()) for line in PRINTED[task].splitlines()]
+        for line in text.splitlines():
+            self.assertIn(" ".join(line.split()), found)
 
-    def test_side_positive_turns_clockwise_from_a_to_the_arcs_middle_in_trvcer5(self):
-        point = trelvin.trvcer5(0, 0, -5, 0, 5, 0, s=5, side=1, e=1)
-        self.assertAlmostEqual(point.yo, 5, places=4)  # from A on the left over the top
+    def test_lines(self):
+        image = (100 + 200j) / (3 + 1j)  # seen along the line through (300, 100)
+        image = image.conjugate() * (3 + 1j)
+        self.prints("mirror", f"image {image.real:.2f} {image.imag:.2f} mm\nmirrored area -600.0 mm2")
+        along = (6000 + 2500j) / 6500
+        q, r = (4250 - 250j) / along, (1500 + 2500j) / along
+        foot = 500 + 750j + q.real * along
+        self.prints("side", f"""Q {-q.imag:.1f} mm\nR {-r.imag:.1f} mm
+            foot of Q {foot.real:.1f} {foot.imag:.1f} mm""")
+        x = (6 - 0.5 * 1.25**0.5) / 1.5  # y = x / 2 + the height of half a metre across, y = 6 - x
+        self.prints("crossing", f"""crossing 4.000 2.000 m\nof the parallel {x:.3f} {6 - x:.3f} m
+            relation 2\napart -0.500 m""")
+        self.prints("distance", """distance 5.000 m\nangle 90.00 degrees
+            from P1 to P2 270.00 degrees""")
+        self.prints("far", "near -1000.000 mm\nmoved 4000.000 3000.000 mm\n0.004 mm more is 0.0078 mm")
 
-    def test_nothing_compressed_leaves_the_effective_widths_unwritten(self):
-        widths = trelvin.trvef2(600, 600, 8, 18.8, 15.3, s1=-100, s2=-100)
-        self.assertNotEqual(widths.be1, widths.be1)
+    def test_circles(self):
+        one, two = (550 + 50j) / abs(550 + 50j), (150 + 350j) / abs(150 + 350j)
+        half = cmath.phase(two / one) / 2
+        reach, out = 125 / math.tan(half), 50 + 50j
+        centre = out + 125 / math.sin(half) * one * cmath.exp(1j * half)
+        t1, t2 = out + reach * one, out + reach * two
+        self.prints("fillet", f"""status 1\ncentre {centre.real:.3f} {centre.imag:.3f} mm
+            T1 {t1.real:.3f} {t1.imag:.3f} mm\nT2 {t2.real:.3f} {t2.imag:.3f} mm
+            length {125 * (math.pi - 2 * half):.3f} mm
+            box from {centre.real - 125:.3f} {centre.imag - 125:.3f} mm
+            box to {t1.real:.3f} {t2.imag:.3f} mm""")
+        mid, root = 137.5 / 1.5625, (137.5**2 - 1.5625 * 10900) ** 0.5 / 1.5625
+        self.prints("tangent", f"""y = 90: 1\ntouches at 100.000 90.000 mm
+            first {mid + root:.3f} {0.75 * (mid + root):.3f} mm""".replace(":", "", 1))
+        self.prints("inside", f"P1 inside 1\nfirst 3.000 {2.25 + 1.75 / 8.25:.3f} m\ntheir edges 6 4 2")
+        self.prints("rotations", "trvrot 1 0.87 -0.50\ntrvroty 2 0.87 0.00 0.50\ntrvcer3 0.87 0.50")
 
-    def test_beyond_three_times_in_tension_nothing_is_reduced_and_just_there_nothing_written(self):
-        beyond = trelvin.trvef2(1200, 300, 8, 18.8, 15.3, s1=100, s2=-301)
-        self.assertEqual((beyond.be1, beyond.be2), (150, 150))
-        at = trelvin.trvef2(1200, 300, 8, 18.8, 15.3, s1=100, s2=-300)
-        self.assertNotEqual(at.be1, at.be1)
+    def test_space(self):
+        e1 = [v / 28.25e6**0.5 for v in (5000, 1500, 1000)]
+        e2 = [(y - e1[1] * v) / (1 - e1[1] ** 2) ** 0.5 for y, v in zip((0, 1, 0), e1)]
+        e3 = [e1[1] * e2[2] - e1[2] * e2[1], e1[2] * e2[0] - e1[0] * e2[2],
+              e1[0] * e2[1] - e1[1] * e2[0]]
+        local = [sum(a * b for a, b in zip(e, (2900, 1600, 1300))) for e in (e1, e2, e3)]
+        self.prints("member", "local {:.1f} {:.1f} {:.1f} mm".format(*local)
+                    + "\nglobal 3900.0 3600.0 1800.0 mm\nforce {:.1f} {:.1f} {:.1f} kN".format(
+                        -10 * e1[1], -10 * e2[1], 0))
+        self.prints("column", "e1 0.0 1.0 0.0\ne2 0.0 0.0 1.0\ne3 1.0 0.0 0.0")
+        self.prints("plane", "relation 4\ndistance 1.8571 m\nQ on the plane -1")
 
-    def test_the_normal_of_a_line_is_to_its_right_by_trvln3_and_below_by_an_angle(self):
-        left, pi = (0, 1), 3.14159265
-        self.assertEqual(trelvin.trvlds(*left, *trelvin.trvln3(0, 0, 1, 0)), -1)
-        self.assertEqual(trelvin.trvlds(*left, *trelvin.trvln3(0, 0, -1, 0)), 1)
-        for line in trelvin.trvln1(0, 0, pi), trelvin.trvln4(0, 0, -1, 0, 0):
-            self.assertEqual(trelvin.trvlds(*left, *line), -1)
+    def test_sections(self):
+        area, _, ys, (ix, _, _) = second_moments([(200, 300, 100, 150), (-60, 120, 100, 200)])
+        ix -= -60 * 120 * 120**2 / 12 - -60 * 120**3 / 12
+        self.prints("polygon-hole", f"area {area:.1f} mm2\nys {ys:.3f} mm\nIx {ix / 1e4:.1f} cm4")
+        _, _, _, (ix, iy, ixy) = second_moments([(80, 10, 40, 5), (10, 110, 5, 65)])
+        alpha = math.atan(2 * ixy / (iy - ix)) / 2
+        root = math.hypot((ix - iy) / 2, ixy)
+        self.prints("principal-angle", f"""Ix, Iy {ix / 1e4:.1f} {iy / 1e4:.1f} cm4
+            Ixy {ixy / 1e4:.1f} cm4\nalpha {math.degrees(alpha):.2f} degrees
+            I1, I2 {(ix + iy + 2 * root) / 2e4:.1f} {(ix + iy - 2 * root) / 2e4:.1f} cm4""")
+        _, _, ys, (ix, _, _) = second_moments([(200, 16, 0, 0), (10, 400, 0, 200), (160, 16, 0, 400)])
+        plastic = sum(w * h * abs(y - 168) for w, h, y in (  # 5280 mm2 on either side of y = 168
+            (200, 16, 0), (10, 168, 84), (10, 232, 284), (160, 16, 400)))
+        self.prints("modulus", f"""centroid at {ys:.2f} mm\nplastic axis at 168.00 mm
+            elastic top {ix / (408 - ys) / 1e3:.1f} cm3\nelastic bottom {ix / (ys + 8) / 1e3:.1f} cm3
+            plastic {plastic / 1e3:.1f} cm3""")
+        self.prints("profile", "polygons 1\narea {:.1f} mm2\nIx, Iy {:.1f} {:.1f} cm4".format(
+            300 * 150 - 142.9 * 278.6, (150 * 300**3 - 142.9 * 278.6**3) / 12e4,
+            (21.4 * 150**3 + 278.6 * 7.1**3) / 12e4))
+        self.prints("signs", "area 4.0\nSx, Sy 8.0 8.0\nIx, Iy 17.33 17.33\nIxy, second -16.0")
+        self.prints("hole-signs", "ccw, factor -1 -4.0\ncw, factor -1 4.0")
 
-    def test_short_lines_in_metres_are_the_same_and_a_small_circle_is_touched(self):
-        lines = *trelvin.trvln3(0, 0, 0.003, 0), *trelvin.trvln3(0, 0, 0, 0.003)
-        self.assertEqual(trelvin.trvlni(*lines).status, trelvin.TrvPlaneLines.SAME_LINE)
-        self.assertEqual(trelvin.trvlci(1, 0.5, 0, *trelvin.trvcer(0, 0, 0.001)).n, 1)
+    def test_a_plate_with_a_hole(self):
+        x, y = (50, 650, 650, 300, 50), (50, 50, 200, 450, 450)
+        edges = [(x[i - 1], y[i - 1], x[i], y[i]) for i in range(5)]
+        terms = [[c / 2, c * (a + p) / 6, c * (b + q) / 6, c * (b * b + b * q + q * q) / 12,
+                  c * (a * a + a * p + p * p) / 12, c * (a * q + 2 * a * b + 2 * p * q + p * b) / 24]
+                 for a, b, p, q in edges for c in [a * q - p * b]]
+        hole, own = math.pi * 75**2, math.pi * 75**4 / 4
+        parts = hole, hole * 200, hole * 275, own + hole * 275**2, own + hole * 200**2, hole * 55000
+        area, sy, sx, ix, iy, ixy = (sum(t) - h for t, h in zip(zip(*terms), parts))
+        xs, ys = sy / area, sx / area
+        ix, iy, ixy = (v / 1e6 for v in (ix - area * ys**2, iy - area * xs**2, ixy - area * xs * ys))
+        self.prints("hole", f"""area {area:.1f} mm2\ncentroid {xs:.2f} {ys:.2f} mm
+            Ix, Iy {ix:.1f} {iy:.1f} 1e6 mm4\nIxy {ixy:.1f} 1e6 mm4
+            alpha {math.degrees(math.atan(2 * ixy / (iy - ix)) / 2):.2f} degrees""")
 
-    def test_a_line_nearly_along_x_loses_digits_unless_x_and_y_are_swapped(self):
-        a, b, c = 1, -1000, 199700  # through the centre (300, 200)
-        self.assertGreater(trelvin.trvlci(a, b, c, *trelvin.trvcer(300, 200, 250)).x1, 553)
-        point = trelvin.trvlci(b, a, c, *trelvin.trvcer(200, 300, 250))
-        self.assertAlmostEqual(point.y1, 550, places=2)
-
-    def test_directions_a_quarter_of_a_degree_apart_count_as_parallel(self):
-        for slope, relation, status in ((0.0044, 3, 3), (0.0045, 0, 0)):
-            self.assertEqual(trelvin.trvdirp(0, 0, 1, -3, slope, 0, 1, -3), relation)
-            camber = slope / 2 * 3000
-            self.assertEqual(trelvin.trvpsl(0, 0, 0, 6000, 0, 0, 3000, camber, 0), status)
-
-    def test_floors_of_300_m_2_mm_apart_are_the_same_plane(self):
-        self.assertEqual(trelvin.trvdirp(0, 0, 1, -300000, 0, 0, 1, -300002), 3)
-
-    def test_the_third_point_of_trvaxe_does_not_tell_the_sense_of_e2(self):
-        axes = [trelvin.trvaxe(0, 0, 0, 0, 3, 0, *p) for p in ((0, 0, 1), (0, 0, -1))]
-        self.assertEqual([each.e2z for each in axes], [1, 1])
-        axes = [trelvin.trvaxe(0, 0, 0, 0, 3, 0, *p) for p in ((1, 0, 0), (-1, 0, 0))]
-        self.assertEqual([each.e2x for each in axes], [-1, -1])
+    def test_thin_walls(self):
+        series = sum(math.tanh(k * math.pi * 2.5) / k**5 for k in range(1, 30, 2))
+        bar = 100 * 20**3 / 3 * (1 - 192 / math.pi**5 * 0.2 * series) / 1e4
+        self.prints("torsion", f"""It of the bar {bar:.3f} cm4\nas a thin wall {80 / 3:.3f} cm4
+            Wt of the bar 11.660 cm3\nIt of a channel {240 * 4**3 / 3 / 1e4:.3f} cm4""")
+        rho = (1.6229 - 0.22) / 1.6229**2
+        psi = -0.8
+        slender = 1200 / 8 / (28.4 * (235 / 355) ** 0.5 * (7.81 - 6.29 * psi + 9.78 * psi**2) ** 0.5)
+        web = 2000 / 3 * (1 - 0.055 * (3 + psi) / slender) / slender
+        self.assertAlmostEqual(float(PRINTED["plate"].split()[1]), 300 * rho, places=1)
+        self.prints("plate", f"compressed 666.67 mm\nweb {0.4 * web:.2f} {0.6 * web:.2f} mm")
+        b, h, c, t = 76, 136, 28, 4
+        i = t * (h**3 + 6 * (b + c) * h**2 - 12 * c**2 * h + 8 * c**3) / 12
+        back = b * t * (3 * b * h**2 + 6 * c * h**2 - 8 * c**3) / (12 * i)
+        xs = b * (b + 2 * c) / (h + 2 * b + 2 * c)
+        self.prints("shear-centre", f"""from centroid {xs + back:.3f} mm\ncentroid {xs:.3f} 68.000 mm
+            shear centre {-back:.3f} 68.000 mm\napart {xs + back:.3f} mm\nIw 6600.8 cm6""")
 
 
 class Tasks(unittest.TestCase):

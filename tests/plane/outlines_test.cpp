@@ -44,8 +44,15 @@ TEST(Outlines, OutlinesThatTurnBackAreNotConvex) {
 }
 
 TEST(Outlines, NotchesCountFromTheToleranceOn) {
-  EXPECT_EQ(convex({0, 1, 2, 1}, {0, 0.9e-5F, 0, 5}), 1);
-  EXPECT_EQ(convex({0, 1, 2, 1}, {0, 1.1e-5F, 0, 5}), 0);
+  EXPECT_EQ(convex({0, 1, 2, 1}, {0, tolerance, 0, 5}), 1);
+  EXPECT_EQ(convex({0, 1, 2, 1}, {0, beyond, 0, 5}), 0);
+}
+
+TEST(Outlines, ALongSideStaysStraightThoughDifferencesTakeMoreThanARealHolds) {
+  const float a = 33 / 65536.0F;  // on y = 3*x, but 10000 - a is not a Real
+  const std::vector<float> x = {a, 10000, 20000, 0}, y = {3 * a, 30000, 60000, 60000};
+  EXPECT_EQ(convex(x, y), 1);
+  EXPECT_EQ(convex(y, x), 1);
 }
 
 TEST(Outlines, RefusedWithFewVerticesOrAShortSide) {

@@ -93,6 +93,15 @@ TEST(Frames, ThreePointsWithoutFrameOrWithoutAnAxis) {
             (Values{1, 0, 0, 0, 0, 0, 0, 0, 1, 0}));
 }
 
+TEST(Frames, ThreePointsHaveAFrameWhereTheThreePointTestInTheSameOrderFindsAPlane) {
+  // The cosine is divided by one distance, then by the other: the order decides in its last place.
+  const Point a = {0, 0, 0}, b = {10, 0, 0}, p = {1, 4.04861383e-3F, 0};
+  EXPECT_EQ(outputs_at(trvpsl, a, b, p), Values{3});
+  EXPECT_EQ(outputs_at(trvpsl, b, a, p), Values{0});
+  EXPECT_EQ(outputs_at(trvaxe, a, b, p), no_frame);
+  EXPECT_EQ(outputs_at(trvaxe, b, a, p).back(), 0);
+}
+
 TEST(Frames, OfAnAxis) {
   EXPECT_EQ(outputs(trvaxel, 0, 0, 0, 0, 0, tolerance, 1), no_frame);
   EXPECT_EQ(outputs(trvaxel, 0, 0, 0, beyond, 0, 0, 0), (Values{1, 0, 0, 0, 1, 0, 0, 0, 1, 0}));

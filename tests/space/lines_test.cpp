@@ -1,3 +1,6 @@
+#include <cfenv>
+#include <csetjmp>
+
 #include "space/frame_of_sevens.h"
 #include "trelvin/space.h"
 
@@ -12,6 +15,24 @@ double relation(Point c, Point d) {
 
 float TRELVIN_CALL height(const std::int32_t &position) {
   return position == 1 ? 6.0F : position == 2 ? 10.0F : position == 3 ? -2.0F : 0.0F;
+}
+
+// How the processor rounds: 1 up, -1 down, 0 to nearest.
+int rounding() {
+  volatile float one = 1, three = 3;
+  const float sum = one / three + one / -three;
+  return sum > 0 ? 1 : sum < 0 ? -1 : 0;
+}
+
+// Roundings in which a function was called. It sets the other one, and leaves at the third call.
+std::vector<int> roundings;
+std::jmp_buf way_out;
+
+float TRELVIN_CALL turn_rounding(const std::int32_t &position) {
+  roundings.push_back(rounding());
+  std::fesetround(position == 1 ? FE_DOWNWARD : FE_UPWARD);
+  if (position == 3) std::longjmp(way_out, 1);  // NOLINT(cert-err52-cpp)
+  return 3;
 }
 
 }  // namespace
@@ -142,6 +163,27 @@ TEST(SpaceLines, PointsNearALine) {
   EXPECT_EQ(found(4, 7), (Values{1, 3, 0, 0, 2, 0}));
   EXPECT_EQ(found(4, 6.999F), (Values{3, 0, 0, 0, 1, 0}));
   EXPECT_EQ(found(4, infinity), (Values{1, 2, 3, 0, 3, 0}));
+}
+
+TEST(SpaceLines, FunctionIsCalledInTheStateOfTheHost) {
+  const float x[] = {5, 5, 5}, y[] = {1, 1, 1};
+  float d = 0;
+  std::int32_t status = unwritten_int, count = unwritten_int, index[3] = {};
+  trv3ldb(0, 0, 0, 1, 2, 3, 5, 1, 3, status, d);
+  const auto find = [&](std::int32_t n, float tol) {
+    std::fesetround(FE_UPWARD);
+    trvpnl(0, 0, 0, 1, 2, 3, x, y, turn_rounding, n, tol, status, count, index);
+  };
+  // Rounded up the distance is more, rounded down less.
+  find(2, d);
+  EXPECT_TRUE(count == 2 && rounding() == 1);
+  find(1, std::nextafter(d, 0.0F));
+  EXPECT_TRUE(count == 0 && rounding() == -1);
+  count = unwritten_int;
+  if (setjmp(way_out) == 0) find(3, d);  // NOLINT(cert-err52-cpp)
+  EXPECT_TRUE(count == unwritten_int && index[1] == 2 && rounding() == 1);
+  std::fesetround(FE_TONEAREST);
+  EXPECT_EQ(roundings, (std::vector<int>{1, -1, 1, 1, -1, 1}));
 }
 
 TEST(SpaceLines, PointCarriedAlong) {

@@ -79,6 +79,13 @@ TEST(Planes, PointOnThePlaneOfThreePoints) {
   EXPECT_EQ((Values{on(1, 0, 0, 41.9F), on(0, 1, 0, 13.9F), on(0, 0, 1, 20.9F),
                     on(not_a_number, 0, 0, infinity)}),
             (Values{-1, -1, -1, -1}));
+  // x + y + z + 1 = 0, added up as x + 1 + y + z: the 1 is lost beside 2^24, from the left only.
+  const float far = 16777216;
+  const auto lost = [](float x, float y, float z) {
+    return outputs(trvpsp, -1, 0, 0, 0, -1, 0, -1, 1, -1, x, y, z, 0)[0];
+  };
+  EXPECT_EQ((Values{lost(far, -far, 0), lost(far, 0, -far), lost(0, far, -far)}),
+            (Values{0, 0, 0}));
   const Point a = {1, 2, 3}, b = {3, 4, 5}, on_line = {5, 6, 7};
   EXPECT_EQ(outputs_at(trvpsp, a, b, on_line, 9, 9, 9, infinity), Values{-1});
 }

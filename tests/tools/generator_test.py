@@ -1,7 +1,10 @@
 """What is read of contracts, and what must never change."""
 
 import re
+import shutil
+import subprocess
 import sys
+import tempfile
 import unittest
 from pathlib import Path
 
@@ -10,7 +13,6 @@ sys.path.insert(0, str(ROOT / "tools"))
 
 import entries  # noqa: E402
 import model  # noqa: E402
-import rooms  # noqa: E402
 
 VALUES = """
 /** How things lie. */
@@ -131,13 +133,12 @@ class Reading(unittest.TestCase):
 
 class Entries(unittest.TestCase):
     def test_ordinals_never_move(self):
-        routines = model.read().routines
-        ordinals = entries.ordinals(routines)
-        self.assertEqual([ordinals[name] for name in ("trv123", "_trv123@44", "trvpds")], [1, 2, 161])
         new = model.Routine("trvaaa", "plane", "", 1, [model.Argument("x", "TrvIn")])
-        grown = entries.ordinals([new] + routines)
-        self.assertEqual(ordinals, {name: grown[name] for name in ordinals})
-        self.assertEqual([grown["trvaaa"], grown["_trvaaa@4"]], [285, 286])
+        ordinals = entries.ordinals([new, *model.read().routines])
+        for names, first in (("trv123 _trv123@44", 1), ("trvaaa _trvaaa@4", 285),
+                             ("trvmer1 trvmer11 _trvmer11@24 trvmer12", 127)):
+            got = [ordinals[name] for name in names.split()]
+            self.assertEqual(got, list(range(first, first + len(got))), names)
 
     def test_bodies_end_where_they_end(self):
         text = "TRELVIN_ROUTINE a(int x) { x; }\nTRELVIN_ROUTINE b(int x) {\n  if (x) {\n  }\n}\n"
@@ -146,12 +147,88 @@ class Entries(unittest.TestCase):
         self.assertNotIn("void", entries.bodies_of(text)[1][1])
 
 
+# Files with every fault that the check tells of: in contracts, then behind sound ones.
+CONTRACTS = {"include/trelvin/odd.h": """/**
+ * @file
+ */
+TRELVIN_ROUTINE trvpds(TrvIn x);
+"""}
+IN_CONTRACTS = """
+include/trelvin/odd.h:1: no title, or no indented example, behind its @file
+include/trelvin/odd.h: trelvin.h does not include it
+trvpds: the name stands for two things
+"""
+CODE = {
+    "src/entries/lists.cpp": """
+TRELVIN_ROUTINE trvord1(int *V) { const Door door; retained = 0; }
+TRELVIN_ROUTINE trvord(float *V) { V[0] = 1; }
+TRELVIN_ROUTINE trvpds(float *V) { const Door door; }
+""",
+    "src/lists/matching.cpp": """
+#include "properties/polygons.h"
+#include "nowhere/polygons.h"
+#include "trelvin/lists.h"
+// TrvOut is but a word here
+TRELVIN_ROUTINE trvnone(TrvIn x) { const Door door; }
+TRELVIN_ROUTINE trvsel1(int *V) { const Door door; }
+""",
+    "src/cellar/x.h": "",
+    "tests/hosts/digest.txt": "trvgone    0123456789abcdef\n",
+}
+IN_CODE = """
+trvgone: in tests/hosts/digest.txt, and no header declares it
+src/entries/lists.cpp: not in the order of its header
+trvpds: a body in src/entries/lists.cpp, declared elsewhere
+trvord: does not start with `const Door door;` or `Door door;`
+trvord1: retains nothing. Its body tells otherwise
+trvsel1: its body is not in src/entries/FAMILY.cpp
+trvnone: a body without a contract
+src/lists/matching.cpp: includes properties, which is not on a lower floor
+src/lists/matching.cpp: includes the unknown room nowhere
+src/lists/matching.cpp: a kernel includes the interface
+src/lists/matching.cpp: a kernel names TRELVIN_ROUTINE
+src/cellar/x.h: cellar has no floor in tools/rooms.py
+docs/routines.md is out of date: run tools/generate.py
+"""
+
+
+class Check(unittest.TestCase):
+    """`generate.py --check` in a copy of the tree."""
+
+    def assert_told(self, files, messages):
+        with tempfile.TemporaryDirectory() as folder:
+            for place in ("include", "src", "tools", "bindings", "examples", "tests/hosts"):
+                shutil.copytree(ROOT / place, Path(folder, place))
+            shutil.copy(ROOT / "README.md", folder)
+            for file, text in files.items():
+                Path(folder, file).parent.mkdir(exist_ok=True)
+                Path(folder, file).write_text(text)
+            command = [sys.executable, Path(folder, "tools/generate.py"), "--check"]
+            done = subprocess.run(command, stderr=subprocess.PIPE, text=True, check=False)
+        told = done.stderr.replace("generate: ", "").splitlines()
+        self.assertEqual(set(messages.strip().splitlines()) - set(told), set(), done.stderr)
+        self.assertNotIn("TrvOut", done.stderr)
+        self.assertEqual(done.returncode, 1)
+
+    def test_faults_of_contracts_are_told(self):
+        self.assert_told(CONTRACTS, IN_CONTRACTS)
+
+    def test_faults_of_code_and_outdated_files_are_told(self):
+        self.assert_told(CODE, IN_CODE)
+
+
 class Tests(unittest.TestCase):
+    @staticmethod
+    def routines_in(text):
+        """The routines that code names, outside comments and texts."""
+        return set(re.findall(r"\btrv\w+", re.sub(r'"[^"]*"', "", model.COMMENT.sub(" ", text))))
+
     def test_every_routine_has_a_unit_test(self):
-        tests = (ROOT / "tests").glob("*/*_test.cpp")
-        code = " ".join(model.COMMENT.sub(" ", test.read_text()) for test in tests)
+        self.assertEqual(self.routines_in('trva(x); // trvb\n/* trvc */ f("trvd")'), {"trva"})
+        tests = Path(__file__).resolve().parents[1].glob("*/*_test.cpp")
+        named = self.routines_in("\n".join(test.read_text() for test in tests))
         routines = {routine.name for routine in model.read().routines}
-        self.assertEqual(routines - set(re.findall(r"\btrv\w+", code)), set())
+        self.assertEqual(routines - named, set())
 
 
 if __name__ == "__main__":
