@@ -280,8 +280,8 @@ bool TraceFile::open() {
 // a file of its own, which is neither written to nor closed. A file that its user has deleted is closed.
 bool TraceFile::still_has_file() {
   struct stat now;
-  if (!look_at(handle_, now) || !S_ISREG(now.st_mode) || now.st_dev != file_.device ||
-      now.st_ino != file_.number || fcntl(handle_, F_GETFL) != file_.access) {
+  if (!look_at(handle_, now) || now.st_dev != file_.device || now.st_ino != file_.number ||
+      fcntl(handle_, F_GETFL) != file_.access) {
     return false;
   }
   if (now.st_nlink == 0) ::close(handle_);
