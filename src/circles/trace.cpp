@@ -242,7 +242,7 @@ bool TraceFile::open() {
 }
 
 // No host can close the handle and so get the same one for a file of its own.
-bool TraceFile::still_has_file() { return true; }
+bool TraceFile::still_has_file() const { return true; }
 
 bool TraceFile::write(std::string_view bytes) {
   const Turn turn(handle_, stuck_at_);
@@ -278,7 +278,7 @@ bool TraceFile::open() {
 
 // A host may close the number, as one does that wants no files of its parent's, and get it again for
 // a file of its own, which is neither written to nor closed. A file that its user has deleted is closed.
-bool TraceFile::still_has_file() {
+bool TraceFile::still_has_file() const {
   struct stat now;
   if (!look_at(handle_, now) || now.st_dev != file_.device || now.st_ino != file_.number ||
       fcntl(handle_, F_GETFL) != file_.access) {
