@@ -119,8 +119,8 @@ class Turn {
 
 #else
 
-// What the C library calls fstat and stat came into it late under these names. A library that is to
-// load with older ones asks the system itself, where both mean the same by their structure.
+// The C library has symbols named fstat and stat only since its version 2.33. To load with older
+// versions, the library asks the system itself, which on these machines fills the same structure.
 #if defined(__GLIBC__) && defined(__LP64__) && \
     (defined(__x86_64__) || defined(__aarch64__) || defined(__riscv) || defined(__s390x__))
 bool look_at(int file, struct stat &found) { return syscall(SYS_fstat, file, &found) == 0; }
@@ -276,8 +276,9 @@ bool TraceFile::open() {
   return true;
 }
 
-// A host may close the number, as one does that wants no files of its parent's, and get it again for
-// a file of its own, which is neither written to nor closed. A file that its user has deleted is closed.
+// A daemon closes all numbers that it finds open. If the host has done so, the number may belong to a
+// file of the host's, which is neither written to nor closed. If a user has deleted the trace file,
+// it is closed.
 bool TraceFile::still_has_file() const {
   struct stat now;
   if (!look_at(handle_, now) || now.st_dev != file_.device || now.st_ino != file_.number ||
