@@ -68,7 +68,7 @@ HANDLE open_to_append(DWORD access) {
 }
 
 // Appending in one piece is the system's promise, but not every system that runs Windows programs
-// keeps it between processes. So writers take turns by the lock of a byte far behind the text. Where
+// keeps it between processes. So writers take turns by the lock of a byte far behind the text. If
 // there are no locks, as on some network drives, they write at once.
 class Turn {
  public:
@@ -149,8 +149,8 @@ int open_to_append() {
 }
 
 #ifndef __wasi__
-// Holds back, from this thread, the signal by which the system ends a host whose file is at the limit
-// of its size.
+// Holds back, from this thread, the signal by which the system ends a host whose file is at the
+// limit of its size.
 class LimitSignal {
  public:
   LimitSignal() {
@@ -276,9 +276,9 @@ bool TraceFile::open() {
   return true;
 }
 
-// A daemon closes all numbers that it finds open. If the host has done so, the number may belong to a
-// file of the host's, which is neither written to nor closed. If a user has deleted the trace file,
-// it is closed.
+// A daemon closes all numbers that it finds open. If the host has done so, the number may belong to
+// a file of the host's, which is neither written to nor closed. If a user has deleted the trace
+// file, it is closed.
 bool TraceFile::still_has_file() const {
   struct stat now;
   if (!look_at(handle_, now) || now.st_dev != file_.device || now.st_ino != file_.number ||
