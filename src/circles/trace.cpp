@@ -68,7 +68,7 @@ HANDLE open_to_append(DWORD access) {
 }
 
 // Appending in one piece is the system's promise, but not every system that runs Windows programs
-// keeps it between processes. So writers take turns by the lock of a byte far behind the text. Where
+// keeps it between processes. So writers take turns by the lock of a byte far behind the text. If
 // there are no locks, as on some network drives, they write at once.
 class Turn {
  public:
@@ -119,8 +119,8 @@ class Turn {
 
 #else
 
-// What the C library calls fstat and stat came into it late under these names. A library that is to
-// load with older ones asks the system itself, where both mean the same by their structure.
+// The C library has symbols named fstat and stat only since its version 2.33. To load with older
+// versions, the library asks the system itself, which on these machines fills the same structure.
 #if defined(__GLIBC__) && defined(__LP64__) && \
     (defined(__x86_64__) || defined(__aarch64__) || defined(__riscv) || defined(__s390x__))
 bool look_at(int file, struct stat &found) { return syscall(SYS_fstat, file, &found) == 0; }
@@ -149,8 +149,8 @@ int open_to_append() {
 }
 
 #ifndef __wasi__
-// Holds back, from this thread, the signal by which the system ends a host whose file is at the limit
-// of its size.
+// Holds back, from this thread, the signal by which the system ends a host whose file is at the
+// limit of its size.
 class LimitSignal {
  public:
   LimitSignal() {
@@ -242,7 +242,7 @@ bool TraceFile::open() {
 }
 
 // No host can close the handle and so get the same one for a file of its own.
-bool TraceFile::still_has_file() { return true; }
+bool TraceFile::still_has_file() const { return true; }
 
 bool TraceFile::write(std::string_view bytes) {
   const Turn turn(handle_, stuck_at_);
@@ -276,12 +276,13 @@ bool TraceFile::open() {
   return true;
 }
 
-// A host may close the number, as one does that wants no files of its parent's, and get it again for
-// a file of its own, which is neither written to nor closed. A file that its user has deleted is closed.
-bool TraceFile::still_has_file() {
+// A daemon closes all numbers that it finds open. If the host has done so, the number may belong to
+// a file of the host's, which is neither written to nor closed. If a user has deleted the trace
+// file, it is closed.
+bool TraceFile::still_has_file() const {
   struct stat now;
-  if (!look_at(handle_, now) || !S_ISREG(now.st_mode) || now.st_dev != file_.device ||
-      now.st_ino != file_.number || fcntl(handle_, F_GETFL) != file_.access) {
+  if (!look_at(handle_, now) || now.st_dev != file_.device || now.st_ino != file_.number ||
+      fcntl(handle_, F_GETFL) != file_.access) {
     return false;
   }
   if (now.st_nlink == 0) ::close(handle_);

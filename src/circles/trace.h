@@ -80,7 +80,7 @@ class TraceFile {
   } file_ = {};
 #endif
   bool open();
-  bool still_has_file();
+  [[nodiscard]] bool still_has_file() const;
   bool write(std::string_view bytes);
 
   Handle handle_ = {};

@@ -283,9 +283,12 @@ TEST_F(Trace, HolderOfTheLockIsWaitedForOnceUnlessTheFileGrows) {
   holder.write();
   expect_one_wait();
   EXPECT_EQ(trace(), "x");
+  std::filesystem::create_directory("other");
+  std::filesystem::current_path("other");  // The file that was opened stays open.
   holder.write();
   CloseHandle(CreateThread(nullptr, 0, write_for_a_while_and_unlock, &holder, 0, nullptr));
   write_one();
+  std::filesystem::current_path("..");
   const std::string written = trace();
   EXPECT_EQ(written.substr(written.find_first_not_of('x')), one);
 }
