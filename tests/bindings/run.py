@@ -3,8 +3,7 @@
 
     tests/bindings/run.py [native] [windows]
 
-Native needs build/native, windows build/windows and Wine. A compiler that is missing is a failure,
-but for those to Windows that are no package: free_pascal_win32.sh and node_win32.sh fetch them.
+Native needs build/native, windows build/windows and Wine; both what ./dev setup installs and fetches.
 """
 
 import json
@@ -18,7 +17,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 OUT = ROOT / "build" / "bindings"
 PASCAL_WIN32 = ROOT / "build" / "free-pascal-win32"
-NODE_WIN32 = ROOT / "build" / "node-win32"
+NPM = ROOT / "build" / "npm" / "node_modules"
 sys.path.insert(0, str(ROOT / "tools"))
 
 import bindings_facts  # noqa: E402
@@ -36,7 +35,7 @@ EXAMPLES = {"c": "girder.c", "cpp": "girder.cpp", "fortran": "girder.f90", "pasc
 
 WINDOWS_LINK = "-static {lib}/libTrelvin.dll.a"
 RUNNERS = {("native", "csharp"): "mono", ("native", "node"): "node",
-           ("windows", "node"): f"{NODE_WIN32}/node.exe"}
+           ("windows", "node"): f"{NPM}/node-win-x86/bin/node.exe"}
 # Platform, language: package of Debian, command. The first word of a command is the compiler.
 COMMANDS = {
     ("native", "c"): ("gcc", "gcc -O2 -Iinclude {source} -L{lib} -ltrelvin -lm -o {program}"),
@@ -103,23 +102,21 @@ def table_of(platform, language, program, lib):
 
 
 def install_for_node(platform):
-    """The package of bindings/node where the programs of a platform will find it."""
-    out = OUT / platform / "node"
+    """The files that the package of bindings/node lists, among what ./dev setup has fetched."""
+    package, out = ROOT / "bindings/node", OUT / platform / "node"
+    facts = json.loads((package / "package.json").read_text())
+    locked = json.loads((ROOT / "tests/web/package-lock.json").read_text())["packages"]
     shutil.rmtree(out, ignore_errors=True)
+    shutil.rmtree(NPM / "trelvin", ignore_errors=True)
     out.mkdir(parents=True)
-    command = ["npm", "install", "--prefix", out, "--no-package-lock", "--install-links",
-               "--ignore-scripts", "--no-audit", "--no-fund", "./bindings/node"]
-    # What koffi would take there; force, since it is not for this machine.
-    if platform == "windows":
-        package = json.loads((ROOT / "bindings/node/package.json").read_text())
-        version = package["dependencies"]["koffi"]
-        command += ["--force", f"@koromix/koffi-win32-ia32@{version}"]
-    name = f"{platform}: package for Node.js"
-    if not shutil.which("npm"):
-        report(name, "npm is missing: apt-get install npm")
-        return
-    done = run(command)
-    report(name, done.stderr[-1000:] if done.returncode else "")
+    (NPM / "trelvin").mkdir(parents=True)
+    for file in ["package.json", *facts["files"]]:
+        shutil.copy(package / file, NPM / "trelvin")
+    (out / "node_modules").symlink_to(NPM)
+    # koffi finds its library for 32-bit Windows by this name.
+    wrong = [name for name in ("koffi", "@koromix/koffi-win32-ia32")
+             if locked[f"node_modules/{name}"]["version"] != facts["dependencies"]["koffi"]]
+    report(f"{platform}: package for Node.js", ", ".join(wrong) and f"locked otherwise: {wrong}")
 
 
 def check_host(platform, language, source, expected):
@@ -127,10 +124,7 @@ def check_host(platform, language, source, expected):
     name = f"{platform}: {source.relative_to(ROOT)}"
     tool = RUNNERS[platform, language] if language == "node" else command.split()[0]
     if not shutil.which(tool):
-        if package:
-            report(name, f"{tool} is missing: apt-get install {package}")
-        else:
-            print(f"not run {name}: see tests/bindings/*_win32.sh")
+        report(name, f"{tool} is missing: " + (f"apt-get install {package}" if package else "./dev setup"))
         return
     out = OUT / platform / language
     out.mkdir(parents=True, exist_ok=True)
