@@ -1,15 +1,26 @@
 #!/usr/bin/env bash
 # Installs what building and testing Trelvin needs on Debian 12, and nothing that is there already.
-# --demo: only what ./dev demo needs. Further packages are arguments.
+#
+#     tools/setup.sh [--demo] [--allow-downgrades] [PACKAGE...]
+#
+# --demo: only what ./dev demo needs. --allow-downgrades: 64-bit libraries may go back to the
+# version of their 32-bit twins, also outside a container.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+demo=no
+may_downgrade=no
 packages=(
   cmake ninja-build g++ python3 googletest             # native builds, generated files, tests
   g++-mingw-w64-i686-win32 wine wine32:i386            # the Windows DLL, and running it
 )
-demo=no
-[ "${1:-}" != --demo ] || { demo=yes && shift; }
+for argument; do
+  case $argument in
+    --demo) demo=yes ;;
+    --allow-downgrades) may_downgrade=yes ;;
+    *) packages+=("$argument") ;;
+  esac
+done
 [ $demo = yes ] || packages+=(
   clang libclang-rt-14-dev clang-format clang-tidy      # sanitizers, formatting
   python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
@@ -24,49 +35,80 @@ demo=no
   g++-mingw-w64-x86-64-win32 g++-aarch64-linux-gnu qemu-user-static # other machines
   llvm                                                  # the library for Microsoft's linker
 )
-packages+=("$@")
 wine64=build/wine64-packages # where 64-bit Wine is unpacked if it can not be installed
+
+log=$(mktemp)
+pins=$(mktemp)
+trap 'rm -f "$log" "$pins"' EXIT
+
+fail() {  # MESSAGE
+  tail -n 20 "$log" >&2
+  echo "setup: $1" >&2
+  exit 1
+}
+
+# --- Debian's packages ------------------------------------------------------------------------
 
 installed() {
   [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-  echo "setup: this script installs Debian packages; on another system provide the equivalents of:" >&2
-  echo "setup:   ${packages[*]}" >&2
-  exit 1
-fi
-
-missing=()
-for package in "${packages[@]}"; do
-  installed "$package" || missing+=("$package")
-done
-# Other suppliers' nodejs brings its own npm, and Debian's package conflicts with it.
-[ $demo = yes ] || command -v npm >/dev/null || missing+=(npm)
-missing64=()
-[ $demo = yes ] || [ -d "$wine64" ] || installed wine64 || missing64=(wine64)
-[ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ] || exit 0
-
-echo "setup: installing, which takes some minutes: ${missing[*]}${missing64[*]:+ wine64}"
 as_root=()
-if [ "$(id -u)" -ne 0 ]; then
-  if ! command -v sudo >/dev/null; then
-    echo "setup: run as root, or install sudo; missing: ${missing[*]}" >&2
+apt_get() {
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive LC_ALL=C \
+    apt-get -o DPkg::Lock::Timeout=300 -y -q --no-install-recommends "$@" >"$log" 2>&1
+}
+
+in_container() {
+  [ "${CI:-}" = true ] || if command -v systemd-detect-virt >/dev/null; then
+    systemd-detect-virt --container --quiet
+  else
+    [ -e /.dockerenv ] || [ -e /run/.containerenv ]
+  fi
+}
+
+# apt-get installs a 64-bit library and its 32-bit twin in one version only. The twins get the version
+# that is on offer for 32 bits; all other packages keep their newest, security updates included.
+pin_twins() {
+  apt-cache depends --recurse --no-recommends --no-suggests --no-conflicts --no-breaks \
+    --no-replaces --no-enhances wine32:i386 | grep ':i386$' | sort -u |
+    xargs --no-run-if-empty apt-cache --no-all-versions show |
+    awk -v RS= -F '\n' '/\nMulti-Arch: same/ {
+      for (i = 1; i <= NF; ++i) if (split($i, word, ": ") == 2) field[word[1]] = word[2]
+      if (!known[field["Package"]]++)
+        print "Package: " field["Package"] "\nPin: version " field["Version"] "\nPin-Priority: 1001\n"
+    }' >"$pins"
+}
+
+# Of a simulation, what would be taken back.
+taken_back() { awk '/^[^ ]/ { on = /DOWNGRADED:$/; next } on' "$log" | xargs -n 1; }
+
+install_with_twins() {  # PACKAGE...
+  local package
+  local pinned=(-o "Dir::Etc::Preferences=$pins" --allow-downgrades --no-remove install "$@")
+  echo "setup: the newest 32- and 64-bit versions do not fit together; apt-get would do this instead:"
+  pin_twins
+  apt_get -s "${pinned[@]}" || fail "apt-get could not install: $*"
+  grep -vE '^(Inst|Conf) ' "$log"
+  for package in $(taken_back); do
+    grep -qx "Package: $package" "$pins" ||
+      fail "nothing was changed: $package would be taken back, which has no 32-bit twin here"
+  done
+  if [ $may_downgrade = no ] && ! in_container; then
+    echo "setup: nothing was changed. If this machine may take these packages back, run" >&2
+    echo "setup:   tools/setup.sh${options:+ $options} --allow-downgrades" >&2
+    echo "setup: otherwise work in a container, or wait for the 32-bit updates." >&2
     exit 1
   fi
-  as_root=(sudo)
-fi
-export DEBIAN_FRONTEND=noninteractive
-log=$(mktemp)
-pins=$(mktemp)
-trap 'rm -f "$log" "$pins"' EXIT
-
-# The 32-bit Windows host programs run under a 32-bit Wine.
-[[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
-install() {
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -o DPkg::Lock::Timeout=300 -y -q --no-install-recommends "$@" >"$log" 2>&1
+  apt_get "${pinned[@]}" || fail "apt-get could not install: $*"
 }
+
+install() {  # PACKAGE...
+  [ $# -gt 0 ] && ! apt_get install "$@" || return 0
+  grep -qE 'unmet dependencies|held broken packages' "$log" || fail "apt-get could not install: $*"
+  install_with_twins "$@"
+}
+
 # A 64-bit Wine runs from any folder, also where it and the 32-bit one are refused together.
 unpack_wine64() {
   local folder
@@ -79,27 +121,54 @@ unpack_wine64() {
   mv "$folder/root" "$wine64"
   rm -r "$folder"
 }
-# One stale index does not matter if the packages can be had all the same; the installation will tell.
-"${as_root[@]}" apt-get update -q >"$log" 2>&1 || { echo "setup: package lists partly out of date:" >&2; grep '^E:' "$log" >&2 || true; }
-# Where a 64-bit library is newer or older than its 32-bit twin on offer, the resolver refuses until
-# the release is named.
-release=$(. /etc/os-release && echo "${VERSION_CODENAME:-stable}")
-install_all() { [ $# -eq 0 ] || install "$@" || install -t "$release" --allow-downgrades "$@"; }
-# Where the newer 32-bit twin can not be had at all, the 64-bit library goes back to the release too.
-install_from_release() {
-  printf 'Package: *\nPin: release n=%s\nPin-Priority: 1001\n' "$release" >"$pins"
-  install -o "Dir::Etc::Preferences=$pins" --allow-downgrades "$@" || return
-  echo "setup: taken back to their versions in $release, for want of newer 32-bit twins:"
-  sed -n '/will be DOWNGRADED:$/,/^[^ T]/s/^  //p' "$log"
-}
-install_all "${missing[@]}" || install_from_release "${missing[@]}" || {
-  tail -n 20 "$log" >&2
-  echo "setup: apt-get could not install: ${missing[*]}" >&2
+
+if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+  echo "setup: this script installs Debian packages; on another system provide the equivalents of:" >&2
+  echo "setup:   ${packages[*]}" >&2
   exit 1
-}
-install_all ${missing64[@]:+--no-remove wine64} || unpack_wine64 || {
-  tail -n 20 "$log" >&2
-  echo "setup: apt-get could neither install nor download wine64" >&2
-  exit 1
-}
-echo "setup: done"
+fi
+
+options=$*
+missing=()
+for package in "${packages[@]}"; do
+  installed "$package" || missing+=("$package")
+done
+# Other suppliers' nodejs brings its own npm, and Debian's package conflicts with it.
+[ $demo = yes ] || command -v npm >/dev/null || missing+=(npm)
+missing64=()
+[ $demo = yes ] || [ -d "$wine64" ] || installed wine64 || missing64=(wine64)
+
+if [ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ]; then
+  echo "setup: installing, which takes some minutes: ${missing[*]}${missing64[*]:+ wine64}"
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || fail "run as root, or install sudo; missing: ${missing[*]}"
+    as_root=(sudo)
+  fi
+  # The 32-bit Windows host programs run under a 32-bit Wine.
+  [[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
+  # One stale index does not matter if the packages can be had all the same; the installation will tell.
+  apt_get update || { echo "setup: package lists partly out of date:" >&2; grep '^E:' "$log" >&2 || true; }
+  install "${missing[@]}"
+  [ ${#missing64[@]} -eq 0 ] || apt_get --no-remove install wine64 || unpack_wine64 ||
+    fail "apt-get could neither install nor download wine64"
+  echo "setup: done"
+fi
+
+# --- what is no package of Debian's -------------------------------------------------------------
+
+[ $demo = no ] || exit 0
+mkdir -p build
+# Packages of Node.js, by their hashes. Force, since one is Node.js for another machine.
+if ! cmp -s tests/web/package-lock.json build/npm/package-lock.json; then
+  echo "setup: fetching packages of Node.js into build/npm"
+  rm -rf build/npm build/npm.new
+  mkdir build/npm.new
+  cp tests/web/package*.json build/npm.new
+  npm ci --prefix build/npm.new --force --ignore-scripts --no-audit --no-fund >"$log" 2>&1 ||
+    fail "npm could not fetch the packages of tests/web/package-lock.json"
+  mv build/npm.new build/npm
+fi
+if [ ! -e build/free-pascal-win32/units/fpintres.ppu ]; then
+  echo "setup: making Free Pascal for 32-bit Windows in build/free-pascal-win32"
+  tests/bindings/free_pascal_win32.sh >"$log" 2>&1 || fail "Free Pascal for Windows could not be made"
+fi

@@ -53,19 +53,12 @@ def _prepare_python(folder):
 
 
 def _prepare_javascript(folder):
-    """The package, with what it depends on; npm is asked where that is not there yet."""
-    package, modules = BINDINGS / "node", folder / "node_modules"
-    if not _has_dependencies(package, modules):
-        _command(["npm", "install", "--prefix", folder, "--no-package-lock", "--install-links",
-                  "--ignore-scripts", "--no-audit", "--no-fund", package], folder)
-    shutil.copytree(package, modules / "trelvin", dirs_exist_ok=True)
-
-
-def _has_dependencies(package, modules):
-    needed = json.loads((package / "package.json").read_text())["dependencies"]
-    files = {name: modules / name / "package.json" for name in needed}
-    return all(file.exists() and json.loads(file.read_text())["version"] == needed[name]
-               for name, file in files.items())
+    """The package, among those that it depends on, which ./dev setup fetches."""
+    modules = headers.ROOT / "build/npm/node_modules"
+    shutil.copytree(BINDINGS / "node", modules / "trelvin", dirs_exist_ok=True)
+    shutil.rmtree(folder / "node_modules", ignore_errors=True)
+    (folder / "node_modules").unlink(missing_ok=True)
+    (folder / "node_modules").symlink_to(modules)
 
 
 PREPARE = {"Fortran": _prepare_fortran, "Pascal": _prepare_pascal, "C#": _prepare_csharp,

@@ -52,7 +52,7 @@ TRELVIN_ROUTINE trvcer(TrvIn xc, TrvIn yc, TrvIn r, TrvOut D, TrvOut E, TrvOut F
  * Far from the origin F loses the radius. Points of a circle of radius 10 are off by up to 0.15 if
  * its centre is (1000, 1000), and by up to 9 at (1e4, 1e4). At (1e5, 1e5) the line (3, 4, -699925)
  * misses the circle by 5, but the routine gives two points 97 apart. Move the origin next to the
- * circle first (trvtra).
+ * circle first (trvtra). trvcer6, trvcer8 and trvcer9 inherit this.
  *
  * Retains: nothing.
  *

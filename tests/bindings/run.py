@@ -16,7 +16,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 OUT = ROOT / "build" / "bindings"
-NODE_WIN32 = ROOT / "build" / "node-win32"
+NODE_WIN32 = ROOT / "build/npm/node_modules/node-win-x86/bin"
 sys.path.insert(0, str(ROOT / "tools"))
 
 import model  # noqa: E402

@@ -1,21 +1,22 @@
 // The section designer in Chromium, against the command line.
 //
-//     (mkdir -p build/web-tests && cp tests/web/package.json build/web-tests/ &&
-//       npm install --prefix build/web-tests --no-package-lock --install-links ./bindings/node)
+//     ./dev setup    fetches the browser's driver and koffi, once
 //     node --test tests/web/designer_test.mjs
 import assert from 'node:assert/strict';
 import { execFileSync, spawnSync } from 'node:child_process';
-import { cpSync, readFileSync, statSync, writeFileSync } from 'node:fs';
+import { cpSync, mkdirSync, readFileSync, statSync, writeFileSync } from 'node:fs';
 import { createRequire } from 'node:module';
 import { join } from 'node:path';
 import { after, before, test } from 'node:test';
 import { fileURLToPath, pathToFileURL } from 'node:url';
 
 const root = fileURLToPath(new URL('../..', import.meta.url));
-const work = join(root, 'build/web-tests/');
+const packages = join(root, 'build/npm/');
+const work = join(packages, 'web-tests/');
+mkdirSync(work, { recursive: true });
 const file = join(root, 'build/wasm/designer.html');
 const url = pathToFileURL(file).href;
-const { chromium } = createRequire(work)('playwright-core');
+const { chromium } = createRequire(packages)('playwright-core');
 
 const SECTIONS = [
   'ia 400 310 150 22 11 8.5',
@@ -336,9 +337,8 @@ before(() => {
   ]);
 });
 
-// The package for Node.js as it is now: npm leaves one of the same version as it was.
 before(() =>
-  cpSync(join(root, 'bindings/node'), join(work, 'node_modules/trelvin'), { recursive: true }),
+  cpSync(join(root, 'bindings/node'), join(packages, 'node_modules/trelvin'), { recursive: true }),
 );
 
 for (const language of Object.keys(HOSTS)) {
