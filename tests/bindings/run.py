@@ -19,6 +19,7 @@ OUT = ROOT / "build" / "bindings"
 NODE_WIN32 = ROOT / "build/npm/node_modules/node-win-x86/bin"
 sys.path.insert(0, str(ROOT / "tools"))
 
+import basic  # noqa: E402
 import model  # noqa: E402
 import names  # noqa: E402
 import pages  # noqa: E402
@@ -131,33 +132,6 @@ def check_pages(platforms):
             report(name, problem)
 
 
-DECLARATION = re.compile(
-    r'^Public Declare (PtrSafe )?Sub (\w+) Lib "(.*?)" Alias "(.*?)" \((.*)\)$')
-BASIC_TYPES = {"r": "Single", "i": "Long", "rs": "Single", "is": "Long"}
-
-
-def basic_faults():
-    """The Basic module, read back: within what its editor takes, and the headers' arguments."""
-    text = (ROOT / "bindings/basic/Trelvin.bas").read_text()
-    if re.search(r"( _\n.*){25}", text) or max(map(len, text.splitlines())) > 1023:
-        yield "a line or its continuations are too long for the editor"
-    found = DECLARATION.findall
-    lines = re.sub(r" _\n\s*", " ", text).splitlines()
-    blocks = (("PtrSafe ", "Trelvin64.dll", "LongPtr"), ("", "Trelvin.dll", "Long"))
-    for safe, library, address in blocks:
-        declared = {d[0][1]: d[0] for d in map(found, lines) if d and d[0][0] == safe}
-        if list(declared) != [routine.name for routine in ROUTINES]:
-            yield f"{library}: the routines are not those of the headers"
-        for name, (_, _, lib, alias, parameters) in declared.items():
-            routine = next(r for r in ROUTINES if r.name == name)
-            wanted = [f"ByVal {a.name} As {address}" if a.kind == "function"
-                      else f"ByRef {a.name} As {BASIC_TYPES[probes.kind_of(a)]}"
-                      for a in routine.arguments]
-            found_here = lib, alias, re.sub(r"_(?= As)", "", parameters)
-            if found_here != (library, name, ", ".join(wanted)):
-                yield f"{library}: {name}: {parameters}"
-
-
 def printed_by(language, name, code):
     """What a program in C or C++ prints, or why it does not build."""
     compiler, suffix, standard = {"C": ("gcc", "c", "c11"), "C++": ("g++", "cpp", "c++17")}[language]
@@ -182,7 +156,7 @@ def main():
     platforms = sys.argv[1:] or ["native", "windows"]
     OUT.mkdir(parents=True, exist_ok=True)
     os.chdir(OUT)  # one routine writes a trace file where it is
-    report("basic: every routine as its header has it", "; ".join(basic_faults()))
+    report("basic: every routine as its header has it", "; ".join(basic.faults(INTERFACE)))
     check_pages(platforms)
     for platform in platforms:
         if not list((ROOT / "build" / platform / "lib").glob("lib*")):

@@ -40,6 +40,7 @@ int main() {
   const auto routines = all_routines();
   std::vector<Hashes> found(threads);
   std::vector<std::thread> running;
+  running.reserve(threads);
   for (Hashes &hashes : found) running.emplace_back([&] { hashes = hashes_of(routines); });
   for (std::thread &thread : running) thread.join();
   const Hashes alone = hashes_of(routines);
