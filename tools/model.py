@@ -14,6 +14,7 @@ one, is read; one that cannot be read is a fault, told with its file and line.
     unwritten unless STATUS is 0            always the last clause
     unwritten if COUNT < N
     unwritten on a condition: ...           what no status or count tells
+    unchanged                               of an input and output that always is
     Retains: nothing.                       or `WHAT (OWNER); WHAT (OWNER).`: the routine that owns it
     Cost: ...                               time and memory
 """
@@ -226,8 +227,8 @@ class _Expression:
 # --- when an output is unwritten --------------------------------------------------------------
 
 KEPT = re.compile(
-    rf"(unwritten|unchanged) (?:(if|unless) (\w+) is ({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?)"
-    rf"|if (\w+) < ({NUMBER})|on a condition: (.+))"
+    rf"(unwritten|unchanged)(?: (if|unless) (\w+) is ({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?)"
+    rf"| if (\w+) < ({NUMBER})| on a condition: (.+))?"
 )
 KEEPS = re.compile(r"\b(unwritten|unchanged|untouched|not written)\b")
 
@@ -246,13 +247,13 @@ class Kept:
 
 def _kept_of(clause, direction, arguments):
     match = KEPT.fullmatch(clause)
-    if not match:
+    if not match or clause == "unwritten":
         raise Unreadable(f"`{clause}` does not say when in the form of tools/model.py")
     word, way, name, numbers, count, bound, condition = match.groups()
     if (word == "unchanged") != (direction == "inout"):
         raise Unreadable(f"`{clause}`: an output is unwritten, an input and output unchanged")
-    if condition:
-        return Kept(clause, condition=condition)
+    if condition or clause == "unchanged":
+        return Kept(clause, condition=condition or "")
     teller = arguments.get(name or count)
     if not teller or teller.kind != "integer" or teller.is_array:
         raise Unreadable(f"`{clause}`: {name or count} is no Integer argument")
