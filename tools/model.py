@@ -19,6 +19,7 @@ one, is read; one that cannot be read is a fault, told with its file and line.
     Cost: ...                               time and memory
 """
 
+import itertools
 import re
 from dataclasses import dataclass, field
 from pathlib import Path
@@ -119,6 +120,9 @@ def _values_of(text, owner, name, shared):
             result.other = item
         else:
             raise Unreadable(f"`{item}` is no value with its name and meaning")
+    for one, other in itertools.combinations(result.values, 2):
+        if _shared(one, one) + _shared(other, other) < _shared(one, other) + _shared(other, one):
+            raise Unreadable(f"the meanings of {one.name} and {other.name} seem to be exchanged")
     for what in ("number", "name"):
         found = [getattr(value, what) for value in result.values]
         if len(set(found)) < len(found):
@@ -127,6 +131,12 @@ def _values_of(text, owner, name, shared):
         title = "".join(word.capitalize() for word in [*owner.split("_"), name])
         result.enumeration = Enumeration(title, owner, label, result.values, shared=False)
     return result
+
+
+def _shared(named, told):
+    """How many words of the name of one value are in the meaning of another."""
+    words = re.findall(r"\w+", told.meaning.lower())
+    return sum(any(w.startswith(part[:5]) for w in words) for part in named.name.split("_"))
 
 
 def _value(match, common):

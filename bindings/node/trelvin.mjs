@@ -1761,8 +1761,8 @@ export const trvpl4 = routine("trvpl4", ["in real x", "in real y", "in real z", 
 /**
  * Plane with given intercepts on the axes.
  *
- * status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the tolerance
- * or NaN.
+ * status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an intercept
+ * is within the tolerance or NaN.
  *
  * @type {(ix: number, iy: number, iz: number) => {a: number, b: number, c: number, d: number,
  *   status: number}}

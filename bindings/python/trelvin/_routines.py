@@ -414,7 +414,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     "trvpl5": {
         "status": {
             0: 'the plane is computed',
-            1: 'an intercept is within the tolerance or NaN',
+            1: 'there is no plane, since an intercept is within the tolerance or NaN',
         },
     },
     "trvpl6": {
@@ -6087,8 +6087,8 @@ def trvpl5(
 
     Returns:
       a, b, c, d: plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
-      status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the
-        tolerance or NaN
+      status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an
+        intercept is within the tolerance or NaN
     """
     return _trvpl5.cells(ix, iy, iz, _NAN, _NAN, _NAN, _NAN, 0)
 
