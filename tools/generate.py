@@ -82,6 +82,8 @@ ROUTINES_HEAD = """\
 //                                                 keeps the caller's bytes
 // KEPT_BELOW(name, argument, teller, bound)       likewise, where it is below the bound
 // KEPT_ON_CONDITION(name, argument)               likewise, by a condition in words
+// KEPT_ALWAYS(name, argument)            an output that comes back as it went in
+// READ(name, argument)                   an output that is read as well
 // RETAINS(name, owner)                   a routine whose retained values decide, this one included
 // UNSHARED(name)                         outputs may not share the address of an input
 // RETAINS(name)                          values from call to call: one thread at a time may call it
@@ -95,6 +97,8 @@ MACROS = [
     "KEPT(name, argument, teller, further, ...)",
     "KEPT_BELOW(name, argument, teller, bound)",
     "KEPT_ON_CONDITION(name, argument)",
+    "KEPT_ALWAYS(name, argument)",
+    "READ(name, argument)",
     "RETAINS(name, owner)",
     "UNSHARED(name)",
     "RETAINS(name)",
@@ -141,7 +145,11 @@ def _facts(routine, i, argument):
         yield f"STATUS({place}, none, {argument.always})"
     elif argument.least is not None:
         yield f"LEAST({place}, {argument.least})"
-    if kept and kept.condition:
+    if argument.direction == "inout":
+        yield f"READ({place})"
+    if kept and not kept.name and not kept.condition:
+        yield f"KEPT_ALWAYS({place})"
+    elif kept and kept.condition:
         yield f"KEPT_ON_CONDITION({place})"
     elif kept and kept.less_than is not None:
         yield f"KEPT_BELOW({place}, {routine.positions[kept.name]}, {kept.less_than})"

@@ -14,10 +14,12 @@ one, is read; one that cannot be read is a fault, told with its file and line.
     unwritten unless STATUS is 0            always the last clause
     unwritten if COUNT < N
     unwritten on a condition: ...           what no status or count tells
+    unchanged                               of an input and output that always is
     Retains: nothing.                       or `WHAT (OWNER); WHAT (OWNER).`: the routine that owns it
     Cost: ...                               time and memory
 """
 
+import itertools
 import re
 from dataclasses import dataclass, field
 from pathlib import Path
@@ -118,6 +120,9 @@ def _values_of(text, owner, name, shared):
             result.other = item
         else:
             raise Unreadable(f"`{item}` is no value with its name and meaning")
+    for one, other in itertools.combinations(result.values, 2):
+        if _shared(one, one) + _shared(other, other) < _shared(one, other) + _shared(other, one):
+            raise Unreadable(f"the meanings of {one.name} and {other.name} seem to be exchanged")
     for what in ("number", "name"):
         found = [getattr(value, what) for value in result.values]
         if len(set(found)) < len(found):
@@ -126,6 +131,12 @@ def _values_of(text, owner, name, shared):
         title = "".join(word.capitalize() for word in [*owner.split("_"), name])
         result.enumeration = Enumeration(title, owner, label, result.values, shared=False)
     return result
+
+
+def _shared(named, told):
+    """How many words of the name of one value are in the meaning of another."""
+    words = re.findall(r"\w+", told.meaning.lower())
+    return sum(any(w.startswith(part[:5]) for w in words) for part in named.name.split("_"))
 
 
 def _value(match, common):
@@ -226,8 +237,8 @@ class _Expression:
 # --- when an output is unwritten --------------------------------------------------------------
 
 KEPT = re.compile(
-    rf"(unwritten|unchanged) (?:(if|unless) (\w+) is ({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?)"
-    rf"|if (\w+) < ({NUMBER})|on a condition: (.+))"
+    rf"(unwritten|unchanged)(?: (if|unless) (\w+) is ({NUMBER}(?:, {NUMBER})*(?: or {NUMBER})?)"
+    rf"| if (\w+) < ({NUMBER})| on a condition: (.+))?"
 )
 KEEPS = re.compile(r"\b(unwritten|unchanged|untouched|not written)\b")
 
@@ -246,13 +257,13 @@ class Kept:
 
 def _kept_of(clause, direction, arguments):
     match = KEPT.fullmatch(clause)
-    if not match:
+    if not match or clause == "unwritten":
         raise Unreadable(f"`{clause}` does not say when in the form of tools/model.py")
     word, way, name, numbers, count, bound, condition = match.groups()
     if (word == "unchanged") != (direction == "inout"):
         raise Unreadable(f"`{clause}`: an output is unwritten, an input and output unchanged")
-    if condition:
-        return Kept(clause, condition=condition)
+    if condition or clause == "unchanged":
+        return Kept(clause, condition=condition or "")
     teller = arguments.get(name or count)
     if not teller or teller.kind != "integer" or teller.is_array:
         raise Unreadable(f"`{clause}`: {name or count} is no Integer argument")

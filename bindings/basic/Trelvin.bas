@@ -1172,8 +1172,8 @@ Public Declare PtrSafe Sub trvpl4 Lib "Trelvin64.dll" Alias "trvpl4" (ByRef x As
     ByRef status As Long)
 
 ' Plane with given intercepts on the axes.
-' status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the tolerance
-' or NaN.
+' status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an intercept
+' is within the tolerance or NaN.
 Public Declare PtrSafe Sub trvpl5 Lib "Trelvin64.dll" Alias "trvpl5" (ByRef ix As Single, _
     ByRef iy As Single, ByRef iz As Single, ByRef a As Single, ByRef b As Single, _
     ByRef c As Single, ByRef d As Single, ByRef status As Long)

@@ -2491,15 +2491,15 @@ namespace Trelvin
         }
 
         /// <summary>Plane with given intercepts on the axes.</summary>
-        /// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is
-        /// within the tolerance or NaN.</remarks>
+        /// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane,
+        /// since an intercept is within the tolerance or NaN.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl5(ref float ix, ref float iy, ref float iz, ref float a,
             ref float b, ref float c, ref float d, ref int status);
 
         /// <summary>Plane with given intercepts on the axes.</summary>
-        /// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is
-        /// within the tolerance or NaN.</remarks>
+        /// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane,
+        /// since an intercept is within the tolerance or NaN.</remarks>
         public static void trvpl5(float ix, float iy, float iz, out float a, out float b,
             out float c, out float d, out int status)
         {

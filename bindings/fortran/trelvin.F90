@@ -1730,8 +1730,8 @@ module trelvin
     end subroutine
 
     !> Plane with given intercepts on the axes.
-    !! status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the
-    !! tolerance or NaN.
+    !! status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an
+    !! intercept is within the tolerance or NaN.
     subroutine trvpl5(ix, iy, iz, a, b, c, d, status) bind(c, name="trvpl5")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpl5

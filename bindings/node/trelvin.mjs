@@ -1242,8 +1242,8 @@ export const trvicp = routine("trvicp", ["in real xc", "in real yc", "in real x1
  * @type {(x: Numbers, y: Numbers, kind: number, value: number, factor: number, area: number,
  *   counts?: {n?: number}) => {x: Float32Array, y: Float32Array, area: number}}
  */
-export const trvair = routine("trvair", ["inout real x[1, n+1, 2, 3, 3 by kind]",
-  "inout real y[1, n+1, 2, 3, 3 by kind]", "in int n >= 0 = x y", "in int kind", "in real value",
+export const trvair = routine("trvair", ["inout real x[0, n+1, 2, 3, 3 by kind]",
+  "inout real y[0, n+1, 2, 3, 3 by kind]", "in int n >= 0 = x y", "in int kind", "in real value",
   "in real factor", "inout real area"]);
 
 /**
@@ -1761,8 +1761,8 @@ export const trvpl4 = routine("trvpl4", ["in real x", "in real y", "in real z", 
 /**
  * Plane with given intercepts on the axes.
  *
- * status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the tolerance
- * or NaN.
+ * status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an intercept
+ * is within the tolerance or NaN.
  *
  * @type {(ix: number, iy: number, iz: number) => {a: number, b: number, c: number, d: number,
  *   status: number}}

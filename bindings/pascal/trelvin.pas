@@ -1502,8 +1502,8 @@ procedure trvpl4(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl4';
 
 /// <summary>Plane with given intercepts on the axes.</summary>
-/// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the
-/// tolerance or NaN.</remarks>
+/// <remarks>status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an
+/// intercept is within the tolerance or NaN.</remarks>
 procedure trvpl5(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ix, iy, iz: Single;
   out a, b, c, d: Single;

@@ -104,12 +104,12 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * @param[in]  side   positive picks the candidate on the side of trvln3's normal of P1 and P2,
  *                    negative the other one, zero the first candidate
  * @param[in]  r      radius
- * @param[out] xa,ya  first candidate; unwritten on a condition: n is 0 and the chord is not
- *                    horizontal
- * @param[out] xb,yb  second candidate; unwritten on a condition: n is 0 and the chord is not
- *                    horizontal
- * @param[out] xc,yc  chosen centre; unwritten on a condition: n is 0 and the chord is not
- *                    horizontal, or a NaN decides
+ * @param[out] xa,ya  first candidate; unwritten on a condition: P1 = P2 exactly, r is at most 1e-5,
+ *                    or n is 0 and the chord is not horizontal
+ * @param[out] xb,yb  second candidate; unwritten on a condition: that of xa
+ * @param[out] xc,yc  chosen centre; unwritten on a condition: that of xa, or neither candidate is
+ *                    on the side: side times its distance (trvlds) is not at least 0 for the first
+ *                    and not positive for the second, as with a NaN
  * @param[out] n      number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or
  *                    less than half the chord, the discriminant is NaN, or the chord is horizontal;
  *                    1 one: both candidates are the same point; 2 two
@@ -131,8 +131,8 @@ TRELVIN_ROUTINE trvcer2(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn side, T
  *                    negative the other one, zero the first candidate of trvcer2
  * @param[in]  h      sagitta: height of the arc above the middle of the chord
  * @param[out] r      radius; unwritten on a condition: h < 1e-5
- * @param[out] xc,yc  chosen centre; unwritten on a condition: n is 0 and the chord is not
- *                    horizontal, or a NaN decides
+ * @param[out] xc,yc  chosen centre; unwritten on a condition: h < 1e-5, or trvcer2 leaves it
+ *                    unwritten for the radius r
  * @param[out] n      number of centres of trvcer2 (TrvPoints): 0 none: h < 1e-5, P1 = P2 exactly, r
  *                    is at most 1e-5 or less than half the chord, the discriminant is NaN, or the
  *                    chord is horizontal; 1 one: both candidates are the same point; 2 two
@@ -472,9 +472,9 @@ TRELVIN_ROUTINE trvcer5(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, TrvI
  *
  * Retains: nothing.
  *
- * @param[inout] xc,yc   centre C; comes back as it went in
- * @param[inout] xa,ya   first end A; likewise
- * @param[inout] xb,yb   second end B; likewise
+ * @param[inout] xc,yc   centre C; unchanged
+ * @param[inout] xa,ya   first end A; unchanged
+ * @param[inout] xb,yb   second end B; unchanged
  * @param[in]    s       station: distance from A along the chord, not negative
  * @param[in]    side    only its sign counts: positive picks the left of the chord A to B, to which
  *                       clockwise from A the circle runs; negative the right

@@ -186,7 +186,7 @@ TRELVIN_ROUTINE trvmer11(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayI
  * Retains: nothing.
  *
  * @param[inout] V  array of n, n used: entries; unspecified beyond the new n
- * @param[inout] n  number of entries; below 1 nothing happens
+ * @param[inout] n  number of entries; unchanged if n < 1
  */
 TRELVIN_ROUTINE trvmer2(TrvIntArrayInOut V, TrvIntInOut n);
 
@@ -202,7 +202,7 @@ TRELVIN_ROUTINE trvmer2(TrvIntArrayInOut V, TrvIntInOut n);
  * Retains: nothing.
  *
  * @param[inout] V  array of n, n used: entries; unspecified beyond the new n
- * @param[inout] n  number of entries; below 1 nothing happens
+ * @param[inout] n  number of entries; unchanged if n < 1
  */
 TRELVIN_ROUTINE trvmer3(TrvArrayInOut V, TrvIntInOut n);
 
@@ -219,7 +219,7 @@ TRELVIN_ROUTINE trvmer3(TrvArrayInOut V, TrvIntInOut n);
  * Retains: nothing.
  *
  * @param[inout] V    array of n, n used: entries; unspecified beyond the new n
- * @param[inout] n    number of entries; below 1 nothing happens
+ * @param[inout] n    number of entries; unchanged if n < 1
  * @param[in]    tol  largest difference of a repeat, itself included; may be an entry of V
  */
 TRELVIN_ROUTINE trvmer12(TrvArrayInOut V, TrvIntInOut n, TrvIn tol);
@@ -279,7 +279,7 @@ TRELVIN_ROUTINE trvmer14(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayI
  *
  * Retains: nothing.
  *
- * @param[inout] na     number of entries of A; below 1 it stays as it is
+ * @param[inout] na     number of entries of A; unchanged if na < 1
  * @param[inout] A      array of na, na used: those that stay, in their order; unspecified beyond
  *                      the new na
  * @param[in]    nb     number of entries of B; below 1 there are none
@@ -302,7 +302,7 @@ TRELVIN_ROUTINE trvmer15(TrvIntInOut na, TrvIntArrayInOut A, TrvIntIn nb, TrvInt
  * Retains: nothing.
  *
  * @param[inout] X,Y  arrays of n, n used: vertices; unspecified beyond the new n
- * @param[inout] n    number of vertices; below 1 nothing happens
+ * @param[inout] n    number of vertices; unchanged if n < 1
  * @param[in]    tol  largest difference of either coordinate, itself included
  */
 TRELVIN_ROUTINE trvmer16(TrvArrayInOut X, TrvArrayInOut Y, TrvIntInOut n, TrvIn tol);

@@ -147,7 +147,7 @@ enum TrvppcStatus {
 enum Trvpl5Status {
   /** the plane is computed */
   TRVPL5_DONE = 0,
-  /** an intercept is within the tolerance or NaN */
+  /** there is no plane, since an intercept is within the tolerance or NaN */
   TRVPL5_NO_PLANE = 1,
 };
 

@@ -607,11 +607,13 @@ TRELVIN_ROUTINE trvinv(TrvIntArrayInOut V, TrvIntIn n);
  *
  * Retains: nothing.
  *
- * @param[inout] V  array of n+m: the list, with room for what is inserted
- * @param[inout] n  number of its elements; n+m afterwards
- * @param[in]    k  position after which to insert, 0 for the front; nothing happens outside 0 ... n
+ * @param[inout] V  array of n+m: the list, with room for what is inserted; unchanged on a
+ *                  condition: that of n
+ * @param[inout] n  number of its elements; n+m afterwards; unchanged on a condition: k is negative
+ *                  or above n, or m < 1
+ * @param[in]    k  position after which to insert, 0 for the front
  * @param[in]    A  array of m: what to insert
- * @param[in]    m  number of elements to insert; below 1 nothing happens
+ * @param[in]    m  number of elements to insert
  */
 TRELVIN_ROUTINE trvadr(TrvIntArrayInOut V, TrvIntInOut n, TrvIntIn k, TrvIntArrayIn A, TrvIntIn m);
 

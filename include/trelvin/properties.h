@@ -38,7 +38,8 @@
  * Retains: nothing.
  *
  * @param[inout] x,y   arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
- *                     else, for n = 0 vertex 1 with itself
+ *                     else, for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to
+ *                     n
  * @param[in]    n     number of vertices, at least 0, which gives 0: for a negative n element n+1
  *                     would be before the arrays
  * @param[out]   area  signed area, in L^2
@@ -58,7 +59,8 @@ TRELVIN_ROUTINE trvapl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut area
  * Retains: nothing.
  *
  * @param[inout] x,y  arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
- *                    else, for n = 0 vertex 1 with itself
+ *                    else, for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to
+ *                    n
  * @param[in]    n    number of vertices, at least 0, which gives zeros: for a negative n element
  *                    n+1 would be before the arrays
  * @param[out]   sx   first moment about the x axis, the integral of y dA, in L^3
@@ -80,7 +82,8 @@ TRELVIN_ROUTINE trvspl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut sx, 
  * Retains: nothing.
  *
  * @param[inout] x,y  arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all
- *                    else, for n = 0 vertex 1 with itself
+ *                    else, for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to
+ *                    n
  * @param[in]    n    number of vertices, at least 0, which gives zeros: for a negative n element
  *                    n+1 would be before the arrays
  * @param[out]   ix   second moment about the x axis, the integral of y*y dA, in L^4
@@ -149,9 +152,10 @@ TRELVIN_ROUTINE trvicp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  *
  * Retains: nothing.
  *
- * @param[inout] x,y     arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
- *                       element n+1 is overwritten with vertex 1 for kind 2, nothing is written
- *                       otherwise; nothing is read for an unknown kind
+ * @param[inout] x,y     arrays of 0, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
+ *                       element n+1 is overwritten with vertex 1 for kind 2; nothing is read for
+ *                       kind 1 and an unknown kind; unchanged on a condition: kind is not 2, or
+ *                       elements 1 to n
  * @param[in]    n       vertices of kind 2, at least 0, which gives 0: for a negative n element n+1
  *                       would be before the arrays; ignored for other kinds
  * @param[in]    kind    part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2
@@ -178,8 +182,9 @@ TRELVIN_ROUTINE trvair(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
  * Retains: nothing.
  *
  * @param[inout] x,y     arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
- *                       element n+1 is overwritten with vertex 1 for kind 2, nothing is written
- *                       otherwise; nothing is read for an unknown kind
+ *                       element n+1 is overwritten with vertex 1 for kind 2; nothing is read for
+ *                       an unknown kind; unchanged on a condition: kind is not 2, or elements 1 to
+ *                       n
  * @param[in]    n       vertices of kind 2, at least 0, which gives zeros: for a negative n element
  *                       n+1 would be before the arrays; ignored for other kinds
  * @param[in]    kind    part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2
@@ -217,8 +222,9 @@ TRELVIN_ROUTINE trvstm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
  * Retains: nothing.
  *
  * @param[inout] x,y        arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
- *                          element n+1 is overwritten with vertex 1 for kind 2, nothing is written
- *                          otherwise; nothing is read for an unknown kind
+ *                          element n+1 is overwritten with vertex 1 for kind 2; nothing is read
+ *                          for an unknown kind; unchanged on a condition: kind is not 2, or elements
+ *                          1 to n
  * @param[in]    n          vertices of kind 2, at least 0, which gives zeros: for a negative n
  *                          element n+1 would be before the arrays; ignored for other kinds
  * @param[in]    kind       part kind (TrvPart): 1 concentrated: area concentrated at point 1, or a

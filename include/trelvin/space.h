@@ -399,8 +399,8 @@ TRELVIN_ROUTINE trvpl4(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  *
  * @param[in]  ix,iy,iz  intercepts
  * @param[out] a,b,c,d   plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
- * @param[out] status    outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within
- *                       the tolerance or NaN
+ * @param[out] status    outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since
+ *                       an intercept is within the tolerance or NaN
  */
 TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
                        TrvIntOut status);

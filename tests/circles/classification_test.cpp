@@ -111,9 +111,11 @@ TEST_F(Trace, IsAppendedByteForByte) {
   };
   const std::string below = "\xCD \xC1\xD1\xCD\xC7\xD4\xC9\xCA\xC7 \xD0\xC5\xD1\xC9\xCF\xD7\xC7";
   const std::string larger = segment + "2\xD0-\xD6 \xD3\xD4\xC7" + positive;
-  expect(classify(1, 5, 5, 0, 1, 0), {1, 1, 0, u, u}, record("1", circle + positive));
-  expect(classify(1, 0, 5, 0, 1, -7), {2, u, u, u, u}, record("2", circle + below));
-  expect(classify(1, -7, 5, 1, 0, -4), {3, 4, -3, 4, -11},
+  expect(classify(1, 5, 5, 0, 1, 0), {TRVCIN_UNCUT_ABOVE, 1, 0, u, u},
+         record("1", circle + positive));
+  expect(classify(1, 0, 5, 0, 1, -7), {TRVCIN_UNCUT_BELOW, u, u, u, u},
+         record("2", circle + below));
+  expect(classify(1, -7, 5, 1, 0, -4), {TRVCIN_CUT_BELOW, 4, -3, 4, -11},
          record("3", segment + "\xD6 \xD3\xD4\xC7" + positive +
                          ";x2;  4.00000000e+00;y2; -3.00000000e+00"
                          ";x3;  4.00000000e+00;y3; -1.10000000e+01"));
@@ -178,7 +180,7 @@ TEST_F(Trace, StaysWithTheFileOfTheFirstCall) {
 TEST_F(Trace, CallComputesWithoutAFileAndTheNextTriesAgain) {
   const auto computes = [] {
     set_last_error(7);
-    EXPECT_EQ(classify(1, 0, 5, 0, 1, 0), (Values{4, 6, 0, -4, 0}));
+    EXPECT_EQ(classify(1, 0, 5, 0, 1, 0), (Values{TRVCIN_CUT_ABOVE, 6, 0, -4, 0}));
     EXPECT_EQ(last_error(), 7);  // the host's
   };
   std::filesystem::create_directory(file_name);

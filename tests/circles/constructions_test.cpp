@@ -87,9 +87,11 @@ TEST(Constructions, LineThatMissesTheCircleCarriesTheResultOfTheCallBefore) {
 
 TEST(Constructions, LineAlongTheChordLeavesTheCrossingOfTheCallBefore) {
   Arc arc = level, reversed = level_reversed;
-  expect_near(construct(trvcer10, arc, half_pi, 0.0F), {-3, -1, 2}, 1e-6);  // A: the origin
-  expect_near(construct(trvcer10, arc, 0.0F, 0.0F), {-3, -1, 1}, 1e-6);
-  expect_near(construct(trvcer10, arc, half_pi, half_pi), {4, -1, 0}, 1e-6);
+  expect_near(construct(trvcer10, arc, half_pi, 0.0F), {-3, -1, TRVCER10_PARALLEL},
+              1e-6);  // A: the origin
+  expect_near(construct(trvcer10, arc, 0.0F, 0.0F), {-3, -1, TRVCER10_ALONG_CHORD}, 1e-6);
+  expect_near(construct(trvcer10, arc, half_pi, half_pi), {4, -1, TRVCER10_CROSSING_OR_REFUSED},
+              1e-6);
   expect_near(construct(trvcer10, reversed, half_pi, 0.0F), {-2, -1, 0}, 1e-6);
   expect_near(construct(trvcer10, arc, 1.8545904F, half_pi), {5, -1, 0}, 1e-6);  // turned to B
   expect_near(construct(trvcer10, arc, half_pi, 0.0F), {5, -1, 2}, 1e-6);

@@ -23,12 +23,12 @@ TEST(Circles, LineMeetsThemFirstAtTheLargerRoot) {
   const Values circle = outputs(trvcer, 1, 2, 5);
   EXPECT_EQ(circle, (Values{-2, -4, -20}));
   for (const double k : {1, -2}) {
-    EXPECT_EQ(cut(k, 0, -4 * k, circle), (Values{2, 4, 6, 4, -2}));
+    EXPECT_EQ(cut(k, 0, -4 * k, circle), (Values{TRV_POINTS_TWO, 4, 6, 4, -2}));
     EXPECT_EQ(cut(0, k, -5 * k, circle), (Values{2, 5, 5, -3, 5}));
     expect_near(cut(k, -7 * k, 38 * k, circle), {2, 4, 6, -3, 5}, 1e-6);
-    EXPECT_EQ(cut(k, 0, 4 * k, circle), (Values{1, -4, 2, u, u}));
+    EXPECT_EQ(cut(k, 0, 4 * k, circle), (Values{TRV_POINTS_ONE, -4, 2, u, u}));
     EXPECT_EQ(cut(0, k, -7 * k, circle), (Values{1, 1, 7, u, u}));
-    EXPECT_EQ(cut(k, 0, -7 * k, circle), (Values{0, u, u, u, u}));
+    EXPECT_EQ(cut(k, 0, -7 * k, circle), (Values{TRV_POINTS_NONE, u, u, u, u}));
     EXPECT_EQ(cut(0, k, 4 * k, circle), (Values{0, u, u, u, u}));
   }
   // Taken as horizontal, or else so flat that the discriminant is under the tolerance.

@@ -4,9 +4,9 @@
 using namespace trelvin_test;
 
 TEST(ArcMeasures, LengthsOfBothArcs) {
-  const Values refused = {unwritten, unwritten, 0};
+  const Values refused = {unwritten, unwritten, TRV_ARC_REFUSED};
   for (const double y : {3, -1})  // the sense is not told
-    expect_near(outputs(trvarc1, 1, 1, 3, 1, 1, y), {pi, 3 * pi, 1}, 1e-6);
+    expect_near(outputs(trvarc1, 1, 1, 3, 1, 1, y), {pi, 3 * pi, TRV_ARC_DONE}, 1e-6);
   expect_near(outputs(trvarc1, 1, 1, 3, 1, -6, 1), {2 * pi, 2 * pi, 1}, 1e-6);  // A's radius
   EXPECT_EQ(outputs(trvarc1, 0, 0, tolerance, 0, 0, 1), refused);
   EXPECT_EQ(outputs(trvarc1, 0, 0, 1, 0, 1, -tolerance), refused);
@@ -28,8 +28,16 @@ TEST(ArcMeasures, DistancesInThePlaneAndStationsInSpace) {
 
 TEST(ArcMeasures, SectorMarksByTheSignsOfBothDistances) {
   // Stations along the first ray and towards the second one, and their marks.
-  const float cases[][3] = {{2, 1, 2},    {-2, 1, 2}, {2, -1, 1}, {-2, -1, 2}, {0.5F, -1, 1},
-                            {0.5F, 0, 1}, {2, 0, 1},  {-2, 0, 2}, {0, 0, 1},   {0, 3, 1}};
+  const float cases[][3] = {{2, 1, TRVAPP_OUTSIDE},
+                            {-2, 1, 2},
+                            {2, -1, TRVAPP_INSIDE},
+                            {-2, -1, 2},
+                            {0.5F, -1, 1},
+                            {0.5F, 0, 1},
+                            {2, 0, 1},
+                            {-2, 0, 2},
+                            {0, 0, 1},
+                            {0, 3, 1}};
   const float rays[][3] = {{1, 0, 1}, {0, 1, -1}, {3, 4, 1}, {3, 4, -1}};  // 1: second to the left
   float x[10], y[10];
   std::int32_t mark[11];
@@ -43,7 +51,7 @@ TEST(ArcMeasures, SectorMarksByTheSignsOfBothDistances) {
   }
   std::fill_n(mark, 11, unwritten_int);
   trvapp(1, 2, 2, 3, 5, 6, 9, x, y, mark);  // both rays of one direction
-  EXPECT_TRUE(std::count(mark, mark + 9, -1) == 9 && mark[9] == unwritten_int);
+  EXPECT_TRUE(std::count(mark, mark + 9, TRVAPP_NO_SECTOR) == 9 && mark[9] == unwritten_int);
 }
 
 TEST(ArcMeasures, NotANumberInASectorLeavesPointsInside) {

@@ -85,7 +85,7 @@ void call_between_guards(const Routine &routine, const std::vector<GuardedMemory
     Addresses addresses = random_calls::addresses_of(arguments);
     for (std::size_t i = 0; i < arguments.size(); ++i) {
       if (arguments[i].single) continue;
-      addresses[i] = place(memory[i], arguments[i], routine.sizes[i](arguments), at_end);
+      addresses[i] = place(memory[i], arguments[i], routine.sizes[i](arguments).elements, at_end);
     }
     routine.call(addresses);
   });

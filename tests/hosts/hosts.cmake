@@ -93,6 +93,12 @@ if(BUILD_SHARED_LIBS)
     add_host(interpose hosts/interpose.cpp)
     set_target_properties(interpose PROPERTIES ENABLE_EXPORTS ON)
     add_host_test(interpose interpose)
+    if(NOT CMAKE_CROSSCOMPILING AND NOT CMAKE_CXX_FLAGS MATCHES sanitize)
+      list(APPEND libraries callers)
+      add_host(contracts hosts/contracts.cpp hosts/conditions.cpp)
+      target_compile_options(contracts PRIVATE -ffp-contract=off)  # of what conditions compute
+      add_host_test(contracts contracts $<TARGET_FILE:trelvin>)
+    endif()
   endif()
 endif()
 

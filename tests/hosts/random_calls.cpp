@@ -66,11 +66,16 @@ float draw_real(Sequence &sequence, int mood) {
   }
 }
 
-void fill(Sequence &sequence, Argument &argument, int mood, int largest_count) {
+void fill(Sequence &sequence, Argument &argument, int mood, int largest_count, bool sparing) {
+  const std::size_t begin = sparing ? Argument::spare : 0;
+  std::size_t end = argument.reals.size() - begin;
+  if (sparing && argument.single) end = begin + 1;
+  if (sparing && !argument.read) return;
   if (argument.kind == Argument::real) {
-    for (float &value : argument.reals) value = draw_real(sequence, mood);
+    for (std::size_t i = begin; i < end; ++i) argument.reals[i] = draw_real(sequence, mood);
   } else if (argument.kind == Argument::integer) {
-    for (std::int32_t &value : argument.integers) value = sequence.between(-2, largest_count);
+    for (std::size_t i = begin; i < end; ++i)
+      argument.integers[i] = sequence.between(-2, largest_count);
   }
 }
 
@@ -190,14 +195,15 @@ void make_plate_stresses(Sequence &sequence, const Reals &reals) {
 
 }  // namespace
 
-void draw(const Routine &routine, int calls, const std::function<void(Arguments &)> &visit) {
+void draw(const Routine &routine, int calls, const std::function<void(Arguments &)> &visit,
+          bool sparing) {
   Sequence sequence(routine.seed);
   Arguments arguments = routine.arguments;
   for (int call = 0; call < calls; ++call) {
     const int mood = routine.shape == Shape::whole ? grid : sequence.between(0, moods - 1);
     // Pairs of two lists need room for the product of their counts.
     const int largest_count = routine.shape == Shape::pairs ? 8 : 40;
-    for (Argument &argument : arguments) fill(sequence, argument, mood, largest_count);
+    for (Argument &argument : arguments) fill(sequence, argument, mood, largest_count, sparing);
     if (routine.shape == Shape::arc && !sequence.one_in(4)) {
       make_arc(sequence, addresses_of_reals(arguments, true));
     } else if (routine.shape == Shape::plates && !sequence.one_in(4)) {

@@ -26,6 +26,7 @@ struct Argument {
   enum Kind { real, integer, function } kind;
   bool single;   // or an array
   bool written;  // by the routine
+  bool read;     // likewise
 
   static constexpr std::size_t spare = 8;
   static constexpr std::size_t room = 80;
@@ -65,27 +66,54 @@ struct Status {
   std::vector<std::int32_t> values;
 };
 
+// When an output keeps what the caller had there: by the value of the argument `teller`, or by a
+// condition in words.
+struct Kept {
+  enum How { never, by_value, below, on_condition, always } how;
+  std::size_t teller;
+  std::int32_t bound;  // from which on all values keep it, or `none`; below which they do
+  std::vector<std::int32_t> values;
+};
+
+// How many elements an array must have for the counts of a call. A size that has several forms, by
+// a kind for example, says which one holds.
+struct Size {
+  std::size_t elements;
+  std::size_t form;
+};
+
+// How many elements a call has written, and up to which one it may have done so besides.
+struct Used {
+  std::size_t elements;
+  std::size_t scratch;
+};
+
 // A routine as the calls need it, whatever its arguments.
 struct Routine {
   const char *name;
   void (*address)();
-  std::function<void(const Addresses &)> call;
+  void (*call_at)(void (*address)(), const Addresses &addresses);
   Arguments arguments;
   std::vector<std::string> names;  // of the arguments
   Shape shape;
   std::uint64_t seed;
 
-  // How many elements an array must have for the counts of a call; empty where that is not stated.
-  std::vector<std::function<std::size_t(Arguments &)>> sizes;
+  // Of each argument; empty where the contract states none.
+  std::vector<Size (*)(Arguments &)> sizes;
+  std::vector<Used (*)(Arguments &)> used;
+  std::vector<Kept> kept;
   // The least value that is allowed of an Integer input, where the contract states one.
   std::vector<std::pair<std::size_t, std::int32_t>> least;
   std::vector<Status> statuses;
-  bool shares_addresses;  // an output may have the address of a single input
-  bool retains;           // values from call to call
+  std::vector<std::string> retains;  // the routines whose retained values decide
+  bool shares_addresses;             // an output may have the address of a single input
+
+  void call(const Addresses &addresses) const { call_at(address, addresses); }
 };
 
-// Draws sets of arguments.
-void draw(const Routine &routine, int calls, const std::function<void(Arguments &)> &visit);
+// Draws sets of arguments; if sparing, single ones without their spare elements, and no outputs.
+void draw(const Routine &routine, int calls, const std::function<void(Arguments &)> &visit,
+          bool sparing = false);
 
 // Raises each drawn count to the least that its contract allows.
 void raise_counts(const Routine &routine, Arguments &arguments);

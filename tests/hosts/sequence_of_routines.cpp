@@ -11,20 +11,23 @@
 using random_calls::Addresses;
 using random_calls::Argument;
 using random_calls::Arguments;
+using random_calls::Kept;
 using random_calls::Routine;
 using random_calls::Shape;
+using random_calls::Size;
+using random_calls::Used;
 
 namespace {
 
 template <class Type>
 Argument argument_of() {
   if constexpr (std::is_same_v<Type, TrvFunctionIn>) {
-    return {Argument::function, true, false};
+    return {Argument::function, true, false, true};
   } else {
     using Element = std::remove_pointer_t<std::remove_reference_t<Type>>;
-    return {
-        std::is_same_v<std::remove_const_t<Element>, float> ? Argument::real : Argument::integer,
-        std::is_reference_v<Type>, !std::is_const_v<Element>};
+    constexpr bool real = std::is_same_v<std::remove_const_t<Element>, float>;
+    constexpr bool input = std::is_const_v<Element>;
+    return {real ? Argument::real : Argument::integer, std::is_reference_v<Type>, !input, input};
   }
 }
 
@@ -40,8 +43,10 @@ Type as(void *address) {
 }
 
 template <class... Types, std::size_t... i>
-auto call_of(void(TRELVIN_CALL *routine)(Types...), std::index_sequence<i...> /*positions*/) {
-  return [routine](const Addresses &addresses) { routine(as<Types>(addresses[i])...); };
+auto call_of(void(TRELVIN_CALL * /*type*/)(Types...), std::index_sequence<i...> /*positions*/) {
+  return [](void (*address)(), const Addresses &addresses) {
+    reinterpret_cast<void(TRELVIN_CALL *)(Types...)>(address)(as<Types>(addresses[i])...);
+  };
 }
 
 Shape shape_of(const std::string &names) {
@@ -60,12 +65,14 @@ Routine routine_of(const char *name, void(TRELVIN_CALL *routine)(Types...),
   Routine result = {};
   result.name = name;
   result.address = reinterpret_cast<void (*)()>(routine);
-  result.call = call_of(routine, std::index_sequence_for<Types...>());
+  result.call_at = call_of(routine, std::index_sequence_for<Types...>());
   result.arguments = {argument_of<Types>()...};
   std::istringstream words(names);
   for (std::string word; words >> word;) result.names.push_back(word);
   result.shape = shape_of(names);
   result.sizes.resize(result.arguments.size());
+  result.used.resize(result.arguments.size());
+  result.kept.resize(result.arguments.size());
   result.shares_addresses = true;
   return result;
 }
@@ -75,18 +82,26 @@ using Elements = std::int64_t;
 
 struct Counts {
   Arguments &arguments;
+  Size size = {0, 0};
 
   [[nodiscard]] Elements count(std::size_t i) const { return std::max(kind(i), 0); }
   [[nodiscard]] std::int32_t kind(std::size_t i) const { return *arguments[i].integer_address(); }
+
+  Elements larger(Elements a, Elements b) {
+    size.form = a < b ? 1 : 0;
+    return std::max(a, b);
+  }
+
+  template <class... Sizes>
+  Elements by_kind(std::int32_t kind, Sizes... of_kinds) {
+    const Elements sizes[] = {of_kinds...};
+    size.form = static_cast<std::size_t>(kind) - 1;
+    return size.form < sizeof...(Sizes) ? sizes[size.form] : 0;
+  }
 };
 
-[[maybe_unused]] Elements larger(Elements a, Elements b) { return std::max(a, b); }
-
-template <class... Sizes>
-Elements by_kind(std::int32_t kind, Sizes... of_kinds) {
-  const Elements sizes[] = {of_kinds...};
-  const auto i = static_cast<std::size_t>(kind) - 1;
-  return i < sizeof...(Sizes) ? sizes[i] : 0;
+std::size_t none_below_zero(Elements elements) {
+  return static_cast<std::size_t>(std::max<Elements>(elements, 0));
 }
 
 }  // namespace
@@ -97,19 +112,38 @@ std::vector<Routine> all_routines() {  // NOLINT(readability-function-size)
 #define ROUTINE(name, count, names)                   \
   routines.push_back(routine_of(#name, name, names)); \
   routines.back().seed = 20 + routines.size() - 1;
-#define SIZE(name, argument, elements)                                 \
-  routines.back().sizes[argument] = [](Arguments &arguments) {         \
-    const Counts counts = {arguments};                                 \
-    const auto count = [&](std::size_t i) { return counts.count(i); }; \
-    const auto kind = [&](std::size_t i) { return counts.kind(i); };   \
-    static_cast<void>(count), static_cast<void>(kind);                 \
-    return static_cast<std::size_t>(std::max<Elements>(elements, 0));  \
+#define WORDS                                                                      \
+  Counts counts = {arguments};                                                     \
+  const auto count = [&](std::size_t i) { return counts.count(i); };               \
+  const auto kind = [&](std::size_t i) { return counts.kind(i); };                 \
+  const auto larger = [&](Elements a, Elements b) { return counts.larger(a, b); }; \
+  const auto by_kind = [&](auto... sizes) { return counts.by_kind(sizes...); };    \
+  static_cast<void>(count), static_cast<void>(kind);                               \
+  static_cast<void>(larger), static_cast<void>(by_kind)
+#define SIZE(name, argument, stated)                           \
+  routines.back().sizes[argument] = [](Arguments &arguments) { \
+    WORDS;                                                     \
+    counts.size.elements = none_below_zero(stated);            \
+    return counts.size;                                        \
   };
+#define USED(name, argument, number, scratch)                         \
+  routines.back().used[argument] = [](Arguments &arguments) -> Used { \
+    WORDS;                                                            \
+    return {none_below_zero(number), none_below_zero(scratch)};       \
+  };
+#define READ(name, argument) routines.back().arguments[argument].read = true;
+#define KEPT(name, argument, teller, further, ...) \
+  routines.back().kept[argument] = {Kept::by_value, teller, further, {__VA_ARGS__}};
+#define KEPT_BELOW(name, argument, teller, bound) \
+  routines.back().kept[argument] = {Kept::below, teller, bound, {}};
+#define KEPT_ON_CONDITION(name, argument) \
+  routines.back().kept[argument] = {Kept::on_condition, 0, none, {}};
+#define KEPT_ALWAYS(name, argument) routines.back().kept[argument] = {Kept::always, 0, none, {}};
+#define RETAINS(name, owner) routines.back().retains.emplace_back(#owner);
 #define LEAST(name, argument, value) routines.back().least.emplace_back(argument, value);
 #define STATUS(name, argument, further, ...) \
   routines.back().statuses.push_back({argument, further, {__VA_ARGS__}});
 #define UNSHARED(name) routines.back().shares_addresses = false;
-#define RETAINS(name, owner) routines.back().retains = true;
 #include "routines.inc"
   return routines;
 }

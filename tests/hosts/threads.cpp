@@ -24,7 +24,7 @@ Hashes hashes_of(const std::vector<random_calls::Routine> &routines) {
   Hashes hashes;
   for (const random_calls::Routine &routine : routines) {
     Hash hash;
-    random_calls::draw(routine, routine.retains ? 0 : calls,
+    random_calls::draw(routine, routine.retains.empty() ? calls : 0,
                        [&](random_calls::Arguments &arguments) {
                          routine.call(random_calls::addresses_of(arguments));
                          hash.add(arguments);
@@ -47,7 +47,7 @@ int main() {
   int faults = 0;
   std::size_t called = 0;
   for (std::size_t i = 0; i < routines.size(); ++i) {
-    called += routines[i].retains ? 0 : 1;
+    called += routines[i].retains.empty() ? 1 : 0;
     for (const Hashes &hashes : found) {
       if (hashes[i] == alone[i]) continue;
       std::printf("%s: %016" PRIx64 " on one of several threads, %016" PRIx64 " alone\n",

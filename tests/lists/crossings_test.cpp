@@ -68,10 +68,10 @@ TEST(Crossings, SegmentsMeetEachPassageOnce) {
   EXPECT_EQ(level.y, (Reals{2, 2, 2, 2}));
   EXPECT_EQ(level.t, (Reals{0.15F, 0.4F, 0.6F, 0.85F}));
   EXPECT_EQ(level.edge, (Integers{2, 3, 4, 5}));
-  EXPECT_EQ(level.status, 0);
+  EXPECT_EQ(level.status, TRVPIN_OUTSIDE);
   const Crossings from_inside = cross(w, 1, 2, 4, 2);
   EXPECT_EQ(from_inside.x, Reals{3});
-  EXPECT_EQ(from_inside.status, 1);
+  EXPECT_EQ(from_inside.status, TRVPIN_INSIDE);
 
   EXPECT_EQ(cross(w, -1, 1, 9, 1).x, (Reals{0.25F, 7.75F}));  // touches the valley from below
   EXPECT_EQ(cross(w, -1, 4, 9, 4).x, Reals{});                // touches both peaks
@@ -95,7 +95,7 @@ TEST(Crossings, OfATriangleAndOfItsFirstVertex) {
 TEST(Crossings, SegmentsThatAreNoneAreRefused) {
   for (const Crossings &refused :
        {cross(w, 3, 3, 3.000005F, 3), cross({{0, 1}, {0, 1}}, 0, 0, 5, 5)}) {
-    EXPECT_EQ(refused.status, -1);
+    EXPECT_EQ(refused.status, TRVPIN_REFUSED);
     EXPECT_TRUE(refused.x.empty());
   }
   EXPECT_EQ(cross(w, 1, 2, 1.00002F, 2).status, 1);

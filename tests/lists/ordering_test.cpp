@@ -110,7 +110,7 @@ TEST(Ordering, ParallelLinesByTheirCrossingOfAnAxis) {
   EXPECT_EQ(order_lines({{1, 2, 0}, {1, 2, -9}, {2, 4, 0}}), (Integers{1, 2, 3, -1}));
   std::int32_t position = u, status = u;
   trvpor(0, nullptr, nullptr, nullptr, &position, status);
-  EXPECT_TRUE(position == u && status == -1);
+  EXPECT_TRUE(position == u && status == TRV_STATUS_REFUSED);
 }
 
 TEST(Ordering, WithoutMemoryTheResultsAreTheSame) {

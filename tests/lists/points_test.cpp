@@ -98,12 +98,12 @@ TEST(PointLists, SomeOrAllPointsHavePartners) {
   const Points a = {{0, 1, 2}, {0, 0, 5}, {3, 3, 6}}, b = {{1, 9, 0}, {0, 9, 0}, {3.001F, 9, 3}};
   std::int32_t status = u;
   EXPECT_EQ(pair(a, b, 0.01F, status), (Pairs{{1, 2}, {3, 1}}));
-  EXPECT_EQ(status, 1);
+  EXPECT_EQ(status, TRVPTP1_SOME_PAIRS);
   EXPECT_EQ(pair(a, b, 1e-4F, status), (Pairs{{1}, {3}}));
   EXPECT_EQ(pair(b, {{1}, {0}, {9}}, 1, status), Pairs(2));
-  EXPECT_EQ(status, 0);
+  EXPECT_EQ(status, TRVPTP1_NO_PAIR);
   EXPECT_EQ(pair({{2, 9}, {1, 9}, {3, 9}}, b, 1, status), (Pairs{{1, 2}, {1, 2}}));
-  EXPECT_EQ(status, 2);
+  EXPECT_EQ(status, TRVPTP1_ALL_PAIRED);
   std::int32_t count = u;
   trvptp1(-2, a.x.data(), a.y.data(), a.z.data(), 3, b.x.data(), b.y.data(), b.z.data(), 9, count,
           nullptr, nullptr, status);

@@ -58,13 +58,14 @@ TEST(Lines, BisectorIsAsFarFromBothRays) {
 }
 
 TEST(Lines, Intersection) {
-  const Values same = {1, unwritten, unwritten}, parallel = {2, unwritten, unwritten};
+  const Values same = {TRV_PLANE_LINES_SAME_LINE, unwritten, unwritten},
+               parallel = {TRV_PLANE_LINES_PARALLEL, unwritten, unwritten};
   EXPECT_EQ(outputs(trvlni, 1, 2, 3, -2, -4, -6), same);
   EXPECT_EQ(outputs(trvlni, 1, 0, 0, 1, 0, -1), parallel);
   EXPECT_EQ(outputs(trvlni, 0, 1, 0, 0, 1, -1), parallel);
   EXPECT_EQ(outputs(trvlni, 1, 0, -1, 0, tolerance, 0), same);  // coefficients are not scaled
   EXPECT_EQ(outputs(trvlni, 1, 0, -1, 0, -tolerance, beyond), parallel);
-  EXPECT_EQ(outputs(trvlni, 1, 0, -3, 0, beyond, 0), (Values{0, 3, 0}));
+  EXPECT_EQ(outputs(trvlni, 1, 0, -3, 0, beyond, 0), (Values{TRV_PLANE_LINES_ONE_POINT, 3, 0}));
   EXPECT_EQ(outputs(trvlni, not_a_number, not_a_number, not_a_number, 1, 2, 3), same);
 
   const Values g = outputs(trvln3, 0, 1, 4, 3), h = outputs(trvln3, 1, 5, 3, -2);

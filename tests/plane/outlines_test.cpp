@@ -30,9 +30,9 @@ std::int32_t round_convex(int vertices, int windings) {
 }  // namespace
 
 TEST(Outlines, ConvexOutlinesWindOnceAndTurnOneWay) {
-  EXPECT_EQ(convex({0, 1, 2, 2, 0}, {0, 0, 0, 1, 1}), 1);       // straight at (1, 0)
-  EXPECT_EQ(convex({0, 2, 2, 1, 0}, {0, 0, 2, 1, 2}), 0);       // a notch
-  EXPECT_EQ(convex({0, 1, -1, 1, 0.5F}, {0, 1, 0, -1, 3}), 0);  // crosses itself
+  EXPECT_EQ(convex({0, 1, 2, 2, 0}, {0, 0, 0, 1, 1}), TRVCNV_CONVEX);      // straight at (1, 0)
+  EXPECT_EQ(convex({0, 2, 2, 1, 0}, {0, 0, 2, 1, 2}), TRVCNV_NOT_CONVEX);  // a notch
+  EXPECT_EQ(convex({0, 1, -1, 1, 0.5F}, {0, 1, 0, -1, 3}), 0);             // crosses itself
   EXPECT_EQ(round_convex(5, 2), 0);
   EXPECT_EQ(round_convex(5000, 1), 1);  // each vertex is straight within the tolerance
 }
@@ -56,7 +56,7 @@ TEST(Outlines, ALongSideStaysStraightThoughDifferencesTakeMoreThanARealHolds) {
 }
 
 TEST(Outlines, RefusedWithFewVerticesOrAShortSide) {
-  EXPECT_EQ(convex({0, 1}, {0, 1}), -1);
+  EXPECT_EQ(convex({0, 1}, {0, 1}), TRVCNV_REFUSED);
   EXPECT_EQ(convex({0, 1, 1, 0}, {0, 0, tolerance, 1}), -1);
   EXPECT_EQ(convex({0, 1, 1, 0}, {0, 0, beyond, 1}), 1);
   EXPECT_EQ(convex({0, 1, 1, 0}, {0, 0, not_a_number, 1}), 0);

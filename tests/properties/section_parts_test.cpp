@@ -27,13 +27,13 @@ TEST(SectionParts, EveryKind) {
   const double disc = 25 * pi, own = 625 * pi / 4;
   const double area = pi / 4 - 0.5, s = 1.0 / 6, i = pi / 16 - 1.0 / 12, rest = pi - area;
   const std::pair<Part, Values> cases[] = {
-      {{{3}, {4}, 0, 1, 2}, {2, 8, 6, 37, 24, 30}},
-      {{{0, 4, 4, 0}, {0, 0, 3, 3}, 4, 2}, {12, 18, 24, 36, 64, 36}},
-      {{{2, 5}, {-3, 1}, 0, 3},
+      {{{3}, {4}, 0, TRV_PART_CONCENTRATED, 2}, {2, 8, 6, 37, 24, 30}},
+      {{{0, 4, 4, 0}, {0, 0, 3, 3}, 4, TRV_PART_POLYGON}, {12, 18, 24, 36, 64, 36}},
+      {{{2, 5}, {-3, 1}, 0, TRV_PART_CIRCLE},
        {disc, -3 * disc, 2 * disc, own + 9 * disc, own + 4 * disc, -6 * disc}},
-      {{{2, 2, 3}, {0, 1, 0}, 0, 4},
+      {{{2, 2, 3}, {0, 1, 0}, 0, TRV_PART_SMALLER_SEGMENT},
        {area, s, s + 2 * area, i, i + 4 * s + 4 * area, s * (s / area + 2)}},
-      {{{2, 3, 2}, {0, 0, 1}, 0, 5},  // the ends the other way round
+      {{{2, 3, 2}, {0, 0, 1}, 0, TRV_PART_LARGER_SEGMENT},  // the ends the other way round
        {rest, -s, 2 * rest - s, pi / 4 - i, pi / 4 - i - 4 * s + 4 * rest, s * (s / rest - 2)}},
       {{{3}, {4}, 0, 0, 2}, {9, 10, 11, 5, 6, 6}},
       {{{3}, {4}, 0, 6, 2}, {9, 10, 11, 5, 6, 6}},

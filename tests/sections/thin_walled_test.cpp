@@ -36,7 +36,7 @@ struct Section {
   }
 
   [[nodiscard]] bool is_refused() const {
-    return status == -1 && A == unwritten && yp == unwritten && It == unwritten &&
+    return status == TRV_STATUS_REFUSED && A == unwritten && yp == unwritten && It == unwritten &&
            W1[0] == unwritten;
   }
   [[nodiscard]] bool has_no_torsion() const {

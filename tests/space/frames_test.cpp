@@ -15,7 +15,7 @@ void expect_points(const Points &p, const Points &expected) {
   expect_near(Values(p.begin(), p.end()), Values(expected.begin(), expected.end()), 2e-6);
 }
 
-const Values no_frame = {0, 0, 0, 0, 0, 0, 0, 0, 0, -2};
+const Values no_frame = {0, 0, 0, 0, 0, 0, 0, 0, 0, TRV_FRAME_NO_FRAME};
 const float right = half_pi;
 const float straight = 2 * half_pi;
 
@@ -27,8 +27,9 @@ TEST(Frames, ThreePointTest) {
     return outputs_at(trvpsl, a, b, in_sevens(along, across, 0))[0];
   };
   EXPECT_EQ((Values{place(0, 0), place(2, 0), place(0.5, 0), place(-3, 0), place(4, 0)}),
-            (Values{1, 2, 3, 4, 5}));
-  EXPECT_EQ((Values{place(1, 2), place(-3, 1)}), (Values{0, 0}));
+            (Values{TRV_THREE_POINTS_AT_P0, TRV_THREE_POINTS_AT_P1, TRV_THREE_POINTS_BETWEEN,
+                    TRV_THREE_POINTS_BEYOND_P0, TRV_THREE_POINTS_BEYOND_P1}));
+  EXPECT_EQ((Values{place(1, 2), place(-3, 1)}), (Values{TRV_THREE_POINTS_SPANS_PLANE, 0}));
   EXPECT_EQ(outputs_at(trvpsl, a, a, b),
             Values{0});  // they look like a line, but nothing is nearer
 }
@@ -142,7 +143,7 @@ TEST(Frames, LocalShiftComesBeforeTheTurns) {
   // Shifted to (3, 1, 5) in sevens.
   trvptrl(o[0], o[1], o[2], u[0], u[1], u[2], w[0], w[1], w[2], x, y, z, 1, 14, -7, 42, right,
           -right, straight, status);
-  EXPECT_EQ(status, 0);
+  EXPECT_EQ(status, TRV_FRAME_DONE);
   expect_points(p, points(in_sevens(-1, 5, -3), in_sevens(0, 5, 0), {7, 8, 9}));
   trvptrl(0, 0, 0, 1, 0, 0, 0, 1, 0, &x[2], &y[2], &z[2], 1, 0, 0, 0, 0, 0, tolerance, status);
   EXPECT_NEAR(x[2], 7 - 8e-5, 1e-6);  // no angle is too small
@@ -158,11 +159,11 @@ TEST(Frames, GlobalShiftComesAfterTheTurnsOfPointsOfAPlane) {
            straight, n, p.data(), &p[3], &p[6], tol, status);
     return status;
   };
-  EXPECT_EQ(moved(in_sevens(3, 0, 0), 1, infinity), -1);
+  EXPECT_EQ(moved(in_sevens(3, 0, 0), 1, infinity), TRVPPC_NO_FRAME);
   // The second point is 3.5 off, times the 49 of the normal: 171.5.
   EXPECT_EQ(moved(w, 2, 171.4F), 2);
   EXPECT_EQ(moved(w, 2, -1), 1);  // so is every point here, and the first is told
-  EXPECT_EQ(moved(w, 0, 0), 0);
+  EXPECT_EQ(moved(w, 0, 0), TRVPPC_DONE);
   EXPECT_EQ(p, start);
   p[1] = not_a_number;
   EXPECT_EQ(moved(w, 2, infinity), 2);

@@ -43,7 +43,9 @@ TEST(SpaceLines, RelationOfTwoLines) {
                     relation(p(5, 1, 1), p(0, 1, 1)), relation(p(2, 0, 0), p(3, 0, 0)),
                     relation(p(3, 0, 0), p(2, 0, 0)), relation(p(3, 3, 0), p(3, 4, 0)),
                     relation(p(3, 3, 1), p(4, 4, 1)), relation(p(3, 3, 1), p(3, 3, 1))}),
-            (Values{0, 1, 2, 3, 4, 5, 6, 7}));
+            (Values{TRV_LINES_CROSSING, TRV_LINES_PARALLEL_SAME, TRV_LINES_PARALLEL_OPPOSITE,
+                    TRV_LINES_SAME_LINE, TRV_LINES_OPPOSITE_LINE, TRV_LINES_PERPENDICULAR,
+                    TRV_LINES_SKEW, TRV_LINES_COINCIDENT}));
   const Point o = {0, 0, 0}, tiny = {tolerance, -tolerance, 0}, c = {3, 3, 1}, d = {4, 4, 1};
   EXPECT_EQ(outputs_at(trvdirl, o, tiny, c, d), Values{7});
   EXPECT_NE(outputs_at(trvdirl, o, Point{beyond, 0, 0}, c, d), Values{7});
@@ -74,7 +76,7 @@ TEST(SpaceLines, SkewDependsOnTheLengthsOfTheSegments) {
     return outputs_at(trv3sp, o, u, o, w, o, Point{p[0] + x, p[1] + y, p[2] + z})[0];
   };
   EXPECT_EQ((Values{out(0, 0, 0), out(1, 0, 0), out(0, 1, 0), out(0, 0, 1), out(1, 0, 2)}),
-            (Values{0, 1, 1, 1, 0}));
+            (Values{TRV3SP_FLAT, TRV3SP_SPANNING, 1, 1, 0}));
 }
 
 TEST(SpaceLines, DistanceOfAPoint) {
@@ -126,13 +128,14 @@ TEST(SpaceLines, IntersectionOfTwoLinesMovesTheirPoints) {
 }
 
 TEST(SpaceLines, IntersectionWithPlane) {
-  EXPECT_EQ(outputs(trvpli, 1, -2, 4, 2, 3, 6, 5, -1, 2, -53), (Values{5, 4, 16, 0}));
+  EXPECT_EQ(outputs(trvpli, 1, -2, 4, 2, 3, 6, 5, -1, 2, -53), (Values{5, 4, 16, TRVPLI_DONE}));
   const double left = unwritten;
-  EXPECT_EQ(outputs(trvpli, 1, 2, 3, 2, 3, 6, 3, -6, 2, 4), (Values{left, left, left, 3}));
+  EXPECT_EQ(outputs(trvpli, 1, 2, 3, 2, 3, 6, 3, -6, 2, 4),
+            (Values{left, left, left, TRVPLI_PARALLEL}));
   EXPECT_EQ(outputs(trvpli, 1, 2, 3, 1, 0, tolerance, 0, 0, 1, 0), (Values{left, left, left, 3}));
   EXPECT_EQ(outputs(trvpli, 1, 2, 3, 1, 0, beyond, 0, 0, 1, 0)[3], 0);
   EXPECT_EQ(outputs(trvpli, 1, 2, 3, tolerance, -tolerance, 0, 1, 2, 3, 4),
-            (Values{left, left, left, 4}));
+            (Values{left, left, left, TRVPLI_ZERO}));
 }
 
 TEST(SpaceLines, PositionOfAPlane) {
@@ -142,9 +145,12 @@ TEST(SpaceLines, PositionOfAPlane) {
   };
   EXPECT_EQ((Values{position(beyond, -beyond, beyond), position(t, 1, 1), position(1, -t, 1),
                     position(1, 1, t)}),
-            (Values{101, 202, 303, 404}));
-  EXPECT_EQ((Values{position(0, t, 1), position(1, 0, t), position(t, 1, 0), position(0, 0, 0)}),
-            (Values{508, 609, 710, 710}));
+            (Values{101 * TRVPLP_GENERAL, 101 * TRVPLP_PARALLEL_X, 101 * TRVPLP_PARALLEL_Y,
+                    101 * TRVPLP_PARALLEL_Z}));
+  EXPECT_EQ(
+      (Values{position(0, t, 1), position(1, 0, t), position(t, 1, 0), position(0, 0, 0)}),
+      (Values{100 * TRVPLP_NORMAL_Z + TRVPLP_AT_Z_ZERO, 100 * TRVPLP_NORMAL_X + TRVPLP_AT_X_ZERO,
+              100 * TRVPLP_NORMAL_Y + TRVPLP_AT_Y_ZERO, 710}));
 }
 
 TEST(SpaceLines, PointsNearALine) {
@@ -160,7 +166,7 @@ TEST(SpaceLines, PointsNearALine) {
     return all;
   };
   EXPECT_EQ(found(0, 7), (Values{0, 0, 0, 0, 0, unwritten}));
-  EXPECT_EQ(found(4, 7), (Values{1, 3, 0, 0, 2, 0}));
+  EXPECT_EQ(found(4, 7), (Values{1, 3, 0, 0, 2, TRV_STATUS_DONE}));
   EXPECT_EQ(found(4, 6.999F), (Values{3, 0, 0, 0, 1, 0}));
   EXPECT_EQ(found(4, infinity), (Values{1, 2, 3, 0, 3, 0}));
 }
@@ -194,12 +200,12 @@ TEST(SpaceLines, PointCarriedAlong) {
   };
   // P is moved to (2, 0, 7) and Q1 to (5, 5, 18).
   const Point p = in_sevens(0, 0, 0), q1 = in_sevens(1, 0, 0), off = in_sevens(0, 1, 0);
-  EXPECT_EQ(carried(q1, in_sevens(3, 0, 0)), (Values{11, 15, 40, 3}));
-  EXPECT_EQ(carried(q1, in_sevens(-2, 0, 0)), (Values{-4, -10, -15, 4}));
-  EXPECT_EQ(carried(q1, p), (Values{2, 0, 7, 7}));
-  EXPECT_EQ(carried(p, off), (Values{off[0], off[1], off[2], 0}));
+  EXPECT_EQ(carried(q1, in_sevens(3, 0, 0)), (Values{11, 15, 40, TRVLPC_MOVED_ONE_SIDE}));
+  EXPECT_EQ(carried(q1, in_sevens(-2, 0, 0)), (Values{-4, -10, -15, TRVLPC_MOVED_EITHER_SIDE}));
+  EXPECT_EQ(carried(q1, p), (Values{2, 0, 7, TRVLPC_MOVED_AT_P}));
+  EXPECT_EQ(carried(p, off), (Values{off[0], off[1], off[2], TRVLPC_NOT_MOVED}));
   EXPECT_EQ(carried(q1, off), (Values{off[0], off[1], off[2], 0}));
   EXPECT_EQ(carried(q1, in_sevens(3, 1, 0))[3], 0);
   // Far out, rounding makes the lines skew, and the point is moved though it is off the line.
-  EXPECT_EQ(carried({1000.1F, 200.3F, 300.7F}, {-333.3F, 777.7F, 123.4F})[3], 6);
+  EXPECT_EQ(carried({1000.1F, 200.3F, 300.7F}, {-333.3F, 777.7F, 123.4F})[3], TRVLPC_MOVED_SKEW);
 }

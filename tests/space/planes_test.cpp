@@ -38,11 +38,11 @@ TEST(Planes, OfTwoLines) {
   const Values at_a = {42, 14, -21, -7, 0};
   const Point on_line = {6, 11, 19}, across = {3, -6, 2};
   expect({1, 14, 11}, across, plane, at_a, at_a);
-  expect(on_line, {4, 6, 12}, zeros(3), zeros(3), left(3));
-  expect(on_line, {-4, -6, -12}, zeros(4), zeros(4), left(4));
-  expect({1, 14, 12}, across, plane, at_a, left(6));
-  expect(on_line, {0, 0, 0}, zeros(7), zeros(7), left(7));
-  expect({1, 14, 11}, {4, 6, 12}, zeros(0), zeros(0), zeros(0));
+  expect(on_line, {4, 6, 12}, zeros(3), zeros(3), left(TRV_TWO_LINES_SAME_LINE));
+  expect(on_line, {-4, -6, -12}, zeros(4), zeros(4), left(TRV_TWO_LINES_OPPOSITE_LINE));
+  expect({1, 14, 12}, across, plane, at_a, left(TRV_TWO_LINES_SKEW));
+  expect(on_line, {0, 0, 0}, zeros(7), zeros(7), left(TRV_TWO_LINES_NO_LENGTH));
+  expect({1, 14, 11}, {4, 6, 12}, zeros(TRV_TWO_LINES_DONE), zeros(0), zeros(0));
 
   // The relation is taken twice. C agrees with A by its coordinates, so that the cosine of the call
   // before decides whether it is on the line; D, too far out to be nearer to A or B, leaves one.
@@ -51,10 +51,11 @@ TEST(Planes, OfTwoLines) {
 
 TEST(Planes, NormalToASegmentOrByIntercepts) {
   EXPECT_EQ(outputs(trvpl4, 1, -2, 4, 5, 6, 8, 47, 20, -13), plane);
-  EXPECT_EQ(outputs(trvpl4, 1, 2, 3, 0, 0, 0, tolerance, -tolerance, tolerance), zeros(1));
+  EXPECT_EQ(outputs(trvpl4, 1, 2, 3, 0, 0, 0, tolerance, -tolerance, tolerance),
+            zeros(TRV_COINCIDENCE_COINCIDENT));
   EXPECT_EQ(outputs(trvpl4, 1, 2, 3, 0, 0, 0, 0, beyond, 0)[4], 0);
-  EXPECT_EQ(outputs(trvpl5, 1, -2, 4), (Values{1, -0.5, 0.25, -1, 0}));
-  EXPECT_EQ(outputs(trvpl5, not_a_number, 1, 1), zeros(1));
+  EXPECT_EQ(outputs(trvpl5, 1, -2, 4), (Values{1, -0.5, 0.25, -1, TRVPL5_DONE}));
+  EXPECT_EQ(outputs(trvpl5, not_a_number, 1, 1), zeros(TRVPL5_NO_PLANE));
   EXPECT_EQ(outputs(trvpl5, 1, -tolerance, 1), zeros(1));
   EXPECT_EQ(outputs(trvpl5, 1, 1, tolerance), zeros(1));
 }
@@ -95,12 +96,12 @@ TEST(Planes, DistanceOfAPoint) {
   EXPECT_EQ(outputs(trvpld, 4, 1, -2, 2, 3, 6, -27), Values{-4});
   EXPECT_EQ(outputs(trvpld, 1, 5, 4, 2, 3, 6, -27), Values{2});
   EXPECT_FALSE(std::isfinite(outputs(trvpld, 1, 2, 3, 0, 0, 0, 1)[0]));
-  EXPECT_EQ(outputs(trvpspg, 4, 1, -2, 2, 3, 6, -27, 4), Values{0});
-  EXPECT_EQ(outputs(trvpspg, 4, 1, -2, 2, 3, 6, -27, 3.999), Values{-1});
+  EXPECT_EQ(outputs(trvpspg, 4, 1, -2, 2, 3, 6, -27, 4), Values{TRV_ON_PLANE_YES});
+  EXPECT_EQ(outputs(trvpspg, 4, 1, -2, 2, 3, 6, -27, 3.999), Values{TRV_ON_PLANE_NO});
   EXPECT_EQ(outputs(trvpspg, 1, 5, 4, 2, 3, 6, -27, 1.999), Values{-1});
   EXPECT_EQ(outputs(trvpspg, 1, not_a_number, 4, 2, 3, 6, -27, infinity), Values{-1});
   EXPECT_EQ(outputs(trvpspg, 1, 5, 4, not_a_number, 0, 0, -27, infinity), Values{-1});
-  EXPECT_EQ(outputs(trvpspg, 1, 2, 3, 0, 0, 0, 0, infinity), Values{1});
+  EXPECT_EQ(outputs(trvpspg, 1, 2, 3, 0, 0, 0, 0, infinity), Values{TRV_ON_PLANE_ZERO_NORMAL});
   EXPECT_EQ(outputs(trvpspg, 1e5, 0, 0, 1e-10, 0, 0, 0, infinity), Values{0});
 }
 
@@ -111,10 +112,10 @@ TEST(Planes, RelationOfDirections) {
   const Point u = {2, 3, 6}, zero = {0, 0, 0};
   EXPECT_EQ((Values{relation(zero, u), relation(zero, zero), relation(u, zero),
                     relation({tolerance, 0, -tolerance}, u)}),
-            (Values{-1, -1, 7, 7}));
+            (Values{TRVPLV_ZERO_U, -1, TRVPLV_ZERO, 7}));
   EXPECT_EQ((Values{relation(u, {4, 6, 12}), relation(u, {-4, -6, -12}), relation(u, {3, -6, 2}),
                     relation(u, {3, 2, 6})}),
-            (Values{3, 4, 5, 0}));
+            (Values{TRVPLV_SAME, TRVPLV_OPPOSITE, TRVPLV_PERPENDICULAR, TRVPLV_OBLIQUE}));
 }
 
 TEST(Planes, ListOfPointsRunsItsResidualOn) {

@@ -9,11 +9,14 @@ TEST(PointsOnLines, OneCoordinatePlacesThePoint) {
     double code;
     int free;  // coordinate of p that places it along the line
   };
-  const Case cases[] = {
-      {{2, 4, -4}, {4, 8, -3}, 1, 0},      {{4, 0, 0}, {not_a_number, 2, 3}, 2, 0},
-      {{0, 4, 0}, {1, infinity, 3}, 3, 1}, {{0, 0, 4}, {1, 2, not_a_number}, 4, 2},
-      {{2, 4, 0}, {4, 8, 3}, 5, 0},        {{0, 2, 4}, {1, 5, 9}, 6, 1},
-      {{2, 0, 4}, {4, 2, 9}, 7, 0}};
+  const double yes = TRV_ON_LINE_YES, no = TRV_ON_LINE_NO;
+  const Case cases[] = {{{2, 4, -4}, {4, 8, -3}, TRV_COMPONENTS_ALL, 0},
+                        {{4, 0, 0}, {not_a_number, 2, 3}, TRV_COMPONENTS_FIRST, 0},
+                        {{0, 4, 0}, {1, infinity, 3}, 3, 1},
+                        {{0, 0, 4}, {1, 2, not_a_number}, 4, 2},
+                        {{2, 4, 0}, {4, 8, 3}, 5, 0},
+                        {{0, 2, 4}, {1, 5, 9}, 6, 1},
+                        {{2, 0, 4}, {4, 2, 9}, 7, 0}};
   for (const Case &t : cases) {
     for (int i = 0; i < 3; ++i) {
       for (const float off : {0.25F, -0.25F, 0.26F, -0.26F, not_a_number}) {
@@ -21,7 +24,7 @@ TEST(PointsOnLines, OneCoordinatePlacesThePoint) {
         p[i] += off;
         if (i == t.free) continue;
         EXPECT_EQ(outputs(trvln6, 1, 2, 3, t.d[0], t.d[1], t.d[2], p[0], p[1], p[2], 0.25),
-                  (Values{t.code, std::fabs(off) == 0.25F ? 1.0 : 0.0}))
+                  (Values{t.code, std::fabs(off) == 0.25F ? yes : no}))
             << i << " off by " << off;
       }
     }
@@ -75,13 +78,13 @@ TEST(PointsOnLines, RelationOfPlanes) {
   const auto relation = [](const Values &p, const Values &q) {
     return outputs(trvdirp, p[0], p[1], p[2], p[3], q[0], q[1], q[2], q[3])[0];
   };
-  EXPECT_EQ(relation({1, 2, 3, 4}, {3, 2, 1, 4}), 0);
-  EXPECT_EQ(relation({2, 0, 0, 4}, {1, 0, 0, 3}), 1);
-  EXPECT_EQ(relation({0, 0, 1, -1}, {0, 0, -1, -1}), 2);
-  EXPECT_EQ(relation({1, 2, 3, 4}, {2, 4, 6, 8}), 3);
-  EXPECT_EQ(relation({0, 2, 0, 4}, {0, -4, 0, -8}), 4);
-  EXPECT_EQ(relation({1, 2, 3, 4}, {-5, 1, 1, 4}), 5);
-  EXPECT_EQ(relation({0, 0, 0, 4}, {1, 2, 3, 4}), 6);
+  EXPECT_EQ(relation({1, 2, 3, 4}, {3, 2, 1, 4}), TRVDIRP_CROSSING);
+  EXPECT_EQ(relation({2, 0, 0, 4}, {1, 0, 0, 3}), TRVDIRP_PARALLEL_SAME);
+  EXPECT_EQ(relation({0, 0, 1, -1}, {0, 0, -1, -1}), TRVDIRP_PARALLEL_OPPOSITE);
+  EXPECT_EQ(relation({1, 2, 3, 4}, {2, 4, 6, 8}), TRVDIRP_COINCIDENT_SAME);
+  EXPECT_EQ(relation({0, 2, 0, 4}, {0, -4, 0, -8}), TRVDIRP_COINCIDENT_OPPOSITE);
+  EXPECT_EQ(relation({1, 2, 3, 4}, {-5, 1, 1, 4}), TRVDIRP_PERPENDICULAR);
+  EXPECT_EQ(relation({0, 0, 0, 4}, {1, 2, 3, 4}), TRVDIRP_ZERO_NORMAL);
 }
 
 TEST(PointsOnLines, PlanesThroughTheOriginWithinTheToleranceCoincide) {

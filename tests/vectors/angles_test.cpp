@@ -28,7 +28,7 @@ TEST(Angles, RayWithoutLengthGivesZero) {
 }
 
 TEST(Angles, BetweenLinesIsAcuteAndLeavesTheStatus) {
-  EXPECT_EQ(outputs(trvphip, 1, 0, 0, 0, -tolerance, 0), (Values{unwritten, -1}));
+  EXPECT_EQ(outputs(trvphip, 1, 0, 0, 0, -tolerance, 0), (Values{unwritten, TRVPHIP_NO_LENGTH}));
   EXPECT_EQ(outputs(trvphip, 0, 0, tolerance, 1, 0, 0), (Values{unwritten, -1}));
   expect_near(outputs(trvphip, 1, 2, 2, -2, 1, -2), {std::acos(4.0 / 9), unwritten}, 1e-7);
 }
@@ -53,11 +53,11 @@ double relation(const Values &u, const Values &v) {
 }  // namespace
 
 TEST(Angles, RelationOfDirections) {
-  EXPECT_EQ(relation({1, 2, 3}, {3, 2, 1}), 0);
-  EXPECT_EQ(relation({1, 2, 3}, {2, 4, 6}), 1);
-  EXPECT_EQ(relation({1, 2, 3}, {-2, -4, -6}), 2);
-  EXPECT_EQ(relation({1, 2, 3}, {-5, 1, 1}), 3);
-  EXPECT_EQ(relation({1, 2, 3}, {0, 0, 0}), 4);
+  EXPECT_EQ(relation({1, 2, 3}, {3, 2, 1}), TRVDIR_OBLIQUE);
+  EXPECT_EQ(relation({1, 2, 3}, {2, 4, 6}), TRVDIR_SAME);
+  EXPECT_EQ(relation({1, 2, 3}, {-2, -4, -6}), TRVDIR_OPPOSITE);
+  EXPECT_EQ(relation({1, 2, 3}, {-5, 1, 1}), TRVDIR_PERPENDICULAR);
+  EXPECT_EQ(relation({1, 2, 3}, {0, 0, 0}), TRVDIR_ZERO);
 }
 
 TEST(Angles, RelationOfDirectionsAtTheTolerance) {

@@ -17,21 +17,25 @@ TEST(Vectors, DistanceProductsAndDeterminants) {
 
 TEST(Vectors, CoincidenceHoldsAtTheToleranceItselfAndNullAtZeroOnly) {
   const float t = tolerance;
-  EXPECT_EQ(outputs(trvcnt, 0, 0, 0, t, -t, t), (Values{t, -t, t, 1}));
-  EXPECT_EQ(outputs(trvcnt, 1, 2, 3, 1, 2, 5), (Values{0, 0, 2, 0}));
-  EXPECT_EQ(outputs(trvcnt1, 0, -0.0, 0), Values{1});
+  EXPECT_EQ(outputs(trvcnt, 0, 0, 0, t, -t, t), (Values{t, -t, t, TRV_COINCIDENCE_COINCIDENT}));
+  EXPECT_EQ(outputs(trvcnt, 1, 2, 3, 1, 2, 5), (Values{0, 0, 2, TRV_COINCIDENCE_DISTINCT}));
+  EXPECT_EQ(outputs(trvcnt1, 0, -0.0, 0), Values{TRVCNT1_ZERO});
   for (int i = 0; i < 3; ++i) {
     for (const float component : {beyond, -beyond, 1e-30F, not_a_number}) {
       float v[] = {0, 0, 0};
       v[i] = component;
       EXPECT_EQ(outputs(trvcnt, 0, 0, 0, v[0], v[1], v[2])[3], component == 1e-30F ? 1 : 0);
-      EXPECT_EQ(outputs(trvcnt1, v[0], v[1], v[2]), Values{0});
+      EXPECT_EQ(outputs(trvcnt1, v[0], v[1], v[2]), Values{TRVCNT1_NONZERO});
     }
   }
 }
 
 TEST(Vectors, ComponentsThatDifferByMoreThanTheTolerance) {
-  const double codes[] = {0, 2, 3, 5, 4, 7, 6, 1};  // by the sum of 1, 2 and 4 for those that do
+  const double codes[] = {// by the sum of 1, 2 and 4 for those that do
+                          TRV_COMPONENTS_NONE,         TRV_COMPONENTS_FIRST,
+                          TRV_COMPONENTS_SECOND,       TRV_COMPONENTS_FIRST_SECOND,
+                          TRV_COMPONENTS_THIRD,        TRV_COMPONENTS_FIRST_THIRD,
+                          TRV_COMPONENTS_SECOND_THIRD, TRV_COMPONENTS_ALL};
   for (const int which : {0, 1, 2, 3, 4, 5, 6, 7}) {
     const double x = which & 1, y = which & 2, z = which & 4;
     EXPECT_EQ(outputs(trvpsn, 10, 20, 30, 10 + x, 20 - y, 30 + z), (Values{codes[which]})) << which;
@@ -61,9 +65,9 @@ TEST(Vectors, InterpolatesAndExtrapolates) {
 }
 
 TEST(Vectors, SignOfAValue) {
-  EXPECT_EQ(outputs(trvvin, -1, 1e-40F, not_a_number, -1, -1), Values{1});
+  EXPECT_EQ(outputs(trvvin, -1, 1e-40F, not_a_number, -1, -1), Values{TRVVIN_POSITIVE});
   for (const float v : {0.0F, -1.0F, not_a_number})
-    EXPECT_EQ(outputs(trvvin, 1, v, 1, 1, 1), Values{2});
+    EXPECT_EQ(outputs(trvvin, 1, v, 1, 1, 1), Values{TRVVIN_NOT_POSITIVE});
 }
 
 TEST(Vectors, PositionInATable) {
@@ -76,10 +80,10 @@ TEST(Vectors, PositionInATable) {
     return 100 * interval + 10 * status + i;
   };
   EXPECT_EQ((Values{place(3, 0), place(3, 0.5F), place(3, 1), place(3, 1.5F), place(3, 2)}),
-            (Values{111, 121, 212, 222, 13}));
+            (Values{101 + 10 * TRVPOS1_AT_ENTRY, 101 + 10 * TRVPOS1_BETWEEN, 212, 222, 13}));
   EXPECT_EQ((Values{place(3, t), place(3, beyond), place(3, -t), place(3, 0.999995F)}),
             (Values{111, 121, 11, 112}));
   EXPECT_EQ((Values{place(3, -beyond), place(3, 2.5F), place(3, not_a_number), place(1, 0.5F),
                     place(0, 0), place(-1, 0), place(1, 0)}),
-            (Values{0, 0, 0, 0, 0, 0, 11}));
+            (Values{10 * TRVPOS1_NEITHER, 0, 0, 0, 0, 0, 11}));
 }

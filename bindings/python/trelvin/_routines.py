@@ -414,7 +414,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     "trvpl5": {
         "status": {
             0: 'the plane is computed',
-            1: 'an intercept is within the tolerance or NaN',
+            1: 'there is no plane, since an intercept is within the tolerance or NaN',
         },
     },
     "trvpl6": {
@@ -1078,10 +1078,12 @@ def trvcer2(
       r: radius
 
     Returns:
-      xa, ya: first candidate; unwritten on a condition: n is 0 and the chord is not horizontal
-      xb, yb: second candidate; unwritten on a condition: n is 0 and the chord is not horizontal
-      xc, yc: chosen centre; unwritten on a condition: n is 0 and the chord is not horizontal,
-        or a NaN decides
+      xa, ya: first candidate; unwritten on a condition: P1 = P2 exactly, r is at most 1e-5, or
+        n is 0 and the chord is not horizontal
+      xb, yb: second candidate; unwritten on a condition: that of xa
+      xc, yc: chosen centre; unwritten on a condition: that of xa, or neither candidate is on
+        the side: side times its distance (trvlds) is not at least 0 for the first and not
+        positive for the second, as with a NaN
       n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or less than
         half the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both
         candidates are the same point; 2 two: there are two points
@@ -1125,8 +1127,8 @@ def trvcer1(
 
     Returns:
       r: radius; unwritten on a condition: h < 1e-5
-      xc, yc: chosen centre; unwritten on a condition: n is 0 and the chord is not horizontal,
-        or a NaN decides
+      xc, yc: chosen centre; unwritten on a condition: h < 1e-5, or trvcer2 leaves it unwritten
+        for the radius r
       n: number of centres of trvcer2 (TrvPoints): 0 none: h < 1e-5, P1 = P2 exactly, r is at
         most 1e-5 or less than half the chord, the discriminant is NaN, or the chord is
         horizontal; 1 one: both candidates are the same point; 2 two: there are two points
@@ -1773,9 +1775,9 @@ def trvcer7(
     Retains: nothing.
 
     Arguments:
-      xc, yc: centre C; comes back as it went in
-      xa, ya: first end A; likewise
-      xb, yb: second end B; likewise
+      xc, yc: centre C; unchanged
+      xa, ya: first end A; unchanged
+      xb, yb: second end B; unchanged
       s: station: distance from A along the chord, not negative
       side: only its sign counts: positive picks the left of the chord A to B, to which
         clockwise from A the circle runs; negative the right
@@ -1784,9 +1786,9 @@ def trvcer7(
         counter-clockwise; the line runs both ways
 
     Returns:
-      xc, yc: centre C; comes back as it went in
-      xa, ya: first end A; likewise
-      xb, yb: second end B; likewise
+      xc, yc: centre C; unchanged
+      xa, ya: first end A; unchanged
+      xb, yb: second end B; unchanged
       xp, yp: station P; unwritten if status is 0
       xt, yt: crossing T with the parallel; unwritten if status is 0
       xo, yo: crossing O with the circle about C through A; unwritten if status is 0
@@ -2217,11 +2219,11 @@ def trvmer2(
 
     Arguments:
       V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; below 1 nothing happens
+      n: number of entries; unchanged if n < 1
 
     Returns:
       V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; below 1 nothing happens
+      n: number of entries; unchanged if n < 1
     """
     return _trvmer2.call((V, n), in_place)
 
@@ -2252,11 +2254,11 @@ def trvmer3(
 
     Arguments:
       V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; below 1 nothing happens
+      n: number of entries; unchanged if n < 1
 
     Returns:
       V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; below 1 nothing happens
+      n: number of entries; unchanged if n < 1
     """
     return _trvmer3.call((V, n), in_place)
 
@@ -2288,12 +2290,12 @@ def trvmer12(
 
     Arguments:
       V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; below 1 nothing happens
+      n: number of entries; unchanged if n < 1
       tol: largest difference of a repeat, itself included; may be an entry of V
 
     Returns:
       V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; below 1 nothing happens
+      n: number of entries; unchanged if n < 1
     """
     return _trvmer12.call((V, n, tol), in_place)
 
@@ -2404,13 +2406,13 @@ def trvmer15(
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 it stays as it is
+      na: number of entries of A; unchanged if na < 1
       A: array of na, na used: those that stay, in their order; unspecified beyond the new na
       nb: number of entries of B; below 1 there are none
       B: array of nb: entries
 
     Returns:
-      na: number of entries of A; below 1 it stays as it is
+      na: number of entries of A; unchanged if na < 1
       A: array of na, na used: those that stay, in their order; unspecified beyond the new na
       count_: how many were removed
     """
@@ -2445,12 +2447,12 @@ def trvmer16(
 
     Arguments:
       X, Y: arrays of n, n used: vertices; unspecified beyond the new n
-      n: number of vertices; below 1 nothing happens
+      n: number of vertices; unchanged if n < 1
       tol: largest difference of either coordinate, itself included
 
     Returns:
       X, Y: arrays of n, n used: vertices; unspecified beyond the new n
-      n: number of vertices; below 1 nothing happens
+      n: number of vertices; unchanged if n < 1
     """
     return _trvmer16.call((X, Y, n, tol), in_place)
 
@@ -3885,15 +3887,19 @@ def trvadr(
     Retains: nothing.
 
     Arguments:
-      V: array of n+m: the list, with room for what is inserted
-      n: number of its elements; n+m afterwards
-      k: position after which to insert, 0 for the front; nothing happens outside 0 ... n
+      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: that
+        of n
+      n: number of its elements; n+m afterwards; unchanged on a condition: k is negative or
+        above n, or m < 1
+      k: position after which to insert, 0 for the front
       A: array of m: what to insert
-      m: number of elements to insert; below 1 nothing happens
+      m: number of elements to insert
 
     Returns:
-      V: array of n+m: the list, with room for what is inserted
-      n: number of its elements; n+m afterwards
+      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: that
+        of n
+      n: number of its elements; n+m afterwards; unchanged on a condition: k is negative or
+        above n, or m < 1
     """
     return _trvadr.call((V, n, k, A, m), in_place)
 
@@ -3928,13 +3934,13 @@ def trvapl(
 
     Arguments:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself
+        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
       n: number of vertices, at least 0, which gives 0: for a negative n element n+1 would be
         before the arrays
 
     Returns:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself
+        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
       area: signed area, in L^2
     """
     return _trvapl.call((x, y, n), in_place)
@@ -3969,13 +3975,13 @@ def trvspl(
 
     Arguments:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself
+        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
       n: number of vertices, at least 0, which gives zeros: for a negative n element n+1 would
         be before the arrays
 
     Returns:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself
+        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
       sx: first moment about the x axis, the integral of y dA, in L^3
       sy: first moment about the y axis, the integral of x dA, in L^3
     """
@@ -4014,13 +4020,13 @@ def trvipl(
 
     Arguments:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself
+        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
       n: number of vertices, at least 0, which gives zeros: for a negative n element n+1 would
         be before the arrays
 
     Returns:
       x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself
+        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
       ix: second moment about the x axis, the integral of y*y dA, in L^4
       iy: second moment about the y axis, the integral of x*x dA, in L^4
       ixy: product of inertia, the integral of x*y dA, in L^4
@@ -4123,7 +4129,7 @@ class TrvairResult(NamedTuple):
 
 _trvair = Routine(
     "trvair", TrvairResult,
-    "inout real x[1, n+1, 2, 3, 3 by kind]; inout real y[1, n+1, 2, 3, 3 by kind]; "
+    "inout real x[0, n+1, 2, 3, 3 by kind]; inout real y[0, n+1, 2, 3, 3 by kind]; "
     "in int n >= 0 = x y; in int kind; in real value; in real factor; inout real area",
 )
 
@@ -4140,9 +4146,9 @@ def trvair(
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
-        an unknown kind
+      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
+        overwritten with vertex 1 for kind 2; nothing is read for kind 1 and an unknown kind;
+        unchanged on a condition: kind is not 2, or elements 1 to n
       n: vertices of kind 2, at least 0, which gives 0: for a negative n element n+1 would be
         before the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2 polygon: points
@@ -4157,9 +4163,9 @@ def trvair(
         the factor
 
     Returns:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
-        an unknown kind
+      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
+        overwritten with vertex 1 for kind 2; nothing is read for kind 1 and an unknown kind;
+        unchanged on a condition: kind is not 2, or elements 1 to n
       area: area of the part, times the factor; for an unknown kind the caller's value, times
         the factor
     """
@@ -4194,8 +4200,8 @@ def trvstm(
 
     Arguments:
       x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
-        an unknown kind
+        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
+        a condition: kind is not 2, or elements 1 to n
       n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
         be before the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2 polygon: points
@@ -4211,8 +4217,8 @@ def trvstm(
 
     Returns:
       x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
-        an unknown kind
+        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
+        a condition: kind is not 2, or elements 1 to n
       sx, sy: first moments about the x and the y axis, times the factor; for an unknown kind
         the caller's values, times the factor
     """
@@ -4259,8 +4265,8 @@ def trvinm(
 
     Arguments:
       x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
-        an unknown kind
+        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
+        a condition: kind is not 2, or elements 1 to n
       n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
         be before the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1, or a region with
@@ -4279,8 +4285,8 @@ def trvinm(
 
     Returns:
       x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2, nothing is written otherwise; nothing is read for
-        an unknown kind
+        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
+        a condition: kind is not 2, or elements 1 to n
       ix, iy, ixy: second moments about the axes, times the factor; ixy for kinds 4 and 5
         without the segment's own product of inertia, as trvicp gives it; for kind 1 the own
         moments on entry; for an unknown kind the caller's values, times the factor
@@ -4470,8 +4476,8 @@ def trvef2(
     Returns:
       be1: effective width at the edge of s1; unwritten on a condition: that of be2
       be2: effective width at the other edge; unwritten on a condition: both stresses are within
-        the tolerance, s1 is not positive, s2 is above s1 by more than the tolerance, or s2 =
-        -3*s1
+        the tolerance, s1 is zero or negative, s1 = -s2/3, or s2 is not within the tolerance and
+        s2 - s1 is above it or NaN
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -6148,8 +6154,8 @@ def trvpl5(
 
     Returns:
       a, b, c, d: plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
-      status: outcome: 0 done: the plane is computed; 1 no_plane: an intercept is within the
-        tolerance or NaN
+      status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an
+        intercept is within the tolerance or NaN
     """
     return _trvpl5.cells(ix, iy, iz, _NAN, _NAN, _NAN, _NAN, 0)
 
