@@ -36,9 +36,9 @@ fs::path behind_links(const fs::path &file) {
 }
 
 // Nullptr if there is a file of that name already, or a link.
-std::FILE *create(const fs::path &file, const fs::path & /*like*/) {
+std::FILE *create(const fs::path &name, const fs::path & /*like*/) {
   const int descriptor =
-      _wopen(file.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY, _S_IREAD | _S_IWRITE);
+      _wopen(name.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY, _S_IREAD | _S_IWRITE);
   return descriptor < 0 ? nullptr : _fdopen(descriptor, "wb");
 }
 
@@ -61,10 +61,10 @@ fs::path behind_links(fs::path file) {
 
 // Nullptr if there is a file of that name already, or a link. Owner and mode are those of the other
 // file, if there is one: of the owner as far as the user may give a file away.
-std::FILE *create(const fs::path &file, const fs::path &like) {
+std::FILE *create(const fs::path &name, const fs::path &like) {
   struct stat other {};
   const bool has_other = stat(like.c_str(), &other) == 0;
-  const int descriptor = open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+  const int descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                               has_other ? 0600 : 0666);
   if (descriptor < 0) return nullptr;
   if (has_other) {

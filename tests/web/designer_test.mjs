@@ -84,6 +84,21 @@ function commandLine(words, ...options) {
   return { text: stdout, message: stderr.split('\n')[0].replace('section_properties: ', '') };
 }
 
+// What people see and hear of a section: its first figures, from the table of the command line.
+function mainFigures(words) {
+  const main = ['Area A', 'centroid Ix', 'centroid Iy', 'Elastic Wx1', 'Plastic Wpx', 'Torsion It'];
+  let heading = '';
+  const rows = commandLine(words).text.split('\n').map((row) => {
+    heading = row.slice(0, 33).trim() || heading;
+    return [heading, ...row.slice(33).trim().split(/\s+/)];
+  });
+  return main.map((names) => {
+    const [of, symbol] = names.split(' ');
+    const row = rows.find((each) => each[0].includes(of) && each[1] === symbol);
+    return `${symbol} ${row[4]} ${row[5].replace(/\d/, (n) => '  ²³⁴'[n])}`;
+  });
+}
+
 // The outline in the picture that is seen.
 const outline = () => page.locator('#picture path[fill-rule]').getAttribute('d');
 const field = (name) => page.locator(`#dimension-${name}`);
@@ -153,11 +168,17 @@ test('a dimension that cannot be says why in the words of the command line', asy
     assert.notEqual(await faultOf('T'), '', word);
     assert.equal(await field('T').getAttribute('aria-invalid'), 'true', word);
     assert.equal(await outline(), seen, word);
+    assert.ok(await page.locator('#stale').isVisible(), word);
+    assert.equal(await page.locator('#result').getAttribute('class'), 'stale', word);
   }
+  await field('T').fill('8'.repeat(5000));
+  assert.equal(await faultOf('T'), 'too long to be dimensions');
   for (const word of ['8,5', '.5', ',5', '5.', '1e1', '0.1E+2', '007', '3.00000001']) {
     await field('T').fill(word);
     assert.equal(await faultOf('T'), '', word);
     assert.equal(await field('T').getAttribute('aria-invalid'), 'false', word);
+    assert.ok(await page.locator('#stale').isHidden(), word);
+    assert.equal(await page.locator('#result').getAttribute('class'), '', word);
     assert.equal(
       await taken('JSON'),
       commandLine(['rhs', '100', '200', word], '--json').text,
@@ -176,6 +197,26 @@ test('a fault stands beside the dimension that was changed', async () => {
   );
 });
 
+// The address that the page sets after a change comes between the link and its event.
+test('a link that is followed while the page is busy is not lost', async () => {
+  await follow('rolled 300 150 7.1 10.7 15');
+  await field('H').fill('310');
+  await page.evaluate(
+    () =>
+      new Promise((done) => {
+        window.addEventListener('hashchange', done, { once: true });
+        const { port1, port2 } = new MessageChannel();
+        port1.onmessage = () => {
+          location.hash = 'rhs/100,5/200/8';
+        };
+        port2.postMessage('');
+        for (const end = performance.now() + 500; performance.now() < end; );
+      }),
+  );
+  assert.equal(await taken('command line'), 'section_properties rhs 100.5 200 8\n');
+  await page.waitForFunction(() => location.hash === '#rhs/100.5/200/8');
+});
+
 test('a link brings another browser to the same section', async () => {
   await follow('l2 90 120 10 9 11');
   await field('G').fill('12,5');
@@ -189,11 +230,20 @@ test('a link brings another browser to the same section', async () => {
 test('a link to no section says so', async () => {
   for (const words of [['rsh', '100', '200', '8'], ['rhs', '100', '200'], ['%']]) {
     const other = await open(`#${words.join('/')}`);
-    assert.equal(await other.locator('#link-fault').textContent(), commandLine(words).message);
+    assert.equal(await other.getByRole('alert').textContent(), commandLine(words).message);
     assert.match(await taken('command line', other), /^section_properties rolled /);
     await other.close();
   }
+  await follow('RHS 100%2C5 200 8');
+  assert.equal(await taken('command line'), 'section_properties rhs 100.5 200 8\n');
+  const words = ['rsh', '1'];
+  await page.evaluate(() => (location.hash = 'rsh/1'));
+  assert.equal(await page.locator('#link-fault').textContent(), commandLine(words).message);
+  await field('H').fill('210');
+  assert.equal(await page.locator('#link-fault').textContent(), '');
+  assert.equal(await taken('command line'), 'section_properties rhs 100.5 210 8\n');
   await follow('l2 90 120 10 9 130');
+  assert.equal(await taken('command line'), 'section_properties l2 90 120 10 9 11\n');
   assert.equal(await faultOf('TV'), commandLine('l2 90 120 10 9 130'.split(' ')).message);
 });
 
@@ -204,6 +254,19 @@ test('a slider changes its dimension, and reaches what was typed', async () => {
   await field('H').fill('1e39');
   await field('H').fill('2000');
   assert.equal(await page.locator('#slider-H').inputValue(), '2000');
+  await follow('l 100 100 10 12');
+  await field('T').fill('7,25');
+  for (const [name, ...reach] of [
+    ['B', '1', '250', '1', '100'],
+    ['T', '0.1', '25', '0.1', '7.3'],
+    ['R', '0', '30', '0.1', '12'], // may be 0
+  ]) {
+    const slider = page.locator(`#slider-${name}`);
+    const has = (one) => [one.min, one.max, one.step, one.value];
+    assert.deepEqual(await slider.evaluate(has), reach);
+  }
+  await field('B').fill('251');
+  assert.equal(await page.locator('#slider-B').getAttribute('max'), '628');
 });
 
 test('the keyboard alone will do', async () => {
@@ -219,9 +282,32 @@ test('the keyboard alone will do', async () => {
   await page.keyboard.press('Tab');
   await page.keyboard.press('ArrowRight');
   assert.equal(await taken('command line'), 'section_properties rolled 300 150 6.3 10.7 15\n');
+  for (const [typed, key, stepped] of [
+    ['7,25', 'ArrowUp', '7.35'],
+    ['7', 'PageUp', '8'],
+    ['7', 'Shift+PageDown', '6'],
+    ['0,3', 'PageDown', '0.1'],
+    ['7', 'Alt+ArrowUp', '7'],
+    ['7', 'Control+PageUp', '7'],
+    ['', 'ArrowUp', ''],
+    ['x', 'ArrowUp', 'x'],
+  ]) {
+    await field('TW').fill(typed);
+    await field('TW').press(key);
+    assert.equal(await field('TW').inputValue(), stepped, `${typed} ${key}`);
+    if (Number(stepped))
+      assert.match(await taken('command line'), new RegExp(` ${stepped} 10.7 15`));
+  }
+  await page.evaluate(() => (window.isSame = true));
+  await field('TW').press('Enter');
+  assert.ok(await page.evaluate(() => window.isSame), 'Enter loads no page');
+  await field('TW').fill('6.3');
   await page.locator('input[value=rolled]').focus();
   await page.keyboard.press('ArrowLeft');
   assert.match(await taken('command line'), /^section_properties h2b /);
+  assert.match(await page.locator('#description').textContent(), /two webs/);
+  await page.keyboard.press('ArrowRight');
+  assert.match(await taken('command line'), /^section_properties rolled 300 150 6.3 /);
 });
 
 test('every control has a name, and what changes is told', async () => {
@@ -240,9 +326,93 @@ test('every control has a name, and what changes is told', async () => {
         ).length,
     );
   assert.equal(unnamed, 0);
-  await page.waitForFunction(() =>
-    document.getElementById('told').textContent.startsWith('A 53.81201 cm²'),
+  const told = mainFigures('rolled 300 150 7.1 10.7 15'.split(' '));
+  await page.waitForFunction(
+    (text) => document.getElementById('told').textContent === text,
+    told.join(', '),
   );
+  assert.deepEqual(await page.locator('#main-figures > div').allInnerTexts().then((all) =>
+    all.map((text) => text.split(/\s+/).join(' '))), told);
+  const found = [];
+  for (const [role, name, of] of [
+    ['group', 'Profile', '#profiles'],
+    ['group', 'Dimensions in mm', '#dimensions'],
+    ['textbox', 'TW', '#dimension-TW'],
+    ['slider', 'TW, slider', '#slider-TW'],
+    ['region', 'Section', '#result'],
+    ['region', 'Figures', ':has(> #figures)'],
+    ['region', 'Take along', ':has(> #text)'],
+    ['img', '', '#picture > svg'],
+    ['rowheader', 'Area', '#rows tr:first-child > th'],
+    ['combobox', 'as', '#format'],
+    ['status', '', '#told'],
+    ['status', '', '#copied'],
+  ]) {
+    const one = page.getByRole(role, name && { name, exact: true }).and(page.locator(of));
+    if ((await one.count()) !== 1) found.push(`${role} ${name} ${of}`);
+  }
+  assert.deepEqual(found, []);
+  for (const name of ['dimension-TW', 'slider-TW'])
+    assert.equal(await page.locator(`#${name}`).getAttribute('aria-describedby'), 'fault-TW');
+});
+
+test('what is copied is what is shown', async () => {
+  await follow('rhs 100 200 8');
+  await field('T').fill('9');
+  for (const isAllowed of [true, false]) {
+    await page.evaluate((allowed) => {
+      window.copies = [];
+      const writeText = async (text) => (allowed ? window.copies.push(text) : Promise.reject());
+      Object.defineProperty(navigator, 'clipboard', { value: { writeText }, configurable: true });
+      document.oncopy = ({ target }) =>
+        window.copies.push(target.value.slice(target.selectionStart, target.selectionEnd));
+    }, isAllowed);
+    for (const [button, format, text] of [
+      ['#copy', 'JSON', await taken('JSON')],
+      ['#copy', 'command line', 'section_properties rhs 100 200 9\n'],
+      ['#copy-link', 'link', `${url}#rhs/100/200/9`],
+    ]) {
+      if (button === '#copy') await taken(format);
+      await page.locator(button).click();
+      await page.waitForFunction((n) => window.copies.length === n, 1);
+      assert.equal(await page.evaluate(() => window.copies.pop()), text);
+      await page.waitForFunction(
+        (told) => document.getElementById('copied').textContent === told,
+        `${format} copied`,
+      );
+    }
+    assert.equal(await page.locator('textarea').count(), 0);
+  }
+  await page.waitForFunction(() => document.getElementById('copied').textContent === '');
+});
+
+test('a browser that cannot run the code says so', async () => {
+  const other = await browser.newPage();
+  await other.addInitScript(() => {
+    WebAssembly.instantiate = () => Promise.reject(new Error('none here'));
+  });
+  await other.goto(url);
+  await other.waitForFunction(() => document.getElementById('link-fault').textContent !== '');
+  assert.match(await other.locator('#link-fault').textContent(), /cannot run.*: none here$/);
+  await other.close();
+});
+
+test('each profile shows its steel in a square', async () => {
+  const icons = await page.locator('#profiles label').evaluateAll((all) =>
+    all.map((label) => {
+      const [svg, path] = [label.querySelector('svg'), label.querySelector('svg > path')];
+      const [box, steel] = [svg.viewBox.baseVal, path.getBBox()];
+      return [
+        box.width / Math.max(steel.width, steel.height),
+        box.height / box.width,
+        (box.x + box.width / 2 - steel.x - steel.width / 2) / box.width,
+        (box.y + box.height / 2 - steel.y - steel.height / 2) / box.height,
+        svg.children.length,
+        Number(svg.ariaHidden === 'true') + Number(label.title.length > 0),
+      ].map((value) => Math.round(1000 * value) / 1000 + 0);
+    }),
+  );
+  for (const icon of icons) assert.deepEqual(icon, [1.2, 1, 0, 0, 1, 2]);
 });
 
 test('no wider than a phone', async () => {
@@ -252,7 +422,23 @@ test('no wider than a phone', async () => {
       location.hash = hash;
     }, section.split(' ').join('/'));
     assert.equal(await phone.evaluate(() => document.documentElement.scrollWidth), 390, section);
+    const chosen = await phone.locator('label:has(input:checked)').boundingBox();
+    assert.ok(chosen.x >= 0 && chosen.x + chosen.width <= 390, section);
   }
+  const drawn = () =>
+    phone.evaluate(() => {
+      const svg = document.querySelector('#picture > svg');
+      const { x, y, width, height } = svg.getBBox();
+      const box = svg.viewBox.baseVal;
+      const rims = [x - box.x, y - box.y];
+      rims.push(box.width - width - rims[0], box.height - height - rims[1]);
+      const is = (rim) => rims.every((each) => Math.abs(each - rim) < 2);
+      return [svg.textContent.includes('dimensions in mm'), is(10), is(0)];
+    });
+  assert.deepEqual(await drawn(), [false, true, false]);
+  await phone.setViewportSize({ width: 1200, height: 844 });
+  await phone.waitForFunction(() => document.querySelector('#picture > svg > rect'));
+  assert.deepEqual(await drawn(), [true, false, true]);
   await phone.close();
 });
 
@@ -319,6 +505,39 @@ function printed(language, text) {
     run([...compiler.split(' '), source, ...output, ...libraries.split(' ').filter(Boolean)]);
   return run([...(START[language] ?? []), program]);
 }
+
+// Basic has no compiler here. Its statements are held against those of C#, which is run.
+test('calls in Basic are those in C#', async () => {
+  const noise = /\b(new|float|ref|out|Array)\b|\(0\)|(?<=\d)f\b/g;
+  const statements = (text, forms) =>
+    forms.map((form) =>
+      [...text.matchAll(form)].map((match) =>
+        match.slice(1).join(' ').replace(noise, '').match(/-?[\w.]+|[-*/]/g).join(' '),
+      ),
+    );
+  for (const section of [SECTIONS[13], SECTIONS[6], SECTIONS[5]]) {
+    await follow(section);
+    const broken = await taken('calls in Basic');
+    assert.doesNotMatch(broken, /(.* _\n){25}|.{121}/); // Basic takes 24 of such lines
+    const basic = broken.replace(/ _\n/g, ' ');
+    const sharp = statements(await taken('calls in C#'), [
+      /(trv\w+|Add)\(([^;]*)\);/g,
+      /(\w+) \+= (\w+);/g,
+      /\$"(\w+) +\{(.*):G7\} (\w+)"/g,
+      /(\w+) = (-?[\d.]+)f/g,
+    ]);
+    const found = statements(basic, [
+      /^ *(?:AddPart|(?=trv))(.*)$/gm,
+      /^ *(\w+) = \1 \+ (\w+)$/gm,
+      /Print "(\w+) +"; (.*); " (\w+)"/g,
+      /Const (\w+) As Single = (.*)/g,
+    ]);
+    found[0] = found[0].map((call) => (call.startsWith('trv') ? call : `Add ${call}`));
+    for (const kind of [0, 1, 2, 3]) assert.deepEqual(found[kind].sort(), sharp[kind].sort());
+    const copied = 'For i = 0 To n - 1\n px(i) = x(first + i)\n py(i) = y(first + i)\n';
+    assert.ok(basic.replace(/ +/g, ' ').includes(copied));
+  }
+});
 
 // The Python package as it would be installed.
 before(() => {

@@ -315,20 +315,20 @@ function drawIcons() {
   }
 }
 
-function wordsOfLink() {
-  const hash = location.hash.slice(1);
+function wordsOfLink(hash) {
+  const link = hash.slice(1);
   try {
-    return decodeURIComponent(hash).split('/');
+    return decodeURIComponent(link).split('/');
   } catch {
     // a stray %
-    return hash.split('/');
+    return link.split('/');
   }
 }
 
 // A link that is none leaves a message, and the section as it was.
-function openLink() {
-  if (section && location.hash === address()) return;
-  const [name, ...words] = wordsOfLink();
+function openLink(hash) {
+  if (section && hash === address()) return;
+  const [name, ...words] = wordsOfLink(hash);
   const linked = engine.profiles.find((each) => each.name === name.toLowerCase());
   const isLink = linked && words.length === linked.dimensions.length;
   const refusal = name === '' || isLink ? '' : engine.design(name, words).refusal;
@@ -371,7 +371,8 @@ function listen() {
     copy(location.href.split('#')[0] + address(), 'link'),
   );
   element('section').addEventListener('submit', (event) => event.preventDefault());
-  window.addEventListener('hashchange', openLink);
+  // The event has the link. On a busy machine the page has set its own address again meanwhile.
+  window.addEventListener('hashchange', (event) => openLink(new URL(event.newURL).hash));
   CROPPED.addEventListener('change', () => show(section));
 }
 
@@ -380,7 +381,7 @@ startEngine()
     engine = started;
     makeChooser();
     listen();
-    openLink();
+    openLink(location.hash);
     performance.measure('first picture', 'arrived');
     setTimeout(drawIcons);
   })
