@@ -26,6 +26,15 @@ endif()
 if(TRELVIN_BUILD_FUZZER)
   target_compile_options(trelvin PRIVATE -fsanitize=fuzzer-no-link)
 endif()
+set(is_x86 "^(x86|x86_64|AMD64|i[3-6]86)$")
+if(NOT WIN32 AND NOT CMAKE_SYSTEM_PROCESSOR STREQUAL wasm32)
+  # Not on Windows: MinGW's protector asks for more of the system, and for start-up code to draw its
+  # number, which the DLL does not have.
+  target_compile_options(trelvin PRIVATE -fstack-protector-strong)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES ${is_x86})
+    target_compile_options(trelvin PRIVATE -fcf-protection)
+  endif()
+endif()
 if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
   # Hosts of the 1990s keep the stack aligned to 4 bytes only.
   # Nothing throws through it, so it carries no tables for that. On 64-bit Windows every function has
@@ -40,7 +49,7 @@ if(NOT MSVC)  # whose AVX2 comes with fused multiply-add
   set(edge_sums src/properties/edge_sums.cpp src/properties/edge_sums_avx2.cpp)
   set_source_files_properties(
     ${edge_sums} PROPERTIES COMPILE_OPTIONS "-fno-tree-vectorize;-fno-tree-slp-vectorize")
-  if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86|x86_64|AMD64|i[3-6]86)$")
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES ${is_x86})
     set_property(SOURCE src/properties/edge_sums_avx2.cpp src/space/rotations_avx2.cpp
                  APPEND PROPERTY COMPILE_OPTIONS -mavx2)
   endif()
@@ -48,7 +57,7 @@ endif()
 
 if(WIN32 AND NOT MSVC)
   # The DLL is to stay small. These rooms have no loops that the compiler widens.
-  file(GLOB_RECURSE small src/circles/*.cpp src/lists/*.cpp src/sections/*.cpp)
+  file(GLOB_RECURSE small src/circles/*.cpp src/lists/*.cpp src/sections/*.cpp src/vectors/*.cpp)
   list(APPEND small src/entries/circles.cpp src/entries/lists.cpp src/entries/sections.cpp)
   set_property(SOURCE ${small} APPEND PROPERTY COMPILE_OPTIONS $<$<CONFIG:Release>:-O2>)
 endif()
@@ -61,9 +70,10 @@ if(WIN32)
   include(${CMAKE_CURRENT_LIST_DIR}/windows.cmake)
 else()
   # Of the C++ run-time only what is called would be asked for, and nothing is. Addresses are bound
-  # at loading and read-only from then on.
+  # at loading and read-only from then on. Nothing is to be started, and the compiler's start-up files
+  # are not marked for control-flow enforcement, which needs the mark of every object.
   target_link_options(
-    trelvin PRIVATE -Wl,--as-needed -Wl,-z,relro,-z,now
+    trelvin PRIVATE -nostartfiles -Wl,--as-needed -Wl,-z,relro,-z,now
                     -Wl,--version-script=${PROJECT_SOURCE_DIR}/src/entries/trelvin.map)
   set_property(TARGET trelvin APPEND PROPERTY LINK_DEPENDS
                                               ${PROJECT_SOURCE_DIR}/src/entries/trelvin.map)

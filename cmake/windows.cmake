@@ -40,6 +40,9 @@ endif()
 target_sources(trelvin PRIVATE ${exports})
 target_link_options(trelvin PRIVATE -static -s -nostartfiles -Wl,--dynamicbase -Wl,--nxcompat
                                     -Wl,--no-insert-timestamp)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_link_options(trelvin PRIVATE -Wl,--no-seh)  # no address in it is a handler of exceptions
+endif()
 
 # The linker's own import library names each routine as the export table does; it is replaced by one
 # of the names for calls. Its members are named after a prefix, which is drawn at random unless it is

@@ -51,6 +51,7 @@ ALLOWED_IMPORTS = {
     "msvcrt.dll": MEMORY,
 }
 BIND_NOW = 8  # of DT_FLAGS
+INDIRECT_BRANCHES, SHADOW_STACK = 1, 2  # of GNU_PROPERTY_X86_FEATURE_1_AND
 ALLOWED_DEPENDENCIES = {"libc.so.6", "libm.so.6"}
 OLDEST_C_LIBRARY = (2, 17)  # that the library must load with
 
@@ -92,7 +93,9 @@ def import_faults(dll, name_of_file):
 
 
 def image_faults(dll, file):
-    for flag in ("DYNAMIC_BASE", "NX_COMPAT"):
+    # 64-bit code has its handlers of exceptions in tables, which nothing on the stack can change.
+    flags = ("DYNAMIC_BASE", "NX_COMPAT") + (("NO_SEH",) if file.name == "Trelvin.dll" else ())
+    for flag in flags:
         if not getattr(dll.OPTIONAL_HEADER, f"IMAGE_DLLCHARACTERISTICS_{flag}"):
             yield f"{flag} is not set"
     if not hasattr(dll, "DIRECTORY_ENTRY_RESOURCE"):
@@ -156,9 +159,20 @@ def image_faults_of_shared(library):
     segments = {segment["p_type"] for segment in library.iter_segments()}
     if "PT_GNU_RELRO" not in segments or not any(value & BIND_NOW for value in flags):
         yield "no full RELRO"
+    if not library.get_section_by_name(".dynsym").get_symbol_by_name("__stack_chk_fail"):
+        yield "no stack protector"
+    if library["e_machine"] == "EM_X86_64":
+        notes = library.get_section_by_name(".note.gnu.property")
+        marks = [
+            mark["pr_data"]
+            for note in (notes.iter_notes() if notes else ())
+            for mark in note["n_desc"]
+            if mark["pr_type"] == "GNU_PROPERTY_X86_FEATURE_1_AND"
+        ]
+        if marks != [INDIRECT_BRANCHES | SHADOW_STACK]:
+            yield "not marked for control-flow enforcement"
     # Trelvin.dll, of the same sources, would not run them: it has no start-up code.
-    constructors = library.get_section_by_name(".init_array")
-    if constructors is not None and constructors["sh_size"] > 8:  # one is the compiler's own
+    if library.get_section_by_name(".init_array") is not None:
         yield "constructors run when it is loaded"
 
 

@@ -27,7 +27,13 @@
  *   NaN that IEEE arithmetic gives.
  * - No state of the processor is required: rounding, subnormals, exception masks and, on 32-bit
  *   Windows, the x87 unit's control word are as the library needs them during a call, and
- *   afterwards as the host had them.
+ *   afterwards as the host had them. While a function of the host's runs, its state is in force.
+ * - One state the host must clear itself, in the 32-bit library for Windows: code that uses MMX
+ *   instructions must execute `emms` before it calls a routine. Otherwise the register stack of the
+ *   x87 unit is full, and Reals and statuses come out wrong, many as NaN.
+ * - The processor's exception flags tell nothing after a call. A routine may raise any of them with
+ *   finite results, and a call in a state that the library had to change gives them back as they
+ *   were. To learn whether a result is usable, test the result.
  * - "Retains" names what a call leaves for later calls. Those that retain nothing may run on any
  *   threads at once; those that share what they retain serve one thread at a time.
  */

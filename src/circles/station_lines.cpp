@@ -34,10 +34,9 @@ std::optional<StationLine> line_through_station(const Arc &arc, Real s, Integer 
   if (!(apart <= coarse + rounding_of_radii(arc))) return std::nullopt;
 
   // The direction of the line, along the chord and to its left; then in the plane.
-  const auto [sine, cosine] = sine_cosine(angle);
+  const auto [sine, cosine] = wide_sine_cosine(angle);
   if (!(std::fabs(sine) > coarse)) return std::nullopt;
-  const WideVector direction = {cosine, sine};
-  const WideVector d = direction / length(direction);
+  const WideVector d = {cosine, sine};
   const WideVector u = to_end / chord;
   const WideVector v = {u.x * d.x - u.y * d.y, u.y * d.x + u.x * d.y};
 

@@ -129,7 +129,7 @@ class FloatingPointControl {
 
  private:
   std::uint64_t control_;
-  std::uint64_t flags_;
+  std::uint64_t flags_ = 0;
 };
 
 #elif defined(__GNUC__) && defined(__riscv_flen)

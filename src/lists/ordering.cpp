@@ -54,6 +54,8 @@ Integer select_up_to_zero(Real *list, Integer n, Placed *heap) {
   }
 }
 
+constexpr auto is_before = [](Real a, Real b) { return key_of(a) < key_of(b); };
+
 // Sorts what is no NaN across the NaNs, which stay. False where memory is short.
 bool sort_around_nans(Real *list, Integer n) {
   const auto work = work_array<Key>(2 * static_cast<std::uint64_t>(n));
@@ -97,7 +99,7 @@ void sort_selecting(Real *list, Integer n) {
   if (nan) {
     selection_sort(list, n);
   } else {
-    std::sort(list, list + n);
+    std::sort(list, list + n, is_before);
   }
 }
 
@@ -118,9 +120,8 @@ void sort(Real *list, Integer n) {
   if (n < 2) return;
   Real *const end = std::partition(list, list + n, [](Real v) { return !std::isnan(v); });
   const auto numbers = static_cast<Integer>(end - list);
-  const auto before = [](Real a, Real b) { return key_of(a) < key_of(b); };
-  if (std::is_sorted(list, end, before)) return;
-  if (numbers <= short_list || !sort_around_nans(list, numbers)) std::sort(list, end, before);
+  if (std::is_sorted(list, end, is_before)) return;
+  if (numbers <= short_list || !sort_around_nans(list, numbers)) std::sort(list, end, is_before);
 }
 
 namespace {

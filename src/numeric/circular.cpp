@@ -181,4 +181,12 @@ WideSineCosine wide_sine_cosine(double angle) {
   return sine_cosine_of(reduce(angle));
 }
 
+WideSineCosine wide_sine_cosine(Real angle) {
+  const std::uint32_t bits = magnitude_bits(angle);
+  if (bits < smallest_large_bits) return wide_sine_cosine(double{angle});
+  if (bits >= infinity_bits) return {angle - angle, angle - angle};
+  const WideSineCosine both = sine_cosine_of(reduce_large(real_of(bits)));
+  return {angle < 0 ? -both.sine : both.sine, both.cosine};
+}
+
 }  // namespace trelvin

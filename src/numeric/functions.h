@@ -36,6 +36,8 @@ inline Real square_root(Real value) { return std::sqrt(value); }
 
 // Angles within three turns either way.
 WideSineCosine wide_sine_cosine(double angle);
+// Any angle.
+WideSineCosine wide_sine_cosine(Real angle);
 // Angle of the direction (x, y) in [-pi, pi], the signs of zeros counting.
 double arc_tangent(double y, double x);
 // exp(-value), for values from 0 to 700.

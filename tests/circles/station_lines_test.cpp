@@ -34,6 +34,16 @@ TEST(StationLines, CrossParallelAndArcBothWays) {
   }
 }
 
+TEST(StationLines, CrossingWithTheParallelIsRoundedOnce) {
+  const auto foot = [](double s, double e, float angle) {
+    return cross({0, 0, -500, 0, 500, 0}, s, 1, e, angle)[2] -
+           (s - 500 + e / std::tan(double{angle}));
+  };
+  EXPECT_NEAR(foot(600, 75, 2.5F), 0, 2e-8);  // -0.4, where 100 cancels
+  EXPECT_NEAR(foot(500, 1e10, 0.3F), 0, 1025);
+  EXPECT_NEAR(foot(500, 500, 1e10F), 0, 3.1e-5);
+}
+
 TEST(StationLines, RadiiMayDifferByTheRoundingOfTheCoordinates) {
   EXPECT_EQ(cross({1e4, -1e4, 9700, -1e4, 10300.003, -1e4}, 100, 1, 20, 1.1).back(), 1);
   EXPECT_EQ(cross({1e4, -1e4, 9700, -1e4, 10300.006, -1e4}, 100, 1, 20, 1.1), refused);

@@ -3619,8 +3619,8 @@ def trvchi(
     Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third
     axis of trvaxe: the first of its components y, z, x that is above the tolerance becomes
     positive, or the first that is not zero. So it is counter-clockwise in the plane z = 0.
-    Formed in double precision and rounded once, it is as accurate near 0, pi and 2*pi as
-    elsewhere.
+    Formed in double precision, its normal with twice the digits, and rounded once: as accurate
+    near 0, pi and 2*pi as elsewhere.
 
     Retains: nothing.
 
@@ -3795,8 +3795,15 @@ def trvmov(
 ) -> TrvmovResult:
     """Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
 
-    Small angles, and angles close to pi, lose their digits as in trvphi. For them take trvchi
-    of the two projections, from the origin; if chi is above pi, the angle is 2*pi - chi.
+    Each is the angle that trvphi1 gives. Caution: its cosine is not clamped. If two projections
+    are parallel, rounding takes it beyond 1 or -1 in about one call of five, and that angle is
+    NaN; in others it is off by up to 5e-4. If P2 - P1 and P4 - P3 lie in one coordinate plane,
+    their projections onto the other two planes are parallel, and a tenth of such calls gives a
+    NaN.
+
+    Small angles, and angles close to pi, lose their digits as in trvphi. For them, and for
+    parallel projections, take trvchi of the two projections, from the origin; if chi is above
+    pi, the angle is 2*pi - chi.
 
     Retains: nothing.
 
@@ -3807,8 +3814,8 @@ def trvmov(
       x4, y4, z4: P4
 
     Returns:
-      ax, ay, az: angles in [0, pi], seen along the x, y and z axis; 0 where a projection's
-        length is within the tolerance (trvphi1)
+      ax, ay, az: angles in [0, pi] or NaN, seen along the x, y and z axis; 0 if the length of a
+        projection is within the tolerance (trvphi1)
     """
     return _trvmov.cells(x1, y1, z1, x2, y2, z2, x3, y3, z3, x4, y4, z4, _NAN, _NAN, _NAN)
 
