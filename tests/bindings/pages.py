@@ -81,9 +81,8 @@ def _cmake(words):
         return [printed[-300:]] if code else []
     lists = [ROOT / "CMakeLists.txt", *ROOT.glob("[a-z]*/CMakeLists.txt"), *ROOT.glob("apps/*/*.txt")]
     lists = " ".join(file.read_text() for file in lists)
-    target = words[words.index("--target") + 1] if "--target" in words else "trelvin"
-    if not re.search(rf"\({target}\b", lists):
-        return [target]
+    if "--target" in words:
+        return [] if f"({words[-1]} " in lists else words[-1:]
     options = [word for word in words[1:] if word[0] == "-" and word not in ("--preset", "--build")]
     return [o for o in options if o != "--target" and f"({o[2:].split('=')[0]} " not in lists]
 
