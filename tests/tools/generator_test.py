@@ -1,7 +1,10 @@
 """What the generator reads from contracts, and what it must never change."""
 
 import re
+import shutil
+import subprocess
 import sys
+import tempfile
 import unittest
 from pathlib import Path
 
@@ -141,6 +144,99 @@ class Tests(unittest.TestCase):
         named = set(re.findall(r"\btrv\w+", " ".join(test.read_text() for test in tests)))
         routines = {routine.name for routine in headers.routines_of(headers.read_all())}
         self.assertEqual(routines - named, set())
+
+
+# --- outcomes: what comes of a family that is made up, in a copy of the tree ------------------------
+
+THINGS = """/**
+ * @file
+ * Things.
+ */
+
+/**
+ * Adds terms.
+ *
+ * Retains: nothing.
+ *
+ * @param[in]    A       array of n+1: terms
+ * @param[inout] n       number of terms, at least 0
+ * @param[out]   len     sum; unwritten when status is 0
+ * @param[out]   LIST    array of 2*n, count used: positions
+ * @param[out]   count   number of positions
+ * @param[out]   status  0 refused; 1 done; 2 to 4 as many; 7 on the plane
+ */
+TRELVIN_ROUTINE trvsum(TrvArrayIn A, TrvIntInOut n, TrvOut len, TrvIntArrayOut LIST, TrvIntOut count,
+                       TrvIntOut status);
+"""
+WRITTEN = {
+    "src/entries/Trelvin.def": 'trvsum = trvsum@24 @285 "_trvsum@24" = trvsum@24 @286',
+    "tests/routines.inc": """ROUTINE(trvsum, 6, "A n len LIST count status") SIZE(trvsum, 0, count(1) + 1)
+        LEAST(trvsum, 1, 0) SIZE(trvsum, 3, 2 * count(1)) STATUS(trvsum, 5, none, 0, 1, 2, 3, 4, 7)""",
+    "bindings/fortran/trelvin.F90": """real(c_float), intent(in) :: A(*)
+        integer(c_int32_t), intent(inout) :: n real(c_float), intent(inout) :: len
+        integer(c_int32_t), intent(inout) :: LIST(*), count
+        integer(c_int32_t), intent(out) :: status end subroutine""",
+    "bindings/pascal/trelvin.pas": """A: TTrvReals; var n: LongInt; var len: Single;
+        var LIST: TTrvIntegers; var count: LongInt; out status: LongInt);""",
+    "bindings/csharp/Trelvin.cs": """trvsum([In] float[] A, ref int n, ref float len,
+        [In, Out] int[] LIST, ref int count, ref int status);""",
+    "bindings/node/trelvin.mjs": """routine("trvsum", ["in real A[n+1]", "inout int n >= 0", "out real len",
+        "out int LIST[2*n, count used]", "out int count", "out int status"]);""",
+    "bindings/python/trelvin/_routines.py": """0: 'refused', 1: 'done', 2: 'as many', 3: 'as many',
+        4: 'as many', 7: 'on the plane', }, },""",
+    "docs/routines.md": "| `trvsum` | A n len LIST count status | Adds terms. |",
+}
+FAULTS = [  # in the made-up header: what is changed, and what the generator tells then
+    ("array of n+1: terms", "terms", "trvsum: A: "),
+    ("2 to 4 as many", "else as many", "trvsum: status: "),
+    ("Retains: nothing.", "", "trvsum: no line `Retains"),
+    ("@param[in]    A ", "@param[out]   A ", "A is in, its contract says out"),
+    ("@param[out]   count ", "@param[out]   cnt ", "describes cnt, which is no argument"),
+    ("TrvOut len", "Float len", "len has the unknown type Float"),
+    ("TrvIntOut status);", "TrvIntOut status, TrvIn (*f)(TrvIn));", "1 declarations are not understood"),
+    ("Adds terms.", "Adds terms", "no sentence in its first paragraph"),
+    ("trvsum(", "trvpds(", "trvpds: declared more than once"),
+]
+
+
+class Outcomes(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.root = Path(cls.enterClassContext(tempfile.TemporaryDirectory()))
+        for name in ("include", "tools", "src/entries", "bindings", "examples"):
+            shutil.copytree(headers.ROOT / name, cls.root / name)
+        for name in ("README.md", "docs/routines.md", "tests/routines.inc", "tests/hosts/digest.txt"):
+            (cls.root / name).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(headers.ROOT / name, cls.root / name)
+        (cls.root / "include/trelvin/things.h").write_text(THINGS)
+        body = THINGS[THINGS.index("TRELVIN_ROUTINE") :].replace(";\n", " {\n  const Door door;\n}\n")
+        (cls.root / "src/entries/things.cpp").write_text(body)
+
+    def generate(self, *options):
+        command = [sys.executable, self.root / "tools/generate.py", *options]
+        return subprocess.run(command, capture_output=True, text=True)
+
+    def include(self, text):
+        all_of_them = self.root / "include/trelvin/trelvin.h"
+        all_of_them.write_text(all_of_them.read_text().replace("#endif", f"{text}\n#endif"))
+
+    def test_what_is_written_and_what_is_told(self):
+        told = self.generate("--check")
+        self.assertEqual(told.returncode, 1)
+        self.assertIn("things.h: trelvin.h does not include it", told.stderr)
+        self.include('#include "trelvin/things.h"')
+        told = self.generate("--check")
+        self.assertEqual(told.returncode, 1)
+        self.assertIn("Trelvin.cs is out of date", told.stderr)
+        self.assertEqual(self.generate().returncode, 0)
+        for file, text in WRITTEN.items():
+            written = " ".join((self.root / file).read_text().split())
+            self.assertIn(" ".join(text.split()), written, file)
+        self.assertEqual(self.generate("--check").returncode, 0)
+        for old, new, words in FAULTS:
+            (self.root / "include/trelvin/things.h").write_text(THINGS.replace(old, new))
+            told = self.generate("--check")
+            self.assertEqual((told.returncode, words in told.stderr), (1, True), (new, told.stderr))
 
 
 if __name__ == "__main__":
