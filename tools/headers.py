@@ -108,7 +108,7 @@ def read_family(name, text):
     for place, routine, arguments in DECLARATION.findall(code):
         comment = comments[int(place)] if place else ""
         routines.append(_routine(name, comment, routine, PLACE.sub(" ", arguments)))
-    title = re.search(r"@file\s*\n\s*\*\s*(.*?)\.?\n", text)
+    title = re.search(r"@file\s*\n\s*\*\s*(\w.*?)\.?\n", text)
     declared = len(re.findall(r"^TRELVIN_ROUTINE\b", code, re.M))
     return Family(name, title.group(1) if title else "", routines, declared - len(routines))
 

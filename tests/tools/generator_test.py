@@ -195,6 +195,7 @@ FAULTS = [  # in the made-up header: what is changed, and what the generator tel
     ("TrvOut len", "Float len", "len has the unknown type Float"),
     ("TrvIntOut status);", "TrvIntOut status, TrvIn (*f)(TrvIn));", "1 declarations are not understood"),
     ("Adds terms.", "Adds terms", "no sentence in its first paragraph"),
+    ("@file\n * Things.", "@file", "no title behind its @file"),
     ("trvsum(", "trvpds(", "trvpds: declared more than once"),
 ]
 
