@@ -108,7 +108,7 @@ def difference(text, fact):
             if not _rounds_to(calculated(side, {}), NUMBER.match(text).group()):
                 return f"{calculated(side, {}):.6g} = {side}"
         return _difference_of_numbers(text, fact)
-    return None if text.lower() == str(fact).lower() else fact
+    return None if text.lower() == str(fact).lower() else f"'{fact}'"
 
 
 def value(expression):

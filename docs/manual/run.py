@@ -54,7 +54,7 @@ def _prepare_python(folder):
 
 def _prepare_javascript(folder):
     """The package, among those that it depends on, which ./dev setup fetches."""
-    modules = headers.ROOT / "build/npm/node_modules"
+    modules = model.ROOT / "build/npm/node_modules"
     shutil.copytree(BINDINGS / "node", modules / "trelvin", dirs_exist_ok=True)
     shutil.rmtree(folder / "node_modules", ignore_errors=True)
     (folder / "node_modules").unlink(missing_ok=True)

@@ -79,7 +79,10 @@ def _cmake(words):
     if "--build" in words and (ROOT / f"build/{preset}/build.ninja").exists():
         code, printed = _shell(f"{shlex.join(words)} -- -n")
         return [printed[-300:]] if code else []
-    lists = " ".join(file.read_text() for file in (ROOT / "CMakeLists.txt", *ROOT.glob("*/*.txt")))
+    lists = [ROOT / "CMakeLists.txt", *ROOT.glob("[a-z]*/CMakeLists.txt"), *ROOT.glob("apps/*/*.txt")]
+    lists = " ".join(file.read_text() for file in lists)
+    if "--target" in words:
+        return [] if f"({words[-1]} " in lists else words[-1:]
     options = [word for word in words[1:] if word[0] == "-" and word not in ("--preset", "--build")]
     return [o for o in options if o != "--target" and f"({o[2:].split('=')[0]} " not in lists]
 

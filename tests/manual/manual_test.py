@@ -17,9 +17,12 @@ OUT = ROOT / "out/manual"
 sys.path[:0] = [str(ROOT / "docs/manual"), str(ROOT / "tools"), str(ROOT / "build/manual/tasks/py")]
 
 import calls  # noqa: E402
+import facts  # noqa: E402
 import languages  # noqa: E402
 import model  # noqa: E402
+import reference  # noqa: E402
 import run  # noqa: E402
+import words  # noqa: E402
 
 PRINTED = json.loads((ROOT / "build/manual/printed.json").read_text())["printed"]
 ROUTINES = {routine.name: routine for routine in model.read().routines}
@@ -230,6 +233,38 @@ class Truths(unittest.TestCase):
         xs = b * (b + 2 * c) / (h + 2 * b + 2 * c)
         self.prints("shear-centre", f"""from centroid {xs + back:.3f} mm\ncentroid {xs:.3f} 68.000 mm
             shear centre {-back:.3f} 68.000 mm\napart {xs + back:.3f} mm\nIw 6600.8 cm6""")
+
+
+class Checked(unittest.TestCase):
+    """What a page says, against what a fact gives."""
+
+    def test_numbers_units_formulas_and_words(self):
+        half = facts.angle(0.5)
+        for text, fact, agrees in (
+            ("0.5 radians", half, True), ("28.6 degrees", half, True), ("28.6 radians", half, False),
+            ("28.60 degrees", half, False), ("0.5", half, False), ("1,000", 1000, True),
+            ("5e-6", 4.6e-6, True), ("5e-6", 4.4e-6, False), ("-2", 2, False), ("2 mm", 2, False),
+            ("14 %", facts.share(0.143), True), ("3 m", facts.length(3000), True),
+            ("3 m²", facts.length(3000), False), ("1 to 2", [1, 2], True), ("1 to 2", [2, 1], False),
+            ("1", [1, 2], False), ("none", [1], False), ("sqrt(16)/2 = 2", 2, True),
+            ("sqrt(9) = 2", 2, False), ("2·x²", facts.Formula([({"x": 3}, 18)]), True),
+            ("a - b = b a", facts.Formula([({"a": 2, "b": 1}, 1)]), False),
+            ("Clockwise", "clockwise", True), ("clockwise", "counter-clockwise", False),
+            ("clockwise", None, False),
+        ):
+            self.assertEqual(facts.difference(text, fact) is None, agrees, (text, fact))
+
+    def test_what_needs_a_fact(self):
+        for text, words in (("to the left, 3.5 mm up", ["left", "3.5"]), ("P1 by EN 1993-1-5", []),
+                            ("a right angle at axis 1", []), ("towards +y", ["+y"]),
+                            ("Table 4.1: 1e-5 radians", ["1e-5", "radians"])):
+            self.assertEqual(facts.careful(text), words)
+
+    def test_words_of_the_index_occur_where_they_lead_to(self):
+        entries = [("fillet", ["corner"], ["trvard", "trvlds"]), ("purlin", [""], ["trvsec_c"])]
+        with mock.patch.object(words, "_entries", return_value=entries):
+            lost = list(words.lost(reference.Writer(model.read())))
+        self.assertEqual([line.split()[-1] for line in lost], ["trvlds", "trvsec_c"])
 
 
 class Tasks(unittest.TestCase):

@@ -192,19 +192,53 @@ docs/routines.md is out of date: run tools/generate.py
 """
 
 
+# What is written for the family of this file's head, by file.
+NEW = {
+    "include/trelvin/things.h": HEAD + SUM,
+    "include/trelvin/trelvin.h": '#include "trelvin/things.h"',
+    "include/trelvin/values.h": VALUES,
+    "src/entries/things.cpp": "TRELVIN_ROUTINE trvsum(int n) { const Door door; retained = 0; }",
+}
+WRITTEN = {
+    "src/entries/Trelvin.def": "trvsum = trvsum@24 @285 \"_trvsum@24\" = trvsum@24 @286",
+    "include/trelvin/names.h": "/** all is well */ TRVSUM_DONE = 0, /** it is odd */ TRVSUM_ODD = 3,",
+    "tests/routines.inc": """SIZE(trvsum, 0, count(1) + 1) LEAST(trvsum, 1, 2)
+        READ(trvsum, 2) KEPT(trvsum, 2, 4, 2, -1) READ(trvsum, 3) KEPT(trvsum, 3, 4, 2, -1)
+        STATUS(trvsum, 4, 2, -1, 1) STATUS(trvsum, 5, none, 0, 3) KEPT_BELOW(trvsum, 5, 1, 1)
+        RETAINS(trvsum, trvsum) RETAINS(trvsum, trvsum)""",
+    "bindings/fortran/trelvin.F90": """integer(c_int32_t), intent(in) :: n
+        real(c_float), intent(inout) :: x, y integer(c_int32_t), intent(out) :: s
+        integer(c_int32_t), intent(inout) :: code""",
+    "bindings/pascal/trelvin.pas": "var x, y: Single; out s: LongInt; var code: LongInt);",
+    "bindings/csharp/Trelvin.cs": "trvsum([In] float[] A, ref int n, ref float x, ref float y, ref int s,",
+    "bindings/basic/Trelvin.bas": "Public Const trvsumOdd As Long = 3",
+    "bindings/node/trelvin.mjs": """routine("trvsum", ["in real A[n+1]", "in int n >= 2",
+        "inout real x", "inout real y",""",
+    "bindings/python/trelvin/_routines.py": """x: float y: float s: TrvWay | int code: TrvsumCode | int""",
+    "bindings/trelvin.json": """"unwritten": {"text": "unchanged unless s is 1", "argument": "s",
+        "values": [-1], "from": 2}""",
+    "docs/routines.md": "| `trvsum` | A n x y s code | Adds, in two lines. |",
+}
+
+
 class Check(unittest.TestCase):
-    """`generate.py --check` in a copy of the tree."""
+    """`generate.py` in a copy of the tree."""
+
+    def setUp(self):
+        self.root = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        for place in ("include", "src", "tools", "bindings", "examples", "tests/hosts"):
+            shutil.copytree(ROOT / place, self.root / place)
+        shutil.copy(ROOT / "README.md", self.root)
+
+    def generate(self, *options):
+        command = [sys.executable, self.root / "tools/generate.py", *options]
+        return subprocess.run(command, capture_output=True, text=True, check=False)
 
     def assert_told(self, files, messages):
-        with tempfile.TemporaryDirectory() as folder:
-            for place in ("include", "src", "tools", "bindings", "examples", "tests/hosts"):
-                shutil.copytree(ROOT / place, Path(folder, place))
-            shutil.copy(ROOT / "README.md", folder)
-            for file, text in files.items():
-                Path(folder, file).parent.mkdir(exist_ok=True)
-                Path(folder, file).write_text(text)
-            command = [sys.executable, Path(folder, "tools/generate.py"), "--check"]
-            done = subprocess.run(command, stderr=subprocess.PIPE, text=True, check=False)
+        for file, text in files.items():
+            (self.root / file).parent.mkdir(exist_ok=True)
+            (self.root / file).write_text(text)
+        done = self.generate("--check")
         told = done.stderr.replace("generate: ", "").splitlines()
         self.assertEqual(set(messages.strip().splitlines()) - set(told), set(), done.stderr)
         self.assertNotIn("TrvOut", done.stderr)
@@ -215,6 +249,18 @@ class Check(unittest.TestCase):
 
     def test_faults_of_code_and_outdated_files_are_told(self):
         self.assert_told(CODE, IN_CODE)
+
+    def test_what_is_written_for_a_new_family(self):
+        for file, text in NEW.items():
+            with open(self.root / file, "a", encoding="utf-8") as changed:
+                changed.write(text)
+        for place in ("docs", "tests"):
+            (self.root / place).mkdir(exist_ok=True)
+        self.assertIn("Trelvin.cs is out of date", self.generate("--check").stderr)
+        self.assertEqual((self.generate().stderr, self.generate("--check").returncode), ("", 0))
+        for file, text in WRITTEN.items():
+            written = " ".join((self.root / file).read_text().split())
+            self.assertIn(" ".join(text.split()), written, file)
 
 
 class Tests(unittest.TestCase):
