@@ -224,7 +224,8 @@ void draw_special_arguments(Sequence &sequence, const Routine &routine, Argument
   const int way = sequence.between(0, 3);
   if (way == 0) one.reals = other.reals;
   if (way == 1) one.reals.fill(sequence.one_of({NAN, INFINITY, -INFINITY}));
-  const auto far = static_cast<float>(sequence.between(-1000, 1000) << sequence.between(0, 14));
+  const auto steps = static_cast<float>(sequence.between(-1000, 1000));
+  const float far = steps * static_cast<float>(1 << sequence.between(0, 14));
   for (Argument *argument : reals) {
     for (float &value : argument->reals) {
       if (std::isnan(value)) continue;
