@@ -20,8 +20,9 @@ from model import COMMENT, ROOT
 TREE = ROOT / "build" / "mutate" / "tree"
 BUILD = ROOT / "build" / "mutate" / "build"
 VALUE = r"[\w.\[\]]+"
-TERM = VALUE + r"(?:\(\))?"
-END = r"(?![\w.\[(]| [*/])"
+TERM = r"\w[\w.]*(?:\[\w+\])?(?:\(\))?"
+START = r"(?<![\w.\[\]])"
+END = r"(?![\w.\[(:]| [*/])"
 SECONDS = 120  # a loop without end is found, too
 
 
@@ -47,11 +48,11 @@ FAULTS = [
     ("argument", rf"\{{({VALUE}), ({VALUE})(?=[,}}])", lambda m: f"{{{m.group(2)}, {m.group(1)}"),
     ("grouping", rf"\(({TERM}) \+ ({TERM})\) \+ ({TERM})",
      lambda m: f"{m.group(1)} + ({m.group(2)} + {m.group(3)})"),
-    ("grouping", rf"({TERM}) ([+*]) ({TERM}) \2 ({TERM}){END}",
+    ("grouping", rf"{START}({TERM}) ([+*]) ({TERM}) \2 ({TERM}){END}",
      lambda m: f"{m.group(1)} {m.group(2)} ({m.group(3)} {m.group(2)} {m.group(4)})"),
-    ("grouping", rf"({TERM}) - ({TERM}) ([+-]) ({TERM}){END}",
+    ("grouping", rf"{START}({TERM}) - ({TERM}) ([+-]) ({TERM}){END}",
      lambda m: f"{m.group(1)} - ({m.group(2)} {'-' if m.group(3) == '+' else '+'} {m.group(4)})"),
-    ("grouping", rf"({TERM}) \* ({TERM}) / ({TERM})",
+    ("grouping", rf"{START}({TERM}) \* ({TERM}) / ({TERM}){END}",
      lambda m: f"{m.group(1)} * ({m.group(2)} / {m.group(3)})"),
     ("tolerance", r"\btolerance\b", lambda m: "(tolerance * 1.001F)"),
     ("NaN", r"(?<!!)\b(negligible|significant)\(",

@@ -64,6 +64,15 @@ TEST(Stations, RefusedCloserThanAThousandth) {
   EXPECT_EQ(outputs(trvcer9, 1, 2, -3, -1, 5, -1, 1, 4, 0.001), (Values{u, u, u, u, 0}));
 }
 
+TEST(Stations, LineThatMissesTheCircleLeavesBothPointsOfTheCallBefore) {
+  const auto far = [](int side) {  // so far that the perpendicular misses by rounding
+    return outputs(trvcer8, 4e5, 1e5, 399995, 1e5, 400005, 1e5, side, 1.25);
+  };
+  outputs(trvcer8, 1, 2, -3, -1, 5, -1, 1, 1);
+  EXPECT_EQ(far(1), (Values{-2, -2, 1}));
+  EXPECT_EQ(far(-1), (Values{-2, 6, 1}));
+}
+
 TEST(Stations, SmallCircleLeavesTheSecondPointOfTheCallBefore) {
   // Every line through it touches it, as its discriminant is within the tolerance.
   const double x = 0.25, y = 0.5;

@@ -1,20 +1,91 @@
-// Calls every routine on a fixed pseudo-random sequence and hashes all the bits that the calls leave
-// in their arguments. Every build prints what digest.txt beside this file holds, the golden bits.
+// Calls every routine on two fixed pseudo-random sequences and hashes all the bits that the calls leave
+// in their arguments. Every build prints what digest.txt beside this file holds, the golden bits: first
+// a line for each routine and the hash of all, then the same for the calls near limits, marked by `~`.
 //
-//     digest            a line a routine, then the hash of all
-//     digest --check FILE   only the lines that differ from those of the file, and the hash of all
-//     digest ROUTINE    every call of one routine, to find where two builds part
+//     digest            both parts
+//     digest --check FILE   only the lines that differ from those of the file, and the totals
+//     digest ROUTINE    every call of one routine, to find the first call in which two builds differ
+//     digest ROUTINE~   the same of its calls near limits
 //     digest --calls N  with another number of calls of each routine
 #include <cinttypes>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <map>
 #include <string>
 
 #include "hosts/golden_bits.h"
 #include "hosts/hash.h"
 #include "hosts/random_calls.h"
 #include "hosts/sequence_of_routines.h"
+
+namespace {
+
+using Draw = void (*)(const random_calls::Routine &, int,
+                      const std::function<void(random_calls::Arguments &)> &);
+
+// Prints lines, or only those that differ from the golden ones.
+class Printer {
+ public:
+  explicit Printer(const char *golden) : check_(golden != nullptr) {
+    if (check_) golden_ = read_digest(golden);
+  }
+
+  void print(const std::string &name, std::uint64_t hash) {
+    const auto line = golden_.find(name);
+    const std::uint64_t expected = line == golden_.end() ? 0 : line->second;
+    if (!check_) {
+      std::printf("%-10s %016" PRIx64 "\n", name.c_str(), hash);
+    } else if (hash != expected) {
+      std::printf("%-10s expected %016" PRIx64 ", got %016" PRIx64 "\n", name.c_str(), expected,
+                  hash);
+      ++differing_;
+    }
+  }
+
+  void print_total(const std::string &name, std::uint64_t hash) {
+    print(name, hash);
+    if (check_) std::printf("%s %016" PRIx64 "\n", name.c_str(), hash);
+  }
+
+  [[nodiscard]] bool all_agree() const { return differing_ == 0; }
+
+ private:
+  bool check_;
+  std::map<std::string, std::uint64_t> golden_;
+  int differing_ = 0;
+};
+
+// A line for each routine and one for all, or each call of the routine `only`.
+void print_part(Printer &printer, const std::string &only, const char *mark, int draws, Draw draw) {
+  Hash all;
+  int calls = 0;
+  int routines = 0;
+  for (const random_calls::Routine &routine : all_routines()) {
+    const std::string name = std::string(routine.name) + mark;
+    if (!only.empty() && only != name) continue;
+    Hash hash;
+    int call = 0;
+    draw(routine, draws, [&](random_calls::Arguments &arguments) {
+      routine.call(random_calls::addresses_of(arguments));
+      hash.add(arguments);
+      ++call;
+      if (!only.empty()) std::printf("%d %016" PRIx64 "\n", call, hash.value());
+    });
+    printer.print(name, hash.value());
+    all.add(static_cast<std::uint32_t>(hash.value() >> 32));
+    all.add(static_cast<std::uint32_t>(hash.value()));
+    calls += call;
+    ++routines;
+  }
+  if (routines == 0) return;
+  printer.print_total("digest" + std::string(mark) + " of " + std::to_string(calls) + " calls of " +
+                          std::to_string(routines) + " routines:",
+                      all.value());
+}
+
+}  // namespace
 
 int main(int argc, char **argv) {
   std::string only = argc > 1 ? argv[1] : "";
@@ -23,38 +94,12 @@ int main(int argc, char **argv) {
     only.clear();
     calls = argc > 2 ? std::atoi(argv[2]) : calls;
   }
-  const bool check = only == "--check";
+  const bool check = only == "--check" && argc > 2;
   if (check) only.clear();
-  const auto golden = read_digest(check && argc > 2 ? argv[2] : "");
-  int faults = 0;
-  const auto tell = [&](const std::string &name, std::uint64_t hash) {
-    const auto line = golden.find(name);
-    const std::uint64_t expected = line == golden.end() ? 0 : line->second;
-    if (!check) std::printf("%-10s %016" PRIx64 "\n", name.c_str(), hash);
-    if (!check || hash == expected) return;
-    std::printf("%-10s expected %016" PRIx64 ", got %016" PRIx64 "\n", name.c_str(), expected,
-                hash);
-    ++faults;
-  };
-  Hash all;
-  int routines = 0;
-  for (const random_calls::Routine &routine : all_routines()) {
-    if (!only.empty() && only != routine.name) continue;
-    Hash hash;
-    int call = 0;
-    random_calls::draw(routine, calls, [&](random_calls::Arguments &arguments) {
-      routine.call(random_calls::addresses_of(arguments));
-      hash.add(arguments);
-      if (!only.empty()) std::printf("%d %016" PRIx64 "\n", ++call, hash.value());
-    });
-    tell(routine.name, hash.value());
-    all.add(static_cast<std::uint32_t>(hash.value() >> 32));
-    all.add(static_cast<std::uint32_t>(hash.value()));
-    ++routines;
-  }
-  const std::string total = "digest of " + std::to_string(routines * calls) + " calls of " +
-                            std::to_string(routines) + " routines:";
-  tell(total, all.value());
-  if (check) std::printf("%s %016" PRIx64 "\n", total.c_str(), all.value());
-  return faults == 0 ? 0 : 1;
+  Printer printer(check ? argv[2] : nullptr);
+  print_part(printer, only, "", calls, [](auto &routine, int draws, const auto &visit) {
+    random_calls::draw(routine, draws, visit);
+  });
+  print_part(printer, only, "~", calls / 12, random_calls::draw_near_limits);
+  return printer.all_agree() ? 0 : 1;
 }

@@ -25,6 +25,8 @@ class Sequence {
     return low + static_cast<std::int32_t>(next() % range);
   }
 
+  std::size_t below(std::size_t n) { return static_cast<std::size_t>(next() % n); }
+
   bool one_in(std::int32_t n) { return between(1, n) == 1; }
 
   template <class Value>
@@ -48,8 +50,8 @@ float draw_real(Sequence &sequence, int mood) {
     case near_tolerance: {
       constexpr float tolerance = 1e-5F;
       const float value = tolerance * static_cast<float>(sequence.between(-2, 2));
-      const float next = std::nextafter(value, static_cast<float>(sequence.between(-1, 1)));
-      return sequence.one_in(2) ? value : next;
+      const auto towards = static_cast<float>(sequence.between(-1, 1));
+      return sequence.one_in(2) ? value : std::nextafter(value, towards);
     }
     case angles:
       return 0.78539816F * static_cast<float>(sequence.between(-9, 9));
@@ -193,6 +195,150 @@ void make_plate_stresses(Sequence &sequence, const Reals &reals) {
   *reals[6] = sequence.one_in(2) ? s1 * inside : s1 * ratio + beside;
 }
 
+// Pairs of two lists need room for the product of their counts.
+int largest_count(const Routine &routine) { return routine.shape == Shape::pairs ? 8 : 40; }
+
+// The arguments of one call.
+void draw_arguments(Sequence &sequence, const Routine &routine, int largest_count,
+                    Arguments &arguments, bool sparing = false) {
+  const int mood = routine.shape == Shape::whole ? grid : sequence.between(0, moods - 1);
+  for (Argument &argument : arguments) fill(sequence, argument, mood, largest_count, sparing);
+  if (routine.shape == Shape::arc && !sequence.one_in(4)) {
+    make_arc(sequence, addresses_of_reals(arguments, true));
+  } else if (routine.shape == Shape::plates && !sequence.one_in(4)) {
+    make_plates(sequence, addresses_of_reals(arguments, false));
+  } else if (routine.shape == Shape::plate_stresses && !sequence.one_in(4)) {
+    make_plate_stresses(sequence, addresses_of_reals(arguments, true));
+  } else if (sequence.one_in(2)) {
+    relate_points(sequence, addresses_of_reals(arguments, true));
+  }
+}
+
+// Arguments with fewer points; now and then with coordinates that agree, moved or shrunk as a whole, or
+// with Reals that are infinite or NaN.
+void draw_special_arguments(Sequence &sequence, const Routine &routine, Arguments &arguments) {
+  draw_arguments(sequence, routine, sequence.one_in(3) ? largest_count(routine) : 4, arguments);
+  if (routine.shape == Shape::whole || sequence.one_in(2)) return;
+  std::vector<Argument *> reals;
+  for (Argument &argument : arguments) {
+    if (argument.kind == Argument::real) reals.push_back(&argument);
+  }
+  if (reals.empty()) return;
+  Argument &one = *reals[sequence.below(reals.size())];
+  const Argument &other = *reals[sequence.below(reals.size())];
+  const int way = sequence.between(0, 3);
+  if (way == 0) one.reals = other.reals;
+  if (way == 1) one.reals.fill(sequence.one_of({NAN, INFINITY, -INFINITY}));
+  const auto steps = static_cast<float>(sequence.between(-1000, 1000));
+  const float far = steps * static_cast<float>(1 << sequence.between(0, 14));
+  for (Argument *argument : reals) {
+    for (float &value : argument->reals) {
+      if (std::isnan(value)) continue;
+      if (way == 2) value += far;
+      if (way == 3) value *= 1e-5F;
+    }
+  }
+}
+
+// Numbers Reals in their order, one by one. NaN follows infinity.
+std::int64_t key_of(float value) {
+  std::int32_t bits = 0x7FC00000;
+  if (!std::isnan(value)) std::memcpy(&bits, &value, sizeof bits);
+  return bits < 0 ? std::int64_t{INT32_MIN} - bits : bits;
+}
+
+float real_of(std::int64_t key) {
+  constexpr std::int64_t infinity = 0x7F800000;
+  if (std::abs(key) > infinity) return NAN;  // its other bits do not survive on every machine
+  const auto bits = static_cast<std::int32_t>(key < 0 ? INT32_MIN - key : key);
+  float value = 0;
+  std::memcpy(&value, &bits, sizeof value);
+  return value;
+}
+
+// The way from one set of arguments to another, along which some Reals change together.
+struct Path {
+  struct Step {
+    std::size_t argument, element;
+    std::int64_t from, to;
+  };
+  std::vector<Step> steps;
+
+  [[nodiscard]] bool short_enough() const {
+    return std::all_of(steps.begin(), steps.end(),
+                       [](const Step &step) { return std::abs(step.to - step.from) <= 1; });
+  }
+  [[nodiscard]] Path reversed() const {
+    Path reversed = *this;
+    for (Step &step : reversed.steps) std::swap(step.from, step.to);
+    return reversed;
+  }
+  [[nodiscard]] Path half(bool second) const {
+    Path half = *this;
+    for (Step &step : half.steps) {
+      const std::int64_t middle = step.from + (step.to - step.from) / 2;
+      (second ? step.from : step.to) = middle;
+    }
+    return half;
+  }
+};
+
+Path::Step draw_step(Sequence &sequence, const Arguments &arguments) {
+  std::size_t argument = 0;
+  for (int trial = 0; trial < 20; ++trial) {
+    argument = sequence.below(arguments.size());
+    const Argument &drawn = arguments[argument];
+    if (drawn.kind == Argument::real && (!drawn.written || sequence.one_in(4))) break;
+  }
+  const std::size_t element =
+      Argument::spare + (arguments[argument].single ? 0U : sequence.below(8));
+  const float from = arguments[argument].reals[element];
+  float to = draw_real(sequence, sequence.between(grid, dimensions));
+  const int way = sequence.between(0, 5);
+  const Argument &other = arguments[sequence.below(arguments.size())];
+  if (way == 0 && other.kind == Argument::real) to = other.reals[element];
+  if (way == 1) to = from + 1e-5F * static_cast<float>(sequence.between(-3, 3));
+  if (way == 2) to = real_of(key_of(from) + sequence.between(-1000000, 1000000));
+  if (way == 3) to = 0;
+  return {argument, element, key_of(from), key_of(to)};
+}
+
+Path draw_path(Sequence &sequence, const Arguments &arguments) {
+  Path path;
+  while (path.steps.empty() || sequence.one_in(3)) {
+    path.steps.push_back(draw_step(sequence, arguments));
+  }
+  return path;
+}
+
+// The arguments at the start of the path.
+void set_start(const Path &path, const Arguments &drawn, Arguments &start) {
+  start = drawn;
+  for (const Path::Step &step : path.steps) {
+    start[step.argument].reals[step.element] = real_of(step.from);
+  }
+}
+
+// How far results are apart: those in the argument `guide`, or all if there is no such argument. An
+// Integer that differs outweighs all Reals.
+std::uint64_t distance(const Arguments &results, const Arguments &others, std::size_t guide) {
+  std::uint64_t sum = 0;
+  for (std::size_t k = 0; k < results.size(); ++k) {
+    const Argument &a = results[k];
+    const Argument &b = others[k];
+    if (!a.written || (guide < results.size() && guide != k)) continue;
+    const std::size_t end = Argument::spare + (a.single ? 1U : Argument::room);
+    for (std::size_t i = Argument::spare; i < end; ++i) {
+      if (a.kind == Argument::real) {
+        sum += static_cast<std::uint64_t>(std::abs(key_of(a.reals[i]) - key_of(b.reals[i])));
+      } else if (a.integers[i] != b.integers[i]) {
+        sum += std::uint64_t{1} << 40;
+      }
+    }
+  }
+  return sum;
+}
+
 }  // namespace
 
 void draw(const Routine &routine, int calls, const std::function<void(Arguments &)> &visit,
@@ -200,20 +346,44 @@ void draw(const Routine &routine, int calls, const std::function<void(Arguments 
   Sequence sequence(routine.seed);
   Arguments arguments = routine.arguments;
   for (int call = 0; call < calls; ++call) {
-    const int mood = routine.shape == Shape::whole ? grid : sequence.between(0, moods - 1);
-    // Pairs of two lists need room for the product of their counts.
-    const int largest_count = routine.shape == Shape::pairs ? 8 : 40;
-    for (Argument &argument : arguments) fill(sequence, argument, mood, largest_count, sparing);
-    if (routine.shape == Shape::arc && !sequence.one_in(4)) {
-      make_arc(sequence, addresses_of_reals(arguments, true));
-    } else if (routine.shape == Shape::plates && !sequence.one_in(4)) {
-      make_plates(sequence, addresses_of_reals(arguments, false));
-    } else if (routine.shape == Shape::plate_stresses && !sequence.one_in(4)) {
-      make_plate_stresses(sequence, addresses_of_reals(arguments, true));
-    } else if (sequence.one_in(2)) {
-      relate_points(sequence, addresses_of_reals(arguments, true));
-    }
+    draw_arguments(sequence, routine, largest_count(routine), arguments, sparing);
     visit(arguments);
+  }
+}
+
+void draw_near_limits(const Routine &routine, int pairs,
+                      const std::function<void(Arguments &)> &visit) {
+  Sequence sequence(~routine.seed);
+  Arguments arguments = routine.arguments;
+  Arguments low;
+  Arguments middle;
+  Arguments high;
+  const auto find = [&](const Path &path, Arguments &results) {
+    set_start(path, arguments, results);
+    routine.call(addresses_of(results));
+  };
+  for (int pair = 0; pair < pairs; ++pair) {
+    Path path;
+    std::size_t guide = 0;
+    for (int trial = 0; trial < 12; ++trial) {
+      if (trial % 3 == 0) draw_special_arguments(sequence, routine, arguments);
+      path = draw_path(sequence, arguments);
+      guide = sequence.below(2 * arguments.size());
+      find(path, low);
+      find(path.reversed(), high);
+      if (distance(low, high, guide) != 0) break;
+    }
+    while (!path.short_enough()) {
+      const Path second = path.half(true);
+      find(second, middle);
+      const bool in_first = distance(low, middle, guide) >= distance(middle, high, guide);
+      (in_first ? high : low).swap(middle);
+      path = in_first ? path.half(false) : second;
+    }
+    for (const Path &end : {path, path.reversed()}) {
+      set_start(end, arguments, middle);
+      visit(middle);
+    }
   }
 }
 

@@ -95,6 +95,13 @@ TEST(ThinWalled, AnInclinedBarHasTheMomentsOfABar) {
               {std::sqrt(2) * 300 / 96, pi / 4, std::sqrt(2) * 300 / 96, pi / 4}, 1e-7);
 }
 
+TEST(ThinWalled, MomentsInTheMiddleBetweenTwoRealsAreRoundedOnceToTheEvenOne) {
+  // 42711*11^3/12 = 4737361.75; 138*184*230*175/12*(1 - (175/230)^2) = 35862750.
+  EXPECT_EQ(Section({{-21355.5F, 0, 21355.5F, 0, 11}}).Ix, 4737362);
+  EXPECT_EQ(Section({{0, -21355.5F, 0, 21355.5F, 11}}).Iy, 4737362);
+  EXPECT_EQ(Section({{-69, -92, 69, 92, 175}}).Ixy, 35862752);
+}
+
 TEST(ThinWalled, PlatesOnOneLineTwistAboutTheirCentroid) {
   const Section s({{0, 0, 30, 40, 2}, {30, 40, 60, 80, 4}});
   EXPECT_EQ(s.status, 0);
