@@ -235,6 +235,23 @@ class Truths(unittest.TestCase):
             shear centre {-back:.3f} 68.000 mm\napart {xs + back:.3f} mm\nIw 6600.8 cm6""")
 
 
+class Shown(unittest.TestCase):
+    def test_pieces_of_generated_pages(self):
+        for name, pieces in {
+            "reference/plane": ["Argument Kind Meaning a1, b1, c1 in, Real first line", "status out, Integer "
+                                "see below x, y out, Real point;", "Unwritten x, y: unwritten when status is"
+                                " 1 or 2 Retains nothing trvlul#"],
+            "reference/statuses": ["Routine Output Value Meaning Name trvlci n 0 ",
+                                   "2 parallel and distinct trvlni_parallel"],
+            "reference/words": ["fillet Round a corner: fillet, tangent arc, trvard "],
+            "accuracy": ["Routine Output near: median worst far: median worst Note trvpds d",
+                         " Computes no figures: trvcnt1, ", " Not measured: trvcin."],
+        }.items():
+            shown = " ".join(page(name).text.split())
+            for piece in pieces:
+                self.assertIn(piece, shown)
+
+
 class Checked(unittest.TestCase):
     """What a page says, against what a fact gives."""
 
