@@ -138,7 +138,7 @@ TEST(Ordering, WithoutMemoryTheResultsAreTheSame) {
 
 TEST(Ordering, WithoutMemoryOddListsHaveTheSameOrder) {
   OddLists lists;
-  for (int trial = 0; trial < 40; ++trial) {
+  for (int trial = 0; trial < 24; ++trial) {
     const Reals part = lists.reals();  // whose entries then come again and again
     Reals list(static_cast<std::size_t>(part.empty() ? 0 : 20000 + lists.below(512)));
     for (std::size_t i = 0; i < list.size(); ++i) list[i] = part[i % part.size()];
