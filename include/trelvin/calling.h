@@ -27,7 +27,8 @@
  *   NaN that IEEE arithmetic gives.
  * - No state of the processor is required: rounding, subnormals, exception masks and, on 32-bit
  *   Windows, the x87 unit's control word are as the library needs them during a call, and
- *   afterwards as the host had them. While a function of the host's runs, its state is in force.
+ *   afterwards as the host had them. While a function of the host's runs, the host's own state is
+ *   in force.
  * - One state the host must clear itself, in the 32-bit library for Windows: code that uses MMX
  *   instructions must execute `emms` before it calls a routine. Otherwise the register stack of the
  *   x87 unit is full, and Reals and statuses come out wrong, many as NaN.

@@ -25,7 +25,7 @@ struct Entries {
 
 // Positions, from 1, of the entries in ascending order, equal ones from the highest position down. A
 // found entry counts as the largest plus 1 from then on; one that does not compare finds none.
-void order(Entries entries, Integer n, Integer *positions);
+void order(Entries list, Integer n, Integer *positions);
 
 struct LineArrays {
   const Real *a, *b, *c;

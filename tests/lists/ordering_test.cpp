@@ -114,21 +114,22 @@ TEST(Ordering, ParallelLinesByTheirCrossingOfAnAxis) {
 }
 
 TEST(Ordering, WithoutMemoryTheResultsAreTheSame) {
-  constexpr std::int32_t n = 100000;
+  constexpr std::int32_t n = 100000, few = 20000;
   Reals reals(n), constants(n);
   for (std::int32_t i = 0; i < n; ++i) {
     reals[static_cast<std::size_t>(i)] = static_cast<float>(i * 7919 % n);
     constants[static_cast<std::size_t>(i)] = static_cast<float>(i + 1);
   }
-  Integers integers(reals.begin(), reals.end()), positions(n, u), crossings(n, u), downwards(n);
+  Integers integers(reals.begin(), reals.end()), positions(few, u), crossings(few, u),
+      downwards(few);
   std::iota(downwards.rbegin(), downwards.rend(), 1);
   const Reals zeros(n, 0), ones(n, 1);
   std::int32_t status = u;
   without_memory([&] {
     trvord(reals.data(), n);
     trvord1(integers.data(), n);
-    trvordi(constants.data(), n, positions.data());
-    trvpor(n, zeros.data(), ones.data(), constants.data(), crossings.data(), status);
+    trvordi(constants.data(), few, positions.data());
+    trvpor(few, zeros.data(), ones.data(), constants.data(), crossings.data(), status);
   });
   EXPECT_TRUE(std::is_sorted(reals.begin(), reals.end()));
   EXPECT_TRUE(std::is_sorted(integers.begin(), integers.end()));
@@ -138,7 +139,7 @@ TEST(Ordering, WithoutMemoryTheResultsAreTheSame) {
 
 TEST(Ordering, WithoutMemoryOddListsHaveTheSameOrder) {
   OddLists lists;
-  for (int trial = 0; trial < 40; ++trial) {
+  for (int trial = 0; trial < 24; ++trial) {
     const Reals part = lists.reals();  // whose entries then come again and again
     Reals list(static_cast<std::size_t>(part.empty() ? 0 : 20000 + lists.below(512)));
     for (std::size_t i = 0; i < list.size(); ++i) list[i] = part[i % part.size()];

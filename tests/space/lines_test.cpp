@@ -31,7 +31,7 @@ std::jmp_buf way_out;
 float TRELVIN_CALL turn_rounding(const std::int32_t &position) {
   roundings.push_back(rounding());
   std::fesetround(position == 1 ? FE_DOWNWARD : FE_UPWARD);
-  if (position == 3) std::longjmp(way_out, 1);  // NOLINT(cert-err52-cpp)
+  if (position == 3) std::longjmp(way_out, 1);
   return 3;
 }
 
@@ -186,7 +186,7 @@ TEST(SpaceLines, FunctionIsCalledInTheStateOfTheHost) {
   find(1, std::nextafter(d, 0.0F));
   EXPECT_TRUE(count == 0 && rounding() == -1);
   count = unwritten_int;
-  if (setjmp(way_out) == 0) find(3, d);  // NOLINT(cert-err52-cpp)
+  if (setjmp(way_out) == 0) find(3, d);
   EXPECT_TRUE(count == unwritten_int && index[1] == 2 && rounding() == 1);
   std::fesetround(FE_TONEAREST);
   EXPECT_EQ(roundings, (std::vector<int>{1, -1, 1, 1, -1, 1}));
