@@ -64,11 +64,25 @@ def texts(picture):
                           (x + start, y + low, x + start + width, y + high))
 
 
+def edges_of(picture):
+    """The edges of the steel, from corner to corner; arcs by their chords."""
+    outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
+    for ring in re.findall("M[^Z]*", outline):
+        ends = re.findall(r"[ML ]([-\d.]+) ([-\d.]+)(?= [LA]| $)", ring)
+        ends = [(float(x), float(y)) for x, y in ends]
+        yield from zip(ends, ends[1:] + ends[:1])
+
+
 def corners_of(picture):
     """Abscissas and ordinates of the outline's corners."""
-    outline = [e.get("d") for e in picture.iter() if e.get("fill-rule") == "evenodd"][0]
-    ends = re.findall(r"[ML ]([-\d.]+) ([-\d.]+)(?= [LZMA])", outline)
-    return [{float(end[axis]) for end in ends} for axis in (0, 1)]
+    return [{start[axis] for start, _ in edges_of(picture)} for axis in (0, 1)]
+
+
+def distance(point, edge):
+    (x1, y1), (x2, y2) = edge
+    dx, dy, x, y = x2 - x1, y2 - y1, point[0] - x1, point[1] - y1
+    along = min(max((x * dx + y * dy) / (dx * dx + dy * dy or 1), 0), 1)
+    return math.hypot(x - along * dx, y - along * dy)
 
 
 class Pictures(unittest.TestCase):
@@ -109,6 +123,10 @@ class Pictures(unittest.TestCase):
                     for axis in (0, 1):
                         nearest = min(abs(at[axis] - corner) for corner in corners[axis])
                         self.assertLess(nearest, 0.03, name)
+                    # On the steel, but for corners that fillets fill.
+                    if name not in ("S1", "S2", "R") and section.split()[0] + name != "rolledTW":
+                        off = min(distance(at, edge) for edge in edges_of(picture))
+                        self.assertLess(off, 0.03, name)
                     # From the near side of the steel; a root fillet has one side only.
                     line_at, ends_at = ((x, corners[0]) if upright else (y, corners[1]))
                     half = abs(line_at - (min(ends_at) + max(ends_at)) / 2)

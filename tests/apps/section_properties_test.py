@@ -287,6 +287,11 @@ class SectionProperties(unittest.TestCase):
             self.assertLess(f["xm"], -30)  # beyond the web
             with open(os.path.join(folder, "p.svg"), encoding="utf-8") as picture:  # over all
                 self.assertEqual(re.findall(r">(\d\d+)</text>", picture.read()), ["80", "200"])
+            rings = [[tuple(map(float, v.split())) for v in ring.split("L")]
+                     for ring in drawn_steel("plates p.txt", folder)]
+            areas = [-enclosed_area(ring) / enclosed_area(rings[0]) * -198 for ring in rings]
+            for drawn, length in zip(areas, (198, 78, 78, 24, 24), strict=True):
+                self.assertAlmostEqual(drawn, length, delta=0.01 * length)
             for ending in ("0 0 1", "0 0 0 x 2", "0 0 0 0 2"):
                 result = answer(PLATES + ending)
                 self.assertEqual((result.returncode, result.stdout), (2, ""))
@@ -358,6 +363,17 @@ class SectionProperties(unittest.TestCase):
                    5 + y + r / n / 2) for y in ys]
         self.assertTrue(5 - 30 < f["yp"] < 35 - 30)
         self.check_moduli(f, leg + strips, 2e-5)
+
+    def test_plastic_axis_may_cut_a_slope(self):
+        n, s1, s2 = 500, 24, 4  # strips of a web from 6 to 14 with its fillets of 45 degrees
+        plates = [(-40, 40, 0, 10), (6, 14, 10 + s1, 80 - s2), (-30, 30, 80, 90)]
+        for s, foot, up in ((s1, 10, 1), (s2, 80, -1)):
+            for i in range(n):
+                y = sorted((foot + up * i * s / n, foot + up * (i + 1) * s / n))
+                plates += [(6 - s + (i + 0.5) * s / n, 14 + s - (i + 0.5) * s / n, *y)]
+        f = figures(f"i 90 80 60 10 10 8 {s1} {s2} 10")
+        self.assertTrue(10 - 45 < f["yp"] < 10 + s1 - 45)
+        self.check_moduli(f, plates, 2e-5)
 
     def check_moduli(self, f, plates, tolerance=TOLERANCE):
         upright = [plate[2:] + plate[:2] for plate in plates]
@@ -464,6 +480,10 @@ class SectionProperties(unittest.TestCase):
         self.assertIn("\nNot given for this section: shear centre, warping constant.\n", text)
         self.assertNotRegex(text, r"\bIw\b")
         self.assertIn("\nOrigin: middle of the bounding box, ", text)
+        for section in ("i 400 310 150 22 11 8.5 {} 0 12", "i 400 310 150 22 11 8.5 0 {} 12",
+                        "l 150 100 12 {}"):
+            for fillet, told in (("0", ".\n"), (".5", ", fillets left out.\n")):
+                self.assertIn("(V. Z. Vlasov)" + told, run(section.format(fillet)).stdout)
 
     def test_table_shows_the_figures(self):
         table = run("rolled 300 150 7.1 10.7 15").stdout
@@ -493,6 +513,8 @@ class SectionProperties(unittest.TestCase):
             found = list(filter(None, map(row.fullmatch, run(section).stdout.splitlines())))
             self.assertEqual([(m[1].rstrip(), m[2], m[4], m[6]) for m in found],
                              [row[:4] for row in expected], section)
+            for part in (found[:16], found[16:]):  # units stand below each other
+                self.assertEqual(len({(m.start(4), m.start(6)) for m in part}), 1, section)
             for m, (_, name, unit, _, value) in zip(found, expected):
                 factor = 180 / math.pi if unit == "rad" else 10.0 ** -int(unit[2:] or 1)
                 for shown, figure in ((m[3], value), (m[5], value * factor)):
@@ -594,6 +616,11 @@ class SectionProperties(unittest.TestCase):
                 self.assertEqual(given.keys(), f.keys())
                 for name, value in f.items():  # rounded to single precision
                     self.assertAlmostEqual(given[name], value, delta=8e-8 * abs(value) + 1e-12)
+
+    def test_batch_works_on_bytes(self):
+        batch = subprocess.run(COMMAND + ["batch", "-"], input=b"b 2 3 # \x1a\nb 2 3\n", check=True,
+                               stdout=subprocess.PIPE, stderr=subprocess.PIPE).stdout
+        self.assertEqual((batch.count(b"\n"), batch.count(b"\r")), (3, 0))
 
     def test_batch_reads_lines_of_every_form(self):
         lines = ("\ufeffrhs, 200, 100 ,8\r", "# none", "\t", "RHS;200,5;100;8,0 # wide",

@@ -284,6 +284,7 @@ test('the keyboard alone will do', async () => {
   assert.equal(await taken('command line'), 'section_properties rolled 300 150 6.3 10.7 15\n');
   for (const [typed, key, stepped] of [
     ['7,25', 'ArrowUp', '7.35'],
+    ['7', 'ArrowUp', '7.1'],
     ['7', 'PageUp', '8'],
     ['7', 'Shift+PageDown', '6'],
     ['0,3', 'PageDown', '0.1'],
@@ -300,6 +301,10 @@ test('the keyboard alone will do', async () => {
   }
   await page.evaluate(() => (window.isSame = true));
   await field('TW').press('Enter');
+  const isSent = await page.evaluate(() =>
+    document.getElementById('section').dispatchEvent(new Event('submit', { cancelable: true })),
+  );
+  assert.equal(isSent, false);
   assert.ok(await page.evaluate(() => window.isSame), 'Enter loads no page');
   await field('TW').fill('6.3');
   await page.locator('input[value=rolled]').focus();
@@ -352,6 +357,7 @@ test('every control has a name, and what changes is told', async () => {
     if ((await one.count()) !== 1) found.push(`${role} ${name} ${of}`);
   }
   assert.deepEqual(found, []);
+  assert.equal(await page.getByLabel('Text to copy').getAttribute('tabindex'), '0');
   for (const name of ['dimension-TW', 'slider-TW'])
     assert.equal(await page.locator(`#${name}`).getAttribute('aria-describedby'), 'fault-TW');
 });
@@ -413,6 +419,10 @@ test('each profile shows its steel in a square', async () => {
     }),
   );
   for (const icon of icons) assert.deepEqual(icon, [1.2, 1, 0, 0, 1, 2]);
+  for (const radio of await page.locator('input[name=profile]').all()) {
+    await radio.check();
+    assert.ok(await page.locator('#stale').isHidden());
+  }
 });
 
 test('no wider than a phone', async () => {
