@@ -6,7 +6,7 @@ Attribute VB_Name = "Trelvin"
 ' it has: 1! is a Single, 1& a Long. The contracts are in include/trelvin.
 Option Explicit
 
-Public Const TrelvinVersion As String = "1.1.0"
+Public Const TrelvinVersion As String = "1.1.1"
 
 
 ' Whether a computation was done.

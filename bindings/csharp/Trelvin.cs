@@ -16,7 +16,7 @@ namespace Trelvin
     /// calls unwritten keeps its value; in the form with inputs by value it is zero.</summary>
     public static class Native
     {
-        public const string Version = "1.1.0";
+        public const string Version = "1.1.1";
         private const string Library = "trelvin";
 
 

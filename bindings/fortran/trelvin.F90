@@ -17,7 +17,7 @@ module trelvin
   implicit none
   public
 
-  character(*), parameter :: trelvin_version = "1.1.0"
+  character(*), parameter :: trelvin_version = "1.1.1"
 
   ! Whether a computation was done.
   integer(c_int32_t), parameter :: trv_status_done = 0

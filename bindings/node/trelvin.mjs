@@ -4,7 +4,7 @@
 // as an object; ./call.mjs tells how. The contracts are in include/trelvin.
 import { routine } from "./call.mjs";
 
-export const version = "1.1.0";
+export const version = "1.1.1";
 
 /** @typedef {ArrayLike<number>} Numbers */
 

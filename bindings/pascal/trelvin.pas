@@ -11,7 +11,7 @@ unit trelvin;
 interface
 
 const
-  TrelvinVersion = '1.1.0';
+  TrelvinVersion = '1.1.1';
   {$IF DEFINED(WIN64)}
   TrelvinLibrary = 'Trelvin64.dll';
   {$ELSEIF DEFINED(MSWINDOWS)}

@@ -49,8 +49,8 @@
 /* The version of the interface, for a program to read while it is compiled. */
 #define TRELVIN_VERSION_MAJOR 1
 #define TRELVIN_VERSION_MINOR 1
-#define TRELVIN_VERSION_PATCH 0
-#define TRELVIN_VERSION "1.1.0"
+#define TRELVIN_VERSION_PATCH 1
+#define TRELVIN_VERSION "1.1.1"
 
 #if defined(_WIN32) && (defined(__i386__) || defined(_M_IX86))
 #define TRELVIN_CALL __stdcall

@@ -1,2 +1,2 @@
 # Generated from include/trelvin/calling.h by tools/generate.py.
-__version__ = "1.1.0"
+__version__ = "1.1.1"
