@@ -593,6 +593,8 @@ class SectionProperties(unittest.TestCase):
             picture = run(name.upper() + " -h").stdout.split("\n\n", 2)[2]
             for dimension in dimensions.split():
                 self.assertRegex(picture, rf"\b{dimension}\b", name)
+        for name, zero in (("i", "S1, S2, E."), ("l", "R."), ("rhs", "")):
+            self.assertEqual(run(name + " -h").stdout.partition("\nMay be 0: ")[2].strip(), zero)
         self.assertEqual((len(listed), listed[-1][0]), (len(OUTLINES) + 1, "plates"))
 
     def test_version_is_that_of_the_library(self):

@@ -121,6 +121,7 @@ test('the table is that of the command line', async () => {
     .evaluateAll((all) =>
       all.map((row) => [...row.cells].map((cell) => cell.textContent).join(' ')),
     );
+  assert.equal(await page.locator('#rows .number > span.unit').count(), 2 * rows.length);
   const remarks = await page.locator('#remarks').textContent();
   const words = (text) => text.normalize('NFKD').split(/\s+/).join(' ').trim();
   const [, , ...lines] = commandLine(['l', '100', '75', '10', '12']).text.split('\n');
