@@ -419,10 +419,12 @@ test('each profile shows its steel in a square', async () => {
     }),
   );
   for (const icon of icons) assert.deepEqual(icon, [1.2, 1, 0, 0, 1, 2]);
-  for (const radio of await page.locator('input[name=profile]').all()) {
+  const other = await open('');
+  for (const radio of await other.locator('input[name=profile]').all()) {
     await radio.check();
-    assert.ok(await page.locator('#stale').isHidden());
+    assert.ok(await other.locator('#stale').isHidden());
   }
+  await other.close();
 });
 
 test('no wider than a phone', async () => {
