@@ -285,13 +285,19 @@ class SectionProperties(unittest.TestCase):
             for name, expected in (("area", area), ("Ix", ix), ("xs", xs), ("It", area * 4 / 3)):
                 self.assertAlmostEqual(f[name] / expected, 1, delta=TOLERANCE)
             self.assertLess(f["xm"], -30)  # beyond the web
+            for side in ("x1", "x2", "y1", "y2"):
+                fibre = f["e" + side.translate(str.maketrans("xy", "yx"))]
+                moment = f["centroidal"]["I" + side[0]]
+                self.assertAlmostEqual(f["W" + side] * fibre / moment, 1, delta=TOLERANCE)
+            self.assertAlmostEqual(f["ey1"], h / 2, delta=1.01)
             with open(os.path.join(folder, "p.svg"), encoding="utf-8") as picture:  # over all
                 self.assertEqual(re.findall(r">(\d\d+)</text>", picture.read()), ["80", "200"])
             rings = [[tuple(map(float, v.split())) for v in ring.split("L")]
                      for ring in drawn_steel("plates p.txt", folder)]
-            areas = [-enclosed_area(ring) / enclosed_area(rings[0]) * -198 for ring in rings]
-            for drawn, length in zip(areas, (198, 78, 78, 24, 24), strict=True):
-                self.assertAlmostEqual(drawn, length, delta=0.01 * length)
+            heights = [y for ring in rings for _, y in ring]
+            mm = 200 / (max(heights) - min(heights))
+            for ring, length in zip(rings, (h, b, b, c, c), strict=True):
+                self.assertAlmostEqual(-enclosed_area(ring) * mm**2, t * length, delta=t)
             for ending in ("0 0 1", "0 0 0 x 2", "0 0 0 0 2"):
                 result = answer(PLATES + ending)
                 self.assertEqual((result.returncode, result.stdout), (2, ""))
@@ -593,6 +599,8 @@ class SectionProperties(unittest.TestCase):
             picture = run(name.upper() + " -h").stdout.split("\n\n", 2)[2]
             for dimension in dimensions.split():
                 self.assertRegex(picture, rf"\b{dimension}\b", name)
+        for name, zero in (("i", "S1, S2, E."), ("l", "R."), ("rhs", "")):
+            self.assertEqual(run(name + " -h").stdout.partition("\nMay be 0: ")[2].strip(), zero)
         self.assertEqual((len(listed), listed[-1][0]), (len(OUTLINES) + 1, "plates"))
 
     def test_version_is_that_of_the_library(self):

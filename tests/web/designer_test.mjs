@@ -122,6 +122,7 @@ test('the table is that of the command line', async () => {
     .evaluateAll((all) =>
       all.map((row) => [...row.cells].map((cell) => cell.textContent).join(' ')),
     );
+  assert.equal(await page.locator('#rows .number > span.unit').count(), 2 * rows.length);
   const remarks = await page.locator('#remarks').textContent();
   const words = (text) => text.normalize('NFKD').split(/\s+/).join(' ').trim();
   const [, , ...lines] = commandLine(['l', '100', '75', '10', '12']).text.split('\n');
@@ -419,10 +420,12 @@ test('each profile shows its steel in a square', async () => {
     }),
   );
   for (const icon of icons) assert.deepEqual(icon, [1.2, 1, 0, 0, 1, 2]);
-  for (const radio of await page.locator('input[name=profile]').all()) {
+  const other = await open('');
+  for (const radio of await other.locator('input[name=profile]').all()) {
     await radio.check();
-    assert.ok(await page.locator('#stale').isHidden());
+    assert.ok(await other.locator('#stale').isHidden());
   }
+  await other.close();
 });
 
 test('no wider than a phone', async () => {
