@@ -133,10 +133,9 @@ std::vector<float> crossings_of_axis(Call &call) {
   std::int32_t first_and_axis = 0;
   float x = 0, y = 0;
   trvlni(A[0], B[0], C[0], 1, 0, 0, first_and_axis, x, y);
-  std::vector<float> crossings;
-  for (int i = 0; i < call.integer("n"); ++i) {
-    crossings.push_back(-C[i] / (first_and_axis == TRV_PLANE_LINES_PARALLEL ? A[i] : B[i]));
-  }
+  std::vector<float> crossings(static_cast<std::size_t>(call.integer("n")));
+  const float *const divisor = first_and_axis == TRV_PLANE_LINES_PARALLEL ? A : B;
+  for (std::size_t i = 0; i < crossings.size(); ++i) crossings[i] = -C[i] / divisor[i];
   return crossings;
 }
 

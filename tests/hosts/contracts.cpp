@@ -72,6 +72,10 @@ class Instance {
     load();
   }
 
+  void call(const Routine &routine, const Addresses &addresses) const {
+    routine.call_at(reinterpret_cast<void (*)()>(dlsym(library_, routine.name)), addresses);
+  }
+
   // The same routine, but of this instance, until it is loaded anew.
   [[nodiscard]] Routine own(const Routine &routine) const {
     Routine result = routine;
@@ -254,17 +258,22 @@ class Outputs {
         marks_b_(routine.arguments.size()),
         conditional_(routine.arguments.size()),
         sizes_(routine.arguments.size()),
+        always_used_(routine.arguments.size()),
         before_(routine.arguments),
         second_(routine.arguments) {
-    Arguments zero = routine.arguments;
-    for (std::size_t i = 0; i < zero.size(); ++i) {
-      if (routine.used[i] != nullptr)
-        always_used_.push_back(routine.used[i](zero).elements);
-      else
-        always_used_.push_back(0);
-    }
     for (const Condition &condition : conditions()) {
       if (is(routine, condition.routine)) conditions_.push_back(&condition);
+    }
+    Arguments zero = routine.arguments;
+    for (std::size_t i = 0; i < zero.size(); ++i) {
+      if (routine.used[i] != nullptr) always_used_[i] = routine.used[i](zero).elements;
+      const bool stated = routine.kept[i].how == Kept::on_condition;
+      const bool tested =
+          std::any_of(conditions_.begin(), conditions_.end(),
+                      [&](const Condition *condition) { return names(*condition, i); });
+      if (stated == tested) continue;
+      tell(routine, routine.names[i] + (stated ? ": its condition is not in conditions.cpp"
+                                               : ": its contract states no condition"));
     }
   }
 
@@ -377,7 +386,7 @@ class Outputs {
         tell(routine_, routine_.names[i] + ": is left unwritten where its contract writes it");
       }
       (untouched ? seen_[i].kept : seen_[i].written) = true;
-      // A count used that is a number stands for the size, which is then for show.
+      // A count used that is a number stands for the size, which callers are to provide all the same.
       const bool last = k + 1 == (always_used_[i] > 0 ? always_used_[i] : size);
       if (!untouched && last && !argument.single) seen_[i].needed.insert(sizes_[i].form);
     }
@@ -480,8 +489,8 @@ class Inputs {
     }
     const Argument before_a = first[std::min(changed, first.size() - 1)];
     const Argument before_b = second[std::min(changed, first.size() - 1)];
-    a_.own(routine_).call(random_calls::addresses_of(first));
-    b_.own(routine_).call(random_calls::addresses_of(second));
+    a_.call(routine_, random_calls::addresses_of(first));
+    b_.call(routine_, random_calls::addresses_of(second));
     for (std::size_t i = 0; i < first.size(); ++i) {
       if (!first[i].written) continue;
       const Words a = words_of(first[i]);
