@@ -166,11 +166,12 @@ def says(name, phrase):
     return phrase if phrase in _contracts()[name] else f"no '{phrase}' in the contract of {name}"
 
 
-def status(name, meaning):
-    """The value of a status whose meaning has these words in the contract."""
+def status(name, words):
+    """The value whose name or meaning has these words in the contract."""
     routine = next(routine for routine in model.read().routines if routine.name == name)
-    values = [v.number for a in routine.named_values() for v in a.values.values if meaning in v.meaning]
-    return int(values[0]) if len(values) == 1 else f"no single status of {name} with '{meaning}'"
+    values = [v.number for a in routine.named_values() for v in a.values.values
+              if words in (v.name, v.meaning) or words in v.meaning]
+    return values[0] if len(values) == 1 else f"no single value of {name} with '{words}'"
 
 
 # Senses: by where a point goes that is turned by half a radian.
@@ -615,7 +616,7 @@ def printed_of_hole():
 
 def kind(words):
     """The kind of a part that the contract describes so."""
-    return int(re.search(rf"(\d) {words}", _contracts()["trvair"]).group(1))
+    return status("trvair", words)
 
 
 def hole():

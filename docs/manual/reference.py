@@ -112,7 +112,7 @@ def _routine(writer, routine):
 
 
 def _when(kept):
-    return f"if {kept.condition}" if kept.condition else kept.text.split(" ", 1)[1]
+    return f"if {kept.condition}" if kept.condition else kept.text.partition(" ")[2] or "always"
 
 
 def _facts(writer, routine):
