@@ -223,11 +223,20 @@ TEST(ThinWalled, PlatesMeetWithinTheTolerance) {
   const float t = tolerance;
   EXPECT_EQ(Section({{0, 0, 1, 0, 1}, {t, t, 0, 1, 1}}).status, 0);
   EXPECT_EQ(Section({{0, 0, 1, 0, 1}, {0, beyond, 0, 1, 1}}).status, 2);
-  const auto hook = [](float end) {
-    return Section({{0, 0, 1, 0, 1}, {0, 0, 0, 1, 1}, {0, 1, 0.5F, 1, 1}, {0.5F, 1, 0.5F, end, 1}});
+  const auto hook = [](float end, float side, bool upright) {
+    std::vector<Plate> plates = {
+        {0, 0, 1, 0, 1}, {0, 0, 0, side, 1}, {0, side, 0.5F, side, 1}, {0.5F, side, 0.5F, end, 1}};
+    for (Plate &p : plates) {
+      if (upright) p = {p.y1, p.x1, p.y2, p.x2, p.t};
+    }
+    return Section(plates).status;
   };
-  EXPECT_EQ(hook(t).status, 8);
-  EXPECT_EQ(hook(beyond).status, 0);
+  for (const bool upright : {false, true}) {
+    for (const float side : {1.0F, -1.0F}) {
+      EXPECT_EQ(hook(side * t, side, upright), 8);
+      EXPECT_EQ(hook(side * beyond, side, upright), 0);
+    }
+  }
   // A third of 1000 in single precision is further off the line than that.
   EXPECT_EQ(
       Section({{0, 0, 3000, 1000, 1}, {0, 0, 0, 900, 1}, {0, 900, 1000, 333.3334F, 1}}).status, 6);
