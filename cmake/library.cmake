@@ -57,7 +57,8 @@ endif()
 
 if(WIN32 AND NOT MSVC)
   # The DLL is to stay small. These rooms have no loops that the compiler widens.
-  file(GLOB_RECURSE small src/circles/*.cpp src/lists/*.cpp src/sections/*.cpp src/vectors/*.cpp)
+  file(GLOB_RECURSE small src/circles/*.cpp src/lists/*.cpp src/sections/*.cpp src/trace/*.cpp
+       src/vectors/*.cpp)
   list(APPEND small src/entries/circles.cpp src/entries/lists.cpp src/entries/sections.cpp)
   set_property(SOURCE ${small} APPEND PROPERTY COMPILE_OPTIONS $<$<CONFIG:Release>:-O2>)
 endif()

@@ -6,7 +6,7 @@ from model import COMMENT, ROOT
 
 FLOORS = [
     ["numeric"],
-    ["vectors"],
+    ["trace", "vectors"],
     ["plane"],
     ["circles", "lists", "properties", "sections", "space"],
     ["entries"],

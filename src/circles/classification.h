@@ -2,7 +2,7 @@
 #pragma once
 
 #include "circles/circles.h"
-#include "circles/trace.h"
+#include "trace/trace.h"
 
 namespace trelvin {
 

@@ -162,15 +162,7 @@ TRELVIN_ROUTINE trvhin(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 TRELVIN_ROUTINE trvapp(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvIntIn n,
                        TrvArrayIn X, TrvArrayIn Y, TrvIntArrayOut mark) {
   const Door door;
-  const Point2 vertex = {x0, y0};
-  const Point2 p1 = {x1, y1};
-  const Point2 p2 = {x2, y2};
-  const Integer count = n;
-  const bool no_sector = negligible(angle_between(p1 - vertex, p2 - vertex));
-  const Sector rays = sector(vertex, p1, p2);
-  for (Integer i = 0; i < count; ++i) {
-    mark[i] = no_sector ? -1 : rays.holds({X[i], Y[i]}, retained.three_points) ? 1 : 2;
-  }
+  mark_by_sector({x0, y0}, {x1, y1}, {x2, y2}, X, Y, n, mark, retained.three_points);
 }
 
 /* Constructions on a chord ------------------------------------------------------------------- */

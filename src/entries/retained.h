@@ -4,7 +4,7 @@
 
 #include "circles/chords.h"
 #include "circles/stations.h"
-#include "circles/trace.h"
+#include "trace/trace.h"
 #include "sections/buckling.h"
 #include "space/points_on_lines.h"
 #include "vectors/three_points.h"

@@ -288,18 +288,10 @@ TRELVIN_ROUTINE trvplv(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy, TrvIn w
 TRELVIN_ROUTINE trvpnp(TrvArrayIn X, TrvArrayIn Y, TrvArrayIn Z, TrvIn a, TrvIn b, TrvIn c,
                        TrvInOut d, TrvIntIn n, TrvIntOut count, TrvIntArrayOut index) {
   const Door door;
-  const Vector3 normal = {a, b, c};
   const Integer points = n;
-  Integer found = 0;
-  if (points >= 1) {
-    Real residual = d;  // runs on from point to point
-    for (Integer i = 0; i < points; ++i) {
-      residual = residual + X[i] * normal.x + Y[i] * normal.y + Z[i] * normal.z;
-      if (residual == 0) index[found++] = i + 1;
-    }
-    d = residual;
-  }
-  count = found;
+  Plane plane = {a, b, c, d};
+  count = positions_by_residual({X, Y, Z}, points, plane, index);
+  if (points >= 1) d = plane.d;
 }
 
 /* Lines -------------------------------------------------------------------------------------- */
@@ -325,7 +317,7 @@ TRELVIN_ROUTINE trv3sp(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
 TRELVIN_ROUTINE trv3ldb(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xq,
                         TrvIn yq, TrvIn zq, TrvIntOut status, TrvOut dist) {
   const Door door;
-  dist = distance(SpaceLine{{xa, ya, za}, {xb, yb, zb}}, {xq, yq, zq});
+  dist = distance_by_start_y(SpaceLine{{xa, ya, za}, {xb, yb, zb}}, {xq, yq, zq});
   status = 0;
 }
 
@@ -371,12 +363,8 @@ TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
   Door door;
   const SpaceLine line = {{xa, ya, za}, {xb, yb, zb}};
   const Integer points = n;
-  const Real limit = tol;
-  Integer found = 0;
-  for (Integer i = 1; i <= points; ++i) {
-    const Point3 point = {X[i - 1], Y[i - 1], door.outside([&] { return zf(i); })};
-    if (is_near(line, point, limit)) index[found++] = i;
-  }
+  const auto height = [&](Integer i) { return door.outside([&] { return zf(i); }); };
+  const Integer found = positions_near(line, X, Y, height, points, tol, index);
   if (points >= 1) status = 0;
   count = found;
 }

@@ -25,7 +25,7 @@ SpaceLineRelation relation_of_lines(const SpaceLine &first, const SpaceLine &sec
 }
 
 bool is_near(const SpaceLine &line, Point3 q, Real limit) {
-  return within(limit, distance(line, q));
+  return within(limit, distance_by_start_y(line, q));
 }
 
 Real signed_distance(const SpaceLine &line, Point3 q, LastCosine &last) {

@@ -34,17 +34,31 @@ inline bool span_space(Vector3 u, Vector3 v, Vector3 w) {
   return significant(determinant(u, v, w));
 }
 
-// Taken from start - q, which has start.y in place of start.z.
-inline Real distance(const SpaceLine &line, Point3 q) {
+// The distance of trv3ldb. It is taken from start - q, which has start.y in place of start.z and keeps
+// it, so it is the distance of the point only if the two are equal.
+inline Real distance_by_start_y(const SpaceLine &line, Point3 q) {
   const Vector3 u = line.along();
   if (negligible(u)) return distance(line.start, q);
   const Vector3 v = {line.start.x - q.x, line.start.y - q.y, line.start.y - q.z};
   return length(cross(v, u)) / length(u);
 }
 
-// Whether the distance is within the limit. Never inline: none of it is computed where the host's
+// Whether that distance is within the limit. Never inline: none of it is computed where the host's
 // control may stand.
 bool is_near(const SpaceLine &line, Point3 q, Real limit);
+
+// Positions, from 1, of the points near a line; their third coordinates come from a function of the
+// position. Gives how many there are.
+template <class Height>
+Integer positions_near(const SpaceLine &line, const Real *x, const Real *y, Height height,
+                       Integer n, Real limit, Integer *positions) {
+  Integer found = 0;
+  for (Integer i = 1; i <= n; ++i) {
+    const Point3 point = {x[i - 1], y[i - 1], height(i)};
+    if (is_near(line, point, limit)) positions[found++] = i;
+  }
+  return found;
+}
 
 // In the plane of both, whose normal is turned towards +y, else +z, else +x.
 Real signed_distance(const SpaceLine &line, Point3 q, LastCosine &last);

@@ -83,4 +83,14 @@ PlanePosition position_of_plane(const Plane &plane) {
   return c_zero ? P::parallel_to_z : P::general;
 }
 
+Integer positions_by_residual(const SpaceList &points, Integer n, Plane &plane,
+                              Integer *positions) {
+  Integer found = 0;
+  for (Integer i = 0; i < n; ++i) {
+    plane.d = plane.d + points.x[i] * plane.a + points.y[i] * plane.b + points.z[i] * plane.c;
+    if (plane.d == 0) positions[found++] = i + 1;
+  }
+  return found;
+}
+
 }  // namespace trelvin

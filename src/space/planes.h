@@ -60,6 +60,14 @@ inline Real residual_with_d_second(const Plane &plane, Point3 p) {
   return plane.a * p.x + plane.d + plane.b * p.y + plane.c * p.z;
 }
 
+struct SpaceList {
+  const Real *x, *y, *z;
+};
+
+// Positions, from 1, of the points at which the residual is exactly zero. The plane's d is the
+// residual: it runs on from point to point and is left as the last one. Gives how many there are.
+Integer positions_by_residual(const SpaceList &points, Integer n, Plane &plane, Integer *positions);
+
 // Positive on the side that the normal points to.
 inline Real signed_distance(const Plane &plane, Point3 p) {
   return residual(plane, p) / length(plane.normal());

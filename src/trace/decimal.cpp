@@ -1,4 +1,4 @@
-#include "circles/decimal.h"
+#include "trace/decimal.h"
 
 #include <algorithm>
 #include <cstdint>

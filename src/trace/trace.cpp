@@ -1,9 +1,9 @@
-#include "circles/trace.h"
+#include "trace/trace.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "circles/decimal.h"
+#include "trace/decimal.h"
 
 #ifdef _WIN32
 #define WIN32_LEAN_AND_MEAN
@@ -70,12 +70,12 @@ HANDLE open_to_append(DWORD access) {
 // Appending in one piece is the system's promise, but not every system that runs Windows programs
 // keeps it between processes. So writers take turns by the lock of a byte far behind the text. If
 // there are no locks, as on some network drives, they write at once.
-class Turn {
+class LockOfFile {
  public:
   // Waits as long as the file grows, because then its turn comes. If the file does not grow for a
   // quarter of a second, the process that has the lock was stopped. The turn is then missed, and so
   // is every later one, without waiting, until the file grows or the lock is free.
-  Turn(HANDLE file, std::optional<std::uint32_t> &stuck_at) : file_(file) {
+  LockOfFile(HANDLE file, std::optional<std::uint32_t> &stuck_at) : file_(file) {
     if (!is_taken()) return;
     DWORD size = GetFileSize(file_, nullptr);
     DWORD start = GetTickCount();
@@ -90,11 +90,11 @@ class Turn {
     }
     if (missed_) stuck_at = size;
   }
-  ~Turn() {
+  ~LockOfFile() {
     if (has_lock_) UnlockFileEx(file_, 0, 1, 0, &byte_);
   }
-  Turn(const Turn &) = delete;
-  Turn &operator=(const Turn &) = delete;
+  LockOfFile(const LockOfFile &) = delete;
+  LockOfFile &operator=(const LockOfFile &) = delete;
 
   [[nodiscard]] bool missed() const { return missed_; }
 
@@ -245,8 +245,8 @@ bool TraceFile::open() {
 bool TraceFile::still_has_file() const { return true; }
 
 bool TraceFile::write(std::string_view bytes) {
-  const Turn turn(handle_, stuck_at_);
-  if (turn.missed()) return true;  // the file stays open
+  const LockOfFile lock(handle_, stuck_at_);
+  if (lock.missed()) return true;  // the file stays open
   DWORD written = 0;
   WriteFile(handle_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
   if (written > 0) torn_ = written < bytes.size();
