@@ -46,8 +46,8 @@ TRELVIN_ROUTINE trvcer(TrvIn xc, TrvIn yc, TrvIn r, TrvOut D, TrvOut E, TrvOut F
  * cut. A NaN discriminant gives two points with NaN.
  *
  * The nearer the line is to the direction of x, the fewer digits are left, also at the origin: with
- * |a| a hundredth of |b| and circles of some hundred units, points are off by about a unit. Routines
- * that cut a circle by a line inherit this (trvc12, trvcer1, trvcer2, trvcer6).
+ * |a| a hundredth of |b| and circles of some hundred units, points are off by about a unit.
+ * Routines that cut a circle by a line inherit this (trvc12, trvcer1, trvcer2, trvcer6).
  *
  * Far from the origin F loses the radius. Points of a circle of radius 10 are off by up to 0.15 if
  * its centre is (1000, 1000), and by up to 9 at (1e4, 1e4). At (1e5, 1e5) the line (3, 4, -699925)
@@ -70,9 +70,9 @@ TRELVIN_ROUTINE trvlci(TrvIn a, TrvIn b, TrvIn c, TrvIn D, TrvIn E, TrvIn F, Trv
 /**
  * Intersection of two circles: that of their radical line with the first circle (trvlci).
  *
- * Far from the origin it loses more digits than trvlci: the radical line is inaccurate too. Of random
- * pairs of circles of radius 10 that cut, with centres 15 apart, 22 % came out as touching or as apart
- * about (1e4, 1e4). Move the origin next to the circles first (trvtra).
+ * Far from the origin it loses more digits than trvlci: the radical line is inaccurate too. Of
+ * random pairs of circles of radius 10 that cut, with centres 15 apart, 22 % came out as touching
+ * or as apart about (1e4, 1e4). Move the origin next to the circles first (trvtra).
  *
  * Retains: nothing.
  *
@@ -93,9 +93,9 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * A horizontal chord (|y2 - y1| < 1e-5) writes both candidates and the choice but leaves n at 0;
  * its candidates' y are NaN where the radius is less than half the chord.
  *
- * Far from the origin digits are lost as in trvlci: of random chords of 12 with a radius of 10, 15 %
- * got a wrong n about (1e4, 1e4), and half of the others a centre that is off by more than 0.9. Move
- * the origin next to the chord first (trvtra).
+ * Far from the origin digits are lost as in trvlci: of random chords of 12 with a radius of 10, 15
+ * % got a wrong n about (1e4, 1e4), and half of the others a centre that is off by more than 0.9.
+ * Move the origin next to the chord first (trvtra).
  *
  * Retains: nothing.
  *
@@ -106,10 +106,10 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * @param[in]  r      radius
  * @param[out] xa,ya  first candidate; unwritten on a condition: P1 = P2 exactly, r is at most 1e-5,
  *                    or n is 0 and the chord is not horizontal
- * @param[out] xb,yb  second candidate; unwritten on a condition: that of xa
- * @param[out] xc,yc  chosen centre; unwritten on a condition: that of xa, or neither candidate is
- *                    on the side: side times its distance (trvlds) is not at least 0 for the first
- *                    and not positive for the second, as with a NaN
+ * @param[out] xb,yb  second candidate; unwritten on a condition: xa is unwritten
+ * @param[out] xc,yc  chosen centre; unwritten on a condition: xa is unwritten, or neither candidate
+ *                    is on the side: side times its distance (trvlds) is not at least 0 for the
+ *                    first and not positive for the second, as with a NaN
  * @param[out] n      number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or
  *                    less than half the chord, the discriminant is NaN, or the chord is horizontal;
  *                    1 one: both candidates are the same point; 2 two
@@ -369,10 +369,10 @@ TRELVIN_ROUTINE trvapp(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  * points on the chord count as across. A line that misses the circle is not refused: the result of
  * an earlier call stands, as if it had been found in this chord's frame, and is carried out of it.
  *
- * The chord is turned onto the x axis by an angle with as few digits as that of trvaxph. If the chord
- * is within 4.2e-4 radians of the direction of x, it may not be turned at all, and the line's
- * direction is off by as much. For chords within 0.01 radians turn the arc by a quarter: pass
- * (-y, x) for each point (x, y); the result is (yo, -xo).
+ * The chord is turned onto the x axis by an angle with as few digits as that of trvaxph. If the
+ * chord is within 4.2e-4 radians of the direction of x, it may not be turned at all, and the line's
+ * direction is off by as much. For chords within 0.01 radians turn the arc by a quarter: pass (-y,
+ * x) for each point (x, y); the result is (yo, -xo).
  *
  * Retains: the point (trvcer4).
  *
@@ -436,9 +436,9 @@ TRELVIN_ROUTINE trvcer10(TrvInOut xc, TrvInOut yc, TrvInOut xa, TrvInOut ya, Trv
  * and the arc's, agree within the tolerance in each coordinate yet lie farther apart, the station,
  * or T, of an earlier call stands.
  *
- * The angle ACB comes from trvphi3, so flat arcs lose the direction of T. The point of an arc of 0.1
- * radians is off by up to 5e-5 of its chord, of 0.01 radians by up to 8 %. Below 0.005 radians any
- * point, NaN or a refusal can come out. For such arcs take O of trvcer7, with angle =
+ * The angle ACB comes from trvphi3, so flat arcs lose the direction of T. The point of an arc of
+ * 0.1 radians is off by up to 5e-5 of its chord, of 0.01 radians by up to 8 %. Below 0.005 radians
+ * any point, NaN or a refusal can come out. For such arcs take O of trvcer7, with angle =
  * atan2(side*e, c/2 - s) for the chord c.
  *
  * Retains: the station, T and the point (trvcer5).

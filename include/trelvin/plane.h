@@ -467,8 +467,9 @@ TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
  *
  * Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third axis of
  * trvaxe: the first of its components y, z, x that is above the tolerance becomes positive, or the
- * first that is not zero. So it is counter-clockwise in the plane z = 0. Formed in double precision,
- * its normal with twice the digits, and rounded once: as accurate near 0, pi and 2*pi as elsewhere.
+ * first that is not zero. So it is counter-clockwise in the plane z = 0. Formed in double
+ * precision, its normal with twice the digits, and rounded once: as accurate near 0, pi and 2*pi as
+ * elsewhere.
  *
  * Retains: nothing.
  *
@@ -538,8 +539,8 @@ TRELVIN_ROUTINE trvdir(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn v
 /**
  * Relation of two planes.
  *
- * The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are parallel, and
- * a normal is zero whose components are within the tolerance.
+ * The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are parallel,
+ * and a normal is zero whose components are within the tolerance.
  *
  * Planes with parallel normals are distinct when the ratio of their normals, taken at the last
  * component of the second one above the tolerance, and that of their constants (0 where d2 is
@@ -569,8 +570,8 @@ TRELVIN_ROUTINE trvdirp(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn 
  * projections onto the other two planes are parallel, and a tenth of such calls gives a NaN.
  *
  * Small angles, and angles close to pi, lose their digits as in trvphi. For them, and for parallel
- * projections, take trvchi of the two projections, from the origin; if chi is above pi, the angle is
- * 2*pi - chi.
+ * projections, take trvchi of the two projections, from the origin; if chi is above pi, the angle
+ * is 2*pi - chi.
  *
  * Retains: nothing.
  *
@@ -614,7 +615,7 @@ TRELVIN_ROUTINE trvinv(TrvIntArrayInOut V, TrvIntIn n);
  * Retains: nothing.
  *
  * @param[inout] V  array of n+m: the list, with room for what is inserted; unchanged on a
- *                  condition: that of n
+ *                  condition: n is unchanged
  * @param[inout] n  number of its elements; n+m afterwards; unchanged on a condition: k is negative
  *                  or above n, or m < 1
  * @param[in]    k  position after which to insert, 0 for the front

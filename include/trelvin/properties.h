@@ -222,9 +222,9 @@ TRELVIN_ROUTINE trvstm(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIntIn ki
  * Retains: nothing.
  *
  * @param[inout] x,y        arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells;
- *                          element n+1 is overwritten with vertex 1 for kind 2; nothing is read
- *                          for an unknown kind; unchanged on a condition: kind is not 2, or elements
- *                          1 to n
+ *                          element n+1 is overwritten with vertex 1 for kind 2; nothing is read for
+ *                          an unknown kind; unchanged on a condition: kind is not 2, or elements 1
+ *                          to n
  * @param[in]    n          vertices of kind 2, at least 0, which gives zeros: for a negative n
  *                          element n+1 would be before the arrays; ignored for other kinds
  * @param[in]    kind       part kind (TrvPart): 1 concentrated: area concentrated at point 1, or a

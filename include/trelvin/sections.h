@@ -91,10 +91,10 @@ TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ce
  * @param[in]  r2   square root of the reference strength: sqrt(235) for N/mm2
  * @param[in]  s1   stress at the more compressed edge
  * @param[in]  s2   stress at the other edge
- * @param[out] be1  effective width at the edge of s1; unwritten on a condition: that of be2
+ * @param[out] be1  effective width at the edge of s1; unwritten on a condition: be2 is unwritten
  * @param[out] be2  effective width at the other edge; unwritten on a condition: both stresses are
- *                  within the tolerance, s1 is zero or negative, s1 = -s2/3, or s2 is not within the
- *                  tolerance and s2 - s1 is above it or NaN
+ *                  within the tolerance, s1 is zero or negative, s1 = -s2/3, or s2 is not within
+ *                  the tolerance and s2 - s1 is above it or NaN
  */
 TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1, TrvIn s2,
                        TrvOut be1, TrvOut be2);

@@ -96,12 +96,12 @@ TRELVIN_ROUTINE trvrotz(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvArra
 /**
  * Three-point test: whether P0, P1 and P2 span a plane.
  *
- * The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance: up to 0.00447 radians
- * from pi or 0 the three are on one line, as are the ends of 6 m and a point 6 mm beside its middle.
- * Where P2 agrees with
- * P0 or P1 within the tolerance in each coordinate yet lies farther than that from it, the cosine
- * of the last call that found one stands (0 after loading). P0 = P1 is not tested and gives 0, as
- * does any P2 on the line whose distances from both come out equal.
+ * The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance: up to 0.00447
+ * radians from pi or 0 the three are on one line, as are the ends of 6 m and a point 6 mm beside
+ * its middle. Where P2 agrees with P0 or P1 within the tolerance in each coordinate yet lies
+ * farther than that from it, the cosine of the last call that found one stands (0 after loading).
+ * P0 = P1 is not tested and gives 0, as does any P2 on the line whose distances from both come out
+ * equal.
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -399,8 +399,8 @@ TRELVIN_ROUTINE trvpl4(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  *
  * @param[in]  ix,iy,iz  intercepts
  * @param[out] a,b,c,d   plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
- * @param[out] status    outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since
- *                       an intercept is within the tolerance or NaN
+ * @param[out] status    outcome: 0 done: the plane is computed; 1 no_plane: there is no plane,
+ *                       since an intercept is within the tolerance or NaN
  */
 TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut c, TrvOut d,
                        TrvIntOut status);
@@ -686,8 +686,8 @@ TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position);
  * The function is called in the processor's state as the host has it. It may change that state: the
  * change stays with the host and has no influence on the results. It may call routines of this
  * library. It may leave by longjmp or by a structured exception of Windows: the host then has its
- * own state, status and count are unwritten, and index holds the positions found so far. An exception
- * of C++ must not leave the function.
+ * own state, status and count are unwritten, and index holds the positions found so far. An
+ * exception of C++ must not leave the function.
  *
  * Cost: takes time in proportion to n and no memory.
  *

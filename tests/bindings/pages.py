@@ -79,7 +79,8 @@ def _cmake(words):
     if "--build" in words and (ROOT / f"build/{preset}/build.ninja").exists():
         code, printed = _shell(f"{shlex.join(words)} -- -n")
         return [printed[-300:]] if code else []
-    lists = [ROOT / "CMakeLists.txt", *ROOT.glob("[a-z]*/CMakeLists.txt"), *ROOT.glob("apps/*/*.txt")]
+    lists = [ROOT / "CMakeLists.txt", *ROOT.glob("[a-z]*/CMakeLists.txt"), *ROOT.glob("apps/*/*.txt"),
+             *ROOT.glob("cmake/*.cmake")]
     lists = " ".join(file.read_text() for file in lists)
     if "--target" in words:
         return [] if f"({words[-1]} " in lists else words[-1:]

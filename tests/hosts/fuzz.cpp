@@ -67,7 +67,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   std::vector<Block> blocks;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     if (arguments[i].single) continue;
-    if (!routine.sizes[i]) return 0;
+    if (routine.sizes[i] == nullptr) return 0;
     blocks.push_back(exact_block(bytes, routine.sizes[i](arguments).elements));
     addresses[i] = blocks.back().get();
   }

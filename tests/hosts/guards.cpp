@@ -51,7 +51,7 @@ void watch() {
 
 bool has_stated_sizes(const Routine &routine) {
   for (std::size_t i = 0; i < routine.arguments.size(); ++i) {
-    if (!routine.arguments[i].single && !routine.sizes[i]) return false;
+    if (!routine.arguments[i].single && routine.sizes[i] == nullptr) return false;
   }
   return true;
 }

@@ -1080,9 +1080,9 @@ def trvcer2(
     Returns:
       xa, ya: first candidate; unwritten on a condition: P1 = P2 exactly, r is at most 1e-5, or
         n is 0 and the chord is not horizontal
-      xb, yb: second candidate; unwritten on a condition: that of xa
-      xc, yc: chosen centre; unwritten on a condition: that of xa, or neither candidate is on
-        the side: side times its distance (trvlds) is not at least 0 for the first and not
+      xb, yb: second candidate; unwritten on a condition: xa is unwritten
+      xc, yc: chosen centre; unwritten on a condition: xa is unwritten, or neither candidate is
+        on the side: side times its distance (trvlds) is not at least 0 for the first and not
         positive for the second, as with a NaN
       n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or less than
         half the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both
@@ -3894,8 +3894,8 @@ def trvadr(
     Retains: nothing.
 
     Arguments:
-      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: that
-        of n
+      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: n is
+        unchanged
       n: number of its elements; n+m afterwards; unchanged on a condition: k is negative or
         above n, or m < 1
       k: position after which to insert, 0 for the front
@@ -3903,8 +3903,8 @@ def trvadr(
       m: number of elements to insert
 
     Returns:
-      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: that
-        of n
+      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: n is
+        unchanged
       n: number of its elements; n+m afterwards; unchanged on a condition: k is negative or
         above n, or m < 1
     """
@@ -4481,7 +4481,7 @@ def trvef2(
       s2: stress at the other edge
 
     Returns:
-      be1: effective width at the edge of s1; unwritten on a condition: that of be2
+      be1: effective width at the edge of s1; unwritten on a condition: be2 is unwritten
       be2: effective width at the other edge; unwritten on a condition: both stresses are within
         the tolerance, s1 is zero or negative, s1 = -s2/3, or s2 is not within the tolerance and
         s2 - s1 is above it or NaN
