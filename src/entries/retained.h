@@ -4,9 +4,9 @@
 
 #include "circles/chords.h"
 #include "circles/stations.h"
-#include "trace/trace.h"
 #include "sections/buckling.h"
 #include "space/points_on_lines.h"
+#include "trace/trace.h"
 #include "vectors/three_points.h"
 
 namespace trelvin {
