@@ -417,28 +417,9 @@ def near_x():
     return [a, -b], [250, hypot(result.x1 - 300, result.y1 - 200) - 250]
 
 
-@cache
-def rays(p, count=20000):
-    """The angles that trvphi gives of random pairs of rays at the angle p."""
-    draw = np.random.default_rng(1)
-    start, one, other = draw.uniform(0, 2 * pi, count), *draw.uniform(1, 1000, (2, count))
-    ends = [one * np.cos(start), one * np.sin(start)]
-    ends += [other * np.cos(start + p), other * np.sin(start + p)]
-    return trelvin.batch(trelvin.trvphi, 0, 0, *ends)
-
-
-def zeros(p):
-    """An angle, the share of rays whose angle comes out as 0, and that."""
-    return [(p, "radians"), (float((rays(p) == 0).mean()), "times"), 0]
-
-
-def not_numbers(p):
-    return share(float(np.isnan(rays(p)).mean()))
-
-
-def worst(p):
-    """An angle, and the worst error of those that come out: its share."""
-    return [(p, "radians"), (float(abs(rays(p) / p - 1).max()), "times")]
+def small_angles(name, radians, phrase):
+    """An angle, and the share that a contract tells behind a phrase; tests measure it."""
+    return [(radians, "radians"), (told(name, phrase) / 100, "times")]
 
 
 def range_of_phi():
