@@ -93,9 +93,9 @@ TRELVIN_ROUTINE trvc12(TrvIn D1, TrvIn E1, TrvIn F1, TrvIn D2, TrvIn E2, TrvIn F
  * A horizontal chord (|y2 - y1| < 1e-5) writes both candidates and the choice but leaves n at 0;
  * its candidates' y are NaN where the radius is less than half the chord.
  *
- * Far from the origin digits are lost as in trvlci: of random chords of 12 with a radius of 10, 15
- * % got a wrong n about (1e4, 1e4), and half of the others a centre that is off by more than 0.9.
- * Move the origin next to the chord first (trvtra).
+ * Far from the origin digits are lost as in trvlci: of random chords of 12 with a radius of 10,
+ * 15 % got a wrong n about (1e4, 1e4), and half of the others a centre that is off by more than
+ * 0.9. Move the origin next to the chord first (trvtra).
  *
  * Retains: nothing.
  *
