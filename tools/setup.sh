@@ -68,33 +68,49 @@ in_container() {
 }
 
 # apt-get installs a 64-bit library and its 32-bit twin in one version only. The twins get the version
-# that is on offer for 32 bits; all other packages keep their newest, security updates included.
+# that is on offer for 32 bits, and so does what is of the same source, which asks for the same version;
+# all other packages keep their newest, security updates included.
 pin_twins() {
   apt-cache depends --recurse --no-recommends --no-suggests --no-conflicts --no-breaks \
     --no-replaces --no-enhances wine32:i386 | grep ':i386$' | sort -u |
     xargs --no-run-if-empty apt-cache --no-all-versions show |
     awk -v RS= -F '\n' '/\nMulti-Arch: same/ {
+      delete field
       for (i = 1; i <= NF; ++i) if (split($i, word, ": ") == 2) field[word[1]] = word[2]
-      if (!known[field["Package"]]++)
-        print "Package: " field["Package"] "\nPin: version " field["Version"] "\nPin-Priority: 1001\n"
+      source = "Source" in field ? field["Source"] : field["Package"]
+      sub(/ .*/, "", source)
+      if (!known[field["Package"]]++) {
+        print "Package: src:" source " " field["Package"]
+        print "Pin: version " field["Version"] "\nPin-Priority: 1001\n"
+      }
     }' >"$pins"
 }
 
 # Of a simulation, what would be taken back.
 taken_back() { awk '/^[^ ]/ { on = /DOWNGRADED:$/; next } on' "$log" | xargs -n 1; }
 
+pinned_by=()  # options of apt-get, if there were pins to make
+
+is_pinned() {  # PACKAGE
+  local source
+  source=$(dpkg-query -W -f='${source:Package}' "$1" 2>/dev/null) || source=$1
+  awk -v package="$1" -v source="src:$source" \
+    '$2 == source || $3 == package { found = 1 } END { exit !found }' "$pins"
+}
+
 install_with_twins() {  # PACKAGE...
   local package
-  local pinned=(-o "Dir::Etc::Preferences=$pins" --allow-downgrades --no-remove install "$@")
+  pinned_by=(-o "Dir::Etc::Preferences=$pins" --no-remove)
+  local pinned=("${pinned_by[@]}" --allow-downgrades install "$@")
   echo "setup: the newest 32- and 64-bit versions do not fit together; apt-get would do this instead:"
   pin_twins
   apt_get -s "${pinned[@]}" || fail "apt-get could not install: $*"
   grep -vE '^(Inst|Conf) ' "$log"
   for package in $(taken_back); do
-    grep -qx "Package: $package" "$pins" ||
+    is_pinned "$package" ||
       fail "nothing was changed: $package would be taken back, which has no 32-bit twin here"
   done
-  if [ $may_downgrade = no ] && ! in_container; then
+  if [ -n "$(taken_back)" ] && [ $may_downgrade = no ] && ! in_container; then
     echo "setup: nothing was changed. If this machine may take these packages back, run" >&2
     echo "setup:   tools/setup.sh${options:+ $options} --allow-downgrades" >&2
     echo "setup: otherwise work in a container, or wait for the 32-bit updates." >&2
@@ -149,7 +165,7 @@ if [ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ]; then
   # One stale index does not matter if the packages can be had all the same; the installation will tell.
   apt_get update || { echo "setup: package lists partly out of date:" >&2; grep '^E:' "$log" >&2 || true; }
   install "${missing[@]}"
-  [ ${#missing64[@]} -eq 0 ] || apt_get --no-remove install wine64 || unpack_wine64 ||
+  [ ${#missing64[@]} -eq 0 ] || apt_get "${pinned_by[@]}" --no-remove install wine64 || unpack_wine64 ||
     fail "apt-get could neither install nor download wine64"
   echo "setup: done"
 fi

@@ -18,7 +18,7 @@ case ${0##*/} in
     if [ "$1" = depends ]; then
       printf 'wine32:i386\n  Depends: libtwin\nlibtwin:i386\nlibtool:i386\n'
     else
-      printf 'Package: libtwin\nVersion: 1.0\nMulti-Arch: same\n\n'
+      printf 'Package: libtwin\nSource: twin (0.9)\nVersion: 1.0\nMulti-Arch: same\n\n'
       printf 'Package: libtool\nVersion: 1.0\nMulti-Arch: foreign\n'
     fi ;;
   apt-get)
@@ -69,16 +69,16 @@ class Setup(unittest.TestCase):
         self.assertEqual((result.returncode, more), (0, [True, False]), result.stderr)
         self.assertIn("DOWNGRADED:\n  libtwin\n", result.stdout)
         self.assertEqual((self.folder / "pins").read_text().split("\n\n")[:-1],
-                         ["Package: libtwin\nPin: version 1.0\nPin-Priority: 1001"])
+                         ["Package: src:twin libtwin\nPin: version 1.0\nPin-Priority: 1001"])
         last = (self.folder / "calls").read_text().splitlines()[-1]
-        self.assertRegex(last, "--allow-downgrades --no-remove install cmake .* wine32:i386")
+        self.assertRegex(last, "--no-remove --allow-downgrades install cmake .* wine32:i386")
 
     def test_a_machine_of_somebody_is_left_alone_unless_it_is_said(self):
         result, more = self.run_setup()
         self.assertEqual((result.returncode, more), (1, [True]))
         self.assertIn("tools/setup.sh --demo --allow-downgrades", result.stderr)
         self.assertIn("DOWNGRADED:\n  libtwin\n", result.stdout)
-        for said in ({"ci": "true"}, {"options": ["--allow-downgrades"]}):
+        for said in ({"ci": "true"}, {"options": ["--allow-downgrades"]}, {"back": ""}):
             result, more = self.run_setup(*said.pop("options", []), **said)
             self.assertEqual((result.returncode, more), (0, [True, False]))
 
