@@ -8,9 +8,9 @@ import model
 DIRECTIONS = {"in": "in", "out": "out", "inout": "in and out"}
 FIGURES = {  # of a family, and of a group within one
     "circles": ["arc-stations", "arc-constructions"],
+    "rotations": ["rotations"],
+    "frames": ["frames"],
     "Straight lines": ["lines"],
-    "Rotations": ["rotations"],
-    "Frames and transformations": ["frames"],
     "Parts of a section": ["parts"],
     "Plate buckling": ["stresses"],
 }
