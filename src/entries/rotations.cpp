@@ -17,23 +17,23 @@ Turn turn_of(Integer mode, Real angle) {
 
 TRELVIN_ROUTINE trvrot(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIn angle) {
   const Door door;
-  turn({x, y}, n, turn_of(mode, angle));
+  rotate({x, y}, n, turn_of(mode, angle));
 }
 
 TRELVIN_ROUTINE trvrotx(TrvIntIn mode, TrvArrayIn /*x*/, TrvArrayInOut y, TrvArrayInOut z,
                         TrvIntIn n, TrvIn angle) {
   const Door door;
-  turn({y, z}, n, turn_of(mode, angle));
+  rotate({y, z}, n, turn_of(mode, angle));
 }
 
 TRELVIN_ROUTINE trvroty(TrvIntIn mode, TrvArrayInOut x, TrvArrayIn /*y*/, TrvArrayInOut z,
                         TrvIntIn n, TrvIn angle) {
   const Door door;
-  turn({x, z}, n, turn_of(mode, angle));  // x towards z, not z towards x: unlike its sisters
+  rotate({x, z}, n, turn_of(mode, angle));  // x towards z, not z towards x: unlike its sisters
 }
 
 TRELVIN_ROUTINE trvrotz(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvArrayIn /*z*/,
                         TrvIntIn n, TrvIn angle) {
   const Door door;
-  turn({x, y}, n, turn_of(mode, angle));
+  rotate({x, y}, n, turn_of(mode, angle));
 }

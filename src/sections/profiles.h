@@ -9,7 +9,7 @@
 namespace trelvin {
 
 // Polygons run counter-clockwise, holes too.
-class Outline {
+class Profile {
  public:
   static constexpr std::size_t most_polygons = 3;
   static constexpr std::size_t most_vertices = 20;
@@ -42,17 +42,17 @@ class Outline {
 };
 
 // The dimensions are those of trelvin/sections.h.
-Outline i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
-Outline sideways_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
-Outline t_outline(Real B, Real H, Real TF, Real TW);
-Outline bar_outline(Integer B, Real H);
-Outline covered_i_outline(Real W, Real D, Real P, Real T1, Real T2, Real TW, Real TP);
-Outline box_outline(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G);
-Outline tube_outline(Real B, Real H, Real T);
-Outline twin_angles_outline(Real B, Real H, Real G, Real T, Real TV);
-Outline plate_on_cell_outline(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB);
-Outline two_cell_outline(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF);
-Outline filleted_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
+Profile i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
+Profile sideways_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
+Profile t_profile(Real B, Real H, Real TF, Real TW);
+Profile bar_profile(Integer B, Real H);
+Profile covered_i_profile(Real W, Real D, Real P, Real T1, Real T2, Real TW, Real TP);
+Profile box_profile(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G);
+Profile tube_profile(Real B, Real H, Real T);
+Profile twin_angles_profile(Real B, Real H, Real G, Real T, Real TV);
+Profile plate_on_cell_profile(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB);
+Profile two_cell_profile(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF);
+Profile filleted_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
                            Real E);
 
 // A channel's flange with its lip and the fold at the lip's end.
@@ -60,6 +60,6 @@ struct LippedFlange {
   Real B, C, D;    // lengths of flange, lip and fold
   Real T, TC, TD;  // their thicknesses
 };
-Outline channel_outline(Real H, Real TW, const LippedFlange &bottom, const LippedFlange &top);
+Profile channel_profile(Real H, Real TW, const LippedFlange &bottom, const LippedFlange &top);
 
 }  // namespace trelvin

@@ -1,4 +1,4 @@
-#include "sections/outlines.h"
+#include "sections/profiles.h"
 
 namespace trelvin {
 namespace {
@@ -48,32 +48,32 @@ std::array<Point2, 12> plate_on_legs(const Flange &plate, Real half_width_of_leg
 
 }  // namespace
 
-Outline i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
+Profile i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
   const Real h = 0.5F * H;
   const Real web = 0.5F * TW;
-  Outline outline;
-  outline.solid(i_shape({0.5F * B2, h, h - T2}, -web, web, {0.5F * B1, -h, T1 - h}));
-  return outline;
+  Profile profile;
+  profile.solid(i_shape({0.5F * B2, h, h - T2}, -web, web, {0.5F * B1, -h, T1 - h}));
+  return profile;
 }
 
-Outline sideways_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
+Profile sideways_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
   const Real h = 0.5F * H;
   const Real web = 0.5F * TW;
   const auto upright = i_shape({0.5F * B1, -h, T1 - h}, -web, web, {0.5F * B2, h, h - T2});
   // Reflected in the line x = y, from the last vertex on.
   std::array<Point2, 12> sideways;
   for (std::size_t i = 0; i < 12; ++i) sideways[(i + 1) % 12] = {upright[i].y, upright[i].x};
-  Outline outline;
-  outline.solid(sideways);
-  return outline;
+  Profile profile;
+  profile.solid(sideways);
+  return profile;
 }
 
-Outline t_outline(Real B, Real H, Real TF, Real TW) {
+Profile t_profile(Real B, Real H, Real TF, Real TW) {
   const Real h = 0.5F * H;
   const Real flange = 0.5F * B;
   const Real stem = 0.5F * TW;
-  Outline outline;
-  outline.solid(std::array<Point2, 8>{{{-flange, h},
+  Profile profile;
+  profile.solid(std::array<Point2, 8>{{{-flange, h},
                                        {-flange, h - TF},
                                        {-stem, h - TF},
                                        {-stem, -h},
@@ -81,55 +81,55 @@ Outline t_outline(Real B, Real H, Real TF, Real TW) {
                                        {stem, h - TF},
                                        {flange, h - TF},
                                        {flange, h}}});
-  return outline;
+  return profile;
 }
 
-Outline bar_outline(Integer B, Real H) {
+Profile bar_profile(Integer B, Real H) {
   const Real x = 0.5F * static_cast<Real>(B);
   const Real y = 0.5F * H;
-  Outline bar;
+  Profile bar;
   bar.solid(rectangle(-x, x, y, -y));
   bar.polygon[0].told_vertices = 12;
   return bar;
 }
 
-Outline covered_i_outline(Real W, Real D, Real P, Real T1, Real T2, Real TW, Real TP) {
+Profile covered_i_profile(Real W, Real D, Real P, Real T1, Real T2, Real TW, Real TP) {
   const Real top = 0.5F * (P + TP);
   const Real plate = 0.5F * (P - TP);
   const Real web_bottom = 0.5F * (P - TW) - top;
   const Real web_top = 0.5F * (TW - P) + plate;
   const Real left = T1 - 0.5F * D;
   const Real right = 0.5F * D - T2;
-  Outline outline;
-  outline.solid(plate_on_legs({0.5F * W, top, plate}, 0.5F * D, -top, left, right, web_bottom));
-  outline.hole(rectangle(left, right, plate, web_top));
-  return outline;
+  Profile profile;
+  profile.solid(plate_on_legs({0.5F * W, top, plate}, 0.5F * D, -top, left, right, web_bottom));
+  profile.hole(rectangle(left, right, plate, web_top));
+  return profile;
 }
 
-Outline box_outline(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G) {
+Profile box_profile(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G) {
   const Real h = 0.5F * H;
   const Real under_top = h - TT;
   const Real over_bottom = TB - h;
   const Real left = 0.5F * (BB - 2 * TW - G) - 0.5F * BB;
   const Real right = 0.5F * BT - 0.5F * (BT - 2 * TW - G);
-  Outline outline;
-  outline.solid(i_shape({0.5F * BT, h, under_top}, left, right, {0.5F * BB, -h, over_bottom}));
-  outline.hole(rectangle(-0.5F * G, 0.5F * G, under_top, over_bottom));
-  return outline;
+  Profile profile;
+  profile.solid(i_shape({0.5F * BT, h, under_top}, left, right, {0.5F * BB, -h, over_bottom}));
+  profile.hole(rectangle(-0.5F * G, 0.5F * G, under_top, over_bottom));
+  return profile;
 }
 
-Outline tube_outline(Real B, Real H, Real T) {
+Profile tube_profile(Real B, Real H, Real T) {
   const Real x = 0.5F * B;
   const Real y = 0.5F * H;
   const Real inner_x = 0.5F * (B - 2 * T);
   const Real inner_y = 0.5F * (H - 2 * T);
-  Outline outline;
-  outline.solid(rectangle(-x, x, y, -y));
-  outline.hole(rectangle(-inner_x, inner_x, inner_y, -inner_y));
-  return outline;
+  Profile profile;
+  profile.solid(rectangle(-x, x, y, -y));
+  profile.hole(rectangle(-inner_x, inner_x, inner_y, -inner_y));
+  return profile;
 }
 
-Outline twin_angles_outline(Real B, Real H, Real G, Real T, Real TV) {
+Profile twin_angles_profile(Real B, Real H, Real G, Real T, Real TV) {
   const Real h = 0.5F * H;
   const Real g = 0.5F * G;
   const Real outer = (2 * B + G) * 0.5F;
@@ -139,26 +139,26 @@ Outline twin_angles_outline(Real B, Real H, Real G, Real T, Real TV) {
       {{-outer, h}, {-outer, under}, {-inner, under}, {-inner, -h}, {-g, -h}, {-g, h}}};
   const std::array<Point2, 6> right = {
       {{g, h}, {g, -h}, {inner, -h}, {inner, under}, {outer, under}, {outer, h}}};
-  Outline outline;
-  outline.solid(left);
-  outline.solid(right);
-  return outline;
+  Profile profile;
+  profile.solid(left);
+  profile.solid(right);
+  return profile;
 }
 
-Outline plate_on_cell_outline(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB) {
+Profile plate_on_cell_profile(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB) {
   const Real h = (H + T) * 0.5F;
   const Real under_top = h - T;
   const Real under_bottom = h - H - T + E;
   const Real over_bottom = E - h + TB;
   const Real left = -0.5F * BW + TW;
   const Real right = 0.5F * BW - TW;
-  Outline outline;
-  outline.solid(plate_on_legs({0.5F * B, h, under_top}, 0.5F * BW, -h, left, right, under_bottom));
-  outline.hole(rectangle(left, right, under_top, over_bottom));
-  return outline;
+  Profile profile;
+  profile.solid(plate_on_legs({0.5F * B, h, under_top}, 0.5F * BW, -h, left, right, under_bottom));
+  profile.hole(rectangle(left, right, under_top, over_bottom));
+  return profile;
 }
 
-Outline two_cell_outline(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF) {
+Profile two_cell_profile(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF) {
   const Real outer = (2 * TF + HI) * 0.5F;
   const Real inner = outer - TF;
   const Real cell = HI * 0.5F;  // `inner` but for rounding; both forms stay
@@ -166,20 +166,20 @@ Outline two_cell_outline(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, R
   const Real web = 0.5F * W;
   const Real left = TW1 - web;
   const Real right = web - TW2;
-  Outline outline;
-  outline.solid(i_shape({0.5F * B, outer, inner}, -web, web, {0.5F * B, -outer, -inner}));
-  outline.hole(rectangle(left, right, cell, middle));
-  outline.hole(rectangle(left, right, -middle, -cell));
-  return outline;
+  Profile profile;
+  profile.solid(i_shape({0.5F * B, outer, inner}, -web, web, {0.5F * B, -outer, -inner}));
+  profile.hole(rectangle(left, right, cell, middle));
+  profile.hole(rectangle(left, right, -middle, -cell));
+  return profile;
 }
 
-Outline filleted_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
+Profile filleted_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
                            Real E) {
   const Real h = 0.5F * H;
   const Real left = E - 0.5F * TW;
   const Real right = E + 0.5F * TW;
-  Outline outline;
-  outline.solid(std::array<Point2, 16>{{{-0.5F * B2, h},
+  Profile profile;
+  profile.solid(std::array<Point2, 16>{{{-0.5F * B2, h},
                                         {-0.5F * B2, h - T2},
                                         {left - S2, h - T2},
                                         {left, h - T2 - S2},
@@ -195,7 +195,7 @@ Outline filleted_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, 
                                         {right + S2, h - T2},
                                         {0.5F * B2, h - T2},
                                         {0.5F * B2, h}}});
-  return outline;
+  return profile;
 }
 
 namespace {
@@ -216,13 +216,13 @@ Edge edge_of(const LippedFlange &f) {
 
 }  // namespace
 
-Outline channel_outline(Real H, Real TW, const LippedFlange &bottom, const LippedFlange &top) {
+Profile channel_profile(Real H, Real TW, const LippedFlange &bottom, const LippedFlange &top) {
   const Real h = 0.5F * H;
   const Real left = -0.5F * (bottom.B > top.B ? bottom.B : top.B);
   const Edge e1 = edge_of(bottom);
   const Edge e2 = edge_of(top);
-  Outline outline;
-  outline.solid(std::array<Point2, 16>{{{left, -h},
+  Profile profile;
+  profile.solid(std::array<Point2, 16>{{{left, -h},
                                         {left + e1.face, -h},
                                         {left + e1.face, e1.lip_end - h},
                                         {left + e1.fold, e1.lip_end - h},
@@ -238,7 +238,7 @@ Outline channel_outline(Real H, Real TW, const LippedFlange &bottom, const Lippe
                                         {left + e2.face, h - e2.lip_end},
                                         {left + e2.face, h},
                                         {left, h}}});
-  return outline;
+  return profile;
 }
 
 }  // namespace trelvin
