@@ -51,9 +51,7 @@ std::array<Point2, 12> plate_on_legs(const Flange &plate, Real half_width_of_leg
 Profile i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
   const Real h = 0.5F * H;
   const Real web = 0.5F * TW;
-  Profile profile;
-  profile.solid(i_shape({0.5F * B2, h, h - T2}, -web, web, {0.5F * B1, -h, T1 - h}));
-  return profile;
+  return Profile(i_shape({0.5F * B2, h, h - T2}, -web, web, {0.5F * B1, -h, T1 - h}));
 }
 
 Profile sideways_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) {
@@ -63,32 +61,27 @@ Profile sideways_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW) 
   // Reflected in the line x = y, from the last vertex on.
   std::array<Point2, 12> sideways;
   for (std::size_t i = 0; i < 12; ++i) sideways[(i + 1) % 12] = {upright[i].y, upright[i].x};
-  Profile profile;
-  profile.solid(sideways);
-  return profile;
+  return Profile(sideways);
 }
 
 Profile t_profile(Real B, Real H, Real TF, Real TW) {
   const Real h = 0.5F * H;
   const Real flange = 0.5F * B;
   const Real stem = 0.5F * TW;
-  Profile profile;
-  profile.solid(std::array<Point2, 8>{{{-flange, h},
-                                       {-flange, h - TF},
-                                       {-stem, h - TF},
-                                       {-stem, -h},
-                                       {stem, -h},
-                                       {stem, h - TF},
-                                       {flange, h - TF},
-                                       {flange, h}}});
-  return profile;
+  return Profile(std::array<Point2, 8>{{{-flange, h},
+                                        {-flange, h - TF},
+                                        {-stem, h - TF},
+                                        {-stem, -h},
+                                        {stem, -h},
+                                        {stem, h - TF},
+                                        {flange, h - TF},
+                                        {flange, h}}});
 }
 
 Profile bar_profile(Integer B, Real H) {
   const Real x = 0.5F * static_cast<Real>(B);
   const Real y = 0.5F * H;
-  Profile bar;
-  bar.solid(rectangle(-x, x, y, -y));
+  Profile bar(rectangle(-x, x, y, -y));
   bar.polygon[0].told_vertices = 12;
   return bar;
 }
@@ -100,8 +93,7 @@ Profile covered_i_profile(Real W, Real D, Real P, Real T1, Real T2, Real TW, Rea
   const Real web_top = 0.5F * (TW - P) + plate;
   const Real left = T1 - 0.5F * D;
   const Real right = 0.5F * D - T2;
-  Profile profile;
-  profile.solid(plate_on_legs({0.5F * W, top, plate}, 0.5F * D, -top, left, right, web_bottom));
+  Profile profile(plate_on_legs({0.5F * W, top, plate}, 0.5F * D, -top, left, right, web_bottom));
   profile.hole(rectangle(left, right, plate, web_top));
   return profile;
 }
@@ -112,8 +104,7 @@ Profile box_profile(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G)
   const Real over_bottom = TB - h;
   const Real left = 0.5F * (BB - 2 * TW - G) - 0.5F * BB;
   const Real right = 0.5F * BT - 0.5F * (BT - 2 * TW - G);
-  Profile profile;
-  profile.solid(i_shape({0.5F * BT, h, under_top}, left, right, {0.5F * BB, -h, over_bottom}));
+  Profile profile(i_shape({0.5F * BT, h, under_top}, left, right, {0.5F * BB, -h, over_bottom}));
   profile.hole(rectangle(-0.5F * G, 0.5F * G, under_top, over_bottom));
   return profile;
 }
@@ -123,8 +114,7 @@ Profile tube_profile(Real B, Real H, Real T) {
   const Real y = 0.5F * H;
   const Real inner_x = 0.5F * (B - 2 * T);
   const Real inner_y = 0.5F * (H - 2 * T);
-  Profile profile;
-  profile.solid(rectangle(-x, x, y, -y));
+  Profile profile(rectangle(-x, x, y, -y));
   profile.hole(rectangle(-inner_x, inner_x, inner_y, -inner_y));
   return profile;
 }
@@ -139,8 +129,7 @@ Profile twin_angles_profile(Real B, Real H, Real G, Real T, Real TV) {
       {{-outer, h}, {-outer, under}, {-inner, under}, {-inner, -h}, {-g, -h}, {-g, h}}};
   const std::array<Point2, 6> right = {
       {{g, h}, {g, -h}, {inner, -h}, {inner, under}, {outer, under}, {outer, h}}};
-  Profile profile;
-  profile.solid(left);
+  Profile profile(left);
   profile.solid(right);
   return profile;
 }
@@ -152,8 +141,8 @@ Profile plate_on_cell_profile(Real B, Real H, Real BW, Real E, Real T, Real TW, 
   const Real over_bottom = E - h + TB;
   const Real left = -0.5F * BW + TW;
   const Real right = 0.5F * BW - TW;
-  Profile profile;
-  profile.solid(plate_on_legs({0.5F * B, h, under_top}, 0.5F * BW, -h, left, right, under_bottom));
+  Profile profile(
+      plate_on_legs({0.5F * B, h, under_top}, 0.5F * BW, -h, left, right, under_bottom));
   profile.hole(rectangle(left, right, under_top, over_bottom));
   return profile;
 }
@@ -166,8 +155,7 @@ Profile two_cell_profile(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, R
   const Real web = 0.5F * W;
   const Real left = TW1 - web;
   const Real right = web - TW2;
-  Profile profile;
-  profile.solid(i_shape({0.5F * B, outer, inner}, -web, web, {0.5F * B, -outer, -inner}));
+  Profile profile(i_shape({0.5F * B, outer, inner}, -web, web, {0.5F * B, -outer, -inner}));
   profile.hole(rectangle(left, right, cell, middle));
   profile.hole(rectangle(left, right, -middle, -cell));
   return profile;
@@ -178,24 +166,22 @@ Profile filleted_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, 
   const Real h = 0.5F * H;
   const Real left = E - 0.5F * TW;
   const Real right = E + 0.5F * TW;
-  Profile profile;
-  profile.solid(std::array<Point2, 16>{{{-0.5F * B2, h},
-                                        {-0.5F * B2, h - T2},
-                                        {left - S2, h - T2},
-                                        {left, h - T2 - S2},
-                                        {left, T1 - h + S1},
-                                        {left - S1, T1 - h},
-                                        {-0.5F * B1, T1 - h},
-                                        {-0.5F * B1, -h},
-                                        {0.5F * B1, -h},
-                                        {0.5F * B1, T1 - h},
-                                        {right + S1, T1 - h},
-                                        {right, T1 - h + S1},
-                                        {right, h - T2 - S2},
-                                        {right + S2, h - T2},
-                                        {0.5F * B2, h - T2},
-                                        {0.5F * B2, h}}});
-  return profile;
+  return Profile(std::array<Point2, 16>{{{-0.5F * B2, h},
+                                         {-0.5F * B2, h - T2},
+                                         {left - S2, h - T2},
+                                         {left, h - T2 - S2},
+                                         {left, T1 - h + S1},
+                                         {left - S1, T1 - h},
+                                         {-0.5F * B1, T1 - h},
+                                         {-0.5F * B1, -h},
+                                         {0.5F * B1, -h},
+                                         {0.5F * B1, T1 - h},
+                                         {right + S1, T1 - h},
+                                         {right, T1 - h + S1},
+                                         {right, h - T2 - S2},
+                                         {right + S2, h - T2},
+                                         {0.5F * B2, h - T2},
+                                         {0.5F * B2, h}}});
 }
 
 namespace {
@@ -221,24 +207,22 @@ Profile channel_profile(Real H, Real TW, const LippedFlange &bottom, const Lippe
   const Real left = -0.5F * (bottom.B > top.B ? bottom.B : top.B);
   const Edge e1 = edge_of(bottom);
   const Edge e2 = edge_of(top);
-  Profile profile;
-  profile.solid(std::array<Point2, 16>{{{left, -h},
-                                        {left + e1.face, -h},
-                                        {left + e1.face, e1.lip_end - h},
-                                        {left + e1.fold, e1.lip_end - h},
-                                        {left + e1.fold, e1.fold_inside - h},
-                                        {left + e1.lip, e1.fold_inside - h},
-                                        {left + e1.lip, bottom.T - h},
-                                        {left + TW, bottom.T - h},
-                                        {left + TW, h - top.T},
-                                        {left + e2.lip, h - top.T},
-                                        {left + e2.lip, h - e2.fold_inside},
-                                        {left + e2.fold, h - e2.fold_inside},
-                                        {left + e2.fold, h - e2.lip_end},
-                                        {left + e2.face, h - e2.lip_end},
-                                        {left + e2.face, h},
-                                        {left, h}}});
-  return profile;
+  return Profile(std::array<Point2, 16>{{{left, -h},
+                                         {left + e1.face, -h},
+                                         {left + e1.face, e1.lip_end - h},
+                                         {left + e1.fold, e1.lip_end - h},
+                                         {left + e1.fold, e1.fold_inside - h},
+                                         {left + e1.lip, e1.fold_inside - h},
+                                         {left + e1.lip, bottom.T - h},
+                                         {left + TW, bottom.T - h},
+                                         {left + TW, h - top.T},
+                                         {left + e2.lip, h - top.T},
+                                         {left + e2.lip, h - e2.fold_inside},
+                                         {left + e2.fold, h - e2.fold_inside},
+                                         {left + e2.fold, h - e2.lip_end},
+                                         {left + e2.face, h - e2.lip_end},
+                                         {left + e2.face, h},
+                                         {left, h}}});
 }
 
 }  // namespace trelvin

@@ -25,6 +25,11 @@ class Profile {
   std::array<Point2, most_vertices> vertex;
 
   template <std::size_t n>
+  explicit Profile(const std::array<Point2, n> &corners) {
+    solid(corners);
+  }
+
+  template <std::size_t n>
   void solid(const std::array<Point2, n> &corners) {
     add(corners, false);
   }
