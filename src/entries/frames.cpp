@@ -5,7 +5,7 @@
 #include "space/planes.h"
 #include "space/transformations.h"
 #include "vectors/three_points.h"
-#include "vectors/transforms.h"
+#include "vectors/turns.h"
 
 using namespace trelvin;
 

@@ -11,7 +11,6 @@
 #include "space/planes.h"
 #include "space/points_on_lines.h"
 #include "vectors/angles.h"
-#include "vectors/transforms.h"
 
 using namespace trelvin;
 

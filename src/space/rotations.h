@@ -2,7 +2,7 @@
 #pragma once
 
 #include "numeric/processor.h"
-#include "vectors/transforms.h"
+#include "vectors/turns.h"
 
 namespace trelvin {
 

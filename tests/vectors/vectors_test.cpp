@@ -1,4 +1,5 @@
 #include "support.h"
+#include "trelvin/frames.h"
 #include "trelvin/plane.h"
 
 using namespace trelvin_test;
@@ -62,4 +63,13 @@ TEST(Vectors, SignOfAValue) {
   EXPECT_EQ(outputs(trvvin, -1, 1e-40F, not_a_number, -1, -1), Values{TRVVIN_POSITIVE});
   for (const float v : {0.0F, -1.0F, not_a_number})
     EXPECT_EQ(outputs(trvvin, 1, v, 1, 1, 1), Values{TRVVIN_NOT_POSITIVE});
+}
+
+TEST(Vectors, NewOriginMayBeOneOfThePoints) {
+  float x[] = {1, 2, 4}, y[] = {5, 7, 9}, z[] = {3, 4, 8};
+  trvtra(x, y, 3, x[0], y[1]);
+  trv3tra(x, y, z, 2, x[1], y[0], z[0]);
+  EXPECT_EQ(Values(x, x + 3), (Values{-1, 0, 3}));
+  EXPECT_EQ(Values(y, y + 3), (Values{0, 2, 2}));
+  EXPECT_EQ(Values(z, z + 3), (Values{0, 1, 8}));
 }
