@@ -132,28 +132,16 @@ TEST(Profiles, ISectionWithAMovedWebAndFillets) {
 }
 
 TEST(Profiles, ChannelsWithLipsAndFolds) {
-  Profile(trvsec_c, 200.F, 80.F, 60.F, 25.F, 20.F, 12.F, 10.F, 3.F, 4.F, 5.F, 2.F, 2.5F, 1.5F, 2.F,
-          q)
-      .expect({16}, bits(q),
-              {{3, 191, -38.5, -0.5},
-               {80, 4, 0, -98},
-               {60, 5, -10, 97.5},
-               {2, 21, 39, -85.5},
-               {2.5, 15, 18.75, 87.5},
-               {10, 1.5, 33, -75.75},
-               {7.5, 2, 13.75, 81}},
-              {{1, -40, -100}, {3, 40, -75}, {9, -37, 95}});
+  const auto channel = [](float fold) {
+    return Profile(trvsec_c, 200.F, 80.F, 60.F, 25.F, 20.F, fold, 10.F, 3.F, 4.F, 5.F, 2.F, 2.5F,
+                   1.5F, 2.F, q);
+  };
+  std::vector<Plate> plates = {{3, 191, -38.5, -0.5}, {80, 4, 0, -98},        {60, 5, -10, 97.5},
+                               {2, 21, 39, -85.5},    {2.5, 15, 18.75, 87.5}, {7.5, 2, 13.75, 81}};
   // A fold as long as its lip is thick is none, nor is a lip as long as its flange is thick.
-  Profile(trvsec_c, 200.F, 80.F, 60.F, 25.F, 20.F, 2.F, 10.F, 3.F, 4.F, 5.F, 2.F, 2.5F, 1.5F, 2.F,
-          q)
-      .expect({16}, bits(q),
-              {{3, 191, -38.5, -0.5},
-               {80, 4, 0, -98},
-               {60, 5, -10, 97.5},
-               {2, 21, 39, -85.5},
-               {2.5, 15, 18.75, 87.5},
-               {7.5, 2, 13.75, 81}},
-              {{5, 38, -75}});
+  channel(2).expect({16}, bits(q), plates, {{5, 38, -75}});
+  plates.push_back({10, 1.5, 33, -75.75});
+  channel(12).expect({16}, bits(q), plates, {{1, -40, -100}, {3, 40, -75}, {9, -37, 95}});
   Profile(trvsec_c, 200.F, 60.F, 80.F, 4.F, 0.F, 12.F, 10.F, 3.F, 4.F, 5.F, 2.F, 2.5F, 1.5F, 2.F, q)
       .expect({16}, bits(q), {{3, 191, -38.5, -0.5}, {60, 4, -10, -98}, {80, 5, 0, 97.5}}, {});
 }
