@@ -165,7 +165,7 @@ class Size:
     scratch: str = ""  # the output up to which elements behind those used may be written too
 
     def cpp(self, positions):
-        """C++ expressions: `count(i)` is the Integer argument i."""
+        """C++ expressions: `of.count(i)` is the Integer argument i."""
         return [_Expression(size, positions).translate() for size in self.sizes]
 
 
@@ -228,9 +228,9 @@ class _Expression:
             self._take(",")
             right = self._sum()
             self._take(")")
-            return f"larger({left}, {right})"
+            return f"of.larger({left}, {right})"
         if token in self.positions:
-            return f"count({self.positions[token]})"
+            return f"of.count({self.positions[token]})"
         raise Unreadable(f"{self.text}: {token} is no Integer argument")
 
 
@@ -419,11 +419,11 @@ def read():
     """The interface, with what is wrong in it."""
     texts = {header.stem: header.read_text() for header in sorted(INTERFACE.glob("*.h"))}
     order = [name for header in _includes(texts["trelvin"])
-             for name in [header, *_includes(texts.get(header, ""))]]  # fmt: skip
+             for name in [header, *_includes(texts.get(header, ""))]]
     version = re.search(r'#define TRELVIN_VERSION "(.*)"', texts["calling"])[1]
     families = [name for name in texts if "TRELVIN_ROUTINE trv" in texts[name]]
     missing = [f"include/trelvin/{n}.h: trelvin.h does not include it" for n in families
-               if n not in order]  # fmt: skip
+               if n not in order]
     families.sort(key=lambda name: order.index(name) if name in order else len(order))
     interface = interface_of(texts["values"], {name: texts[name] for name in families}, version)
     interface.faults += missing
