@@ -51,8 +51,9 @@ class Printer {
   }
 
   void print_total(const std::string &name, std::uint64_t hash) {
+    const int before = differing_;
     print(name, hash);
-    if (check_) std::printf("%s %016" PRIx64 "\n", name.c_str(), hash);
+    if (check_ && differing_ == before) std::printf("%s %016" PRIx64 "\n", name.c_str(), hash);
   }
 
   [[nodiscard]] bool all_agree() const { return differing_ == 0; }

@@ -66,7 +66,7 @@ def first_difference(routine, got, expected):
 
 def tell(routine, command):
     other, whose = {}, "the native build"
-    if Path(command[-1]) == NATIVE:
+    if Path(command[-1]).resolve() == NATIVE:
         whose = os.environ.get("TRELVIN_BEFORE", "the last commit")
         other = {"LD_LIBRARY_PATH": library_before()}
     got, expected = lines(command, routine)[0], lines([NATIVE], routine, **other)[0]
