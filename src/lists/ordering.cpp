@@ -31,8 +31,8 @@ void selection_sort(Real *list, Integer n) {
 //
 // The swaps carry entries past equal ones, so which zero is found when is known only by following
 // them: a heap holds where each entry up to zero is, the smallest and of those the last on top.
-Integer select_up_to_zero(Real *list, Integer n, Placed *heap) {
-  const auto entry_at = [&](Integer i) { return placed(~key_of_magnitude(list[i]), i); };
+Integer select_up_to_zero(Real *list, Integer n, SortWord *heap) {
+  const auto entry_at = [&](Integer i) { return sort_word(~key_with_one_zero(list[i]), i); };
   Integer size = 0;
   for (Integer i = 0; i < n; ++i) {
     if (list[i] <= 0) heap[size++] = entry_at(i);
@@ -40,10 +40,10 @@ Integer select_up_to_zero(Real *list, Integer n, Placed *heap) {
   std::make_heap(heap, heap + size);
   Integer i = 0;
   for (;; ++i) {
-    while (size > 0 && position_of(heap[0]) < i) std::pop_heap(heap, heap + size--);  // moved since
+    while (size > 0 && position_in(heap[0]) < i) std::pop_heap(heap, heap + size--);  // moved since
     if (size == 0) return i;
     if (std::isnan(list[i])) continue;
-    const Integer place = position_of(heap[0]);
+    const Integer place = position_in(heap[0]);
     std::pop_heap(heap, heap + size--);
     if (place == i) continue;
     std::swap(list[i], list[place]);
@@ -86,7 +86,7 @@ void sort_selecting(Real *list, Integer n) {
     if (list[i] == 0) (std::signbit(list[i]) ? negative_zero : zero) = true;
   }
   if (zero && negative_zero) {
-    const auto heap = work_array<Placed>(static_cast<std::uint64_t>(n));
+    const auto heap = work_array<SortWord>(static_cast<std::uint64_t>(n));
     if (!heap) {
       selection_sort(list, n);
       return;
@@ -135,20 +135,22 @@ constexpr Integer room_on_stack = 512;
 class Ascending {
  public:
   // The work array has place for twice the room.
-  Ascending(Entries list, Integer n, Placed *work, Integer room)
+  Ascending(Entries list, Integer n, SortWord *work, Integer room)
       : list_(list), n_(n), halves_{work, work + room}, room_(room) {}
 
   // The position of the next number, from 0. There must be one.
   Integer next() {
     if (given_ == fetched_) fetch();
     last_ = next_[given_++];
-    return ~position_of(last_);
+    return ~position_in(last_);
   }
 
   [[nodiscard]] bool has_given(Integer i) const { return entry(i) <= last_; }
 
  private:
-  [[nodiscard]] Placed entry(Integer i) const { return placed(key_of_magnitude(list_[i]), ~i); }
+  [[nodiscard]] SortWord entry(Integer i) const {
+    return sort_word(key_with_one_zero(list_[i]), ~i);
+  }
 
   void fetch() {
     given_ = 0;
@@ -165,7 +167,7 @@ class Ascending {
 
   // A heap holds the smallest found so far, the largest of those on top.
   void fetch_smallest() {
-    Placed *const heap = halves_[0];
+    SortWord *const heap = halves_[0];
     for (Integer i = 0; i < n_; ++i) {
       if (std::isnan(list_[i]) || has_given(i)) continue;
       if (fetched_ < room_) {
@@ -184,21 +186,21 @@ class Ascending {
 
   Entries list_;
   Integer n_;
-  Placed *halves_[2];
+  SortWord *halves_[2];
   Integer room_;
-  const Placed *next_ = nullptr;
+  const SortWord *next_ = nullptr;
   Integer fetched_ = 0;
   Integer given_ = 0;
-  Placed last_ = 0;  // less than the entry of any number
+  SortWord last_ = 0;  // less than the entry of any number
 };
 
 }  // namespace
 
 void order(Entries list, Integer n, Integer *positions) {
   if (n < 1) return;
-  Placed on_stack[2 * room_on_stack];
+  SortWord on_stack[2 * room_on_stack];
   const auto on_heap =
-      n > room_on_stack ? work_array<Placed>(2 * static_cast<std::uint64_t>(n)) : nullptr;
+      n > room_on_stack ? work_array<SortWord>(2 * static_cast<std::uint64_t>(n)) : nullptr;
   Ascending numbers(list, n, on_heap ? on_heap.get() : on_stack, on_heap ? n : room_on_stack);
 
   Real largest = list[0];

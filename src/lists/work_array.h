@@ -1,7 +1,6 @@
 // Memory for the length of a call.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -22,9 +21,8 @@ template <class Element>
 WorkArray<Element> work_array(std::uint64_t size) {
   static_assert(std::is_trivial_v<Element>);
   if (size > SIZE_MAX / sizeof(Element)) return nullptr;
-  const std::size_t bytes =
-      static_cast<std::size_t>(std::max(size, std::uint64_t{1})) * sizeof(Element);
-  return WorkArray<Element>(static_cast<Element *>(std::malloc(bytes)));
+  void *const memory = std::malloc(static_cast<std::size_t>(size) * sizeof(Element));
+  return WorkArray<Element>(static_cast<Element *>(memory));
 }
 
 }  // namespace trelvin
