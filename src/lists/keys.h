@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 #include "numeric/bits.h"
@@ -14,17 +13,14 @@ namespace trelvin {
 using Key = std::uint32_t;
 
 inline Key key_of(Integer value) { return static_cast<Key>(value) ^ sign_mask; }
-inline Integer integer_of(Key key) { return static_cast<Integer>(key ^ sign_mask); }
-
-// -0 comes just before 0.
-inline Key key_of(Real value) {
+inline Key key_of(Real value) {  // -0 comes just before 0
   const Key bits = bits_of(value);
   return bits ^ ((bits & sign_mask) != 0 ? ~Key{0} : sign_mask);
 }
 
-inline Real real_of_key(Key key) {
-  const Key bits = key ^ ((key & sign_mask) != 0 ? sign_mask : ~Key{0});
-  return real_of(bits);
+inline void set_by_key(Integer &value, Key key) { value = static_cast<Integer>(key ^ sign_mask); }
+inline void set_by_key(Real &value, Key key) {
+  value = real_of(key ^ ((key & sign_mask) != 0 ? sign_mask : ~Key{0}));
 }
 
 inline Key key_with_one_zero(Real value) { return key_of(value + 0.0F); }

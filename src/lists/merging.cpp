@@ -46,8 +46,9 @@ namespace {
 // Sorts by key. Without room to spare it takes longer.
 template <class Word>
 const Word *sort_words(Word *words, Word *spare, Integer n, int lowest_bit) {
-  if (spare != nullptr)
+  if (spare != nullptr) {
     return sort_by_digits(words, spare, static_cast<std::size_t>(n), lowest_bit);
+  }
   std::sort(words, words + n);
   return words;
 }
@@ -94,28 +95,25 @@ struct Workspace {
 Integer choose(bool wanted, const Integer *a, Integer na, const Integer *b, Integer nb,
                Integer *chosen) {
   constexpr Integer block = 512;
+  SortWord block_a[block];
+  Key block_b[block];
+  bool held_in_block[block];
+  Workspace work = {block_a, nullptr, block_b, nullptr, held_in_block, block, block};
+  WorkArray<SortWord> whole_a;
+  WorkArray<Key> whole_b;
+  WorkArray<bool> held;
   if (na > block || nb > block) {
     const auto size_a = static_cast<std::uint64_t>(std::max(na, 0));
     const auto size_b = static_cast<std::uint64_t>(std::max(nb, 0));
-    const auto work_a = work_array<SortWord>(2 * size_a);
-    const auto work_b = work_array<Key>(2 * size_b);
-    const auto held = work_array<bool>(size_a);
-    if (work_a && work_b && held) {
-      const Workspace whole = {work_a.get(),
-                               work_a.get() + size_a,
-                               work_b.get(),
-                               work_b.get() + size_b,
-                               held.get(),
-                               na,
-                               nb};
-      return whole.choose(wanted, a, na, b, nb, chosen);
-    }
+    whole_a = work_array<SortWord>(2 * size_a);
+    whole_b = work_array<Key>(2 * size_b);
+    held = work_array<bool>(size_a);
   }
-  SortWord block_a[block];
-  Key block_b[block];
-  bool held[block];
-  const Workspace blocks = {block_a, nullptr, block_b, nullptr, held, block, block};
-  return blocks.choose(wanted, a, na, b, nb, chosen);
+  if (whole_a && whole_b && held) {
+    work = {
+        whole_a.get(), whole_a.get() + na, whole_b.get(), whole_b.get() + nb, held.get(), na, nb};
+  }
+  return work.choose(wanted, a, na, b, nb, chosen);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 
 #include "lists/keys.h"
 #include "lists/work_array.h"
-#include "plane/lines.h"
 
 namespace trelvin {
 namespace {
@@ -29,8 +28,9 @@ void selection_sort(Real *list, Integer n) {
 
 // The first steps of the selection sort, until no entry up to zero is left. Returns their number.
 //
-// The swaps carry entries past equal ones, so which zero is found when is known only by following
-// them: a heap holds where each entry up to zero is, the smallest and of those the last on top.
+// The swaps can move an entry past an equal one, so only by following them is it known which zero is
+// found when. A heap holds where each entry up to zero is: the smallest on top, and of equal ones the
+// last.
 Integer select_up_to_zero(Real *list, Integer n, SortWord *heap) {
   const auto entry_at = [&](Integer i) { return sort_word(~key_with_one_zero(list[i]), i); };
   Integer size = 0;
@@ -54,21 +54,34 @@ Integer select_up_to_zero(Real *list, Integer n, SortWord *heap) {
   }
 }
 
-constexpr auto is_before = [](Real a, Real b) { return key_of(a) < key_of(b); };
+constexpr auto is_before = [](auto a, auto b) { return key_of(a) < key_of(b); };
 
-// Sorts what is no NaN across the NaNs, which stay. False where memory is short.
-bool sort_around_nans(Real *list, Integer n) {
+bool is_number(Real value) { return !std::isnan(value); }
+bool is_number(Integer) { return true; }
+
+// Sorts the numbers across the NaNs, which stay. False if memory is short.
+template <class Value>
+bool sort_numbers(Value *list, Integer n) {
   const auto work = work_array<Key>(2 * static_cast<std::uint64_t>(n));
   if (!work) return false;
   std::size_t numbers = 0;
   for (Integer i = 0; i < n; ++i) {
-    if (!std::isnan(list[i])) work[numbers++] = key_of(list[i]);
+    if (is_number(list[i])) work[numbers++] = key_of(list[i]);
   }
   const Key *sorted = sort_by_digits(work.get(), work.get() + numbers, numbers, 0);
   for (Integer i = 0; i < n; ++i) {
-    if (!std::isnan(list[i])) list[i] = real_of_key(*sorted++);
+    if (is_number(list[i])) set_by_key(list[i], *sorted++);
   }
   return true;
+}
+
+template <class Value>
+void sort_with_nans_last(Value *list, Integer n) {
+  if (n < 2) return;
+  Value *const end = std::partition(list, list + n, [](Value value) { return is_number(value); });
+  const auto numbers = static_cast<Integer>(end - list);
+  if (std::is_sorted(list, end, is_before)) return;
+  if (numbers <= short_list || !sort_numbers(list, numbers)) std::sort(list, end, is_before);
 }
 
 }  // namespace
@@ -95,7 +108,7 @@ void sort_selecting(Real *list, Integer n) {
     list += done;
     n -= done;
   }
-  if ((!nan && std::is_sorted(list, list + n)) || sort_around_nans(list, n)) return;
+  if ((!nan && std::is_sorted(list, list + n)) || sort_numbers(list, n)) return;
   if (nan) {
     selection_sort(list, n);
   } else {
@@ -103,26 +116,8 @@ void sort_selecting(Real *list, Integer n) {
   }
 }
 
-void sort(Integer *list, Integer n) {
-  if (n < 2 || std::is_sorted(list, list + n)) return;
-  const auto size = static_cast<std::size_t>(n);
-  const auto work = n > short_list ? work_array<Key>(2 * std::uint64_t{size}) : nullptr;
-  if (!work) {
-    std::sort(list, list + n);
-    return;
-  }
-  std::transform(list, list + n, work.get(), [](Integer value) { return key_of(value); });
-  const Key *sorted = sort_by_digits(work.get(), work.get() + size, size, 0);
-  std::transform(sorted, sorted + size, list, integer_of);
-}
-
-void sort(Real *list, Integer n) {
-  if (n < 2) return;
-  Real *const end = std::partition(list, list + n, [](Real v) { return !std::isnan(v); });
-  const auto numbers = static_cast<Integer>(end - list);
-  if (std::is_sorted(list, end, is_before)) return;
-  if (numbers <= short_list || !sort_around_nans(list, numbers)) std::sort(list, end, is_before);
-}
+void sort(Integer *list, Integer n) { sort_with_nans_last(list, n); }
+void sort(Real *list, Integer n) { sort_with_nans_last(list, n); }
 
 namespace {
 
@@ -230,17 +225,15 @@ void order(Entries list, Integer n, Integer *positions) {
 }
 
 bool parallel_and_distinct(const LineArrays &lines, Integer n) {
-  const auto line = [&](Integer i) { return Line{lines.a[i], lines.b[i], lines.c[i]}; };
   for (Integer i = 1; i < n; ++i) {
-    if (intersect(line(0), line(i)).relation != LineRelation::parallel) return false;
+    if (intersect(lines[0], lines[i]).relation != LineRelation::parallel) return false;
   }
   return true;
 }
 
 void order_parallels(const LineArrays &lines, Integer n, Integer *positions) {
   const Line y_axis = {1, 0, 0};
-  const Line first = {lines.a[0], lines.b[0], lines.c[0]};
-  const bool clear_of_axis = intersect(first, y_axis).relation == LineRelation::parallel;
+  const bool clear_of_axis = intersect(lines[0], y_axis).relation == LineRelation::parallel;
   order(Entries{lines.c, clear_of_axis ? lines.a : lines.b}, n, positions);
 }
 
