@@ -77,19 +77,6 @@ struct Workspace {
       }
     }
   }
-
-  Integer choose(bool wanted, const Integer *list_a, Integer na, const Integer *list_b, Integer nb,
-                 Integer *chosen) const {
-    Integer count = 0;
-    for (Integer start = 0, n = 0; start < na; start += n) {
-      n = std::min(size_a, na - start);
-      mark_held(list_a + start, n, list_b, nb);
-      for (Integer i = 0; i < n; ++i) {
-        if (held[i] == wanted) chosen[count++] = list_a[start + i];
-      }
-    }
-    return count;
-  }
 };
 
 Integer choose(bool wanted, const Integer *a, Integer na, const Integer *b, Integer nb,
@@ -113,7 +100,16 @@ Integer choose(bool wanted, const Integer *a, Integer na, const Integer *b, Inte
     work = {
         whole_a.get(), whole_a.get() + na, whole_b.get(), whole_b.get() + nb, held.get(), na, nb};
   }
-  return work.choose(wanted, a, na, b, nb, chosen);
+
+  Integer count = 0;
+  for (Integer start = 0, n = 0; start < na; start += n) {
+    n = std::min(work.size_a, na - start);
+    work.mark_held(a + start, n, b, nb);
+    for (Integer i = 0; i < n; ++i) {
+      if (work.held[i] == wanted) chosen[count++] = a[start + i];
+    }
+  }
+  return count;
 }
 
 }  // namespace

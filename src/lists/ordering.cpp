@@ -131,7 +131,7 @@ class Ascending {
  public:
   // The work array has place for twice the room.
   Ascending(Entries list, Integer n, SortWord *work, Integer room)
-      : list_(list), n_(n), halves_{work, work + room}, room_(room) {}
+      : list_(list), n_(n), words_(work), room_(room) {}
 
   // The position of the next number, from 0. There must be one.
   Integer next() {
@@ -147,41 +147,32 @@ class Ascending {
     return sort_word(key_with_one_zero(list_[i]), ~i);
   }
 
+  // The smallest are in a heap as soon as there is no room for more, the largest of them on top.
   void fetch() {
     given_ = 0;
     fetched_ = 0;
-    if (room_ >= n_) {
-      for (Integer i = n_; i-- > 0;) {
-        if (!std::isnan(list_[i])) halves_[0][fetched_++] = entry(i);
-      }
-      next_ = sort_by_digits(halves_[0], halves_[1], static_cast<std::size_t>(fetched_), 32);
-    } else {
-      fetch_smallest();
-    }
-  }
-
-  // A heap holds the smallest found so far, the largest of those on top.
-  void fetch_smallest() {
-    SortWord *const heap = halves_[0];
-    for (Integer i = 0; i < n_; ++i) {
+    for (Integer i = n_; i-- > 0;) {
       if (std::isnan(list_[i]) || has_given(i)) continue;
       if (fetched_ < room_) {
-        heap[fetched_++] = entry(i);
-      } else if (entry(i) < heap[0]) {
-        std::pop_heap(heap, heap + fetched_);
-        heap[fetched_ - 1] = entry(i);
-      } else {
-        continue;
+        words_[fetched_++] = entry(i);
+        if (fetched_ == room_ && room_ < n_) std::make_heap(words_, words_ + room_);
+      } else if (entry(i) < words_[0]) {
+        std::pop_heap(words_, words_ + room_);
+        words_[room_ - 1] = entry(i);
+        std::push_heap(words_, words_ + room_);
       }
-      std::push_heap(heap, heap + fetched_);
     }
-    std::sort_heap(heap, heap + fetched_);
-    next_ = heap;
+    next_ = words_;
+    if (room_ < n_) {
+      std::sort(words_, words_ + fetched_);
+    } else {
+      next_ = sort_by_digits(words_, words_ + room_, static_cast<std::size_t>(fetched_), 32);
+    }
   }
 
   Entries list_;
   Integer n_;
-  SortWord *halves_[2];
+  SortWord *words_;
   Integer room_;
   const SortWord *next_ = nullptr;
   Integer fetched_ = 0;
