@@ -83,10 +83,11 @@ class Candidates {
   AllSurroundings surroundings(Match match, Paired paired) const {
     if (!spread_out_) return nullptr;
     auto found = work_array<Surroundings>(static_cast<std::uint64_t>(points_.size()));
+    const Candidate *own = candidates_.get();
     for (std::uint32_t cell = 0; found && cell < cells_; ++cell) {
-      for (Integer k = starts_[cell]; k < starts_[cell + 1]; ++k) {
-        const Integer i = candidates_[k].position();
-        found[i] = look_around(candidates_[k], cell, paired(i), match);
+      for (Integer k = starts_[cell]; k < starts_[cell + 1]; ++k, ++own) {
+        const Integer i = own->position();
+        found.get()[i] = look_around(*own, cell, paired(i), match);
       }
     }
     return found;
@@ -110,7 +111,7 @@ class Candidates {
       const Integer size = std::min(block, n - start);
       for (Integer k = 0; k < size; ++k) own[k] = candidate(others, sorted[start + k]);
       for (Integer k = 0; k < size; ++k) {
-        found[own[k].position()] =
+        found.get()[own[k].position()] =
             look_around(own[k], key_in(sorted[start + k]), {0, points_.size()}, match);
       }
     }

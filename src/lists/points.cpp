@@ -41,12 +41,12 @@ struct Chain {
 // candidates. `around` is what matches the points, if that is known.
 template <class Points, class Others, class Match>
 Partners write_pairs(const Points &points, Range a, Range b, const Candidates<Others> &candidates,
-                     const AllSurroundings &around, Match match, Integer *ia, Integer *ib) {
+                     const Surroundings *around, Match match, Integer *ia, Integer *ib) {
   Integer pairs = 0;
   Integer partnered = 0;
   for (Integer i = 0; i < a.n; ++i) {
     const Integer before = pairs;
-    const Integer known = around ? around[a.start + i].partner : Surroundings::several;
+    const Integer known = around != nullptr ? around[a.start + i].partner : Surroundings::several;
     if (known >= 0) {
       ib[pairs++] = known - b.start + 1;
     } else if (known == Surroundings::several) {
@@ -69,7 +69,7 @@ template <class List, class Match>
 Partners pair_lists(const List &a, const List &b, Real tol, Match match, Integer *ia, Integer *ib) {
   const Candidates<List> candidates(b, tol, a.size());
   const AllSurroundings around = candidates.surroundings_of(a, match);
-  return write_pairs(a, {0, a.size()}, {0, b.size()}, candidates, around, match, ia, ib);
+  return write_pairs(a, {0, a.size()}, {0, b.size()}, candidates, around.get(), match, ia, ib);
 }
 
 // The position of the first candidate that matches p, or `end` if none before that does.
@@ -88,12 +88,11 @@ Integer first_match(Point3 p, Integer end, const Candidates<Points> &candidates,
 // a point's place, from 1. Returns the number of places.
 template <class Points, class Match, class Place, class Places>
 Integer put_to_places(const Points &points, Integer settled, const Candidates<Points> &candidates,
-                      const AllSurroundings &around, Match match, Place place,
-                      const Places &places) {
+                      const Surroundings *around, Match match, Place place, const Places &places) {
   const Integer n = points.size();
   Integer count = settled;
   const auto has_own = [&](Integer i) { return i < settled || around[i].first == i; };
-  bool plain{around};  // whatever is matched first has a place of its own
+  bool plain = around != nullptr;  // whatever is matched first has a place of its own
   for (Integer i = settled; i < n && plain; ++i) plain = has_own(around[i].first);
   if (plain) {
     for (Integer i = settled; i < n; ++i) {
@@ -146,7 +145,7 @@ Integer join_new(RealList a, RealList b, Real tol, Real *joined, Integer *positi
   const Candidates candidates(points, tol, b.size());
   const auto around = candidates.surroundings(match, [](Integer) { return Range{0, 0}; });
   const auto place = [=](Integer i) -> Integer & { return positions_of_b[i - na]; };
-  return put_to_places(points, na, candidates, around, match, place, Numbers{joined});
+  return put_to_places(points, na, candidates, around.get(), match, place, Numbers{joined});
 }
 
 MergedCounts merge_points(const PointList (&lists)[3], Real tol, const MergedPoints &merged) {
@@ -157,15 +156,16 @@ MergedCounts merge_points(const PointList (&lists)[3], Real tol, const MergedPoi
       match, [&](Integer i) { return points.range((points.list_of(i) + 1) % 3); });
   MergedCounts counts = {};
   for (int k = 0; k < 3; ++k) {
-    counts.pairs[k] = write_pairs(points, points.range(k), points.range((k + 1) % 3), candidates,
-                                  around, match, merged.first_of_pair[k], merged.second_of_pair[k])
-                          .pairs;
+    counts.pairs[k] =
+        write_pairs(points, points.range(k), points.range((k + 1) % 3), candidates, around.get(),
+                    match, merged.first_of_pair[k], merged.second_of_pair[k])
+            .pairs;
   }
   const auto place = [&](Integer i) -> Integer & {
     const int list = points.list_of(i);
     return merged.place_of[list][i - points.starts[list]];
   };
-  counts.places = put_to_places(points, 0, candidates, around, match, place, merged.places);
+  counts.places = put_to_places(points, 0, candidates, around.get(), match, place, merged.places);
   return counts;
 }
 
