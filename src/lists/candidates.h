@@ -82,7 +82,7 @@ class Candidates {
   template <class Match, class Paired>
   AllSurroundings surroundings(Match match, Paired paired) const {
     if (!spread_out_) return nullptr;
-    auto found = work_array<Surroundings>(static_cast<std::uint64_t>(points_.size()));
+    auto found = work_array<Surroundings>(points_.size());
     const Candidate *own = candidates_.get();
     for (std::uint32_t cell = 0; found && cell < cells_; ++cell) {
       for (Integer k = starts_[cell]; k < starts_[cell + 1]; ++k, ++own) {
@@ -101,7 +101,7 @@ class Candidates {
     // every call costs more than what is done in it.
     static_assert(sizeof(Surroundings) == sizeof(SortWord));
     const Integer n = others.size();
-    auto found = work_array<Surroundings>(3 * static_cast<std::uint64_t>(n));
+    auto found = work_array<Surroundings>(std::int64_t{3} * n);
     if (!found) return nullptr;
     auto *const words = reinterpret_cast<SortWord *>(found.get() + n);
     const SortWord *const sorted = sort_by_cell(others, words, words + n);
@@ -133,7 +133,7 @@ class Candidates {
       const Grid::Cell cell = grid_.cell_of(points[i]);
       words[i] = Code(i, cell.holds_all).with_cell(cell.number);
     }
-    return sort_by_digits(words, spare, static_cast<std::size_t>(n), 32);
+    return sort_by_digits(words, spare, n, 32);
   }
 
   // Finds where each cell starts and returns the mean number of points that share a point's cell.
@@ -194,8 +194,8 @@ void Candidates<Points>::make_cells(Real tol) {
   while (bits < 30 && n >> bits != 0) ++bits;
   if (bits < 20) bits = std::min(bits + 1, 18);  // two digits of a sort
   cells_ = std::uint32_t{1} << bits;
-  auto candidates = work_array<Candidate>(static_cast<std::uint64_t>(n));
-  starts_ = work_array<Integer>(std::uint64_t{cells_} + 1);
+  auto candidates = work_array<Candidate>(n);
+  starts_ = work_array<Integer>(std::int64_t{cells_} + 1);
   if (!candidates || !starts_) return;
 
   // Each candidate is made of a word, and the candidates follow the words through the same memory: the

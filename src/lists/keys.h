@@ -38,7 +38,7 @@ inline Integer position_in(SortWord word) { return static_cast<Integer>(static_c
 // Sorts ascending by the 36 bits from `lowest_bit` up. Words with the same bits there stay in order.
 // Works in both arrays and returns the one that holds the result.
 template <class Word>
-Word *sort_by_digits(Word *words, Word *spare, std::size_t n, int lowest_bit) {
+Word *sort_by_digits(Word *words, Word *spare, Integer n, int lowest_bit) {
   constexpr int width = 9;
   constexpr int digits = 4;
   constexpr int values = 1 << width;
@@ -46,14 +46,15 @@ Word *sort_by_digits(Word *words, Word *spare, std::size_t n, int lowest_bit) {
     return static_cast<std::size_t>(word >> (lowest_bit + width * d)) % values;
   };
   std::uint32_t places[digits][values] = {};
-  for (std::size_t i = 0; i < n; ++i) {
+  for (Integer i = 0; i < n; ++i) {
     for (int d = 0; d < digits; ++d) ++places[d][digit(words[i], d)];
   }
   for (int d = 0; d < digits && n > 0; ++d) {
-    if (places[d][digit(words[0], d)] == n) continue;  // the same digit throughout
+    if (places[d][digit(words[0], d)] == static_cast<std::uint32_t>(n))
+      continue;  // the same digit throughout
     std::uint32_t before = 0;
     for (std::uint32_t &place : places[d]) before += std::exchange(place, before);
-    for (std::size_t i = 0; i < n; ++i) spare[places[d][digit(words[i], d)]++] = words[i];
+    for (Integer i = 0; i < n; ++i) spare[places[d][digit(words[i], d)]++] = words[i];
     std::swap(words, spare);
   }
   return words;

@@ -46,9 +46,7 @@ namespace {
 // Sorts by key. Without room to spare it takes longer.
 template <class Word>
 const Word *sort_words(Word *words, Word *spare, Integer n, int lowest_bit) {
-  if (spare != nullptr) {
-    return sort_by_digits(words, spare, static_cast<std::size_t>(n), lowest_bit);
-  }
+  if (spare != nullptr) return sort_by_digits(words, spare, n, lowest_bit);
   std::sort(words, words + n);
   return words;
 }
@@ -90,8 +88,8 @@ Integer choose(bool wanted, const Integer *a, Integer na, const Integer *b, Inte
   WorkArray<Key> whole_b;
   WorkArray<bool> held;
   if (na > block || nb > block) {
-    const auto size_a = static_cast<std::uint64_t>(std::max(na, 0));
-    const auto size_b = static_cast<std::uint64_t>(std::max(nb, 0));
+    const std::int64_t size_a = std::max(na, 0);
+    const std::int64_t size_b = std::max(nb, 0);
     whole_a = work_array<SortWord>(2 * size_a);
     whole_b = work_array<Key>(2 * size_b);
     held = work_array<bool>(size_a);

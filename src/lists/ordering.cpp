@@ -62,13 +62,14 @@ bool is_number(Integer) { return true; }
 // Sorts the numbers across the NaNs, which stay. False if memory is short.
 template <class Value>
 bool sort_numbers(Value *list, Integer n) {
-  const auto work = work_array<Key>(2 * static_cast<std::uint64_t>(n));
+  const auto work = work_array<Key>(std::int64_t{2} * n);
   if (!work) return false;
-  std::size_t numbers = 0;
+  Key *const keys = work.get();
+  Integer numbers = 0;
   for (Integer i = 0; i < n; ++i) {
-    if (is_number(list[i])) work[numbers++] = key_of(list[i]);
+    if (is_number(list[i])) keys[numbers++] = key_of(list[i]);
   }
-  const Key *sorted = sort_by_digits(work.get(), work.get() + numbers, numbers, 0);
+  const Key *sorted = sort_by_digits(keys, keys + numbers, numbers, 0);
   for (Integer i = 0; i < n; ++i) {
     if (is_number(list[i])) set_by_key(list[i], *sorted++);
   }
@@ -99,7 +100,7 @@ void sort_selecting(Real *list, Integer n) {
     if (list[i] == 0) (std::signbit(list[i]) ? negative_zero : zero) = true;
   }
   if (zero && negative_zero) {
-    const auto heap = work_array<SortWord>(static_cast<std::uint64_t>(n));
+    const auto heap = work_array<SortWord>(n);
     if (!heap) {
       selection_sort(list, n);
       return;
@@ -166,7 +167,7 @@ class Ascending {
     if (room_ < n_) {
       std::sort(words_, words_ + fetched_);
     } else {
-      next_ = sort_by_digits(words_, words_ + room_, static_cast<std::size_t>(fetched_), 32);
+      next_ = sort_by_digits(words_, words_ + room_, fetched_, 32);
     }
   }
 
@@ -185,8 +186,7 @@ class Ascending {
 void order(Entries list, Integer n, Integer *positions) {
   if (n < 1) return;
   SortWord on_stack[2 * room_on_stack];
-  const auto on_heap =
-      n > room_on_stack ? work_array<SortWord>(2 * static_cast<std::uint64_t>(n)) : nullptr;
+  const auto on_heap = n > room_on_stack ? work_array<SortWord>(std::int64_t{2} * n) : nullptr;
   Ascending numbers(list, n, on_heap ? on_heap.get() : on_stack, on_heap ? n : room_on_stack);
 
   Real largest = list[0];
