@@ -177,7 +177,7 @@ class Candidates {
     return found;
   }
 
-  Points points_;
+  const Points &points_;
   Grid grid_ = {0, 1, 1};
   std::uint32_t cells_ = 0;
   bool spread_out_ = false;          // points are few to a cell

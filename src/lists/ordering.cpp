@@ -148,27 +148,34 @@ class Ascending {
     return sort_word(key_with_one_zero(list_[i]), ~i);
   }
 
-  // The smallest are in a heap as soon as there is no room for more, the largest of them on top.
   void fetch() {
     given_ = 0;
     fetched_ = 0;
+    if (room_ < n_) {
+      fetch_smallest();
+      return;
+    }
     for (Integer i = n_; i-- > 0;) {
+      if (!std::isnan(list_[i])) words_[fetched_++] = entry(i);
+    }
+    next_ = sort_by_digits(words_, words_ + room_, fetched_, 32);
+  }
+
+  // The smallest are in a heap as soon as there is no room for more, the largest of them on top.
+  void fetch_smallest() {
+    for (Integer i = 0; i < n_; ++i) {
       if (std::isnan(list_[i]) || has_given(i)) continue;
       if (fetched_ < room_) {
         words_[fetched_++] = entry(i);
-        if (fetched_ == room_ && room_ < n_) std::make_heap(words_, words_ + room_);
+        if (fetched_ == room_) std::make_heap(words_, words_ + room_);
       } else if (entry(i) < words_[0]) {
         std::pop_heap(words_, words_ + room_);
         words_[room_ - 1] = entry(i);
         std::push_heap(words_, words_ + room_);
       }
     }
+    std::sort(words_, words_ + fetched_);
     next_ = words_;
-    if (room_ < n_) {
-      std::sort(words_, words_ + fetched_);
-    } else {
-      next_ = sort_by_digits(words_, words_ + room_, fetched_, 32);
-    }
   }
 
   Entries list_;
