@@ -41,16 +41,15 @@ struct Range {
   }
 };
 
-// What matches a point.
+// What matches a point: its only partner, or none or several, in the range that it is paired with; and
+// the first match in its own list, itself included.
 struct alignas(SortWord) Surroundings {
   static constexpr Integer none = -1, several = -2;
-  Integer
-      partner;    // the only match in the range that the point is paired with, or one of these two
-  Integer first;  // the first match in its own list, itself included
+  Integer partner, first;
 };
 using AllSurroundings = WorkArray<Surroundings>;  // or nothing, if they are not known
 
-// `Points` gives the point at a position, and its size.
+// `Points` gives the point at a position, from 0, and its size.
 template <class Points>
 class Candidates {
  public:
@@ -80,7 +79,7 @@ class Candidates {
   // What matches each of the points, whose position tells `paired` what range it is paired with. They
   // are known if points are few to a cell, and if there is memory.
   template <class Match, class Paired>
-  AllSurroundings surroundings(Match match, Paired paired) const {
+  [[nodiscard]] AllSurroundings surroundings(Match match, Paired paired) const {
     if (!spread_out_) return nullptr;
     auto found = work_array<Surroundings>(points_.size());
     const Candidate *own = candidates_.get();
@@ -95,7 +94,7 @@ class Candidates {
 
   // The same for the points of another list, each of which is paired with all points.
   template <class Match>
-  AllSurroundings surroundings_of(const Points &others, Match match) const {
+  [[nodiscard]] AllSurroundings surroundings_of(const Points &others, Match match) const {
     if (!spread_out_) return nullptr;
     // In one piece with room for two words a point, since memory that is given back and taken anew at
     // every call costs more than what is done in it.
@@ -157,8 +156,8 @@ class Candidates {
   }
 
   template <class Match>
-  Surroundings look_around(const Candidate &own, std::uint32_t own_cell, Range paired,
-                           Match match) const {
+  [[nodiscard]] Surroundings look_around(const Candidate &own, std::uint32_t own_cell, Range paired,
+                                         Match match) const {
     Surroundings found = {Surroundings::none, own.position()};
     const auto look_at = [&](const Candidate &other) {
       const Integer i = other.position();

@@ -57,7 +57,7 @@ Integer select_up_to_zero(Real *list, Integer n, SortWord *heap) {
 constexpr auto is_before = [](auto a, auto b) { return key_of(a) < key_of(b); };
 
 bool is_number(Real value) { return !std::isnan(value); }
-bool is_number(Integer) { return true; }
+bool is_number(Integer /*value*/) { return true; }
 
 // Sorts the numbers across the NaNs, which stay. False if memory is short.
 template <class Value>

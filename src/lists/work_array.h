@@ -1,6 +1,7 @@
 // Memory for the length of a call.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -21,8 +22,8 @@ template <class Element>
 WorkArray<Element> work_array(std::int64_t size) {
   static_assert(std::is_trivial_v<Element>);
   if (static_cast<std::uint64_t>(size) > SIZE_MAX / sizeof(Element)) return nullptr;
-  void *const memory = std::malloc(static_cast<std::size_t>(size) * sizeof(Element));
-  return WorkArray<Element>(static_cast<Element *>(memory));
+  const auto room = static_cast<std::size_t>(std::max(size, std::int64_t{1}));
+  return WorkArray<Element>(static_cast<Element *>(std::malloc(room * sizeof(Element))));
 }
 
 }  // namespace trelvin
