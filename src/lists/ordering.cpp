@@ -54,7 +54,10 @@ Integer select_up_to_zero(Real *list, Integer n, SortWord *heap) {
   }
 }
 
-constexpr auto is_before = [](auto a, auto b) { return key_of(a) < key_of(b); };
+struct Before {
+  bool operator()(Real a, Real b) const { return key_of(a) < key_of(b); }
+  bool operator()(Integer a, Integer b) const { return a < b; }
+};
 
 bool is_number(Real value) { return !std::isnan(value); }
 bool is_number(Integer /*value*/) { return true; }
@@ -81,8 +84,8 @@ void sort_with_nans_last(Value *list, Integer n) {
   if (n < 2) return;
   Value *const end = std::partition(list, list + n, [](Value value) { return is_number(value); });
   const auto numbers = static_cast<Integer>(end - list);
-  if (std::is_sorted(list, end, is_before)) return;
-  if (numbers <= short_list || !sort_numbers(list, numbers)) std::sort(list, end, is_before);
+  if (std::is_sorted(list, end, Before{})) return;
+  if (numbers <= short_list || !sort_numbers(list, numbers)) std::sort(list, end, Before{});
 }
 
 }  // namespace
@@ -113,7 +116,7 @@ void sort_selecting(Real *list, Integer n) {
   if (nan) {
     selection_sort(list, n);
   } else {
-    std::sort(list, list + n, is_before);
+    std::sort(list, list + n, Before{});
   }
 }
 
@@ -161,20 +164,21 @@ class Ascending {
     next_ = sort_by_digits(words_, words_ + room_, fetched_, 32);
   }
 
-  // The smallest are in a heap as soon as there is no room for more, the largest of them on top.
+  // A heap holds the smallest found so far, the largest of those on top.
   void fetch_smallest() {
     for (Integer i = 0; i < n_; ++i) {
       if (std::isnan(list_[i]) || has_given(i)) continue;
       if (fetched_ < room_) {
-        words_[fetched_++] = entry(i);
-        if (fetched_ == room_) std::make_heap(words_, words_ + room_);
+        ++fetched_;
       } else if (entry(i) < words_[0]) {
-        std::pop_heap(words_, words_ + room_);
-        words_[room_ - 1] = entry(i);
-        std::push_heap(words_, words_ + room_);
+        std::pop_heap(words_, words_ + fetched_);
+      } else {
+        continue;
       }
+      words_[fetched_ - 1] = entry(i);
+      std::push_heap(words_, words_ + fetched_);
     }
-    std::sort(words_, words_ + fetched_);
+    std::sort_heap(words_, words_ + fetched_);
     next_ = words_;
   }
 
