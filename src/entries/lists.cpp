@@ -72,7 +72,7 @@ TRELVIN_ROUTINE trvmer13(TrvIntIn na, TrvArrayIn A, TrvIntIn nb, TrvArrayIn B, T
   const std::int64_t cleared = std::max(std::int64_t{a.n} + b.n, std::int64_t{0});
   std::fill_n(IA, cleared, 0);
   std::fill_n(IB, cleared, 0);
-  count = pair_up(a, b, limit, IA, IB).pairs;
+  count = pair_numbers(a, b, limit, IA, IB).pairs;
 }
 
 TRELVIN_ROUTINE trvmer1(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayIn B, TrvIntOut nout,
@@ -135,7 +135,7 @@ TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
                         TrvIntArrayOut IA, TrvIntArrayOut IB, TrvIntOut status) {
   const Door door;
   const PointList a = {XA, YA, ZA, na};
-  const Partners found = pair_up(a, PointList{XB, YB, ZB, nb}, tol, IA, IB);
+  const Partners found = pair_points(a, PointList{XB, YB, ZB, nb}, tol, IA, IB);
   count = found.pairs;
   status = found.pairs == 0 ? 0 : found.partnered < a.n ? 1 : 2;
 }

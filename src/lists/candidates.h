@@ -1,4 +1,4 @@
-// Pairs and places of points that may lie anywhere in their lists.
+// Which points of a list may match a point: those in the cells around it.
 #pragma once
 
 #include <algorithm>
@@ -7,175 +7,33 @@
 
 #include "lists/grid.h"
 #include "lists/keys.h"
-#include "lists/points.h"
 #include "lists/work_array.h"
 
 namespace trelvin {
 
-// An entry of a grid: a point with its position in its list, from 0.
-struct GridEntry {
-  Point3 point;
-  Integer code;  // the position; its complement where the point's own cell is not all it takes
-
-  static Integer encode(Integer position, bool one_cell) { return one_cell ? position : ~position; }
-  [[nodiscard]] bool one_cell() const { return code >= 0; }
-  [[nodiscard]] Integer position() const { return code >= 0 ? code : ~code; }
-};
-
-// Which points of a list may agree with another point: every one that does, among others. `PointAt`
-// gives the point at a position, from 0. Where memory is short, all points may.
-template <class PointAt>
-class Candidates {
+// The position of a point, from 0, and whether the point's own cell holds all candidates for it. The
+// lower half of a word that is sorted by cell.
+class Code {
  public:
-  // For as many visits as `visits` tells.
-  Candidates(Integer n, Real tol, const PointAt &at, Integer visits) : n_(n), at_(at) {
-    constexpr Integer few = 8;  // that are done sooner than cells are made
-    built_ = n > few && visits > few && build(tol);
-  }
+  Code() = default;
+  Code(Integer position, bool one_cell) : bits_(one_cell ? position : ~position) {}
+  explicit Code(SortWord word) : bits_(position_in(word)) {}
 
-  // Visits them cell by cell, in each by position. Where `visit` returns false, the cell's others are
-  // left out.
-  template <class Visit>
-  void visit(Point3 p, Visit visit) const {
-    if (!built_) {
-      for (Integer i = 0; i < n_ && visit(GridEntry{at_(i), i});) ++i;
-      return;
-    }
-    std::uint32_t cells[8];
-    const int count = grid_.cells_around(p, cells);
-    for (int k = 0; k < count; ++k) visit_cell(cells[k], visit);
-  }
-
-  // Points are few to a cell, so that all visits of all points are worth it in advance.
-  [[nodiscard]] bool spread_out() const { return built_ && spread_out_; }
-
-  // Calls `look` with the position of each point, the point, and a function that visits the candidates
-  // for it, in the order of the cells, where memory is used in its order too.
-  template <class Look>
-  void look_around(Look look) const {
-    const GridEntry *entries = entries_.get();
-    for (std::uint32_t cell = 0; cell < cells_; ++cell) {
-      for (Integer i = starts_[cell]; i < starts_[cell + 1]; ++i) {
-        const GridEntry &entry = entries[i];
-        look(entry.position(), entry.point, visit_from(entry.point, cell, entry.one_cell()));
-      }
-    }
-  }
-
-  // The same for the points of another list, with room for twice as many words.
-  template <class At, class Look>
-  void look_around_for(Integer n, At at, Placed *room, Look look) const {
-    const Placed *const sorted = sort_by_cell(n, at, room, room + n);
-    constexpr Integer block = 64;  // points got together, since they are far apart in memory
-    Point3 points[block];
-    for (Integer start = 0; start < n; start += block) {
-      const Integer size = std::min(block, n - start);
-      for (Integer k = 0; k < size; ++k) {
-        points[k] = at(GridEntry{{}, position_of(sorted[start + k])}.position());
-      }
-      for (Integer k = 0; k < size; ++k) {
-        const Placed word = sorted[start + k];
-        const GridEntry entry = {points[k], position_of(word)};
-        look(entry.position(), entry.point,
-             visit_from(entry.point, key_of(word), entry.one_cell()));
-      }
-    }
-  }
+  [[nodiscard]] Integer position() const { return bits_ >= 0 ? bits_ : ~bits_; }
+  [[nodiscard]] bool one_cell() const { return bits_ >= 0; }
+  [[nodiscard]] SortWord with_cell(std::uint32_t cell) const { return sort_word(cell, bits_); }
 
  private:
-  bool build(Real tol);
-
-  template <class Visit>
-  void visit_cell(std::uint32_t cell, Visit &visit) const {
-    const GridEntry *entry = entries_.get() + starts_[cell];
-    const GridEntry *const end = entries_.get() + starts_[cell + 1];
-    while (entry != end && visit(*entry)) ++entry;
-  }
-
-  // Visits the candidates for a point of a cell.
-  [[nodiscard]] auto visit_from(Point3 p, std::uint32_t cell, bool one_cell) const {
-    return [this, p, cell, one_cell](auto visit_one) {
-      if (one_cell) {
-        this->visit_cell(cell, visit_one);
-      } else {
-        this->visit(p, visit_one);
-      }
-    };
-  }
-
-  // Cells and codes of points, sorted by cell, in one of the arrays.
-  template <class At>
-  Placed *sort_by_cell(Integer n, At at, Placed *words, Placed *spare) const {
-    for (Integer i = 0; i < n; ++i) {
-      const Grid::Cell cell = grid_.cell_of(at(i));
-      words[i] = placed(cell.number, GridEntry::encode(i, cell.holds_all));
-    }
-    return sort_by_digits(words, spare, static_cast<std::size_t>(n), 32);
-  }
-
-  // Finds where each cell starts and returns the mean number of points that share a point's cell.
-  double find_starts(const Placed *sorted) {
-    std::fill_n(starts_.get(), cells_ + 1, 0);
-    for (Integer i = 0; i < n_; ++i) ++starts_[key_of(sorted[i]) + 1];
-    double squares = 0;
-    for (std::uint32_t cell = 1; cell <= cells_; ++cell) {
-      squares += double{1} * starts_[cell] * starts_[cell];
-      starts_[cell] += starts_[cell - 1];
-    }
-    return squares / n_;
-  }
-
-  Integer n_;
-  PointAt at_;
-  Grid grid_ = {0, 1, 1};
-  std::uint32_t cells_ = 0;
-  bool spread_out_ = false;
-  bool built_ = false;
-  WorkArray<Integer> starts_;  // of each cell in the entries, and their end
-  WorkArray<GridEntry> entries_;
+  Integer bits_;  // the position, or its complement if one cell does not hold all
 };
 
-// Wide cells are best, where points are far apart; where they crowd, narrower ones follow.
-template <class PointAt>
-bool Candidates<PointAt>::build(Real tol) {
-  constexpr double crowd = 12;
-  int bits = 3;
-  while (bits < 30 && n_ >> bits != 0) ++bits;
-  if (bits < 20) bits = std::min(bits + 1, 18);  // two digits of a sort
-  cells_ = std::uint32_t{1} << bits;
-  const auto size = static_cast<std::uint64_t>(n_);
-  auto entries = work_array<GridEntry>(size);
-  starts_ = work_array<Integer>(std::uint64_t{cells_} + 1);
-  if (!entries || !starts_) return false;
-
-  // Each entry is made of a word, and the entries follow the words through the same memory: the last
-  // word that an entry takes the room of is its own.
-  static_assert(sizeof(GridEntry) == 2 * sizeof(Placed));
-  GridEntry *const list = entries.get();
-  auto *const words = reinterpret_cast<Placed *>(list);
-  Placed *const upper = words + n_;
-  const Placed *sorted = words;
-  for (double width = 32; width >= 4 && !spread_out_; width /= 4) {
-    grid_ = Grid(tol, width, bits);
-    sorted = sort_by_cell(n_, at_, words, upper);
-    spread_out_ = find_starts(sorted) < crowd;
-  }
-  if (sorted != upper) std::copy_n(sorted, n_, upper);
-  for (Integer i = 0; i < n_; ++i) {
-    const Integer code = position_of(upper[i]);
-    list[i] = {at_(code < 0 ? ~code : code), code};
-  }
-  entries_ = std::move(entries);
-  return true;
-}
-
-// What a point has around it, of the points that match it.
-struct Surroundings {
-  Integer partners;  // in the list that its own is paired with
-  Integer partner;   // one of them
-  Integer first;     // of all, itself included
+struct Candidate {
+  Point3 point;
+  Code code;
+  [[nodiscard]] Integer position() const { return code.position(); }
 };
 
+// Positions, `n` from `start` on.
 struct Range {
   Integer start, n;
   [[nodiscard]] bool holds(Integer i) const {
@@ -183,137 +41,177 @@ struct Range {
   }
 };
 
-// Those of the points of a list, or none. Behind them is room for words, in one piece, since memory
-// that is given back and taken anew at every call costs more than what is done in it.
-class AllSurroundings {
- public:
-  AllSurroundings() = default;
-  AllSurroundings(Integer n, std::uint64_t words)
-      : memory_(work_array<Placed>(words + 2 * static_cast<std::uint64_t>(n))), n_(n) {}
+// What matches a point: its only partner, or none or several, in the range that it is paired with; and
+// the first match in its own list, itself included.
+struct alignas(SortWord) Surroundings {
+  static constexpr Integer none = -1, several = -2;
+  Integer partner, first;
+};
+using AllSurroundings = WorkArray<Surroundings>;  // or nothing, if they are not known
 
-  explicit operator bool() const { return memory_ != nullptr; }
-  Surroundings &operator[](Integer i) const {
-    return reinterpret_cast<Surroundings *>(memory_.get())[i];
+// `Points` gives the point at a position, from 0, and its size.
+template <class Points>
+class Candidates {
+ public:
+  // Makes cells if that many lookups are worth it, and if there is memory. Without cells all points
+  // are candidates for each point.
+  Candidates(const Points &points, Real tol, Integer lookups) : points_(points) {
+    constexpr Integer few = 8;  // that are done sooner than cells are made
+    if (points.size() > few && lookups > few) make_cells(tol);
   }
-  [[nodiscard]] Placed *words() const { return memory_.get() + 2 * static_cast<std::size_t>(n_); }
+
+  // Visits all points that agree with p, among others: cell by cell, in each cell by position. If
+  // `visit` returns false, it gets no more of the cell's points.
+  template <class Visit>
+  void visit(Point3 p, Visit visit) const {
+    if (!candidates_) {
+      const Integer n = points_.size();
+      for (Integer i = 0; i < n; ++i) {
+        if (!visit(Candidate{points_[i], Code(i, true)})) return;
+      }
+      return;
+    }
+    std::uint32_t cells[8];
+    const int count = grid_.cells_around(p, cells);
+    for (int k = 0; k < count; ++k) visit_cell(cells[k], visit);
+  }
+
+  // What matches each of the points, whose position tells `paired` what range it is paired with. They
+  // are known if points are few to a cell, and if there is memory.
+  template <class Match, class Paired>
+  [[nodiscard]] AllSurroundings surroundings(Match match, Paired paired) const {
+    if (!spread_out_) return nullptr;
+    auto found = work_array<Surroundings>(points_.size());
+    const Candidate *own = candidates_.get();
+    for (std::uint32_t cell = 0; found && cell < cells_; ++cell) {
+      for (Integer k = starts_[cell]; k < starts_[cell + 1]; ++k, ++own) {
+        const Integer i = own->position();
+        found.get()[i] = look_around(*own, cell, paired(i), match);
+      }
+    }
+    return found;
+  }
+
+  // The same for the points of another list, each of which is paired with all points.
+  template <class Match>
+  [[nodiscard]] AllSurroundings surroundings_of(const Points &others, Match match) const {
+    if (!spread_out_) return nullptr;
+    // In one piece with room for two words a point, since memory that is given back and taken anew at
+    // every call costs more than what is done in it.
+    static_assert(sizeof(Surroundings) == sizeof(SortWord));
+    const Integer n = others.size();
+    auto found = work_array<Surroundings>(std::int64_t{3} * n);
+    if (!found) return nullptr;
+    auto *const words = reinterpret_cast<SortWord *>(found.get() + n);
+    const SortWord *const sorted = sort_by_cell(others, words, words + n);
+    constexpr Integer block = 64;  // points got together, since they are far apart in memory
+    Candidate own[block];
+    for (Integer start = 0; start < n; start += block) {
+      const Integer size = std::min(block, n - start);
+      for (Integer k = 0; k < size; ++k) own[k] = candidate(others, sorted[start + k]);
+      for (Integer k = 0; k < size; ++k) {
+        found.get()[own[k].position()] =
+            look_around(own[k], key_in(sorted[start + k]), {0, points_.size()}, match);
+      }
+    }
+    return found;
+  }
 
  private:
-  static_assert(sizeof(Surroundings) <= 2 * sizeof(Placed));
-  WorkArray<Placed> memory_;
-  Integer n_ = 0;
+  void make_cells(Real tol);
+
+  static Candidate candidate(const Points &points, SortWord word) {
+    const Code code(word);
+    return {points[code.position()], code};
+  }
+
+  // Sorts words of the points' cells and codes by cell, and returns them in one of the arrays.
+  SortWord *sort_by_cell(const Points &points, SortWord *words, SortWord *spare) const {
+    const Integer n = points.size();
+    for (Integer i = 0; i < n; ++i) {
+      const Grid::Cell cell = grid_.cell_of(points[i]);
+      words[i] = Code(i, cell.holds_all).with_cell(cell.number);
+    }
+    return sort_by_digits(words, spare, n, 32);
+  }
+
+  // Finds where each cell starts and returns the mean number of points that share a point's cell.
+  double find_starts(const SortWord *sorted) {
+    const Integer n = points_.size();
+    std::fill_n(starts_.get(), cells_ + 1, 0);
+    for (Integer k = 0; k < n; ++k) ++starts_[key_in(sorted[k]) + 1];
+    double squares = 0;
+    for (std::uint32_t cell = 1; cell <= cells_; ++cell) {
+      squares += double{1} * starts_[cell] * starts_[cell];
+      starts_[cell] += starts_[cell - 1];
+    }
+    return squares / n;
+  }
+
+  template <class Visit>
+  void visit_cell(std::uint32_t cell, Visit &visit) const {
+    const Candidate *candidate = candidates_.get() + starts_[cell];
+    const Candidate *const end = candidates_.get() + starts_[cell + 1];
+    while (candidate != end && visit(*candidate)) ++candidate;
+  }
+
+  template <class Match>
+  [[nodiscard]] Surroundings look_around(const Candidate &own, std::uint32_t own_cell, Range paired,
+                                         Match match) const {
+    Surroundings found = {Surroundings::none, own.position()};
+    const auto look_at = [&](const Candidate &other) {
+      const Integer i = other.position();
+      const bool matches = match(own.point, other.point);
+      const bool pairs = matches && paired.holds(i);
+      const Integer partner = found.partner == Surroundings::none ? i : Surroundings::several;
+      found.partner = pairs ? partner : found.partner;
+      found.first = matches ? std::min(found.first, i) : found.first;
+      return true;
+    };
+    if (own.code.one_cell()) {
+      visit_cell(own_cell, look_at);
+    } else {
+      visit(own.point, look_at);
+    }
+    return found;
+  }
+
+  const Points &points_;
+  Grid grid_ = {0, 1, 1};
+  std::uint32_t cells_ = 0;
+  bool spread_out_ = false;          // points are few to a cell
+  WorkArray<Integer> starts_;        // of each cell in the candidates, and their end
+  WorkArray<Candidate> candidates_;  // cell by cell, in each by position
 };
 
-template <class Match, class Visit>
-Surroundings surroundings_of(Integer position, Point3 p, Range paired, Match match, Visit visit) {
-  Surroundings around = {0, 0, position};
-  visit([&](const GridEntry &entry) {
-    const Integer other = entry.position();
-    const bool matches = match(p, entry.point);
-    const bool pairs = matches && paired.holds(other);
-    around.partners += pairs ? 1 : 0;
-    around.partner = pairs ? other : around.partner;
-    around.first = matches ? std::min(around.first, other) : around.first;
-    return true;
-  });
-  return around;
-}
+// Wide cells are best if points are far apart. If points crowd in them, narrower ones follow.
+template <class Points>
+void Candidates<Points>::make_cells(Real tol) {
+  constexpr double crowd = 12;
+  const Integer n = points_.size();
+  int bits = 3;
+  while (bits < 30 && n >> bits != 0) ++bits;
+  if (bits < 20) bits = std::min(bits + 1, 18);  // two digits of a sort
+  cells_ = std::uint32_t{1} << bits;
+  auto candidates = work_array<Candidate>(n);
+  starts_ = work_array<Integer>(std::int64_t{cells_} + 1);
+  if (!candidates || !starts_) return;
 
-// The surroundings of all points where they are quickly had, else nothing. `paired` gives the range of
-// the list that a point's own is paired with.
-template <class PointAt, class Match, class Paired>
-AllSurroundings surroundings(const Candidates<PointAt> &candidates, Integer n, Match match,
-                             Paired paired) {
-  AllSurroundings found;
-  if (candidates.spread_out()) found = AllSurroundings(n, 0);
-  if (!found) return found;
-  candidates.look_around([&](Integer i, Point3 p, auto visit) {
-    found[i] = surroundings_of(i, p, paired(i), match, visit);
-  });
-  return found;
-}
-
-// Those of the points of another list, which is paired with that of the candidates.
-template <class PointOfA, class PointAt, class Match>
-AllSurroundings surroundings_of_list(Integer na, PointOfA a, const Candidates<PointAt> &candidates,
-                                     Range b, Match match) {
-  AllSurroundings found;
-  if (candidates.spread_out()) found = AllSurroundings(na, 2 * static_cast<std::uint64_t>(na));
-  if (!found) return found;
-  candidates.look_around_for(na, a, found.words(), [&](Integer i, Point3 p, auto visit) {
-    found[i] = surroundings_of(i, p, b, match, visit);
-  });
-  return found;
-}
-
-// Writes the pairs that `match` of the points of two ranges, by position in the first, then in the
-// second, from 1. The second is what the first is paired with in `around`, if that is known.
-template <class PointOfA, class PointAt, class Match>
-Partners pair_up(Range a, Range b, PointOfA at, const Candidates<PointAt> &candidates,
-                 const AllSurroundings &around, Match match, Integer *ia, Integer *ib) {
-  Partners found = {0, 0};
-  for (Integer i = 0; i < a.n; ++i) {
-    const Integer before = found.pairs;
-    if (around && around[a.start + i].partners < 2) {
-      const Surroundings &known = around[a.start + i];
-      if (known.partners == 1) ib[found.pairs++] = known.partner - b.start + 1;
-    } else {
-      const Point3 p = at(a.start + i);
-      candidates.visit(p, [&](const GridEntry &entry) {
-        if (b.holds(entry.position()) && match(p, entry.point)) {
-          ib[found.pairs++] = entry.position() - b.start + 1;
-        }
-        return true;
-      });
-      if (!std::is_sorted(ib + before, ib + found.pairs)) std::sort(ib + before, ib + found.pairs);
-    }
-    if (found.pairs == before) continue;
-    std::fill(ia + before, ia + found.pairs, i + 1);
-    ++found.partnered;
+  // Each candidate is made of a word, and the candidates follow the words through the same memory: the
+  // last word that a candidate takes the room of is its own.
+  static_assert(sizeof(Candidate) == 2 * sizeof(SortWord));
+  Candidate *const list = candidates.get();
+  auto *const words = reinterpret_cast<SortWord *>(list);
+  SortWord *const upper = words + n;
+  const SortWord *sorted = words;
+  for (double width = 32; width >= 4 && !spread_out_; width /= 4) {
+    grid_ = Grid(tol, width, bits);
+    sorted = sort_by_cell(points_, words, upper);
+    spread_out_ = find_starts(sorted) < crowd;
   }
-  return found;
-}
-
-// Puts the points at(settled) ... at(n - 1) to places. Those before them have places of their own. A
-// later one is at the first place that it matches, else it makes a new one: make(i) is told of each.
-// place(i), a reference, receives its number, from 1. Returns the number of places.
-template <class PointAt, class Match, class Make, class Place>
-Integer put_to_places(Integer settled, Integer n, PointAt at, const Candidates<PointAt> &candidates,
-                      const AllSurroundings &around, Match match, Make make, Place place) {
-  Integer count = settled;
-  const auto has_own = [&](Integer i) { return i < settled || around[i].first == i; };
-  bool plain{around};  // whatever is matched first has a place of its own
-  for (Integer i = settled; i < n && plain; ++i) plain = has_own(around[i].first);
-  if (plain) {
-    for (Integer i = settled; i < n; ++i) {
-      const Integer first = around[i].first;
-      if (first == i) make(i);
-      place(i) = first == i ? ++count : first < settled ? first + 1 : place(first);
-    }
-    return count;
-  }
-
-  // A new place marks all that match it, so that only those that make one look round.
-  for (Integer i = settled; i < n; ++i) place(i) = 0;
-  for (Integer i = settled; i < n; ++i) {
-    const Point3 p = at(i);
-    Integer first = settled;
-    if (settled > 0) {
-      candidates.visit(p, [&](const GridEntry &entry) {
-        if (entry.position() < first && match(p, entry.point)) first = entry.position();
-        return entry.position() < first;
-      });
-    }
-    if (first < settled) place(i) = first + 1;
-    if (place(i) != 0) continue;
-    make(i);
-    place(i) = ++count;
-    candidates.visit(p, [&](const GridEntry &entry) {
-      const Integer j = entry.position();
-      if (j > i && place(j) == 0 && match(p, entry.point)) place(j) = count;
-      return true;
-    });
-  }
-  return count;
+  if (sorted != upper) std::copy_n(sorted, n, upper);
+  for (Integer k = 0; k < n; ++k) list[k] = candidate(points_, upper[k]);
+  candidates_ = std::move(candidates);
 }
 
 }  // namespace trelvin

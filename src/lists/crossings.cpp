@@ -12,24 +12,17 @@
 namespace trelvin {
 namespace {
 
-Point2 vertex(const OutlineVertices &outline, Integer i) { return {outline.x[i], outline.y[i]}; }
+struct Edge {
+  Point2 low, high;
+};
 
-Integer after(const OutlineVertices &outline, Integer i) { return i + 1 < outline.n ? i + 1 : 0; }
-
-// Visits the lower and the upper end of each edge that crosses the line y = y0, in the order of the
-// edges, each counted from its lower end, included, to its upper end, excluded.
-template <class Visit>
-void visit_crossing_edges(const OutlineVertices &outline, Real y0, Visit visit) {
-  for (Integer i = 0; i < outline.n; ++i) {
-    const Point2 p = vertex(outline, i);
-    const Point2 q = vertex(outline, after(outline, i));
-    if ((p.y <= y0) == (q.y <= y0)) continue;
-    if (p.y < q.y) {
-      visit(p, q);
-    } else {
-      visit(q, p);
-    }
-  }
+// The edge from a vertex on, if it crosses the line y = y0. It counts from its lower end, included, to
+// its upper end, excluded.
+std::optional<Edge> crossing_edge(const OutlineVertices &outline, Integer i, Real y0) {
+  const Point2 p = outline[i];
+  const Point2 q = outline[outline.after(i)];
+  if ((p.y <= y0) == (q.y <= y0)) return std::nullopt;
+  return p.y < q.y ? Edge{p, q} : Edge{q, p};
 }
 
 // Vertices of the outline, one after the other, on the line of a segment.
@@ -42,7 +35,8 @@ struct Run {
 };
 
 struct Place {
-  double x, y, t;
+  WideVector point;
+  double t;
 };
 
 // A segment from p1 to p2 and its line.
@@ -65,8 +59,8 @@ struct Segment {
   // Where the segment first meets a run, whichever way the outline runs.
   [[nodiscard]] std::optional<Place> meet(const Run &run) const {
     if (!(run.from <= 1 && run.to >= 0)) return std::nullopt;
-    if (run.from <= 0) return Place{p1.x, p1.y, 0};
-    return Place{run.start.x, run.start.y, run.from};
+    if (run.from <= 0) return Place{wide(p1), 0};
+    return Place{wide(run.start), run.from};
   }
 
   // Where it meets an edge from a to b that crosses its line. The sides of its ends decide, since the
@@ -75,15 +69,14 @@ struct Segment {
     const WideVector edge = wide_difference(b, a);
     const double side1 = cross(edge, wide_difference(p1, a));
     const double side2 = cross(edge, wide_difference(p2, a));
-    if (side1 == 0) return Place{p1.x, p1.y, 0};
-    if (side2 == 0) return Place{p2.x, p2.y, 1};
+    if (side1 == 0) return Place{wide(p1), 0};
+    if (side2 == 0) return Place{wide(p2), 1};
     if (!((side1 < 0 && side2 > 0) || (side1 > 0 && side2 < 0))) return std::nullopt;
     const double share = side(a) / (side(a) - side(b));
-    const double x = a.x + share * edge.x;
-    const double y = a.y + share * edge.y;
-    const double t = ((x - p1.x) * d.x + (y - p1.y) * d.y) / dot(d, d);
+    const WideVector point = wide(a) + edge * share;
+    const double t = dot(point - wide(p1), d) / dot(d, d);
     if (std::isnan(t)) return std::nullopt;
-    return Place{x, y, t > 0 ? std::min(t, 1.0) : 0};
+    return Place{point, t > 0 ? std::min(t, 1.0) : 0};
   }
 };
 
@@ -125,28 +118,33 @@ struct CrossingSort {
 
 Integer cross_level(const OutlineVertices &outline, Real y0, Real *crossings) {
   Integer found = 0;
-  visit_crossing_edges(outline, y0, [&](Point2 low, Point2 high) {
-    const WideVector edge = wide_difference(high, low);
-    const double share = (double{y0} - low.y) / edge.y;
-    crossings[found++] = static_cast<Real>(low.x + share * edge.x);
-  });
+  for (Integer i = 0; i < outline.n; ++i) {
+    const auto edge = crossing_edge(outline, i, y0);
+    if (!edge) continue;
+    const WideVector d = wide_difference(edge->high, edge->low);
+    const double share = (double{y0} - edge->low.y) / d.y;
+    crossings[found++] = static_cast<Real>(edge->low.x + share * d.x);
+  }
   sort(crossings, found);
   return found;
 }
 
 bool inside(const OutlineVertices &outline, Point2 p) {
   bool odd = false;
-  visit_crossing_edges(outline, p.y, [&](Point2 low, Point2 high) {
-    const bool to_the_right = cross(wide_difference(high, low), wide_difference(p, low)) > 0;
+  for (Integer i = 0; i < outline.n; ++i) {
+    const auto edge = crossing_edge(outline, i, p.y);
+    if (!edge) continue;
+    const WideVector d = wide_difference(edge->high, edge->low);
+    const bool to_the_right = cross(d, wide_difference(p, edge->low)) > 0;
     odd = odd != to_the_right;
-  });
+  }
   return odd;
 }
 
 Integer cross_segment(const OutlineVertices &outline, Point2 p1, Point2 p2,
                       const CrossingArrays &crossings) {
   const Segment segment = {p1, p2};
-  const auto side = [&](Integer i) { return segment.side(vertex(outline, i)); };
+  const auto side = [&](Integer i) { return segment.side(outline[i]); };
   Integer start = outline.n - 1;
   while (start >= 0 && side(start) == 0) --start;
   if (start < 0) return 0;
@@ -156,18 +154,18 @@ Integer cross_segment(const OutlineVertices &outline, Point2 p1, Point2 p2,
   Integer found = 0;
   Integer from = start;
   for (Integer steps = 0; steps < outline.n; ++steps) {
-    const Integer to = after(outline, from);
+    const Integer to = outline.after(from);
     const Integer edge = std::exchange(from, to);
-    const Point2 p = vertex(outline, to);
+    const Point2 p = outline[to];
     if (side(to) == 0) {
       segment.extend(run, p);
       continue;
     }
     if ((side(to) > 0) != left) {
-      const auto place = run.empty() ? segment.meet(vertex(outline, edge), p) : segment.meet(run);
+      const auto place = run.empty() ? segment.meet(outline[edge], p) : segment.meet(run);
       if (place) {
-        crossings.x[found] = static_cast<Real>(place->x);
-        crossings.y[found] = static_cast<Real>(place->y);
+        crossings.x[found] = static_cast<Real>(place->point.x);
+        crossings.y[found] = static_cast<Real>(place->point.y);
         crossings.t[found] = static_cast<Real>(place->t);
         crossings.edge[found++] = edge + 1;
       }

@@ -8,6 +8,8 @@ namespace trelvin {
 struct OutlineVertices {
   const Real *x, *y;
   Integer n;
+  Point2 operator[](Integer i) const { return {x[i], y[i]}; }
+  [[nodiscard]] Integer after(Integer i) const { return i + 1 < n ? i + 1 : 0; }
 };
 
 // Writes where the line y = y0 crosses an outline, ascending, and returns how often it does.

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 #include "numeric/bits.h"
@@ -13,39 +12,33 @@ namespace trelvin {
 
 using Key = std::uint32_t;
 
-constexpr Key sign_bit = 0x80000000U;
-
-inline Key key_of(Integer value) { return static_cast<Key>(value) ^ sign_bit; }
-inline Integer integer_of(Key key) { return static_cast<Integer>(key ^ sign_bit); }
-
-// -0 comes just before 0.
-inline Key key_of(Real value) {
+inline Key key_of(Integer value) { return static_cast<Key>(value) ^ sign_mask; }
+inline Key key_of(Real value) {  // -0 comes just before 0
   const Key bits = bits_of(value);
-  return bits ^ ((bits & sign_bit) != 0 ? ~Key{0} : sign_bit);
+  return bits ^ ((bits & sign_mask) != 0 ? ~Key{0} : sign_mask);
 }
 
-inline Real real_of_key(Key key) {
-  const Key bits = key ^ ((key & sign_bit) != 0 ? sign_bit : ~Key{0});
-  return real_of(bits);
+inline void set_by_key(Integer &value, Key key) { value = static_cast<Integer>(key ^ sign_mask); }
+inline void set_by_key(Real &value, Key key) {
+  value = real_of(key ^ ((key & sign_mask) != 0 ? sign_mask : ~Key{0}));
 }
 
-// One key for both zeros.
-inline Key key_of_magnitude(Real value) { return key_of(value + 0.0F); }
+inline Key key_with_one_zero(Real value) { return key_of(value + 0.0F); }
 
-// A key with the position of its entry. In ascending order equal keys go by position.
-using Placed = std::uint64_t;
+// A key in the upper half, in the lower the position of its entry. In ascending order words with equal
+// keys go by position.
+using SortWord = std::uint64_t;
 
-inline Placed placed(Key key, Integer position) {
-  return Placed{key} << 32 | static_cast<Key>(position);
+inline SortWord sort_word(Key key, Integer position) {
+  return SortWord{key} << 32 | static_cast<Key>(position);
 }
-inline Key key_of(Placed entry) { return static_cast<Key>(entry >> 32); }
-inline Integer position_of(Placed entry) { return static_cast<Integer>(static_cast<Key>(entry)); }
+inline Key key_in(SortWord word) { return static_cast<Key>(word >> 32); }
+inline Integer position_in(SortWord word) { return static_cast<Integer>(static_cast<Key>(word)); }
 
-// Sorts ascending by the bits from `lowest_bit` up, no more than 36. What those do not tell apart stays
-// in order.
+// Sorts ascending by the 36 bits from `lowest_bit` up. Words with the same bits there stay in order.
 // Works in both arrays and returns the one that holds the result.
 template <class Word>
-Word *sort_by_digits(Word *words, Word *spare, std::size_t n, int lowest_bit) {
+Word *sort_by_digits(Word *words, Word *spare, Integer n, int lowest_bit) {
   constexpr int width = 9;
   constexpr int digits = 4;
   constexpr int values = 1 << width;
@@ -53,14 +46,15 @@ Word *sort_by_digits(Word *words, Word *spare, std::size_t n, int lowest_bit) {
     return static_cast<std::size_t>(word >> (lowest_bit + width * d)) % values;
   };
   std::uint32_t places[digits][values] = {};
-  for (std::size_t i = 0; i < n; ++i) {
+  for (Integer i = 0; i < n; ++i) {
     for (int d = 0; d < digits; ++d) ++places[d][digit(words[i], d)];
   }
   for (int d = 0; d < digits && n > 0; ++d) {
-    if (places[d][digit(words[0], d)] == n) continue;  // the same digit throughout
+    if (places[d][digit(words[0], d)] == static_cast<std::uint32_t>(n))
+      continue;  // the same digit throughout
     std::uint32_t before = 0;
     for (std::uint32_t &place : places[d]) before += std::exchange(place, before);
-    for (std::size_t i = 0; i < n; ++i) spare[places[d][digit(words[i], d)]++] = words[i];
+    for (Integer i = 0; i < n; ++i) spare[places[d][digit(words[i], d)]++] = words[i];
     std::swap(words, spare);
   }
   return words;

@@ -4,6 +4,7 @@
 #include <cstring>
 
 namespace trelvin {
+
 Integer positions_of(Integer key, const Integer *list, Integer n, Integer *positions) {
   Integer found = 0;
   for (Integer i = 0; i < n; ++i) {

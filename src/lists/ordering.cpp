@@ -5,7 +5,6 @@
 
 #include "lists/keys.h"
 #include "lists/work_array.h"
-#include "plane/lines.h"
 
 namespace trelvin {
 namespace {
@@ -29,10 +28,11 @@ void selection_sort(Real *list, Integer n) {
 
 // The first steps of the selection sort, until no entry up to zero is left. Returns their number.
 //
-// The swaps carry entries past equal ones, so which zero is found when is known only by following
-// them: a heap holds where each entry up to zero is, the smallest and of those the last on top.
-Integer select_up_to_zero(Real *list, Integer n, Placed *heap) {
-  const auto entry_at = [&](Integer i) { return placed(~key_of_magnitude(list[i]), i); };
+// The swaps can move an entry past an equal one, so only by following them is it known which zero is
+// found when. A heap holds where each entry up to zero is: the smallest on top, and of equal ones the
+// last.
+Integer select_up_to_zero(Real *list, Integer n, SortWord *heap) {
+  const auto entry_at = [&](Integer i) { return sort_word(~key_with_one_zero(list[i]), i); };
   Integer size = 0;
   for (Integer i = 0; i < n; ++i) {
     if (list[i] <= 0) heap[size++] = entry_at(i);
@@ -40,10 +40,10 @@ Integer select_up_to_zero(Real *list, Integer n, Placed *heap) {
   std::make_heap(heap, heap + size);
   Integer i = 0;
   for (;; ++i) {
-    while (size > 0 && position_of(heap[0]) < i) std::pop_heap(heap, heap + size--);  // moved since
+    while (size > 0 && position_in(heap[0]) < i) std::pop_heap(heap, heap + size--);  // moved since
     if (size == 0) return i;
     if (std::isnan(list[i])) continue;
-    const Integer place = position_of(heap[0]);
+    const Integer place = position_in(heap[0]);
     std::pop_heap(heap, heap + size--);
     if (place == i) continue;
     std::swap(list[i], list[place]);
@@ -54,21 +54,38 @@ Integer select_up_to_zero(Real *list, Integer n, Placed *heap) {
   }
 }
 
-constexpr auto is_before = [](Real a, Real b) { return key_of(a) < key_of(b); };
+struct Before {
+  bool operator()(Real a, Real b) const { return key_of(a) < key_of(b); }
+  bool operator()(Integer a, Integer b) const { return a < b; }
+};
 
-// Sorts what is no NaN across the NaNs, which stay. False where memory is short.
-bool sort_around_nans(Real *list, Integer n) {
-  const auto work = work_array<Key>(2 * static_cast<std::uint64_t>(n));
+bool is_number(Real value) { return !std::isnan(value); }
+bool is_number(Integer /*value*/) { return true; }
+
+// Sorts the numbers across the NaNs, which stay. False if memory is short.
+template <class Value>
+bool sort_numbers(Value *list, Integer n) {
+  const auto work = work_array<Key>(std::int64_t{2} * n);
   if (!work) return false;
-  std::size_t numbers = 0;
+  Key *const keys = work.get();
+  Integer numbers = 0;
   for (Integer i = 0; i < n; ++i) {
-    if (!std::isnan(list[i])) work[numbers++] = key_of(list[i]);
+    if (is_number(list[i])) keys[numbers++] = key_of(list[i]);
   }
-  const Key *sorted = sort_by_digits(work.get(), work.get() + numbers, numbers, 0);
+  const Key *sorted = sort_by_digits(keys, keys + numbers, numbers, 0);
   for (Integer i = 0; i < n; ++i) {
-    if (!std::isnan(list[i])) list[i] = real_of_key(*sorted++);
+    if (is_number(list[i])) set_by_key(list[i], *sorted++);
   }
   return true;
+}
+
+template <class Value>
+void sort_with_nans_last(Value *list, Integer n) {
+  if (n < 2) return;
+  Value *const end = std::partition(list, list + n, [](Value value) { return is_number(value); });
+  const auto numbers = static_cast<Integer>(end - list);
+  if (std::is_sorted(list, end, Before{})) return;
+  if (numbers <= short_list || !sort_numbers(list, numbers)) std::sort(list, end, Before{});
 }
 
 }  // namespace
@@ -86,7 +103,7 @@ void sort_selecting(Real *list, Integer n) {
     if (list[i] == 0) (std::signbit(list[i]) ? negative_zero : zero) = true;
   }
   if (zero && negative_zero) {
-    const auto heap = work_array<Placed>(static_cast<std::uint64_t>(n));
+    const auto heap = work_array<SortWord>(n);
     if (!heap) {
       selection_sort(list, n);
       return;
@@ -95,34 +112,16 @@ void sort_selecting(Real *list, Integer n) {
     list += done;
     n -= done;
   }
-  if ((!nan && std::is_sorted(list, list + n)) || sort_around_nans(list, n)) return;
+  if ((!nan && std::is_sorted(list, list + n)) || sort_numbers(list, n)) return;
   if (nan) {
     selection_sort(list, n);
   } else {
-    std::sort(list, list + n, is_before);
+    std::sort(list, list + n, Before{});
   }
 }
 
-void sort(Integer *list, Integer n) {
-  if (n < 2 || std::is_sorted(list, list + n)) return;
-  const auto size = static_cast<std::size_t>(n);
-  const auto work = n > short_list ? work_array<Key>(2 * std::uint64_t{size}) : nullptr;
-  if (!work) {
-    std::sort(list, list + n);
-    return;
-  }
-  std::transform(list, list + n, work.get(), [](Integer value) { return key_of(value); });
-  const Key *sorted = sort_by_digits(work.get(), work.get() + size, size, 0);
-  std::transform(sorted, sorted + size, list, integer_of);
-}
-
-void sort(Real *list, Integer n) {
-  if (n < 2) return;
-  Real *const end = std::partition(list, list + n, [](Real v) { return !std::isnan(v); });
-  const auto numbers = static_cast<Integer>(end - list);
-  if (std::is_sorted(list, end, is_before)) return;
-  if (numbers <= short_list || !sort_around_nans(list, numbers)) std::sort(list, end, is_before);
-}
+void sort(Integer *list, Integer n) { sort_with_nans_last(list, n); }
+void sort(Real *list, Integer n) { sort_with_nans_last(list, n); }
 
 namespace {
 
@@ -135,70 +134,70 @@ constexpr Integer room_on_stack = 512;
 class Ascending {
  public:
   // The work array has place for twice the room.
-  Ascending(Entries list, Integer n, Placed *work, Integer room)
-      : list_(list), n_(n), halves_{work, work + room}, room_(room) {}
+  Ascending(Entries list, Integer n, SortWord *work, Integer room)
+      : list_(list), n_(n), words_(work), room_(room) {}
 
   // The position of the next number, from 0. There must be one.
   Integer next() {
     if (given_ == fetched_) fetch();
     last_ = next_[given_++];
-    return ~position_of(last_);
+    return ~position_in(last_);
   }
 
   [[nodiscard]] bool has_given(Integer i) const { return entry(i) <= last_; }
 
  private:
-  [[nodiscard]] Placed entry(Integer i) const { return placed(key_of_magnitude(list_[i]), ~i); }
+  [[nodiscard]] SortWord entry(Integer i) const {
+    return sort_word(key_with_one_zero(list_[i]), ~i);
+  }
 
   void fetch() {
     given_ = 0;
     fetched_ = 0;
-    if (room_ >= n_) {
-      for (Integer i = n_; i-- > 0;) {
-        if (!std::isnan(list_[i])) halves_[0][fetched_++] = entry(i);
-      }
-      next_ = sort_by_digits(halves_[0], halves_[1], static_cast<std::size_t>(fetched_), 32);
-    } else {
+    if (room_ < n_) {
       fetch_smallest();
+      return;
     }
+    for (Integer i = n_; i-- > 0;) {
+      if (!std::isnan(list_[i])) words_[fetched_++] = entry(i);
+    }
+    next_ = sort_by_digits(words_, words_ + room_, fetched_, 32);
   }
 
   // A heap holds the smallest found so far, the largest of those on top.
   void fetch_smallest() {
-    Placed *const heap = halves_[0];
     for (Integer i = 0; i < n_; ++i) {
       if (std::isnan(list_[i]) || has_given(i)) continue;
       if (fetched_ < room_) {
-        heap[fetched_++] = entry(i);
-      } else if (entry(i) < heap[0]) {
-        std::pop_heap(heap, heap + fetched_);
-        heap[fetched_ - 1] = entry(i);
+        ++fetched_;
+      } else if (entry(i) < words_[0]) {
+        std::pop_heap(words_, words_ + fetched_);
       } else {
         continue;
       }
-      std::push_heap(heap, heap + fetched_);
+      words_[fetched_ - 1] = entry(i);
+      std::push_heap(words_, words_ + fetched_);
     }
-    std::sort_heap(heap, heap + fetched_);
-    next_ = heap;
+    std::sort_heap(words_, words_ + fetched_);
+    next_ = words_;
   }
 
   Entries list_;
   Integer n_;
-  Placed *halves_[2];
+  SortWord *words_;
   Integer room_;
-  const Placed *next_ = nullptr;
+  const SortWord *next_ = nullptr;
   Integer fetched_ = 0;
   Integer given_ = 0;
-  Placed last_ = 0;  // less than the entry of any number
+  SortWord last_ = 0;  // less than the entry of any number
 };
 
 }  // namespace
 
 void order(Entries list, Integer n, Integer *positions) {
   if (n < 1) return;
-  Placed on_stack[2 * room_on_stack];
-  const auto on_heap =
-      n > room_on_stack ? work_array<Placed>(2 * static_cast<std::uint64_t>(n)) : nullptr;
+  SortWord on_stack[2 * room_on_stack];
+  const auto on_heap = n > room_on_stack ? work_array<SortWord>(std::int64_t{2} * n) : nullptr;
   Ascending numbers(list, n, on_heap ? on_heap.get() : on_stack, on_heap ? n : room_on_stack);
 
   Real largest = list[0];
@@ -228,17 +227,15 @@ void order(Entries list, Integer n, Integer *positions) {
 }
 
 bool parallel_and_distinct(const LineArrays &lines, Integer n) {
-  const auto line = [&](Integer i) { return Line{lines.a[i], lines.b[i], lines.c[i]}; };
   for (Integer i = 1; i < n; ++i) {
-    if (intersect(line(0), line(i)).relation != LineRelation::parallel) return false;
+    if (intersect(lines[0], lines[i]).relation != LineRelation::parallel) return false;
   }
   return true;
 }
 
 void order_parallels(const LineArrays &lines, Integer n, Integer *positions) {
   const Line y_axis = {1, 0, 0};
-  const Line first = {lines.a[0], lines.b[0], lines.c[0]};
-  const bool clear_of_axis = intersect(first, y_axis).relation == LineRelation::parallel;
+  const bool clear_of_axis = intersect(lines[0], y_axis).relation == LineRelation::parallel;
   order(Entries{lines.c, clear_of_axis ? lines.a : lines.b}, n, positions);
 }
 

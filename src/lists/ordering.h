@@ -1,6 +1,7 @@
 // Ordering of lists.
 #pragma once
 
+#include "plane/lines.h"
 #include "vectors/vectors.h"
 
 namespace trelvin {
@@ -9,9 +10,8 @@ namespace trelvin {
 // where it is, and which of equal zeros comes first follows from the swaps.
 void sort_selecting(Real *list, Integer n);
 
+// Ascending: -0 before 0, NaNs last.
 void sort(Integer *list, Integer n);
-
-// -0 before 0, NaNs last.
 void sort(Real *list, Integer n);
 
 // The Reals of a list or, if there are divisors, 0 less their quotients.
@@ -29,6 +29,7 @@ void order(Entries list, Integer n, Integer *positions);
 
 struct LineArrays {
   const Real *a, *b, *c;
+  Line operator[](Integer i) const { return {a[i], b[i], c[i]}; }
 };
 
 bool parallel_and_distinct(const LineArrays &lines, Integer n);

@@ -1,18 +1,23 @@
-// Matching and merging of lists of numbers or points by their agreement.
+// Pairs of numbers or points that match, and the places of those that are merged.
 #pragma once
 
 #include "vectors/vectors.h"
 
 namespace trelvin {
 
+// Numbers are points of the x axis. A size of less than 0 is 0.
 struct RealList {
   const Real *values;
-  Integer n;  // less than 0 is 0
+  Integer n;
+  Point3 operator[](Integer i) const { return {values[i], 0, 0}; }
+  [[nodiscard]] Integer size() const { return n < 0 ? 0 : n; }
 };
 
 struct PointList {
   const Real *x, *y, *z;
-  Integer n;  // less than 0 is 0
+  Integer n;
+  Point3 operator[](Integer i) const { return {x[i], y[i], z[i]}; }
+  [[nodiscard]] Integer size() const { return n < 0 ? 0 : n; }
 };
 
 struct Partners {
@@ -20,10 +25,11 @@ struct Partners {
   Integer partnered;  // entries of the first list in a pair
 };
 
-// Pairs of entries by position in `a`, then in `b`, from 1. Numbers make a pair when their difference
-// is at most the tolerance, so that equal infinities, which have none, do not; points when they agree.
-Partners pair_up(RealList a, RealList b, Real tol, Integer *ia, Integer *ib);
-Partners pair_up(const PointList &a, const PointList &b, Real tol, Integer *ia, Integer *ib);
+// Both write pairs of entries by position in `a`, then in `b`, from 1. Numbers make a pair if their
+// difference is at most the tolerance, so that equal infinities, which have none, do not. Points make
+// a pair if they agree.
+Partners pair_numbers(RealList a, RealList b, Real tol, Integer *ia, Integer *ib);
+Partners pair_points(const PointList &a, const PointList &b, Real tol, Integer *ia, Integer *ib);
 
 // Writes `a`, then the entries of `b` that agree with none before them, and for each entry of `b` the
 // first position, from 1, that it agrees with. Returns the number of entries.

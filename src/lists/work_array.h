@@ -17,14 +17,13 @@ struct Release {
 template <class Element>
 using WorkArray = std::unique_ptr<Element[], Release>;
 
-// Elements of no particular value, or nothing where memory is short; never an exception.
+// Elements of no particular value, or nothing if memory is short; never an exception.
 template <class Element>
-WorkArray<Element> work_array(std::uint64_t size) {
+WorkArray<Element> work_array(std::int64_t size) {
   static_assert(std::is_trivial_v<Element>);
-  if (size > SIZE_MAX / sizeof(Element)) return nullptr;
-  const std::size_t bytes =
-      static_cast<std::size_t>(std::max(size, std::uint64_t{1})) * sizeof(Element);
-  return WorkArray<Element>(static_cast<Element *>(std::malloc(bytes)));
+  if (static_cast<std::uint64_t>(size) > SIZE_MAX / sizeof(Element)) return nullptr;
+  const auto room = static_cast<std::size_t>(std::max(size, std::int64_t{1}));
+  return WorkArray<Element>(static_cast<Element *>(std::malloc(room * sizeof(Element))));
 }
 
 }  // namespace trelvin

@@ -105,7 +105,7 @@ struct Level {
   }
 };
 
-struct Range {
+struct Interval {
   double low, high;
 };
 
@@ -116,8 +116,8 @@ class Spread {
 
   Spread(const PlateArrays &plates, Axis axis) : plates_(plates), axis_(axis) {}
 
-  [[nodiscard]] Range range() const {
-    Range all = {HUGE_VAL, -HUGE_VAL};
+  [[nodiscard]] Interval range() const {
+    Interval all = {HUGE_VAL, -HUGE_VAL};
     for (Integer i = 0; i < plates_.n; ++i) {
       const Trapezoid p = plate(i);
       all.low = std::min(all.low, p.middle - p.outer());
@@ -127,7 +127,7 @@ class Spread {
   }
 
   // Where half of the area lies on either side; in the middle of a gap that parts the halves.
-  [[nodiscard]] double equal_area(Range bracket, double area) const {
+  [[nodiscard]] double equal_area(Interval bracket, double area) const {
     const double rounding = 1e-13 * area;
     for (;;) {
       const double middle = (bracket.low + bracket.high) / 2;
@@ -174,8 +174,8 @@ class Spread {
 BendingFigures bending_figures(const PlateArrays &plates, const PlateMoments &m) {
   const Spread upwards(plates, Spread::Axis::y);
   const Spread sideways(plates, Spread::Axis::x);
-  const Range height = upwards.range();
-  const Range width = sideways.range();
+  const Interval height = upwards.range();
+  const Interval width = sideways.range();
   const PrincipalAxes principal = principal_axes(m.xx, m.yy, m.xy);
   BendingFigures f;
   f.A = m.area;

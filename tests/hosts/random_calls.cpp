@@ -241,16 +241,16 @@ void draw_special_arguments(Sequence &sequence, const Routine &routine, Argument
 }
 
 // Numbers Reals in their order, one by one. NaN follows infinity.
-std::int64_t key_of(float value) {
+std::int64_t ordinal_of(float value) {
   std::int32_t bits = 0x7FC00000;
   if (!std::isnan(value)) std::memcpy(&bits, &value, sizeof bits);
   return bits < 0 ? std::int64_t{INT32_MIN} - bits : bits;
 }
 
-float real_of(std::int64_t key) {
+float real_of(std::int64_t ordinal) {
   constexpr std::int64_t infinity = 0x7F800000;
-  if (std::abs(key) > infinity) return NAN;  // its other bits do not survive on every machine
-  const auto bits = static_cast<std::int32_t>(key < 0 ? INT32_MIN - key : key);
+  if (std::abs(ordinal) > infinity) return NAN;  // its other bits do not survive on every machine
+  const auto bits = static_cast<std::int32_t>(ordinal < 0 ? INT32_MIN - ordinal : ordinal);
   float value = 0;
   std::memcpy(&value, &bits, sizeof value);
   return value;
@@ -298,9 +298,9 @@ Path::Step draw_step(Sequence &sequence, const Arguments &arguments) {
   const Argument &other = arguments[sequence.below(arguments.size())];
   if (way == 0 && other.kind == Argument::real) to = other.reals[element];
   if (way == 1) to = from + 1e-5F * static_cast<float>(sequence.between(-3, 3));
-  if (way == 2) to = real_of(key_of(from) + sequence.between(-1000000, 1000000));
+  if (way == 2) to = real_of(ordinal_of(from) + sequence.between(-1000000, 1000000));
   if (way == 3) to = 0;
-  return {argument, element, key_of(from), key_of(to)};
+  return {argument, element, ordinal_of(from), ordinal_of(to)};
 }
 
 Path draw_path(Sequence &sequence, const Arguments &arguments) {
@@ -330,7 +330,8 @@ std::uint64_t distance(const Arguments &results, const Arguments &others, std::s
     const std::size_t end = Argument::spare + (a.single ? 1U : Argument::room);
     for (std::size_t i = Argument::spare; i < end; ++i) {
       if (a.kind == Argument::real) {
-        sum += static_cast<std::uint64_t>(std::abs(key_of(a.reals[i]) - key_of(b.reals[i])));
+        sum +=
+            static_cast<std::uint64_t>(std::abs(ordinal_of(a.reals[i]) - ordinal_of(b.reals[i])));
       } else if (a.integers[i] != b.integers[i]) {
         sum += std::uint64_t{1} << 40;
       }

@@ -25,23 +25,6 @@ TEST(Merging, SortedListsKeepEachEntryOnce) {
   EXPECT_EQ(n, 0);
 }
 
-TEST(Merging, TheToleranceMayBeAnEntry) {
-  Reals list = {5, 1, 2, 3};
-  std::int32_t n = 4;
-  trvmer12(list.data(), n, list[1]);
-  EXPECT_EQ(n, 3);
-  EXPECT_EQ(Reals(list.begin(), list.begin() + 3), (Reals{1, 3, 5}));
-}
-
-TEST(Merging, EqualEntriesAreRepeatsAtAnyTolerance) {
-  for (const float tol : {0.0F, -1.0F, not_a_number}) {
-    Reals list = {infinity, 1, 2, infinity, 1, not_a_number};
-    std::int32_t n = 6;
-    trvmer12(list.data(), n, tol);
-    EXPECT_EQ(n, 4) << tol;
-  }
-}
-
 TEST(Merging, OddListsAreSortedWithNaNsLast) {
   OddLists lists;
   for (int trial = 0; trial < 3000; ++trial) {
@@ -76,11 +59,7 @@ TEST(Merging, ListsAreSiftedWithAndWithoutMemory) {
       trvmer14(size_of(a), a.data(), size_of(b), b.data(), found, common.data());
       trvmer15(stay, left.data(), size_of(b), b.data(), removed);
     };
-    if (memory) {
-      sift();
-    } else {
-      without_memory(sift);
-    }
+    memory ? sift() : without_memory(sift);
     common.resize(static_cast<std::size_t>(found));
     left.resize(static_cast<std::size_t>(stay));
     EXPECT_TRUE(common == held && left == rest && removed == size_of(held)) << memory;
@@ -91,10 +70,11 @@ TEST(Merging, ListsAreSiftedWithAndWithoutMemory) {
 }
 
 TEST(Merging, OutlinesLoseRepeatedVertices) {
-  Reals x = {0, 0.25F, 4, 4, 4.5F, 0, 0.5F}, y = {0, 0, 0, 0.5F, 3, 3, 0.5F};
-  std::int32_t n = 7;
+  // The fourth repeats the third, and so do the last two the first, but not each other.
+  Reals x = {0, 0.25F, 4, 4.375F, 4.75F, 0, 0.5F, -0.25F}, y = {0, 0, 0, 0.5F, 0, 3, 0.5F, 0};
+  std::int32_t n = 8;
   trvmer16(x.data(), y.data(), n, 0.5F);
   EXPECT_EQ(n, 4);
-  EXPECT_EQ(Reals(x.begin(), x.begin() + 4), (Reals{0, 4, 4.5F, 0}));
-  EXPECT_EQ(Reals(y.begin(), y.begin() + 4), (Reals{0, 0, 3, 3}));
+  EXPECT_EQ(Reals(x.begin(), x.begin() + 4), (Reals{0, 4, 4.75F, 0}));
+  EXPECT_EQ(Reals(y.begin(), y.begin() + 4), (Reals{0, 0, 0, 3}));
 }

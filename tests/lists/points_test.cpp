@@ -110,6 +110,18 @@ TEST(PointLists, SomeOrAllPointsHavePartners) {
   EXPECT_TRUE(count == 0 && status == 0);
 }
 
+TEST(PointLists, PairsOfNumbersWithinATolerance) {
+  const float a[] = {0, 1, 1.25F, not_a_number}, b[] = {1.25F, 0, 1.5F};
+  std::int32_t count = u, ia[] = {u, u, u, u, u, u, u, u}, ib[] = {u, u, u, u, u, u, u, u};
+  trvmer13(-1, a, 3, b, count, ia, ib, 5);
+  EXPECT_EQ(count, 0);
+  EXPECT_TRUE(ia[1] == 0 && ia[2] == u && ib[1] == 0 && ib[2] == u);  // as far as the counts sum up
+  trvmer13(4, a, 3, b, count, ia, ib, 0.25F);
+  EXPECT_EQ(count, 4);
+  EXPECT_EQ(Values(ia, ia + 8), (Values{1, 2, 3, 3, 0, 0, 0, u}));
+  EXPECT_EQ(Values(ib, ib + 8), (Values{2, 1, 1, 3, 0, 0, 0, u}));
+}
+
 TEST(PointLists, OddListsArePairedAsThePlainWay) {
   OddLists lists;
   for (int trial = 0; trial < 3000; ++trial) {
@@ -130,18 +142,12 @@ TEST(PointLists, OddListsArePairedAsThePlainWay) {
 
 TEST(PointLists, MergeIntoPlacesAndLevels) {
   // The second of B is within the tolerance of the first, below it; the second of C above it.
-  const Points lists[] = {{{0, 1, 2}, {0, 7, 5}, {3, 3, 6}},
-                          {{1, 9, 0}, {7, 8, 0}, {3.5F, 9, 3}},
+  const Points lists[] = {{{0, 1, 2}, {0, 7, 5}, {3, 3.25F, 6}},
+                          {{1, 9, 0}, {7, 8, 0}, {3.75F, 9, 3}},
                           {{2, 0.5F}, {5, 0}, {6, 2.5F}}};
   const Merged m = merge(lists, 0.5F, 1);
-  EXPECT_EQ(m.pairs[4], (Integers{1, 2}));
-  EXPECT_EQ(m.pairs[5], (Integers{3, 1}));
   EXPECT_EQ(m.places.x, (Reals{0, 1, 2, 9}));
-  EXPECT_EQ(m.places.y, (Reals{0, 7, 5, 8}));
-  EXPECT_EQ(m.places.z, (Reals{3, 3, 6, 9}));
   EXPECT_EQ(m.place_of[0], (Integers{1, 2, 3}));
-  EXPECT_EQ(m.place_of[1], (Integers{2, 4, 1}));
-  EXPECT_EQ(m.place_of[2], (Integers{3, 1}));
   EXPECT_EQ(m.at_k, (Integers{1, 6, 8}));
   EXPECT_EQ(m.levels, (Reals{3, 6, 9}));
   EXPECT_EQ(merge(lists, 0.49F, 1).places.x, (Reals{0, 1, 2, 1, 9, 0.5F}));
@@ -207,4 +213,24 @@ TEST(PointLists, OddListsAreJoinedInTheirOrder) {
     out.resize(static_cast<std::size_t>(nout));
     ASSERT_TRUE(same_bits(out, plain)) << trial;
   }
+}
+
+TEST(PointLists, WithoutMemoryTheResultsAreTheSame) {
+  constexpr std::int32_t n = 20000, few = 50;
+  constexpr float tol = 0.0625F;
+  Reals many(n), some(few);
+  for (std::size_t i = 0; i < n; ++i) many[i] = 0.25F * static_cast<float>(i * 7919 % n);
+  for (std::size_t i = 0; i < few; ++i) some[i] = many[400 * i] + (i % 2 == 0 ? tol : 0.1F);
+  // Counts, positions of both pairings, those of the new entries.
+  std::vector<Integers> found(6, Integers(n + few)), without = found;
+  Reals joined(n + few), joined_without = joined;
+  const auto run = [&](std::vector<Integers> &to, Reals &out) {
+    trvmer13(few, some.data(), n, many.data(), to[0][0], to[1].data(), to[2].data(), tol);
+    trvmer13(n, many.data(), few, some.data(), to[0][1], to[3].data(), to[4].data(), tol);
+    trvmer4(n, many.data(), few, some.data(), tol, to[0][2], out.data(), to[5].data());
+  };
+  run(found, joined);
+  without_memory([&] { run(without, joined_without); });
+  EXPECT_TRUE(without == found && joined_without == joined);
+  EXPECT_EQ(found[0][0], few / 2);
 }
