@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "given.h"
 #include "numbers.h"
 #include "picture.h"
-#include "profiles.h"
 #include "report.h"
 
 namespace {
@@ -72,12 +72,6 @@ std::string parts_text(const Section &section) {
   return text;
 }
 
-std::string joined(const Names &names) {
-  std::string text;
-  for (const std::string_view name : names) text.append(text.empty() ? "" : " ").append(name);
-  return text;
-}
-
 Refusal design(const std::string_view *words, std::size_t count) {
   Given given;
   Section section;
@@ -123,13 +117,19 @@ void designer_design(std::size_t length) {
 
 const char *designer_text(std::size_t which) { return texts[which].c_str(); }
 
-// A line a profile: name, description, dimensions and those that may be 0.
+// A line a profile: name, description and routine, and then of each dimension the letter, the start
+// value and 0 if it may be that.
 const char *designer_profiles() {
   static std::string text;
   text.clear();
   for (const Profile &profile : profiles()) {
     text.append(profile.name).append("\t").append(profile.description).append("\t");
-    text += joined(profile.dimensions) + '\t' + joined(profile.may_be_zero) + '\n';
+    text.append(profile.routine);
+    for (const Dimension &d : profile.dimensions) {
+      text.append("\t").append(d.letter).append(" ").append(shortest(d.start));
+      if (d.least == Least::zero) text.append(" 0");
+    }
+    text += '\n';
   }
   return text.c_str();
 }

@@ -95,10 +95,12 @@ std::string usage_of(const std::string &name) {
   if (profile == nullptr) return usage();
   std::string text = "usage: section_properties " + usage_of(*profile) + "\n\n";
   text.append(profile->description).append(", dimensions in mm\n").append(profile->letters);
-  for (std::size_t i = 0; i < profile->may_be_zero.size(); ++i) {
-    text.append(i == 0 ? "\nMay be 0: " : ", ").append(profile->may_be_zero[i]);
+  std::string zeros;
+  for (const Dimension &dimension : profile->dimensions) {
+    if (dimension.least == Least::positive) continue;
+    zeros.append(zeros.empty() ? "\nMay be 0: " : ", ").append(dimension.letter);
   }
-  return text + (profile->may_be_zero.size() == 0 ? "" : ".\n");
+  return text + (zeros.empty() ? "" : zeros + ".\n");
 }
 
 std::string version() {

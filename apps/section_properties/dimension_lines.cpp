@@ -17,17 +17,15 @@ double width_of(const std::string &figure) {
   return widest_usual * font_size * static_cast<double>(figure.size());
 }
 
-bool is_along_x(Side side) { return side == Side::above || side == Side::below; }
-
 }  // namespace
 
 DimensionLines::Placed DimensionLines::placed(const Measure &measure, double middle, double scale) {
   Placed line;
   line.measure = measure;
-  line.figure = measure.name.empty() ? "" : measure.name + " = ";
-  line.figure += shortest(measure.value);
+  line.figure = measure.name.empty() ? "" : std::string(measure.name) + " = ";
+  line.figure += shortest(static_cast<float>(measure.value));
   const double from = scale * (measure.from - middle);
-  const double to = scale * (measure.to - middle);
+  const double to = scale * (measure.to() - middle);
   const double width = width_of(line.figure);
   line.start = from - overhang;
   line.end = to + overhang;
@@ -55,11 +53,10 @@ std::size_t DimensionLines::free_lane(const Placed &wanted) const {
 DimensionLines::DimensionLines(const Measures &measures, const Box &shown, double scale) {
   Measures sorted = measures;
   std::stable_sort(sorted.begin(), sorted.end(), [](const Measure &a, const Measure &b) {
-    return a.to - a.from < b.to - b.from;
+    return a.to() - a.from < b.to() - b.from;
   });
   for (const Measure &measure : sorted) {
-    const double middle = is_along_x(measure.side) ? 0.5 * (shown.left + shown.right)
-                                                   : 0.5 * (shown.bottom + shown.top);
+    const double middle = measure.is_along_x() ? shown.x() : shown.y();
     Placed line = placed(measure, middle, scale);
     line.lane = free_lane(line);
     lines_.push_back(line);
@@ -95,10 +92,10 @@ std::string DimensionLines::drawn(const Sheet &at) const {
 DimensionLines::Drawing DimensionLines::drawn(const Placed &line, const Sheet &at) {
   const Measure &m = line.measure;
   const double distance = first_lane + lane_pitch * static_cast<double>(line.lane);
-  const double length = at.length(m.to - m.from);
+  const double length = at.length(m.to() - m.from);
   std::string place;
   double reach = 0;  // from the dimension line back to the section, downwards as drawn
-  if (is_along_x(m.side)) {
+  if (m.is_along_x()) {
     const double y = m.side == Side::above ? at.top() - distance : at.bottom() + distance;
     place = "translate(" + px(at.x(m.from)) + ' ' + px(y) + ')';
     reach = at.y(m.level) - y;
@@ -114,7 +111,7 @@ DimensionLines::Drawing DimensionLines::drawn(const Placed &line, const Sheet &a
   const auto extension = [&](double x) {
     return host::line(x, reach, x, reach > 0 ? -8 : 8, attribute("stroke-opacity", "0.55"));
   };
-  const std::string name = m.name.empty() ? "" : attribute("data-dimension", m.name);
+  const std::string name = m.name.empty() ? "" : attribute("data-dimension", std::string(m.name));
   const std::string lines = host::line(-overhang, 0, length + overhang, 0) + extension(0) +
                             extension(length) + stroke(0) + stroke(length);
   std::string figure;

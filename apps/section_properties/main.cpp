@@ -9,10 +9,10 @@
 
 #include "batch_files.h"
 #include "command_line.h"
+#include "given.h"
 #include "lines.h"
 #include "output_file.h"
 #include "picture.h"
-#include "profiles.h"
 #include "report.h"
 #include "thin_plates.h"
 
@@ -154,7 +154,7 @@ int run_plates(const Request &request) {
   const Outline outline = outline_of(plates);
   return report(request,
                 {"plates", "section of thin plates", std::to_string(plates.size()) + " plates",
-                 figures, outline, overall_measures(outline)});
+                 figures, outline, overall_measures(bounding_box(outline))});
 }
 
 int run_batch_of(const Request &request) {

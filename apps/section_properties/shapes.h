@@ -29,8 +29,8 @@ Section section_from(Routine routine, const Dimensions &...dimensions) {
   return section_of(f);
 }
 
-Section flat_bar(const float *d);
-Section rolled(const float *d);
-Section angle(const float *d);
+Section flat_bar(float B, float H);
+Section rolled(float H, float B, float TW, float TF, float R);
+Section angle(float B, float H, float T, float R);
 
 }  // namespace host
