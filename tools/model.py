@@ -422,7 +422,7 @@ def read():
     version = re.search(r'#define TRELVIN_VERSION "(.*)"', texts["calling"])[1]
     families = [name for name in texts if "TRELVIN_ROUTINE trv" in texts[name]]
     missing = [f"include/trelvin/{n}.h: trelvin.h does not include it" for n in families
-               if n not in order]  # fmt: skip
+               if n not in order]
     families.sort(key=lambda name: order.index(name) if name in order else len(order))
     interface = interface_of(texts["values"], {name: texts[name] for name in families}, version)
     interface.faults += missing

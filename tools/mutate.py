@@ -59,7 +59,7 @@ FAULTS = [
      lambda m: "!significant(" if m.group(1) == "negligible" else "!negligible("),
     ("ulp", r"(?<![\w.])(tolerance|pi|half_pi|two_pi|\d+\.\d+F)(?![\w.])",
      lambda m: f"({m.group()} * 1.0000001F)"),
-]  # fmt: skip
+]
 HARD = {"strict", "inclusive", "grouping", "tolerance", "NaN", "ulp"}
 NO_CODE = re.compile(r"^\s*(#|using |static_assert|template|struct |namespace|TRELVIN_ROUTINE)")
 
@@ -86,7 +86,7 @@ def run(*command, cwd=BUILD, seconds=SECONDS):
         done = subprocess.run(
             ["nice", *map(str, command)], cwd=cwd, timeout=seconds,
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace",
-        )  # fmt: skip
+        )
     except subprocess.TimeoutExpired:
         return None
     return done.stdout if done.returncode == 0 else None
@@ -159,7 +159,7 @@ def main():
     copy_tree()
     BUILD.mkdir(parents=True, exist_ok=True)
     run("cmake", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release", "-DTRELVIN_BUILD_EXAMPLES=OFF",
-        "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-S", TREE, "-B", BUILD)  # fmt: skip
+        "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-S", TREE, "-B", BUILD)
     if not build(seconds=3600) or not tests_pass():
         sys.exit("mutate: the sources as they are do not build, or fail their tests")
     golden, extended = digest(2500), digest(options.calls)

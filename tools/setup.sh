@@ -11,8 +11,10 @@ cd "$(dirname "$0")/.."
 demo=no
 may_downgrade=no
 packages=(
-  cmake ninja-build g++ python3 googletest             # native builds, generated files, tests
-  g++-mingw-w64-i686-win32 wine wine32:i386            # the Windows DLL, and running it
+  # native builds, generated files, tests
+  cmake ninja-build g++ python3 googletest
+  # the Windows DLL, and running it
+  g++-mingw-w64-i686-win32 wine wine32:i386
 )
 for argument; do
   case $argument in
@@ -22,18 +24,30 @@ for argument; do
   esac
 done
 [ $demo = yes ] || packages+=(
-  clang libclang-rt-14-dev clang-format clang-tidy      # sanitizers, formatting
-  python3-pefile python3-pyelftools pkgconf             # checks of the built and installed libraries
-  dpkg-dev file                                         # the packages' dependencies
-  python3-numpy python3-pip python3-setuptools python3-wheel # the Python package
-  wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld # WebAssembly
-  chromium                                              # the page that is made of it
-  python3-distributed python3-psutil                    # the study by Dask
-  python3-sphinx furo python3-myst-parser python3-sphinx-inline-tabs python3-sphinx-copybutton # manual
-  gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime # hosts in other languages
-  nodejs                                                # and in JavaScript; npm below
-  g++-mingw-w64-x86-64-win32 g++-aarch64-linux-gnu qemu-user-static # other machines
-  llvm                                                  # the library for Microsoft's linker
+  # sanitizers; formatters and linters
+  clang libclang-rt-14-dev clang-format clang-tidy python3-autopep8 flake8 shfmt shellcheck
+  # checks of the built and installed libraries
+  python3-pefile python3-pyelftools pkgconf
+  # the packages' dependencies
+  dpkg-dev file
+  # the Python package
+  python3-numpy python3-pip python3-setuptools python3-wheel
+  # WebAssembly
+  wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld
+  # the page that is made of it
+  chromium
+  # the study by Dask
+  python3-distributed python3-psutil
+  # manual
+  python3-sphinx furo python3-myst-parser python3-sphinx-inline-tabs python3-sphinx-copybutton
+  # hosts in other languages
+  gfortran gfortran-mingw-w64-i686-win32 fp-compiler mono-mcs mono-runtime
+  # and in JavaScript; npm below
+  nodejs
+  # other machines
+  g++-mingw-w64-x86-64-win32 g++-aarch64-linux-gnu qemu-user-static
+  # the library for Microsoft's linker
+  llvm
 )
 wine64=build/wine64-packages # where 64-bit Wine is unpacked if it can not be installed
 
@@ -41,7 +55,7 @@ log=$(mktemp)
 pins=$(mktemp)
 trap 'rm -f "$log" "$pins"' EXIT
 
-fail() {  # MESSAGE
+fail() { # MESSAGE
   tail -n 20 "$log" >&2
   echo "setup: $1" >&2
   exit 1
@@ -72,9 +86,9 @@ in_container() {
 # all other packages keep their newest, security updates included.
 pin_twins() {
   apt-cache depends --recurse --no-recommends --no-suggests --no-conflicts --no-breaks \
-    --no-replaces --no-enhances wine32:i386 | grep ':i386$' | sort -u |
-    xargs --no-run-if-empty apt-cache --no-all-versions show |
-    awk -v RS= -F '\n' '/\nMulti-Arch: same/ {
+    --no-replaces --no-enhances wine32:i386 | grep ':i386$' | sort -u \
+    | xargs --no-run-if-empty apt-cache --no-all-versions show \
+    | awk -v RS= -F '\n' '/\nMulti-Arch: same/ {
       delete field
       for (i = 1; i <= NF; ++i) if (split($i, word, ": ") == 2) field[word[1]] = word[2]
       source = "Source" in field ? field["Source"] : field["Package"]
@@ -89,16 +103,16 @@ pin_twins() {
 # Of a simulation, what would be taken back.
 taken_back() { awk '/^[^ ]/ { on = /DOWNGRADED:$/; next } on' "$log" | xargs -n 1; }
 
-pinned_by=()  # options of apt-get, if there were pins to make
+pinned_by=() # options of apt-get, if there were pins to make
 
-is_pinned() {  # PACKAGE
+is_pinned() { # PACKAGE
   local source
   source=$(dpkg-query -W -f='${source:Package}' "$1" 2>/dev/null) || source=$1
   awk -v package="$1" -v source="src:$source" \
     '$2 == source || $3 == package { found = 1 } END { exit !found }' "$pins"
 }
 
-install_with_twins() {  # PACKAGE...
+install_with_twins() { # PACKAGE...
   local package
   pinned_by=(-o "Dir::Etc::Preferences=$pins" --no-remove)
   local pinned=("${pinned_by[@]}" --allow-downgrades install "$@")
@@ -107,8 +121,8 @@ install_with_twins() {  # PACKAGE...
   apt_get -s "${pinned[@]}" || fail "apt-get could not install: $*"
   grep -vE '^(Inst|Conf) ' "$log"
   for package in $(taken_back); do
-    is_pinned "$package" ||
-      fail "nothing was changed: $package would be taken back, which has no 32-bit twin here"
+    is_pinned "$package" \
+      || fail "nothing was changed: $package would be taken back, which has no 32-bit twin here"
   done
   if [ -n "$(taken_back)" ] && [ $may_downgrade = no ] && ! in_container; then
     echo "setup: nothing was changed. If this machine may take these packages back, run" >&2
@@ -119,7 +133,7 @@ install_with_twins() {  # PACKAGE...
   apt_get "${pinned[@]}" || fail "apt-get could not install: $*"
 }
 
-install() {  # PACKAGE...
+install() { # PACKAGE...
   [ $# -gt 0 ] && ! apt_get install "$@" || return 0
   grep -qE 'unmet dependencies|held broken packages' "$log" || fail "apt-get could not install: $*"
   install_with_twins "$@"
@@ -132,7 +146,7 @@ unpack_wine64() {
   (cd "$folder" && apt-get download -q wine64 libwine:amd64 libz-mingw-w64 >"$log" 2>&1) || return
   for package in "$folder"/*.deb; do dpkg -x "$package" "$folder/root"; done
   cp "$folder/root/usr/x86_64-w64-mingw32/lib/zlib1.dll" \
-    "$folder/root/usr/lib/x86_64-linux-gnu/wine/x86_64-windows"  # as its installation does
+    "$folder/root/usr/lib/x86_64-linux-gnu/wine/x86_64-windows" # as its installation does
   mkdir -p build
   mv "$folder/root" "$wine64"
   rm -r "$folder"
@@ -163,10 +177,13 @@ if [ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ]; then
   # The 32-bit Windows host programs run under a 32-bit Wine.
   [[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
   # One stale index does not matter if the packages can be had all the same; the installation will tell.
-  apt_get update || { echo "setup: package lists partly out of date:" >&2; grep '^E:' "$log" >&2 || true; }
+  apt_get update || {
+    echo "setup: package lists partly out of date:" >&2
+    grep '^E:' "$log" >&2 || true
+  }
   install "${missing[@]}"
-  [ ${#missing64[@]} -eq 0 ] || apt_get "${pinned_by[@]}" --no-remove install wine64 || unpack_wine64 ||
-    fail "apt-get could neither install nor download wine64"
+  [ ${#missing64[@]} -eq 0 ] || apt_get "${pinned_by[@]}" --no-remove install wine64 || unpack_wine64 \
+    || fail "apt-get could neither install nor download wine64"
   echo "setup: done"
 fi
 
@@ -180,8 +197,8 @@ if ! cmp -s tests/web/package-lock.json build/npm/package-lock.json; then
   rm -rf build/npm build/npm.new
   mkdir build/npm.new
   cp tests/web/package*.json build/npm.new
-  npm ci --prefix build/npm.new --force --ignore-scripts --no-audit --no-fund >"$log" 2>&1 ||
-    fail "npm could not fetch the packages of tests/web/package-lock.json"
+  npm ci --prefix build/npm.new --force --ignore-scripts --no-audit --no-fund >"$log" 2>&1 \
+    || fail "npm could not fetch the packages of tests/web/package-lock.json"
   mv build/npm.new build/npm
 fi
 if [ ! -e build/free-pascal-win32/units/fpintres.ppu ]; then

@@ -22,7 +22,8 @@ def build(code):
                   lambda match: f"<style>\n{inside(match[1])}</style>", page)
     page = re.sub(r'<script src="(.+?)"></script>',
                   lambda match: f"<script>\n{inside(match[1])}</script>", page)
-    return page.replace("COMPRESSED_CODE", base64.b64encode(gzip.compress(code, 9, mtime=0)).decode("ascii"))
+    packed = base64.b64encode(gzip.compress(code, 9, mtime=0)).decode("ascii")
+    return page.replace("COMPRESSED_CODE", packed)
 
 
 if __name__ == "__main__":

@@ -14,26 +14,26 @@ const library = koffi.load(process.env.TRELVIN_LIBRARY ?? usual);
 const convention = "__stdcall"; // on 32-bit Windows; of no effect elsewhere
 const positionFunction = koffi.proto(convention, "TrelvinFunction", "float", ["void *"]);
 
-const arrayOf = { real: Float32Array, int: Int32Array };
-const unwritten = { real: NaN, int: 0 };
+const arrayOf = {real: Float32Array, int: Int32Array};
+const unwritten = {real: NaN, int: 0};
 
 /** The function that calls a routine of the library, from the facts of its contract. */
 export function routine(name, facts) {
   const parameters = facts.map(parameterOf);
-  const inputs = parameters.filter((p) => p.direction !== "out");
-  const arrays = parameters.filter((p) => p.sizes);
-  const counting = new Set(arrays.flatMap((p) => p.sizes.flatMap((size) => size.counts)));
+  const inputs = parameters.filter(p => p.direction !== "out");
+  const arrays = parameters.filter(p => p.sizes);
+  const counting = new Set(arrays.flatMap(p => p.sizes.flatMap(size => size.counts)));
   for (const input of inputs) {
     if (counting.has(input.name)) input.least = Math.max(0, input.least ?? 0);
   }
-  const types = parameters.map((p) =>
+  const types = parameters.map(p =>
     p.kind === "function" ? koffi.pointer(positionFunction) : "void *",
   );
   const native = library.func(convention, name, "void", types);
-  const positional = inputs.filter((p) => !p.lengthOf.length);
-  const counts = inputs.filter((p) => p.lengthOf.length);
-  const declared = { name, parameters, inputs, arrays, positional, counts, native };
-  return { [name]: (...given) => call(declared, given) }[name];
+  const positional = inputs.filter(p => !p.lengthOf.length);
+  const counts = inputs.filter(p => p.lengthOf.length);
+  const declared = {name, parameters, inputs, arrays, positional, counts, native};
+  return {[name]: (...given) => call(declared, given)}[name];
 }
 
 // `inout real V[n+m]`, `out int index[n, count used]`, `in real x[1, n+1, 2 by kind]`,
@@ -44,7 +44,7 @@ const count = /(?: >= (?<least>-?\d+))?(?: = (?<lengthOf>[\w ]+))?$/;
 const form = new RegExp(single.source + array.source + count.source);
 
 function parameterOf(fact) {
-  const { sizes, least, lengthOf, ...rest } = form.exec(fact).groups;
+  const {sizes, least, lengthOf, ...rest} = form.exec(fact).groups;
   return {
     ...rest,
     sizes: sizes?.split(", ").map(sizeOf),
@@ -55,9 +55,9 @@ function parameterOf(fact) {
 
 /** A size as a function of the counts that it names. */
 function sizeOf(text) {
-  const counts = (text.match(/[A-Za-z]\w*/g) ?? []).filter((word) => word !== "max");
+  const counts = (text.match(/[A-Za-z]\w*/g) ?? []).filter(word => word !== "max");
   const compute = new Function(...counts, `return ${text.replace("max(", "Math.max(")};`);
-  return { text, counts, of: (values) => compute(...counts.map((name) => values[name])) };
+  return {text, counts, of: values => compute(...counts.map(name => values[name]))};
 }
 
 function call(routine, given) {
@@ -71,7 +71,7 @@ function call(routine, given) {
   }
   for (const array of routine.arrays) checkLength(routine, array, values);
   const raised = [];
-  const cells = routine.parameters.map((parameter) => cellOf(parameter, values, raised));
+  const cells = routine.parameters.map(parameter => cellOf(parameter, values, raised));
   routine.native(...cells);
   if (raised.length) throw raised[0];
   return written(routine, cells);
@@ -85,16 +85,17 @@ function fault(Kind, routine, parameter, needs, value) {
 
 /** The inputs by their names, as the library takes them. */
 function bound(routine, given) {
-  const { name, positional, counts } = routine;
+  const {name, positional, counts} = routine;
   const further = given.length - positional.length;
   if (further !== 0 && !(further === 1 && counts.length)) {
-    const names = positional.map((input) => input.name).join(", ");
+    const names = positional.map(input => input.name).join(", ");
     throw new TypeError(`${name}: needs ${names}; ${given.length} arguments given`);
   }
   const values = {};
-  positional.forEach((input, i) => (values[input.name] = taken(routine, input, given[i])));
+  for (const [i, input] of positional.entries())
+    values[input.name] = taken(routine, input, given[i]);
   for (const [key, value] of Object.entries(further ? given.at(-1) : {})) {
-    const input = counts.find((each) => each.name === key);
+    const input = counts.find(each => each.name === key);
     if (!input) throw new TypeError(`${name}: ${key} is no number of elements that an array tells`);
     values[key] = taken(routine, input, value);
   }
@@ -113,7 +114,7 @@ function taken(routine, input, value) {
   if (typeof value !== "object" || !Number.isInteger(value?.length)) {
     throw fault(TypeError, routine, input, "is an array of numbers", value);
   }
-  return Numbers.from(value, (number) => checked(routine, input, number));
+  return Numbers.from(value, number => checked(routine, input, number));
 }
 
 function checked(routine, input, number) {
@@ -135,11 +136,11 @@ function sizesNow(array, values) {
 }
 
 function lengthFor(routine, input, values) {
-  const uses = (array) => sizesNow(array, values).some((size) => size.counts.includes(input.name));
-  const told = routine.arrays.filter((array) => input.lengthOf.includes(array.name) && uses(array));
-  const lengths = told.map((array) => values[array.name].length);
+  const uses = array => sizesNow(array, values).some(size => size.counts.includes(input.name));
+  const told = routine.arrays.filter(array => input.lengthOf.includes(array.name) && uses(array));
+  const lengths = told.map(array => values[array.name].length);
   if (new Set(lengths).size > 1) {
-    const names = told.map((array) => array.name).join(", ");
+    const names = told.map(array => array.name).join(", ");
     throw fault(RangeError, routine, input, `is one length of ${names}`, lengths.join(", "));
   }
   return lengths[0] ?? 0;
@@ -150,7 +151,7 @@ function checkLength(routine, array, values) {
   for (const size of sizesNow(array, values)) {
     // Of n+m, an array that is copied brings the n that are its own.
     const own = routine.counts.find(
-      ({ name, lengthOf }) => lengthOf.includes(array.name) && size.text.startsWith(`${name}+`),
+      ({name, lengthOf}) => lengthOf.includes(array.name) && size.text.startsWith(`${name}+`),
     );
     const needed = own && array.direction === "inout" ? values[own.name] : size.of(values);
     if (values[array.name].length < needed) {
@@ -163,11 +164,11 @@ function checkLength(routine, array, values) {
 // --- what the library gets, and what it wrote -----------------------------------------------
 
 function cellOf(parameter, values, raised) {
-  const { name, kind, direction, sizes } = parameter;
+  const {name, kind, direction, sizes} = parameter;
   if (kind === "function") return guarded(values[name], raised);
   if (direction === "in") return sizes ? values[name] : arrayOf[kind].of(values[name]);
   const before = direction === "out" ? [] : sizes ? values[name] : [values[name]];
-  const room = sizes ? sizesNow(parameter, values).map((size) => size.of(values)) : [1];
+  const room = sizes ? sizesNow(parameter, values).map(size => size.of(values)) : [1];
   const cell = new arrayOf[kind](Math.max(before.length, ...room)).fill(unwritten[kind]);
   cell.set(before);
   return cell;
@@ -175,7 +176,7 @@ function cellOf(parameter, values, raised) {
 
 /** What the host's function throws goes on in the caller, not in the library. */
 function guarded(host, raised) {
-  return (address) => {
+  return address => {
     if (raised.length) return NaN;
     try {
       return Number(host(koffi.decode(address, "int32_t")));
@@ -192,7 +193,7 @@ function written(routine, cells) {
     if (parameter.direction === "in") return;
     result[parameter.name] = parameter.sizes ? cells[i] : cells[i][0];
   });
-  for (const { name, used } of routine.arrays) {
+  for (const {name, used} of routine.arrays) {
     if (used && result[used] < result[name]?.length) {
       result[name] = result[name].slice(0, Math.max(0, result[used]));
     }

@@ -38,7 +38,8 @@ CAREFUL = re.compile(  # a page's numbers and the words of sign, sense and unit
     NUMBER.pattern + r"|[-+][xyz]\b|\b(?:(?:counter-)?clockwise|(?:left|right)-handed(?:ly)?|radians?"
     r"|degrees?|positive(?:ly)?|negative|upwards?|downwards?|above|below|left|right(?! angle)|top"
     r"|bottom|smaller|larger|square|cube|half|twice|double|cosine)\b")
-NAMED = re.compile(r"\b[Aa]x[ei]s [12]\b|\bEN [\d-]+(?:, [\d.]+)?|\b[Tt]able [\d.]+|\bindex \d+|\bWhat is left\b")
+NAMED = re.compile(
+    r"\b[Aa]x[ei]s [12]\b|\bEN [\d-]+(?:, [\d.]+)?|\b[Tt]able [\d.]+|\bindex \d+|\bWhat is left\b")
 
 
 @dataclass
@@ -750,7 +751,10 @@ def clause():
 def fold_limits():
     """Where the factor of trvefr begins to grow, and where that of the call before stands."""
     first = trelvin.trvefr(30, 100, 0.4, *STEEL) / 30
-    factor = lambda r: trelvin.trvefr(100 * r, 100, 0.4, *STEEL)  # noqa: E731
+
+    def factor(r):
+        return trelvin.trvefr(100 * r, 100, 0.4, *STEEL)
+
     trelvin.trvefr(30, 100, 0.4, *STEEL)
     beyond = limit(lambda r: not _stands(r), 0.5, 0.9)
     assert first > 0 and factor(0.3) > 0
@@ -768,7 +772,9 @@ def _stands(ratio):
 
 def tension_limit():
     """The ratio s2/s1 beyond which nothing is reduced."""
-    whole = lambda r: trelvin.trvef2(1200, 300, 8, *STEEL, 100, -100 * r).be1 == 150  # noqa: E731
+    def whole(r):
+        return trelvin.trvef2(1200, 300, 8, *STEEL, 100, -100 * r).be1 == 150
+
     return -limit(lambda r: not whole(r), 1, 9)
 
 

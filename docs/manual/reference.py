@@ -121,11 +121,11 @@ def _facts(writer, routine):
         if argument.kept:
             unwritten.setdefault(_when(argument.kept), []).append(f"`{argument.name}`")
     unwritten = [f"{', '.join(names)}: {writer.text(when, routine.name)}"
-                 for when, names in unwritten.items()]  # fmt: skip
+                 for when, names in unwritten.items()]
     mentioned = re.findall(r"\btrv\w+\b", f"{routine.paragraphs} {routine.retains_text} " +
                            " ".join(argument.text for argument in routine.arguments))
     named = [writer.link(name) for name in dict.fromkeys(mentioned)
-             if name in writer.page_of and name != routine.name]  # fmt: skip
+             if name in writer.page_of and name != routine.name]
     facts = [("Unwritten", "; ".join(unwritten) or "nothing; every output is written on every path"),
              ("Retains", writer.text(routine.retains_text, routine.name)),
              ("Cost", writer.text(routine.cost, routine.name)), ("See also", ", ".join(named))]

@@ -12,7 +12,7 @@ document.addEventListener("DOMContentLoaded", () => {
       if (seen.has(target)) link.parentNode.hidden = true;
       seen.add(target);
       if (routine && !link.textContent.includes(" > "))
-        link.textContent += " > " + place.replaceAll("-", "_");
+        link.textContent += ` > ${place.replaceAll("-", "_")}`;
     }
-  }).observe(results, { childList: true, subtree: true });
+  }).observe(results, {childList: true, subtree: true});
 });

@@ -16,7 +16,7 @@ const [left, right] = [-b / 2, b / 2];
 
 /** Of plates [x1, y1, x2, y2, t], in bending; figures of torsion are NaN for a closed section. */
 function figuresOf(...plates) {
-  const column = (i) => plates.map((plate) => plate[i]);
+  const column = i => plates.map(plate => plate[i]);
   const figures = trelvin.trvmxt(...[0, 1, 2, 3, 4].map(column));
   if (figures.status === trelvin.trvStatusRefused) {
     throw new RangeError("a plate without length or thickness");
@@ -32,7 +32,7 @@ const flanges = [
   [left, h, left + top.be1, h, tTop],
   [right, h, right - top.be2, h, tTop],
 ];
-const grossWebs = [left, right].map((x) => [x, 0, x, h, tWeb]);
+const grossWebs = [left, right].map(x => [x, 0, x, h, tWeb]);
 const first = figuresOf(...flanges, ...grossWebs);
 
 // The webs in bending about that axis.
@@ -40,17 +40,21 @@ const compressed = h - first.ys;
 const tension = (-stress * first.ys) / compressed;
 const web = trelvin.trvef2(h, compressed, tWeb, r1, r2, stress, tension);
 
-const lowerWebs = [left, right].map((x) => [x, 0, x, first.ys + web.be2, tWeb]);
-const upperWebs = [left, right].map((x) => [x, h, x, h - web.be1, tWeb]);
+const lowerWebs = [left, right].map(x => [x, 0, x, first.ys + web.be2, tWeb]);
+const upperWebs = [left, right].map(x => [x, h, x, h - web.be1, tWeb]);
 const last = figuresOf(...flanges, ...lowerWebs, ...upperWebs);
 
 // An arc about (250, -400) from A to B, and the point of it above a station of its chord.
-const [centre, from, to] = [[250, -400], [850, 400], [-550, 200]];
+const [centre, from, to] = [
+  [250, -400],
+  [850, 400],
+  [-550, 200],
+];
 const point = trelvin.trvcer8(...centre, ...from, ...to, -1, 500);
 const arcs = trelvin.trvarc1(...centre, ...from, ...to);
 
 function row(name, unit, digits, ...numbers) {
-  const columns = numbers.map((x) => x.toFixed(digits).padStart(9));
+  const columns = numbers.map(x => x.toFixed(digits).padStart(9));
   console.log(`${name.padEnd(14)} ${columns.join(" ")} ${unit}`);
 }
 row("top plate", "mm", 2, top.be1, top.be2);

@@ -165,7 +165,7 @@ def connected(scheduler, workers):
     with tempfile.TemporaryDirectory() as folder, LocalCluster(
         host=here, n_workers=workers, threads_per_worker=1, local_directory=folder,
         dashboard_address=f"{here}:0", worker_dashboard_address=f"{here}:0",
-    ) as cluster, Client(cluster) as client:  # fmt: skip
+    ) as cluster, Client(cluster) as client:
         yield client
 
 
@@ -195,7 +195,7 @@ def write_picture(study, points, best, path):
     def line(start, end, colour):
         (x1, y1), (x2, y2) = place(*start), place(*end)
         return (f'<line x1="{x1:.1f}" y1="{y1:.1f}" x2="{x2:.1f}" y2="{y2:.1f}" '
-                f'stroke="{colour}"/>')  # fmt: skip
+                f'stroke="{colour}"/>')
 
     def text(x, y, words, anchor="middle"):
         return f'<text x="{x:.1f}" y="{y:.1f}" text-anchor="{anchor}">{words}</text>'
@@ -205,7 +205,7 @@ def write_picture(study, points, best, path):
         'font-family="sans-serif" font-size="12">',
         '<rect width="100%" height="100%" fill="white"/>',
         line((0, 0), (most_area, 0), "black"), line((0, 0), (0, most_stiffness), "black"),
-    ]  # fmt: skip
+    ]
     for tick in ticks(most_area):
         x, y = place(tick, 0)
         parts += [line((tick, 0), (tick, most_stiffness), "#ddd"), text(x, y + 16, f"{tick:g}")]

@@ -155,7 +155,7 @@ l 100 60 {} 0; 59; 60; legs
 l 60 100 {} 0; 59; 60; legs
 l 100 60 50 {}; 10; 11; fillet R
 l2 {} 150 12 10 14; 15; 14; vertical leg TV
-l2 100 {} 12 10 14; 11; 10; horizontal leg T 
+l2 100 {} 12 10 14; 11; 10; horizontal leg T
 tab 500 400 {} 60 15 10 12; 21; 20; webs TW
 tab 500 {} 300 60 15 10 12; 73; 72; bottom plate
 tab {} 400 300 60 15 10 12; 281; 280; top plate

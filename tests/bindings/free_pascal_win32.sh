@@ -9,7 +9,7 @@ rm -rf "$out"
 mkdir -p "$out/packages" "$out/units"
 cd "$out/packages"
 packages=(fp-compiler-3.2.2:i386 fpc-source-3.2.2)
-if ! apt-get download -q "${packages[@]}"; then  # an old list, or none
+if ! apt-get download -q "${packages[@]}"; then # an old list, or none
   apt-get update -q || true
   apt-get download -q "${packages[@]}"
 fi

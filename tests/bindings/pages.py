@@ -34,7 +34,8 @@ SPAN = re.compile(r"(?<!`)`((?:cmake --(?:preset|build)|\./dev) [^`]+)`(?!`)")
 
 
 def _shell(command):
-    environment = dict(os.environ, HOME=str(OUT), PATH=f"{ROOT}/build/native/bin:/usr/bin:{os.environ['PATH']}")
+    environment = dict(os.environ, HOME=str(OUT),
+                       PATH=f"{ROOT}/build/native/bin:/usr/bin:{os.environ['PATH']}")
     environment |= {"TRELVIN_LIBRARY": str(ROOT / "build/native/lib/libtrelvin.so"),
                     "npm_config_cache": os.path.expanduser("~/.npm"),  # what ./dev setup fetched
                     "npm_config_prefer_offline": "true"}
@@ -96,7 +97,8 @@ PYTHON = "python3", "build/venv/bin/python"
 
 
 def _options(words):
-    program = {"pip": f"build/venv/bin/pip {words[1]}", **{python: f"build/venv/bin/python {words[1]}" for python in PYTHON}}
+    program = {name: f"build/venv/bin/{tool} {words[1]}"
+               for name, tool in (("pip", "pip"), *((python, "python") for python in PYTHON))}
     code, told = _shell(f"{program.get(words[0], words[0])} --help")
     options = [word for word in words[1:] if word[0] == "-"]
     return words[:1] * bool(code) + [o for o in options if not re.search(rf"(?<!\S){o}[\s,]", told)]

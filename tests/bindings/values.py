@@ -66,7 +66,7 @@ def _case(library, routine, draw):
             given.append(numbers if argument.is_array else numbers[0])
     getattr(library, routine.name)(*(memory.get(a.name, HEIGHT) for a in routine.arguments))
     bits = {a.name: list(memoryview(memory[a.name]).cast("B").cast("i"))
-            for a in routine.arguments if a.is_written}  # fmt: skip
+            for a in routine.arguments if a.is_written}
     wanted = {a.name: [not a.is_integer, bits[a.name]] for a in routine.arguments if a.is_written}
     return [routine.name, given, counts or None, wanted]
 

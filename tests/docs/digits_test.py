@@ -92,8 +92,8 @@ class Digits(unittest.TestCase):
                                   r"(\S+) (\S+) %\.")
         for angle, share in zip(told[::2], told[1::2]):
             lengths = [random.uniform(1, 1000) for _ in range(5000)]
-            found = shares([call("trvaxph", l * math.cos(angle), l * math.sin(angle))[-1]
-                            for l in lengths])
+            found = shares([call("trvaxph", length * math.cos(angle),
+                                 length * math.sin(angle))[-1] for length in lengths])
             self.assertLess(abs(found[0] - share) + found[1], 3, angle)
 
     def test_half_circles(self):
@@ -177,7 +177,6 @@ class Digits(unittest.TestCase):
                 errors.append(max(abs(math.dist(centre, p) - radius2) for p in ((at2, at2), (x, y))))
         self.assertLess(max(abs(m / 30 - t) for m, t in zip(missed, (lost, wrong))), 2.5)
         self.assertLess(abs(statistics.median(errors) - off), 0.1 * off)
-
 
 
 if __name__ == "__main__":

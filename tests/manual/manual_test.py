@@ -96,8 +96,8 @@ class Contents(unittest.TestCase):
                 told += [value.meaning for value in values] or [argument.meaning]
                 kept = argument.kept.text.partition(" ")[2] if argument.kept else ""
                 told.append(kept.removeprefix("on a condition: "))
-            for words in told:
-                self.assertIn(words, shown, routine.name)
+            for sentence in told:
+                self.assertIn(sentence, shown, routine.name)
 
     def test_words_of_the_trade_are_found(self):
         words = ("hole fillet tangent inside local member bending buckling modulus plastic torsion "
@@ -238,9 +238,9 @@ class Truths(unittest.TestCase):
 class Shown(unittest.TestCase):
     def test_pieces_of_generated_pages(self):
         for name, pieces in {
-            "reference/plane": ["Argument Kind Meaning a1, b1, c1 in, Real first line", "status out, Integer "
-                                "relation: see below x, y out, Real point ", "Unwritten x, y: if status is"
-                                " 1 or 2 Retains nothing trvlul#"],
+            "reference/plane": ["Argument Kind Meaning a1, b1, c1 in, Real first line",
+                                "status out, Integer relation: see below x, y out, Real point ",
+                                "Unwritten x, y: if status is 1 or 2 Retains nothing trvlul#"],
             "reference/statuses": ["Routine Output Value Meaning Name trvlci n 0 ",
                                    "2 the lines are parallel and distinct trv_plane_lines_parallel"],
             "reference/words": ["fillet Round a corner: fillet, tangent arc, trvard "],
@@ -272,10 +272,10 @@ class Checked(unittest.TestCase):
             self.assertEqual(facts.difference(text, fact) is None, agrees, (text, fact))
 
     def test_what_needs_a_fact(self):
-        for text, words in (("to the left, 3.5 mm up", ["left", "3.5"]), ("P1 by EN 1993-1-5", []),
+        for text, found in (("to the left, 3.5 mm up", ["left", "3.5"]), ("P1 by EN 1993-1-5", []),
                             ("a right angle at axis 1", []), ("towards +y", ["+y"]),
                             ("Table 4.1: 1e-5 radians", ["1e-5", "radians"])):
-            self.assertEqual(facts.careful(text), words)
+            self.assertEqual(facts.careful(text), found)
 
     def test_words_of_the_index_occur_where_they_lead_to(self):
         entries = [("fillet", ["corner"], ["trvard", "trvlds"]), ("purlin", [""], ["trvsec_c"])]
@@ -325,7 +325,7 @@ class Tasks(unittest.TestCase):
     def test_elements_count_from_where_the_language_does(self):
         task = self.read("reals x[3] = 1 2 3", "print second: x[2] .1")
         for language in languages.ALL:
-            line = next(l for l in language.program(task).splitlines() if "second" in l)
+            line = next(each for each in language.program(task).splitlines() if "second" in each)
             self.assertIn("x(2)" if language.name in ("Fortran", "Basic") else "x[1]", line)
 
 

@@ -31,7 +31,7 @@ def scratch(test):
 def build_host(folder, installed, *options):
     """The example as a CMake project of its own."""
     output("cmake", "-G", "Ninja", "-S", ROOT / "tests" / "packages" / "host", "-B", folder,
-           f"-DCMAKE_PREFIX_PATH={installed}", *options)  # fmt: skip
+           f"-DCMAKE_PREFIX_PATH={installed}", *options)
     output("cmake", "--build", folder)
 
 
@@ -50,7 +50,7 @@ class Debian(unittest.TestCase):
         folder = self.unpack()
         build_host(self.root / "cmake", self.root / "usr")
         flags = output("pkg-config", "--cflags", "--libs", "trelvin",
-                       PKG_CONFIG_PATH=str(folder / "pkgconfig"))  # fmt: skip
+                       PKG_CONFIG_PATH=str(folder / "pkgconfig"))
         output("gcc", SOURCE, *flags.split(), "-lm", "-o", self.root / "girder")
         self.assertEqual(output(self.root / "cmake" / "girder"), TABLE)
         self.assertEqual(output(self.root / "girder", LD_LIBRARY_PATH=str(folder)), TABLE)
@@ -58,7 +58,7 @@ class Debian(unittest.TestCase):
     def test_programs_run_with_the_library_alone(self):
         folder = self.unpack()
         output("gcc", SOURCE, f"-I{self.root}/usr/include", f"-L{folder}", "-ltrelvin", "-lm",
-               "-o", self.root / "girder")  # fmt: skip
+               "-o", self.root / "girder")
         shutil.rmtree(self.root / "usr")
         output("dpkg", "-x", self.pair[0], self.root)
         self.assertEqual(output(self.root / "girder", LD_LIBRARY_PATH=str(folder)), TABLE)
@@ -108,7 +108,7 @@ class Python(unittest.TestCase):
     def test_a_host_prints_the_table(self):
         site = scratch(self)
         output(sys.executable, "-m", "pip", "-q", "install", "--no-index", "--no-deps",
-               "--root-user-action=ignore", "--target", site, package("trelvin-*.whl"))  # fmt: skip
+               "--root-user-action=ignore", "--target", site, package("trelvin-*.whl"))
         host = ROOT / "examples" / "python" / "girder.py"
         self.assertEqual(output(sys.executable, host, PYTHONPATH=str(site)), TABLE)
 

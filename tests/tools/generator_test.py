@@ -71,16 +71,16 @@ class Reading(unittest.TestCase):
         self.assertEqual(routine.retains, [("the last sum", "trvsum"), ("the first one", "trvsum")])
         terms, n, x, y, s, code = routine.arguments
         self.assertEqual((terms.size.cpp(routine.positions), terms.meaning),
-                         (["count(1) + 1"], "terms, all of them"))  # fmt: skip
+                         (["count(1) + 1"], "terms, all of them"))
         self.assertEqual((n.least, n.values), (2, None))
         self.assertEqual((x.kept.name, x.kept.numbers, x.kept.further), ("s", (-1,), 2))
         self.assertEqual((x.meaning, y.kept), ("point", x.kept))
         self.assertEqual([(v.number, v.name, v.meaning) for v in s.values.values],
-                         [(1, "up", "upwards, as a rule"), (-1, "down", "it went down")])  # fmt: skip
+                         [(1, "up", "upwards, as a rule"), (-1, "down", "it went down")])
         self.assertEqual((s.values.further, s.values.ranges), (2, ["2 to n: place"]))
         self.assertEqual((code.kept.name, code.kept.less_than), ("n", 1))
         self.assertEqual([e.upper(e.values[0]) for e in interface.enumerations()],
-                         ["TRV_WAY_UP", "TRVSUM_DONE"])  # fmt: skip
+                         ["TRV_WAY_UP", "TRVSUM_DONE"])
         self.assertTrue(s.always_written and not code.always_written)
 
     def test_what_has_no_form_is_told_with_its_line(self):
@@ -210,11 +210,11 @@ WRITTEN = {
         real(c_float), intent(inout) :: x, y integer(c_int32_t), intent(out) :: s
         integer(c_int32_t), intent(inout) :: code""",
     "bindings/pascal/trelvin.pas": "var x, y: Single; out s: LongInt; var code: LongInt);",
-    "bindings/csharp/Trelvin.cs": "trvsum([In] float[] A, ref int n, ref float x, ref float y, ref int s,",
+    "bindings/csharp/Trelvin.cs": "([In] float[] A, ref int n, ref float x, ref float y, ref int s,",
     "bindings/basic/Trelvin.bas": "Public Const trvsumOdd As Long = 3",
     "bindings/node/trelvin.mjs": """routine("trvsum", ["in real A[n+1]", "in int n >= 2",
         "inout real x", "inout real y",""",
-    "bindings/python/trelvin/_routines.py": """x: float y: float s: TrvWay | int code: TrvsumCode | int""",
+    "bindings/python/trelvin/_routines.py": "x: float y: float s: TrvWay | int code: TrvsumCode | int",
     "bindings/trelvin.json": """"unwritten": {"text": "unchanged unless s is 1", "argument": "s",
         "values": [-1], "from": 2}""",
     "docs/routines.md": "| `trvsum` | A n x y s code | Adds, in two lines. |",

@@ -1,51 +1,51 @@
-'use strict';
+"use strict";
 // A section as calls of the library, in the language of a host: a program that prints its area,
 // centroid and second moments about it. Where a routine gives the profile's outline, the program
 // calls that one with the dimensions, else it has the parts written out.
 
-const BY_PARTS = ['b', 'l', 'rolled'];
-const BEHIND = ['z1', 'z2', 'z3', 'z4', 'z5', 'q1', 'q2']; // what else comes with each polygon
+const BY_PARTS = ["b", "l", "rolled"];
+const BEHIND = ["z1", "z2", "z3", "z4", "z5", "q1", "q2"]; // what else comes with each polygon
 
 // A list, broken into lines with an indent.
-function listed(items, indent, end = '') {
-  const rows = [''];
+function listed(items, indent, end = "") {
+  const rows = [""];
   items.forEach((item, i) => {
-    const text = item + (i + 1 < items.length ? ', ' : '');
+    const text = item + (i + 1 < items.length ? ", " : "");
     if (indent + rows.at(-1).length + text.length > 96) {
-      rows.push(`${rows.pop().trimEnd()}${end}`, '');
+      rows.push(`${rows.pop().trimEnd()}${end}`, "");
     }
     rows.push(rows.pop() + text);
   });
-  return rows.join(`\n${' '.repeat(indent)}`);
+  return rows.join(`\n${" ".repeat(indent)}`);
 }
 
 // The call's arguments: dimensions, q, and the outputs as the language writes an array.
-const argumentsOf = (s, array, input = (name) => name, output = (name) => name) => [
+const argumentsOf = (s, array, input = name => name, output = name => name) => [
   ...s.names.map(input),
-  input('q'),
-  output('np'),
-  ...['nv', 'x', 'y', 'code', 'sign', ...BEHIND].map(array),
+  input("q"),
+  output("np"),
+  ...["nv", "x", "y", "code", "sign", ...BEHIND].map(array),
 ];
-const valuesOf = (s, value = (word) => word) => [
+const valuesOf = (s, value = word => word) => [
   ...s.names.map((name, i) => `${name} = ${value(s.dimensions[i])}`),
-  `q = ${value('0')}`,
+  `q = ${value("0")}`,
 ];
-const same = (name) => name;
-const withPoint = (number) => (number.includes('.') ? number : `${number}.0`);
+const same = name => name;
+const withPoint = number => (number.includes(".") ? number : `${number}.0`);
 
 // Each takes a section: its title, profile, names and dimensions, and its parts with kind, factor,
 // x and y.
 const LANGUAGES = {
-  C: (s) => {
+  C: s => {
     const call = () => `  const float ${listed(valuesOf(s), 14)};
   int32_t np, nv[3], code[3];
-  float x[20], y[20], sign[3], ${BEHIND.map((name) => `${name}[3]`).join(', ')};
+  float x[20], y[20], sign[3], ${BEHIND.map(name => `${name}[3]`).join(", ")};
   trvsec_${s.profile}(${listed(
     argumentsOf(
       s,
       same,
-      (name) => `&${name}`,
-      (name) => `&${name}`,
+      name => `&${name}`,
+      name => `&${name}`,
     ),
     6,
   )});
@@ -53,7 +53,7 @@ const LANGUAGES = {
     add(code[i], sign[i], nv[i], x + from, y + from);
   }
 `;
-    const part = (p) => `  add(${p.kind}, ${p.factor}, ${p.x.length}, (float[]){${listed(p.x, 6)}},
+    const part = p => `  add(${p.kind}, ${p.factor}, ${p.x.length}, (float[]){${listed(p.x, 6)}},
       (float[]){${listed(p.y, 6)}});
 `;
     return `/* ${s.title} */
@@ -82,7 +82,7 @@ static void add(int32_t kind, float factor, int32_t n, const float *x, const flo
 }
 
 int main(void) {
-${s.isByParts ? s.parts.map(part).join('') : call()}
+${s.isByParts ? s.parts.map(part).join("") : call()}
   printf("A  %.7g mm2\\n", A);
   printf("xs %.7g mm\\nys %.7g mm\\n", Sy / A, Sx / A);
   printf("Ix %.7g mm4\\nIy %.7g mm4\\n", Ix - Sx * Sx / A, Iy - Sy * Sy / A);
@@ -91,21 +91,20 @@ ${s.isByParts ? s.parts.map(part).join('') : call()}
 `;
   },
 
-  Fortran: (s) => {
-    const declared = () => `  real(rk), parameter :: ${listed(valuesOf(s), 25, ' &')}
+  Fortran: s => {
+    const declared = () => `  real(rk), parameter :: ${listed(valuesOf(s), 25, " &")}
   integer(c_int32_t) :: np, nv(3), code(3), i, first = 1
-  real(rk) :: x(20), y(20), sign(3), ${BEHIND.map((name) => `${name}(3)`).join(', ')}
+  real(rk) :: x(20), y(20), sign(3), ${BEHIND.map(name => `${name}(3)`).join(", ")}
 `;
-    const call = () => `  call trvsec_${s.profile}(${listed(argumentsOf(s, same), 6, ' &')})
+    const call = () => `  call trvsec_${s.profile}(${listed(argumentsOf(s, same), 6, " &")})
   do i = 1, np
     call add(code(i), sign(i), x(first:first + nv(i) - 1), y(first:first + nv(i) - 1))
     first = first + nv(i)
   end do
 `;
-    const part = (
-      p,
-    ) => `  call add(${p.kind}, ${withPoint(p.factor)}, [real(rk) :: ${listed(p.x, 11, ' &')}], &
-           [real(rk) :: ${listed(p.y, 11, ' &')}])
+    const part =
+      p => `  call add(${p.kind}, ${withPoint(p.factor)}, [real(rk) :: ${listed(p.x, 11, " &")}], &
+           [real(rk) :: ${listed(p.y, 11, " &")}])
 `;
     return `! ${s.title}
 program section
@@ -114,8 +113,8 @@ program section
 
   integer, parameter :: rk = c_float, dp = kind(1.0d0)
   real(dp) :: A = 0, Sx = 0, Sy = 0, Ix = 0, Iy = 0
-${s.isByParts ? '' : declared()}
-${s.isByParts ? s.parts.map(part).join('') : call()}
+${s.isByParts ? "" : declared()}
+${s.isByParts ? s.parts.map(part).join("") : call()}
   print "(a, g0, a)", "A  ", A, " mm2", "xs ", Sy / A, " mm", "ys ", Sx / A, " mm"
   print "(a, g0, a)", "Ix ", Ix - Sx * Sx / A, " mm4", "Iy ", Iy - Sy * Sy / A, " mm4"
 
@@ -143,20 +142,20 @@ end program
 `;
   },
 
-  Pascal: (s) => {
+  Pascal: s => {
     const declared = () => `
 const
 ${valuesOf(s)
-  .map((value) => `  ${value};\n`)
-  .join('')}
+  .map(value => `  ${value};\n`)
+  .join("")}
 var
   np, i, first: LongInt;
   nv, code: array[0..2] of LongInt;
   x, y: array[0..19] of Single;
-  ${['sign', ...BEHIND].join(', ')}: array[0..2] of Single;
+  ${["sign", ...BEHIND].join(", ")}: array[0..2] of Single;
 `;
     const call = () => `  trvsec_${s.profile}(${listed(
-      argumentsOf(s, (name) => `${name}[0]`),
+      argumentsOf(s, name => `${name}[0]`),
       4,
     )});
   first := 0;
@@ -166,7 +165,7 @@ var
     first := first + nv[i];
   end;
 `;
-    const part = (p) => `  Add(${p.kind}, ${p.factor}, ${p.x.length}, 0, [${listed(p.x, 4)}],
+    const part = p => `  Add(${p.kind}, ${p.factor}, ${p.x.length}, 0, [${listed(p.x, 4)}],
     [${listed(p.y, 4)}]);
 `;
     return `{ ${s.title} }
@@ -195,9 +194,9 @@ begin
   Ix := Ix + jx;
   Iy := Iy + jy;
 end;
-${s.isByParts ? '' : declared()}
+${s.isByParts ? "" : declared()}
 begin
-${s.isByParts ? s.parts.map(part).join('') : call()}
+${s.isByParts ? s.parts.map(part).join("") : call()}
   WriteLn('A  ', A, ' mm2');
   WriteLn('xs ', Sy / A, ' mm');
   WriteLn('ys ', Sx / A, ' mm');
@@ -207,32 +206,31 @@ end.
 `;
   },
 
-  Basic: (s) => {
+  Basic: s => {
     const call = () => `${valuesOf(s)
-      .map((value) => `    Const ${value.replace(' =', ' As Single =')}\n`)
+      .map(value => `    Const ${value.replace(" =", " As Single =")}\n`)
       .join(
-        '',
+        "",
       )}    Dim np As Long, nv(0 To 2) As Long, code(0 To 2) As Long, i As Long, first As Long
     Dim x(0 To 19) As Single, y(0 To 19) As Single, sign(0 To 2) As Single
     Dim ${listed(
-      BEHIND.map((name) => `${name}(0 To 2) As Single`),
+      BEHIND.map(name => `${name}(0 To 2) As Single`),
       8,
-      ' _',
+      " _",
     )}
     trvsec_${s.profile} ${listed(
-      argumentsOf(s, (name) => `${name}(0)`),
+      argumentsOf(s, name => `${name}(0)`),
       8,
-      ' _',
+      " _",
     )}
     For i = 0 To np - 1
         AddPart code(i), sign(i), nv(i), first, x, y
         first = first + nv(i)
     Next i
 `;
-    const part = (
-      p,
-    ) => `    AddPart ${p.kind}, ${p.factor}, ${p.x.length}, 0, Array(${listed(p.x, 8, ' _')}), _
-        Array(${listed(p.y, 8, ' _')})
+    const part =
+      p => `    AddPart ${p.kind}, ${p.factor}, ${p.x.length}, 0, Array(${listed(p.x, 8, " _")}), _
+        Array(${listed(p.y, 8, " _")})
 `;
     return `' ${s.title}
 Option Explicit
@@ -241,7 +239,7 @@ Private A As Double, Sx As Double, Sy As Double, Ix As Double, Iy As Double
 
 Public Sub PrintSection()
     A = 0: Sx = 0: Sy = 0: Ix = 0: Iy = 0
-${s.isByParts ? s.parts.map(part).join('') : call()}    Debug.Print "A  "; A; " mm2"
+${s.isByParts ? s.parts.map(part).join("") : call()}    Debug.Print "A  "; A; " mm2"
     Debug.Print "xs "; Sy / A; " mm"
     Debug.Print "ys "; Sx / A; " mm"
     Debug.Print "Ix "; Ix - Sx * Sx / A; " mm4"
@@ -269,32 +267,32 @@ End Sub
 `;
   },
 
-  'C#': (s) => {
+  "C#": s => {
     const call = () => `        const float ${listed(
-      valuesOf(s, (word) => `${word}f`),
+      valuesOf(s, word => `${word}f`),
       12,
     )};
         int np;
         int[] nv = new int[3], code = new int[3];
         float[] x = new float[20], y = new float[20], sign = new float[3];
         float[] ${listed(
-          BEHIND.map((name) => `${name} = new float[3]`),
+          BEHIND.map(name => `${name} = new float[3]`),
           12,
         )};
         Native.trvsec_${s.profile}(${listed(
-          argumentsOf(s, same, same, (name) => `out ${name}`),
+          argumentsOf(s, same, same, name => `out ${name}`),
           12,
         )});
         for (int i = 0, first = 0; i < np; first += nv[i++])
             Add(code[i], sign[i], nv[i], first, x, y);
 `;
-    const part = (p) => `        Add(${p.kind}, ${p.factor}, ${p.x.length}, 0,
+    const part = p => `        Add(${p.kind}, ${p.factor}, ${p.x.length}, 0,
             new float[] {${listed(
-              p.x.map((x) => `${x}f`),
+              p.x.map(x => `${x}f`),
               16,
             )}},
             new float[] {${listed(
-              p.y.map((y) => `${y}f`),
+              p.y.map(y => `${y}f`),
               16,
             )}});
 `;
@@ -325,7 +323,7 @@ static class Section
 
     static void Main()
     {
-${s.isByParts ? s.parts.map(part).join('') : call()}
+${s.isByParts ? s.parts.map(part).join("") : call()}
         Console.WriteLine(FormattableString.Invariant($"A  {A:G7} mm2"));
         Console.WriteLine(FormattableString.Invariant($"xs {Sy / A:G7} mm"));
         Console.WriteLine(FormattableString.Invariant($"ys {Sx / A:G7} mm"));
@@ -336,9 +334,9 @@ ${s.isByParts ? s.parts.map(part).join('') : call()}
 `;
   },
 
-  Python: (s) => {
+  Python: s => {
     const call = () => `outline = trelvin.trvsec_${s.profile}(${listed(
-      valuesOf(s).map((value) => value.replace(' = ', '=')),
+      valuesOf(s).map(value => value.replace(" = ", "=")),
       4,
     )})
 first = 0
@@ -346,7 +344,7 @@ for kind, factor, n in zip(outline.code, outline.sign, outline.nv):
     add(kind, factor, outline.X[first : first + n], outline.Y[first : first + n])
     first += n
 `;
-    const part = (p) => `add(${p.kind}, ${p.factor}, [${listed(p.x, 4)}],
+    const part = p => `add(${p.kind}, ${p.factor}, [${listed(p.x, 4)}],
     [${listed(p.y, 4)}])
 `;
     return `# ${s.title}
@@ -367,7 +365,7 @@ def add(kind, factor, x, y):
     Iy += second.iy
 
 
-${s.isByParts ? s.parts.map(part).join('') : call()}
+${s.isByParts ? s.parts.map(part).join("") : call()}
 print(f"A  {A:.7g} mm2")
 print(f"xs {Sy / A:.7g} mm")
 print(f"ys {Sx / A:.7g} mm")
@@ -376,15 +374,15 @@ print(f"Iy {Iy - Sy * Sy / A:.7g} mm4")
 `;
   },
 
-  JavaScript: (s) => {
+  JavaScript: s => {
     const call = () => `const ${listed(valuesOf(s), 2)};
-const outline = trelvin.trvsec_${s.profile}(${listed([...s.names, 'q'], 2)});
+const outline = trelvin.trvsec_${s.profile}(${listed([...s.names, "q"], 2)});
 for (let i = 0, from = 0; i < outline.np; from += outline.nv[i++]) {
   const to = from + outline.nv[i];
   add(outline.code[i], outline.sign[i], outline.X.slice(from, to), outline.Y.slice(from, to));
 }
 `;
-    const part = (p) => `add(${p.kind}, ${p.factor}, [${listed(p.x, 2)}],
+    const part = p => `add(${p.kind}, ${p.factor}, [${listed(p.x, 2)}],
   [${listed(p.y, 2)}]);
 `;
     return `// ${s.title}
@@ -403,7 +401,7 @@ function add(kind, factor, x, y) {
   Iy += second.iy;
 }
 
-${s.isByParts ? s.parts.map(part).join('') : call()}
+${s.isByParts ? s.parts.map(part).join("") : call()}
 console.log("A ", A.toPrecision(7), "mm2");
 console.log("xs", (Sy / A).toPrecision(7), "mm");
 console.log("ys", (Sx / A).toPrecision(7), "mm");
@@ -418,6 +416,6 @@ function callsIn(language, profile, section) {
     ...section,
     names: profile.dimensions,
     isByParts: BY_PARTS.includes(profile.name),
-    title: `${profile.name} ${section.dimensions.join(' ')}: ${profile.description}, in mm`,
+    title: `${profile.name} ${section.dimensions.join(" ")}: ${profile.description}, in mm`,
   });
 }

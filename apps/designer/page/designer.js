@@ -1,36 +1,36 @@
-'use strict';
+"use strict";
 // The page: fields to the compiled code, texts from it to the page. The state is in the address.
 
 const START = {
-  ia: '400 300 200 20 15 10',
-  h: '400 300 200 20 15 10',
-  i: '400 300 200 20 15 10 8 6 20',
-  t: '150 200 12 8',
-  b: '200 15',
-  c: '200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2',
-  h1b: '320 300 280 12 14 10 20',
-  box: '3000 2000 20 25 1500 12 1600',
-  rhs: '100 200 8',
-  l: '100 100 10 12',
-  l2: '90 120 10 9 11',
-  tab: '600 400 350 40 25 12 20',
-  h2b: '400 300 500 12 14 10 20',
-  rolled: '300 150 7.1 10.7 15',
+  ia: "400 300 200 20 15 10",
+  h: "400 300 200 20 15 10",
+  i: "400 300 200 20 15 10 8 6 20",
+  t: "150 200 12 8",
+  b: "200 15",
+  c: "200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2",
+  h1b: "320 300 280 12 14 10 20",
+  box: "3000 2000 20 25 1500 12 1600",
+  rhs: "100 200 8",
+  l: "100 100 10 12",
+  l2: "90 120 10 9 11",
+  tab: "600 400 350 40 25 12 20",
+  h2b: "400 300 500 12 14 10 20",
+  rolled: "300 150 7.1 10.7 15",
 };
-const FIRST = 'rolled';
-const startOf = (each) => START[each.name].split(' ');
+const FIRST = "rolled";
+const startOf = each => START[each.name].split(" ");
 
 // Of the figures, by heading and symbol, those that stand under the picture.
 const MAIN = [
-  ['Area', 'A'],
-  ['Second moments, centroid', 'Ix'],
-  ['Second moments, centroid', 'Iy'],
-  ['Elastic moduli', 'Wx1'],
-  ['Plastic moduli', 'Wpx'],
-  ['Torsion constant', 'It'],
+  ["Area", "A"],
+  ["Second moments, centroid", "Ix"],
+  ["Second moments, centroid", "Iy"],
+  ["Elastic moduli", "Wx1"],
+  ["Plastic moduli", "Wpx"],
+  ["Torsion constant", "It"],
 ];
 
-const element = (id) => document.getElementById(id);
+const element = id => document.getElementById(id);
 
 function make(tag, attributes = {}, ...children) {
   const made = document.createElement(tag);
@@ -39,11 +39,10 @@ function make(tag, attributes = {}, ...children) {
   return made;
 }
 
-const withPowers = (unit) =>
-  unit.replace(/\d/, (digit) => ({ 2: '²', 3: '³', 4: '⁴', 6: '⁶' })[digit]);
-const drawn = (picture) => picture.slice(picture.indexOf('<svg'));
+const withPowers = unit => unit.replace(/\d/, digit => ({2: "²", 3: "³", 4: "⁴", 6: "⁶"})[digit]);
+const drawn = picture => picture.slice(picture.indexOf("<svg"));
 
-const CROPPED = window.matchMedia('(max-width: 1100px)'); // as designer.css
+const CROPPED = window.matchMedia("(max-width: 1100px)"); // as designer.css
 
 let engine;
 let profile; // the chosen one
@@ -52,14 +51,14 @@ const typed = {}; // the words in the fields, by profile
 
 // Fields -----------------------------------------------------------------------------------------
 
-const field = (name) => element(`dimension-${name}`);
-const slider = (name) => element(`slider-${name}`);
-const valueOf = (word) => Number(word.replace(',', '.'));
+const field = name => element(`dimension-${name}`);
+const slider = name => element(`slider-${name}`);
+const numberIn = word => Number(word.replace(",", "."));
 
 // A slider reaches from nothing to well beyond the value that its profile starts with, or beyond a
 // larger one that is typed. It does not move under the hand that drags it.
 function setReach(name, value) {
-  const start = valueOf(startOf(profile)[profile.dimensions.indexOf(name)]);
+  const start = numberIn(startOf(profile)[profile.dimensions.indexOf(name)]);
   const reach = 2.5 * (value > 2.5 * start ? value : start);
   const step = 10 ** Math.floor(Math.log10(reach / 150));
   const control = slider(name);
@@ -69,7 +68,7 @@ function setReach(name, value) {
 }
 
 function showValue(name, word) {
-  const value = valueOf(word);
+  const value = numberIn(word);
   if (!Number.isFinite(value)) return;
   setReach(name, value);
   slider(name).value = value;
@@ -78,9 +77,9 @@ function showValue(name, word) {
 function stepField(name, steps) {
   const step = Number(slider(name).step);
   const word = field(name).value;
-  const value = valueOf(word);
-  if (word.trim() === '' || !Number.isFinite(value)) return;
-  const decimals = Math.max(...[word, String(step)].map((w) => (w.split(/[.,]/)[1] ?? '').length));
+  const value = numberIn(word);
+  if (word.trim() === "" || !Number.isFinite(value)) return;
+  const decimals = Math.max(...[word, String(step)].map(w => (w.split(/[.,]/)[1] ?? "").length));
   const stepped = Math.max(value + steps * step, Number(slider(name).min));
   field(name).value = String(Number(stepped.toFixed(decimals)));
   showValue(name, field(name).value);
@@ -88,49 +87,49 @@ function stepField(name, steps) {
 }
 
 function onKey(event, name) {
-  const steps = { ArrowUp: 1, ArrowDown: -1, PageUp: 10, PageDown: -10 }[event.key];
+  const steps = {ArrowUp: 1, ArrowDown: -1, PageUp: 10, PageDown: -10}[event.key];
   if (steps === undefined || event.altKey || event.ctrlKey || event.metaKey) return;
   event.preventDefault();
   stepField(name, event.shiftKey ? 10 * Math.sign(steps) : steps);
 }
 
 function makeField(name, word) {
-  const text = make('input', {
+  const text = make("input", {
     id: `dimension-${name}`,
-    type: 'text',
-    inputmode: 'decimal',
-    spellcheck: 'false',
-    'aria-describedby': `fault-${name}`,
+    type: "text",
+    inputmode: "decimal",
+    spellcheck: "false",
+    "aria-describedby": `fault-${name}`,
   });
-  const drag = make('input', {
+  const drag = make("input", {
     id: `slider-${name}`,
-    type: 'range',
-    'aria-label': `${name}, slider`,
-    'aria-describedby': `fault-${name}`,
+    type: "range",
+    "aria-label": `${name}, slider`,
+    "aria-describedby": `fault-${name}`,
   });
   text.value = word;
-  text.addEventListener('input', () => {
+  text.addEventListener("input", () => {
     showValue(name, text.value);
     update(name);
   });
-  text.addEventListener('keydown', (event) => onKey(event, name));
-  drag.addEventListener('input', () => {
+  text.addEventListener("keydown", event => onKey(event, name));
+  drag.addEventListener("input", () => {
     text.value = drag.value;
     update(name);
   });
   return make(
-    'div',
-    { class: 'dimension' },
-    make('label', { for: text.id }, name),
+    "div",
+    {class: "dimension"},
+    make("label", {for: text.id}, name),
     text,
     drag,
-    make('p', { id: `fault-${name}`, class: 'fault' }),
+    make("p", {id: `fault-${name}`, class: "fault"}),
   );
 }
 
 function makeFields(words) {
-  const legend = element('dimensions').firstElementChild;
-  element('dimensions').replaceChildren(
+  const legend = element("dimensions").firstElementChild;
+  element("dimensions").replaceChildren(
     legend,
     ...profile.dimensions.map((name, i) => makeField(name, words[i])),
   );
@@ -147,68 +146,68 @@ function makeFields(words) {
 function showRefusal(message, changed) {
   const names = profile.dimensions;
   const owner =
-    names.find((name) => message.startsWith(`${name} = `)) ??
+    names.find(name => message.startsWith(`${name} = `)) ??
     changed ??
-    message.split(/\W+/).find((word) => names.includes(word)) ??
+    message.split(/\W+/).find(word => names.includes(word)) ??
     names[0];
   for (const name of names) {
-    const isOwner = message !== '' && name === owner;
-    element(`fault-${name}`).textContent = isOwner ? message : '';
+    const isOwner = message !== "" && name === owner;
+    element(`fault-${name}`).textContent = isOwner ? message : "";
     for (const control of [field(name), slider(name)])
-      control.setAttribute('aria-invalid', isOwner);
+      control.setAttribute("aria-invalid", isOwner);
   }
-  element('stale').hidden = message === '';
-  element('result').classList.toggle('stale', message !== '');
+  element("stale").hidden = message === "";
+  element("result").classList.toggle("stale", message !== "");
 }
 
 function showFigures() {
-  let heading = '';
+  let heading = "";
   const main = [];
   const rows = section.figures.map(([start, symbol, value, unit, otherValue, otherUnit]) => {
     heading = start || heading;
     if (MAIN.some(([a, b]) => heading.startsWith(a) && symbol === b)) {
       main.push(
         make(
-          'div',
+          "div",
           {},
-          make('dt', {}, symbol),
-          make('dd', {}, `${otherValue} ${withPowers(otherUnit)}`),
+          make("dt", {}, symbol),
+          make("dd", {}, `${otherValue} ${withPowers(otherUnit)}`),
         ),
       );
     }
     const number = (figure, of) =>
       make(
-        'td',
-        { class: 'number' },
+        "td",
+        {class: "number"},
         figure,
-        ' ',
-        make('span', { class: 'unit' }, ` ${withPowers(of)}`),
+        " ",
+        make("span", {class: "unit"}, ` ${withPowers(of)}`),
       );
     return make(
-      'tr',
-      start ? { class: 'first' } : {},
-      make('th', { scope: 'row' }, start),
-      make('td', { class: 'symbol' }, symbol),
+      "tr",
+      start ? {class: "first"} : {},
+      make("th", {scope: "row"}, start),
+      make("td", {class: "symbol"}, symbol),
       number(value, unit),
       number(otherValue, otherUnit),
     );
   });
-  element('rows').replaceChildren(...rows);
-  element('main-figures').replaceChildren(...main);
-  element('remarks').textContent = section.remarks;
+  element("rows").replaceChildren(...rows);
+  element("main-figures").replaceChildren(...main);
+  element("remarks").textContent = section.remarks;
 }
 
 const TAKEN = {
   JSON: () => section.json,
   SVG: () => section.picture,
-  'command line': () => `section_properties ${section.profile} ${section.dimensions.join(' ')}\n`,
+  "command line": () => `section_properties ${section.profile} ${section.dimensions.join(" ")}\n`,
 };
 for (const language of Object.keys(LANGUAGES)) {
   TAKEN[`calls in ${language}`] = () => callsIn(language, profile, section);
 }
 
 const showText = () => {
-  element('text').textContent = TAKEN[element('format').value]();
+  element("text").textContent = TAKEN[element("format").value]();
 };
 
 // Screen readers are told once the hand rests.
@@ -216,35 +215,35 @@ let telling;
 function tell(message) {
   clearTimeout(telling);
   telling = setTimeout(() => {
-    const figures = [...element('main-figures').children].map((item) =>
-      [...item.children].map((part) => part.textContent).join(' '),
+    const figures = [...element("main-figures").children].map(item =>
+      [...item.children].map(part => part.textContent).join(" "),
     );
-    element('told').textContent = message || figures.join(', ');
+    element("told").textContent = message || figures.join(", ");
   }, 500);
 }
 
 // Browsers refuse an address that changes many times a second.
 let addressing;
-const address = () => `#${[section.profile, ...section.dimensions].join('/')}`;
+const address = () => `#${[section.profile, ...section.dimensions].join("/")}`;
 function setAddress() {
   clearTimeout(addressing);
-  addressing = setTimeout(() => history.replaceState(null, '', address()), 300);
+  addressing = setTimeout(() => history.replaceState(null, "", address()), 300);
 }
 
 function update(changed) {
-  element('link-fault').textContent = '';
-  typed[profile.name] = profile.dimensions.map((name) => field(name).value);
+  element("link-fault").textContent = "";
+  typed[profile.name] = profile.dimensions.map(name => field(name).value);
   const designed = engine.design(profile.name, typed[profile.name]);
   showRefusal(designed.refusal, changed);
   tell(designed.refusal);
-  if (designed.refusal !== '') return;
+  if (designed.refusal !== "") return;
   show(designed);
   setAddress();
 }
 
 function show(designed) {
   section = designed;
-  element('picture').innerHTML = drawn(section.picture);
+  element("picture").innerHTML = drawn(section.picture);
   fitPicture();
   showFigures();
   showText();
@@ -252,16 +251,15 @@ function show(designed) {
 
 // On a narrow screen only the drawing itself: title, legend and white margins stay away.
 function fitPicture() {
-  const svg = element('picture').firstElementChild;
-  svg.removeAttribute('height');
-  svg.setAttribute('width', '100%');
-  svg.setAttribute('role', 'img');
+  const svg = element("picture").firstElementChild;
+  svg.removeAttribute("height");
+  svg.setAttribute("width", "100%");
+  svg.setAttribute("role", "img");
   if (!CROPPED.matches) return;
-  svg
-    .querySelectorAll(':scope > text, :scope > g[text-anchor="start"], :scope > rect')
-    .forEach((part) => part.remove());
-  const { x, y, width, height } = svg.getBBox();
-  svg.setAttribute('viewBox', [x - 10, y - 10, width + 20, height + 20].join(' '));
+  const words = ':scope > text, :scope > g[text-anchor="start"], :scope > rect';
+  for (const part of svg.querySelectorAll(words)) part.remove();
+  const {x, y, width, height} = svg.getBBox();
+  svg.setAttribute("viewBox", [x - 10, y - 10, width + 20, height + 20].join(" "));
 }
 
 // Profiles and links -----------------------------------------------------------------------------
@@ -270,9 +268,9 @@ function choose(chosen, words) {
   profile = chosen;
   const radio = document.querySelector(`input[value="${profile.name}"]`);
   radio.checked = true;
-  const strip = element('profiles'); // on a narrow screen
+  const strip = element("profiles"); // on a narrow screen
   strip.scrollLeft = radio.parentElement.offsetLeft - strip.clientWidth / 2;
-  element('description').textContent = profile.description;
+  element("description").textContent = profile.description;
   makeFields(words);
   update();
   if (section?.profile === profile.name) return;
@@ -282,15 +280,15 @@ function choose(chosen, words) {
 
 function makeChooser() {
   for (const each of engine.profiles) {
-    const radio = make('input', {
-      type: 'radio',
-      name: 'profile',
+    const radio = make("input", {
+      type: "radio",
+      name: "profile",
       value: each.name,
-      'aria-label': `${each.name}: ${each.description}`,
+      "aria-label": `${each.name}: ${each.description}`,
     });
-    radio.addEventListener('change', () => choose(each, typed[each.name] ?? startOf(each)));
-    element('profiles').append(
-      make('label', { title: each.description }, radio, make('span', {}, each.name)),
+    radio.addEventListener("change", () => choose(each, typed[each.name] ?? startOf(each)));
+    element("profiles").append(
+      make("label", {title: each.description}, radio, make("span", {}, each.name)),
     );
   }
 }
@@ -299,18 +297,18 @@ function makeChooser() {
 function drawIcons() {
   for (const each of engine.profiles) {
     const radio = document.querySelector(`input[value="${each.name}"]`);
-    radio.insertAdjacentHTML('afterend', drawn(engine.design(each.name, startOf(each)).picture));
+    radio.insertAdjacentHTML("afterend", drawn(engine.design(each.name, startOf(each)).picture));
     const svg = radio.nextElementSibling;
-    const steel = svg.querySelector('path[fill-rule]');
-    const { x, y, width, height } = steel.getBBox();
+    const steel = svg.querySelector("path[fill-rule]");
+    const {x, y, width, height} = steel.getBBox();
     const side = 1.2 * Math.max(width, height);
     svg.setAttribute(
-      'viewBox',
-      [x + (width - side) / 2, y + (height - side) / 2, side, side].join(' '),
+      "viewBox",
+      [x + (width - side) / 2, y + (height - side) / 2, side, side].join(" "),
     );
-    svg.setAttribute('aria-hidden', 'true');
-    for (const name of ['width', 'height']) svg.removeAttribute(name);
-    for (const name of ['fill', 'stroke']) steel.removeAttribute(name);
+    svg.setAttribute("aria-hidden", "true");
+    for (const name of ["width", "height"]) svg.removeAttribute(name);
+    for (const name of ["fill", "stroke"]) steel.removeAttribute(name);
     svg.replaceChildren(steel);
   }
 }
@@ -318,10 +316,10 @@ function drawIcons() {
 function wordsOfLink(hash) {
   const link = hash.slice(1);
   try {
-    return decodeURIComponent(link).split('/');
+    return decodeURIComponent(link).split("/");
   } catch {
     // a stray %
-    return link.split('/');
+    return link.split("/");
   }
 }
 
@@ -329,16 +327,16 @@ function wordsOfLink(hash) {
 function openLink(hash) {
   if (section && hash === address()) return;
   const [name, ...words] = wordsOfLink(hash);
-  const linked = engine.profiles.find((each) => each.name === name.toLowerCase());
+  const linked = engine.profiles.find(each => each.name === name.toLowerCase());
   const isLink = linked && words.length === linked.dimensions.length;
-  const refusal = name === '' || isLink ? '' : engine.design(name, words).refusal;
+  const refusal = name === "" || isLink ? "" : engine.design(name, words).refusal;
   if (isLink) {
     choose(linked, words);
   } else if (!section) {
-    const first = engine.profiles.find((each) => each.name === FIRST);
+    const first = engine.profiles.find(each => each.name === FIRST);
     choose(first, startOf(first));
   }
-  element('link-fault').textContent = refusal;
+  element("link-fault").textContent = refusal;
 }
 
 // Taking along -----------------------------------------------------------------------------------
@@ -348,43 +346,43 @@ async function copy(text, what) {
     await navigator.clipboard.writeText(text);
   } catch {
     // without the right to do so, or from a folder
-    const area = make('textarea');
+    const area = make("textarea");
     area.value = text;
     document.body.append(area);
     area.select();
-    document.execCommand('copy');
+    document.execCommand("copy");
     area.remove();
   }
-  element('copied').textContent = `${what} copied`;
+  element("copied").textContent = `${what} copied`;
   setTimeout(() => {
-    element('copied').textContent = '';
+    element("copied").textContent = "";
   }, 2000);
 }
 
 function listen() {
-  element('format').append(...Object.keys(TAKEN).map((name) => make('option', {}, name)));
-  element('format').addEventListener('change', showText);
-  element('copy').addEventListener('click', () =>
-    copy(element('text').textContent, element('format').value),
+  element("format").append(...Object.keys(TAKEN).map(name => make("option", {}, name)));
+  element("format").addEventListener("change", showText);
+  element("copy").addEventListener("click", () =>
+    copy(element("text").textContent, element("format").value),
   );
-  element('copy-link').addEventListener('click', () =>
-    copy(location.href.split('#')[0] + address(), 'link'),
+  element("copy-link").addEventListener("click", () =>
+    copy(location.href.split("#")[0] + address(), "link"),
   );
-  element('section').addEventListener('submit', (event) => event.preventDefault());
+  element("section").addEventListener("submit", event => event.preventDefault());
   // The event has the link. On a busy machine the page has set its own address again meanwhile.
-  window.addEventListener('hashchange', (event) => openLink(new URL(event.newURL).hash));
-  CROPPED.addEventListener('change', () => show(section));
+  window.addEventListener("hashchange", event => openLink(new URL(event.newURL).hash));
+  CROPPED.addEventListener("change", () => show(section));
 }
 
 startEngine()
-  .then((started) => {
+  .then(started => {
     engine = started;
     makeChooser();
     listen();
     openLink(location.hash);
-    performance.measure('first picture', 'arrived');
+    performance.measure("first picture", "arrived");
     setTimeout(drawIcons);
   })
-  .catch((error) => {
-    element('link-fault').textContent = `This browser cannot run the page's code: ${error.message}`;
+  .catch(error => {
+    element("link-fault").textContent = `This browser cannot run the page's code: ${error.message}`;
   });

@@ -1,35 +1,35 @@
-'use strict';
+"use strict";
 // The compiled code: words of a section in, texts out.
 
-performance.mark('arrived');
+performance.mark("arrived");
 
 // As designer.cpp numbers its texts.
-const TEXTS = ['refusal', 'dimensions', 'figures', 'json', 'picture', 'remarks', 'parts'];
+const TEXTS = ["refusal", "dimensions", "figures", "json", "picture", "remarks", "parts"];
 
 async function startEngine() {
-  const characters = atob(document.getElementById('code').textContent);
+  const characters = atob(document.getElementById("code").textContent);
   const packed = new Uint8Array(characters.length);
   for (let i = 0; i < packed.length; ++i) packed[i] = characters.charCodeAt(i);
   // Written to the stream here: a Blob's own stream comes by way of another process.
-  const unpacking = new DecompressionStream('gzip');
+  const unpacking = new DecompressionStream("gzip");
   const writer = unpacking.writable.getWriter();
   const written = Promise.all([writer.write(packed), writer.close()]);
   const unpacked = await new Response(unpacking.readable).arrayBuffer();
   await written;
-  const { instance } = await WebAssembly.instantiate(unpacked);
+  const {instance} = await WebAssembly.instantiate(unpacked);
   const code = instance.exports;
   code._initialize();
 
-  const read = (address) => {
+  const read = address => {
     const bytes = new Uint8Array(code.memory.buffer, address);
     return new TextDecoder().decode(bytes.subarray(0, bytes.indexOf(0)));
   };
-  const lines = (text) =>
+  const lines = text =>
     text
-      .split('\n')
+      .split("\n")
       .slice(0, -1)
-      .map((line) => line.split('\t'));
-  const words = (text) => (text === '' ? [] : text.split(' '));
+      .map(line => line.split("\t"));
+  const words = text => (text === "" ? [] : text.split(" "));
 
   return {
     profiles: lines(read(code.designer_profiles())).map(
@@ -44,14 +44,13 @@ async function startEngine() {
     // The section, or why there is none: { refusal }.
     design(profile, dimensions) {
       const bytes = new TextEncoder().encode(
-        [profile, ...dimensions].map((word) => `${word}\0`).join(''),
+        [profile, ...dimensions].map(word => `${word}\0`).join(""),
       );
-      if (bytes.length > code.designer_input_size())
-        return { refusal: 'too long to be dimensions' };
+      if (bytes.length > code.designer_input_size()) return {refusal: "too long to be dimensions"};
       new Uint8Array(code.memory.buffer, code.designer_input(), bytes.length).set(bytes);
       code.designer_design(bytes.length);
       const refusal = read(code.designer_text(0));
-      if (refusal !== '') return { refusal };
+      if (refusal !== "") return {refusal};
       const texts = Object.fromEntries(TEXTS.map((name, i) => [name, read(code.designer_text(i))]));
       return {
         ...texts,

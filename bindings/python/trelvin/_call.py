@@ -54,7 +54,7 @@ def _argument(text: str) -> Argument:
     return Argument(
         direction, kind, name, None if sizes is None else sizes.split(", "), used, by,
         None if least is None else int(least), tuple((arrays or "").split()), sizes is not None,
-    )  # fmt: skip
+    )
 
 
 @lru_cache(maxsize=None)
@@ -74,7 +74,7 @@ class Routine:
     def __init__(
         self, name: str, result: type | None, arguments: str, retains: bool = False,
         values: dict[str, type[IntEnum]] | None = None,
-    ):  # fmt: skip
+    ):
         self.name = name
         self.arguments = [_argument(text) for text in arguments.split("; ")]
         self.inputs = [a for a in self.arguments if a.direction != "out"]
@@ -276,7 +276,7 @@ class _Call:
         if argument.direction == "inout" and not self.in_place:
             own = [a.name for a in self.routine.counts if argument.name in a.lengths_of]
             expressions = [next((n for n in own if text.startswith(f"{n}+")), text)
-                           for text in expressions]  # fmt: skip
+                           for text in expressions]
         return max((_size(text, self.counts), text) for text in expressions)
 
     def _shape(self):
