@@ -4,6 +4,8 @@
 
 #include <charconv>
 
+#include "numbers.h"
+
 namespace host {
 namespace {
 
@@ -64,7 +66,7 @@ std::string usage() {
       "\n"
       "  --json           print the figures as JSON, in mm and radians\n"
       "  --svg FILE       draw the section into FILE\n"
-      "  PROFILE --help   print the profile's dimensions and its picture in letters\n"
+      "  PROFILE --help   print the profile's dimensions, an example and its picture in letters\n"
       "  -h, --help       print this text\n"
       "  --version        print the version\n"
       "\n"
@@ -93,7 +95,10 @@ std::string usage() {
 std::string usage_of(const std::string &name) {
   const Profile *const profile = find_profile(name);
   if (profile == nullptr) return usage();
-  std::string text = "usage: section_properties " + usage_of(*profile) + "\n\n";
+  std::string text = "usage: section_properties " + usage_of(*profile) + '\n';
+  text.append("example: section_properties ").append(profile->name);
+  for (const Dimension &dimension : profile->dimensions) text += ' ' + shortest(dimension.start);
+  text += "\n\n";
   text.append(profile->description).append(", dimensions in mm\n").append(profile->letters);
   std::string zeros;
   for (const Dimension &dimension : profile->dimensions) {

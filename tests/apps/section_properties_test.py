@@ -87,25 +87,9 @@ BAD_INPUT = {
     "rhs 100 100 0": "T = '0'", "rhs 100 -5 5": "H = '-5'", "rhs '' 100 5": "B = ''",
     "rhs 100 ' 100' 5": "H = ' 100'", "rhs 100 100 5 --nosuch": "--nosuch",
     "rhs 100 100 5 --svg": "--svg", "rhs 100 100 5 --svg --json": "--svg",
-    "rhs 100 100 60 --svg out.svg": "walls T", "rhs 100 100 50": "walls T",
+    "rhs 100 100 60 --svg out.svg": "walls T",
     "rhs 1e15 1e15 1e10": "single precision", "rhs 1e-15 1e-15 1e-16": "single precision",
-    "ia 30 100 100 20 20 5": "flanges T1 and T2", "ia 300 100 50 10 10 60": "web TW",
-    "h 30 100 100 20 20 5": "flanges T1 and T2",
-    "i 400 310 150 22 11 8.5 200 200 0": "fillets", "i 400 310 150 22 11 8.5 0 0 80": "flange 2",
-    "c 200 80 60 25 180 12 10 3 4 5 2 2.5 1.5 2": "lips",
-    "c 200 80 60 25 20 12 58 3 4 5 2 2.5 1.5 2": "fold 2", "plates": "file",
-    "plates missing.txt": "'missing.txt'", "t 100 50 60 8": "flange TF",
-    "t 10 50 6 18": "stem TW",
-    "h1b 250 200 160 9 200 8 15": "flanges T1 and T2", "h1b 150 200 160 9 22 8 15": "cover plate",
-    "h1b 250 200 160 9 22 170 15": "web TW", "box 3000 2000 20 25 40 12 1600": "flanges TT",
-    "box 3000 1600 20 25 1500 12 1600": "webs", "l2 100 150 12 10 140": "TV",
-    "l 100 60 60 0": "thick", "l 100 60 50 12": "fillet R",
-    "l2 100 150 12 160 14": "horizontal leg T", "tab 500 400 300 390 15 10 12": "bottom plate",
-    "tab 500 400 300 60 15 150 12": "webs TW", "tab 200 400 300 60 15 10 12": "top plate",
-    "h2b 300 240 260 100 140 12 15": "webs TW1", "h2b 300 240 260 10 30 260 15": "middle plate",
-    "h2b 200 240 260 10 30 12 15": "webs W", "rolled 300 150 7.1 10.7 75": "fillets R",
-    "rolled 80 150 7.1 10.7 30": "fillets R", "rhz 100 100 5": "did you mean 'rhs'?",
-    "rolld 1": "'rolled'?", "Channel 1": "mean 'c'?", "plate x": "'plates'?",
+    "plates": "file", "plates missing.txt": "'missing.txt'",
     "rhs 1,0,5 2 3": "B =",
     "rhs 1,0.5 2 3": "B =", "batch": "file", "batch missing.csv": "'missing.csv'",
     "batch a b": "file", "batch a --jobs 0": "--jobs",
@@ -121,6 +105,7 @@ LIMITS = [line.split("; ") for line in """
 ia {} 100 100 20 10 5; 31; 30; flanges T1 and T2
 ia 300 50 100 10 10 {}; 50; 51; web TW
 ia 300 100 50 10 10 {}; 50; 51; web TW
+h {} 100 100 20 10 5; 31; 30; flanges T1 and T2
 i 100 90 90 20 30 10 30 {} 0; 19; 20; flanges and fillets
 i 100 50 90 9 9 10 10 5 {}; 10; 10.5; web TW with its fillets S1
 i 100 50 90 9 9 {} 10 5 10; 10; 11; web TW with its fillets S1
@@ -172,8 +157,8 @@ b 1 {}; 1e-12; 1e-13; the section is
 b {} 1; 1e-12; 1e-13; the section is""".splitlines()[1:]]
 
 # What is near to a word that is no profile.
-NEAR = {"lat": "", "rol": "", "rhz": "'rhs'", "girder": "'box'", "rroolled": "'rolled'",
-        "ROOT": "'l' or 'rolled'", "batc": "'batch'",
+NEAR = {"lat": "", "rol": "", "rhz": "'rhs'", "Channel": "'c'",
+        "girder": "'box'", "rroolled": "'rolled'", "ROOT": "'l' or 'rolled'", "batc": "'batch'",
         "section": "'ia', 'h', 't', 'h1b', 'rhs' or 'rolled'",
         "plate": "'h1b', 'tab', 'h2b' or 'plates'"}
 
@@ -202,15 +187,28 @@ def run(arguments, folder=None, stdout=subprocess.PIPE, **options):
 
 
 @functools.cache  # starting a program under Wine takes its time
-def json_of(arguments):
-    result = run(arguments + " --json")
+def output_of(arguments):
+    result = run(arguments)
     if result.returncode != 0:
         raise AssertionError(result.stderr)
     return result.stdout
 
 
+def profiles():
+    """The profiles that the program lists, with their dimensions."""
+    listed = re.findall(r"\n  ([a-z]\w*)((?: [A-Z]+[12]?)+)\s", output_of("--help"))
+    *listed, (last, _) = listed
+    assert last == "plates"
+    return {name: dimensions.split() for name, dimensions in listed}
+
+
+def example(profile):
+    """Of the profile's help."""
+    return re.search("\nexample: section_properties (.*)", output_of(profile + " --help"))[1]
+
+
 def figures(arguments):
-    return json.loads(json_of(arguments))
+    return json.loads(output_of(arguments + " --json"))
 
 
 def add_plates(plates):
@@ -586,22 +584,19 @@ class SectionProperties(unittest.TestCase):
         for line, row, message in zip(lines, rows, named, strict=True):
             self.assertRegex(row["error"], message, line)
 
-    def test_help_lists_every_profile(self):
-        result = run("--help")
-        self.assertEqual((result.returncode, result.stderr), (0, ""))
-        for profile in list(OUTLINES) + ["rolled 1 2 3 4 5"]:
-            name, *dimensions = profile.split()
-            self.assertRegex(result.stdout, f"\n  {name}( [A-Z]+[12]?){{{len(dimensions)}}}\\s ")
-
     def test_help_of_a_profile_draws_its_dimensions(self):
-        listed = re.findall(r"\n  ([a-z]\w*)((?: [A-Z]+[12]?)+)\s", run("--help").stdout)
-        for name, dimensions in listed[:-1]:  # plates comes last
-            picture = run(name.upper() + " -h").stdout.split("\n\n", 2)[2]
-            for dimension in dimensions.split():
+        for name, dimensions in profiles().items():
+            usage, text, picture = run(name.upper() + " -h").stdout.split("\n\n", 2)
+            self.assertIn("usage: section_properties " + " ".join([name, *dimensions]), usage)
+            self.assertIn(text.split(", dimensions in mm")[0] + "\n", output_of("--help"))
+            for dimension in dimensions:
                 self.assertRegex(picture, rf"\b{dimension}\b", name)
         for name, zero in (("i", "S1, S2, E."), ("l", "R."), ("rhs", "")):
-            self.assertEqual(run(name + " -h").stdout.partition("\nMay be 0: ")[2].strip(), zero)
-        self.assertEqual((len(listed), listed[-1][0]), (len(OUTLINES) + 1, "plates"))
+            self.assertEqual(output_of(name + " --help").partition("\nMay be 0: ")[2].strip(), zero)
+
+    def test_every_profile_has_its_rows(self):
+        for rows, others in ((OUTLINES, ["rolled"]), ([form for form, *_ in LIMITS], [])):
+            self.assertEqual({row.split()[0] for row in rows}.union(others), profiles().keys())
 
     def test_version_is_that_of_the_library(self):
         with open(os.path.dirname(__file__) + "/../../include/trelvin/calling.h") as header:
@@ -711,11 +706,11 @@ class SectionProperties(unittest.TestCase):
                 file.write(text)
             options = {"cwd": folder, "stdout": subprocess.DEVNULL}
             self.assertEqual(shown("batch a.csv", **options),
-                             f"\r[{20 * '#'}{10 * '.'}] 66 %  1 sections"
+                             f"\r[{20 * '#'}{10 * '.'}] 66 %  1 section"
                              f"\r[{30 * '#'}] 100 %  32769 sections\r\n$")
             with open(os.path.join(folder, "a.csv"), "rb") as file:
                 self.assertEqual(shown("batch -", stdin=file, **options),
-                                 "\r1 sections\r32769 sections\r\n$")
+                                 "\r1 section\r32769 sections\r\n$")
         end = pty.openpty()[1]
         with open(end, "wb") as stdout:  # which shows the lines themselves
             self.assertEqual(shown("batch -", input=b"b 2 3", stdout=stdout), "$")

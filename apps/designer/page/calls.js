@@ -3,7 +3,6 @@
 // centroid and second moments about it. Where a routine gives the profile's outline, the program
 // calls that one with the dimensions, else it has the parts written out.
 
-const BY_PARTS = ["b", "l", "rolled"];
 const BEHIND = ["z1", "z2", "z3", "z4", "z5", "q1", "q2"]; // what else comes with each polygon
 
 // A list, broken into lines with an indent.
@@ -30,6 +29,7 @@ const valuesOf = (s, value = word => word) => [
   ...s.names.map((name, i) => `${name} = ${value(s.dimensions[i])}`),
   `q = ${value("0")}`,
 ];
+const body = (s, part, call) => (s.routine === "" ? s.parts.map(part).join("") : call());
 const same = name => name;
 const withPoint = number => (number.includes(".") ? number : `${number}.0`);
 
@@ -40,7 +40,7 @@ const LANGUAGES = {
     const call = () => `  const float ${listed(valuesOf(s), 14)};
   int32_t np, nv[3], code[3];
   float x[20], y[20], sign[3], ${BEHIND.map(name => `${name}[3]`).join(", ")};
-  trvsec_${s.profile}(${listed(
+  ${s.routine}(${listed(
     argumentsOf(
       s,
       same,
@@ -82,7 +82,7 @@ static void add(int32_t kind, float factor, int32_t n, const float *x, const flo
 }
 
 int main(void) {
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
   printf("A  %.7g mm2\\n", A);
   printf("xs %.7g mm\\nys %.7g mm\\n", Sy / A, Sx / A);
   printf("Ix %.7g mm4\\nIy %.7g mm4\\n", Ix - Sx * Sx / A, Iy - Sy * Sy / A);
@@ -96,7 +96,7 @@ ${s.isByParts ? s.parts.map(part).join("") : call()}
   integer(c_int32_t) :: np, nv(3), code(3), i, first = 1
   real(rk) :: x(20), y(20), sign(3), ${BEHIND.map(name => `${name}(3)`).join(", ")}
 `;
-    const call = () => `  call trvsec_${s.profile}(${listed(argumentsOf(s, same), 6, " &")})
+    const call = () => `  call ${s.routine}(${listed(argumentsOf(s, same), 6, " &")})
   do i = 1, np
     call add(code(i), sign(i), x(first:first + nv(i) - 1), y(first:first + nv(i) - 1))
     first = first + nv(i)
@@ -113,8 +113,8 @@ program section
 
   integer, parameter :: rk = c_float, dp = kind(1.0d0)
   real(dp) :: A = 0, Sx = 0, Sy = 0, Ix = 0, Iy = 0
-${s.isByParts ? "" : declared()}
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${s.routine && declared()}
+${body(s, part, call)}
   print "(a, g0, a)", "A  ", A, " mm2", "xs ", Sy / A, " mm", "ys ", Sx / A, " mm"
   print "(a, g0, a)", "Ix ", Ix - Sx * Sx / A, " mm4", "Iy ", Iy - Sy * Sy / A, " mm4"
 
@@ -154,7 +154,7 @@ var
   x, y: array[0..19] of Single;
   ${["sign", ...BEHIND].join(", ")}: array[0..2] of Single;
 `;
-    const call = () => `  trvsec_${s.profile}(${listed(
+    const call = () => `  ${s.routine}(${listed(
       argumentsOf(s, name => `${name}[0]`),
       4,
     )});
@@ -194,9 +194,9 @@ begin
   Ix := Ix + jx;
   Iy := Iy + jy;
 end;
-${s.isByParts ? "" : declared()}
+${s.routine && declared()}
 begin
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
   WriteLn('A  ', A, ' mm2');
   WriteLn('xs ', Sy / A, ' mm');
   WriteLn('ys ', Sx / A, ' mm');
@@ -218,7 +218,7 @@ end.
       8,
       " _",
     )}
-    trvsec_${s.profile} ${listed(
+    ${s.routine} ${listed(
       argumentsOf(s, name => `${name}(0)`),
       8,
       " _",
@@ -239,7 +239,7 @@ Private A As Double, Sx As Double, Sy As Double, Ix As Double, Iy As Double
 
 Public Sub PrintSection()
     A = 0: Sx = 0: Sy = 0: Ix = 0: Iy = 0
-${s.isByParts ? s.parts.map(part).join("") : call()}    Debug.Print "A  "; A; " mm2"
+${body(s, part, call)}    Debug.Print "A  "; A; " mm2"
     Debug.Print "xs "; Sy / A; " mm"
     Debug.Print "ys "; Sx / A; " mm"
     Debug.Print "Ix "; Ix - Sx * Sx / A; " mm4"
@@ -279,7 +279,7 @@ End Sub
           BEHIND.map(name => `${name} = new float[3]`),
           12,
         )};
-        Native.trvsec_${s.profile}(${listed(
+        Native.${s.routine}(${listed(
           argumentsOf(s, same, same, name => `out ${name}`),
           12,
         )});
@@ -323,7 +323,7 @@ static class Section
 
     static void Main()
     {
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
         Console.WriteLine(FormattableString.Invariant($"A  {A:G7} mm2"));
         Console.WriteLine(FormattableString.Invariant($"xs {Sy / A:G7} mm"));
         Console.WriteLine(FormattableString.Invariant($"ys {Sx / A:G7} mm"));
@@ -335,7 +335,7 @@ ${s.isByParts ? s.parts.map(part).join("") : call()}
   },
 
   Python: s => {
-    const call = () => `outline = trelvin.trvsec_${s.profile}(${listed(
+    const call = () => `outline = trelvin.${s.routine}(${listed(
       valuesOf(s).map(value => value.replace(" = ", "=")),
       4,
     )})
@@ -365,7 +365,7 @@ def add(kind, factor, x, y):
     Iy += second.iy
 
 
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
 print(f"A  {A:.7g} mm2")
 print(f"xs {Sy / A:.7g} mm")
 print(f"ys {Sx / A:.7g} mm")
@@ -376,7 +376,7 @@ print(f"Iy {Iy - Sy * Sy / A:.7g} mm4")
 
   JavaScript: s => {
     const call = () => `const ${listed(valuesOf(s), 2)};
-const outline = trelvin.trvsec_${s.profile}(${listed([...s.names, "q"], 2)});
+const outline = trelvin.${s.routine}(${listed([...s.names, "q"], 2)});
 for (let i = 0, from = 0; i < outline.np; from += outline.nv[i++]) {
   const to = from + outline.nv[i];
   add(outline.code[i], outline.sign[i], outline.X.slice(from, to), outline.Y.slice(from, to));
@@ -401,7 +401,7 @@ function add(kind, factor, x, y) {
   Iy += second.iy;
 }
 
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
 console.log("A ", A.toPrecision(7), "mm2");
 console.log("xs", (Sy / A).toPrecision(7), "mm");
 console.log("ys", (Sx / A).toPrecision(7), "mm");
@@ -415,7 +415,7 @@ function callsIn(language, profile, section) {
   return LANGUAGES[language]({
     ...section,
     names: profile.dimensions,
-    isByParts: BY_PARTS.includes(profile.name),
+    routine: profile.routine,
     title: `${profile.name} ${section.dimensions.join(" ")}: ${profile.description}, in mm`,
   });
 }

@@ -1,24 +1,7 @@
 "use strict";
 // The page: fields to the compiled code, texts from it to the page. The state is in the address.
 
-const START = {
-  ia: "400 300 200 20 15 10",
-  h: "400 300 200 20 15 10",
-  i: "400 300 200 20 15 10 8 6 20",
-  t: "150 200 12 8",
-  b: "200 15",
-  c: "200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2",
-  h1b: "320 300 280 12 14 10 20",
-  box: "3000 2000 20 25 1500 12 1600",
-  rhs: "100 200 8",
-  l: "100 100 10 12",
-  l2: "90 120 10 9 11",
-  tab: "600 400 350 40 25 12 20",
-  h2b: "400 300 500 12 14 10 20",
-  rolled: "300 150 7.1 10.7 15",
-};
 const FIRST = "rolled";
-const startOf = each => START[each.name].split(" ");
 
 // Of the figures, by heading and symbol, those that stand under the picture.
 const MAIN = [
@@ -58,7 +41,7 @@ const numberIn = word => Number(word.replace(",", "."));
 // A slider reaches from nothing to well beyond the value that its profile starts with, or beyond a
 // larger one that is typed. It does not move under the hand that drags it.
 function setReach(name, value) {
-  const start = numberIn(startOf(profile)[profile.dimensions.indexOf(name)]);
+  const start = numberIn(profile.start[profile.dimensions.indexOf(name)]);
   const reach = 2.5 * (value > 2.5 * start ? value : start);
   const step = 10 ** Math.floor(Math.log10(reach / 150));
   const control = slider(name);
@@ -275,7 +258,7 @@ function choose(chosen, words) {
   update();
   if (section?.profile === profile.name) return;
   // What does not fit together stands beside the profile as it starts.
-  show(engine.design(profile.name, startOf(profile)));
+  show(engine.design(profile.name, profile.start));
 }
 
 function makeChooser() {
@@ -286,7 +269,7 @@ function makeChooser() {
       value: each.name,
       "aria-label": `${each.name}: ${each.description}`,
     });
-    radio.addEventListener("change", () => choose(each, typed[each.name] ?? startOf(each)));
+    radio.addEventListener("change", () => choose(each, typed[each.name] ?? each.start));
     element("profiles").append(
       make("label", {title: each.description}, radio, make("span", {}, each.name)),
     );
@@ -297,7 +280,7 @@ function makeChooser() {
 function drawIcons() {
   for (const each of engine.profiles) {
     const radio = document.querySelector(`input[value="${each.name}"]`);
-    radio.insertAdjacentHTML("afterend", drawn(engine.design(each.name, startOf(each)).picture));
+    radio.insertAdjacentHTML("afterend", drawn(engine.design(each.name, each.start).picture));
     const svg = radio.nextElementSibling;
     const steel = svg.querySelector("path[fill-rule]");
     const {x, y, width, height} = steel.getBBox();
@@ -334,7 +317,7 @@ function openLink(hash) {
     choose(linked, words);
   } else if (!section) {
     const first = engine.profiles.find(each => each.name === FIRST);
-    choose(first, startOf(first));
+    choose(first, first.start);
   }
   element("link-fault").textContent = refusal;
 }
