@@ -7,7 +7,8 @@
 namespace host {
 namespace {
 
-constexpr const char *colour = "#2f6690";
+using namespace svg;
+
 constexpr double font_size = 13;
 constexpr double overhang = 9;  // of a dimension line beyond its ends
 constexpr double clearance = 5;
@@ -81,8 +82,8 @@ std::string DimensionLines::drawn(const Sheet &at) const {
     all.figures += one.figures;
   }
   // A rim of paper keeps the figures clear of the lines behind them.
-  return group(attribute("stroke", colour) + attribute("stroke-width", "0.8"), all.lines) +
-         group(attribute("fill", colour) + attribute("font-size", px(font_size)) +
+  return group(attribute("stroke", colours::blue) + attribute("stroke-width", "0.8"), all.lines) +
+         group(attribute("fill", colours::blue) + attribute("font-size", font_size) +
                    attribute("stroke", "white") + attribute("stroke-width", "3") +
                    attribute("paint-order", "stroke"),
                all.figures);
@@ -97,22 +98,22 @@ DimensionLines::Drawing DimensionLines::drawn(const Placed &line, const Sheet &a
   double reach = 0;  // from the dimension line back to the section, downwards as drawn
   if (m.is_along_x()) {
     const double y = m.side == Side::above ? at.top() - distance : at.bottom() + distance;
-    place = "translate(" + px(at.x(m.from)) + ' ' + px(y) + ')';
+    place = moved(at.x(m.from), y);
     reach = at.y(m.level) - y;
   } else {
     const double x = m.side == Side::left ? at.left() - distance : at.right() + distance;
-    place = "translate(" + px(x) + ' ' + px(at.y(m.from)) + ") rotate(-90)";
+    place = moved(x, at.y(m.from)) + " rotate(-90)";
     reach = at.x(m.level) - x;
   }
   place = attribute("transform", place);
   const auto stroke = [](double x) {
-    return host::line(x - 4, 4, x + 4, -4, attribute("stroke-width", "1.8"));
+    return svg::line(x - 4, 4, x + 4, -4, attribute("stroke-width", "1.8"));
   };
   const auto extension = [&](double x) {
-    return host::line(x, reach, x, reach > 0 ? -8 : 8, attribute("stroke-opacity", "0.55"));
+    return svg::line(x, reach, x, reach > 0 ? -8 : 8, attribute("stroke-opacity", "0.55"));
   };
   const std::string name = m.name.empty() ? "" : attribute("data-dimension", std::string(m.name));
-  const std::string lines = host::line(-overhang, 0, length + overhang, 0) + extension(0) +
+  const std::string lines = svg::line(-overhang, 0, length + overhang, 0) + extension(0) +
                             extension(length) + stroke(0) + stroke(length);
   std::string figure;
   switch (line.where) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "geometry.h"
+#include "svg.h"
 
 namespace figures {
 
@@ -24,17 +25,7 @@ struct Pen {
   const char *dash = "";
 };
 
-namespace colours {
-constexpr const char *paper = "#fbfcfe";
-constexpr const char *ink = "#1d2733";
-constexpr const char *steel = "#c9d5e3";
-constexpr const char *pale = "#e6ecf3";
-constexpr const char *grey = "#66727f";
-constexpr const char *red = "#b3202a";
-constexpr const char *blue = "#235f8c";
-constexpr const char *green = "#1f7a4d";
-constexpr const char *none = "none";
-}  // namespace colours
+namespace colours = svg::colours;
 
 namespace pens {
 constexpr Pen given{colours::ink, 1.6};
@@ -55,6 +46,8 @@ class Sheet {
   [[nodiscard]] const std::string &name() const { return name_; }
   [[nodiscard]] Box whole() const { return {0, 0, width_, height_}; }
   void add(const std::string &element) { elements_ += element; }
+  // From paper's y to that of SVG, which runs downwards.
+  [[nodiscard]] double down(double y) const { return height_ - y; }
   // The text begins, is centred or ends at `at`, by the sign of `side`.
   void text(Offset at, int side, const std::string &content, const char *colour = colours::ink,
             double size = 14);
@@ -127,6 +120,8 @@ class View {
   void stroke(Offset a, Offset b, const Pen &pen);
   void head(Offset tip, Offset direction, const char *colour);
   void tick(Offset c);
+  void disc(Offset c, const std::string &radius, const std::string &attributes);
+  [[nodiscard]] std::string arc_path(Offset centre, double radius, double from, double to) const;
 
   Sheet *sheet_;
   double scale_;

@@ -18,7 +18,8 @@ README_PICTURE = os.path.join(os.path.dirname(__file__), "../../docs/ipe300.svg"
 SECTIONS = [
     "b 2000 2", "b 0.05 30", "l 100 150 10 12", "ia 3000 20 30 3 2 1",
     "c 10 200 200 3 3 0 0 1 1 1 1 1 0 0", "c 200 60 60 0 0 0 0 2 2 2 0 0 0 0",
-    "c 200 60 60 9 9 2 2 2 2 2 2 2 1 1", "c 200 60 50 2 3 9 9 2 2 3 2 2 1 1", "rhs 1000 20 1", "l2 10 200 1 1 1", "t 3 3 1 1",
+    "c 200 60 60 9 9 2 2 2 2 2 2 2 1 1", "c 200 60 50 2 3 9 9 2 2 3 2 2 1 1",
+    "rhs 1000 20 1", "l2 10 200 1 1 1", "t 3 3 1 1",
     "tab 3000 100 2900 5 3 2 2", "h2b 20 15 2000 1 2 1 1", "i 4000 3000 12 2 2 6 0 1 0.5",
 ]
 # Of lips and folds that are none: no higher than the flange, no wider than the lip.
