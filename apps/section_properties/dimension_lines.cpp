@@ -20,11 +20,15 @@ double width_of(const std::string &figure) {
 
 }  // namespace
 
-DimensionLines::Placed DimensionLines::placed(const Measure &measure, double middle, double scale) {
+DimensionLines::Placed DimensionLines::placed(const Measure &measure, double middle, double scale,
+                                              Figure figure) {
   Placed line;
   line.measure = measure;
-  line.figure = measure.name.empty() ? "" : std::string(measure.name) + " = ";
-  line.figure += shortest(static_cast<float>(measure.value));
+  line.figure = measure.name;
+  if (figure == Figure::letter_and_value) {
+    line.figure += measure.name.empty() ? "" : " = ";
+    line.figure += shortest(static_cast<float>(measure.value));
+  }
   const double from = scale * (measure.from - middle);
   const double to = scale * (measure.to() - middle);
   const double width = width_of(line.figure);
@@ -33,7 +37,7 @@ DimensionLines::Placed DimensionLines::placed(const Measure &measure, double mid
   if (to - from >= width + clearance) return line;
   // Towards the middle, so that figures stay beside the section.
   const bool is_behind = from + to <= 1e-9;
-  line.where = is_behind ? Placed::Figure::behind : Placed::Figure::before;
+  line.place = is_behind ? Placed::Place::behind : Placed::Place::before;
   (is_behind ? line.end : line.start) += is_behind ? width + clearance : -width - clearance;
   return line;
 }
@@ -51,14 +55,15 @@ std::size_t DimensionLines::free_lane(const Placed &wanted) const {
 }
 
 // Short ones first: they get the lanes next to the section.
-DimensionLines::DimensionLines(const Measures &measures, const Box &shown, double scale) {
+DimensionLines::DimensionLines(const Measures &measures, const Box &shown, double scale,
+                               Figure figure) {
   Measures sorted = measures;
   std::stable_sort(sorted.begin(), sorted.end(), [](const Measure &a, const Measure &b) {
     return a.to() - a.from < b.to() - b.from;
   });
   for (const Measure &measure : sorted) {
     const double middle = measure.is_along_x() ? shown.x() : shown.y();
-    Placed line = placed(measure, middle, scale);
+    Placed line = placed(measure, middle, scale, figure);
     line.lane = free_lane(line);
     lines_.push_back(line);
   }
@@ -116,15 +121,15 @@ DimensionLines::Drawing DimensionLines::drawn(const Placed &line, const Sheet &a
   const std::string lines = svg::line(-overhang, 0, length + overhang, 0) + extension(0) +
                             extension(length) + stroke(0) + stroke(length);
   std::string figure;
-  switch (line.where) {
-    case Placed::Figure::inside:
+  switch (line.place) {
+    case Placed::Place::inside:
       figure = text(0.5 * length, -6, line.figure, place);
       break;
-    case Placed::Figure::behind:
+    case Placed::Place::behind:
       figure =
           text(length + overhang + 2, 4.5, line.figure, place + attribute("text-anchor", "start"));
       break;
-    case Placed::Figure::before:
+    case Placed::Place::before:
       figure = text(-overhang - 2, 4.5, line.figure, place + attribute("text-anchor", "end"));
       break;
   }

@@ -9,7 +9,7 @@ namespace host {
 
 // What an outline routine hands back, with room for the largest outline.
 struct ListOfPolygons {
-  std::int32_t np;
+  std::int32_t np = 0;
   std::array<std::int32_t, 3> nv;
   std::array<float, most_vertices> x, y;
   std::array<std::int32_t, 3> code;

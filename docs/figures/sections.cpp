@@ -279,7 +279,8 @@ Sheet shear_centre(const std::string &name) {
   require(section.shear_centre.x < 0 && section.centroid.x > 0, "S behind the web, G before it");
   require_near(section.shear_centre.y, 0, "S on the axis of symmetry");
   require_near(section.centroid.x - section.shear_centre.x, e0, "trvshc_c and trvmxt agree on e0");
-  Profile outline = profile(trvsec_c, H, B, B, C, C, 0.0F, 0.0F, t, t, t, t, t, t, t);
+  Profile outline =
+      profile(host::section_from(trvsec_c, H, B, B, C, C, 0.0F, 0.0F, t, t, t, t, t, t, t));
   for (Point &p : outline.polygons[0]) p = p + Point{0.5F * (B - t), 0};  // web's centre line at 0
   View view(sheet, {60, 50, 460, 300}, {-60, -70, 90, 70});
   view.area(outline.polygons);
