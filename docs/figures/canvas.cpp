@@ -217,6 +217,11 @@ void View::label(Point p, const std::string &text, Offset offset, const char *co
   sheet_->text({c.x + offset.x, c.y + offset.y}, side, text, colour, size);
 }
 
+void View::point(Point p, const std::string &text, Offset offset, const char *colour, double size) {
+  dot(p, colour);
+  label(p, text, offset, colour, size);
+}
+
 void View::number(Point before, Point vertex, Point after, int number) {
   const Point in = unit(vertex - before);
   const Point out = unit(after - vertex);

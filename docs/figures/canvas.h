@@ -103,6 +103,9 @@ class View {
   // Stands beside the point, on the side to which the offset goes.
   void label(Point p, const std::string &text, Offset offset, const char *colour = colours::ink,
              double size = 14);
+  // A dot with its label.
+  void point(Point p, const std::string &text, Offset offset, const char *colour = colours::ink,
+             double size = 14);
   // The number of a vertex between its neighbours, outside of a ring that runs counter-clockwise.
   void number(Point before, Point vertex, Point after, int number);
 

@@ -25,12 +25,9 @@ void draw_arc(View &view, const Arc &arc) {
   view.arc(arc.c, arc.radius(), to, to + 0.55, pens::dashed);
   view.arc(arc.c, arc.radius(), from, to, {colours::ink, 2.2});
   view.line(arc.a, arc.b);
-  view.dot(arc.c);
-  view.dot(arc.a);
-  view.dot(arc.b);
-  view.label(arc.c, "C", {3, -11});
-  view.label(arc.a, "A", {-9, 2});
-  view.label(arc.b, "B", {9, 2});
+  view.point(arc.c, "C", {3, -11});
+  view.point(arc.a, "A", {-9, 2});
+  view.point(arc.b, "B", {9, 2});
 }
 
 void require_on_arc(const Arc &arc, Point p, const std::string &routine) {
@@ -55,8 +52,7 @@ void perpendicular_station(Sheet &sheet, const Panel &panel) {
   draw_arc(view, arc);
   view.line(station, p, pens::result);
   view.right_angle(station, p, arc.b);
-  view.dot(p, colours::red);
-  view.label(p, "(x, y)", {-6, 12}, colours::red);
+  view.point(p, "(x, y)", {-6, 12}, colours::red);
   view.across(arc.a, station, -24, "d", View::Letter::before);
   sheet.caption(panel.caption, "trvcer8");
 }
@@ -76,8 +72,7 @@ void radial_station(Sheet &sheet, const Panel &panel) {
   draw_arc(view, arc);
   view.line(arc.c, p, pens::result);
   view.dot(station, colours::grey);
-  view.dot(p, colours::red);
-  view.label(p, "(x, y)", {-6, 12}, colours::red);
+  view.point(p, "(x, y)", {-6, 12}, colours::red);
   view.across(arc.a, station, -24, "d", View::Letter::before);
   sheet.caption(panel.caption, "trvcer6");
 }
@@ -100,10 +95,8 @@ void strip(Sheet &sheet, const Panel &panel) {
   view.line({p.x, 0}, p, pens::result);
   view.line({q.x, 0}, q, pens::result);
   view.line(station, station + Point{0, 0.9F}, pens::axis);
-  view.dot(p, colours::red);
-  view.dot(q, colours::red);
-  view.label(p, "(x1, y1)", {-5, 12}, colours::red);
-  view.label(q, "(x2, y2)", {5, 12}, colours::red);
+  view.point(p, "(x1, y1)", {-5, 12}, colours::red);
+  view.point(q, "(x2, y2)", {5, 12}, colours::red);
   view.across(arc.a, station, -20, "d", View::Letter::before);
   view.across({p.x, 0}, {q.x, 0}, 22, "w", View::Letter::behind);
   sheet.caption(panel.caption, "trvcer9");
@@ -141,8 +134,7 @@ void line_at_angle(Sheet &sheet, const Panel &panel) {
   view.line(station, o, pens::result);
   view.turn(station, 26, 0, angle, ray);
   view.label(station + polar(0.75, 0.5 * angle), "angle", {4, 0}, colours::blue, 12);
-  view.dot(o, colours::red);
-  view.label(o, "O", {-2, 12}, colours::red);
+  view.point(o, "O", {-2, 12}, colours::red);
   view.across(given.a, station, -20, "s", View::Letter::before);
   sheet.caption(panel.caption, "trvcer4");
 }
@@ -168,8 +160,7 @@ void chord_and_turned_end(Sheet &sheet, const Panel &panel) {
   view.turn(o, 20, 0, angle, ray);
   view.label(o, "angle", {18, 14}, colours::blue, 12);
   view.dot(turned);
-  view.dot(o, colours::red);
-  view.label(o, "O", {4, -12}, colours::red);
+  view.point(o, "O", {4, -12}, colours::red);
   sheet.caption(panel.caption, "trvcer10");
 }
 
@@ -190,10 +181,8 @@ void towards_sagitta(Sheet &sheet, const Panel &panel) {
   draw_arc(view, given);
   view.line(station, o, pens::result);
   view.line(middle, t, pens::thin);
-  view.dot(t);
-  view.dot(o, colours::red);
-  view.label(t, "T", {-7, 8});
-  view.label(o, "O", {8, 8}, colours::red);
+  view.point(t, "T", {-7, 8});
+  view.point(o, "O", {8, 8}, colours::red);
   view.across(given.a, station, -20, "s", View::Letter::before);
   view.upright(middle, t, 14, "e");
   sheet.caption(panel.caption, "trvcer5");
@@ -221,10 +210,9 @@ void station_parallel_arc(Sheet &sheet, const Panel &panel) {
   view.line(p, o, pens::result);
   view.turn(p, 24, 0, angle, ray);
   view.label(p + polar(0.62, 0.4 * angle), "angle", {5, 0}, colours::blue, 12);
-  for (const Point &point : {p, t, o}) view.dot(point, colours::red);
-  view.label(p, "P", {3, -12}, colours::red);
-  view.label(t, "T", {-8, 8}, colours::red);
-  view.label(o, "O", {6, 10}, colours::red);
+  view.point(p, "P", {3, -12}, colours::red);
+  view.point(t, "T", {-8, 8}, colours::red);
+  view.point(o, "O", {6, 10}, colours::red);
   view.across(given.a, p, -20, "s", View::Letter::before);
   view.upright(Point{1.3F, 0}, Point{1.3F, e}, 0, "e");
   sheet.caption(panel.caption, "trvcer7");
@@ -250,8 +238,7 @@ void from_sagitta(Sheet &sheet, const Panel &panel) {
   view.along(top, middle, 0, "h");
   view.line(c, p2, pens::dashed);
   view.label(0.5F * (c + p2), "r", {8, -5}, colours::red);
-  view.dot(c, colours::red);
-  view.label(c, "(xc, yc)", {-8, -2}, colours::red);
+  view.point(c, "(xc, yc)", {-8, -2}, colours::red);
   view.label(p1, "P1", {-4, -12});
   view.label(p2, "P2", {8, -8});
   sheet.caption(panel.caption, "trvcer1, side 1");
@@ -272,12 +259,10 @@ void two_centres(Sheet &sheet, const Panel &panel) {
   view.circle(other, r, pens::dashed);
   view.circle(c, r, pens::given);
   view.arrow(p1, p2);
-  view.dot(other, colours::grey);
-  view.dot(c, colours::red);
   view.line(c, p2, pens::thin);
   view.label(0.5F * (c + p2), "r", {7, -4}, colours::red);
-  view.label(c, "(xc, yc)", {0, -12}, colours::red);
-  view.label(other, "side < 0", {0, 12}, colours::grey, 12);
+  view.point(c, "(xc, yc)", {0, -12}, colours::red);
+  view.point(other, "side < 0", {0, 12}, colours::grey, 12);
   view.label(p1, "P1", {-9, -4});
   view.label(p2, "P2", {9, 4});
   sheet.caption(panel.caption, "trvcer2, side 1");
@@ -296,10 +281,9 @@ void two_arcs(Sheet &sheet, const Panel &panel) {
   view.arc(arc.c, arc.radius(), from, to, pens::result);
   view.arc(arc.c, arc.radius(), to, from + 2 * pi, {colours::blue, 1.8});
   for (const Point &p : {arc.a, arc.b}) view.line(arc.c, p, pens::dashed);
-  for (const Point &p : {arc.a, arc.b, arc.c}) view.dot(p);
-  view.label(arc.a, "A", {-9, 4});
-  view.label(arc.b, "B", {9, 4});
-  view.label(arc.c, "C", {0, -12});
+  view.point(arc.a, "A", {-9, 4});
+  view.point(arc.b, "B", {9, 4});
+  view.point(arc.c, "C", {0, -12});
   view.label(arc.c + Point{0, static_cast<float>(arc.radius())}, "s1", {0, -12}, colours::red);
   view.label(arc.c - Point{0, static_cast<float>(arc.radius())}, "s2", {0, 12}, colours::blue);
   sheet.caption(panel.caption, "trvarc1");
@@ -320,14 +304,10 @@ void box_of_arc(Sheet &sheet, const Panel &panel) {
   view.line(c, a, pens::thin);
   view.turn(c, 28, from, from + sweep, ray);
   view.label(c, "sweep", {0, 38}, colours::blue, 12);
-  view.dot(c);
-  view.dot(a);
-  view.dot(low, colours::red);
-  view.dot(high, colours::red);
-  view.label(c, "C", {0, -12});
-  view.label(a, "A", {9, -6});
-  view.label(low, "min", {-6, -9}, colours::red, 12);
-  view.label(high, "max", {5, 9}, colours::red, 12);
+  view.point(c, "C", {0, -12});
+  view.point(a, "A", {9, -6});
+  view.point(low, "min", {-6, -9}, colours::red, 12);
+  view.point(high, "max", {5, 9}, colours::red, 12);
   sheet.caption(panel.caption, "trvenv");
 }
 
@@ -379,14 +359,12 @@ Sheet fillet(const std::string &name) {
   view.line(c, t2, pens::thin);
   view.right_angle(t1, c, p1);
   view.right_angle(t2, c, p2);
-  for (const Point &p : {p0, p1, p2}) view.dot(p);
-  for (const Point &p : {c, t1, t2}) view.dot(p, colours::red);
-  view.label(p0, "P0", {-9, -4});
-  view.label(p1, "P1", {10, 2});
-  view.label(p2, "P2", {6, 10});
-  view.label(c, "C", {9, 6}, colours::red);
-  view.label(t1, "T1", {4, -13}, colours::red);
-  view.label(t2, "T2", {-10, 2}, colours::red);
+  view.point(p0, "P0", {-9, -4});
+  view.point(p1, "P1", {10, 2});
+  view.point(p2, "P2", {6, 10});
+  view.point(c, "C", {9, 6}, colours::red);
+  view.point(t1, "T1", {4, -13}, colours::red);
+  view.point(t2, "T2", {-10, 2}, colours::red);
   view.label(0.5F * (c + t1), "r", {8, 4}, colours::blue);
   return sheet;
 }

@@ -49,8 +49,7 @@ Sheet axes(const std::string &name) {
   plane.axes({}, 195);
   plane.line({}, p);
   plane.turn({}, 80, 0, phi);
-  plane.dot(p);
-  plane.label(p, "(x, y)", {8, 8});
+  plane.point(p, "(x, y)", {8, 8});
   plane.label(polar(2, 0.5 * phi), "phi", {8, 0}, colours::red);
   plane.line(p, {p.x, 0}, pens::dashed);
   plane.line(p, {0, p.y}, pens::dashed);

@@ -141,8 +141,7 @@ Sheet side(const std::string &name) {
   View view(sheet, {40, 30, 480, 250}, {0, 0, 7.5, 3.75});
   view.long_line(p1, p2, 30, pens::thin);
   view.arrow(p1, p2);
-  view.dot(p1);
-  view.label(p1, "P1", {-2, -13});
+  view.point(p1, "P1", {-2, -13});
   view.label(p2, "P2", {-2, 13});
   for (const Point &p : points) {
     float d = 0;
@@ -206,8 +205,7 @@ Sheet inside(const std::string &name) {
     view.label(crossing, "edge " + std::to_string(edge[i]), {i == 0 ? -7.0 : 7.0, -14},
                colours::grey, 12);
   }
-  view.dot(p1);
-  view.label(p1, "P1", {-9, 0});
+  view.point(p1, "P1", {-9, 0});
   view.label(p2, "P2", {0, 13});
   return sheet;
 }

@@ -136,8 +136,7 @@ Sheet hole(const std::string &name) {
   view.label(s + polar(2.5, 0.5 * alpha), "alpha", {4, 0}, colours::red);
   view.label(one, "1", {9, 0}, colours::red);
   view.label(two, "2", {alpha < 0 ? 8.0 : -8.0, 6}, colours::red);
-  view.dot(s, colours::red);
-  view.label(s, "S", {8, 12}, colours::red);
+  view.point(s, "S", {8, 12}, colours::red);
   return sheet;
 }
 

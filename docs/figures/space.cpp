@@ -84,11 +84,9 @@ void frame_of_points(Sheet &sheet) {
   view.area({{seen(p0), seen(p1), seen(p2)}}, colours::pale, pens::thin);
   global_axes(view, {-0.7F, -0.75F, 0}, 0.4F);
   draw_frame(view, p0, f, 1, {{{2, -12}, {9, 2}, {9, 4}}});
-  view.dot(seen(p1));
-  view.dot(seen(p2));
   view.label(seen(p0), "P0", {-10, 4});
-  view.label(seen(p1), "P1", {9, 4});
-  view.label(seen(p2), "P2", {9, -8});
+  view.point(seen(p1), "P1", {9, 4});
+  view.point(seen(p2), "P2", {9, -8});
   sheet.caption({180, 24}, "trvaxe: e1 from P0 to P1, e3 towards +y");
 }
 
@@ -112,9 +110,8 @@ void frame_of_member(Sheet &sheet) {
   sweep(view, p0, 0.7F * straight.e2, 0.7F * turned.e2, {colours::blue, 1.4});
   sweep(view, p0, 0.7F * straight.e3, 0.7F * turned.e3, {colours::blue, 1.4});
   view.label(seen(p0 + 0.9F * straight.e2), "angle", {12, 10}, colours::blue);
-  view.dot(seen(p1));
   view.label(seen(p0), "P0", {8, -10});
-  view.label(seen(p1), "P1", {0, 13});
+  view.point(seen(p1), "P1", {0, 13});
   sheet.caption({515, 24}, "trvaxel: e2, e3 turned by angle about e1");
 }
 
@@ -147,11 +144,9 @@ void turn_about_centre(Sheet &sheet) {
   view.line(centre, turned, pens::thin);
   view.turn(centre, view.pixels(length(given - centre)), from, from + angle);
   view.label(centre + polar(0.8, from + 0.5 * angle), "angle", {0, 0}, colours::red);
-  view.dot(centre);
-  view.dot(given);
   view.dot(turned, colours::red);
-  view.label(centre, "(x0, y0)", {0, -13});
-  view.label(given, "(x, y)", {0, -13});
+  view.point(centre, "(x0, y0)", {0, -13});
+  view.point(given, "(x, y)", {0, -13});
   view.label(turned, "(xr, yr)", {0, 13});
   sheet.caption({120, 24}, "trvcer3");
 }
@@ -175,12 +170,10 @@ void turn_about_axis(Sheet &sheet) {
   view.line(seen(foot), seen(given), pens::thin);
   view.line(seen(foot), seen(turned), pens::thin);
   sweep(view, foot, r, turned - foot, pens::result);
-  view.dot(seen(given));
-  view.dot(seen(turned), colours::red);
   view.label(seen(p0), "P0", {-9, 0});
   view.label(seen(p1), "P1", {9, 4});
-  view.label(seen(given), "Q", {-4, -12});
-  view.label(seen(turned), "turned", {4, 12}, colours::red);
+  view.point(seen(given), "Q", {-4, -12});
+  view.point(seen(turned), "turned", {4, 12}, colours::red);
   sheet.caption({350, 24}, "trvpra");
 }
 
@@ -211,8 +204,7 @@ void turn_of_plane(Sheet &sheet) {
   view.label(seen(middle + 0.5F * normal), "(a, b, c)", {-8, 0}, colours::red);
   view.label(seen(p0), "P0", {-9, -6});
   view.label(seen(p1), "P1", {8, 6});
-  view.dot(seen(p2));
-  view.label(seen(p2), "P2", {9, -4});
+  view.point(seen(p2), "P2", {9, -4});
   sheet.caption({635, 24}, "trvpl7");
 }
 
@@ -250,16 +242,13 @@ Sheet member(const std::string &name) {
   view.line(seen(p0), seen(p1), pens::thin);
   draw_frame(view, p0, f, 1, {{{2, 11}, {0, 10}, {-9, -4}}});
   view.path({seen(on_axis), seen(above), seen(q)}, pens::dashed);
-  view.dot(seen(p0));
-  view.dot(seen(p1));
-  view.dot(seen(on_axis), colours::grey);
   view.dot(seen(q), colours::red);
-  view.label(seen(p0), "P0", {6, -13});
-  view.label(seen(p1), "P1", {10, 4});
+  view.point(seen(p0), "P0", {6, -13});
+  view.point(seen(p1), "P1", {10, 4});
   view.label(seen(q), "Q", {-3, -12});
   view.label(seen(on_axis + 0.5F * (above - on_axis)), "along e2", {9, 4}, colours::grey, 12);
   view.label(seen(above + 0.5F * (q - above)), "along e3", {-6, 8}, colours::grey, 12);
-  view.label(seen(on_axis), "along e1", {14, -16}, colours::grey, 12);
+  view.point(seen(on_axis), "along e1", {14, -16}, colours::grey, 12);
   return sheet;
 }
 
@@ -292,11 +281,10 @@ Sheet plane(const std::string &name) {
   view.arrow(seen(middle), seen(middle + n), {colours::blue, 1.6});
   view.label(seen(middle + n), "(a, b, c)", {-8, 4}, colours::blue);
   view.line(seen(q), seen(foot), pens::result);
-  view.dot(seen(foot), colours::grey);
   view.dot(seen(q), colours::red);
   view.label(seen(q), "Q", {10, 4});
   view.label(seen(q + 0.5F * (foot - q)), "distance", {9, 0}, colours::red);
-  view.label(seen(foot), "foot", {9, -5}, colours::grey, 12);
+  view.point(seen(foot), "foot", {9, -5}, colours::grey, 12);
   view.label(seen(p0), "P0", {-9, -4});
   view.label(seen(p1), "P1", {9, -4});
   view.label(seen(p2), "P2", {-9, 6});
