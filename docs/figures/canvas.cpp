@@ -137,19 +137,22 @@ void View::arrow(Point a, Point b, const Pen &pen) {
   head(to, d, pen.colour);
 }
 
+std::string View::commands(const std::vector<Point> &points) const {
+  std::string text;
+  for (const Point &p : points) {
+    const Offset o = at(p);
+    text += (text.empty() ? "M" : " L") + svg::point(o.x, sheet_->down(o.y));
+  }
+  return text;
+}
+
 void View::path(const std::vector<Point> &points, const Pen &pen) {
-  for (std::size_t i = 1; i < points.size(); ++i) line(points[i - 1], points[i], pen);
+  sheet_->add(svg::path(commands(points), drawn_with(pen)));
 }
 
 void View::area(const std::vector<Outline> &rings, const char *fill, const Pen &pen) {
   std::string d;
-  for (const Outline &ring : rings) {
-    for (std::size_t i = 0; i < ring.size(); ++i) {
-      const Offset p = at(ring[i]);
-      d += (i == 0 ? "M" : " L") + svg::point(p.x, sheet_->down(p.y));
-    }
-    d += " Z ";
-  }
+  for (const Outline &ring : rings) d += commands(ring) + " Z ";
   sheet_->add(svg::path(d, attribute("fill-rule", "evenodd") +
                                attribute("stroke-linejoin", "round") + drawn_with(pen, fill)));
 }
@@ -209,6 +212,29 @@ void View::axes(Point origin, double length, const char *x, const char *y) {
   arrow(origin, to_y, pens::thin);
   label(to_x, x, {6, 0}, colours::grey);
   label(to_y, y, {0, 9}, colours::grey);
+}
+
+void View::axes_in_space(const Vector &origin, float length) {
+  const auto draw = [&](const char *name, const Vector &axis, Offset beside) {
+    arrow(seen(origin), seen(origin + axis), pens::thin);
+    label(seen(origin + axis), name, beside, colours::grey, 12);
+  };
+  draw("x", {length, 0, 0}, {7, -2});
+  draw("y", {0, length, 0}, {0, 9});
+  draw("z", {0, 0, length}, {-5, -5});
+}
+
+void View::sweep(const Vector &centre, const Vector &from, const Vector &to, const Pen &pen) {
+  std::vector<Point> points;
+  for (int i = 0; i <= 24; ++i) {
+    const float t = static_cast<float>(i) / 24;
+    const Vector v = (1 - t) * from + t * to;
+    points.push_back(seen(centre + static_cast<float>(length(from) / length(v)) * v));
+  }
+  const Point tip = points.back();
+  points.resize(points.size() - 2);  // the head takes the rest
+  path(points, pen);
+  arrow(points.back(), tip, pen);
 }
 
 void View::label(Point p, const std::string &text, Offset offset, const char *colour, double size) {

@@ -100,6 +100,10 @@ class View {
   // The axes of x and y from `origin`, so many pixels long.
   void axes(Point origin, double length, const char *x = "x", const char *y = "y");
 
+  // Those of space as they are seen, and a turn in it: from one vector from the centre to another.
+  void axes_in_space(const Vector &origin, float length);
+  void sweep(const Vector &centre, const Vector &from, const Vector &to, const Pen &pen);
+
   // Stands beside the point, on the side to which the offset goes.
   void label(Point p, const std::string &text, Offset offset, const char *colour = colours::ink,
              double size = 14);
@@ -124,6 +128,7 @@ class View {
   void head(Offset tip, Offset direction, const char *colour);
   void tick(Offset c);
   void disc(Offset c, const std::string &radius, const std::string &attributes);
+  [[nodiscard]] std::string commands(const std::vector<Point> &points) const;
   [[nodiscard]] std::string arc_path(Offset centre, double radius, double from, double to) const;
 
   Sheet *sheet_;

@@ -1,8 +1,6 @@
 // Stations on an arc, constructions on its chord, rounded corners.
 #include <trelvin/trelvin.h>
 
-#include <array>
-
 #include "figures.h"
 
 namespace figures {
@@ -38,43 +36,37 @@ void require_on_arc(const Arc &arc, Point p, const std::string &routine) {
 
 constexpr Box station_world{-2.4, -1.7, 2.4, 1.4};
 
-void perpendicular_station(Sheet &sheet, const Panel &panel) {
+// The station at d = 1.25 with its point, after trvcer6 or trvcer8.
+template <class Routine, class Check>
+void point_above_station(Sheet &sheet, const Panel &panel, const std::string &routine, Routine call,
+                         Check check) {
   const Arc arc;
   const float d = 1.25F;
   Point p;
   std::int32_t status = 0;
-  trvcer8(arc.c.x, arc.c.y, arc.a.x, arc.a.y, arc.b.x, arc.b.y, 1, d, p.x, p.y, status);
+  call(arc.c.x, arc.c.y, arc.a.x, arc.a.y, arc.b.x, arc.b.y, 1, d, p.x, p.y, status);
   const Point station = arc.a + Point{d, 0};
-  require(status == 1 && p.y > 0, "trvcer8: a point above the chord, for side 1");
-  require_on_arc(arc, p, "trvcer8");
-  require_near(dot(p - station, arc.b - arc.a), 0, "trvcer8: perpendicular to the chord");
+  require(status == 1 && p.y > 0, routine + ": a point above the chord, for side 1");
+  require_on_arc(arc, p, routine);
   View view(sheet, panel.paper, station_world);
   draw_arc(view, arc);
-  view.line(station, p, pens::result);
-  view.right_angle(station, p, arc.b);
+  check(view, arc, station, p);
   view.point(p, "(x, y)", {-6, 12}, colours::red);
   view.across(arc.a, station, -24, "d", View::Letter::before);
-  sheet.caption(panel.caption, "trvcer8");
+  sheet.caption(panel.caption, routine);
 }
 
-void radial_station(Sheet &sheet, const Panel &panel) {
-  const Arc arc;
-  const float d = 1.25F;
-  Point p;
-  std::int32_t status = 0;
-  trvcer6(arc.c.x, arc.c.y, arc.a.x, arc.a.y, arc.b.x, arc.b.y, 1, d, p.x, p.y, status);
-  const Point station = arc.a + Point{d, 0};
-  require(status == 1 && p.y > 0, "trvcer6: a point above the chord, for side 1");
-  require_on_arc(arc, p, "trvcer6");
+void perpendicular_station(View &view, const Arc &arc, Point station, Point p) {
+  require_near(dot(p - station, arc.b - arc.a), 0, "trvcer8: perpendicular to the chord");
+  view.line(station, p, pens::result);
+  view.right_angle(station, p, arc.b);
+}
+
+void radial_station(View &view, const Arc &arc, Point station, Point p) {
   require_near(cross(p - arc.c, station - arc.c), 0,
                "trvcer6: on the line from C through the station");
-  View view(sheet, panel.paper, station_world);
-  draw_arc(view, arc);
   view.line(arc.c, p, pens::result);
   view.dot(station, colours::grey);
-  view.point(p, "(x, y)", {-6, 12}, colours::red);
-  view.across(arc.a, station, -24, "d", View::Letter::before);
-  sheet.caption(panel.caption, "trvcer6");
 }
 
 void strip(Sheet &sheet, const Panel &panel) {
@@ -107,8 +99,9 @@ Sheet stations(const std::string &name) {
               "The point of the arc from A to B about C above a station d of its chord: "
               "perpendicular to the chord, on the line from the centre, and above both edges of a "
               "strip of width w. The side is 1.");
-  perpendicular_station(sheet, {{30, 55, 230, 215}, {130, 22}});
-  radial_station(sheet, {{250, 55, 450, 215}, {350, 22}});
+  point_above_station(sheet, {{30, 55, 230, 215}, {130, 22}}, "trvcer8", trvcer8,
+                      perpendicular_station);
+  point_above_station(sheet, {{250, 55, 450, 215}, {350, 22}}, "trvcer6", trvcer6, radial_station);
   strip(sheet, {{470, 55, 670, 215}, {570, 22}});
   return sheet;
 }

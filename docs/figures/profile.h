@@ -30,16 +30,9 @@ inline Profile profile(const host::Section &section) {
 }
 
 inline double area_of(const Outline &polygon) {
-  std::vector<float> x, y;
-  for (const Point &p : polygon) {
-    x.push_back(p.x);
-    y.push_back(p.y);
-  }
-  const auto n = static_cast<std::int32_t>(polygon.size());
-  x.push_back(0);
-  y.push_back(0);
+  Coordinates c(polygon);
   float area = 0;
-  trvapl(x.data(), y.data(), n, area);
+  trvapl(c.x.data(), c.y.data(), c.n, area);
   return area;
 }
 

@@ -2,7 +2,6 @@
 #include <trelvin/trelvin.h>
 
 #include <array>
-#include <cstdio>
 
 #include "figures.h"
 #include "profile.h"
@@ -10,30 +9,17 @@
 namespace figures {
 namespace {
 
-// The points of a part, with the spare element of a polygon.
 struct Part {
   std::int32_t kind;
   std::vector<Point> points;
   float value = 0;
   float factor = 1;
-
-  [[nodiscard]] std::vector<float> xs() const { return coordinates(&Point::x); }
-  [[nodiscard]] std::vector<float> ys() const { return coordinates(&Point::y); }
-  [[nodiscard]] std::int32_t n() const { return static_cast<std::int32_t>(points.size()); }
-
- private:
-  [[nodiscard]] std::vector<float> coordinates(float Point::*which) const {
-    std::vector<float> values;
-    for (const Point &p : points) values.push_back(p.*which);
-    values.push_back(0);
-    return values;
-  }
 };
 
 float area_of(const Part &part) {
-  std::vector<float> x = part.xs(), y = part.ys();
+  Coordinates c(part.points);
   float area = 0;
-  trvair(x.data(), y.data(), part.n(), part.kind, part.value, part.factor, area);
+  trvair(c.x.data(), c.y.data(), c.n, part.kind, part.value, part.factor, area);
   return area;
 }
 
@@ -92,11 +78,11 @@ struct Section {
 };
 
 void add(Section *section, const Part &part) {
-  std::vector<float> x = part.xs(), y = part.ys();
+  Coordinates c(part.points);
   Section p;
-  trvair(x.data(), y.data(), part.n(), part.kind, part.value, part.factor, p.area);
-  trvstm(x.data(), y.data(), part.n(), part.kind, part.value, part.factor, p.sx, p.sy);
-  trvinm(x.data(), y.data(), part.n(), part.kind, part.value, 0, part.factor, p.ix, p.iy, p.ixy);
+  trvair(c.x.data(), c.y.data(), c.n, part.kind, part.value, part.factor, p.area);
+  trvstm(c.x.data(), c.y.data(), c.n, part.kind, part.value, part.factor, p.sx, p.sy);
+  trvinm(c.x.data(), c.y.data(), c.n, part.kind, part.value, 0, part.factor, p.ix, p.iy, p.ixy);
   *section = {section->area + p.area, section->sx + p.sx, section->sy + p.sy,
               section->ix + p.ix,     section->iy + p.iy, section->ixy + p.ixy};
 }
