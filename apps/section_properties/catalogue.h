@@ -16,16 +16,13 @@
 namespace host {
 
 struct UnequalI {
-  static constexpr Description about{"ia",
-                                     "I section with unequal flanges, 1 at the bottom",
-                                     "trvsec_ia",
-                                     {{"H", 400, 300},
-                                      {"B1", 300, 320},
-                                      {"B2", 200, 220},
-                                      {"T1", 20, 42},
-                                      {"T2", 15, 34},
-                                      {"TW", 10, 30}},
-                                     R"(
+  static constexpr Description about{
+      "ia",
+      "I section with unequal flanges, 1 at the bottom",
+      "trvsec_ia",
+      {{"H", 400}, {"B1", 300}, {"B2", 200}, {"T1", 20}, {"T2", 15}, {"TW", 10}},
+      {300, 320, 220, 42, 34, 30},
+      R"(
              B2
          |---------|
          ===========  T2     -
@@ -58,16 +55,13 @@ struct UnequalI {
 };
 
 struct LyingI {
-  static constexpr Description about{"h",
-                                     "I section on its side, flange 1 on the left",
-                                     "trvsec_h",
-                                     {{"H", 400, 400},
-                                      {"B1", 300, 260},
-                                      {"B2", 200, 190},
-                                      {"T1", 20, 42},
-                                      {"T2", 15, 34},
-                                      {"TW", 10, 30}},
-                                     R"(
+  static constexpr Description about{
+      "h",
+      "I section on its side, flange 1 on the left",
+      "trvsec_h",
+      {{"H", 400}, {"B1", 300}, {"B2", 200}, {"T1", 20}, {"T2", 15}, {"TW", 10}},
+      {400, 260, 190, 42, 34, 30},
+      R"(
               H
      |----------------|
      T1               T2
@@ -102,15 +96,16 @@ struct FilletedI {
   static constexpr Description about{"i",
                                      "as ia, the web moved by E, with 45-degree fillets S",
                                      "trvsec_i",
-                                     {{"H", 400, 320},
-                                      {"B1", 300, 340},
-                                      {"B2", 200, 290},
-                                      {"T1", 20, 40},
-                                      {"T2", 15, 34},
-                                      {"TW", 10, 30},
-                                      {"S1", 8, 46, may_be_zero},
-                                      {"S2", 6, 38, may_be_zero},
-                                      {"E", 20, 56, may_be_zero}},
+                                     {{"H", 400},
+                                      {"B1", 300},
+                                      {"B2", 200},
+                                      {"T1", 20},
+                                      {"T2", 15},
+                                      {"TW", 10},
+                                      {"S1", 8, may_be_zero},
+                                      {"S2", 6, may_be_zero},
+                                      {"E", 20, may_be_zero}},
+                                     {320, 340, 290, 40, 34, 30, 46, 38, 56},
                                      R"(
              B2
          |---------|
@@ -157,12 +152,12 @@ struct FilletedI {
 };
 
 struct Tee {
-  static constexpr Description about{
-      "t",
-      "T section, flange at the top",
-      "trvsec_t",
-      {{"B", 150, 260}, {"H", 200, 240}, {"TF", 12, 38}, {"TW", 8, 32}},
-      R"(
+  static constexpr Description about{"t",
+                                     "T section, flange at the top",
+                                     "trvsec_t",
+                                     {{"B", 150}, {"H", 200}, {"TF", 12}, {"TW", 8}},
+                                     {260, 240, 38, 32},
+                                     R"(
              B
      |----------------|
      ==================  TF  -
@@ -194,8 +189,8 @@ struct Tee {
 };
 
 struct FlatBar {
-  static constexpr Description about{
-      "b", "flat bar", by_its_parts, {{"B", 200, 240}, {"H", 15, 110}}, R"(
+  static constexpr Description about{"b",        "flat bar", by_its_parts, {{"B", 200}, {"H", 15}},
+                                     {240, 110}, R"(
              B
      |----------------|
      ==================  -
@@ -216,20 +211,21 @@ struct Channel {
   static constexpr Description about{"c",
                                      "channel with lips C and folds D, or without",
                                      "trvsec_c",
-                                     {{"H", 200, 400},
-                                      {"B1", 80, 400},
-                                      {"B2", 60, 340},
-                                      {"C1", 25, 104, may_be_zero},
-                                      {"C2", 20, 92, may_be_zero},
-                                      {"D1", 12, 110, may_be_zero},
-                                      {"D2", 10, 96, may_be_zero},
-                                      {"TW", 3, 26},
-                                      {"T1", 4, 32},
-                                      {"T2", 5, 28},
-                                      {"TC1", 2, 28, may_be_zero},
-                                      {"TC2", 2.5F, 24, may_be_zero},
-                                      {"TD1", 1.5F, 24, may_be_zero},
-                                      {"TD2", 2, 22, may_be_zero}},
+                                     {{"H", 200},
+                                      {"B1", 80},
+                                      {"B2", 60},
+                                      {"C1", 25, may_be_zero},
+                                      {"C2", 20, may_be_zero},
+                                      {"D1", 12, may_be_zero},
+                                      {"D2", 10, may_be_zero},
+                                      {"TW", 3},
+                                      {"T1", 4},
+                                      {"T2", 5},
+                                      {"TC1", 2, may_be_zero},
+                                      {"TC2", 2.5F, may_be_zero},
+                                      {"TD1", 1.5F, may_be_zero},
+                                      {"TD2", 2, may_be_zero}},
+                                     {400, 400, 340, 104, 92, 110, 96, 26, 32, 28, 28, 24, 24, 22},
                                      R"(
              B2
      |----------------|
@@ -326,17 +322,13 @@ struct Channel {
 };
 
 struct CoveredI {
-  static constexpr Description about{"h1b",
-                                     "I section on its side under a cover plate",
-                                     "trvsec_h1b",
-                                     {{"W", 320, 400},
-                                      {"D", 300, 280},
-                                      {"P", 280, 220},
-                                      {"T1", 12, 40},
-                                      {"T2", 14, 30},
-                                      {"TW", 10, 30},
-                                      {"TP", 20, 36}},
-                                     R"(
+  static constexpr Description about{
+      "h1b",
+      "I section on its side under a cover plate",
+      "trvsec_h1b",
+      {{"W", 320}, {"D", 300}, {"P", 280}, {"T1", 12}, {"T2", 14}, {"TW", 10}, {"TP", 20}},
+      {400, 280, 220, 40, 30, 30, 36},
+      R"(
                 W
      |---------------------|
      =======================  TP
@@ -381,17 +373,13 @@ struct CoveredI {
 };
 
 struct BoxGirder {
-  static constexpr Description about{"box",
-                                     "box girder with overhanging flanges",
-                                     "trvsec_box",
-                                     {{"BT", 3000, 420},
-                                      {"BB", 2000, 330},
-                                      {"TT", 20, 36},
-                                      {"TB", 25, 30},
-                                      {"H", 1500, 270},
-                                      {"TW", 12, 28},
-                                      {"G", 1600, 180}},
-                                     R"(
+  static constexpr Description about{
+      "box",
+      "box girder with overhanging flanges",
+      "trvsec_box",
+      {{"BT", 3000}, {"BB", 2000}, {"TT", 20}, {"TB", 25}, {"H", 1500}, {"TW", 12}, {"G", 1600}},
+      {420, 330, 36, 30, 270, 28, 180},
+      R"(
                 BT
      |---------------------|
      =======================  TT  -
@@ -433,7 +421,8 @@ struct HollowSection {
   static constexpr Description about{"rhs",
                                      "rectangular hollow section with sharp corners",
                                      "trvsec_rhs",
-                                     {{"B", 100, 300}, {"H", 200, 210}, {"T", 8, 34}},
+                                     {{"B", 100}, {"H", 200}, {"T", 8}},
+                                     {300, 210, 34},
                                      R"(
             B
      |--------------|
@@ -463,11 +452,11 @@ struct HollowSection {
 };
 
 struct Angle {
-  static constexpr Description about{"l",
-                                     "angle with sharp toes and a root fillet, or without",
-                                     by_its_parts,
-                                     {{"B", 100}, {"H", 100}, {"T", 10}, {"R", 12, may_be_zero}},
-                                     R"(
+  static constexpr Description about{
+      "l",          "angle with sharp toes and a root fillet, or without",
+      by_its_parts, {{"B", 100}, {"H", 100}, {"T", 10}, {"R", 12, may_be_zero}},
+      no_figure,
+      R"(
      ||             -
    T ||             |
      ||             | H
@@ -499,12 +488,12 @@ struct Angle {
 };
 
 struct TwoAngles {
-  static constexpr Description about{
-      "l2",
-      "two equal angles back to back",
-      "trvsec_l2",
-      {{"B", 90, 170}, {"H", 120, 200}, {"G", 10, 44}, {"T", 9, 32}, {"TV", 11, 28}},
-      R"(
+  static constexpr Description about{"l2",
+                                     "two equal angles back to back",
+                                     "trvsec_l2",
+                                     {{"B", 90}, {"H", 120}, {"G", 10}, {"T", 9}, {"TV", 11}},
+                                     {170, 200, 44, 32, 28},
+                                     R"(
           B    G    B
      |--------|-|--------|
      ========== ==========  T  -
@@ -533,17 +522,13 @@ struct TwoAngles {
 };
 
 struct PlateOnCell {
-  static constexpr Description about{"tab",
-                                     "top plate on a closed cell",
-                                     "trvsec_tab",
-                                     {{"B", 600, 420},
-                                      {"H", 400, 220},
-                                      {"BW", 350, 290},
-                                      {"E", 40, 60},
-                                      {"T", 25, 34},
-                                      {"TW", 12, 30},
-                                      {"TB", 20, 28}},
-                                     R"(
+  static constexpr Description about{
+      "tab",
+      "top plate on a closed cell",
+      "trvsec_tab",
+      {{"B", 600}, {"H", 400}, {"BW", 350}, {"E", 40}, {"T", 25}, {"TW", 12}, {"TB", 20}},
+      {420, 220, 290, 60, 34, 30, 28},
+      R"(
                  B
      |-----------------------|
      =========================  T
@@ -583,17 +568,13 @@ struct PlateOnCell {
 };
 
 struct TwoCells {
-  static constexpr Description about{"h2b",
-                                     "two flanges, two webs and a middle plate",
-                                     "trvsec_h2b",
-                                     {{"B", 400, 360},
-                                      {"W", 300, 270},
-                                      {"HI", 500, 260},
-                                      {"TW1", 12, 40},
-                                      {"TW2", 14, 30},
-                                      {"TM", 10, 28},
-                                      {"TF", 20, 34}},
-                                     R"(
+  static constexpr Description about{
+      "h2b",
+      "two flanges, two webs and a middle plate",
+      "trvsec_h2b",
+      {{"B", 400}, {"W", 300}, {"HI", 500}, {"TW1", 12}, {"TW2", 14}, {"TM", 10}, {"TF", 20}},
+      {360, 270, 260, 40, 30, 28, 34},
+      R"(
                  B
      |-----------------------|
      =========================  TF
@@ -641,10 +622,9 @@ struct TwoCells {
 
 struct RolledI {
   static constexpr Description about{
-      "rolled",
-      "hot-rolled I section with root fillets",
-      by_its_parts,
-      {{"H", 300}, {"B", 150}, {"TW", 7.1F}, {"TF", 10.7F}, {"R", 15}},
+      "rolled",     "hot-rolled I section with root fillets",
+      by_its_parts, {{"H", 300}, {"B", 150}, {"TW", 7.1F}, {"TF", 10.7F}, {"R", 15}},
+      no_figure,
       R"(
              B
      |----------------|

@@ -14,56 +14,58 @@ constexpr Least may_be_zero = Least::zero;
 
 struct Dimension {
   constexpr Dimension() = default;
-  constexpr Dimension(std::string_view its_letter, float start_value, float drawn_value,
-                      Least its_least = Least::positive)
-      : letter(its_letter), start(start_value), drawn(drawn_value), least(its_least) {}
   constexpr Dimension(std::string_view its_letter, float start_value,
                       Least its_least = Least::positive)
-      : Dimension(its_letter, start_value, start_value, its_least) {}
+      : letter(its_letter), start(start_value), least(its_least) {}
 
   std::string_view letter;
   float start = 0;  // of the profile as the designer shows it first
-  float drawn = 0;  // in the manual's figure, whose walls have room for the numbers of vertices
   Least least = Least::positive;
 };
 
-// In the order of the library's routine.
-class Dimensions {
+// A list of the compiler's: of dimensions in the order of the library's routine, and of values.
+template <class T>
+class Listed {
  public:
-  constexpr Dimensions(std::initializer_list<Dimension> dimensions) {
-    for (const Dimension &dimension : dimensions) dimensions_[size_++] = dimension;
+  constexpr Listed(std::initializer_list<T> items) {
+    for (const T &item : items) items_[size_++] = item;
   }
 
   [[nodiscard]] constexpr std::size_t size() const { return size_; }
-  constexpr const Dimension &operator[](std::size_t i) const { return dimensions_[i]; }
-  [[nodiscard]] const Dimension *begin() const { return dimensions_.data(); }
-  [[nodiscard]] const Dimension *end() const { return begin() + size_; }
+  constexpr const T &operator[](std::size_t i) const { return items_[i]; }
+  [[nodiscard]] const T *begin() const { return items_.data(); }
+  [[nodiscard]] const T *end() const { return begin() + size_; }
 
  private:
-  std::array<Dimension, most_dimensions> dimensions_{};
+  std::array<T, most_dimensions> items_{};
   std::size_t size_ = 0;
 };
+
+using Dimensions = Listed<Dimension>;
 
 // A constructor, since it must be given all of it.
 struct Description {
   constexpr Description(std::string_view its_name, std::string_view its_description,
                         std::string_view its_routine, const Dimensions &its_dimensions,
-                        std::string_view its_letters)
+                        const Listed<float> &values_drawn, std::string_view its_letters)
       : name(its_name),
         description(its_description),
         routine(its_routine),
         dimensions(its_dimensions),
+        drawn(values_drawn),
         letters(its_letters) {}
 
   std::string_view name;
   std::string_view description;
   std::string_view routine;  // gives the outline
   Dimensions dimensions;
+  Listed<float> drawn;  // in the manual's figure, whose walls have room for the vertices' numbers
   std::string_view letters;  // a picture with the dimensions
 };
 
 // Instead of a routine: the profile adds its parts itself.
 constexpr std::string_view by_its_parts;
+constexpr Listed<float> no_figure{};
 
 // A list of profiles.
 template <class... P>

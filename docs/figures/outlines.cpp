@@ -114,8 +114,8 @@ Sheet draw(const std::string &name, std::string_view description, const Profile 
 template <class P>
 Figure figure(std::string_view routine) {
   return {"outline-" + std::string(routine), [](const std::string &name) {
-            const P drawn =
-                host::made_of<P>([](std::size_t i) { return P::about.dimensions[i].drawn; });
+            static_assert(P::about.drawn.size() == P::about.dimensions.size());
+            const P drawn = host::made_of<P>([](std::size_t i) { return P::about.drawn[i]; });
             const Profile outline = profile(drawn.section());
             const Box box = bounds(outline);
             return draw(name, P::about.description, outline,
@@ -123,11 +123,24 @@ Figure figure(std::string_view routine) {
           }};
 }
 
+template <class P>
+void add(std::vector<Figure> &figures) {
+  if constexpr (P::about.routine != host::by_its_parts) {
+    figures.push_back(figure<P>(P::about.routine));
+  }
+}
+
+template <class P>
+void add_figure(std::vector<Figure> &figures) {
+  if constexpr (P::about.routine != host::by_its_parts) {
+    figures.push_back(figure<P>(P::about.routine));
+  }
+}
+
 template <class... P>
 std::vector<Figure> figures_of(host::Kinds<P...> /*profiles*/) {
   std::vector<Figure> figures;
-  (..., (P::about.routine == host::by_its_parts ? void()
-                                                : figures.push_back(figure<P>(P::about.routine))));
+  (..., add_figure<P>(figures));
   return figures;
 }
 
