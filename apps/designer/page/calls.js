@@ -5,11 +5,13 @@
 
 const BEHIND = ["z1", "z2", "z3", "z4", "z5", "q1", "q2"]; // what else comes with each polygon
 
-// A list, broken into lines with an indent.
-function listed(items, indent, end = "") {
+const same = name => name;
+
+// A list of items in a form, broken into lines with an indent.
+function listed(items, indent, end = "", form = same) {
   const rows = [""];
   items.forEach((item, i) => {
-    const text = item + (i + 1 < items.length ? ", " : "");
+    const text = form(item) + (i + 1 < items.length ? ", " : "");
     if (indent + rows.at(-1).length + text.length > 96) {
       rows.push(`${rows.pop().trimEnd()}${end}`, "");
     }
@@ -18,19 +20,20 @@ function listed(items, indent, end = "") {
   return rows.join(`\n${" ".repeat(indent)}`);
 }
 
-// The call's arguments: dimensions, q, and the outputs as the language writes an array.
-const argumentsOf = (s, array, input = name => name, output = name => name) => [
+// The call's arguments: dimensions, q, and the outputs, as the language writes each kind.
+const argumentsOf = (s, {input = same, output = same, array = same} = {}) => [
   ...s.names.map(input),
   input("q"),
   output("np"),
   ...["nv", "x", "y", "code", "sign", ...BEHIND].map(array),
 ];
-const valuesOf = (s, value = word => word) => [
+const valuesOf = (s, value = same) => [
   ...s.names.map((name, i) => `${name} = ${value(s.dimensions[i])}`),
   `q = ${value("0")}`,
 ];
 const body = (s, part, call) => (s.routine === "" ? s.parts.map(part).join("") : call());
-const same = name => name;
+const single = number => `${number}f`;
+const pointer = name => `&${name}`;
 const withPoint = number => (number.includes(".") ? number : `${number}.0`);
 
 // Each takes a section: its title, profile, names and dimensions, and its parts with kind, factor,
@@ -40,15 +43,7 @@ const LANGUAGES = {
     const call = () => `  const float ${listed(valuesOf(s), 14)};
   int32_t np, nv[3], code[3];
   float x[20], y[20], sign[3], ${BEHIND.map(name => `${name}[3]`).join(", ")};
-  ${s.routine}(${listed(
-    argumentsOf(
-      s,
-      same,
-      name => `&${name}`,
-      name => `&${name}`,
-    ),
-    6,
-  )});
+  ${s.routine}(${listed(argumentsOf(s, {input: pointer, output: pointer}), 6)});
   for (int32_t i = 0, from = 0; i < np; from += nv[i++]) {
     add(code[i], sign[i], nv[i], x + from, y + from);
   }
@@ -96,7 +91,7 @@ ${body(s, part, call)}
   integer(c_int32_t) :: np, nv(3), code(3), i, first = 1
   real(rk) :: x(20), y(20), sign(3), ${BEHIND.map(name => `${name}(3)`).join(", ")}
 `;
-    const call = () => `  call ${s.routine}(${listed(argumentsOf(s, same), 6, " &")})
+    const call = () => `  call ${s.routine}(${listed(argumentsOf(s), 6, " &")})
   do i = 1, np
     call add(code(i), sign(i), x(first:first + nv(i) - 1), y(first:first + nv(i) - 1))
     first = first + nv(i)
@@ -154,10 +149,7 @@ var
   x, y: array[0..19] of Single;
   ${["sign", ...BEHIND].join(", ")}: array[0..2] of Single;
 `;
-    const call = () => `  ${s.routine}(${listed(
-      argumentsOf(s, name => `${name}[0]`),
-      4,
-    )});
+    const call = () => `  ${s.routine}(${listed(argumentsOf(s, {array: name => `${name}[0]`}), 4)});
   first := 0;
   for i := 0 to np - 1 do
   begin
@@ -213,16 +205,8 @@ end.
         "",
       )}    Dim np As Long, nv(0 To 2) As Long, code(0 To 2) As Long, i As Long, first As Long
     Dim x(0 To 19) As Single, y(0 To 19) As Single, sign(0 To 2) As Single
-    Dim ${listed(
-      BEHIND.map(name => `${name}(0 To 2) As Single`),
-      8,
-      " _",
-    )}
-    ${s.routine} ${listed(
-      argumentsOf(s, name => `${name}(0)`),
-      8,
-      " _",
-    )}
+    Dim ${listed(BEHIND, 8, " _", name => `${name}(0 To 2) As Single`)}
+    ${s.routine} ${listed(argumentsOf(s, {array: name => `${name}(0)`}), 8, " _")}
     For i = 0 To np - 1
         AddPart code(i), sign(i), nv(i), first, x, y
         first = first + nv(i)
@@ -268,33 +252,18 @@ End Sub
   },
 
   "C#": s => {
-    const call = () => `        const float ${listed(
-      valuesOf(s, word => `${word}f`),
-      12,
-    )};
+    const call = () => `        const float ${listed(valuesOf(s, single), 12)};
         int np;
         int[] nv = new int[3], code = new int[3];
         float[] x = new float[20], y = new float[20], sign = new float[3];
-        float[] ${listed(
-          BEHIND.map(name => `${name} = new float[3]`),
-          12,
-        )};
-        Native.${s.routine}(${listed(
-          argumentsOf(s, same, same, name => `out ${name}`),
-          12,
-        )});
+        float[] ${listed(BEHIND, 12, "", name => `${name} = new float[3]`)};
+        Native.${s.routine}(${listed(argumentsOf(s, {output: name => `out ${name}`}), 12)});
         for (int i = 0, first = 0; i < np; first += nv[i++])
             Add(code[i], sign[i], nv[i], first, x, y);
 `;
     const part = p => `        Add(${p.kind}, ${p.factor}, ${p.x.length}, 0,
-            new float[] {${listed(
-              p.x.map(x => `${x}f`),
-              16,
-            )}},
-            new float[] {${listed(
-              p.y.map(y => `${y}f`),
-              16,
-            )}});
+            new float[] {${listed(p.x, 16, "", single)}},
+            new float[] {${listed(p.y, 16, "", single)}});
 `;
     return `// ${s.title}
 using System;
@@ -335,10 +304,8 @@ ${body(s, part, call)}
   },
 
   Python: s => {
-    const call = () => `outline = trelvin.${s.routine}(${listed(
-      valuesOf(s).map(value => value.replace(" = ", "=")),
-      4,
-    )})
+    const call =
+      () => `outline = trelvin.${s.routine}(${listed(valuesOf(s), 4, "", value => value.replace(" = ", "="))})
 first = 0
 for kind, factor, n in zip(outline.code, outline.sign, outline.nv):
     add(kind, factor, outline.X[first : first + n], outline.Y[first : first + n])
