@@ -13,13 +13,8 @@ enum class Least { positive, zero };
 constexpr Least may_be_zero = Least::zero;
 
 struct Dimension {
-  constexpr Dimension() = default;
-  constexpr Dimension(std::string_view its_letter, float start_value,
-                      Least its_least = Least::positive)
-      : letter(its_letter), start(start_value), least(its_least) {}
-
   std::string_view letter;
-  float start = 0;  // of the profile as the designer shows it first
+  float start;  // of the profile as the designer shows it first
   Least least = Least::positive;
 };
 
@@ -43,18 +38,7 @@ class Listed {
 
 using Dimensions = Listed<Dimension>;
 
-// A constructor, since it must be given all of it.
 struct Description {
-  constexpr Description(std::string_view its_name, std::string_view its_description,
-                        std::string_view its_routine, const Dimensions &its_dimensions,
-                        const Listed<float> &values_drawn, std::string_view its_letters)
-      : name(its_name),
-        description(its_description),
-        routine(its_routine),
-        dimensions(its_dimensions),
-        drawn(values_drawn),
-        letters(its_letters) {}
-
   std::string_view name;
   std::string_view description;
   std::string_view routine;  // gives the outline
