@@ -26,16 +26,20 @@ Box bounds(const Profile &profile) {
   return box;
 }
 
-// A dimension line must begin and end where there is a vertex, unless it measures from axis to axis.
+// A dimension line must begin and end where there is a vertex. One from the middle of the profile must
+// end in the middle between two.
 void require_vertices(const Profile &profile, const host::Measure &measure) {
-  if (measure.from == 0) return;
-  for (const double end : {measure.from, measure.to()}) {
-    bool is_there = false;
-    for (const Outline &polygon : profile.polygons)
-      for (const Point &p : polygon)
-        is_there |= std::fabs((measure.is_along_x() ? p.x : p.y) - end) < 1e-3;
-    require(is_there, std::string(measure.name));
-  }
+  std::vector<double> places;
+  for (const Outline &polygon : profile.polygons)
+    for (const Point &p : polygon) places.push_back(measure.is_along_x() ? p.x : p.y);
+  const auto is_there = [&](double end) {
+    return std::any_of(places.begin(), places.end(),
+                       [&](double place) { return std::fabs(place - end) < 1e-3; });
+  };
+  const auto has_twin = [&](double place) { return is_there(2 * measure.to() - place); };
+  require(measure.from == 0 ? std::any_of(places.begin(), places.end(), has_twin)
+                            : is_there(measure.from) && is_there(measure.to()),
+          std::string(measure.name));
 }
 
 void draw_numbers(View &view, const Profile &profile) {

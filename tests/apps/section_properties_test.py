@@ -160,7 +160,6 @@ b {} 1; 1e-12; 1e-13; the section is""".splitlines()[1:]]
 # What is near to a word that is no profile.
 NEAR = {"lat": "", "rol": "", "rhz": "'rhs'", "Channel": "'c'",
         "girder": "'box'", "rroolled": "'rolled'", "ROOT": "'l' or 'rolled'", "batc": "'batch'",
-        "section": "'ia', 'h', 't', 'h1b', 'rhs' or 'rolled'",
         "plate": "'h1b', 'tab', 'h2b' or 'plates'"}
 
 # The rows of the table: heading, names of the figures, power of mm.
