@@ -6,7 +6,6 @@
 
 #include "given.h"
 #include "numbers.h"
-#include "picture.h"
 #include "report.h"
 
 namespace {
@@ -75,22 +74,17 @@ std::string parts_text(const Section &section) {
 Refusal design(const std::string_view *words, std::size_t count) {
   Given given;
   Section section;
-  Properties properties;
-  Refusal fault = read_given(words, count, given);
-  if (fault.message.empty()) fault = properties_of(given, section, properties);
+  Subject subject;
+  Refusal fault = read_subject(words, count, given, section, subject);
   if (!fault.message.empty()) return fault;
-  const Profile &profile = *given.profile;
-  const Outline outline = outline_of(section);
-  const Figures f = figures_of(given, properties, outline);
   texts[dimensions].clear();
-  for (std::size_t i = 0; i < profile.dimensions.size(); ++i) {
+  for (std::size_t i = 0; i < given.profile->dimensions.size(); ++i) {
     texts[dimensions].append(i == 0 ? "" : " ").append(shortest(given.dimensions[i]));
   }
-  texts[figures] = rows_text(f);
-  texts[figures_as_json] = json(f);
-  texts[drawing] = picture(std::string(profile.name) + ": " + std::string(profile.description),
-                           dimensions_text(given), outline, measures_of(given, outline), f);
-  texts[remarks] = notes(f);
+  texts[figures] = rows_text(subject.figures);
+  texts[figures_as_json] = json(subject.figures);
+  texts[drawing] = picture(subject);
+  texts[remarks] = notes(subject.figures);
   texts[parts] = parts_text(section);
   return {};
 }

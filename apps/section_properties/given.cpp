@@ -80,6 +80,25 @@ std::string near_matches(std::string_view word) {
   return text.empty() ? text : text + '?';
 }
 
+// "B = 100, H = 200, T = 8 mm"
+std::string dimensions_text(const Given &given) {
+  std::string text;
+  const Dimensions &dimensions = given.profile->dimensions;
+  for (std::size_t i = 0; i < dimensions.size(); ++i) {
+    text.append(i > 0 ? ", " : "").append(dimensions[i].letter).append(" = ");
+    text += shortest(given.dimensions[i]);
+  }
+  return text + " mm";
+}
+
+// Without those of no length.
+Measures measures_of(const Given &given, const Outline &outline) {
+  Measures all = given.profile->measures(given.dimensions.data(), bounding_box(outline));
+  const auto has_no_length = [](const Measure &measure) { return measure.value == 0; };
+  all.erase(std::remove_if(all.begin(), all.end(), has_no_length), all.end());
+  return all;
+}
+
 }  // namespace
 
 std::string usage_of(const Profile &profile) {
@@ -119,28 +138,11 @@ Refusal read_given(const std::string_view *words, std::size_t count, Given &give
   return {};
 }
 
-std::string dimensions_text(const Given &given) {
-  std::string text;
-  const Dimensions &dimensions = given.profile->dimensions;
-  for (std::size_t i = 0; i < dimensions.size(); ++i) {
-    text.append(i > 0 ? ", " : "").append(dimensions[i].letter).append(" = ");
-    text += shortest(given.dimensions[i]);
-  }
-  return text + " mm";
-}
-
 Refusal properties_of(const Given &given, Section &section, Properties &properties) {
   section = given.profile->section(given.dimensions.data());
   properties = properties_of(section);
   if (are_representable(properties)) return {};
   return {"the section is too large or too small for single precision"};
-}
-
-Measures measures_of(const Given &given, const Outline &outline) {
-  Measures all = given.profile->measures(given.dimensions.data(), bounding_box(outline));
-  const auto has_no_length = [](const Measure &measure) { return measure.value == 0; };
-  all.erase(std::remove_if(all.begin(), all.end(), has_no_length), all.end());
-  return all;
 }
 
 Figures figures_of(const Given &given, const Properties &properties, const Outline &outline) {
@@ -151,6 +153,22 @@ Figures figures_of(const Given &given, const Properties &properties, const Outli
     figures.torsion = {{}, {}, {}, "No torsion: the walls are too thick for thin-walled theory."};
   }
   return figures;
+}
+
+Refusal read_subject(const std::string_view *words, std::size_t count, Given &given,
+                     Section &section, Subject &subject) {
+  Properties properties;
+  Refusal refusal = read_given(words, count, given);
+  if (refusal.message.empty()) refusal = properties_of(given, section, properties);
+  if (!refusal.message.empty()) return refusal;
+  Outline outline = outline_of(section);
+  subject = {std::string(given.profile->name),
+             std::string(given.profile->description),
+             dimensions_text(given),
+             figures_of(given, properties, outline),
+             outline,
+             measures_of(given, outline)};
+  return {};
 }
 
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "picture.h"
 #include "profiles.h"
 
 namespace host {
@@ -31,15 +32,13 @@ const Profile *find_profile(std::string_view name);
 // Reads a profile and its dimensions, words in that order.
 Refusal read_given(const std::string_view *words, std::size_t count, Given &given);
 
-// "B = 100, H = 200, T = 8 mm"
-std::string dimensions_text(const Given &given);
-
 // Their properties, or why they have none.
 Refusal properties_of(const Given &given, Section &section, Properties &properties);
 
-// Without those of no length.
-Measures measures_of(const Given &given, const Outline &outline);
-
 Figures figures_of(const Given &given, const Properties &properties, const Outline &outline);
+
+// All of that, from words.
+Refusal read_subject(const std::string_view *words, std::size_t count, Given &given,
+                     Section &section, Subject &subject);
 
 }  // namespace host

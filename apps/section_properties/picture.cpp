@@ -190,8 +190,9 @@ std::string drawing(const Outline &outline, const Figures &f, const DimensionLin
 
 }  // namespace
 
-std::string picture(const std::string &title, const std::string &subtitle, const Outline &outline,
-                    const Measures &measures, const Figures &figures) {
+std::string picture(const Subject &subject) {
+  const auto &[name, description, subtitle, figures, outline, measures] = subject;
+  const std::string title = name + ": " + description;
   const Box shown = around(bounding_box(outline), figures.torsion.shear_centre);
   const DimensionLines dimensions(measures, shown, Sheet::scale(shown));
   const Sheet at(shown, dimensions.lanes(), legend(figures, 0).height());
