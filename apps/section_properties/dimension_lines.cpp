@@ -37,7 +37,7 @@ DimensionLines::Placed DimensionLines::placed(const Measure &measure, double mid
   if (to - from >= width + clearance) return line;
   // Towards the middle, so that figures stay beside the section.
   const bool is_behind = from + to <= 1e-9;
-  line.place = is_behind ? Placed::Place::behind : Placed::Place::before;
+  line.place = is_behind ? Letter::behind : Letter::before;
   (is_behind ? line.end : line.start) += is_behind ? width + clearance : -width - clearance;
   return line;
 }
@@ -122,14 +122,14 @@ DimensionLines::Drawing DimensionLines::drawn(const Placed &line, const Sheet &a
                             extension(length) + stroke(0) + stroke(length);
   std::string figure;
   switch (line.place) {
-    case Placed::Place::inside:
+    case Letter::between:
       figure = text(0.5 * length, -6, line.figure, place);
       break;
-    case Placed::Place::behind:
+    case Letter::behind:
       figure =
           text(length + overhang + 2, 4.5, line.figure, place + attribute("text-anchor", "start"));
       break;
-    case Placed::Place::before:
+    case Letter::before:
       figure = text(-overhang - 2, 4.5, line.figure, place + attribute("text-anchor", "end"));
       break;
   }

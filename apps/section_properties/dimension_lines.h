@@ -9,6 +9,9 @@
 
 namespace host {
 
+// Where what is written stands: above the line, or beyond its end where the line is too short.
+enum class Letter { between, behind, before };
+
 class DimensionLines {
  public:
   enum class Figure { letter, letter_and_value };  // that stands at a line
@@ -16,8 +19,7 @@ class DimensionLines {
   struct Placed {
     Measure measure;
     std::string figure;  // "TW = 7.1"
-    // Where the figure stands: above the line, or beyond its end where the line is too short.
-    enum class Place { inside, behind, before } place = Place::inside;
+    Letter place = Letter::between;
     double start = 0, end = 0;  // of line and figure, in pixels from the middle of what is shown
     std::size_t lane = 0;
   };

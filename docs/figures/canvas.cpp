@@ -263,40 +263,31 @@ void View::number(Point before, Point vertex, Point after, int number) {
 
 void View::tick(Offset c) { stroke({c.x - 4, c.y - 4}, {c.x + 4, c.y + 4}, {colours::blue, 1.6}); }
 
-void View::across(Point a, Point b, double above, const std::string &letter, Letter place) {
-  const Offset left = a.x < b.x ? at(a) : at(b);
-  const Offset right = a.x < b.x ? at(b) : at(a);
-  const double y = at(a).y + above;
-  for (const Offset &end : {left, right}) {
-    const double beyond = y > end.y ? 6 : -6;
-    if (std::fabs(y - end.y) > 8)
-      stroke({end.x, end.y + beyond}, {end.x, y + beyond}, pens::dimension);
-    tick({end.x, y});
-  }
-  stroke({left.x - 8, y}, {right.x + 8, y}, pens::dimension);
-  if (place == Letter::between)
-    sheet_->text({0.5 * (left.x + right.x), y + 10}, 0, letter, colours::blue);
-  else if (place == Letter::behind)
-    sheet_->text({right.x + 12, y}, 1, letter, colours::blue);
-  else
-    sheet_->text({left.x - 12, y}, -1, letter, colours::blue);
-}
-
-void View::upright(Point a, Point b, double right, const std::string &letter, Letter place) {
-  const Offset low = a.y < b.y ? at(a) : at(b);
-  const Offset high = a.y < b.y ? at(b) : at(a);
-  const double x = at(a).x + right;
+void View::dimension(bool is_upright, Point a, Point b, double aside, const std::string &letter,
+                     Letter place) {
+  // Along the line and across it.
+  const auto along = [&](Offset o) { return is_upright ? o.y : o.x; };
+  const auto across = [&](Offset o) { return is_upright ? o.x : o.y; };
+  const auto offset = [&](double u, double v) { return is_upright ? Offset{v, u} : Offset{u, v}; };
+  Offset low = at(a), high = at(b);
+  const double level = across(low) + aside;
+  if (along(high) < along(low)) std::swap(low, high);
   for (const Offset &end : {low, high}) {
-    const double beyond = x > end.x ? 6 : -6;
-    if (std::fabs(x - end.x) > 8)
-      stroke({end.x + beyond, end.y}, {x + beyond, end.y}, pens::dimension);
-    tick({x, end.y});
+    const double beyond = level > across(end) ? 6 : -6;
+    if (std::fabs(level - across(end)) > 8)
+      stroke(offset(along(end), across(end) + beyond), offset(along(end), level + beyond),
+             pens::dimension);
+    tick(offset(along(end), level));
   }
-  stroke({x, low.y - 8}, {x, high.y + 8}, pens::dimension);
+  stroke(offset(along(low) - 8, level), offset(along(high) + 8, level), pens::dimension);
+  const double gap = is_upright ? 16 : 12;
+  const int side = place == Letter::behind ? 1 : -1;
   if (place == Letter::between)
-    sheet_->text({x + 7, 0.5 * (low.y + high.y)}, 1, letter, colours::blue);
+    sheet_->text(offset(0.5 * (along(low) + along(high)), level + (is_upright ? 7 : 10)),
+                 is_upright ? 1 : 0, letter, colours::blue);
   else
-    sheet_->text({x, place == Letter::behind ? high.y + 16 : low.y - 16}, 0, letter, colours::blue);
+    sheet_->text(offset(side > 0 ? along(high) + gap : along(low) - gap, level),
+                 is_upright ? 0 : side, letter, colours::blue);
 }
 
 void View::along(Point a, Point b, double left, const std::string &letter) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "dimension_lines.h"
 #include "geometry.h"
 #include "svg.h"
 
@@ -113,13 +114,19 @@ class View {
   // The number of a vertex between its neighbours, outside of a ring that runs counter-clockwise.
   void number(Point before, Point vertex, Point after, int number);
 
-  enum class Letter { between, behind, before };
+  using Letter = host::Letter;
   // A dimension line along x, so many pixels above `a` (below where negative), with its letter; and
   // one along y, so many to the right of `a`.
   void across(Point a, Point b, double above, const std::string &letter,
-              Letter place = Letter::between);
+              Letter place = Letter::between) {
+    dimension(false, a, b, above, letter, place);
+  }
   void upright(Point a, Point b, double right, const std::string &letter,
-               Letter place = Letter::between);
+               Letter place = Letter::between) {
+    dimension(true, a, b, right, letter, place);
+  }
+  void dimension(bool is_upright, Point a, Point b, double aside, const std::string &letter,
+                 Letter place);
   // One along a line that has any direction, so many pixels to its left.
   void along(Point a, Point b, double left, const std::string &letter);
 

@@ -55,36 +55,19 @@ void draw_numbers(View &view, const Profile &profile) {
   }
 }
 
-View::Letter place_of(const Placed &line) {
-  switch (line.place) {
-    case Placed::Place::behind:
-      return View::Letter::behind;
-    case Placed::Place::before:
-      return View::Letter::before;
-    default:
-      return View::Letter::between;
-  }
-}
-
 void draw_dimension(View &view, const Box &box, const Placed &line) {
   const host::Measure &m = line.measure;
-  const auto distance = first_lane + lane_pitch * static_cast<double>(line.lane);
-  const auto from = static_cast<float>(m.from), to = static_cast<float>(m.to());
-  const auto level = static_cast<float>(m.level);
-  switch (m.side) {
-    case Side::above:
-      return view.across({from, level}, {to, level}, view.pixels(box.top - level) + distance,
-                         line.figure, place_of(line));
-    case Side::below:
-      return view.across({from, level}, {to, level}, view.pixels(box.bottom - level) - distance,
-                         line.figure, place_of(line));
-    case Side::right:
-      return view.upright({level, from}, {level, to}, view.pixels(box.right - level) + distance,
-                          line.figure, place_of(line));
-    case Side::left:
-      return view.upright({level, from}, {level, to}, view.pixels(box.left - level) - distance,
-                          line.figure, place_of(line));
-  }
+  const bool is_ahead = m.side == Side::above || m.side == Side::right;
+  const double edge =
+      m.is_along_x() ? (is_ahead ? box.top : box.bottom) : (is_ahead ? box.right : box.left);
+  const double distance = first_lane + lane_pitch * static_cast<double>(line.lane);
+  const auto point = [&](double along) {
+    const auto u = static_cast<float>(along), v = static_cast<float>(m.level);
+    return m.is_along_x() ? Point{u, v} : Point{v, u};
+  };
+  view.dimension(!m.is_along_x(), point(m.from), point(m.to()),
+                 view.pixels(edge - m.level) + (is_ahead ? distance : -distance), line.figure,
+                 line.place);
 }
 
 Sheet draw(const std::string &name, std::string_view description, const Profile &profile,
