@@ -76,7 +76,7 @@ def _enumeration(enumeration, old):
     yield ""
     yield from (f"    {value.name.upper()} = {value.number}" for value in enumeration.values)
     yield from (f"    {member} = {now}  # of version 1.1" for member, now in old.items()
-                if member != now)  # fmt: skip
+                if member != now)
 
 
 def _wrapped(items, end, indent=4, width=WIDTH):

@@ -73,7 +73,7 @@ ROUTINES_HEAD = """\
 // sequence of calls belongs to its place. An including file defines the macros it wants:
 //
 // ROUTINE(name, number of arguments, their names)
-// SIZE(name, argument, elements)         of an array, from the single Integers: count(argument)
+// SIZE(name, argument, elements)         of an array, from the single Integers: of.count(argument)
 // USED(name, argument, used, scratch)    elements that are written, and those that may be besides
 // LEAST(name, argument, value)           that is allowed of an Integer input
 // STATUS(name, argument, further, values)   that an Integer output may have, and from `further` on
@@ -132,11 +132,11 @@ def _facts(routine, i, argument):
     place = f"{routine.name}, {i}"
     if size:
         elements = size.cpp(routine.positions)
-        kind = f"by_kind(kind({routine.positions.get(size.kind)}), {', '.join(elements)})"
+        kind = f"of.by_kind(of.kind({routine.positions.get(size.kind)}), {', '.join(elements)})"
         yield f"SIZE({place}, {kind if size.kind else elements[0]})"
         if size.used:
-            used = [name if name.isdigit() else f"count({routine.positions[name]})"
-                    for name in (size.used, size.scratch or size.used)]  # fmt: skip
+            used = [name if name.isdigit() else f"of.count({routine.positions[name]})"
+                    for name in (size.used, size.scratch or size.used)]
             yield f"USED({place}, {', '.join(used)})"
     elif values and argument.is_written:
         further = "none" if values.further is None else values.further
@@ -164,7 +164,7 @@ def as_json(interface):
     enumerations = [_object(
         name=e.name, shared=e.shared, comment=bindings_text.comment_of(e),
         values=[{"number": v.number, "name": e.upper(v), "meaning": v.meaning} for v in e.values],
-    ) for e in interface.enumerations()]  # fmt: skip
+    ) for e in interface.enumerations()]
     ordinals, golden = entries.ordinals(interface.routines), golden_lines()
     routines = [_object(
         name=r.name, decorated=r.decorated, ordinals=[ordinals[r.name], ordinals[r.decorated]],
@@ -172,9 +172,9 @@ def as_json(interface):
         retains=[{"what": what, "owner": owner} for what, owner in r.retains],
         golden=golden.get(r.name),
     )[:-1] + ', "arguments": [\n  ' + ",\n  ".join(_object(**_facts_of(a)) for a in r.arguments) + "]}"
-        for r in interface.routines]  # fmt: skip
+        for r in interface.routines]
     return (f'{{"version": "{interface.version}",\n"enumerations": [\n' + ",\n".join(enumerations) +
-            '],\n"routines": [\n' + ",\n".join(routines) + "]}\n")  # fmt: skip
+            '],\n"routines": [\n' + ",\n".join(routines) + "]}\n")
 
 
 def _object(**facts):
@@ -185,13 +185,13 @@ def _object(**facts):
 
 def _facts_of(argument):
     facts = {"name": argument.name, "direction": argument.direction, "kind": argument.kind,
-             "meaning": argument.meaning}  # fmt: skip
+             "meaning": argument.meaning}
     size, values, kept = argument.size, argument.values, argument.kept
     if size:
         facts["size"] = {"elements": size.sizes} | {
             key: text for key, text in
             (("used", size.used), ("by", size.kind), ("scratch", size.scratch)) if text
-        }  # fmt: skip
+        }
     if values:
         facts["enumeration"] = values.enumeration.name
         facts["values"] = [{"number": v.number, "meaning": v.meaning} for v in values.values]

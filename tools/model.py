@@ -165,7 +165,7 @@ class Size:
     scratch: str = ""  # the output up to which elements behind those used may be written too
 
     def cpp(self, positions):
-        """C++ expressions: `count(i)` is the Integer argument i."""
+        """C++ expressions: `of.count(i)` is the Integer argument i."""
         return [_Expression(size, positions).translate() for size in self.sizes]
 
 
@@ -228,9 +228,9 @@ class _Expression:
             self._take(",")
             right = self._sum()
             self._take(")")
-            return f"larger({left}, {right})"
+            return f"of.larger({left}, {right})"
         if token in self.positions:
-            return f"count({self.positions[token]})"
+            return f"of.count({self.positions[token]})"
         raise Unreadable(f"{self.text}: {token} is no Integer argument")
 
 

@@ -5,6 +5,8 @@ target_include_directories(callers PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(callers PUBLIC Trelvin::trelvin PRIVATE trelvin_warnings)
 if(NOT MSVC)
   target_compile_options(callers PRIVATE -ffp-contract=off)  # the same arguments everywhere
+  # A table of all routines, which optimising makes no better.
+  set_source_files_properties(hosts/sequence_of_routines.cpp PROPERTIES COMPILE_OPTIONS -O0)
 endif()
 
 if(CMAKE_CXX_FLAGS MATCHES sanitize=thread)  # of the library alone: drawing calls takes longer

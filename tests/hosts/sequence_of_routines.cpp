@@ -19,8 +19,13 @@ using random_calls::Used;
 
 namespace {
 
+struct Kind {
+  Argument::Kind kind;
+  bool single, written, read;
+};
+
 template <class Type>
-Argument argument_of() {
+constexpr Kind kind_of() {
   if constexpr (std::is_same_v<Type, TrvFunctionIn>) {
     return {Argument::function, true, false, true};
   } else {
@@ -30,6 +35,9 @@ Argument argument_of() {
     return {real ? Argument::real : Argument::integer, std::is_reference_v<Type>, !input, input};
   }
 }
+
+template <class... Types>
+constexpr Kind kinds[] = {kind_of<Types>()...};
 
 template <class Type>
 Type as(void *address) {
@@ -43,10 +51,13 @@ Type as(void *address) {
 }
 
 template <class... Types, std::size_t... i>
-auto call_of(void(TRELVIN_CALL * /*type*/)(Types...), std::index_sequence<i...> /*positions*/) {
-  return [](void (*address)(), const Addresses &addresses) {
-    reinterpret_cast<void(TRELVIN_CALL *)(Types...)>(address)(as<Types>(addresses[i])...);
-  };
+void call(void (*address)(), const Addresses &addresses, std::index_sequence<i...> /*positions*/) {
+  reinterpret_cast<void(TRELVIN_CALL *)(Types...)>(address)(as<Types>(addresses[i])...);
+}
+
+template <class... Types>
+void call_at(void (*address)(), const Addresses &addresses) {
+  call<Types...>(address, addresses, std::index_sequence_for<Types...>());
 }
 
 Shape shape_of(const std::string &names) {
@@ -65,8 +76,9 @@ Routine routine_of(const char *name, void(TRELVIN_CALL *routine)(Types...),
   Routine result = {};
   result.name = name;
   result.address = reinterpret_cast<void (*)()>(routine);
-  result.call_at = call_of(routine, std::index_sequence_for<Types...>());
-  result.arguments = {argument_of<Types>()...};
+  result.call_at = call_at<Types...>;
+  for (const Kind &each : kinds<Types...>)
+    result.arguments.push_back({each.kind, each.single, each.written, each.read});
   std::istringstream words(names);
   for (std::string word; words >> word;) result.names.push_back(word);
   result.shape = shape_of(names);
@@ -82,21 +94,21 @@ using Elements = std::int64_t;
 
 struct Counts {
   Arguments &arguments;
-  Size size = {0, 0};
+  std::size_t form = 0;
 
   [[nodiscard]] Elements count(std::size_t i) const { return std::max(kind(i), 0); }
   [[nodiscard]] std::int32_t kind(std::size_t i) const { return *arguments[i].integer_address(); }
 
   Elements larger(Elements a, Elements b) {
-    size.form = a < b ? 1 : 0;
+    form = a < b ? 1 : 0;
     return std::max(a, b);
   }
 
   template <class... Sizes>
   Elements by_kind(std::int32_t kind, Sizes... of_kinds) {
     const Elements sizes[] = {of_kinds...};
-    size.form = static_cast<std::size_t>(kind) - 1;
-    return size.form < sizeof...(Sizes) ? sizes[size.form] : 0;
+    form = static_cast<std::size_t>(kind) - 1;
+    return form < sizeof...(Sizes) ? sizes[form] : 0;
   }
 };
 
@@ -104,46 +116,44 @@ std::size_t none_below_zero(Elements elements) {
   return static_cast<std::size_t>(std::max<Elements>(elements, 0));
 }
 
+constexpr std::int32_t none = random_calls::Status::none;
+
+// What each line of routines.inc adds: one long function would be compiled for many seconds.
+#define ADD(...) [](std::vector<Routine> &all) { __VA_ARGS__; },
+constexpr void (*lines[])(std::vector<Routine> &all) = {
+#define ROUTINE(name, count, names) ADD(all.push_back(routine_of(#name, name, names)))
+#define SIZE(name, argument, stated)                                  \
+  ADD(all.back().sizes[argument] = [](Arguments &arguments) -> Size { \
+    Counts of = {arguments};                                          \
+    const std::size_t elements = none_below_zero(stated);             \
+    return {elements, of.form};                                       \
+  })
+#define USED(name, argument, number, scratch)                        \
+  ADD(all.back().used[argument] = [](Arguments &arguments) -> Used { \
+    [[maybe_unused]] const Counts of = {arguments};                  \
+    return {none_below_zero(number), none_below_zero(scratch)};      \
+  })
+#define READ(name, argument) ADD(all.back().arguments[argument].read = true)
+#define KEPT(name, argument, teller, further, ...) \
+  ADD(all.back().kept[argument] = {Kept::by_value, teller, further, {__VA_ARGS__}})
+#define KEPT_BELOW(name, argument, teller, bound) \
+  ADD(all.back().kept[argument] = {Kept::below, teller, bound, {}})
+#define KEPT_ON_CONDITION(name, argument) \
+  ADD(all.back().kept[argument] = {Kept::on_condition, 0, none, {}})
+#define KEPT_ALWAYS(name, argument) ADD(all.back().kept[argument] = {Kept::always, 0, none, {}})
+#define RETAINS(name, owner) ADD(all.back().retains.emplace_back(#owner))
+#define LEAST(name, argument, value) ADD(all.back().least.emplace_back(argument, value))
+#define STATUS(name, argument, further, ...) \
+  ADD(all.back().statuses.push_back({argument, further, {__VA_ARGS__}}))
+#define UNSHARED(name) ADD(all.back().shares_addresses = false)
+#include "routines.inc"
+};
+
 }  // namespace
 
-std::vector<Routine> all_routines() {  // NOLINT(readability-function-size)
-  constexpr std::int32_t none = random_calls::Status::none;
-  std::vector<Routine> routines;
-#define ROUTINE(name, count, names)                   \
-  routines.push_back(routine_of(#name, name, names)); \
-  routines.back().seed = 20 + routines.size() - 1;
-#define WORDS                                                                      \
-  Counts counts = {arguments};                                                     \
-  const auto count = [&](std::size_t i) { return counts.count(i); };               \
-  const auto kind = [&](std::size_t i) { return counts.kind(i); };                 \
-  const auto larger = [&](Elements a, Elements b) { return counts.larger(a, b); }; \
-  const auto by_kind = [&](auto... sizes) { return counts.by_kind(sizes...); };    \
-  static_cast<void>(count), static_cast<void>(kind);                               \
-  static_cast<void>(larger), static_cast<void>(by_kind)
-#define SIZE(name, argument, stated)                           \
-  routines.back().sizes[argument] = [](Arguments &arguments) { \
-    WORDS;                                                     \
-    counts.size.elements = none_below_zero(stated);            \
-    return counts.size;                                        \
-  };
-#define USED(name, argument, number, scratch)                         \
-  routines.back().used[argument] = [](Arguments &arguments) -> Used { \
-    WORDS;                                                            \
-    return {none_below_zero(number), none_below_zero(scratch)};       \
-  };
-#define READ(name, argument) routines.back().arguments[argument].read = true;
-#define KEPT(name, argument, teller, further, ...) \
-  routines.back().kept[argument] = {Kept::by_value, teller, further, {__VA_ARGS__}};
-#define KEPT_BELOW(name, argument, teller, bound) \
-  routines.back().kept[argument] = {Kept::below, teller, bound, {}};
-#define KEPT_ON_CONDITION(name, argument) \
-  routines.back().kept[argument] = {Kept::on_condition, 0, none, {}};
-#define KEPT_ALWAYS(name, argument) routines.back().kept[argument] = {Kept::always, 0, none, {}};
-#define RETAINS(name, owner) routines.back().retains.emplace_back(#owner);
-#define LEAST(name, argument, value) routines.back().least.emplace_back(argument, value);
-#define STATUS(name, argument, further, ...) \
-  routines.back().statuses.push_back({argument, further, {__VA_ARGS__}});
-#define UNSHARED(name) routines.back().shares_addresses = false;
-#include "routines.inc"
-  return routines;
+std::vector<Routine> all_routines() {
+  std::vector<Routine> all;
+  for (const auto add : lines) add(all);
+  for (std::size_t i = 0; i < all.size(); ++i) all[i].seed = 20 + i;
+  return all;
 }

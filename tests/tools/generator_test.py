@@ -71,7 +71,7 @@ class Reading(unittest.TestCase):
         self.assertEqual(routine.retains, [("the last sum", "trvsum"), ("the first one", "trvsum")])
         terms, n, x, y, s, code = routine.arguments
         self.assertEqual((terms.size.cpp(routine.positions), terms.meaning),
-                         (["count(1) + 1"], "terms, all of them"))
+                         (["of.count(1) + 1"], "terms, all of them"))
         self.assertEqual((n.least, n.values), (2, None))
         self.assertEqual((x.kept.name, x.kept.numbers, x.kept.further), ("s", (-1,), 2))
         self.assertEqual((x.meaning, y.kept), ("point", x.kept))
@@ -202,7 +202,7 @@ NEW = {
 WRITTEN = {
     "src/entries/Trelvin64.def": "trvsum @",
     "include/trelvin/names.h": "/** all is well */ TRVSUM_DONE = 0, /** it is odd */ TRVSUM_ODD = 3,",
-    "tests/routines.inc": """SIZE(trvsum, 0, count(1) + 1) LEAST(trvsum, 1, 2)
+    "tests/routines.inc": """SIZE(trvsum, 0, of.count(1) + 1) LEAST(trvsum, 1, 2)
         READ(trvsum, 2) KEPT(trvsum, 2, 4, 2, -1) READ(trvsum, 3) KEPT(trvsum, 3, 4, 2, -1)
         STATUS(trvsum, 4, 2, -1, 1) STATUS(trvsum, 5, none, 0, 3) KEPT_BELOW(trvsum, 5, 1, 1)
         RETAINS(trvsum, trvsum) RETAINS(trvsum, trvsum)""",
