@@ -157,9 +157,10 @@ Figures figures_of(const Given &given, const Properties &properties, const Outli
 
 Refusal read_subject(const std::string_view *words, std::size_t count, Given &given,
                      Section &section, Subject &subject) {
-  Properties properties{};
   Refusal refusal = read_given(words, count, given);
-  if (refusal.message.empty()) refusal = properties_of(given, section, properties);
+  if (!refusal.message.empty()) return refusal;
+  Properties properties;
+  refusal = properties_of(given, section, properties);
   if (!refusal.message.empty()) return refusal;
   Outline outline = outline_of(section);
   subject = {std::string(given.profile->name),
