@@ -15,12 +15,8 @@ const MAIN = [
 
 const element = id => document.getElementById(id);
 
-function make(tag, attributes = {}, ...children) {
-  const made = document.createElement(tag);
-  for (const [name, value] of Object.entries(attributes)) made.setAttribute(name, value);
-  made.append(...children);
-  return made;
-}
+// All that is put into this is the program's own: names, letters, figures.
+const appendHtml = (parent, html) => parent.insertAdjacentHTML("beforeend", html);
 
 const withPowers = unit => unit.replace(/\d/, digit => ({2: "²", 3: "³", 4: "⁴", 6: "⁶"})[digit]);
 const drawn = picture => picture.slice(picture.indexOf("<svg"));
@@ -34,6 +30,7 @@ const typed = {}; // the words in the fields, by profile
 
 // Fields -----------------------------------------------------------------------------------------
 
+const radioOf = each => document.querySelector(`input[value="${each.name}"]`);
 const field = name => element(`dimension-${name}`);
 const slider = name => element(`slider-${name}`);
 const numberIn = word => Number(word.replace(",", "."));
@@ -77,19 +74,18 @@ function onKey(event, name) {
 }
 
 function makeField(name, word) {
-  const text = make("input", {
-    id: `dimension-${name}`,
-    type: "text",
-    inputmode: "decimal",
-    spellcheck: "false",
-    "aria-describedby": `fault-${name}`,
-  });
-  const drag = make("input", {
-    id: `slider-${name}`,
-    type: "range",
-    "aria-label": `${name}, slider`,
-    "aria-describedby": `fault-${name}`,
-  });
+  appendHtml(
+    element("dimensions"),
+    `<div class="dimension">
+      <label for="dimension-${name}">${name}</label>
+      <input id="dimension-${name}" type="text" inputmode="decimal" spellcheck="false"
+        aria-describedby="fault-${name}">
+      <input id="slider-${name}" type="range" aria-label="${name}, slider"
+        aria-describedby="fault-${name}">
+      <p id="fault-${name}" class="fault"></p>
+    </div>`,
+  );
+  const [text, drag] = [field(name), slider(name)];
   text.value = word;
   text.addEventListener("input", () => {
     showValue(name, text.value);
@@ -100,25 +96,14 @@ function makeField(name, word) {
     text.value = drag.value;
     update(name);
   });
-  return make(
-    "div",
-    {class: "dimension"},
-    make("label", {for: text.id}, name),
-    text,
-    drag,
-    make("p", {id: `fault-${name}`, class: "fault"}),
-  );
+  setReach(name, 0);
+  showValue(name, word);
 }
 
 function makeFields(words) {
-  const legend = element("dimensions").firstElementChild;
-  element("dimensions").replaceChildren(
-    legend,
-    ...profile.dimensions.map((name, i) => makeField(name, words[i])),
-  );
+  element("dimensions").replaceChildren(element("dimensions").firstElementChild); // the legend
   profile.dimensions.forEach((name, i) => {
-    setReach(name, 0);
-    showValue(name, words[i]);
+    makeField(name, words[i]);
   });
 }
 
@@ -146,37 +131,18 @@ function showRefusal(message, changed) {
 function showFigures() {
   let heading = "";
   const main = [];
+  const number = (figure, unit) =>
+    `<td class="number">${figure} <span class="unit"> ${withPowers(unit)}</span></td>`;
   const rows = section.figures.map(([start, symbol, value, unit, otherValue, otherUnit]) => {
     heading = start || heading;
     if (MAIN.some(([a, b]) => heading.startsWith(a) && symbol === b)) {
-      main.push(
-        make(
-          "div",
-          {},
-          make("dt", {}, symbol),
-          make("dd", {}, `${otherValue} ${withPowers(otherUnit)}`),
-        ),
-      );
+      main.push(`<div><dt>${symbol}</dt><dd>${otherValue} ${withPowers(otherUnit)}</dd></div>`);
     }
-    const number = (figure, of) =>
-      make(
-        "td",
-        {class: "number"},
-        figure,
-        " ",
-        make("span", {class: "unit"}, ` ${withPowers(of)}`),
-      );
-    return make(
-      "tr",
-      start ? {class: "first"} : {},
-      make("th", {scope: "row"}, start),
-      make("td", {class: "symbol"}, symbol),
-      number(value, unit),
-      number(otherValue, otherUnit),
-    );
+    return `<tr${start && ' class="first"'}><th scope="row">${start}</th>
+      <td class="symbol">${symbol}</td>${number(value, unit)}${number(otherValue, otherUnit)}</tr>`;
   });
-  element("rows").replaceChildren(...rows);
-  element("main-figures").replaceChildren(...main);
+  element("rows").innerHTML = rows.join("");
+  element("main-figures").innerHTML = main.join("");
   element("remarks").textContent = section.remarks;
 }
 
@@ -249,7 +215,7 @@ function fitPicture() {
 
 function choose(chosen, words) {
   profile = chosen;
-  const radio = document.querySelector(`input[value="${profile.name}"]`);
+  const radio = radioOf(profile);
   radio.checked = true;
   const strip = element("profiles"); // on a narrow screen
   strip.scrollLeft = radio.parentElement.offsetLeft - strip.clientWidth / 2;
@@ -263,23 +229,19 @@ function choose(chosen, words) {
 
 function makeChooser() {
   for (const each of engine.profiles) {
-    const radio = make("input", {
-      type: "radio",
-      name: "profile",
-      value: each.name,
-      "aria-label": `${each.name}: ${each.description}`,
-    });
-    radio.addEventListener("change", () => choose(each, typed[each.name] ?? each.start));
-    element("profiles").append(
-      make("label", {title: each.description}, radio, make("span", {}, each.name)),
+    appendHtml(
+      element("profiles"),
+      `<label title="${each.description}"><input type="radio" name="profile" value="${each.name}"
+        aria-label="${each.name}: ${each.description}"><span>${each.name}</span></label>`,
     );
+    radioOf(each).addEventListener("change", () => choose(each, typed[each.name] ?? each.start));
   }
 }
 
 // Each profile as it starts, the steel of its picture alone.
 function drawIcons() {
   for (const each of engine.profiles) {
-    const radio = document.querySelector(`input[value="${each.name}"]`);
+    const radio = radioOf(each);
     radio.insertAdjacentHTML("afterend", drawn(engine.design(each.name, each.start).picture));
     const svg = radio.nextElementSibling;
     const steel = svg.querySelector("path[fill-rule]");
@@ -329,7 +291,7 @@ async function copy(text, what) {
     await navigator.clipboard.writeText(text);
   } catch {
     // without the right to do so, or from a folder
-    const area = make("textarea");
+    const area = document.createElement("textarea");
     area.value = text;
     document.body.append(area);
     area.select();
@@ -343,7 +305,7 @@ async function copy(text, what) {
 }
 
 function listen() {
-  element("format").append(...Object.keys(TAKEN).map(name => make("option", {}, name)));
+  element("format").append(...Object.keys(TAKEN).map(name => new Option(name)));
   element("format").addEventListener("change", showText);
   element("copy").addEventListener("click", () =>
     copy(element("text").textContent, element("format").value),
