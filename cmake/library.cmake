@@ -56,9 +56,9 @@ if(NOT MSVC)  # whose AVX2 comes with fused multiply-add
 endif()
 
 if(WIN32 AND NOT MSVC)
-  # The DLL is to stay small. These rooms have no loops that the compiler widens.
-  file(GLOB_RECURSE small src/circles/*.cpp src/lists/*.cpp src/sections/*.cpp src/trace/*.cpp
-       src/vectors/*.cpp)
+  # The DLL is to stay small. These have no loops that the compiler widens.
+  file(GLOB_RECURSE small src/circles/*.cpp src/lists/*.cpp src/plane/*.cpp src/sections/*.cpp
+       src/trace/*.cpp src/vectors/*.cpp src/entries/space_*.cpp)
   list(APPEND small src/entries/circles.cpp src/entries/lists.cpp src/entries/sections.cpp)
   set_property(SOURCE ${small} APPEND PROPERTY COMPILE_OPTIONS $<$<CONFIG:Release>:-O2>)
 endif()

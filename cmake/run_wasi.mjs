@@ -1,4 +1,4 @@
-// Runs a WebAssembly program with its arguments, and the current folder as its own.
+// Runs a WebAssembly program with its arguments and all files.
 import {readFile} from "node:fs/promises";
 import {argv, env, exit} from "node:process";
 import {WASI} from "node:wasi";
@@ -8,7 +8,7 @@ const wasi = new WASI({
   version: "preview1",
   args: [program, ...rest],
   env,
-  preopens: {"/": "."},
+  preopens: {"/": "/"},
   returnOnExit: true,
 });
 const module = await WebAssembly.compile(await readFile(program));

@@ -417,8 +417,9 @@ PARAMETER = re.compile(r"@param\[(\w+)\]\s+([\w,]+)\s+(.*)", re.S)
 
 def read():
     """The interface, with what is wrong in it."""
-    order = re.findall(r'#include "trelvin/(\w+)\.h"', (INTERFACE / "trelvin.h").read_text())
     texts = {header.stem: header.read_text() for header in sorted(INTERFACE.glob("*.h"))}
+    order = [name for header in _includes(texts["trelvin"])
+             for name in [header, *_includes(texts.get(header, ""))]]
     version = re.search(r'#define TRELVIN_VERSION "(.*)"', texts["calling"])[1]
     families = [name for name in texts if "TRELVIN_ROUTINE trv" in texts[name]]
     missing = [f"include/trelvin/{n}.h: trelvin.h does not include it" for n in families
@@ -428,6 +429,10 @@ def read():
     interface.faults += missing
     interface.conventions = " ".join(" ".join(_lines_of(_FILE.search(texts["calling"])[1])).split())
     return interface
+
+
+def _includes(text):
+    return re.findall(r'#include "trelvin/(\w+)\.h"', text)
 
 
 def interface_of(values, headers, version="0"):

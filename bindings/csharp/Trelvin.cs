@@ -2160,7 +2160,7 @@ namespace Trelvin
                 ref xp, ref yp, ref It, ref Wt, ref xm, ref ym, ref Iw, ref r0, W1, W2, ref status);
         }
 
-        // Rotations, frames, planes and lines of space
+        // Rotations about the origin and the axes
 
         /// <summary>Turns plane points about the origin, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
@@ -2205,6 +2205,8 @@ namespace Trelvin
         {
             trvrotz(ref mode, x, y, z, ref n, ref angle);
         }
+
+        // Frames of space, and transformations of points
 
         /// <summary>Three-point test: whether P0, P1 and P2 span a plane.</summary>
         /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
@@ -2379,6 +2381,8 @@ namespace Trelvin
             trvppc(ref x0, ref y0, ref z0, ref x1, ref y1, ref z1, ref x2, ref y2, ref z2, ref dx,
                 ref dy, ref dz, ref ax, ref ay, ref az, ref n, X, Y, Z, ref tol, ref status);
         }
+
+        // Planes of space
 
         /// <summary>Plane through a point, spanned by two directions.</summary>
         [DllImport(Library, ExactSpelling = true)]
@@ -2646,6 +2650,8 @@ namespace Trelvin
             count = 0;
             trvpnp(X, Y, Z, ref a, ref b, ref c, ref d, ref n, ref count, index);
         }
+
+        // Straight lines of space
 
         /// <summary>Relation of two lines.</summary>
         /// <remarks>status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle;

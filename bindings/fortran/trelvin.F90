@@ -1521,7 +1521,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    ! Rotations, frames, planes and lines of space
+    ! Rotations about the origin and the axes
 
     !> Turns plane points about the origin, in place.
     subroutine trvrot(mode, x, y, n, angle) bind(c, name="trvrot")
@@ -1566,6 +1566,8 @@ module trelvin
       integer(c_int32_t), intent(in) :: n
       real(c_float), intent(in) :: angle
     end subroutine
+
+    ! Frames of space, and transformations of points
 
     !> Three-point test: whether P0, P1 and P2 span a plane.
     !! status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
@@ -1670,6 +1672,8 @@ module trelvin
       real(c_float), intent(in) :: tol
       integer(c_int32_t), intent(out) :: status
     end subroutine
+
+    ! Planes of space
 
     !> Plane through a point, spanned by two directions.
     subroutine trvplg(x, y, z, ux, uy, uz, wx, wy, wz, a, b, c, d) bind(c, name="trvplg")
@@ -1819,6 +1823,8 @@ module trelvin
       integer(c_int32_t), intent(out) :: count
       integer(c_int32_t), intent(inout) :: index(*)
     end subroutine
+
+    ! Straight lines of space
 
     !> Relation of two lines.
     !! status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle; 1

@@ -1532,7 +1532,7 @@ export const trvmxt_fb = routine("trvmxt_fb", ["in real B", "in real H", "out re
   "out real It", "out real Wt", "out real xm", "out real ym", "out real Iw", "out real r0",
   "out real W1[1]", "out real W2[1]", "out int status"]);
 
-// Rotations, frames, planes and lines of space
+// Rotations about the origin and the axes
 
 /**
  * Turns plane points about the origin, in place.
@@ -1569,6 +1569,8 @@ export const trvroty = routine("trvroty", ["in int mode", "inout real x[n]", "in
  */
 export const trvrotz = routine("trvrotz", ["in int mode", "inout real x[n]", "inout real y[n]",
   "in real z[0]", "in int n = x y", "in real angle"]);
+
+// Frames of space, and transformations of points
 
 /**
  * Three-point test: whether P0, P1 and P2 span a plane.
@@ -1689,6 +1691,8 @@ export const trvppc = routine("trvppc", ["in real x0", "in real y0", "in real z0
   "in real y1", "in real z1", "in real x2", "in real y2", "in real z2", "in real dx", "in real dy",
   "in real dz", "in real ax", "in real ay", "in real az", "in int n = X Y Z", "inout real X[n]",
   "inout real Y[n]", "inout real Z[n]", "in real tol", "out int status"]);
+
+// Planes of space
 
 /**
  * Plane through a point, spanned by two directions.
@@ -1858,6 +1862,8 @@ export const trvplv = routine("trvplv", ["in real ux", "in real uy", "in real uz
 export const trvpnp = routine("trvpnp", ["in real X[n]", "in real Y[n]", "in real Z[n]",
   "in real a", "in real b", "in real c", "inout real d", "in int n = X Y Z", "out int count",
   "out int index[n, count used]"]);
+
+// Straight lines of space
 
 /**
  * Relation of two lines.

@@ -1329,7 +1329,7 @@ procedure trvmxt_fb(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmxt_fb';
 
-// Rotations, frames, planes and lines of space
+// Rotations about the origin and the axes
 
 /// <summary>Turns plane points about the origin, in place.</summary>
 procedure trvrot(
@@ -1366,6 +1366,8 @@ procedure trvrotz(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} angle: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvrotz';
+
+// Frames of space, and transformations of points
 
 /// <summary>Three-point test: whether P0, P1 and P2 span a plane.</summary>
 /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
@@ -1452,6 +1454,8 @@ procedure trvppc(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single;
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvppc';
+
+// Planes of space
 
 /// <summary>Plane through a point, spanned by two directions.</summary>
 procedure trvplg(
@@ -1577,6 +1581,8 @@ procedure trvpnp(
   out count: LongInt;
   var index: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpnp';
+
+// Straight lines of space
 
 /// <summary>Relation of two lines.</summary>
 /// <remarks>status: relation (TrvLines): 0 crossing: the lines cross, not at a right angle; 1

@@ -107,16 +107,16 @@ Sheet alpha(const std::string &name) {
 
 // The sense in which a routine of space turns unit vectors in the plane of two axes: from the first
 // to the second, with the mode other than 1.
-template <class Turn>
-void rotation_about(View &view, Turn turn, const Vector &first, const Vector &second,
+template <class Rotation>
+void rotation_about(View &view, Rotation rotate, const Vector &first, const Vector &second,
                     const std::string &routine, Offset at) {
   Vector p = first;
-  turn(2, p);
+  rotate(2, p);
   require_at(p,
              static_cast<float>(std::cos(0.5)) * first + static_cast<float>(std::sin(0.5)) * second,
              routine + " with mode 2");
   p = second;
-  turn(1, p);
+  rotate(1, p);
   require_at(p,
              static_cast<float>(std::cos(0.5)) * second + static_cast<float>(std::sin(0.5)) * first,
              routine + " with mode 1");

@@ -8,9 +8,9 @@ import model
 DIRECTIONS = {"in": "in", "out": "out", "inout": "in and out"}
 FIGURES = {  # of a family, and of a group within one
     "circles": ["arc-stations", "arc-constructions"],
+    "rotations": ["rotations"],
+    "frames": ["frames"],
     "Straight lines": ["lines"],
-    "Rotations": ["rotations"],
-    "Frames and transformations": ["frames"],
     "Parts of a section": ["parts"],
     "Plate buckling": ["stresses"],
 }
@@ -95,8 +95,8 @@ def _value_rows(argument):
     return rows + [(*text.partition(": ")[::2],) for text in values.ranges]
 
 
-def _routine(writer, routine):
-    lines = [f"({routine.name})=", f"### `{routine.name}`", ""]
+def _routine(writer, routine, level):
+    lines = [f"({routine.name})=", f"{level} `{routine.name}`", ""]
     for i, paragraph in enumerate(routine.paragraphs):
         lines += writer.paragraph(paragraph, routine.name)
         lines += signature(routine) if i == 0 else []
@@ -153,7 +153,7 @@ def family_page(writer, family):
             lines += figure(name)
         lines += table(["Routine", ""], rows, "routines")
         for routine in routines:
-            lines += _routine(writer, routine)
+            lines += _routine(writer, routine, "###" if title else "##")
             if routine.name.startswith("trvsec_"):
                 lines += figure(f"outline-{routine.name}", f"The outline of {routine.name}")
     return lines

@@ -35,8 +35,8 @@ def _has(text, term):
 
 def lost(writer):
     """Entries that point to what has none of their words."""
-    texts = {r.name: f"{r.group} {r.text} {r.name.replace('_', ' ')}".lower()
-             for r in writer.interface.routines}
+    texts = {r.name: f"{r.group or family.title} {r.text} {r.name.replace('_', ' ')}".lower()
+             for family in writer.interface.families for r in family.routines}
     for word, terms, targets in _entries():
         for target in targets:
             pages = [FILE.parent / f"{page}.md" for page in (target, target.removeprefix("section_"))]

@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "vectors/angles.h"
-#include "vectors/transforms.h"
 #include "vectors/vectors.h"
 
 namespace trelvin {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "circles/circles.h"
+#include "vectors/turns.h"
 
 namespace trelvin {
 namespace {

@@ -33,20 +33,20 @@ std::optional<RoundedCorner> round_corner(Point2 corner, Point2 p1, Point2 p2, R
 Box box_of_sweep(Point2 centre, Point2 on_arc, Real sweep) {
   const WideVector from = wide_difference(on_arc, centre);
   const double r = length(from);
-  const double turn = std::clamp<double>(sweep, -full_turn, full_turn);
-  if (std::isnan(r) || std::isnan(turn)) {
+  const double swept = std::clamp<double>(sweep, -full_turn, full_turn);
+  if (std::isnan(r) || std::isnan(swept)) {
     constexpr Real nan = std::numeric_limits<Real>::quiet_NaN();
     return {{nan, nan}, {nan, nan}};
   }
 
   // The ends, and where the arc passes the directions of the axes.
-  const auto [s, c] = wide_sine_cosine(turn);
+  const auto [s, c] = wide_sine_cosine(swept);
   const WideVector to = {from.x * c - from.y * s, from.x * s + from.y * c};
   WideVector lower = {std::min(from.x, to.x), std::min(from.y, to.y)};
   WideVector upper = {std::max(from.x, to.x), std::max(from.y, to.y)};
   const double start = arc_tangent(from.y, from.x);
-  const double first = std::min(start, start + turn);
-  const double last = std::max(start, start + turn);
+  const double first = std::min(start, start + swept);
+  const double last = std::max(start, start + swept);
   constexpr double quarter = full_turn / 4;
   for (int i = -6; i <= 6; ++i) {
     if (i * quarter < first || i * quarter > last) continue;

@@ -5,13 +5,12 @@
 #include <cstring>
 
 #include "entries/door.h"
+#include "numeric/tables.h"
 #include "plane/lines.h"
 #include "plane/outlines.h"
 #include "space/planes.h"
 #include "space/points_on_lines.h"
 #include "vectors/angles.h"
-#include "vectors/tables.h"
-#include "vectors/transforms.h"
 
 using namespace trelvin;
 
@@ -241,7 +240,7 @@ TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 
 TRELVIN_ROUTINE trvcnv(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIntOut status) {
   const Door door;
-  status = code_of(convexity(X, Y, n));
+  status = code_of(convexity({X, Y, n}));
 }
 
 TRELVIN_ROUTINE trvtrg(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z2, TrvIn x3,

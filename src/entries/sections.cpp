@@ -9,7 +9,7 @@
 #include "sections/channels.h"
 #include "sections/flat_bar.h"
 #include "sections/joints.h"
-#include "sections/outlines.h"
+#include "sections/profiles.h"
 #include "sections/torsion.h"
 
 using namespace trelvin;
@@ -39,23 +39,23 @@ TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1,
 
 namespace {
 
-// Writes the outputs that all outline routines share.
-void write(const Outline &outline, Real q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X,
+// Writes the outputs that all profiles share.
+void write(const Profile &profile, Real q, TrvIntOut np, TrvIntArrayOut nv, TrvArrayOut X,
            TrvArrayOut Y, TrvIntArrayOut code, TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2,
            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   constexpr Integer kind_polygon = 2;
-  np = outline.polygons;
-  for (Integer p = 0; p < outline.polygons; ++p) {
-    const auto [told_vertices, is_hole] = outline.polygon[static_cast<std::size_t>(p)];
+  np = profile.polygons;
+  for (Integer p = 0; p < profile.polygons; ++p) {
+    const auto [told_vertices, is_hole] = profile.polygon[static_cast<std::size_t>(p)];
     nv[p] = told_vertices;
     code[p] = kind_polygon;
     sign[p] = is_hole ? -1 : 1;
     z1[p] = z2[p] = z3[p] = z4[p] = z5[p] = 0;
     q1[p] = q2[p] = is_hole ? -q : q;
   }
-  for (std::size_t i = 0; i < outline.vertices; ++i) {
-    X[i] = outline.vertex[i].x;
-    Y[i] = outline.vertex[i].y;
+  for (std::size_t i = 0; i < profile.vertices; ++i) {
+    X[i] = profile.vertex[i].x;
+    Y[i] = profile.vertex[i].y;
   }
 }
 
@@ -67,7 +67,7 @@ TRELVIN_ROUTINE trvsec_ia(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn
                           TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                           TrvArrayOut q2) {
   const Door door;
-  write(i_outline(H, B1, B2, T1, T2, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
+  write(i_profile(H, B1, B2, T1, T2, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_h(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn q,
@@ -76,7 +76,7 @@ TRELVIN_ROUTINE trvsec_h(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
                          TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                          TrvArrayOut q2) {
   const Door door;
-  write(sideways_i_outline(H, B1, B2, T1, T2, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5,
+  write(sideways_i_profile(H, B1, B2, T1, T2, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5,
         q1, q2);
 }
 
@@ -85,7 +85,7 @@ TRELVIN_ROUTINE trvsec_t(TrvIn B, TrvIn H, TrvIn TF, TrvIn TW, TrvIn q, TrvIntOu
                          TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3,
                          TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  write(t_outline(B, H, TF, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
+  write(t_profile(B, H, TF, TW), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArrayOut nv,
@@ -93,7 +93,7 @@ TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArray
                          TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4,
                          TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  write(bar_outline(B, H), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
+  write(bar_profile(B, H), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn TW, TrvIn TP,
@@ -102,7 +102,7 @@ TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn 
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2) {
   const Door door;
-  write(covered_i_outline(W, D, P, T1, T2, TW, TP), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5,
+  write(covered_i_profile(W, D, P, T1, T2, TW, TP), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5,
         q1, q2);
 }
 
@@ -112,7 +112,7 @@ TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvI
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2) {
   const Door door;
-  write(box_outline(BT, BB, TT, TB, H, TW, G), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1,
+  write(box_profile(BT, BB, TT, TB, H, TW, G), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1,
         q2);
 }
 
@@ -121,7 +121,7 @@ TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, Trv
                            TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4,
                            TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  write(tube_outline(B, H, T), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
+  write(tube_profile(B, H, T), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 
 TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q, TrvIntOut np,
@@ -129,7 +129,7 @@ TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q,
                           TrvArrayOut sign, TrvArrayOut z1, TrvArrayOut z2, TrvArrayOut z3,
                           TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  write(twin_angles_outline(B, H, G, T, TV), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1,
+  write(twin_angles_profile(B, H, G, T, TV), q, np, nv, X, Y, code, sign, z1, z2, z3, z4, z5, q1,
         q2);
 }
 
@@ -139,7 +139,7 @@ TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn T
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2) {
   const Door door;
-  write(plate_on_cell_outline(B, H, BW, E, T, TW, TB), q, np, nv, X, Y, code, sign, z1, z2, z3, z4,
+  write(plate_on_cell_profile(B, H, BW, E, T, TW, TB), q, np, nv, X, Y, code, sign, z1, z2, z3, z4,
         z5, q1, q2);
 }
 
@@ -149,7 +149,7 @@ TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, Trv
                            TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                            TrvArrayOut q2) {
   const Door door;
-  write(two_cell_outline(B, W, HI, TW1, TW2, TM, TF), q, np, nv, X, Y, code, sign, z1, z2, z3, z4,
+  write(two_cell_profile(B, W, HI, TW1, TW2, TM, TF), q, np, nv, X, Y, code, sign, z1, z2, z3, z4,
         z5, q1, q2);
 }
 
@@ -159,7 +159,7 @@ TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
                          TrvArrayOut z2, TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5,
                          TrvArrayOut q1, TrvArrayOut q2) {
   const Door door;
-  write(filleted_i_outline(H, B1, B2, T1, T2, TW, S1, S2, E), q, np, nv, X, Y, code, sign, z1, z2,
+  write(filleted_i_profile(H, B1, B2, T1, T2, TW, S1, S2, E), q, np, nv, X, Y, code, sign, z1, z2,
         z3, z4, z5, q1, q2);
 }
 
@@ -170,7 +170,7 @@ TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn 
                          TrvArrayOut z3, TrvArrayOut z4, TrvArrayOut z5, TrvArrayOut q1,
                          TrvArrayOut q2) {
   const Door door;
-  write(channel_outline(H, TW, {B1, C1, D1, T1, TC1, TD1}, {B2, C2, D2, T2, TC2, TD2}), q, np, nv,
+  write(channel_profile(H, TW, {B1, C1, D1, T1, TC1, TD1}, {B2, C2, D2, T2, TC2, TD2}), q, np, nv,
         X, Y, code, sign, z1, z2, z3, z4, z5, q1, q2);
 }
 

@@ -36,6 +36,11 @@ constexpr std::uint32_t magnitude_mask = 0x7FFFFFFF;  // all but the sign
 constexpr std::uint32_t sign_mask = 0x80000000;
 constexpr std::uint32_t infinity_bits = 0x7F800000;
 
+// A magnitude of normal size is (fraction | leading bit) * 2^(exponent field - 150).
+constexpr int fraction_size = 23;
+constexpr std::uint32_t leading_bit = 1U << fraction_size;
+constexpr std::uint32_t fraction_mask = leading_bit - 1;
+
 inline std::uint32_t magnitude_bits(Real value) { return bits_of(value) & magnitude_mask; }
 
 // The compiler's own absolute value of a double goes through the x87 on 32-bit platforms.

@@ -97,8 +97,8 @@ std::uint32_t bits_of_two_over_pi(std::uint32_t first) {
 // after them leave more than 53 significant ones in the rest, however close to the parts.
 ReducedAngle reduce_large(Real magnitude) {
   const std::uint32_t bits = bits_of(magnitude);
-  const std::uint32_t m = (bits & 0x7FFFFF) | 0x800000;
-  const std::uint32_t first = (bits >> 23) - 120;  // e + 30
+  const std::uint32_t m = (bits & fraction_mask) | leading_bit;
+  const std::uint32_t first = (bits >> fraction_size) - 120;  // e + 30
 
   std::array<std::uint32_t, 4> turns{};  // 2 bits of quarter turns, then 126 of fraction
   std::uint64_t carry = 0;

@@ -2,25 +2,26 @@
 
 #include <cmath>
 
+#include "vectors/wide_vectors.h"
+
 namespace trelvin {
 namespace {
 
 // What the corners of an outline do, added up as it is walked round.
-struct Turning {
+struct Winding {
   double angle = 0;  // of all corners
   bool left = false;
   bool right = false;
   bool back = false;
 
   // A vertex close to the line through its neighbours does not turn, unless it turns back.
-  void pass(double ux, double uy, double vx, double vy) {
-    const double cross = ux * vy - uy * vx;
-    const double dot = ux * vx + uy * vy;
-    angle += arc_tangent(cross, dot);
-    const double base = std::sqrt((ux + vx) * (ux + vx) + (uy + vy) * (uy + vy));
-    if (std::fabs(cross) > tolerance * base) {
-      (cross > 0 ? left : right) = true;
-    } else if (dot < 0) {
+  void pass(WideVector u, WideVector v) {
+    const double across = cross(u, v);
+    const double along = dot(u, v);
+    angle += arc_tangent(across, along);
+    if (std::fabs(across) > tolerance * length(u + v)) {
+      (across > 0 ? left : right) = true;
+    } else if (along < 0) {
       back = true;
     }
   }
@@ -34,21 +35,18 @@ struct Turning {
 
 }  // namespace
 
-Convexity convexity(const Real *x, const Real *y, Integer n) {
-  if (n < 3) return Convexity::refused;
-  const auto next = [&](Integer i) { return i + 1 < n ? i + 1 : 0; };
-  for (Integer i = 0; i < n; ++i) {
-    const Integer j = next(i);
-    if (distance(Point2{x[i], y[i]}, Point2{x[j], y[j]}) <= tolerance) return Convexity::refused;
+Convexity convexity(const Outline &outline) {
+  if (outline.n < 3) return Convexity::refused;
+  for (Integer i = 0; i < outline.n; ++i) {
+    if (distance(outline[i], outline[outline.after(i)]) <= tolerance) return Convexity::refused;
   }
-  Turning turning;
-  for (Integer i = 0; i < n; ++i) {
-    const Integer j = next(i);
-    const Integer k = next(j);
-    turning.pass(double{x[j]} - x[i], double{y[j]} - y[i], double{x[k]} - x[j],
-                 double{y[k]} - y[j]);
+  Winding winding;
+  for (Integer i = 0; i < outline.n; ++i) {
+    const Integer j = outline.after(i);
+    winding.pass(wide_difference(outline[j], outline[i]),
+                 wide_difference(outline[outline.after(j)], outline[j]));
   }
-  return turning.convex() ? Convexity::convex : Convexity::not_convex;
+  return winding.convex() ? Convexity::convex : Convexity::not_convex;
 }
 
 }  // namespace trelvin

@@ -36,15 +36,11 @@ struct Sector {
   }
 };
 
-inline Sector sector(Point2 vertex, Point2 first, Point2 second) {
-  return {vertex, first, line_through(vertex, first), line_through(vertex, second)};
-}
-
 // Marks points: 1 inside, 2 outside; or all by -1, if the rays have one direction.
 inline void mark_by_sector(Point2 vertex, Point2 first, Point2 second, const Real *x, const Real *y,
                            Integer n, Integer *marks, LastCosine &last) {
   const bool no_sector = negligible(angle_between(first - vertex, second - vertex));
-  const Sector rays = sector(vertex, first, second);
+  const Sector rays = {vertex, first, line_through(vertex, first), line_through(vertex, second)};
   for (Integer i = 0; i < n; ++i) {
     marks[i] = no_sector ? -1 : rays.holds({x[i], y[i]}, last) ? 1 : 2;
   }

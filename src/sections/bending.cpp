@@ -11,25 +11,23 @@ PlateMoments moments_of(const PlateArrays &plates) {
     const Plate p = plates[i];
     const double a = p.area();
     m.area += a;
-    m.xs += a * p.x_middle();
-    m.ys += a * p.y_middle();
+    m.centroid = m.centroid + p.middle() * a;
   }
-  m.xs /= m.area;
-  m.ys /= m.area;
+  m.centroid = m.centroid / m.area;
   for (Integer i = 0; i < plates.n; ++i) {
     const Plate p = plates[i];
-    const double length = p.length();
-    const double a = length * p.t;
-    const double x = p.x_middle() - m.xs;
-    const double y = p.y_middle() - m.ys;
-    m.xx_line += a * (y * y + p.dy() * p.dy() / 12);
-    m.yy_line += a * (x * x + p.dx() * p.dx() / 12);
-    m.xy_line += a * (x * y + p.dx() * p.dy() / 12);
+    const auto [dx, dy] = p.along();
+    const auto [x, y] = p.middle() - m.centroid;
+    const double a = p.area();
+    m.xx_line += a * (y * y + dy * dy / 12);
+    m.yy_line += a * (x * x + dx * dx / 12);
+    m.xy_line += a * (x * y + dx * dy / 12);
     // Across the plate, along its normal.
-    const double across = a * (p.t / length) * (p.t / length) / 12;
-    m.xx += across * p.dx() * p.dx();
-    m.yy += across * p.dy() * p.dy();
-    m.xy -= across * p.dx() * p.dy();
+    const double slenderness = p.t / length(p.along());
+    const double across = a * slenderness * slenderness / 12;
+    m.xx += across * dx * dx;
+    m.yy += across * dy * dy;
+    m.xy -= across * dx * dy;
   }
   m.xx += m.xx_line;
   m.yy += m.yy_line;
@@ -159,11 +157,11 @@ class Spread {
  private:
   [[nodiscard]] Trapezoid plate(Integer i) const {
     const Plate p = plates_[i];
-    const double length = p.length();
+    const auto [dx, dy] = p.along();
     const bool along_y = axis_ == Axis::y;
-    const double rise = std::fabs(along_y ? p.dy() : p.dx()) / 2;
-    const double half_thickness = p.t * std::fabs(along_y ? p.dx() : p.dy()) / (2 * length);
-    return {length * p.t, along_y ? p.y_middle() : p.x_middle(), std::max(rise, half_thickness),
+    const double rise = std::fabs(along_y ? dy : dx) / 2;
+    const double half_thickness = p.t * std::fabs(along_y ? dx : dy) / (2 * length(p.along()));
+    return {p.area(), along_y ? p.middle().y : p.middle().x, std::max(rise, half_thickness),
             std::min(rise, half_thickness)};
   }
 
@@ -181,8 +179,8 @@ BendingFigures bending_figures(const PlateArrays &plates, const PlateMoments &m)
   const PrincipalAxes principal = principal_axes(m.xx, m.yy, m.xy);
   BendingFigures f;
   f.A = m.area;
-  f.xs = m.xs;
-  f.ys = m.ys;
+  f.xs = m.centroid.x;
+  f.ys = m.centroid.y;
   f.Ix = m.xx;
   f.Iy = m.yy;
   f.Ixy = m.xy;
@@ -191,10 +189,10 @@ BendingFigures bending_figures(const PlateArrays &plates, const PlateMoments &m)
   f.alpha = principal.alpha;
   f.rx = std::sqrt(m.xx / m.area);
   f.ry = std::sqrt(m.yy / m.area);
-  f.Wx1 = m.xx / (height.high - m.ys);
-  f.Wx2 = m.xx / (m.ys - height.low);
-  f.Wy1 = m.yy / (width.high - m.xs);
-  f.Wy2 = m.yy / (m.xs - width.low);
+  f.Wx1 = m.xx / (height.high - m.centroid.y);
+  f.Wx2 = m.xx / (m.centroid.y - height.low);
+  f.Wy1 = m.yy / (width.high - m.centroid.x);
+  f.Wy2 = m.yy / (m.centroid.x - width.low);
   f.xp = sideways.equal_area(width, m.area);
   f.yp = upwards.equal_area(height, m.area);
   f.Wpx = upwards.plastic_modulus(f.yp);

@@ -8,7 +8,7 @@ namespace trelvin {
 
 struct PlateMoments {
   double area = 0;
-  double xs = 0, ys = 0;                         // centroid
+  WideVector centroid = {};
   double xx = 0, yy = 0, xy = 0;                 // integrals of y^2, x^2 and x*y about the centroid
   double xx_line = 0, yy_line = 0, xy_line = 0;  // those of the centre lines alone
 };

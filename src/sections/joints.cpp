@@ -6,40 +6,35 @@ namespace trelvin {
 namespace {
 
 // On which side of a plate's centre line a point lies, times lengths.
-double side(const Plate &p, double x, double y) {
-  return p.dx() * (y - p.y1) - p.dy() * (x - p.x1);
+double side(const Plate &p, WideVector q) { return cross(p.along(), q - p.start); }
+
+bool is_near(const Plate &p, WideVector q, double reach) {
+  const WideVector along = p.along();
+  const double part = std::clamp(dot(q - p.start, along) / dot(along, along), 0.0, 1.0);
+  const WideVector off = q - p.start - along * part;
+  return dot(off, off) <= reach * reach;
 }
 
-bool is_near(const Plate &p, double x, double y, double reach) {
-  const double along =
-      ((x - p.x1) * p.dx() + (y - p.y1) * p.dy()) / (p.dx() * p.dx() + p.dy() * p.dy());
-  const double part = std::clamp(along, 0.0, 1.0);
-  const double ex = x - p.x1 - part * p.dx();
-  const double ey = y - p.y1 - part * p.dy();
-  return ex * ex + ey * ey <= reach * reach;
+bool are_apart(double a1, double a2, double b1, double b2, double reach) {
+  return std::min(a1, a2) > std::max(b1, b2) + reach || std::min(b1, b2) > std::max(a1, a2) + reach;
 }
 
 bool boxes_are_apart(const Plate &p, const Plate &q, double reach) {
-  return std::min(p.x1, p.x2) > std::max(q.x1, q.x2) + reach ||
-         std::min(q.x1, q.x2) > std::max(p.x1, p.x2) + reach ||
-         std::min(p.y1, p.y2) > std::max(q.y1, q.y2) + reach ||
-         std::min(q.y1, q.y2) > std::max(p.y1, p.y2) + reach;
+  return are_apart(p.start.x, p.end.x, q.start.x, q.end.x, reach) ||
+         are_apart(p.start.y, p.end.y, q.start.y, q.end.y, reach);
 }
 
 bool meet(const Plate &p, const Plate &q, double reach) {
   if (boxes_are_apart(p, q, reach)) return false;
-  const bool cross = side(p, q.x1, q.y1) * side(p, q.x2, q.y2) < 0 &&
-                     side(q, p.x1, p.y1) * side(q, p.x2, p.y2) < 0;
-  return cross || is_near(p, q.x1, q.y1, reach) || is_near(p, q.x2, q.y2, reach) ||
-         is_near(q, p.x1, p.y1, reach) || is_near(q, p.x2, p.y2, reach);
+  const bool cross = side(p, q.start) * side(p, q.end) < 0 && side(q, p.start) * side(q, p.end) < 0;
+  return cross || is_near(p, q.start, reach) || is_near(p, q.end, reach) ||
+         is_near(q, p.start, reach) || is_near(q, p.end, reach);
 }
 
 // From a joint on, two plates meet again only where they lie on each other: the end of the shorter
 // one is on the other then.
 bool overlap_from_joint(const Plate &p, bool joint_at_end, const Plate &q, double reach) {
-  const double x = joint_at_end ? p.x1 : p.x2;
-  const double y = joint_at_end ? p.y1 : p.y2;
-  return is_near(p, q.x2, q.y2, reach) || is_near(q, x, y, reach);
+  return is_near(p, q.end, reach) || is_near(q, joint_at_end ? p.start : p.end, reach);
 }
 
 // Coordinates in single precision miss a place on a line by up to half a unit each.
@@ -48,8 +43,9 @@ double reach_of(const PlateArrays &plates) {
   double farthest = 0;
   for (Integer i = 0; i < plates.n; ++i) {
     const Plate p = plates[i];
-    farthest =
-        std::max({farthest, std::fabs(p.x1), std::fabs(p.y1), std::fabs(p.x2), std::fabs(p.y2)});
+    for (const double c : {p.start.x, p.start.y, p.end.x, p.end.y}) {
+      farthest = std::max(farthest, std::fabs(c));
+    }
   }
   return std::max<double>(tolerance, rounding * farthest);
 }
@@ -61,10 +57,10 @@ Joints::Fault fault_of(const PlateArrays &plates, Integer k, double reach) {
   bool meets = false;
   for (Integer i = 0; i < k; ++i) {
     const Plate p = plates[i];
-    const bool from_start = same_place(p.x1, p.y1, q.x1, q.y1);
-    const bool from_end = same_place(p.x2, p.y2, q.x1, q.y1);
+    const bool from_start = same_place(p.start, q.start);
+    const bool from_end = same_place(p.end, q.start);
     starts = starts || from_start || from_end;
-    closes = closes || same_place(p.x1, p.y1, q.x2, q.y2) || same_place(p.x2, p.y2, q.x2, q.y2);
+    closes = closes || same_place(p.start, q.end) || same_place(p.end, q.end);
     meets = meets || (from_start || from_end ? overlap_from_joint(p, from_end, q, reach)
                                              : meet(p, q, reach));
   }

@@ -7,8 +7,8 @@
 
 namespace trelvin {
 
-inline bool same_place(double xa, double ya, double xb, double yb) {
-  return std::fabs(xa - xb) <= tolerance && std::fabs(ya - yb) <= tolerance;
+inline bool same_place(WideVector a, WideVector b) {
+  return std::fabs(a.x - b.x) <= tolerance && std::fabs(a.y - b.y) <= tolerance;
 }
 
 struct Joints {

@@ -43,13 +43,13 @@ class Sectorial {
     for (Integer k = 0; k < plates.n; ++k) starts_.set(k, at_joint(k));
   }
 
-  [[nodiscard]] double x_pole() const { return plates_.x1[0]; }
-  [[nodiscard]] double y_pole() const { return plates_.y1[0]; }
+  [[nodiscard]] WideVector pole() const { return plates_[0].start; }
 
   [[nodiscard]] Ends of(Integer k) const {
     const Plate p = plates_[k];
     const double start = starts_.get(k);
-    return {start, start + (p.x1 - x_pole()) * p.dy() - (p.y1 - y_pole()) * p.dx()};
+    return {start,
+            start + (p.start.x - pole().x) * p.along().y - (p.start.y - pole().y) * p.along().x};
   }
 
  private:
@@ -58,8 +58,8 @@ class Sectorial {
     const Plate p = plates_[k];
     for (Integer i = k - 1; i >= 0; --i) {
       const Plate earlier = plates_[i];
-      if (same_place(earlier.x2, earlier.y2, p.x1, p.y1)) return of(i).end;
-      if (same_place(earlier.x1, earlier.y1, p.x1, p.y1)) return of(i).start;
+      if (same_place(earlier.end, p.start)) return of(i).end;
+      if (same_place(earlier.start, p.start)) return of(i).start;
     }
     return 0;
   }
@@ -83,8 +83,10 @@ SectorialMoments moments_of(const Sectorial &sectorial, const PlateArrays &plate
     const double at_start = sixth * (2 * start + end);
     const double at_end = sixth * (start + 2 * end);
     sum.mean += at_start + at_end;
-    sum.x += at_start * (p.y1 - m.ys) + at_end * (p.y2 - m.ys);
-    sum.y += at_start * (p.x1 - m.xs) + at_end * (p.x2 - m.xs);
+    const WideVector u = p.start - m.centroid;
+    const WideVector v = p.end - m.centroid;
+    sum.x += at_start * u.y + at_end * v.y;
+    sum.y += at_start * u.x + at_end * v.x;
   }
   sum.mean /= m.area;
   return sum;
@@ -104,8 +106,9 @@ TorsionFigures torsion_figures(const PlateArrays &plates, const PlateMoments &m,
   const bool on_one_line = det <= 1e-12 * polar * polar;
   const double ax = on_one_line ? 0 : (w.x * m.yy_line - w.y * m.xy_line) / det;
   const double ay = on_one_line ? 0 : (w.x * m.xy_line - w.y * m.xx_line) / det;
-  const auto about_shear_centre = [&](double coordinate, double x, double y) {
-    return coordinate - w.mean - ax * (y - m.ys) + ay * (x - m.xs);
+  const auto about_shear_centre = [&](double coordinate, WideVector p) {
+    const auto [x, y] = p - m.centroid;
+    return coordinate - w.mean - ax * y + ay * x;
   };
 
   TorsionFigures f = {};
@@ -113,8 +116,8 @@ TorsionFigures torsion_figures(const PlateArrays &plates, const PlateMoments &m,
   for (Integer i = 0; i < plates.n; ++i) {
     const Plate p = plates[i];
     const auto [start, end] = sectorial.of(i);
-    const double w1 = about_shear_centre(start, p.x1, p.y1);
-    const double w2 = about_shear_centre(end, p.x2, p.y2);
+    const double w1 = about_shear_centre(start, p.start);
+    const double w2 = about_shear_centre(end, p.end);
     W1[i] = static_cast<Real>(w1);
     W2[i] = static_cast<Real>(w2);
     f.Iw += p.area() * (w1 * w1 + w1 * w2 + w2 * w2) / 3;
@@ -122,10 +125,10 @@ TorsionFigures torsion_figures(const PlateArrays &plates, const PlateMoments &m,
     thickest = std::max(thickest, p.t);
   }
   f.Wt = f.It / thickest;
-  f.xm = on_one_line ? m.xs : sectorial.x_pole() + ax;
-  f.ym = on_one_line ? m.ys : sectorial.y_pole() + ay;
-  const double x = f.xm - m.xs;
-  const double y = f.ym - m.ys;
+  const WideVector shear_centre = on_one_line ? m.centroid : sectorial.pole() + WideVector{ax, ay};
+  f.xm = shear_centre.x;
+  f.ym = shear_centre.y;
+  const auto [x, y] = shear_centre - m.centroid;
   f.r0 = std::sqrt((m.xx + m.yy) / m.area + x * x + y * y);
   return f;
 }

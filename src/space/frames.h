@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "vectors/three_points.h"
-#include "vectors/transforms.h"
+#include "vectors/turns.h"
 
 namespace trelvin {
 

@@ -2,7 +2,7 @@
 
 #include "space/frames.h"
 #include "vectors/angles.h"
-#include "vectors/transforms.h"
+#include "vectors/turns.h"
 
 namespace trelvin {
 namespace {

@@ -2,19 +2,19 @@
 #pragma once
 
 #include "numeric/processor.h"
-#include "vectors/transforms.h"
+#include "vectors/turns.h"
 
 namespace trelvin {
 
 // For processors with AVX2, or nullptr where the compiler has none.
-using WideTurn = void (*)(Real *p, Real *q, Integer n, Real cosine, Real sine);
-extern const WideTurn wide_turn;
+using WideRotation = void (*)(Real *p, Real *q, Integer n, Real cosine, Real sine);
+extern const WideRotation wide_rotation;
 
 // Turns the first coordinates towards the second, one point after the other.
-inline void turn(PlaneArrays points, Integer n, Turn by) {
+inline void rotate(PlaneArrays points, Integer n, Turn by) {
   constexpr Integer many = 64;
-  if (n >= many && wide_turn != nullptr && has_avx2()) {
-    wide_turn(points.x, points.y, n, by.cosine, by.sine);
+  if (n >= many && wide_rotation != nullptr && has_avx2()) {
+    wide_rotation(points.x, points.y, n, by.cosine, by.sine);
     return;
   }
   for (Integer i = 0; i < n; ++i) by.apply(points.x[i], points.y[i]);

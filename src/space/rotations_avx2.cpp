@@ -6,7 +6,7 @@ namespace trelvin {
 namespace {
 
 #if defined(__GNUC__) && defined(__AVX2__)
-void turn_widely(Real *p, Real *q, Integer n, Real cosine, Real sine) {
+void rotate_widely(Real *p, Real *q, Integer n, Real cosine, Real sine) {
   for (Integer i = 0; i < n; ++i) {
     const Real old_p = p[i];
     const Real old_q = q[i];
@@ -19,9 +19,9 @@ void turn_widely(Real *p, Real *q, Integer n, Real cosine, Real sine) {
 }  // namespace
 
 #if defined(__GNUC__) && defined(__AVX2__)
-const WideTurn wide_turn = turn_widely;
+const WideRotation wide_rotation = rotate_widely;
 #else
-const WideTurn wide_turn = nullptr;
+const WideRotation wide_rotation = nullptr;
 #endif
 
 }  // namespace trelvin

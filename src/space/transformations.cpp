@@ -13,9 +13,9 @@ void transform(SpaceArrays points, Integer n, Move move) {
 void shift_and_turn(SpaceArrays points, Integer n, Vector3 shift, AxisAngles angles) {
   const bool shifts = significant(shift.x) || significant(shift.y) || significant(shift.z);
   if (shifts) move_origin(points, n, -shift);
-  if (significant(angles.x)) turn({points.y, points.z}, n, turn_by(angles.x));
-  if (significant(angles.y)) turn({points.x, points.z}, n, turn_by(angles.y));
-  if (significant(angles.z)) turn({points.x, points.y}, n, turn_by(angles.z));
+  if (significant(angles.x)) rotate({points.y, points.z}, n, turn_by(angles.x));
+  if (significant(angles.y)) rotate({points.x, points.z}, n, turn_by(angles.y));
+  if (significant(angles.z)) rotate({points.x, points.y}, n, turn_by(angles.z));
 }
 
 void shift_and_turn(SpaceArrays points, Integer n, const Frame &frame, Point3 p0, Vector3 shift,

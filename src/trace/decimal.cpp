@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
+
+#include "numeric/bits.h"
 
 namespace trelvin {
 namespace {
@@ -69,14 +70,12 @@ bool rounds_up(const Natural &natural, int last) {
 }  // namespace
 
 DecimalText scientific(Real value) {
-  std::uint32_t bits = 0;
-  std::memcpy(&bits, &value, sizeof bits);
-  const std::uint32_t fraction = bits & 0x7FFFFFU;
-  const auto field = static_cast<int>((bits >> 23) & 0xFFU);
+  const std::uint32_t fraction = bits_of(value) & fraction_mask;
+  const auto field = static_cast<int>(magnitude_bits(value) >> fraction_size);
 
   // |value| = mantissa * 2^power, or mantissa * 5^-power * 10^power where the power is negative.
   const int power = std::max(field, 1) - 150;
-  Natural natural(field == 0 ? fraction : fraction | 0x800000U);
+  Natural natural(field == 0 ? fraction : fraction | leading_bit);
   natural.multiply_by_power(power < 0 ? 5 : 2, std::abs(power));
 
   const int leading = natural.leading_place();
@@ -92,7 +91,7 @@ DecimalText scientific(Real value) {
   }
 
   DecimalText text;
-  if (bits >> 31 != 0) text.add('-');
+  if ((bits_of(value) & sign_mask) != 0) text.add('-');
   for (std::uint32_t unit = 100'000'000; unit > 0; unit /= 10) {
     text.add(static_cast<char>('0' + digits / unit % 10));
     if (unit == 100'000'000) text.add('.');

@@ -120,4 +120,19 @@ struct SpaceArrays {
   }
 };
 
+// Makes coordinates relative to a new origin.
+inline void move_origin(PlaneArrays points, Integer n, Vector2 to) {
+  for (Integer i = 0; i < n; ++i) {
+    points.x[i] -= to.x;
+    points.y[i] -= to.y;
+  }
+}
+inline void move_origin(SpaceArrays points, Integer n, Vector3 to) {
+  for (Integer i = 0; i < n; ++i) {
+    points.x[i] -= to.x;
+    points.y[i] -= to.y;
+    points.z[i] -= to.z;
+  }
+}
+
 }  // namespace trelvin

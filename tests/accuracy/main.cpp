@@ -34,8 +34,7 @@ constexpr const char *without_figures[] = {
     "trvmer13", "trvmer14", "trvmer15", "trvmer16", "trvptp1", "trvptp2"};
 
 const char *without_measurement(const char *routine) {
-  if (std::strncmp(routine, "trvsec_", 7) == 0)
-    return "vertices are sums of dimensions, rounded at each step";
+  if (std::strncmp(routine, "trvsec_", 7) == 0) return "vertices are sums of dimensions";
   const bool none = std::any_of(std::begin(without_figures), std::end(without_figures),
                                 [&](const char *other) { return !std::strcmp(routine, other); });
   return none ? "computes no figures" : "not measured";

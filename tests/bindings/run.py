@@ -53,14 +53,11 @@ def table_of(platform, language, program, lib):
     """What a program prints, or why it does not."""
     environment = dict(os.environ, LD_LIBRARY_PATH=str(lib))
     environment["TRELVIN_LIBRARY"] = str(lib / "libtrelvin.so")
-    environment.setdefault("WINEPREFIX", str(ROOT / "build" / "wine"))
-    environment.setdefault("WINEARCH", "win32")
-    environment.setdefault("WINEDEBUG", "-all")
     before = [RUNNERS[platform, language]] if (platform, language) in RUNNERS else []
     if platform == "windows":
         environment["TRELVIN_LIBRARY"] = str(ROOT / "build/windows/bin/Trelvin.dll")
         environment["NODE_SKIP_PLATFORM_CHECK"] = "1"  # Wine says that it is Windows 7
-        before.insert(0, "wine")
+        before[:0] = [str(ROOT / "cmake/wine.sh"), "32"]
     # Files, since Node.js under Wine cannot write to the pipes of Linux.
     with open(OUT / "printed.txt", "w+") as printed, open(OUT / "errors.txt", "w+") as errors:
         command = [*before, program]

@@ -7,28 +7,7 @@ namespace {
 
 constexpr float u = unwritten;
 
-// The point as it comes back, the turned point and the status.
-Values turn(float x0, float y0, float x, float y, float angle) {
-  float xr = u, yr = u;
-  std::int32_t status = unwritten_int;
-  trvcer3(x0, y0, x, y, angle, xr, yr, status);
-  return {x, y, xr, yr, static_cast<double>(status)};
-}
-
 }  // namespace
-
-TEST(Stations, PointIsTurnedCounterClockwise) {
-  const float points[][2] = {{5, 0}, {4, 3}, {0, 5}, {-4, 3}, {-5, 0}, {-4, -3}, {0, -5}, {4, -3}};
-  for (const auto &[x, y] : points) {
-    expect_near(turn(1, 2, 1 + x, 2 + y, half_pi), {1 + x, 2 + y, 1 - y, 2 + x, 1}, 1e-6);
-    expect_near(turn(1, 2, 1 + x, 2 + y, -half_pi), {1 + x, 2 + y, 1 + y, 2 - x, 1}, 1e-6);
-  }
-  EXPECT_EQ(turn(16777216, 0, 0.25F, 0, 0)[0], 0);  // rounded on its way
-  const float near = std::ldexp(1.0F, -17);
-  EXPECT_EQ(turn(1, 2, 1 + near, 2, 1), (Values{near, 0, u, u, 0}));  // left at the centre
-  EXPECT_EQ(turn(0, 0, 0, tolerance, 1)[4], 0);
-  EXPECT_EQ(turn(0, 0, 0, beyond, 1)[4], 1);
-}
 
 TEST(Stations, OnBothSidesOfTheChord) {
   // Of the circle about (1, 2) with the radius 5; chords level, oblique and upright.

@@ -470,11 +470,11 @@ class Inputs {
         reals.push_back(argument.real_address());
       }
     }
-    const std::size_t size = 2 + random_() % 2;  // of a point
+    const std::size_t size = random_() % 2 == 0 ? 2 : 3;  // of a point
     const bool crowds = random_() % 2 == 0;
     const std::size_t points_between = random_() % 2;
     for (std::size_t i = 0; i < reals.size(); ++i) {
-      const std::size_t back = size * (1 + points_between);
+      const std::size_t back = points_between == 0 ? size : 2 * size;
       const bool together = crowds && i >= back && i / back % 2 == 1;
       *reals[i] = together ? *reals[i - back] + (random_() % 2 == 0 ? 0 : beside)
                            : values[random_() % std::size(values)];

@@ -4,10 +4,12 @@
 //
 //     digest            both parts
 //     digest --check FILE   only the lines that differ from those of the file, and the totals
-//     digest ROUTINE    every call of one routine, to find the first call in which two builds differ
+//     digest ROUTINE    each call of one routine: a line for each argument with its values before and
+//                       after; golden.py beside this file finds the first call where two builds differ
 //     digest ROUTINE~   the same of its calls near limits
 //     digest --calls N  with another number of calls of each routine
 #include <cinttypes>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -34,19 +36,24 @@ class Printer {
 
   void print(const std::string &name, std::uint64_t hash) {
     const auto line = golden_.find(name);
-    const std::uint64_t expected = line == golden_.end() ? 0 : line->second;
-    if (!check_) {
-      std::printf("%-10s %016" PRIx64 "\n", name.c_str(), hash);
-    } else if (hash != expected) {
-      std::printf("%-10s expected %016" PRIx64 ", got %016" PRIx64 "\n", name.c_str(), expected,
+    if (check_ && line == golden_.end()) {
+      std::printf("this line is missing in the file:\n");
+      ++differing_;
+    } else if (check_ && hash != line->second) {
+      std::printf("%-10s expected %016" PRIx64 ", got %016" PRIx64 "\n", name.c_str(), line->second,
                   hash);
       ++differing_;
+      return;
+    } else if (check_) {
+      return;
     }
+    std::printf("%-10s %016" PRIx64 "\n", name.c_str(), hash);
   }
 
   void print_total(const std::string &name, std::uint64_t hash) {
+    const int before = differing_;
     print(name, hash);
-    if (check_) std::printf("%s %016" PRIx64 "\n", name.c_str(), hash);
+    if (check_ && differing_ == before) std::printf("%s %016" PRIx64 "\n", name.c_str(), hash);
   }
 
   [[nodiscard]] bool all_agree() const { return differing_ == 0; }
@@ -56,6 +63,26 @@ class Printer {
   std::map<std::string, std::uint64_t> golden_;
   int differing_ = 0;
 };
+
+void print_values(int call, const char *when, const random_calls::Routine &routine,
+                  const random_calls::Arguments &arguments) {
+  using random_calls::Argument;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const Argument &argument = arguments[i];
+    std::printf("%d %s %s", call, when, routine.names[i].c_str());
+    const std::size_t elements = argument.single ? 1 : Argument::room;
+    for (std::size_t j = Argument::spare; j < Argument::spare + elements; ++j) {
+      if (argument.kind == Argument::real && std::isnan(argument.reals[j])) {
+        std::printf(" nan");
+      } else if (argument.kind == Argument::real) {
+        std::printf(" %.9g", static_cast<double>(argument.reals[j]));
+      } else {
+        std::printf(" %d", argument.integers[j]);
+      }
+    }
+    std::printf("\n");
+  }
+}
 
 // A line for each routine and one for all, or each call of the routine `only`.
 void print_part(Printer &printer, const std::string &only, const char *mark, int draws, Draw draw) {
@@ -68,10 +95,11 @@ void print_part(Printer &printer, const std::string &only, const char *mark, int
     Hash hash;
     int call = 0;
     draw(routine, draws, [&](random_calls::Arguments &arguments) {
+      ++call;
+      if (!only.empty()) print_values(call, "before", routine, arguments);
       routine.call(random_calls::addresses_of(arguments));
       hash.add(arguments);
-      ++call;
-      if (!only.empty()) std::printf("%d %016" PRIx64 "\n", call, hash.value());
+      if (!only.empty()) print_values(call, "after", routine, arguments);
     });
     printer.print(name, hash.value());
     all.add(static_cast<std::uint32_t>(hash.value() >> 32));

@@ -78,17 +78,17 @@ class Windows(unittest.TestCase):
         (self.installed,) = self.folder.iterdir()
 
     def test_hosts_of_both_sizes(self):
-        for wine, machine in (("wine", "i686"), ("wine64", "x86_64")):
+        for bits, machine in (("32", "i686"), ("64", "x86_64")):
             build = self.folder / machine
             toolchain = ROOT / "cmake" / f"mingw-{machine}.cmake"
             build_host(build, self.installed, f"-DCMAKE_TOOLCHAIN_FILE={toolchain}")
             shutil.copy(build / "girder.exe", self.installed / "bin")
-            printed = output(ROOT / "dev", "--run", wine, self.installed / "bin" / "girder.exe")
+            printed = output(ROOT / "cmake/wine.sh", bits, self.installed / "bin" / "girder.exe")
             self.assertEqual(printed, TABLE, machine)
 
     def test_the_program(self):
         program = self.installed / "bin" / "section_properties.exe"
-        printed = output(ROOT / "dev", "--run", "wine", program, "b", "200", "15")
+        printed = output(ROOT / "cmake/wine.sh", "32", program, "b", "200", "15")
         self.assertRegex(printed, r"Area +A +3000\.000 mm2")
 
     def test_what_is_in(self):

@@ -87,11 +87,3 @@ TEST(Lines, ParallelsAreAsFarApartAsTheParallelTells) {
   // Far from the origin the constants nearly cancel: 100000.5 - 300001.8125 / 3.
   expect_near(outputs(trvlul, 1, 0, 100000.5, 3, 0, 300001.8125), {-0.3125 / 3, 2}, 1e-8);
 }
-
-TEST(Lines, NewOriginMayBeOneOfThePoints) {
-  float x[] = {1, 2, 4, unwritten}, y[] = {5, 7, 9, unwritten};
-  for (const std::int32_t n : {0, -3}) trvtra(x, y, n, 1, 1);
-  trvtra(x, y, 3, x[0], y[1]);
-  EXPECT_EQ(Values(x, x + 4), (Values{0, 1, 3, unwritten}));
-  EXPECT_EQ(Values(y, y + 4), (Values{-2, 0, 2, unwritten}));
-}

@@ -60,27 +60,3 @@ TEST(SectionParts, OwnMomentsTurnOneAfterTheOther) {
   EXPECT_NEAR(properties({{}, {}, 0, 1, 0, std::ldexp(1.0F, 100)}, 1, {0, 0, 0, 1, 0, 0})[3],
               0.23929575844, 1e-7);
 }
-
-TEST(PrincipalMoments, OfKnownCircles) {
-  // Mean 3.5, half the difference 1.5: a circle of radius 2.5.
-  const double alpha = std::atan2(4, 3) / 2;
-  expect_near(outputs(trvinp, 5, 2, 2), {6, 1, -alpha}, 1e-6);
-  expect_near(outputs(trvinp, 2, 5, 2), {1, 6, alpha}, 1e-6);
-  expect_near(outputs(trvinp, 2, 5, -2), {1, 6, -alpha}, 1e-6);
-  expect_near(outputs(trvinp, 1, 1, 0.5), {0.5, 1.5, pi / 4}, 1e-7);
-  expect_near(outputs(trvinp, 0.75, -0.75, 1), {1.25, -1.25, -alpha}, 1e-6);  // infinite ratio
-  EXPECT_EQ(outputs(trvinp, 3, -3, 0), (Values{3, -3, 0}));                   // no ratio
-}
-
-TEST(Quadrature, TrapezoidsLeaveOutTheLastInteriorSample) {
-  const auto integral = [](std::vector<float> f, float a, float b) {
-    float result = unwritten;
-    trvinr(static_cast<std::int32_t>(f.size()), f.data(), a, b, result);
-    return result;
-  };
-  EXPECT_EQ(integral({1, 2, 4, 8, 16, 33}, 1, 11), 62);  // 2 ((1 + 33)/2 + 2 + 4 + 8)
-  EXPECT_EQ(integral({1, 2, 4, 8}, 3, 0), -6.5F);
-  EXPECT_EQ(integral({1, 100, 1}, 0, 2), 1);
-  EXPECT_EQ(integral({1, 3}, 0, 2), 4);
-  EXPECT_EQ(integral({1}, 0, 2), infinity);
-}

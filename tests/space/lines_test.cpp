@@ -97,62 +97,6 @@ TEST(SpaceLines, SignedDistanceInThePlaneOfTheLineAndThePoint) {
   EXPECT_EQ(outputs_at(trv3lda, a, a, in_sevens(0, 1, 0)), (Values{0, 7}));
 }
 
-TEST(SpaceLines, IntersectionOfTwoLinesMovesTheirPoints) {
-  using Points = std::array<float, 9>;  // A, C and the intersection
-  const auto intersect = [](Points &p, Point u, Point w) {
-    std::int32_t status = unwritten_int;
-    trv3lni(p[0], p[1], p[2], u[0], u[1], u[2], p[3], p[4], p[5], w[0], w[1], w[2], status, p[6],
-            p[7], p[8]);
-    return status;
-  };
-  Points p = {1, -2, 4, 8, 1, 25, unwritten, unwritten, unwritten};
-  EXPECT_EQ(intersect(p, {2, 3, 6}, {1, -1, 3}), 0);  // 2 along the first, -3 along the second
-  expect_near(Values(p.begin(), p.end()), {0, 0, 0, 7, 3, 21, 5, 4, 16}, 1e-6);
-
-  const Points start = {0, -1, 1, 1, 1, 3, unwritten, unwritten, unwritten};
-  p = start;
-  EXPECT_EQ(intersect(p, {1, 2, 2}, {2, 4, 4}), 3);
-  EXPECT_EQ(intersect(p, {1, 2, 2}, {-2, -4, -4}), 4);
-  EXPECT_EQ(intersect(p, {1, 2, 3}, {1, -1, 3}), 6);
-  EXPECT_EQ(intersect(p, {1, 2, 2}, {0, 0, 0}), 7);
-  EXPECT_EQ(p, start);
-
-  // Parallel lines in a frame along the axes: the caller's (2, 3) from A.
-  p = {1, 1, 1, 0, 2, 1, 2, 3, unwritten};
-  EXPECT_EQ(intersect(p, {1, 0, 0}, {4, 0, 0}), 0);
-  EXPECT_EQ(p, (Points{0, 0, 0, -1, 1, 0, 3, 4, 1}));
-  // C + w on the first line: in a frame of zeros everything is at A.
-  p = {4, 5, 6, 6, 4, 6, 2, 3, unwritten};
-  EXPECT_EQ(intersect(p, {1, 0, 0}, {0, 1, 0}), 0);
-  EXPECT_EQ(p, (Points{0, 0, 0, 2, -1, 0, 4, 5, 6}));
-}
-
-TEST(SpaceLines, IntersectionWithPlane) {
-  EXPECT_EQ(outputs(trvpli, 1, -2, 4, 2, 3, 6, 5, -1, 2, -53), (Values{5, 4, 16, TRVPLI_DONE}));
-  const double left = unwritten;
-  EXPECT_EQ(outputs(trvpli, 1, 2, 3, 2, 3, 6, 3, -6, 2, 4),
-            (Values{left, left, left, TRVPLI_PARALLEL}));
-  EXPECT_EQ(outputs(trvpli, 1, 2, 3, 1, 0, tolerance, 0, 0, 1, 0), (Values{left, left, left, 3}));
-  EXPECT_EQ(outputs(trvpli, 1, 2, 3, 1, 0, beyond, 0, 0, 1, 0)[3], 0);
-  EXPECT_EQ(outputs(trvpli, 1, 2, 3, tolerance, -tolerance, 0, 1, 2, 3, 4),
-            (Values{left, left, left, TRVPLI_ZERO}));
-}
-
-TEST(SpaceLines, PositionOfAPlane) {
-  const float t = tolerance;
-  const auto position = [](float a, float b, float c) {
-    return 100 * outputs(trvplp, a, b, c, beyond)[0] + outputs(trvplp, a, b, c, -tolerance)[0];
-  };
-  EXPECT_EQ((Values{position(beyond, -beyond, beyond), position(t, 1, 1), position(1, -t, 1),
-                    position(1, 1, t)}),
-            (Values{101 * TRVPLP_GENERAL, 101 * TRVPLP_PARALLEL_X, 101 * TRVPLP_PARALLEL_Y,
-                    101 * TRVPLP_PARALLEL_Z}));
-  EXPECT_EQ(
-      (Values{position(0, t, 1), position(1, 0, t), position(t, 1, 0), position(0, 0, 0)}),
-      (Values{100 * TRVPLP_NORMAL_Z + TRVPLP_AT_Z_ZERO, 100 * TRVPLP_NORMAL_X + TRVPLP_AT_X_ZERO,
-              100 * TRVPLP_NORMAL_Y + TRVPLP_AT_Y_ZERO, 710}));
-}
-
 TEST(SpaceLines, PointsNearALine) {
   // The line along (2, 3, 6) is taken through (1, 4, 4), not A = (1, 4, 9): 7 off, 14 off, on it,
   // and nowhere.
@@ -208,4 +152,17 @@ TEST(SpaceLines, PointCarriedAlong) {
   EXPECT_EQ(carried(q1, in_sevens(3, 1, 0))[3], 0);
   // Far out, rounding makes the lines skew, and the point is moved though it is off the line.
   EXPECT_EQ(carried({1000.1F, 200.3F, 300.7F}, {-333.3F, 777.7F, 123.4F})[3], TRVLPC_MOVED_SKEW);
+}
+
+TEST(SpaceLines, RelationOfDirections) {
+  const auto relation = [](Point u, Point w) {
+    return outputs_at(trvplv, u, w, not_a_number, 1)[0];
+  };
+  const Point u = {2, 3, 6}, zero = {0, 0, 0};
+  EXPECT_EQ((Values{relation(zero, u), relation(zero, zero), relation(u, zero),
+                    relation({tolerance, 0, -tolerance}, u)}),
+            (Values{TRVPLV_ZERO_U, -1, TRVPLV_ZERO, 7}));
+  EXPECT_EQ((Values{relation(u, {4, 6, 12}), relation(u, {-4, -6, -12}), relation(u, {3, -6, 2}),
+                    relation(u, {3, 2, 6})}),
+            (Values{TRVPLV_SAME, TRVPLV_OPPOSITE, TRVPLV_PERPENDICULAR, TRVPLV_OBLIQUE}));
 }

@@ -1,6 +1,7 @@
 #include "space/frame_of_sevens.h"
 #include "trelvin/plane.h"
-#include "trelvin/space.h"
+#include "trelvin/space_lines.h"
+#include "trelvin/space_planes.h"
 
 using namespace trelvin_test;
 
@@ -105,19 +106,6 @@ TEST(Planes, DistanceOfAPoint) {
   EXPECT_EQ(outputs(trvpspg, 1e5, 0, 0, 1e-10, 0, 0, 0, infinity), Values{0});
 }
 
-TEST(Planes, RelationOfDirections) {
-  const auto relation = [](Point u, Point w) {
-    return outputs_at(trvplv, u, w, not_a_number, 1)[0];
-  };
-  const Point u = {2, 3, 6}, zero = {0, 0, 0};
-  EXPECT_EQ((Values{relation(zero, u), relation(zero, zero), relation(u, zero),
-                    relation({tolerance, 0, -tolerance}, u)}),
-            (Values{TRVPLV_ZERO_U, -1, TRVPLV_ZERO, 7}));
-  EXPECT_EQ((Values{relation(u, {4, 6, 12}), relation(u, {-4, -6, -12}), relation(u, {3, -6, 2}),
-                    relation(u, {3, 2, 6})}),
-            (Values{TRVPLV_SAME, TRVPLV_OPPOSITE, TRVPLV_PERPENDICULAR, TRVPLV_OBLIQUE}));
-}
-
 TEST(Planes, ListOfPointsRunsItsResidualOn) {
   const float x[] = {1, 1, 0, 0}, y[] = {2, 0, -1, 0}, z[] = {3, 0, 1, 1e-30F};
   std::int32_t count = unwritten_int, index[] = {unwritten_int, unwritten_int, unwritten_int};
@@ -128,4 +116,41 @@ TEST(Planes, ListOfPointsRunsItsResidualOn) {
   EXPECT_EQ(Values(index, index + 3), (Values{1, 3, unwritten}));
   EXPECT_EQ(count, 2);
   EXPECT_FLOAT_EQ(d, 3e-30F);
+}
+
+TEST(Planes, PositionOfAPlane) {
+  const float t = tolerance;
+  const auto position = [](float a, float b, float c) {
+    return 100 * outputs(trvplp, a, b, c, beyond)[0] + outputs(trvplp, a, b, c, -tolerance)[0];
+  };
+  EXPECT_EQ((Values{position(beyond, -beyond, beyond), position(t, 1, 1), position(1, -t, 1),
+                    position(1, 1, t)}),
+            (Values{101 * TRVPLP_GENERAL, 101 * TRVPLP_PARALLEL_X, 101 * TRVPLP_PARALLEL_Y,
+                    101 * TRVPLP_PARALLEL_Z}));
+  EXPECT_EQ(
+      (Values{position(0, t, 1), position(1, 0, t), position(t, 1, 0), position(0, 0, 0)}),
+      (Values{100 * TRVPLP_NORMAL_Z + TRVPLP_AT_Z_ZERO, 100 * TRVPLP_NORMAL_X + TRVPLP_AT_X_ZERO,
+              100 * TRVPLP_NORMAL_Y + TRVPLP_AT_Y_ZERO, 710}));
+}
+
+TEST(Planes, RelationOfPlanes) {
+  const auto relation = [](const Values &p, const Values &q) {
+    return outputs(trvdirp, p[0], p[1], p[2], p[3], q[0], q[1], q[2], q[3])[0];
+  };
+  EXPECT_EQ(relation({1, 2, 3, 4}, {3, 2, 1, 4}), TRVDIRP_CROSSING);
+  EXPECT_EQ(relation({2, 0, 0, 4}, {1, 0, 0, 3}), TRVDIRP_PARALLEL_SAME);
+  EXPECT_EQ(relation({0, 0, 1, -1}, {0, 0, -1, -1}), TRVDIRP_PARALLEL_OPPOSITE);
+  EXPECT_EQ(relation({1, 2, 3, 4}, {2, 4, 6, 8}), TRVDIRP_COINCIDENT_SAME);
+  EXPECT_EQ(relation({0, 2, 0, 4}, {0, -4, 0, -8}), TRVDIRP_COINCIDENT_OPPOSITE);
+  EXPECT_EQ(relation({1, 2, 3, 4}, {-5, 1, 1, 4}), TRVDIRP_PERPENDICULAR);
+  EXPECT_EQ(relation({0, 0, 0, 4}, {1, 2, 3, 4}), TRVDIRP_ZERO_NORMAL);
+}
+
+TEST(Planes, ThroughTheOriginWithinTheToleranceCoincide) {
+  const double t = tolerance, n = not_a_number;
+  EXPECT_EQ(outputs(trvdirp, 0, 0, 1, t, 0, 0, 1, -t), Values{3});
+  EXPECT_EQ(outputs(trvdirp, 0, 0, 1, 0, 0, 0, 2, -2), Values{1});
+  EXPECT_EQ(outputs(trvdirp, 0, 0, 1, -1, 0, 0, 1, 0), Values{1});
+  EXPECT_EQ(outputs(trvdirp, 2, 0, 0, 4, 1, 0, 0, n), Values{1});  // a NaN constant is taken as 0
+  EXPECT_EQ(outputs(trvdirp, 2, 0, 0, n, 1, 0, 0, 3), Values{3});
 }

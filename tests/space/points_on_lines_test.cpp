@@ -73,25 +73,3 @@ TEST(PointsOnLines, TwoPlanesAgreeWithAPointAtTheRetainedStation) {
   expect(none, n, 0, 0, 0, 0, 0);
   expect(oblique, 0, 0, 2.5F, -3.5F, 5, 1);
 }
-
-TEST(PointsOnLines, RelationOfPlanes) {
-  const auto relation = [](const Values &p, const Values &q) {
-    return outputs(trvdirp, p[0], p[1], p[2], p[3], q[0], q[1], q[2], q[3])[0];
-  };
-  EXPECT_EQ(relation({1, 2, 3, 4}, {3, 2, 1, 4}), TRVDIRP_CROSSING);
-  EXPECT_EQ(relation({2, 0, 0, 4}, {1, 0, 0, 3}), TRVDIRP_PARALLEL_SAME);
-  EXPECT_EQ(relation({0, 0, 1, -1}, {0, 0, -1, -1}), TRVDIRP_PARALLEL_OPPOSITE);
-  EXPECT_EQ(relation({1, 2, 3, 4}, {2, 4, 6, 8}), TRVDIRP_COINCIDENT_SAME);
-  EXPECT_EQ(relation({0, 2, 0, 4}, {0, -4, 0, -8}), TRVDIRP_COINCIDENT_OPPOSITE);
-  EXPECT_EQ(relation({1, 2, 3, 4}, {-5, 1, 1, 4}), TRVDIRP_PERPENDICULAR);
-  EXPECT_EQ(relation({0, 0, 0, 4}, {1, 2, 3, 4}), TRVDIRP_ZERO_NORMAL);
-}
-
-TEST(PointsOnLines, PlanesThroughTheOriginWithinTheToleranceCoincide) {
-  const double t = tolerance, n = not_a_number;
-  EXPECT_EQ(outputs(trvdirp, 0, 0, 1, t, 0, 0, 1, -t), Values{3});
-  EXPECT_EQ(outputs(trvdirp, 0, 0, 1, 0, 0, 0, 2, -2), Values{1});
-  EXPECT_EQ(outputs(trvdirp, 0, 0, 1, -1, 0, 0, 1, 0), Values{1});
-  EXPECT_EQ(outputs(trvdirp, 2, 0, 0, 4, 1, 0, 0, n), Values{1});  // a NaN constant is taken as 0
-  EXPECT_EQ(outputs(trvdirp, 2, 0, 0, n, 1, 0, 0, 3), Values{3});
-}

@@ -1,5 +1,5 @@
+#include "trelvin/rotations.h"
 #include "support.h"
-#include "trelvin/space.h"
 
 using namespace trelvin_test;
 using I = std::int32_t;

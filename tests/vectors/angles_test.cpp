@@ -1,4 +1,5 @@
 #include "support.h"
+#include "trelvin/circles.h"
 #include "trelvin/plane.h"
 
 using namespace trelvin_test;
@@ -115,4 +116,10 @@ TEST(Angles, DirectedAngleOfPointsAtTheVertexIsRefused) {
   EXPECT_EQ(outputs(trvchi, 0, 0, 0, t, -t, t, 2, 1, 1), (Values{unwritten, 1}));
   EXPECT_EQ(outputs(trvchi, 0, 0, 0, 2, 1, 1, t, -t, t), (Values{unwritten, 1}));
   EXPECT_NEAR(outputs(trvchi, 0, 0, 0, beyond, 0, 0, 0, 1, 0)[0], pi / 2, 1e-6);
+}
+
+TEST(Angles, AngleAgainstTheAxisIsSigned) {
+  const double cases[][3] = {{-2, 2, 0.75 * pi}, {-2, -2, -0.75 * pi}, {-1, -tolerance, pi},
+                             {-1, -beyond, -pi}, {0, -tolerance, 0},   {0, -beyond, -pi / 2}};
+  for (const auto &[dx, dy, phi] : cases) expect_near(outputs(trvaxph, dx, dy), {phi}, 1e-6);
 }

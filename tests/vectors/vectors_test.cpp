@@ -1,4 +1,5 @@
 #include "support.h"
+#include "trelvin/frames.h"
 #include "trelvin/plane.h"
 
 using namespace trelvin_test;
@@ -58,32 +59,17 @@ TEST(Vectors, QuotientsArePairedCrosswise) {
     EXPECT_EQ(outputs(trvgrc, vanishing, 4, 6), (Values{0, 0}));
 }
 
-TEST(Vectors, InterpolatesAndExtrapolates) {
-  EXPECT_EQ(outputs(trvint, 2, 4, 10, 20, 2.5), Values{12.5});
-  EXPECT_EQ(outputs(trvint, 2, 4, 10, 20, 6), Values{30});
-  EXPECT_EQ(outputs(trvint, 2, 2, 10, 20, 6), Values{infinity});
-}
-
 TEST(Vectors, SignOfAValue) {
   EXPECT_EQ(outputs(trvvin, -1, 1e-40F, not_a_number, -1, -1), Values{TRVVIN_POSITIVE});
   for (const float v : {0.0F, -1.0F, not_a_number})
     EXPECT_EQ(outputs(trvvin, 1, v, 1, 1, 1), Values{TRVVIN_NOT_POSITIVE});
 }
 
-TEST(Vectors, PositionInATable) {
-  const float table[] = {0, 1, 2}, t = tolerance;
-  // Interval by interval; then status and position where an equal entry goes first.
-  const auto place = [&](std::int32_t n, float x) -> double {
-    std::int32_t interval = unwritten_int, status = unwritten_int, i = unwritten_int;
-    trvpos(n, table, x, interval);
-    trvpos1(n, table, x, status, i);
-    return 100 * interval + 10 * status + i;
-  };
-  EXPECT_EQ((Values{place(3, 0), place(3, 0.5F), place(3, 1), place(3, 1.5F), place(3, 2)}),
-            (Values{101 + 10 * TRVPOS1_AT_ENTRY, 101 + 10 * TRVPOS1_BETWEEN, 212, 222, 13}));
-  EXPECT_EQ((Values{place(3, t), place(3, beyond), place(3, -t), place(3, 0.999995F)}),
-            (Values{111, 121, 11, 112}));
-  EXPECT_EQ((Values{place(3, -beyond), place(3, 2.5F), place(3, not_a_number), place(1, 0.5F),
-                    place(0, 0), place(-1, 0), place(1, 0)}),
-            (Values{10 * TRVPOS1_NEITHER, 0, 0, 0, 0, 0, 11}));
+TEST(Vectors, NewOriginMayBeOneOfThePoints) {
+  float x[] = {1, 2, 4}, y[] = {5, 7, 9}, z[] = {3, 4, 8};
+  trvtra(x, y, 3, x[0], y[1]);
+  trv3tra(x, y, z, 2, x[1], y[0], z[0]);
+  EXPECT_EQ(Values(x, x + 3), (Values{-1, 0, 3}));
+  EXPECT_EQ(Values(y, y + 3), (Values{0, 2, 2}));
+  EXPECT_EQ(Values(z, z + 3), (Values{0, 1, 8}));
 }

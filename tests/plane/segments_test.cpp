@@ -1,32 +1,17 @@
+#include <array>
+
 #include "support.h"
 #include "trelvin/circles.h"
 
 using namespace trelvin_test;
 
-TEST(ArcMeasures, LengthsOfBothArcs) {
-  const Values refused = {unwritten, unwritten, TRV_ARC_REFUSED};
-  for (const double y : {3, -1})  // the sense is not told
-    expect_near(outputs(trvarc1, 1, 1, 3, 1, 1, y), {pi, 3 * pi, TRV_ARC_DONE}, 1e-6);
-  expect_near(outputs(trvarc1, 1, 1, 3, 1, -6, 1), {2 * pi, 2 * pi, 1}, 1e-6);  // A's radius
-  EXPECT_EQ(outputs(trvarc1, 0, 0, tolerance, 0, 0, 1), refused);
-  EXPECT_EQ(outputs(trvarc1, 0, 0, 1, 0, 1, -tolerance), refused);
-  EXPECT_EQ(outputs(trvarc1, 0, 0, beyond, 0, 0, 1)[2], 1);
-  EXPECT_EQ(outputs(trvarc1, 0, 0, 1, 0, 1, -beyond)[2], 1);
-}
-
-TEST(ArcMeasures, AngleAgainstTheAxisIsSigned) {
-  const double cases[][3] = {{-2, 2, 0.75 * pi}, {-2, -2, -0.75 * pi}, {-1, -tolerance, pi},
-                             {-1, -beyond, -pi}, {0, -tolerance, 0},   {0, -beyond, -pi / 2}};
-  for (const auto &[dx, dy, phi] : cases) expect_near(outputs(trvaxph, dx, dy), {phi}, 1e-6);
-}
-
-TEST(ArcMeasures, DistancesInThePlaneAndStationsInSpace) {
+TEST(Segments, DistancesInThePlaneAndStationsInSpace) {
   // Along (12, 5) and across it in steps of 13; the heights make 26, 13 and 39 longer.
   expect_near(outputs(trvhin, 20, 24, 22.5, 1, 2, 3, 37, 17, 55, 35, -12, 139),
               {13, 32.5, 26, -20, 65}, 1e-6);
 }
 
-TEST(ArcMeasures, SectorMarksByTheSignsOfBothDistances) {
+TEST(Segments, SectorMarksByTheSignsOfBothDistances) {
   // Stations along the first ray and towards the second one, and their marks.
   const float cases[][3] = {{2, 1, TRVAPP_OUTSIDE},
                             {-2, 1, 2},
@@ -54,7 +39,7 @@ TEST(ArcMeasures, SectorMarksByTheSignsOfBothDistances) {
   EXPECT_TRUE(std::count(mark, mark + 9, TRVAPP_NO_SECTOR) == 9 && mark[9] == unwritten_int);
 }
 
-TEST(ArcMeasures, NotANumberInASectorLeavesPointsInside) {
+TEST(Segments, NotANumberInASectorLeavesPointsInside) {
   const auto marks = [](std::array<float, 6> rays, float x, float y) {
     std::int32_t mark = unwritten_int;
     trvapp(rays[0], rays[1], rays[2], rays[3], rays[4], rays[5], 1, &x, &y, &mark);
@@ -68,7 +53,7 @@ TEST(ArcMeasures, NotANumberInASectorLeavesPointsInside) {
   EXPECT_EQ(marks({1, 2, 3, 3, not_a_number, 6}, 5, 3), 1);
 }
 
-TEST(ArcMeasures, ThreePointTestsShareTheirCosine) {
+TEST(Segments, ThreePointTestsShareTheirCosine) {
   // A foot that coincides with the vertex by coordinates, not by its distance: the cosine of an
   // earlier test decides whether it lies beyond.
   const float x = 9e-6F, y = -9e-6F;

@@ -9,7 +9,7 @@
 namespace trelvin {
 
 // Polygons run counter-clockwise, holes too.
-class Outline {
+class Profile {
  public:
   static constexpr std::size_t most_polygons = 3;
   static constexpr std::size_t most_vertices = 20;
@@ -23,6 +23,11 @@ class Outline {
   std::array<Polygon, most_polygons> polygon;
   std::size_t vertices = 0;  // of all polygons
   std::array<Point2, most_vertices> vertex;
+
+  template <std::size_t n>
+  explicit Profile(const std::array<Point2, n> &corners) {
+    solid(corners);
+  }
 
   template <std::size_t n>
   void solid(const std::array<Point2, n> &corners) {
@@ -42,17 +47,17 @@ class Outline {
 };
 
 // The dimensions are those of trelvin/sections.h.
-Outline i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
-Outline sideways_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
-Outline t_outline(Real B, Real H, Real TF, Real TW);
-Outline bar_outline(Integer B, Real H);
-Outline covered_i_outline(Real W, Real D, Real P, Real T1, Real T2, Real TW, Real TP);
-Outline box_outline(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G);
-Outline tube_outline(Real B, Real H, Real T);
-Outline twin_angles_outline(Real B, Real H, Real G, Real T, Real TV);
-Outline plate_on_cell_outline(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB);
-Outline two_cell_outline(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF);
-Outline filleted_i_outline(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
+Profile i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
+Profile sideways_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW);
+Profile t_profile(Real B, Real H, Real TF, Real TW);
+Profile bar_profile(Integer B, Real H);
+Profile covered_i_profile(Real W, Real D, Real P, Real T1, Real T2, Real TW, Real TP);
+Profile box_profile(Real BT, Real BB, Real TT, Real TB, Real H, Real TW, Real G);
+Profile tube_profile(Real B, Real H, Real T);
+Profile twin_angles_profile(Real B, Real H, Real G, Real T, Real TV);
+Profile plate_on_cell_profile(Real B, Real H, Real BW, Real E, Real T, Real TW, Real TB);
+Profile two_cell_profile(Real B, Real W, Real HI, Real TW1, Real TW2, Real TM, Real TF);
+Profile filleted_i_profile(Real H, Real B1, Real B2, Real T1, Real T2, Real TW, Real S1, Real S2,
                            Real E);
 
 // A channel's flange with its lip and the fold at the lip's end.
@@ -60,6 +65,6 @@ struct LippedFlange {
   Real B, C, D;    // lengths of flange, lip and fold
   Real T, TC, TD;  // their thicknesses
 };
-Outline channel_outline(Real H, Real TW, const LippedFlange &bottom, const LippedFlange &top);
+Profile channel_profile(Real H, Real TW, const LippedFlange &bottom, const LippedFlange &top);
 
 }  // namespace trelvin

@@ -25,7 +25,7 @@ Values construct(Routine *routine, Arc &arc, Inputs... inputs) {
 
 }  // namespace
 
-TEST(Constructions, OneFigureInFiveFrames) {
+TEST(Chords, OneFigureInFiveFrames) {
   // A chord of 8 below the centre of a circle of radius 5 by 3, turned: a point of the arc and the
   // middle of the chord's last quarter are seen from stations and from the turned end.
   struct Frame {
@@ -52,7 +52,7 @@ TEST(Constructions, OneFigureInFiveFrames) {
   }
 }
 
-TEST(Constructions, PointsOnTheChord) {
+TEST(Chords, PointsOnTheChord) {
   // Across from a centre as near the chord as this are both points; the first is taken. No point
   // is beside a T on the chord.
   Arc half = {1, 2.0000005F, -4, 2, 6, 2}, arc = level;
@@ -69,7 +69,7 @@ TEST(Constructions, PointsOnTheChord) {
   expect_near(construct(trvcer5, flat, 0.0F, 1, std::nextafter(e, 1.0F)), {4, 2 * e, 1}, 1e-6);
 }
 
-TEST(Constructions, LineThatMissesTheCircleCarriesTheResultOfTheCallBefore) {
+TEST(Chords, LineThatMissesTheCircleCarriesTheResultOfTheCallBefore) {
   Arc arc = level, turned = {1, 2, 4, -2, 4, 6};
   EXPECT_EQ(construct(trvcer4, arc, 10.0F, half_pi), (Values{-3, -1, 1}));
   EXPECT_EQ(construct(trvcer4, arc, 7.0F, half_pi), (Values{4, -2, 1}));
@@ -85,7 +85,7 @@ TEST(Constructions, LineThatMissesTheCircleCarriesTheResultOfTheCallBefore) {
   expect_near(construct(trvcer5, half_turned, 0.0F, 1, 9.0000048F), {4, -2, 1}, 1e-6);
 }
 
-TEST(Constructions, LineAlongTheChordLeavesTheCrossingOfTheCallBefore) {
+TEST(Chords, LineAlongTheChordLeavesTheCrossingOfTheCallBefore) {
   Arc arc = level, reversed = level_reversed;
   expect_near(construct(trvcer10, arc, half_pi, 0.0F), {-3, -1, TRVCER10_PARALLEL},
               1e-6);  // A: the origin
@@ -97,7 +97,7 @@ TEST(Constructions, LineAlongTheChordLeavesTheCrossingOfTheCallBefore) {
   expect_near(construct(trvcer10, arc, half_pi, 0.0F), {5, -1, 2}, 1e-6);
 }
 
-TEST(Constructions, Refusals) {
+TEST(Chords, Refusals) {
   Arc no_arc[] = {{0, 0, t, 0, -t, 0}, {1, 2, -3, -1, 5.0001F, -1}, {-3, 3, 0, 0, t, 0}};
   for (Arc &arc : no_arc) {  // no radius, two radii, no chord
     EXPECT_EQ(construct(trvcer4, arc, 1.0F, 1.0F), refused);
@@ -121,7 +121,7 @@ TEST(Constructions, Refusals) {
   for (const float s : {0.0F, 7.99998F}) EXPECT_EQ(construct(trvcer5, arc, s, -1, 0.5F)[2], 1);
 }
 
-TEST(Constructions, ArcComesBackRounded) {
+TEST(Chords, ArcComesBackRounded) {
   // The speck is lost in any shift; the way back is by A as it was given, unless the line touches.
   const Arc given = {4, 3, 1e-12F, 0, 8, 0};
   Arc arc = given;

@@ -1,5 +1,5 @@
-#include "support.h"
 #include "trelvin/circles.h"
+#include "support.h"
 
 using namespace trelvin_test;
 

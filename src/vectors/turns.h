@@ -1,25 +1,10 @@
-// Moving the origin, and turning by an angle.
+// Rotations by an angle.
 #pragma once
 
 #include "numeric/functions.h"
 #include "vectors/vectors.h"
 
 namespace trelvin {
-
-// Coordinates relative to a new origin.
-inline void move_origin(PlaneArrays points, Integer n, Vector2 to) {
-  for (Integer i = 0; i < n; ++i) {
-    points.x[i] -= to.x;
-    points.y[i] -= to.y;
-  }
-}
-inline void move_origin(SpaceArrays points, Integer n, Vector3 to) {
-  for (Integer i = 0; i < n; ++i) {
-    points.x[i] -= to.x;
-    points.y[i] -= to.y;
-    points.z[i] -= to.z;
-  }
-}
 
 // Turns the first of two axes towards the second.
 struct Turn {

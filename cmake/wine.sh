@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Runs a Windows program under Wine of 32 or 64 bits, in a prefix of the project's own, without Wine's
+# chatter and without asking for add-ons. Without a program it only makes the prefix and starts Wine's
+# server, which stays for the next programs.
+#
+#     wine.sh 32|64 [PROGRAM ARGUMENTS...]
+set -euo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+case $1 in
+  32)
+    export WINEPREFIX="$root/build/wine" WINEARCH=win32
+    loader=wine
+    ;;
+  64)
+    export WINEPREFIX="$root/build/wine64" WINEARCH=win64
+    loader=/usr/lib/wine/wine64
+    [ -x "$loader" ] || loader=$root/build/wine64-packages$loader # as the set-up unpacks it
+    ;;
+esac
+shift
+if [ $# -gt 0 ]; then exec "$loader" "$@"; fi
+mkdir -p "$WINEPREFIX"
+wineserver -p60 || true # refused where one runs already
+"$loader" wineboot --init >"$WINEPREFIX.log" 2>&1 || {
+  cat "$WINEPREFIX.log" >&2
+  exit 1
+}
