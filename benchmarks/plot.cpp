@@ -6,9 +6,12 @@
 #include <cstdio>
 
 #include "report.h"
+#include "svg.h"
 
 namespace bench {
 namespace {
+
+using namespace svg;
 
 constexpr int columns = 3;
 constexpr double panel_width = 390;
@@ -25,30 +28,6 @@ struct Panel {
   std::string title;
   std::vector<Series> series;
 };
-
-std::string number(double value) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.1f", value);
-  return text;
-}
-
-std::string attribute(const std::string &name, const std::string &value) {
-  return ' ' + name + "=\"" + value + '"';
-}
-
-std::string attribute(const std::string &name, double value) {
-  return attribute(name, number(value));
-}
-
-std::string text(double x, double y, const std::string &content,
-                 const std::string &attributes = "") {
-  return "<text" + attribute("x", x) + attribute("y", y) + attributes + '>' + content + "</text>\n";
-}
-
-std::string line(double x1, double y1, double x2, double y2, const std::string &attributes) {
-  return "<line" + attribute("x1", x1) + attribute("y1", y1) + attribute("x2", x2) +
-         attribute("y2", y2) + attributes + "/>\n";
-}
 
 void add_rows(std::vector<Panel> &panels, const std::vector<Row> &rows, bool dll) {
   for (const Row &row : rows) {
@@ -72,9 +51,9 @@ void add_rows(std::vector<Panel> &panels, const std::vector<Row> &rows, bool dll
 
 // One colour a name throughout the picture.
 std::string colour(const std::string &name, std::vector<std::string> &known) {
-  if (name.rfind("Trelvin", 0) == 0) return "#c0262d";
-  static const std::array<const char *, 8> palette{"#2f6690", "#e08e1b", "#3a7d44", "#7b4b94",
-                                                   "#17a2a2", "#8a5a2b", "#5b6770", "#b5527f"};
+  if (name.rfind("Trelvin", 0) == 0) return colours::red;
+  static const std::array<const char *, 8> palette{colours::blue, "#e08e1b", "#3a7d44", "#7b4b94",
+                                                   "#17a2a2",     "#8a5a2b", "#5b6770", "#b5527f"};
   const auto at = std::find(known.begin(), known.end(), name);
   const auto index = static_cast<std::size_t>(at - known.begin());
   if (at == known.end()) known.push_back(name);
@@ -108,18 +87,18 @@ class Axes {
     const std::string rule = attribute("stroke", "#d9dee3");
     const std::string at_end = attribute("text-anchor", "end");
     const std::string centred = attribute("text-anchor", "middle");
-    std::string svg;
+    std::string drawn;
     for (long v = std::lround(y_low_); v <= std::lround(y_high_); ++v) {
       const double at = y(static_cast<double>(v));
-      svg += line(left, at, panel_width - right, at, rule);
-      svg += text(left - 6, at + 4, power_of_ten(v), at_end);
+      drawn += line(left, at, panel_width - right, at, rule);
+      drawn += text(left - 6, at + 4, power_of_ten(v), at_end);
     }
     for (long v = std::lround(std::ceil(x_low_)); v <= std::lround(std::floor(x_high_)); ++v) {
       const double at = x(static_cast<double>(v));
-      svg += line(at, top, at, panel_height - bottom, rule);
-      svg += text(at, panel_height - bottom + 16, power_of_ten(v), centred);
+      drawn += line(at, top, at, panel_height - bottom, rule);
+      drawn += text(at, panel_height - bottom + 16, power_of_ten(v), centred);
     }
-    return svg;
+    return drawn;
   }
 
  private:
@@ -144,20 +123,20 @@ std::string curve(const Series &series, const Axes &axes, const std::string &str
     const double x = axes.x(series.points[k][0]);
     const double y = axes.y(series.points[k][1]);
     const bool hollow = series.predicted_end && k + 1 == series.points.size();
-    points += number(x) + ',' + number(y) + ' ';
-    dots += "<circle" + attribute("cx", x) + attribute("cy", y) + attribute("r", 3) +
-            attribute("stroke", stroke) + attribute("fill", hollow ? "white" : stroke) + "/>\n";
+    points += point(x, y) + ' ';
+    dots += circle(x, y, "3",
+                   attribute("stroke", stroke) + attribute("fill", hollow ? "white" : stroke));
   }
-  return "<polyline" + attribute("fill", "none") + attribute("stroke", stroke) +
+  return "<polyline" + attribute("fill", colours::none) + attribute("stroke", stroke) +
          attribute("stroke-width", own ? 2.6 : 1.4) + dash(series) + attribute("points", points) +
          "/>\n" + dots;
 }
 
 std::string panel_svg(const Panel &panel, std::vector<std::string> &known) {
   const Axes axes(panel);
-  std::string svg =
+  std::string drawn =
       text(left, 18, panel.title, attribute("font-weight", "bold") + attribute("font-size", 13));
-  svg += axes.grid();
+  drawn += axes.grid();
   double legend_x = left;
   double legend_y = 34;
   for (const Series &series : panel.series) {
@@ -167,13 +146,13 @@ std::string panel_svg(const Panel &panel, std::vector<std::string> &known) {
       legend_x = left;
       legend_y += 14;
     }
-    svg += line(legend_x, legend_y - 4, legend_x + 22, legend_y - 4,
-                attribute("stroke-width", 3) + attribute("stroke", stroke) + dash(series));
-    svg += text(legend_x + 26, legend_y, series.name);
+    drawn += line(legend_x, legend_y - 4, legend_x + 22, legend_y - 4,
+                  attribute("stroke-width", 3) + attribute("stroke", stroke) + dash(series));
+    drawn += text(legend_x + 26, legend_y, series.name);
     legend_x += width;
-    svg += curve(series, axes, stroke);
+    drawn += curve(series, axes, stroke);
   }
-  return svg;
+  return drawn;
 }
 
 }  // namespace
@@ -188,24 +167,21 @@ std::string plot(const std::vector<Row> &rows, const std::vector<Row> &dll) {
 
   const auto lines = (panels.size() + columns - 1) / columns;
   const double height = 30 + panel_height * static_cast<double>(lines);
-  std::string svg =
-      "<svg" + attribute("xmlns", "http://www.w3.org/2000/svg") +
-      attribute("width", columns * panel_width) + attribute("height", height) +
-      attribute("viewBox", "0 0 " + number(columns * panel_width) + ' ' + number(height)) +
-      attribute("font-family", "sans-serif") + attribute("font-size", 11) +
-      attribute("fill", "#1d2733") + ">\n<rect" + attribute("width", "100%") +
-      attribute("height", "100%") + attribute("fill", "white") + "/>\n";
-  svg +=
+  std::string content =
+      "<rect" + attribute("width", "100%") + attribute("height", "100%") +
+      attribute("fill", "white") + "/>\n" +
       text(left, 20, "Nanoseconds an item against the number of items", attribute("font-size", 14));
   std::vector<std::string> known;
   for (std::size_t k = 0; k < panels.size(); ++k) {
     const std::size_t row = k / columns;
     const double x = panel_width * static_cast<double>(k % columns);
     const double y = 30 + panel_height * static_cast<double>(row);
-    svg += "<g" + attribute("transform", "translate(" + number(x) + ' ' + number(y) + ')') + ">\n" +
-           panel_svg(panels[k], known) + "</g>\n";
+    content += group(attribute("transform", moved(x, y)), panel_svg(panels[k], known));
   }
-  return svg + "</svg>\n";
+  return sheet(columns * panel_width, height,
+               attribute("font-family", "sans-serif") + attribute("font-size", 11) +
+                   attribute("fill", colours::ink),
+               content);
 }
 
 }  // namespace bench

@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-#include "profiles.h"
+#include "given.h"
 #include "task.h"
 
 namespace bench {

@@ -87,34 +87,22 @@ fuzzed() {
   ../sanitize/bin/fuzz -max_total_time=60 -verbosity=0
 }
 
+# Each profile as its help gives it, and a bar that is no number of whole millimetres.
 same_output() {
-  local platform program
+  local native=build/native/bin/section_properties sections="b 200.5 10" platform profile program
+  for profile in $("$native" --help \
+    | sed -n '1,/^Profiles/d; /^  plates/d; s/^  \([a-z0-9]\{1,\}\) [A-Z].*/\1/p'); do
+    sections+=$'\n'$("$native" "$profile" --help | sed -n 's/^example: section_properties //p')
+  done
+  [ "$(wc -l <<<"$sections")" -gt 10 ]
   for platform in native windows; do
-    program=(build/native/bin/section_properties)
+    program=("$native")
     [ $platform = native ] || program=(cmake/wine.sh 32 build/windows/bin/section_properties.exe)
-    {
-      while read -r -a arguments; do
-        "${program[@]}" "${arguments[@]}" --svg "build/$platform.svg"
-        "${program[@]}" "${arguments[@]}" --json
-        cat "build/$platform.svg"
-      done
-    } >"build/sections-$platform.txt" <<'SECTIONS'
-ia 400 300 200 20 15 10
-h 400 300 200 20 15 10
-i 400 300 200 20 15 10 8 6 20
-t 150 200 12 8
-c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2
-b 200 15
-h1b 320 300 280 12 14 10 20
-box 3000 2000 20 25 1500 12 1600
-rhs 200 100 8
-l2 90 120 10 9 11
-tab 600 400 350 40 25 12 20
-h2b 400 300 500 12 14 10 20
-rolled 200 200 9 15 18
-l 100 100 10 12
-b 200.5 10
-SECTIONS
+    while read -r -a arguments; do
+      "${program[@]}" "${arguments[@]}" --svg "build/$platform.svg"
+      "${program[@]}" "${arguments[@]}" --json
+      cat "build/$platform.svg"
+    done <<<"$sections" >"build/sections-$platform.txt"
   done
   cmp build/sections-native.txt build/sections-windows.txt
 }

@@ -4,9 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "given.h"
 #include "numbers.h"
-#include "picture.h"
-#include "profiles.h"
 #include "report.h"
 
 namespace {
@@ -72,31 +71,20 @@ std::string parts_text(const Section &section) {
   return text;
 }
 
-std::string joined(const Names &names) {
-  std::string text;
-  for (const std::string_view name : names) text.append(text.empty() ? "" : " ").append(name);
-  return text;
-}
-
 Refusal design(const std::string_view *words, std::size_t count) {
   Given given;
   Section section;
-  Properties properties;
-  Refusal fault = read_given(words, count, given);
-  if (fault.message.empty()) fault = properties_of(given, section, properties);
+  Subject subject;
+  Refusal fault = read_subject(words, count, given, section, subject);
   if (!fault.message.empty()) return fault;
-  const Profile &profile = *given.profile;
-  const Outline outline = outline_of(section);
-  const Figures f = figures_of(given, properties, outline);
   texts[dimensions].clear();
-  for (std::size_t i = 0; i < profile.dimensions.size(); ++i) {
+  for (std::size_t i = 0; i < given.profile->dimensions.size(); ++i) {
     texts[dimensions].append(i == 0 ? "" : " ").append(shortest(given.dimensions[i]));
   }
-  texts[figures] = rows_text(f);
-  texts[figures_as_json] = json(f);
-  texts[drawing] = picture(std::string(profile.name) + ": " + std::string(profile.description),
-                           dimensions_text(given), outline, measures_of(given, outline), f);
-  texts[remarks] = notes(f);
+  texts[figures] = rows_text(subject.figures);
+  texts[figures_as_json] = json(subject.figures);
+  texts[drawing] = picture(subject);
+  texts[remarks] = notes(subject.figures);
   texts[parts] = parts_text(section);
   return {};
 }
@@ -123,13 +111,19 @@ void designer_design(std::size_t length) {
 
 const char *designer_text(std::size_t which) { return texts[which].c_str(); }
 
-// A line a profile: name, description, dimensions and those that may be 0.
+// A line a profile: name, description and routine, and then of each dimension the letter, the start
+// value and 0 if it may be that.
 const char *designer_profiles() {
   static std::string text;
   text.clear();
   for (const Profile &profile : profiles()) {
     text.append(profile.name).append("\t").append(profile.description).append("\t");
-    text += joined(profile.dimensions) + '\t' + joined(profile.may_be_zero) + '\n';
+    text.append(profile.routine);
+    for (const Dimension &d : profile.dimensions) {
+      text.append("\t").append(d.letter).append(" ").append(shortest(d.start));
+      if (d.least == Least::zero) text.append(" 0");
+    }
+    text += '\n';
   }
   return text.c_str();
 }

@@ -5,7 +5,7 @@
 #include <charconv>
 #include <cstring>
 
-#include "profiles.h"
+#include "given.h"
 
 namespace host {
 namespace {

@@ -45,7 +45,8 @@ void show_progress(const BatchRun &run, std::size_t read, const Tally &tally) {
     bar.resize(width, '.');
     bar = '[' + bar + "] " + std::to_string(100 * done / run.size) + " %  ";
   }
-  std::fprintf(stderr, "\r%s%zu sections", bar.c_str(), tally.sections);
+  std::fprintf(stderr, "\r%s%zu section%s", bar.c_str(), tally.sections,
+               tally.sections == 1 ? "" : "s");
   std::fflush(stderr);
 }
 

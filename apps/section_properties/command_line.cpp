@@ -4,6 +4,8 @@
 
 #include <charconv>
 
+#include "numbers.h"
+
 namespace host {
 namespace {
 
@@ -64,7 +66,7 @@ std::string usage() {
       "\n"
       "  --json           print the figures as JSON, in mm and radians\n"
       "  --svg FILE       draw the section into FILE\n"
-      "  PROFILE --help   print the profile's dimensions and its picture in letters\n"
+      "  PROFILE --help   print the profile's dimensions, an example and its picture in letters\n"
       "  -h, --help       print this text\n"
       "  --version        print the version\n"
       "\n"
@@ -93,12 +95,17 @@ std::string usage() {
 std::string usage_of(const std::string &name) {
   const Profile *const profile = find_profile(name);
   if (profile == nullptr) return usage();
-  std::string text = "usage: section_properties " + usage_of(*profile) + "\n\n";
+  std::string text = "usage: section_properties " + usage_of(*profile) + '\n';
+  text.append("example: section_properties ").append(profile->name);
+  for (const Dimension &dimension : profile->dimensions) text += ' ' + shortest(dimension.start);
+  text += "\n\n";
   text.append(profile->description).append(", dimensions in mm\n").append(profile->letters);
-  for (std::size_t i = 0; i < profile->may_be_zero.size(); ++i) {
-    text.append(i == 0 ? "\nMay be 0: " : ", ").append(profile->may_be_zero[i]);
+  std::string zeros;
+  for (const Dimension &dimension : profile->dimensions) {
+    if (dimension.least == Least::positive) continue;
+    zeros.append(zeros.empty() ? "\nMay be 0: " : ", ").append(dimension.letter);
   }
-  return text + (profile->may_be_zero.size() == 0 ? "" : ".\n");
+  return text + (zeros.empty() ? "" : zeros + ".\n");
 }
 
 std::string version() {

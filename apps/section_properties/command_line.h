@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "profiles.h"
+#include "given.h"
 
 namespace host {
 

@@ -7,7 +7,8 @@
 namespace host {
 namespace {
 
-constexpr const char *colour = "#2f6690";
+using namespace svg;
+
 constexpr double font_size = 13;
 constexpr double overhang = 9;  // of a dimension line beyond its ends
 constexpr double clearance = 5;
@@ -17,24 +18,26 @@ double width_of(const std::string &figure) {
   return widest_usual * font_size * static_cast<double>(figure.size());
 }
 
-bool is_along_x(Side side) { return side == Side::above || side == Side::below; }
-
 }  // namespace
 
-DimensionLines::Placed DimensionLines::placed(const Measure &measure, double middle, double scale) {
+DimensionLines::Placed DimensionLines::placed(const Measure &measure, double middle, double scale,
+                                              Figure figure) {
   Placed line;
   line.measure = measure;
-  line.figure = measure.name.empty() ? "" : measure.name + " = ";
-  line.figure += shortest(measure.value);
+  line.figure = measure.name;
+  if (figure == Figure::letter_and_value) {
+    line.figure += measure.name.empty() ? "" : " = ";
+    line.figure += shortest(static_cast<float>(measure.value));
+  }
   const double from = scale * (measure.from - middle);
-  const double to = scale * (measure.to - middle);
+  const double to = scale * (measure.to() - middle);
   const double width = width_of(line.figure);
   line.start = from - overhang;
   line.end = to + overhang;
   if (to - from >= width + clearance) return line;
   // Towards the middle, so that figures stay beside the section.
   const bool is_behind = from + to <= 1e-9;
-  line.where = is_behind ? Placed::Figure::behind : Placed::Figure::before;
+  line.place = is_behind ? Letter::behind : Letter::before;
   (is_behind ? line.end : line.start) += is_behind ? width + clearance : -width - clearance;
   return line;
 }
@@ -52,15 +55,15 @@ std::size_t DimensionLines::free_lane(const Placed &wanted) const {
 }
 
 // Short ones first: they get the lanes next to the section.
-DimensionLines::DimensionLines(const Measures &measures, const Box &shown, double scale) {
+DimensionLines::DimensionLines(const Measures &measures, const Box &shown, double scale,
+                               Figure figure) {
   Measures sorted = measures;
   std::stable_sort(sorted.begin(), sorted.end(), [](const Measure &a, const Measure &b) {
-    return a.to - a.from < b.to - b.from;
+    return a.to() - a.from < b.to() - b.from;
   });
   for (const Measure &measure : sorted) {
-    const double middle = is_along_x(measure.side) ? 0.5 * (shown.left + shown.right)
-                                                   : 0.5 * (shown.bottom + shown.top);
-    Placed line = placed(measure, middle, scale);
+    const double middle = measure.is_along_x() ? shown.x() : shown.y();
+    Placed line = placed(measure, middle, scale, figure);
     line.lane = free_lane(line);
     lines_.push_back(line);
   }
@@ -84,8 +87,8 @@ std::string DimensionLines::drawn(const Sheet &at) const {
     all.figures += one.figures;
   }
   // A rim of paper keeps the figures clear of the lines behind them.
-  return group(attribute("stroke", colour) + attribute("stroke-width", "0.8"), all.lines) +
-         group(attribute("fill", colour) + attribute("font-size", px(font_size)) +
+  return group(attribute("stroke", colours::blue) + attribute("stroke-width", "0.8"), all.lines) +
+         group(attribute("fill", colours::blue) + attribute("font-size", font_size) +
                    attribute("stroke", "white") + attribute("stroke-width", "3") +
                    attribute("paint-order", "stroke"),
                all.figures);
@@ -95,38 +98,38 @@ std::string DimensionLines::drawn(const Sheet &at) const {
 DimensionLines::Drawing DimensionLines::drawn(const Placed &line, const Sheet &at) {
   const Measure &m = line.measure;
   const double distance = first_lane + lane_pitch * static_cast<double>(line.lane);
-  const double length = at.length(m.to - m.from);
+  const double length = at.length(m.to() - m.from);
   std::string place;
   double reach = 0;  // from the dimension line back to the section, downwards as drawn
-  if (is_along_x(m.side)) {
+  if (m.is_along_x()) {
     const double y = m.side == Side::above ? at.top() - distance : at.bottom() + distance;
-    place = "translate(" + px(at.x(m.from)) + ' ' + px(y) + ')';
+    place = moved(at.x(m.from), y);
     reach = at.y(m.level) - y;
   } else {
     const double x = m.side == Side::left ? at.left() - distance : at.right() + distance;
-    place = "translate(" + px(x) + ' ' + px(at.y(m.from)) + ") rotate(-90)";
+    place = moved(x, at.y(m.from)) + " rotate(-90)";
     reach = at.x(m.level) - x;
   }
   place = attribute("transform", place);
   const auto stroke = [](double x) {
-    return host::line(x - 4, 4, x + 4, -4, attribute("stroke-width", "1.8"));
+    return svg::line(x - 4, 4, x + 4, -4, attribute("stroke-width", "1.8"));
   };
   const auto extension = [&](double x) {
-    return host::line(x, reach, x, reach > 0 ? -8 : 8, attribute("stroke-opacity", "0.55"));
+    return svg::line(x, reach, x, reach > 0 ? -8 : 8, attribute("stroke-opacity", "0.55"));
   };
-  const std::string name = m.name.empty() ? "" : attribute("data-dimension", m.name);
-  const std::string lines = host::line(-overhang, 0, length + overhang, 0) + extension(0) +
+  const std::string name = m.name.empty() ? "" : attribute("data-dimension", std::string(m.name));
+  const std::string lines = svg::line(-overhang, 0, length + overhang, 0) + extension(0) +
                             extension(length) + stroke(0) + stroke(length);
   std::string figure;
-  switch (line.where) {
-    case Placed::Figure::inside:
+  switch (line.place) {
+    case Letter::between:
       figure = text(0.5 * length, -6, line.figure, place);
       break;
-    case Placed::Figure::behind:
+    case Letter::behind:
       figure =
           text(length + overhang + 2, 4.5, line.figure, place + attribute("text-anchor", "start"));
       break;
-    case Placed::Figure::before:
+    case Letter::before:
       figure = text(-overhang - 2, 4.5, line.figure, place + attribute("text-anchor", "end"));
       break;
   }

@@ -16,44 +16,25 @@ Figures figures_of(const Properties &properties, const Outline &outline) {
 }
 
 std::array<double, names_of_properties.size()> values_of(const Properties &p) {
-  return {p.area,
-          p.xs,
-          p.ys,
-          p.sx,
-          p.sy,
-          p.origin.x,
-          p.origin.y,
-          p.origin.xy,
-          p.centroidal.x,
-          p.centroidal.y,
-          p.centroidal.xy,
-          p.i1,
-          p.i2,
-          p.alpha,
-          p.rx,
-          p.ry};
+  const auto &[Ix, Iy, Ixy] = p.origin;
+  const auto &[ix, iy, ixy] = p.centroidal;
+  return {p.area, p.xs, p.ys, p.sx, p.sy, Ix,      Iy,   Ixy,
+          ix,     iy,   ixy,  p.i1, p.i2, p.alpha, p.rx, p.ry};
 }
 
 std::array<std::optional<double>, names_of_further_figures.size()> further_values_of(
     const Figures &f) {
-  const auto &m = f.torsion.shear_centre;
-  return {f.properties.centroidal.x + f.properties.centroidal.y,
-          f.fibres.top,
-          f.fibres.bottom,
-          f.fibres.right,
-          f.fibres.left,
-          f.elastic.top,
-          f.elastic.bottom,
-          f.elastic.right,
-          f.elastic.left,
-          f.plastic.wx,
-          f.plastic.wy,
-          f.plastic.x,
-          f.plastic.y,
-          m ? std::optional(m->x) : std::nullopt,
-          m ? std::optional(m->y) : std::nullopt,
-          f.torsion.it,
-          f.torsion.iw};
+  const auto &[ey1, ey2, ex1, ex2] = f.fibres;
+  const auto &[wx1, wx2, wy1, wy2] = f.elastic;
+  const auto &[wpx, wpy, xp, yp] = f.plastic;
+  const double ip = f.properties.centroidal.x + f.properties.centroidal.y;
+  std::optional<double> xm, ym;
+  if (f.torsion.shear_centre) {
+    xm = f.torsion.shear_centre->x;
+    ym = f.torsion.shear_centre->y;
+  }
+  return {ip,  ey1, ey2, ex1, ex2, wx1, wx2,          wy1,         wy2,
+          wpx, wpy, xp,  yp,  xm,  ym,  f.torsion.it, f.torsion.iw};
 }
 
 std::string not_given(const Torsion &torsion, std::string_view separator) {

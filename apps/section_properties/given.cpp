@@ -1,8 +1,9 @@
+#include "given.h"
+
 #include <algorithm>
 #include <vector>
 
 #include "numbers.h"
-#include "profiles.h"
 
 namespace host {
 namespace {
@@ -45,38 +46,18 @@ std::string refusal_of_dimension(std::string_view name, std::string_view word, c
 }
 
 // What is wrong with a dimension, nothing where it was read.
-std::string read_dimension(const Profile &profile, std::size_t i, std::string_view word,
-                           float &value) {
-  const std::string_view name = profile.dimensions[i];
+std::string read_dimension(const Dimension &dimension, std::string_view word, float &value) {
   const NumberFault fault = read_number(word, value);
   if (fault == NumberFault::beyond_single) {
-    return refusal_of_dimension(name, word, " is beyond single precision");
+    return refusal_of_dimension(dimension.letter, word, " is beyond single precision");
   }
-  if (fault == NumberFault::none && value > 0) return "";
-  const auto &zero = profile.may_be_zero;
-  if (fault == NumberFault::none && value == 0 &&
-      std::find(zero.begin(), zero.end(), name) != zero.end()) {
-    return "";
-  }
-  return refusal_of_dimension(name, '\'' + std::string(word) + '\'',
+  const bool is_allowed = value > 0 || (value == 0 && dimension.least == Least::zero);
+  if (fault == NumberFault::none && is_allowed) return "";
+  return refusal_of_dimension(dimension.letter, '\'' + std::string(word) + '\'',
                               " is not a positive number of mm");
 }
 
-}  // namespace
-
-std::string usage_of(const Profile &profile) {
-  std::string text(profile.name);
-  for (const std::string_view dimension : profile.dimensions) text.append(" ").append(dimension);
-  return text;
-}
-
-const Profile *find_profile(std::string_view name) {
-  for (const Profile &profile : profiles()) {
-    if (is_same_name(profile.name, name)) return &profile;
-  }
-  return nullptr;
-}
-
+// ", did you mean 'rhs'?" where a name is near or a description has the word, else nothing.
 std::string near_matches(std::string_view word) {
   std::vector<std::string_view> names;
   const std::size_t reach = word.size() < 6 ? 1 : 2;
@@ -99,6 +80,40 @@ std::string near_matches(std::string_view word) {
   return text.empty() ? text : text + '?';
 }
 
+// "B = 100, H = 200, T = 8 mm"
+std::string dimensions_text(const Given &given) {
+  std::string text;
+  const Dimensions &dimensions = given.profile->dimensions;
+  for (std::size_t i = 0; i < dimensions.size(); ++i) {
+    text.append(i > 0 ? ", " : "").append(dimensions[i].letter).append(" = ");
+    text += shortest(given.dimensions[i]);
+  }
+  return text + " mm";
+}
+
+// Without those of no length.
+Measures measures_of(const Given &given, const Outline &outline) {
+  Measures all = given.profile->measures(given.dimensions.data(), bounding_box(outline));
+  const auto has_no_length = [](const Measure &measure) { return measure.value == 0; };
+  all.erase(std::remove_if(all.begin(), all.end(), has_no_length), all.end());
+  return all;
+}
+
+}  // namespace
+
+std::string usage_of(const Profile &profile) {
+  std::string text(profile.name);
+  for (const Dimension &each : profile.dimensions) text.append(" ").append(each.letter);
+  return text;
+}
+
+const Profile *find_profile(std::string_view name) {
+  for (const Profile &profile : profiles()) {
+    if (is_same_name(profile.name, name)) return &profile;
+  }
+  return nullptr;
+}
+
 Refusal read_given(const std::string_view *words, std::size_t count, Given &given) {
   if (count == 0) return {"no profile given", Refusal::Help::of_all};
   given.profile = find_profile(words[0]);
@@ -115,23 +130,12 @@ Refusal read_given(const std::string_view *words, std::size_t count, Given &give
             Refusal::Help::of_profile};
   }
   for (std::size_t i = 0; i < needed; ++i) {
-    std::string fault = read_dimension(profile, i, words[i + 1], given.dimensions[i]);
+    std::string fault = read_dimension(profile.dimensions[i], words[i + 1], given.dimensions[i]);
     if (!fault.empty()) return {std::move(fault)};
   }
-  const char *const fault =
-      profile.fault == nullptr ? nullptr : profile.fault(given.dimensions.data());
+  const char *const fault = profile.fault(given.dimensions.data());
   if (fault != nullptr) return {std::string(profile.name) + ": " + fault};
   return {};
-}
-
-std::string dimensions_text(const Given &given) {
-  std::string text;
-  const auto &names = given.profile->dimensions;
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    if (i > 0) text += ", ";
-    text += std::string(names[i]) + " = " + shortest(given.dimensions[i]);
-  }
-  return text + " mm";
 }
 
 Refusal properties_of(const Given &given, Section &section, Properties &properties) {
@@ -139,13 +143,6 @@ Refusal properties_of(const Given &given, Section &section, Properties &properti
   properties = properties_of(section);
   if (are_representable(properties)) return {};
   return {"the section is too large or too small for single precision"};
-}
-
-Measures measures_of(const Given &given, const Outline &outline) {
-  const Profile &profile = *given.profile;
-  Measuring measuring(given.dimensions.data(), profile.dimensions.begin(), bounding_box(outline));
-  profile.measure(given.dimensions.data(), measuring);
-  return measuring.measures;
 }
 
 Figures figures_of(const Given &given, const Properties &properties, const Outline &outline) {
@@ -156,6 +153,23 @@ Figures figures_of(const Given &given, const Properties &properties, const Outli
     figures.torsion = {{}, {}, {}, "No torsion: the walls are too thick for thin-walled theory."};
   }
   return figures;
+}
+
+Refusal read_subject(const std::string_view *words, std::size_t count, Given &given,
+                     Section &section, Subject &subject) {
+  Refusal refusal = read_given(words, count, given);
+  if (!refusal.message.empty()) return refusal;
+  Properties properties;
+  refusal = properties_of(given, section, properties);
+  if (!refusal.message.empty()) return refusal;
+  Outline outline = outline_of(section);
+  subject = {std::string(given.profile->name),
+             std::string(given.profile->description),
+             dimensions_text(given),
+             figures_of(given, properties, outline),
+             outline,
+             measures_of(given, outline)};
+  return {};
 }
 
 }  // namespace host

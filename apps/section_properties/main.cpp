@@ -9,10 +9,10 @@
 
 #include "batch_files.h"
 #include "command_line.h"
+#include "given.h"
 #include "lines.h"
 #include "output_file.h"
 #include "picture.h"
-#include "profiles.h"
 #include "report.h"
 #include "thin_plates.h"
 
@@ -101,38 +101,22 @@ std::string read_plates(std::FILE *file, const std::string &name, std::vector<Pl
 
 // Commands ---------------------------------------------------------------------------------------
 
-// A section to report on, and how to head the report.
-struct Task {
-  std::string name;
-  std::string description;
-  std::string dimensions;
-  Figures figures;
-  Outline outline;
-  Measures measures;
-};
-
-int report(const Request &request, const Task &task) {
-  if (!request.svg.empty() &&
-      !write_file(request.svg, picture(task.name + ": " + task.description, task.dimensions,
-                                       task.outline, task.measures, task.figures))) {
+int report(const Request &request, const Subject &subject) {
+  if (!request.svg.empty() && !write_file(request.svg, picture(subject))) {
     return failure(bad_output, "cannot write '" + request.svg + "'");
   }
-  return print(request.json ? json(task.figures)
-                            : table(task.name + "  " + task.dimensions, task.figures));
+  return print(request.json ? json(subject.figures)
+                            : table(subject.name + "  " + subject.dimensions, subject.figures));
 }
 
 int run_profile(const Request &request) {
   const std::vector<std::string_view> words(request.words.begin(), request.words.end());
   Given given;
   Section section;
-  Properties properties;
-  Refusal refusal = read_given(words.data(), words.size(), given);
-  if (refusal.message.empty()) refusal = properties_of(given, section, properties);
+  Subject subject;
+  const Refusal refusal = read_subject(words.data(), words.size(), given, section, subject);
   if (!refusal.message.empty()) return refuse(refusal, words.empty() ? "" : request.words[0]);
-  const Outline outline = outline_of(section);
-  return report(request, {std::string(given.profile->name), std::string(given.profile->description),
-                          dimensions_text(given), figures_of(given, properties, outline), outline,
-                          measures_of(given, outline)});
+  return report(request, subject);
 }
 
 int run_plates(const Request &request) {
@@ -154,7 +138,7 @@ int run_plates(const Request &request) {
   const Outline outline = outline_of(plates);
   return report(request,
                 {"plates", "section of thin plates", std::to_string(plates.size()) + " plates",
-                 figures, outline, overall_measures(outline)});
+                 figures, outline, overall_measures(bounding_box(outline))});
 }
 
 int run_batch_of(const Request &request) {

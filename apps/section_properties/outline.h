@@ -23,6 +23,10 @@ using Outline = std::vector<Ring>;
 
 struct Box {
   double left, right, bottom, top;
+
+  // Of the middle.
+  [[nodiscard]] double x() const { return 0.5 * (left + right); }
+  [[nodiscard]] double y() const { return 0.5 * (bottom + top); }
 };
 
 Outline outline_of(const Section &section);

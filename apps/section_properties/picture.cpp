@@ -10,54 +10,50 @@
 namespace host {
 namespace {
 
+using namespace svg;
+
 constexpr double axis_overhang = 34;
 constexpr double arrow_overhang = 46;
 constexpr double label_distance = 11;
 
-constexpr const char *ink = "#1d2733";
-constexpr const char *steel = "#c9d5e3";
-constexpr const char *origin_colour = "#7a8794";
-constexpr const char *principal_colour = "#c0262d";
-constexpr const char *equal_area_colour = "#1c7c54";
-constexpr const char *shear_colour = "#7b3fa0";
 constexpr const char *dash_dot = "14 4 2 4";
 constexpr const char *dots = "2 5";
 
 // One path for solids and holes. Both run counter-clockwise, so only the even-odd rule tells them
 // apart.
 std::string steel_area(const Outline &outline, const Sheet &at) {
-  std::string path;
+  std::string rings;
   for (const Ring &ring : outline) {
     char command = 'M';
     for (const Vertex &v : ring.vertices) {
-      if (!path.empty()) path += ' ';
+      if (!rings.empty()) rings += ' ';
       if (v.arc > 0) {
         const std::string radius = px(at.length(v.arc));
-        path.append("A").append(radius).append(" ").append(radius).append(" 0 0 1 ");
+        rings.append("A").append(radius).append(" ").append(radius).append(" 0 0 1 ");
       } else {
-        path += command;
+        rings += command;
       }
-      path += px(at.x(v.x)) + ' ' + px(at.y(v.y));
+      rings += point(at.x(v.x), at.y(v.y));
       command = 'L';
     }
-    path += " Z";
+    rings += " Z";
   }
-  return "<path" + attribute("d", path) + attribute("fill", steel) +
-         attribute("fill-rule", "evenodd") + attribute("stroke", ink) +
-         attribute("stroke-linejoin", "round") + "/>\n";
+  return path(rings, attribute("fill", colours::steel) + attribute("fill-rule", "evenodd") +
+                         attribute("stroke", colours::ink) + attribute("stroke-linejoin", "round"));
 }
 
 std::string arrow_head(double x, double y, const std::string &turn) {
-  return "<path" + attribute("d", "M0 0 L-9 -3.5 L-9 3.5 Z") +
-         attribute("transform", "translate(" + px(x) + ' ' + px(y) + ')' + turn) +
-         attribute("fill", origin_colour) + attribute("stroke", "none") + "/>\n";
+  return path("M0 0 L-9 -3.5 L-9 3.5 Z", attribute("transform", moved(x, y) + turn) +
+                                             attribute("fill", colours::light_grey) +
+                                             attribute("stroke", colours::none));
 }
 
 std::string origin_axes(const Sheet &at) {
   const double right = at.right() + arrow_overhang;
   const double top = at.top() - arrow_overhang;
-  const std::string label = attribute("fill", origin_colour) + attribute("stroke", "none");
-  return group(attribute("stroke", origin_colour),
+  const std::string label =
+      attribute("fill", colours::light_grey) + attribute("stroke", colours::none);
+  return group(attribute("stroke", colours::light_grey),
                line(at.left() - axis_overhang, at.y(0), right, at.y(0)) +
                    line(at.x(0), at.bottom() + axis_overhang, at.x(0), top) +
                    arrow_head(right, at.y(0), "") + arrow_head(at.x(0), top, " rotate(-90)") +
@@ -82,7 +78,7 @@ std::string principal_axis(const Sheet &at, double x, double y, double cos, doub
   return line(x + ends[0] * cos, y - ends[0] * sin, x + ends[1] * cos, y - ends[1] * sin,
               attribute("stroke-dasharray", dash_dot)) +
          text(x + label * cos, y - label * sin + 4.5, name,
-              attribute("fill", principal_colour) + attribute("stroke", "none"));
+              attribute("fill", colours::red) + attribute("stroke", colours::none));
 }
 
 std::string principal_axes(const Sheet &at, const Properties &p) {
@@ -90,29 +86,29 @@ std::string principal_axes(const Sheet &at, const Properties &p) {
   const double y = at.y(p.ys);
   const double cos = std::cos(p.alpha);
   const double sin = std::sin(p.alpha);
-  return group(attribute("stroke", principal_colour) + attribute("stroke-width", "1.2"),
+  return group(attribute("stroke", colours::red) + attribute("stroke-width", "1.2"),
                principal_axis(at, x, y, cos, sin, "1") + principal_axis(at, x, y, -sin, cos, "2"));
 }
 
 std::string equal_area_axes(const Box &box, const Sheet &at, const Plastic &p) {
   constexpr double overhang = 18;
   return group(
-      attribute("stroke", equal_area_colour) + attribute("stroke-width", "1.6") +
+      attribute("stroke", colours::green) + attribute("stroke-width", "1.6") +
           attribute("stroke-dasharray", dots),
       line(at.x(box.left) - overhang, at.y(p.y), at.x(box.right) + overhang, at.y(p.y)) +
           line(at.x(p.x), at.y(box.bottom) + overhang, at.x(p.x), at.y(box.top) - overhang));
 }
 
 std::string centroid_mark(double x, double y) {
-  return "<circle" + attribute("cx", px(x)) + attribute("cy", px(y)) + attribute("r", "4.5") +
-         attribute("fill", "white") + attribute("stroke", principal_colour) +
-         attribute("stroke-width", "1.6") + "/>\n";
+  return circle(x, y, "4.5",
+                attribute("fill", "white") + attribute("stroke", colours::red) +
+                    attribute("stroke-width", "1.6"));
 }
 
 std::string shear_centre_mark(double x, double y) {
   constexpr double half = 5.5;
   return group(
-      attribute("stroke", shear_colour) + attribute("stroke-width", "1.8"),
+      attribute("stroke", colours::violet) + attribute("stroke-width", "1.8"),
       line(x - half, y - half, x + half, y + half) + line(x - half, y + half, x + half, y - half));
 }
 
@@ -140,7 +136,7 @@ class Legend {
   [[nodiscard]] double middle() const { return y_ - 4; }
   [[nodiscard]] double height() const { return y_ - Sheet::header; }
   [[nodiscard]] std::string drawn() const {
-    return group(attribute("text-anchor", "start") + attribute("fill", ink), rows_);
+    return group(attribute("text-anchor", "start") + attribute("fill", colours::ink), rows_);
   }
 
  private:
@@ -161,10 +157,10 @@ Legend legend(const Figures &f, double left) {
   if (f.torsion.it) legend.figure("It", *f.torsion.it / 1e4, "cm⁴");
   if (f.torsion.iw) legend.figure("Iw", *f.torsion.iw / 1e6, "cm⁶");
   legend.gap();
-  legend.line_key(attribute("stroke", origin_colour), "x, y of the origin");
-  legend.line_key(attribute("stroke", principal_colour) + attribute("stroke-dasharray", dash_dot),
+  legend.line_key(attribute("stroke", colours::light_grey), "x, y of the origin");
+  legend.line_key(attribute("stroke", colours::red) + attribute("stroke-dasharray", dash_dot),
                   "principal axes 1, 2");
-  legend.line_key(attribute("stroke", equal_area_colour) + attribute("stroke-width", "1.6") +
+  legend.line_key(attribute("stroke", colours::green) + attribute("stroke-width", "1.6") +
                       attribute("stroke-dasharray", dots),
                   "equal-area axes");
   legend.key(centroid_mark(legend.mark(), legend.middle()), "centroid");
@@ -194,27 +190,24 @@ std::string drawing(const Outline &outline, const Figures &f, const DimensionLin
 
 }  // namespace
 
-std::string picture(const std::string &title, const std::string &subtitle, const Outline &outline,
-                    const Measures &measures, const Figures &figures) {
+std::string picture(const Subject &subject) {
+  const auto &[name, description, subtitle, figures, outline, measures] = subject;
+  const std::string title = name + ": " + description;
   const Box shown = around(bounding_box(outline), figures.torsion.shear_centre);
   const DimensionLines dimensions(measures, shown, Sheet::scale(shown));
   const Sheet at(shown, dimensions.lanes(), legend(figures, 0).height());
-  const std::string width = px(at.width());
-  const std::string height = px(at.height());
-  const std::string left = attribute("text-anchor", "start") + attribute("fill", ink);
-  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
-         attribute("width", width) + attribute("height", height) +
-         attribute("viewBox", "0 0 " + width + ' ' + height) +
-         attribute("font-family", "Helvetica, Arial, sans-serif") + attribute("font-size", "14") +
-         attribute("text-anchor", "middle") + ">\n<title>" + title + ' ' + subtitle +
-         "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n" +
-         text(30, 38, title,
-              left + attribute("font-size", "18") + attribute("font-weight", "bold")) +
-         text(30, 60, subtitle,
-              left + attribute("font-size", subtitle.size() > 100 ? "11" : "14")) +
-         drawing(outline, figures, dimensions, at) + legend(figures, at.legend_left()).drawn() +
-         "</svg>\n";
+  const std::string left = attribute("text-anchor", "start") + attribute("fill", colours::ink);
+  const std::string heading =
+      text(30, 38, title, left + attribute("font-size", "18") + attribute("font-weight", "bold")) +
+      text(30, 60, subtitle, left + attribute("font-size", subtitle.size() > 100 ? "11" : "14"));
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" +
+         sheet(at.width(), at.height(),
+               attribute("font-family", "Helvetica, Arial, sans-serif") +
+                   attribute("font-size", "14") + attribute("text-anchor", "middle"),
+               "<title>" + title + ' ' + subtitle +
+                   "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n" + heading +
+                   drawing(outline, figures, dimensions, at) +
+                   legend(figures, at.legend_left()).drawn());
 }
 
 }  // namespace host

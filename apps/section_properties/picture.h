@@ -8,9 +8,16 @@
 
 namespace host {
 
+// A section with what is told of it.
+struct Subject {
+  std::string name, description, dimensions;
+  Figures figures;
+  Outline outline;
+  Measures measures;
+};
+
 // The outline to scale with its measures, the axes of the origin, the principal and the equal-area
-// axes, centroid and shear centre, and a legend of the main figures. Title and subtitle head it.
-std::string picture(const std::string &title, const std::string &subtitle, const Outline &outline,
-                    const Measures &measures, const Figures &figures);
+// axes, centroid and shear centre, and a legend of the main figures.
+std::string picture(const Subject &subject);
 
 }  // namespace host

@@ -63,24 +63,22 @@ Section section_of(const ListOfPolygons &f) {
 }
 
 // By its corners: trvsec_b takes whole widths only.
-Section flat_bar(const float *d) {
-  const float x = 0.5F * d[0], y = 0.5F * d[1];
+Section flat_bar(float B, float H) {
+  const float x = 0.5F * B, y = 0.5F * H;
   Section section;
   add_polygon(section, 1, {-x, -x, x, x}, {y, -y, -y, y});
   section.polygons = 1;
   return section;
 }
 
-Section rolled(const float *d) {
-  const float H = d[0], B = d[1], TW = d[2], TF = d[3], R = d[4];
+Section rolled(float H, float B, float TW, float TF, float R) {
   Section section = section_from(trvsec_ia, H, B, B, TF, TF, TW);
   add_fillet(section, 0.5F * TW, TF - 0.5F * H, R, true);
   return section;
 }
 
 // The toes are sharp.
-Section angle(const float *d) {
-  const float B = d[0], H = d[1], T = d[2], R = d[3];
+Section angle(float B, float H, float T, float R) {
   const float x = 0.5F * B, y = 0.5F * H;
   Section section;
   add_polygon(section, 1, {-x, -x, x, x, T - x, T - x}, {y, -y, -y, T - y, T - y, y});

@@ -9,7 +9,7 @@ namespace host {
 
 // What an outline routine hands back, with room for the largest outline.
 struct ListOfPolygons {
-  std::int32_t np;
+  std::int32_t np = 0;
   std::array<std::int32_t, 3> nv;
   std::array<float, most_vertices> x, y;
   std::array<std::int32_t, 3> code;
@@ -29,8 +29,8 @@ Section section_from(Routine routine, const Dimensions &...dimensions) {
   return section_of(f);
 }
 
-Section flat_bar(const float *d);
-Section rolled(const float *d);
-Section angle(const float *d);
+Section flat_bar(float B, float H);
+Section rolled(float H, float B, float TW, float TF, float R);
+Section angle(float B, float H, float T, float R);
 
 }  // namespace host

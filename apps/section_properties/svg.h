@@ -1,33 +1,72 @@
-// The few elements of SVG that a drawing needs.
+// The elements of SVG that pictures, figures and plots need, and the colours that they share.
 #pragma once
 
 #include <string>
 
 #include "numbers.h"
 
-namespace host {
+namespace svg {
 
-inline std::string px(double value) { return fixed(value, 2); }
+namespace colours {
+constexpr const char *paper = "#fbfcfe";
+constexpr const char *ink = "#1d2733";
+constexpr const char *steel = "#c9d5e3";
+constexpr const char *pale = "#e6ecf3";
+constexpr const char *grey = "#66727f";  // dark enough for text
+constexpr const char *light_grey = "#7a8794";
+constexpr const char *red = "#c0262d";
+constexpr const char *blue = "#2f6690";
+constexpr const char *green = "#1c7c54";
+constexpr const char *violet = "#7b3fa0";
+constexpr const char *none = "none";
+}  // namespace colours
+
+inline std::string px(double value) { return host::fixed(value, 2); }
+
+inline std::string point(double x, double y) { return px(x) + ' ' + px(y); }
 
 inline std::string attribute(const std::string &name, const std::string &value) {
   return ' ' + name + "=\"" + value + '"';
 }
 
+inline std::string attribute(const std::string &name, double value) {
+  return attribute(name, px(value));
+}
+
 inline std::string line(double x1, double y1, double x2, double y2,
                         const std::string &attributes = "") {
-  return "<line" + attribute("x1", px(x1)) + attribute("y1", px(y1)) + attribute("x2", px(x2)) +
-         attribute("y2", px(y2)) + attributes + "/>\n";
+  return "<line" + attribute("x1", x1) + attribute("y1", y1) + attribute("x2", x2) +
+         attribute("y2", y2) + attributes + "/>\n";
+}
+
+inline std::string circle(double x, double y, const std::string &radius,
+                          const std::string &attributes) {
+  return "<circle" + attribute("cx", x) + attribute("cy", y) + attribute("r", radius) + attributes +
+         "/>\n";
+}
+
+inline std::string path(const std::string &commands, const std::string &attributes) {
+  return "<path" + attribute("d", commands) + attributes + "/>\n";
 }
 
 // Centred on x unless the attributes say otherwise.
 inline std::string text(double x, double y, const std::string &content,
                         const std::string &attributes = "") {
-  return "<text" + attribute("x", px(x)) + attribute("y", px(y)) + attributes + '>' + content +
-         "</text>\n";
+  return "<text" + attribute("x", x) + attribute("y", y) + attributes + '>' + content + "</text>\n";
 }
 
 inline std::string group(const std::string &attributes, const std::string &content) {
   return "<g" + attributes + ">\n" + content + "</g>\n";
 }
 
-}  // namespace host
+inline std::string moved(double x, double y) { return "translate(" + point(x, y) + ')'; }
+
+// The whole picture.
+inline std::string sheet(double width, double height, const std::string &attributes,
+                         const std::string &content) {
+  return "<svg" + attribute("xmlns", "http://www.w3.org/2000/svg") + attribute("width", width) +
+         attribute("height", height) + attribute("viewBox", "0 0 " + point(width, height)) +
+         attributes + ">\n" + content + "</svg>\n";
+}
+
+}  // namespace svg

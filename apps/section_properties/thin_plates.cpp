@@ -79,6 +79,11 @@ Outline outline_of(const std::vector<Plate> &plates) {
   return outline;
 }
 
+Measures overall_measures(const Box &box) {
+  return {{Side::below, "", box.right - box.left, box.left, box.bottom},
+          {Side::left, "", box.top - box.bottom, box.bottom, box.left}};
+}
+
 std::string figures_of(const std::vector<Plate> &plates, Figures &f) {
   const ThinSection s = thin_section(plates);
   if (s.status < 0) return "a plate has no length or no thickness";

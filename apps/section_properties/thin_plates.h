@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "figures.h"
+#include "measures.h"
 
 namespace host {
 
@@ -31,6 +32,9 @@ std::string read_plates(const std::string &name, std::string_view text, std::siz
                         std::vector<Plate> &plates);
 
 Outline outline_of(const std::vector<Plate> &plates);
+
+// Overall width and height: plates have no dimensions of their own.
+Measures overall_measures(const Box &box);
 
 // All figures that trvmxt gives, those of torsion only where the section is open. Returns what is
 // wrong, or nothing.

@@ -1,28 +1,38 @@
-// Torsion of the profiles, by the theory that fits each. Dimensions in the profile's order.
+// Torsion by the theory that fits a section.
 #pragma once
 
-#include "figures.h"
+#include <initializer_list>
+#include <vector>
+
+#include "thin_plates.h"
 
 namespace host {
 
-// Open: thin walls on their centre lines.
-Torsion torsion_of_ia(const float *d);
-Torsion torsion_of_h(const float *d);
-Torsion torsion_of_i(const float *d);
-Torsion torsion_of_t(const float *d);
-Torsion torsion_of_c(const float *d);
-Torsion torsion_of_angle(const float *d);
-Torsion torsion_of_rolled(const float *d);
+constexpr const char *thin_walls = "Torsion: thin walls on centre lines (V. Z. Vlasov).";
+constexpr const char *thin_walls_without_fillets =
+    "Torsion: thin walls on centre lines (V. Z. Vlasov), fillets left out.";
 
-Torsion torsion_of_bar(const float *d);
+// Of thin walls on their centre lines.
+Torsion open_torsion(const std::vector<Plate> &plates, const char *note);
 
-// Closed: the shear flow of the cell, and each plate by itself.
-Torsion torsion_of_rhs(const float *d);
-Torsion torsion_of_box(const float *d);
-Torsion torsion_of_h1b(const float *d);
-Torsion torsion_of_tab(const float *d);
-Torsion torsion_of_h2b(const float *d);
+// The web first, so that the halves of both flanges start at its ends. E moves the web.
+std::vector<Plate> plates_of_i(float H, float B1, float B2, float T1, float T2, float TW,
+                               float E = 0);
 
-Torsion torsion_of_two_angles(const float *d);
+struct Wall {
+  double length, t;
+};
+
+// Shear flow around one cell, 4*Am^2/sum(l/t), and l*t^3/3 of its walls, by their centre lines, and
+// of what else there is, clear of the walls.
+Torsion closed_torsion(double width, double height, std::initializer_list<Wall> walls,
+                       std::initializer_list<Wall> others);
+
+// The torsion constant as the tables of European sections have it (ArcelorMittal, Sections and
+// merchant bars, notations and formulae): the flanges' free ends and the junctions with the web
+// with their fillets after G. W. Trayer, H. W. March, NACA report 334, 1930.
+double torsion_constant_of_rolled(double H, double B, double TW, double TF, double R);
+
+Torsion torsion_of_bar(float B, float H);
 
 }  // namespace host

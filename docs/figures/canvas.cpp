@@ -1,25 +1,16 @@
 #include "canvas.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace figures {
 namespace {
 
+using svg::attribute;
+
 constexpr double number_size = 11;
 
-std::string px(double value) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.2f", value);
-  return std::string(text) == "-0.00" ? "0.00" : text;
-}
-
-std::string attribute(const std::string &name, const std::string &value) {
-  return ' ' + name + "=\"" + value + '"';
-}
-
 std::string drawn_with(const Pen &pen, const char *fill = colours::none) {
-  return attribute("stroke", pen.colour) + attribute("stroke-width", px(pen.width)) +
+  return attribute("stroke", pen.colour) + attribute("stroke-width", pen.width) +
          (*pen.dash != 0 ? attribute("stroke-dasharray", pen.dash) : "") + attribute("fill", fill);
 }
 
@@ -65,11 +56,10 @@ void Sheet::text(Offset at, int side, const std::string &content, const char *co
   labels_.push_back({{left, at.y - 0.4 * size, left + width, at.y + 0.4 * size}, content});
   const char *anchor = side > 0 ? "start" : side < 0 ? "end" : "middle";
   // The paper's colour around the letters keeps them legible on lines.
-  add("<text" + attribute("x", px(at.x)) + attribute("y", px(height_ - at.y + 0.35 * size)) +
-      attribute("text-anchor", anchor) + attribute("font-size", px(size)) +
-      attribute("fill", colour) + attribute("stroke", colours::paper) +
-      attribute("stroke-width", "3") + attribute("paint-order", "stroke") + '>' + escaped(content) +
-      "</text>\n");
+  add(svg::text(at.x, down(at.y) + 0.35 * size, escaped(content),
+                attribute("text-anchor", anchor) + attribute("font-size", size) +
+                    attribute("fill", colour) + attribute("stroke", colours::paper) +
+                    attribute("stroke-width", "3") + attribute("paint-order", "stroke")));
 }
 
 void Sheet::caption(Offset at, const std::string &content) {
@@ -91,17 +81,14 @@ void Sheet::check_labels() const {
 
 std::string Sheet::svg() const {
   check_labels();
-  const std::string width = px(width_);
-  const std::string height = px(height_);
-  return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + attribute("width", width) +
-         attribute("height", height) + attribute("viewBox", "0 0 " + width + ' ' + height) +
-         attribute("role", "img") +
-         attribute("aria-labelledby", name_ + "-title " + name_ + "-desc") +
-         attribute("font-family", "system-ui, 'Segoe UI', Helvetica, Arial, sans-serif") +
-         ">\n<title" + attribute("id", name_ + "-title") + '>' + escaped(title_) +
-         "</title>\n<desc" + attribute("id", name_ + "-desc") + '>' + escaped(description_) +
-         "</desc>\n<rect" + attribute("width", width) + attribute("height", height) +
-         attribute("rx", "8") + attribute("fill", colours::paper) + "/>\n" + elements_ + "</svg>\n";
+  return svg::sheet(
+      width_, height_,
+      attribute("role", "img") + attribute("aria-labelledby", name_ + "-title " + name_ + "-desc") +
+          attribute("font-family", "system-ui, 'Segoe UI', Helvetica, Arial, sans-serif"),
+      "<title" + attribute("id", name_ + "-title") + '>' + escaped(title_) + "</title>\n<desc" +
+          attribute("id", name_ + "-desc") + '>' + escaped(description_) + "</desc>\n<rect" +
+          attribute("width", width_) + attribute("height", height_) + attribute("rx", "8") +
+          attribute("fill", colours::paper) + "/>\n" + elements_);
 }
 
 // --- views ------------------------------------------------------------------------------------
@@ -119,10 +106,7 @@ Offset View::at(Point p) const {
 }
 
 void View::stroke(Offset a, Offset b, const Pen &pen) {
-  const double height = sheet_->whole().top;
-  sheet_->add("<line" + attribute("x1", px(a.x)) + attribute("y1", px(height - a.y)) +
-              attribute("x2", px(b.x)) + attribute("y2", px(height - b.y)) + drawn_with(pen) +
-              "/>\n");
+  sheet_->add(svg::line(a.x, sheet_->down(a.y), b.x, sheet_->down(b.y), drawn_with(pen)));
 }
 
 void View::line(Point a, Point b, const Pen &pen) { stroke(at(a), at(b), pen); }
@@ -135,15 +119,13 @@ void View::long_line(Point a, Point b, double beyond, const Pen &pen) {
 void View::head(Offset tip, Offset direction, const char *colour) {
   const double size = std::hypot(direction.x, direction.y);
   const Offset d{9 * direction.x / size, 9 * direction.y / size};
-  const double height = sheet_->whole().top;
   const auto corner = [&](double back, double aside) {
-    return px(tip.x - back * d.x - aside * d.y) + ' ' +
-           px(height - (tip.y - back * d.y + aside * d.x));
+    return svg::point(tip.x - back * d.x - aside * d.y,
+                      sheet_->down(tip.y - back * d.y + aside * d.x));
   };
   sheet_->add(
-      "<path" +
-      attribute("d", 'M' + corner(0, 0) + " L" + corner(1, 0.38) + " L" + corner(1, -0.38) + " Z") +
-      attribute("fill", colour) + "/>\n");
+      svg::path('M' + corner(0, 0) + " L" + corner(1, 0.38) + " L" + corner(1, -0.38) + " Z",
+                attribute("fill", colour)));
 }
 
 void View::arrow(Point a, Point b, const Pen &pen) {
@@ -155,76 +137,64 @@ void View::arrow(Point a, Point b, const Pen &pen) {
   head(to, d, pen.colour);
 }
 
+std::string View::commands(const std::vector<Point> &points) const {
+  std::string text;
+  for (const Point &p : points) {
+    const Offset o = at(p);
+    text += (text.empty() ? "M" : " L") + svg::point(o.x, sheet_->down(o.y));
+  }
+  return text;
+}
+
 void View::path(const std::vector<Point> &points, const Pen &pen) {
-  for (std::size_t i = 1; i < points.size(); ++i) line(points[i - 1], points[i], pen);
+  sheet_->add(svg::path(commands(points), drawn_with(pen)));
 }
 
 void View::area(const std::vector<Outline> &rings, const char *fill, const Pen &pen) {
   std::string d;
-  for (const Outline &ring : rings) {
-    for (std::size_t i = 0; i < ring.size(); ++i) {
-      const Offset p = at(ring[i]);
-      d += (i == 0 ? "M" : " L") + px(p.x) + ' ' + px(sheet_->whole().top - p.y);
-    }
-    d += " Z ";
-  }
-  sheet_->add("<path" + attribute("d", d) + attribute("fill-rule", "evenodd") +
-              attribute("stroke-linejoin", "round") + drawn_with(pen, fill) + "/>\n");
+  for (const Outline &ring : rings) d += commands(ring) + " Z ";
+  sheet_->add(svg::path(d, attribute("fill-rule", "evenodd") +
+                               attribute("stroke-linejoin", "round") + drawn_with(pen, fill)));
+}
+
+void View::disc(Offset c, const std::string &radius, const std::string &attributes) {
+  sheet_->add(svg::circle(c.x, sheet_->down(c.y), radius, attributes));
 }
 
 void View::circle(Point centre, double radius, const Pen &pen, const char *fill) {
-  const Offset c = at(centre);
-  sheet_->add("<circle" + attribute("cx", px(c.x)) +
-              attribute("cy", px(sheet_->whole().top - c.y)) + attribute("r", px(pixels(radius))) +
-              drawn_with(pen, fill) + "/>\n");
+  disc(at(centre), svg::px(pixels(radius)), drawn_with(pen, fill));
 }
 
-namespace {
+void View::dot(Point p, const char *colour) { disc(at(p), "3.2", attribute("fill", colour)); }
 
 // An arc of a path, as far as the path's command.
-std::string arc_path(Offset centre, double radius, double from, double to, double height) {
-  const auto point = [&](double angle) {
-    return px(centre.x + radius * std::cos(angle)) + ' ' +
-           px(height - (centre.y + radius * std::sin(angle)));
+std::string View::arc_path(Offset centre, double radius, double from, double to) const {
+  const auto end = [&](double angle) {
+    return svg::point(centre.x + radius * std::cos(angle),
+                      sheet_->down(centre.y + radius * std::sin(angle)));
   };
-  const std::string r = px(radius);
-  return 'M' + point(from) + " A" + r + ' ' + r + " 0 " + (std::fabs(to - from) > pi ? "1" : "0") +
-         (to > from ? " 0 " : " 1 ") + point(to);
+  return 'M' + end(from) + " A" + svg::point(radius, radius) + " 0 " +
+         (std::fabs(to - from) > pi ? "1" : "0") + (to > from ? " 0 " : " 1 ") + end(to);
 }
 
-}  // namespace
-
 void View::arc(Point centre, double radius, double from, double to, const Pen &pen) {
-  sheet_->add("<path" +
-              attribute("d", arc_path(at(centre), pixels(radius), from, to, sheet_->whole().top)) +
-              drawn_with(pen) + "/>\n");
+  sheet_->add(svg::path(arc_path(at(centre), pixels(radius), from, to), drawn_with(pen)));
 }
 
 void View::segment(Point centre, double radius, double from, double to, const char *fill) {
-  sheet_->add(
-      "<path" +
-      attribute("d", arc_path(at(centre), pixels(radius), from, to, sheet_->whole().top) + " Z") +
-      drawn_with(pens::outline, fill) + "/>\n");
+  sheet_->add(svg::path(arc_path(at(centre), pixels(radius), from, to) + " Z",
+                        drawn_with(pens::outline, fill)));
 }
 
 void View::turn(Point centre, double radius, double from, double to, const Pen &pen) {
   const Offset c = at(centre);
   const double sense = to > from ? 1 : -1;
   const double short_of_it = to - sense * 5 / radius;
-  sheet_->add("<path" +
-              attribute("d", arc_path(c, radius, from, short_of_it, sheet_->whole().top)) +
-              drawn_with(pen) + "/>\n");
+  sheet_->add(svg::path(arc_path(c, radius, from, short_of_it), drawn_with(pen)));
   // The head is straight and the arc is not: it points where the arc is half a head before its end.
   const double bent = to - sense * 4.5 / radius;
   head({c.x + radius * std::cos(to), c.y + radius * std::sin(to)},
        {-sense * std::sin(bent), sense * std::cos(bent)}, pen.colour);
-}
-
-void View::dot(Point p, const char *colour) {
-  const Offset c = at(p);
-  sheet_->add("<circle" + attribute("cx", px(c.x)) +
-              attribute("cy", px(sheet_->whole().top - c.y)) + attribute("r", "3.2") +
-              attribute("fill", colour) + "/>\n");
 }
 
 void View::right_angle(Point corner, Point along, Point across) {
@@ -244,10 +214,38 @@ void View::axes(Point origin, double length, const char *x, const char *y) {
   label(to_y, y, {0, 9}, colours::grey);
 }
 
+void View::axes_in_space(const Vector &origin, float length) {
+  const auto draw = [&](const char *name, const Vector &axis, Offset beside) {
+    arrow(seen(origin), seen(origin + axis), pens::thin);
+    label(seen(origin + axis), name, beside, colours::grey, 12);
+  };
+  draw("x", {length, 0, 0}, {7, -2});
+  draw("y", {0, length, 0}, {0, 9});
+  draw("z", {0, 0, length}, {-5, -5});
+}
+
+void View::sweep(const Vector &centre, const Vector &from, const Vector &to, const Pen &pen) {
+  std::vector<Point> points;
+  for (int i = 0; i <= 24; ++i) {
+    const float t = static_cast<float>(i) / 24;
+    const Vector v = (1 - t) * from + t * to;
+    points.push_back(seen(centre + static_cast<float>(length(from) / length(v)) * v));
+  }
+  const Point tip = points.back();
+  points.resize(points.size() - 2);  // the head takes the rest
+  path(points, pen);
+  arrow(points.back(), tip, pen);
+}
+
 void View::label(Point p, const std::string &text, Offset offset, const char *colour, double size) {
   const Offset c = at(p);
   const int side = offset.x > 2 ? 1 : offset.x < -2 ? -1 : 0;
   sheet_->text({c.x + offset.x, c.y + offset.y}, side, text, colour, size);
+}
+
+void View::point(Point p, const std::string &text, Offset offset, const char *colour, double size) {
+  dot(p, colour);
+  label(p, text, offset, colour, size);
 }
 
 void View::number(Point before, Point vertex, Point after, int number) {
@@ -265,40 +263,31 @@ void View::number(Point before, Point vertex, Point after, int number) {
 
 void View::tick(Offset c) { stroke({c.x - 4, c.y - 4}, {c.x + 4, c.y + 4}, {colours::blue, 1.6}); }
 
-void View::across(Point a, Point b, double above, const std::string &letter, Letter place) {
-  const Offset left = a.x < b.x ? at(a) : at(b);
-  const Offset right = a.x < b.x ? at(b) : at(a);
-  const double y = at(a).y + above;
-  for (const Offset &end : {left, right}) {
-    const double beyond = y > end.y ? 6 : -6;
-    if (std::fabs(y - end.y) > 8)
-      stroke({end.x, end.y + beyond}, {end.x, y + beyond}, pens::dimension);
-    tick({end.x, y});
-  }
-  stroke({left.x - 8, y}, {right.x + 8, y}, pens::dimension);
-  if (place == Letter::between)
-    sheet_->text({0.5 * (left.x + right.x), y + 10}, 0, letter, colours::blue);
-  else if (place == Letter::behind)
-    sheet_->text({right.x + 12, y}, 1, letter, colours::blue);
-  else
-    sheet_->text({left.x - 12, y}, -1, letter, colours::blue);
-}
-
-void View::upright(Point a, Point b, double right, const std::string &letter, Letter place) {
-  const Offset low = a.y < b.y ? at(a) : at(b);
-  const Offset high = a.y < b.y ? at(b) : at(a);
-  const double x = at(a).x + right;
+void View::dimension(bool is_upright, Point a, Point b, double aside, const std::string &letter,
+                     Letter place) {
+  // Along the line and across it.
+  const auto along = [&](Offset o) { return is_upright ? o.y : o.x; };
+  const auto across = [&](Offset o) { return is_upright ? o.x : o.y; };
+  const auto offset = [&](double u, double v) { return is_upright ? Offset{v, u} : Offset{u, v}; };
+  Offset low = at(a), high = at(b);
+  const double level = across(low) + aside;
+  if (along(high) < along(low)) std::swap(low, high);
   for (const Offset &end : {low, high}) {
-    const double beyond = x > end.x ? 6 : -6;
-    if (std::fabs(x - end.x) > 8)
-      stroke({end.x + beyond, end.y}, {x + beyond, end.y}, pens::dimension);
-    tick({x, end.y});
+    const double beyond = level > across(end) ? 6 : -6;
+    if (std::fabs(level - across(end)) > 8)
+      stroke(offset(along(end), across(end) + beyond), offset(along(end), level + beyond),
+             pens::dimension);
+    tick(offset(along(end), level));
   }
-  stroke({x, low.y - 8}, {x, high.y + 8}, pens::dimension);
+  stroke(offset(along(low) - 8, level), offset(along(high) + 8, level), pens::dimension);
+  const double gap = is_upright ? 16 : 12;
+  const int side = place == Letter::behind ? 1 : -1;
   if (place == Letter::between)
-    sheet_->text({x + 7, 0.5 * (low.y + high.y)}, 1, letter, colours::blue);
+    sheet_->text(offset(0.5 * (along(low) + along(high)), level + (is_upright ? 7 : 10)),
+                 is_upright ? 1 : 0, letter, colours::blue);
   else
-    sheet_->text({x, place == Letter::behind ? high.y + 16 : low.y - 16}, 0, letter, colours::blue);
+    sheet_->text(offset(side > 0 ? along(high) + gap : along(low) - gap, level),
+                 is_upright ? 0 : side, letter, colours::blue);
 }
 
 void View::along(Point a, Point b, double left, const std::string &letter) {

@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "dimension_lines.h"
 #include "geometry.h"
+#include "svg.h"
 
 namespace figures {
 
@@ -24,17 +26,7 @@ struct Pen {
   const char *dash = "";
 };
 
-namespace colours {
-constexpr const char *paper = "#fbfcfe";
-constexpr const char *ink = "#1d2733";
-constexpr const char *steel = "#c9d5e3";
-constexpr const char *pale = "#e6ecf3";
-constexpr const char *grey = "#66727f";
-constexpr const char *red = "#b3202a";
-constexpr const char *blue = "#235f8c";
-constexpr const char *green = "#1f7a4d";
-constexpr const char *none = "none";
-}  // namespace colours
+namespace colours = svg::colours;
 
 namespace pens {
 constexpr Pen given{colours::ink, 1.6};
@@ -55,6 +47,8 @@ class Sheet {
   [[nodiscard]] const std::string &name() const { return name_; }
   [[nodiscard]] Box whole() const { return {0, 0, width_, height_}; }
   void add(const std::string &element) { elements_ += element; }
+  // From paper's y to that of SVG, which runs downwards.
+  [[nodiscard]] double down(double y) const { return height_ - y; }
   // The text begins, is centred or ends at `at`, by the sign of `side`.
   void text(Offset at, int side, const std::string &content, const char *colour = colours::ink,
             double size = 14);
@@ -107,19 +101,32 @@ class View {
   // The axes of x and y from `origin`, so many pixels long.
   void axes(Point origin, double length, const char *x = "x", const char *y = "y");
 
+  // Those of space as they are seen, and a turn in it: from one vector from the centre to another.
+  void axes_in_space(const Vector &origin, float length);
+  void sweep(const Vector &centre, const Vector &from, const Vector &to, const Pen &pen);
+
   // Stands beside the point, on the side to which the offset goes.
   void label(Point p, const std::string &text, Offset offset, const char *colour = colours::ink,
+             double size = 14);
+  // A dot with its label.
+  void point(Point p, const std::string &text, Offset offset, const char *colour = colours::ink,
              double size = 14);
   // The number of a vertex between its neighbours, outside of a ring that runs counter-clockwise.
   void number(Point before, Point vertex, Point after, int number);
 
-  enum class Letter { between, behind, before };
+  using Letter = host::Letter;
   // A dimension line along x, so many pixels above `a` (below where negative), with its letter; and
   // one along y, so many to the right of `a`.
   void across(Point a, Point b, double above, const std::string &letter,
-              Letter place = Letter::between);
+              Letter place = Letter::between) {
+    dimension(false, a, b, above, letter, place);
+  }
   void upright(Point a, Point b, double right, const std::string &letter,
-               Letter place = Letter::between);
+               Letter place = Letter::between) {
+    dimension(true, a, b, right, letter, place);
+  }
+  void dimension(bool is_upright, Point a, Point b, double aside, const std::string &letter,
+                 Letter place);
   // One along a line that has any direction, so many pixels to its left.
   void along(Point a, Point b, double left, const std::string &letter);
 
@@ -127,6 +134,9 @@ class View {
   void stroke(Offset a, Offset b, const Pen &pen);
   void head(Offset tip, Offset direction, const char *colour);
   void tick(Offset c);
+  void disc(Offset c, const std::string &radius, const std::string &attributes);
+  [[nodiscard]] std::string commands(const std::vector<Point> &points) const;
+  [[nodiscard]] std::string arc_path(Offset centre, double radius, double from, double to) const;
 
   Sheet *sheet_;
   double scale_;

@@ -1,8 +1,6 @@
 // Stations on an arc, constructions on its chord, rounded corners.
 #include <trelvin/trelvin.h>
 
-#include <array>
-
 #include "figures.h"
 
 namespace figures {
@@ -14,23 +12,15 @@ struct Arc {
   [[nodiscard]] double radius() const { return length(a - c); }
 };
 
-struct Panel {
-  Box paper;
-  Offset caption;
-};
-
 void draw_arc(View &view, const Arc &arc) {
   const double from = direction(arc.b - arc.c), to = direction(arc.a - arc.c);
   view.arc(arc.c, arc.radius(), from - 0.55, from, pens::dashed);
   view.arc(arc.c, arc.radius(), to, to + 0.55, pens::dashed);
   view.arc(arc.c, arc.radius(), from, to, {colours::ink, 2.2});
   view.line(arc.a, arc.b);
-  view.dot(arc.c);
-  view.dot(arc.a);
-  view.dot(arc.b);
-  view.label(arc.c, "C", {3, -11});
-  view.label(arc.a, "A", {-9, 2});
-  view.label(arc.b, "B", {9, 2});
+  view.point(arc.c, "C", {3, -11});
+  view.point(arc.a, "A", {-9, 2});
+  view.point(arc.b, "B", {9, 2});
 }
 
 void require_on_arc(const Arc &arc, Point p, const std::string &routine) {
@@ -39,50 +29,41 @@ void require_on_arc(const Arc &arc, Point p, const std::string &routine) {
 
 // --- stations -----------------------------------------------------------------------------------
 
-constexpr Box station_world{-2.4, -1.7, 2.4, 1.4};
-
-void perpendicular_station(Sheet &sheet, const Panel &panel) {
+// The station at d = 1.25 with its point, by trvcer6 or trvcer8.
+template <class Routine, class Draw>
+void point_above_station(View &view, const std::string &routine, Routine call, Draw draw) {
   const Arc arc;
   const float d = 1.25F;
   Point p;
   std::int32_t status = 0;
-  trvcer8(arc.c.x, arc.c.y, arc.a.x, arc.a.y, arc.b.x, arc.b.y, 1, d, p.x, p.y, status);
+  call(arc.c.x, arc.c.y, arc.a.x, arc.a.y, arc.b.x, arc.b.y, 1, d, p.x, p.y, status);
   const Point station = arc.a + Point{d, 0};
-  require(status == 1 && p.y > 0, "trvcer8: a point above the chord, for side 1");
-  require_on_arc(arc, p, "trvcer8");
-  require_near(dot(p - station, arc.b - arc.a), 0, "trvcer8: perpendicular to the chord");
-  View view(sheet, panel.paper, station_world);
+  require(status == 1 && p.y > 0, routine + ": a point above the chord, for side 1");
+  require_on_arc(arc, p, routine);
   draw_arc(view, arc);
-  view.line(station, p, pens::result);
-  view.right_angle(station, p, arc.b);
-  view.dot(p, colours::red);
-  view.label(p, "(x, y)", {-6, 12}, colours::red);
+  draw(arc, station, p);
+  view.point(p, "(x, y)", {-6, 12}, colours::red);
   view.across(arc.a, station, -24, "d", View::Letter::before);
-  sheet.caption(panel.caption, "trvcer8");
 }
 
-void radial_station(Sheet &sheet, const Panel &panel) {
-  const Arc arc;
-  const float d = 1.25F;
-  Point p;
-  std::int32_t status = 0;
-  trvcer6(arc.c.x, arc.c.y, arc.a.x, arc.a.y, arc.b.x, arc.b.y, 1, d, p.x, p.y, status);
-  const Point station = arc.a + Point{d, 0};
-  require(status == 1 && p.y > 0, "trvcer6: a point above the chord, for side 1");
-  require_on_arc(arc, p, "trvcer6");
-  require_near(cross(p - arc.c, station - arc.c), 0,
-               "trvcer6: on the line from C through the station");
-  View view(sheet, panel.paper, station_world);
-  draw_arc(view, arc);
-  view.line(arc.c, p, pens::result);
-  view.dot(station, colours::grey);
-  view.dot(p, colours::red);
-  view.label(p, "(x, y)", {-6, 12}, colours::red);
-  view.across(arc.a, station, -24, "d", View::Letter::before);
-  sheet.caption(panel.caption, "trvcer6");
+void perpendicular_station(View &view) {
+  point_above_station(view, "trvcer8", trvcer8, [&](const Arc &arc, Point station, Point p) {
+    require_near(dot(p - station, arc.b - arc.a), 0, "trvcer8: perpendicular to the chord");
+    view.line(station, p, pens::result);
+    view.right_angle(station, p, arc.b);
+  });
 }
 
-void strip(Sheet &sheet, const Panel &panel) {
+void radial_station(View &view) {
+  point_above_station(view, "trvcer6", trvcer6, [&](const Arc &arc, Point station, Point p) {
+    require_near(cross(p - arc.c, station - arc.c), 0,
+                 "trvcer6: on the line from C through the station");
+    view.line(arc.c, p, pens::result);
+    view.dot(station, colours::grey);
+  });
+}
+
+void strip(View &view) {
   const Arc arc;
   const float d = 1.5F, w = 1.25F;
   Point p, q;
@@ -95,18 +76,14 @@ void strip(Sheet &sheet, const Panel &panel) {
   require_near(p.x - arc.a.x, d - 0.5 * w, "trvcer9: the first point above d - w/2");
   require_near(q.x - arc.a.x, d + 0.5 * w, "trvcer9: the second point above d + w/2");
   const Point station = arc.a + Point{d, 0};
-  View view(sheet, panel.paper, station_world);
   draw_arc(view, arc);
   view.line({p.x, 0}, p, pens::result);
   view.line({q.x, 0}, q, pens::result);
   view.line(station, station + Point{0, 0.9F}, pens::axis);
-  view.dot(p, colours::red);
-  view.dot(q, colours::red);
-  view.label(p, "(x1, y1)", {-5, 12}, colours::red);
-  view.label(q, "(x2, y2)", {5, 12}, colours::red);
+  view.point(p, "(x1, y1)", {-5, 12}, colours::red);
+  view.point(q, "(x2, y2)", {5, 12}, colours::red);
   view.across(arc.a, station, -20, "d", View::Letter::before);
   view.across({p.x, 0}, {q.x, 0}, 22, "w", View::Letter::behind);
-  sheet.caption(panel.caption, "trvcer9");
 }
 
 Sheet stations(const std::string &name) {
@@ -114,9 +91,15 @@ Sheet stations(const std::string &name) {
               "The point of the arc from A to B about C above a station d of its chord: "
               "perpendicular to the chord, on the line from the centre, and above both edges of a "
               "strip of width w. The side is 1.");
-  perpendicular_station(sheet, {{30, 55, 230, 215}, {130, 22}});
-  radial_station(sheet, {{250, 55, 450, 215}, {350, 22}});
-  strip(sheet, {{470, 55, 670, 215}, {570, 22}});
+  const auto panel = [&](int column, const char *caption, void (*draw)(View &)) {
+    const double x = 30 + 220 * column;
+    View view(sheet, {x, 55, x + 200, 215}, {-2.4, -1.7, 2.4, 1.4});
+    draw(view);
+    sheet.caption({x + 100, 22}, caption);
+  };
+  panel(0, "trvcer8", perpendicular_station);
+  panel(1, "trvcer6", radial_station);
+  panel(2, "trvcer9", strip);
   return sheet;
 }
 
@@ -125,7 +108,7 @@ Sheet stations(const std::string &name) {
 constexpr Box construction_world{-2.4, -1.7, 2.4, 1.5};
 constexpr Pen ray{colours::blue, 1.4};
 
-void line_at_angle(Sheet &sheet, const Panel &panel) {
+void line_at_angle(View &view) {
   const Arc given;
   Arc arc = given;
   const float s = 1.25F, angle = 1.1F;
@@ -136,18 +119,15 @@ void line_at_angle(Sheet &sheet, const Panel &panel) {
   require(status == 1 && o.y > 0, "trvcer4: a point across the chord from the centre");
   require_on_arc(given, o, "trvcer4");
   require_near(direction(o - station), angle, "trvcer4: at the angle from the chord");
-  View view(sheet, panel.paper, construction_world);
   draw_arc(view, given);
   view.line(station, o, pens::result);
   view.turn(station, 26, 0, angle, ray);
   view.label(station + polar(0.75, 0.5 * angle), "angle", {4, 0}, colours::blue, 12);
-  view.dot(o, colours::red);
-  view.label(o, "O", {-2, 12}, colours::red);
+  view.point(o, "O", {-2, 12}, colours::red);
   view.across(given.a, station, -20, "s", View::Letter::before);
-  sheet.caption(panel.caption, "trvcer4");
 }
 
-void chord_and_turned_end(Sheet &sheet, const Panel &panel) {
+void chord_and_turned_end(View &view) {
   const Arc given;
   Arc arc = given;
   const float turn = -1.2F, angle = 2.1F;
@@ -158,7 +138,6 @@ void chord_and_turned_end(Sheet &sheet, const Panel &panel) {
   const Point turned = given.c + polar(given.radius(), from + turn);
   require_near(o.y, 0, "trvcer10: O on the chord");
   require_near(cross(turned - o, polar(1, angle)), 0, "trvcer10: the line at the angle");
-  View view(sheet, panel.paper, construction_world);
   draw_arc(view, given);
   view.line(given.c, turned, pens::dashed);
   view.line(given.c, given.a, pens::dashed);
@@ -168,12 +147,10 @@ void chord_and_turned_end(Sheet &sheet, const Panel &panel) {
   view.turn(o, 20, 0, angle, ray);
   view.label(o, "angle", {18, 14}, colours::blue, 12);
   view.dot(turned);
-  view.dot(o, colours::red);
-  view.label(o, "O", {4, -12}, colours::red);
-  sheet.caption(panel.caption, "trvcer10");
+  view.point(o, "O", {4, -12}, colours::red);
 }
 
-void towards_sagitta(Sheet &sheet, const Panel &panel) {
+void towards_sagitta(View &view) {
   const Arc given;
   Arc arc = given;
   const float s = 0.9F, e = 0.6F;
@@ -186,20 +163,16 @@ void towards_sagitta(Sheet &sheet, const Panel &panel) {
   require(status == 1 && o.y > 0, "trvcer5: a point on T's side");
   require_on_arc(given, o, "trvcer5");
   require_near(cross(o - station, t - station), 0, "trvcer5: on the line through T");
-  View view(sheet, panel.paper, construction_world);
   draw_arc(view, given);
   view.line(station, o, pens::result);
   view.line(middle, t, pens::thin);
-  view.dot(t);
-  view.dot(o, colours::red);
-  view.label(t, "T", {-7, 8});
-  view.label(o, "O", {8, 8}, colours::red);
+  view.point(t, "T", {-7, 8});
+  view.point(o, "O", {8, 8}, colours::red);
   view.across(given.a, station, -20, "s", View::Letter::before);
   view.upright(middle, t, 14, "e");
-  sheet.caption(panel.caption, "trvcer5");
 }
 
-void station_parallel_arc(Sheet &sheet, const Panel &panel) {
+void station_parallel_arc(View &view) {
   const Arc given;
   Arc arc = given;
   const float s = 0.9F, e = 0.75F, angle = 0.85F;
@@ -215,22 +188,19 @@ void station_parallel_arc(Sheet &sheet, const Panel &panel) {
   require_near(cross(o - p, polar(1, angle)), 0, "trvcer7: O on the line");
   require_near(length(o - p), len, "trvcer7: the length of PO");
   require_on_arc(given, o, "trvcer7");
-  View view(sheet, panel.paper, construction_world);
   draw_arc(view, given);
   view.line({-1.85F, e}, {1.85F, e}, pens::dashed);
   view.line(p, o, pens::result);
   view.turn(p, 24, 0, angle, ray);
   view.label(p + polar(0.62, 0.4 * angle), "angle", {5, 0}, colours::blue, 12);
-  for (const Point &point : {p, t, o}) view.dot(point, colours::red);
-  view.label(p, "P", {3, -12}, colours::red);
-  view.label(t, "T", {-8, 8}, colours::red);
-  view.label(o, "O", {6, 10}, colours::red);
+  view.point(p, "P", {3, -12}, colours::red);
+  view.point(t, "T", {-8, 8}, colours::red);
+  view.point(o, "O", {6, 10}, colours::red);
   view.across(given.a, p, -20, "s", View::Letter::before);
   view.upright(Point{1.3F, 0}, Point{1.3F, e}, 0, "e");
-  sheet.caption(panel.caption, "trvcer7");
 }
 
-void from_sagitta(Sheet &sheet, const Panel &panel) {
+void from_sagitta(View &view) {
   const Point p1{-1.9F, -0.25F}, p2{1.9F, 0.25F};
   const float h = 0.9F;
   float r = 0;
@@ -243,21 +213,18 @@ void from_sagitta(Sheet &sheet, const Panel &panel) {
   require_near(length(p2 - c), r, "trvcer1: P2 on the circle");
   require(cross(p2 - p1, c - p1) < 0, "trvcer1: side 1 is to the right of P1 to P2");
   require_near(r - length(middle - c), h, "trvcer1: the sagitta");
-  View view(sheet, panel.paper, construction_world);
   view.arc(c, r, direction(p2 - c), direction(p1 - c), {colours::ink, 2.2});
   view.arrow(p1, p2);
   const Point top = c + r * unit(middle - c);
   view.along(top, middle, 0, "h");
   view.line(c, p2, pens::dashed);
   view.label(0.5F * (c + p2), "r", {8, -5}, colours::red);
-  view.dot(c, colours::red);
-  view.label(c, "(xc, yc)", {-8, -2}, colours::red);
+  view.point(c, "(xc, yc)", {-8, -2}, colours::red);
   view.label(p1, "P1", {-4, -12});
   view.label(p2, "P2", {8, -8});
-  sheet.caption(panel.caption, "trvcer1, side 1");
 }
 
-void two_centres(Sheet &sheet, const Panel &panel) {
+void two_centres(View &view) {
   const Point p1{-0.9F, -0.35F}, p2{0.9F, 0.1F};
   const float r = 1.2F;
   Point a, b, c;
@@ -267,23 +234,19 @@ void two_centres(Sheet &sheet, const Panel &panel) {
   for (const Point &centre : {a, b})
     for (const Point &p : {p1, p2}) require_near(length(p - centre), r, "trvcer2: on the circle");
   require(cross(p2 - p1, c - p1) < 0, "trvcer2: side 1 is to the right of P1 to P2");
-  View view(sheet, panel.paper, construction_world);
   const Point other = length(c - a) < length(c - b) ? b : a;
   view.circle(other, r, pens::dashed);
   view.circle(c, r, pens::given);
   view.arrow(p1, p2);
-  view.dot(other, colours::grey);
-  view.dot(c, colours::red);
   view.line(c, p2, pens::thin);
   view.label(0.5F * (c + p2), "r", {7, -4}, colours::red);
-  view.label(c, "(xc, yc)", {0, -12}, colours::red);
-  view.label(other, "side < 0", {0, 12}, colours::grey, 12);
+  view.point(c, "(xc, yc)", {0, -12}, colours::red);
+  view.point(other, "side < 0", {0, 12}, colours::grey, 12);
   view.label(p1, "P1", {-9, -4});
   view.label(p2, "P2", {9, 4});
-  sheet.caption(panel.caption, "trvcer2, side 1");
 }
 
-void two_arcs(Sheet &sheet, const Panel &panel) {
+void two_arcs(View &view) {
   const Arc arc;
   float s1 = 0, s2 = 0;
   std::int32_t status = 0;
@@ -292,20 +255,17 @@ void two_arcs(Sheet &sheet, const Panel &panel) {
   require(status == 1, "trvarc1: lengths");
   require_near(s1, arc.radius() * (to - from), "trvarc1: the shorter arc");
   require_near(s2, arc.radius() * (2 * pi - to + from), "trvarc1: the longer arc");
-  View view(sheet, panel.paper, {-2.6, -3.4, 2.6, 1.5});
   view.arc(arc.c, arc.radius(), from, to, pens::result);
   view.arc(arc.c, arc.radius(), to, from + 2 * pi, {colours::blue, 1.8});
   for (const Point &p : {arc.a, arc.b}) view.line(arc.c, p, pens::dashed);
-  for (const Point &p : {arc.a, arc.b, arc.c}) view.dot(p);
-  view.label(arc.a, "A", {-9, 4});
-  view.label(arc.b, "B", {9, 4});
-  view.label(arc.c, "C", {0, -12});
+  view.point(arc.a, "A", {-9, 4});
+  view.point(arc.b, "B", {9, 4});
+  view.point(arc.c, "C", {0, -12});
   view.label(arc.c + Point{0, static_cast<float>(arc.radius())}, "s1", {0, -12}, colours::red);
   view.label(arc.c - Point{0, static_cast<float>(arc.radius())}, "s2", {0, 12}, colours::blue);
-  sheet.caption(panel.caption, "trvarc1");
 }
 
-void box_of_arc(Sheet &sheet, const Panel &panel) {
+void box_of_arc(View &view) {
   const Point c{0, -0.6F}, a{1.7F, 0};
   const float sweep = 2.3F;
   Point low, high;
@@ -314,21 +274,15 @@ void box_of_arc(Sheet &sheet, const Panel &panel) {
   require_near(high.y, c.y + r, "trvenv: the top of the circle is on the arc");
   require_near(high.x, a.x, "trvenv: the start on the right edge");
   require_near(low.x, c.x + r * std::cos(from + sweep), "trvenv: the end on the left edge");
-  View view(sheet, panel.paper, construction_world);
   view.area({{low, {high.x, low.y}, high, {low.x, high.y}}}, colours::none, pens::dashed);
   view.turn(c, view.pixels(r), from, from + sweep, {colours::ink, 2});
   view.line(c, a, pens::thin);
   view.turn(c, 28, from, from + sweep, ray);
   view.label(c, "sweep", {0, 38}, colours::blue, 12);
-  view.dot(c);
-  view.dot(a);
-  view.dot(low, colours::red);
-  view.dot(high, colours::red);
-  view.label(c, "C", {0, -12});
-  view.label(a, "A", {9, -6});
-  view.label(low, "min", {-6, -9}, colours::red, 12);
-  view.label(high, "max", {5, 9}, colours::red, 12);
-  sheet.caption(panel.caption, "trvenv");
+  view.point(c, "C", {0, -12});
+  view.point(a, "A", {9, -6});
+  view.point(low, "min", {-6, -9}, colours::red, 12);
+  view.point(high, "max", {5, 9}, colours::red, 12);
 }
 
 Sheet constructions(const std::string &name) {
@@ -336,18 +290,21 @@ Sheet constructions(const std::string &name) {
       name, 900, 440, "Constructions on arcs and chords",
       "What trvcer4, trvcer10, trvcer5, trvcer7, trvcer1, trvcer2, trvarc1 and trvenv find: "
       "the points P, T and O and the angles by which they are given.");
-  const auto panel = [](int column, int row) {
+  const auto panel = [&](int column, int row, const char *caption, void (*draw)(View &),
+                         const Box &world = construction_world) {
     const double x = 8 + 221.0 * column, y = 240 - 215.0 * row;
-    return Panel{{x + 12, y + 25, x + 208, y + 185}, {x + 110, y}};
+    View view(sheet, {x + 12, y + 25, x + 208, y + 185}, world);
+    draw(view);
+    sheet.caption({x + 110, y}, caption);
   };
-  line_at_angle(sheet, panel(0, 0));
-  chord_and_turned_end(sheet, panel(1, 0));
-  towards_sagitta(sheet, panel(2, 0));
-  station_parallel_arc(sheet, panel(3, 0));
-  from_sagitta(sheet, panel(0, 1));
-  two_centres(sheet, panel(1, 1));
-  two_arcs(sheet, panel(2, 1));
-  box_of_arc(sheet, panel(3, 1));
+  panel(0, 0, "trvcer4", line_at_angle);
+  panel(1, 0, "trvcer10", chord_and_turned_end);
+  panel(2, 0, "trvcer5", towards_sagitta);
+  panel(3, 0, "trvcer7", station_parallel_arc);
+  panel(0, 1, "trvcer1, side 1", from_sagitta);
+  panel(1, 1, "trvcer2, side 1", two_centres);
+  panel(2, 1, "trvarc1", two_arcs, {-2.6, -3.4, 2.6, 1.5});
+  panel(3, 1, "trvenv", box_of_arc);
   return sheet;
 }
 
@@ -379,14 +336,12 @@ Sheet fillet(const std::string &name) {
   view.line(c, t2, pens::thin);
   view.right_angle(t1, c, p1);
   view.right_angle(t2, c, p2);
-  for (const Point &p : {p0, p1, p2}) view.dot(p);
-  for (const Point &p : {c, t1, t2}) view.dot(p, colours::red);
-  view.label(p0, "P0", {-9, -4});
-  view.label(p1, "P1", {10, 2});
-  view.label(p2, "P2", {6, 10});
-  view.label(c, "C", {9, 6}, colours::red);
-  view.label(t1, "T1", {4, -13}, colours::red);
-  view.label(t2, "T2", {-10, 2}, colours::red);
+  view.point(p0, "P0", {-9, -4});
+  view.point(p1, "P1", {10, 2});
+  view.point(p2, "P2", {6, 10});
+  view.point(c, "C", {9, 6}, colours::red);
+  view.point(t1, "T1", {4, -13}, colours::red);
+  view.point(t2, "T2", {-10, 2}, colours::red);
   view.label(0.5F * (c + t1), "r", {8, 4}, colours::blue);
   return sheet;
 }

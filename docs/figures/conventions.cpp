@@ -10,32 +10,6 @@
 namespace figures {
 namespace {
 
-// An arc in space about an axis through the origin, from one direction to another, as a path that
-// ends in an arrow.
-void turn_in_space(View &view, const Vector &from, const Vector &to, float radius, const Pen &pen) {
-  std::vector<Point> path;
-  for (int i = 0; i <= 16; ++i) {
-    const float t = static_cast<float>(i) / 16;
-    const Vector v = (1 - t) * from + t * to;
-    path.push_back(seen(static_cast<float>(radius / length(v)) * v));
-  }
-  const Point tip = path.back();
-  path.pop_back();
-  path.pop_back();
-  view.path(path, pen);
-  view.arrow(path.back(), tip, pen);
-}
-
-void axes_in_space(View &view, float reach) {
-  const std::array<Vector, 3> ends = {{{reach, 0, 0}, {0, reach, 0}, {0, 0, reach}}};
-  const std::array<const char *, 3> names = {"x", "y", "z"};
-  const std::array<Offset, 3> beside = {{{8, 0}, {0, 10}, {-6, -6}}};
-  for (std::size_t i = 0; i < 3; ++i) {
-    view.arrow({}, seen(ends[i]), pens::thin);
-    view.label(seen(ends[i]), names[i], beside[i], colours::grey);
-  }
-}
-
 Sheet axes(const std::string &name) {
   Sheet sheet(
       name, 620, 300, "Axes of plane and space",
@@ -49,8 +23,7 @@ Sheet axes(const std::string &name) {
   plane.axes({}, 195);
   plane.line({}, p);
   plane.turn({}, 80, 0, phi);
-  plane.dot(p);
-  plane.label(p, "(x, y)", {8, 8});
+  plane.point(p, "(x, y)", {8, 8});
   plane.label(polar(2, 0.5 * phi), "phi", {8, 0}, colours::red);
   plane.line(p, {p.x, 0}, pens::dashed);
   plane.line(p, {0, p.y}, pens::dashed);
@@ -60,10 +33,10 @@ Sheet axes(const std::string &name) {
   std::array<float, 3> z{};
   trvpre(0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, z.data());
   require_at({z[0], z[1], z[2]}, Vector{0, 0, 1}, "x cross y is z");
-  axes_in_space(space, 1.1F);
-  turn_in_space(space, {1, 0, 0}, {0, 1, 0}, 0.45F, pens::result);
-  turn_in_space(space, {0, 1, 0}, {0, 0, 1}, 0.45F, pens::result);
-  turn_in_space(space, {0, 0, 1}, {1, 0, 0}, 0.45F, pens::result);
+  space.axes_in_space({}, 1.1F);
+  space.sweep({}, {0.45F, 0, 0}, {0, 0.45F, 0}, pens::result);
+  space.sweep({}, {0, 0.45F, 0}, {0, 0, 0.45F}, pens::result);
+  space.sweep({}, {0, 0, 0.45F}, {0.45F, 0, 0}, pens::result);
   sheet.caption({465, 30}, "space: right-handed");
   return sheet;
 }
@@ -74,19 +47,12 @@ struct Second {
 
 // About the centroid.
 Second second_moments(const Outline &outline, Point *centroid) {
-  std::vector<float> x, y;
-  for (const Point &p : outline) {
-    x.push_back(p.x);
-    y.push_back(p.y);
-  }
-  x.push_back(0);
-  y.push_back(0);
-  const auto n = static_cast<std::int32_t>(outline.size());
+  Coordinates c(outline);
   float area = 0, sx = 0, sy = 0;
   Second about{};
-  trvapl(x.data(), y.data(), n, area);
-  trvspl(x.data(), y.data(), n, sx, sy);
-  trvipl(x.data(), y.data(), n, about.x, about.y, about.xy);
+  trvapl(c.x.data(), c.y.data(), c.n, area);
+  trvspl(c.x.data(), c.y.data(), c.n, sx, sy);
+  trvipl(c.x.data(), c.y.data(), c.n, about.x, about.y, about.xy);
   *centroid = {sy / area, sx / area};
   return {about.x - sx * sx / area, about.y - sy * sy / area, about.xy - sx * sy / area};
 }
@@ -154,9 +120,9 @@ void rotation_about(View &view, Rotation rotate, const Vector &first, const Vect
   require_at(p,
              static_cast<float>(std::cos(0.5)) * second + static_cast<float>(std::sin(0.5)) * first,
              routine + " with mode 1");
-  axes_in_space(view, 1.1F);
-  turn_in_space(view, first, second, 0.8F, pens::result);
-  turn_in_space(view, second, first, 0.5F, {colours::blue, 1.4, "5 3"});
+  view.axes_in_space({}, 1.1F);
+  view.sweep({}, 0.8F * first, 0.8F * second, pens::result);
+  view.sweep({}, 0.5F * second, 0.5F * first, {colours::blue, 1.4, "5 3"});
   view.sheet().caption(at, routine);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -15,6 +16,21 @@ struct Point {
 };
 
 using Outline = std::vector<Point>;
+
+// As a routine takes them: x and y apart, with the spare element of a polygon.
+struct Coordinates {
+  explicit Coordinates(const Outline &points) : n(static_cast<std::int32_t>(points.size())) {
+    for (const Point &p : points) {
+      x.push_back(p.x);
+      y.push_back(p.y);
+    }
+    x.push_back(0);
+    y.push_back(0);
+  }
+
+  std::int32_t n;
+  std::vector<float> x, y;
+};
 
 inline Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
 inline Point operator-(Point a, Point b) { return {a.x - b.x, a.y - b.y}; }

@@ -1,15 +1,19 @@
 // The outline routines: every dimension by its letter, the vertices as they are numbered.
 #include <algorithm>
 
+#include "catalogue.h"
+#include "dimension_lines.h"
 #include "figures.h"
 #include "profile.h"
 
 namespace figures {
 namespace {
 
-using Letter = View::Letter;
+using host::Side;
+using Placed = host::DimensionLines::Placed;
 
-constexpr Box paper{110, 80, 510, 340};
+constexpr double largest_width = 400, largest_height = 260;  // of the profile on the sheet
+constexpr double first_lane = 36, lane_pitch = 30;           // of the dimension lines
 
 Box bounds(const Profile &profile) {
   Box box{0, 0, 0, 0};
@@ -17,252 +21,132 @@ Box bounds(const Profile &profile) {
     for (const Point &p : polygon)
       box = {std::min<double>(box.left, p.x), std::min<double>(box.bottom, p.y),
              std::max<double>(box.right, p.x), std::max<double>(box.top, p.y)};
+  require_near(box.left, -box.right, "the origin in the middle, x");
+  require_near(box.bottom, -box.top, "the origin in the middle, y");
   return box;
 }
 
-// The profile with its numbers. Dimensions are told between two vertices, by their numbers, and must
-// measure what the routine was called with.
-class Drawing {
- public:
-  Drawing(const std::string &name, const std::string &title, Profile profile)
-      : profile_(std::move(profile)),
-        sheet_(name, 620, 420, title,
-               title + ", with its dimensions by their letters and its vertices by their numbers."),
-        view_(sheet_, paper, bounds(profile_)) {
-    const Box box = bounds(profile_);
-    require_near(box.left, -box.right, "the origin in the middle, x");
-    require_near(box.bottom, -box.top, "the origin in the middle, y");
-    view_.area(profile_.polygons);
-    view_.axes({}, 34);
-    view_.dot({}, colours::grey);
-    int number = 0;
-    for (std::size_t k = 0; k < profile_.polygons.size(); ++k) {
-      const Outline &polygon = profile_.polygons[k];
-      require(area_of(polygon) > 0, "polygon " + std::to_string(k + 1) + " counter-clockwise");
-      const std::size_t n = polygon.size();
-      for (std::size_t i = 0; i < n; ++i) {
-        vertices_.push_back(polygon[i]);
-        // The number of a hole's vertex stands in the hole: as if the hole ran clockwise.
-        const bool solid = profile_.signs[k] > 0;
-        view_.number(polygon[(i + (solid ? n - 1 : 1)) % n], polygon[i],
-                     polygon[(i + (solid ? 1 : n - 1)) % n], ++number);
-      }
-    }
-  }
+// A dimension line must begin and end where there is a vertex. One from the middle of the profile must
+// end in the middle between two.
+void require_vertices(const Profile &profile, const host::Measure &measure) {
+  std::vector<double> places;
+  for (const Outline &polygon : profile.polygons)
+    for (const Point &p : polygon) places.push_back(measure.is_along_x() ? p.x : p.y);
+  const auto is_there = [&](double end) {
+    return std::any_of(places.begin(), places.end(),
+                       [&](double place) { return std::fabs(place - end) < 1e-3; });
+  };
+  const auto has_twin = [&](double place) { return is_there(2 * measure.to() - place); };
+  require(measure.from == 0 ? std::any_of(places.begin(), places.end(), has_twin)
+                            : is_there(measure.from) && is_there(measure.to()),
+          std::string(measure.name));
+}
 
-  [[nodiscard]] Point vertex(std::size_t number) const { return vertices_.at(number - 1); }
-  void count(std::size_t vertices) const {
-    require(vertices_.size() == vertices, std::to_string(vertices) + " vertices");
+void draw_numbers(View &view, const Profile &profile) {
+  int number = 0;
+  for (std::size_t k = 0; k < profile.polygons.size(); ++k) {
+    const Outline &polygon = profile.polygons[k];
+    require(area_of(polygon) > 0, "polygon " + std::to_string(k + 1) + " counter-clockwise");
+    const std::size_t n = polygon.size();
+    // The number of a hole's vertex stands in the hole: as if the hole ran clockwise.
+    const std::size_t back = profile.signs[k] > 0 ? n - 1 : 1;
+    for (std::size_t i = 0; i < n; ++i)
+      view.number(polygon[(i + back) % n], polygon[i], polygon[(i + n - back) % n], ++number);
   }
-  void across(const std::string &letter, float value, std::size_t a, std::size_t b, double above,
-              Letter place = Letter::between) {
-    require_near(std::fabs(vertex(a).x - vertex(b).x), value, letter);
-    view_.across(vertex(a), vertex(b), above, letter, place);
-  }
-  void upright(const std::string &letter, float value, std::size_t a, std::size_t b, double right,
-               Letter place = Letter::between) {
-    require_near(std::fabs(vertex(a).y - vertex(b).y), value, letter);
-    view_.upright(vertex(a), vertex(b), right, letter, place);
-  }
-  View &view() { return view_; }
-  Sheet done() { return std::move(sheet_); }
+}
 
- private:
-  Profile profile_;
-  Sheet sheet_;
-  View view_;
-  std::vector<Point> vertices_;
+void draw_dimension(View &view, const Box &box, const Placed &line) {
+  const host::Measure &m = line.measure;
+  const bool is_ahead = m.side == Side::above || m.side == Side::right;
+  const double edge =
+      m.is_along_x() ? (is_ahead ? box.top : box.bottom) : (is_ahead ? box.right : box.left);
+  const double distance = first_lane + lane_pitch * static_cast<double>(line.lane);
+  const auto point = [&](double along) {
+    const auto u = static_cast<float>(along), v = static_cast<float>(m.level);
+    return m.is_along_x() ? Point{u, v} : Point{v, u};
+  };
+  view.dimension(!m.is_along_x(), point(m.from), point(m.to()),
+                 view.pixels(edge - m.level) + (is_ahead ? distance : -distance), line.figure,
+                 line.place);
+}
+
+Sheet draw(const std::string &name, std::string_view description, const Profile &profile,
+           const host::Measures &measures) {
+  const Box box = bounds(profile);
+  const double width = box.right - box.left, height = box.top - box.bottom;
+  const double scale = std::min(largest_width / width, largest_height / height);
+  const host::DimensionLines dimensions(measures, {box.left, box.right, box.bottom, box.top}, scale,
+                                        host::DimensionLines::Figure::letter);
+  const auto margin = [lanes = dimensions.lanes()](Side side) {
+    return 42 + lane_pitch * static_cast<double>(lanes[static_cast<std::size_t>(side)]);
+  };
+  const double left = margin(Side::left), bottom = margin(Side::below);
+  const std::string title =
+      name.substr(name.find('-') + 1) + ": " + std::string(description);  // "trvsec_t: T section"
+  Sheet sheet(name, left + scale * width + margin(Side::right),
+              bottom + scale * height + margin(Side::above), title,
+              title + ", with its dimensions by their letters and its vertices by their numbers.");
+  View view(sheet, {left, bottom, left + scale * width, bottom + scale * height}, box);
+  view.area(profile.polygons);
+  view.axes({}, 34);
+  view.dot({}, colours::grey);
+  draw_numbers(view, profile);
+  for (const auto &line : dimensions.lines()) {
+    require_vertices(profile, line.measure);
+    draw_dimension(view, box, line);
+  }
+  return sheet;
+}
+
+template <class P>
+Figure figure(std::string_view routine) {
+  return {"outline-" + std::string(routine), [](const std::string &name) {
+            static_assert(P::about.drawn.size() == P::about.dimensions.size());
+            const P drawn = host::made_of<P>([](std::size_t i) { return P::about.drawn[i]; });
+            const Profile outline = profile(drawn.section());
+            const Box box = bounds(outline);
+            return draw(name, P::about.description, outline,
+                        drawn.measures({box.left, box.right, box.bottom, box.top}));
+          }};
+}
+
+template <class P>
+void add(std::vector<Figure> &figures) {
+  if constexpr (P::about.routine != host::by_its_parts) {
+    figures.push_back(figure<P>(P::about.routine));
+  }
+}
+
+template <class P>
+void add_figure(std::vector<Figure> &figures) {
+  if constexpr (P::about.routine != host::by_its_parts) {
+    figures.push_back(figure<P>(P::about.routine));
+  }
+}
+
+template <class... P>
+std::vector<Figure> figures_of(host::Kinds<P...> /*profiles*/) {
+  std::vector<Figure> figures;
+  (..., add_figure<P>(figures));
+  return figures;
+}
+
+// trvsec_b takes a whole width, and tells 12 vertices though it gives 4.
+struct WholeBar : host::FlatBar {
+  [[nodiscard]] host::Section section() const {
+    host::Section bar = host::section_from(trvsec_b, static_cast<std::int32_t>(B), H);
+    require(bar.polygons == 1 && bar.parts[0].n == 12, "12 vertices told");
+    bar.parts[0].n = 4;
+    return bar;
+  }
 };
-
-Sheet draw_ia(const std::string &name) {
-  const float H = 300, B1 = 320, B2 = 220, T1 = 42, T2 = 34, TW = 30;
-  Drawing d(name, "I section of trvsec_ia", profile(trvsec_ia, H, B1, B2, T1, T2, TW));
-  d.count(12);
-  d.upright("H", H, 7, 12, 62);
-  d.across("B1", B1, 6, 7, -42);
-  d.across("B2", B2, 1, 12, 42);
-  d.upright("T1", T1, 5, 6, -40, Letter::behind);
-  d.upright("T2", T2, 1, 2, -40, Letter::behind);
-  d.across("TW", TW, 4, 9, 42, Letter::behind);
-  return d.done();
-}
-
-Sheet draw_h(const std::string &name) {
-  const float H = 400, B1 = 260, B2 = 190, T1 = 42, T2 = 34, TW = 30;
-  Drawing d(name, "I section on its side of trvsec_h", profile(trvsec_h, H, B1, B2, T1, T2, TW));
-  d.count(12);
-  d.across("H", H, 2, 7, -58);
-  d.upright("B1", B1, 1, 2, -52);
-  d.upright("B2", B2, 7, 8, 42);
-  d.across("T1", T1, 1, 12, 32, Letter::behind);
-  d.across("T2", T2, 8, 9, 32, Letter::behind);
-  d.upright("TW", TW, 5, 10, -60, Letter::behind);
-  return d.done();
-}
-
-Sheet draw_t(const std::string &name) {
-  const float B = 260, H = 240, TF = 38, TW = 32;
-  Drawing d(name, "T section of trvsec_t", profile(trvsec_t, B, H, TF, TW));
-  d.count(8);
-  d.across("B", B, 1, 8, 42);
-  d.upright("H", H, 5, 8, 200);
-  d.upright("TF", TF, 1, 2, -40, Letter::behind);
-  d.across("TW", TW, 4, 5, -38, Letter::behind);
-  return d.done();
-}
-
-Sheet draw_b(const std::string &name) {
-  constexpr std::int32_t B = 240;
-  const float H = 110;
-  Profile bar = profile(trvsec_b, B, H);
-  require(bar.polygons[0].size() == 12, "12 vertices told");
-  bar.polygons[0].resize(4);
-  Drawing d(name, "Flat bar of trvsec_b", bar);
-  d.count(4);
-  d.across("B", B, 2, 3, -42);
-  d.upright("H", H, 3, 4, 44);
-  return d.done();
-}
-
-Sheet draw_h1b(const std::string &name) {
-  const float W = 400, D = 280, P = 220, T1 = 40, T2 = 30, TW = 30, TP = 36;
-  Drawing d(name, "I section with a cover plate of trvsec_h1b",
-            profile(trvsec_h1b, W, D, P, T1, T2, TW, TP));
-  d.count(16);
-  d.across("W", W, 1, 12, 38);
-  d.across("D", D, 4, 9, -58);
-  d.upright("P", P, 9, 10, 110);
-  d.upright("TP", TP, 1, 2, -36, Letter::behind);
-  d.across("T1", T1, 4, 5, -28, Letter::before);
-  d.across("T2", T2, 8, 9, -28, Letter::behind);
-  d.upright("TW", TW, 6, 14, 50, Letter::behind);
-  return d.done();
-}
-
-Sheet draw_box(const std::string &name) {
-  const float BT = 420, BB = 330, TT = 36, TB = 30, H = 270, TW = 28, G = 180;
-  Drawing d(name, "Box girder of trvsec_box", profile(trvsec_box, BT, BB, TT, TB, H, TW, G));
-  d.count(16);
-  d.across("BT", BT, 1, 12, 38);
-  d.across("BB", BB, 6, 7, -40);
-  d.upright("H", H, 7, 12, 92);
-  d.upright("TT", TT, 1, 2, -36, Letter::behind);
-  d.upright("TB", TB, 5, 6, -36, Letter::behind);
-  d.across("TW", TW, 4, 14, 62, Letter::before);
-  d.across("TW", TW, 9, 15, 62, Letter::behind);
-  d.across("G", G, 14, 15, 40);
-  return d.done();
-}
-
-Sheet draw_rhs(const std::string &name) {
-  const float B = 300, H = 210, T = 34;
-  Drawing d(name, "Rectangular hollow section of trvsec_rhs", profile(trvsec_rhs, B, H, T));
-  d.count(8);
-  d.across("B", B, 2, 3, -42);
-  d.upright("H", H, 3, 4, 44);
-  d.across("T", T, 2, 6, 120, Letter::before);
-  d.upright("T", T, 1, 5, 90, Letter::behind);
-  return d.done();
-}
-
-Sheet draw_l2(const std::string &name) {
-  const float B = 170, H = 200, G = 44, T = 32, TV = 28;
-  Drawing d(name, "Two angles back to back of trvsec_l2", profile(trvsec_l2, B, H, G, T, TV));
-  d.count(12);
-  d.across("B", B, 1, 6, 38);
-  d.across("B", B, 7, 12, 38);
-  d.across("G", G, 6, 7, 38);
-  d.upright("H", H, 9, 12, 220);
-  d.upright("T", T, 1, 2, -34, Letter::behind);
-  d.across("TV", TV, 4, 5, -34, Letter::before);
-  d.across("TV", TV, 8, 9, -34, Letter::behind);
-  return d.done();
-}
-
-Sheet draw_tab(const std::string &name) {
-  const float B = 420, H = 220, BW = 290, E = 60, T = 34, TW = 30, TB = 28;
-  Drawing d(name, "Top plate on a cell of trvsec_tab", profile(trvsec_tab, B, H, BW, E, T, TW, TB));
-  d.count(16);
-  d.across("B", B, 1, 12, 38);
-  d.upright("H", H, 9, 10, 110);
-  d.across("BW", BW, 4, 9, -58);
-  d.upright("T", T, 1, 2, -36, Letter::behind);
-  d.across("TW", TW, 4, 5, -28, Letter::before);
-  d.across("TW", TW, 8, 9, -28, Letter::behind);
-  d.upright("TB", TB, 6, 14, 62, Letter::behind);
-  d.upright("E", E, 5, 6, 62);
-  return d.done();
-}
-
-Sheet draw_h2b(const std::string &name) {
-  const float B = 360, W = 270, HI = 260, TW1 = 40, TW2 = 30, TM = 28, TF = 34;
-  Drawing d(name, "Two-cell section of trvsec_h2b",
-            profile(trvsec_h2b, B, W, HI, TW1, TW2, TM, TF));
-  d.count(20);
-  d.across("B", B, 1, 12, 34);
-  d.across("W", W, 4, 9, -68);
-  d.upright("HI", HI, 9, 10, 92);
-  d.upright("TF", TF, 1, 2, -36, Letter::behind);
-  d.upright("TF", TF, 5, 6, -36, Letter::before);
-  d.across("TW1", TW1, 3, 13, -36, Letter::before);
-  d.across("TW2", TW2, 10, 16, -36, Letter::behind);
-  d.upright("TM", TM, 14, 17, 60, Letter::behind);
-  return d.done();
-}
-
-Sheet draw_i(const std::string &name) {
-  const float H = 320, B1 = 340, B2 = 290, T1 = 40, T2 = 34, TW = 30, S1 = 46, S2 = 38, E = 56;
-  Drawing d(name, "I section with an eccentric web of trvsec_i",
-            profile(trvsec_i, H, B1, B2, T1, T2, TW, S1, S2, E));
-  d.count(16);
-  d.upright("H", H, 9, 16, 62);
-  d.across("B1", B1, 8, 9, -40);
-  d.across("B2", B2, 1, 16, 40);
-  d.upright("T1", T1, 7, 8, -36, Letter::behind);
-  d.upright("T2", T2, 1, 2, -36, Letter::behind);
-  d.across("TW", TW, 5, 12, 22, Letter::behind);
-  d.across("S1", S1, 11, 12, 34, Letter::behind);
-  d.upright("S1", S1, 5, 6, -76);
-  d.across("S2", S2, 13, 14, -18, Letter::behind);
-  d.upright("S2", S2, 3, 4, -60);
-  require_near(0.5F * (d.vertex(4).x + d.vertex(13).x), E, "E");
-  d.view().line({E, 30}, {E, -60}, pens::dashed);
-  d.view().across({}, {E, 0}, -22, "E", Letter::before);
-  return d.done();
-}
-
-Sheet draw_c(const std::string &name) {
-  const float H = 400, B1 = 400, B2 = 340, C1 = 104, C2 = 92, D1 = 110, D2 = 96;
-  const float TW = 26, T1 = 32, T2 = 28, TC1 = 28, TC2 = 24, TD1 = 24, TD2 = 22;
-  Drawing d(name, "Channel with lips and folds of trvsec_c",
-            profile(trvsec_c, H, B1, B2, C1, C2, D1, D2, TW, T1, T2, TC1, TC2, TD1, TD2));
-  d.count(16);
-  d.upright("H", H, 1, 16, -46);
-  d.across("B1", B1, 1, 2, -40);
-  d.across("B2", B2, 15, 16, 40);
-  d.upright("C1", C1, 2, 3, 78);
-  d.upright("C2", C2, 14, 15, 78);
-  d.across("D1", D1, 3, 4, 28);
-  d.across("D2", D2, 13, 14, -28, Letter::behind);
-  d.across("TW", TW, 16, 9, -100, Letter::behind);
-  d.upright("T1", T1, 1, 8, 46, Letter::behind);
-  d.upright("T2", T2, 16, 9, 46, Letter::before);
-  d.across("TC1", TC1, 7, 2, 26, Letter::behind);
-  d.across("TC2", TC2, 10, 15, -26, Letter::behind);
-  d.upright("TD1", TD1, 4, 5, -46, Letter::before);
-  d.upright("TD2", TD2, 12, 13, -46, Letter::behind);
-  return d.done();
-}
 
 }  // namespace
 
 std::vector<Figure> outline_figures() {
-  return {{"outline-trvsec_ia", draw_ia},   {"outline-trvsec_h", draw_h},
-          {"outline-trvsec_t", draw_t},     {"outline-trvsec_b", draw_b},
-          {"outline-trvsec_h1b", draw_h1b}, {"outline-trvsec_box", draw_box},
-          {"outline-trvsec_rhs", draw_rhs}, {"outline-trvsec_l2", draw_l2},
-          {"outline-trvsec_tab", draw_tab}, {"outline-trvsec_h2b", draw_h2b},
-          {"outline-trvsec_i", draw_i},     {"outline-trvsec_c", draw_c}};
+  std::vector<Figure> figures = figures_of(host::Catalogue());
+  figures.push_back(figure<WholeBar>("trvsec_b"));
+  return figures;
 }
 
 }  // namespace figures

@@ -141,8 +141,7 @@ Sheet side(const std::string &name) {
   View view(sheet, {40, 30, 480, 250}, {0, 0, 7.5, 3.75});
   view.long_line(p1, p2, 30, pens::thin);
   view.arrow(p1, p2);
-  view.dot(p1);
-  view.label(p1, "P1", {-2, -13});
+  view.point(p1, "P1", {-2, -13});
   view.label(p2, "P2", {-2, 13});
   for (const Point &p : points) {
     float d = 0;
@@ -174,16 +173,12 @@ Sheet inside(const std::string &name) {
       name, 600, 330, "Where a segment crosses an outline",
       "The crossings of the segment from P1 to P2 with a closed outline in the order from P1, "
       "each with its place T on the segment and its edge. P1 is inside.");
-  std::vector<float> x, y;
-  for (const Point &p : yard) {
-    x.push_back(p.x);
-    y.push_back(p.y);
-  }
+  const Coordinates c(yard);
   const Point p1{1.25F, 2.25F}, p2{9.5F, 3.25F};
   std::array<float, 8> xi{}, yi{}, t{};
   std::array<std::int32_t, 8> edge{};
   std::int32_t count = 0, status = -1;
-  trvpin(x.data(), y.data(), 8, p1.x, p1.y, p2.x, p2.y, count, xi.data(), yi.data(), t.data(),
+  trvpin(c.x.data(), c.y.data(), 8, p1.x, p1.y, p2.x, p2.y, count, xi.data(), yi.data(), t.data(),
          edge.data(), status);
   require(status == 1, "P1 inside");
   require(count == 3 && edge[0] == 6 && edge[1] == 4 && edge[2] == 2, "crossings of edges 6, 4, 2");
@@ -206,8 +201,7 @@ Sheet inside(const std::string &name) {
     view.label(crossing, "edge " + std::to_string(edge[i]), {i == 0 ? -7.0 : 7.0, -14},
                colours::grey, 12);
   }
-  view.dot(p1);
-  view.label(p1, "P1", {-9, 0});
+  view.point(p1, "P1", {-9, 0});
   view.label(p2, "P2", {0, 13});
   return sheet;
 }

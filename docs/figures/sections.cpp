@@ -2,7 +2,6 @@
 #include <trelvin/trelvin.h>
 
 #include <array>
-#include <cstdio>
 
 #include "figures.h"
 #include "profile.h"
@@ -10,30 +9,17 @@
 namespace figures {
 namespace {
 
-// The points of a part, with the spare element of a polygon.
 struct Part {
   std::int32_t kind;
   std::vector<Point> points;
   float value = 0;
   float factor = 1;
-
-  [[nodiscard]] std::vector<float> xs() const { return coordinates(&Point::x); }
-  [[nodiscard]] std::vector<float> ys() const { return coordinates(&Point::y); }
-  [[nodiscard]] std::int32_t n() const { return static_cast<std::int32_t>(points.size()); }
-
- private:
-  [[nodiscard]] std::vector<float> coordinates(float Point::*which) const {
-    std::vector<float> values;
-    for (const Point &p : points) values.push_back(p.*which);
-    values.push_back(0);
-    return values;
-  }
 };
 
 float area_of(const Part &part) {
-  std::vector<float> x = part.xs(), y = part.ys();
+  Coordinates c(part.points);
   float area = 0;
-  trvair(x.data(), y.data(), part.n(), part.kind, part.value, part.factor, area);
+  trvair(c.x.data(), c.y.data(), c.n, part.kind, part.value, part.factor, area);
   return area;
 }
 
@@ -92,11 +78,11 @@ struct Section {
 };
 
 void add(Section *section, const Part &part) {
-  std::vector<float> x = part.xs(), y = part.ys();
+  Coordinates c(part.points);
   Section p;
-  trvair(x.data(), y.data(), part.n(), part.kind, part.value, part.factor, p.area);
-  trvstm(x.data(), y.data(), part.n(), part.kind, part.value, part.factor, p.sx, p.sy);
-  trvinm(x.data(), y.data(), part.n(), part.kind, part.value, 0, part.factor, p.ix, p.iy, p.ixy);
+  trvair(c.x.data(), c.y.data(), c.n, part.kind, part.value, part.factor, p.area);
+  trvstm(c.x.data(), c.y.data(), c.n, part.kind, part.value, part.factor, p.sx, p.sy);
+  trvinm(c.x.data(), c.y.data(), c.n, part.kind, part.value, 0, part.factor, p.ix, p.iy, p.ixy);
   *section = {section->area + p.area, section->sx + p.sx, section->sy + p.sy,
               section->ix + p.ix,     section->iy + p.iy, section->ixy + p.ixy};
 }
@@ -136,8 +122,7 @@ Sheet hole(const std::string &name) {
   view.label(s + polar(2.5, 0.5 * alpha), "alpha", {4, 0}, colours::red);
   view.label(one, "1", {9, 0}, colours::red);
   view.label(two, "2", {alpha < 0 ? 8.0 : -8.0, 6}, colours::red);
-  view.dot(s, colours::red);
-  view.label(s, "S", {8, 12}, colours::red);
+  view.point(s, "S", {8, 12}, colours::red);
   return sheet;
 }
 
@@ -279,7 +264,8 @@ Sheet shear_centre(const std::string &name) {
   require(section.shear_centre.x < 0 && section.centroid.x > 0, "S behind the web, G before it");
   require_near(section.shear_centre.y, 0, "S on the axis of symmetry");
   require_near(section.centroid.x - section.shear_centre.x, e0, "trvshc_c and trvmxt agree on e0");
-  Profile outline = profile(trvsec_c, H, B, B, C, C, 0.0F, 0.0F, t, t, t, t, t, t, t);
+  Profile outline =
+      profile(host::section_from(trvsec_c, H, B, B, C, C, 0.0F, 0.0F, t, t, t, t, t, t, t));
   for (Point &p : outline.polygons[0]) p = p + Point{0.5F * (B - t), 0};  // web's centre line at 0
   View view(sheet, {60, 50, 460, 300}, {-60, -70, 90, 70});
   view.area(outline.polygons);

@@ -46,34 +46,6 @@ void draw_frame(View &view, const Vector &at, const Frame &f, float size,
   }
 }
 
-void global_axes(View &view, const Vector &at, float reach) {
-  const std::array<Vector, 3> axes = {{{reach, 0, 0}, {0, reach, 0}, {0, 0, reach}}};
-  const std::array<const char *, 3> names = {"x", "y", "z"};
-  const std::array<Offset, 3> beside = {{{7, -2}, {0, 9}, {-5, -5}}};
-  for (std::size_t i = 0; i < 3; ++i) {
-    view.arrow(seen(at), seen(at + axes[i]), pens::thin);
-    view.label(seen(at + axes[i]), names[i], beside[i], colours::grey, 12);
-  }
-}
-
-// Part of a circle about `centre` from one vector to another, ends with an arrow head.
-void sweep(View &view, const Vector &centre, const Vector &from, const Vector &to, const Pen &pen,
-           bool with_head = true) {
-  std::vector<Point> path;
-  for (int i = 0; i <= 24; ++i) {
-    const float t = static_cast<float>(i) / 24;
-    const Vector v = (1 - t) * from + t * to;
-    path.push_back(seen(centre + static_cast<float>(length(from) / length(v)) * v));
-  }
-  const Point tip = path.back();
-  if (with_head) {
-    path.pop_back();
-    path.pop_back();
-  }
-  view.path(path, pen);
-  if (with_head) view.arrow(path.back(), tip, pen);
-}
-
 void frame_of_points(Sheet &sheet) {
   const Vector p0{0, 0, 0}, p1{2, 0, 0.25F}, p2{1.1F, 0.9F, -1.2F};
   const Frame f = frame_of(p0, p1, p2);
@@ -82,13 +54,11 @@ void frame_of_points(Sheet &sheet) {
   require_near(dot(f.e3, p2 - p0), 0, "P2 in the plane of e1 and e2");
   View view(sheet, {30, 50, 330, 290}, {-1, -0.8, 2.1, 1.3});
   view.area({{seen(p0), seen(p1), seen(p2)}}, colours::pale, pens::thin);
-  global_axes(view, {-0.7F, -0.75F, 0}, 0.4F);
+  view.axes_in_space({-0.7F, -0.75F, 0}, 0.4F);
   draw_frame(view, p0, f, 1, {{{2, -12}, {9, 2}, {9, 4}}});
-  view.dot(seen(p1));
-  view.dot(seen(p2));
   view.label(seen(p0), "P0", {-10, 4});
-  view.label(seen(p1), "P1", {9, 4});
-  view.label(seen(p2), "P2", {9, -8});
+  view.point(seen(p1), "P1", {9, 4});
+  view.point(seen(p2), "P2", {9, -8});
   sheet.caption({180, 24}, "trvaxe: e1 from P0 to P1, e3 towards +y");
 }
 
@@ -104,17 +74,16 @@ void frame_of_member(Sheet &sheet) {
   require_near(dot(cross(straight.e2, turned.e2), straight.e1), std::sin(angle),
                "angle right-handed about e1");
   View view(sheet, {370, 50, 660, 290}, {-1, -0.8, 2.1, 1.2});
-  global_axes(view, {-0.7F, -0.65F, 0}, 0.4F);
+  view.axes_in_space({-0.7F, -0.65F, 0}, 0.4F);
   view.line(seen(p0), seen(p1), {colours::ink, 3});
   view.arrow(seen(p0), seen(p0 + straight.e2), pens::dashed);
   view.arrow(seen(p0), seen(p0 + straight.e3), pens::dashed);
   draw_frame(view, p0, turned, 1, {{{0, 12}, {-8, 6}, {-9, 0}}});
-  sweep(view, p0, 0.7F * straight.e2, 0.7F * turned.e2, {colours::blue, 1.4});
-  sweep(view, p0, 0.7F * straight.e3, 0.7F * turned.e3, {colours::blue, 1.4});
+  view.sweep(p0, 0.7F * straight.e2, 0.7F * turned.e2, {colours::blue, 1.4});
+  view.sweep(p0, 0.7F * straight.e3, 0.7F * turned.e3, {colours::blue, 1.4});
   view.label(seen(p0 + 0.9F * straight.e2), "angle", {12, 10}, colours::blue);
-  view.dot(seen(p1));
   view.label(seen(p0), "P0", {8, -10});
-  view.label(seen(p1), "P1", {0, 13});
+  view.point(seen(p1), "P1", {0, 13});
   sheet.caption({515, 24}, "trvaxel: e2, e3 turned by angle about e1");
 }
 
@@ -147,11 +116,9 @@ void turn_about_centre(Sheet &sheet) {
   view.line(centre, turned, pens::thin);
   view.turn(centre, view.pixels(length(given - centre)), from, from + angle);
   view.label(centre + polar(0.8, from + 0.5 * angle), "angle", {0, 0}, colours::red);
-  view.dot(centre);
-  view.dot(given);
   view.dot(turned, colours::red);
-  view.label(centre, "(x0, y0)", {0, -13});
-  view.label(given, "(x, y)", {0, -13});
+  view.point(centre, "(x0, y0)", {0, -13});
+  view.point(given, "(x, y)", {0, -13});
   view.label(turned, "(xr, yr)", {0, 13});
   sheet.caption({120, 24}, "trvcer3");
 }
@@ -174,13 +141,11 @@ void turn_about_axis(Sheet &sheet) {
   view.arrow(seen(p0), seen(p1));
   view.line(seen(foot), seen(given), pens::thin);
   view.line(seen(foot), seen(turned), pens::thin);
-  sweep(view, foot, r, turned - foot, pens::result);
-  view.dot(seen(given));
-  view.dot(seen(turned), colours::red);
+  view.sweep(foot, r, turned - foot, pens::result);
   view.label(seen(p0), "P0", {-9, 0});
   view.label(seen(p1), "P1", {9, 4});
-  view.label(seen(given), "Q", {-4, -12});
-  view.label(seen(turned), "turned", {4, 12}, colours::red);
+  view.point(seen(given), "Q", {-4, -12});
+  view.point(seen(turned), "turned", {4, 12}, colours::red);
   sheet.caption({350, 24}, "trvpra");
 }
 
@@ -205,14 +170,13 @@ void turn_of_plane(Sheet &sheet) {
   view.area({{seen(p0), seen(p1), seen(p1 + edge), seen(p0 + edge)}}, colours::pale, pens::thin);
   view.area({{seen(p0), seen(p1), seen(p2), seen(p0 + away)}}, colours::none, pens::dashed);
   view.arrow(seen(p0), seen(p1));
-  sweep(view, p1, away, edge, pens::result);
+  view.sweep(p1, away, edge, pens::result);
   const Vector middle = 0.5F * (p0 + p1) + 0.5F * edge;
   view.arrow(seen(middle), seen(middle + 0.5F * normal), pens::result);
   view.label(seen(middle + 0.5F * normal), "(a, b, c)", {-8, 0}, colours::red);
   view.label(seen(p0), "P0", {-9, -6});
   view.label(seen(p1), "P1", {8, 6});
-  view.dot(seen(p2));
-  view.label(seen(p2), "P2", {9, -4});
+  view.point(seen(p2), "P2", {9, -4});
   sheet.caption({635, 24}, "trvpl7");
 }
 
@@ -245,21 +209,18 @@ Sheet member(const std::string &name) {
   const Vector on_axis = p0 + local[0] * f.e1;
   const Vector above = on_axis + local[1] * f.e2;
   View view(sheet, {40, 30, 520, 220}, {-1.6, -0.9, 4.1, 1.2});
-  global_axes(view, {-1.2F, -0.8F, 0}, 0.6F);
+  view.axes_in_space({-1.2F, -0.8F, 0}, 0.6F);
   view.line(seen(p0), seen(p1), {colours::steel, 9});
   view.line(seen(p0), seen(p1), pens::thin);
   draw_frame(view, p0, f, 1, {{{2, 11}, {0, 10}, {-9, -4}}});
   view.path({seen(on_axis), seen(above), seen(q)}, pens::dashed);
-  view.dot(seen(p0));
-  view.dot(seen(p1));
-  view.dot(seen(on_axis), colours::grey);
   view.dot(seen(q), colours::red);
-  view.label(seen(p0), "P0", {6, -13});
-  view.label(seen(p1), "P1", {10, 4});
+  view.point(seen(p0), "P0", {6, -13});
+  view.point(seen(p1), "P1", {10, 4});
   view.label(seen(q), "Q", {-3, -12});
   view.label(seen(on_axis + 0.5F * (above - on_axis)), "along e2", {9, 4}, colours::grey, 12);
   view.label(seen(above + 0.5F * (q - above)), "along e3", {-6, 8}, colours::grey, 12);
-  view.label(seen(on_axis), "along e1", {14, -16}, colours::grey, 12);
+  view.point(seen(on_axis), "along e1", {14, -16}, colours::grey, 12);
   return sheet;
 }
 
@@ -292,11 +253,10 @@ Sheet plane(const std::string &name) {
   view.arrow(seen(middle), seen(middle + n), {colours::blue, 1.6});
   view.label(seen(middle + n), "(a, b, c)", {-8, 4}, colours::blue);
   view.line(seen(q), seen(foot), pens::result);
-  view.dot(seen(foot), colours::grey);
   view.dot(seen(q), colours::red);
   view.label(seen(q), "Q", {10, 4});
   view.label(seen(q + 0.5F * (foot - q)), "distance", {9, 0}, colours::red);
-  view.label(seen(foot), "foot", {9, -5}, colours::grey, 12);
+  view.point(seen(foot), "foot", {9, -5}, colours::grey, 12);
   view.label(seen(p0), "P0", {-9, -4});
   view.label(seen(p1), "P1", {9, -4});
   view.label(seen(p2), "P2", {-9, 6});

@@ -18,6 +18,7 @@ import sys
 import tempfile
 import unittest
 import xml.etree.ElementTree as ElementTree
+from pathlib import Path
 
 try:
     import pty
@@ -87,28 +88,11 @@ BAD_INPUT = {
     "rhs 100 100 0": "T = '0'", "rhs 100 -5 5": "H = '-5'", "rhs '' 100 5": "B = ''",
     "rhs 100 ' 100' 5": "H = ' 100'", "rhs 100 100 5 --nosuch": "--nosuch",
     "rhs 100 100 5 --svg": "--svg", "rhs 100 100 5 --svg --json": "--svg",
-    "rhs 100 100 60 --svg out.svg": "walls T", "rhs 100 100 50": "walls T",
+    "rhs 100 100 60 --svg out.svg": "walls T",
     "rhs 1e15 1e15 1e10": "single precision", "rhs 1e-15 1e-15 1e-16": "single precision",
-    "ia 30 100 100 20 20 5": "flanges T1 and T2", "ia 300 100 50 10 10 60": "web TW",
-    "h 30 100 100 20 20 5": "flanges T1 and T2",
-    "i 400 310 150 22 11 8.5 200 200 0": "fillets", "i 400 310 150 22 11 8.5 0 0 80": "flange 2",
-    "c 200 80 60 25 180 12 10 3 4 5 2 2.5 1.5 2": "lips",
-    "c 200 80 60 25 20 12 58 3 4 5 2 2.5 1.5 2": "fold 2", "plates": "file",
-    "plates missing.txt": "'missing.txt'", "t 100 50 60 8": "flange TF",
-    "t 10 50 6 18": "stem TW",
-    "h1b 250 200 160 9 200 8 15": "flanges T1 and T2", "h1b 150 200 160 9 22 8 15": "cover plate",
-    "h1b 250 200 160 9 22 170 15": "web TW", "box 3000 2000 20 25 40 12 1600": "flanges TT",
-    "box 3000 1600 20 25 1500 12 1600": "webs", "l2 100 150 12 10 140": "TV",
-    "l 100 60 60 0": "thick", "l 100 60 50 12": "fillet R",
-    "l2 100 150 12 160 14": "horizontal leg T", "tab 500 400 300 390 15 10 12": "bottom plate",
-    "tab 500 400 300 60 15 150 12": "webs TW", "tab 200 400 300 60 15 10 12": "top plate",
-    "h2b 300 240 260 100 140 12 15": "webs TW1", "h2b 300 240 260 10 30 260 15": "middle plate",
-    "h2b 200 240 260 10 30 12 15": "webs W", "rolled 300 150 7.1 10.7 75": "fillets R",
-    "rolled 80 150 7.1 10.7 30": "fillets R", "rhz 100 100 5": "did you mean 'rhs'?",
-    "rolld 1": "'rolled'?", "Channel 1": "mean 'c'?", "plate x": "'plates'?",
-    "rhs 1,0,5 2 3": "B =",
-    "rhs 1,0.5 2 3": "B =", "batch": "file", "batch missing.csv": "'missing.csv'",
-    "batch a b": "file", "batch a --jobs 0": "--jobs",
+    "plates": "file", "plates missing.txt": "'missing.txt'",
+    "rhs 1,0,5 2 3": "B =", "rhs 1,0.5 2 3": "B =", "batch": "file", "batch a b": "file",
+    "batch missing.csv": "'missing.csv'", "batch a --jobs 0": "--jobs",
     "batch a --jobs 257": "--jobs", "batch a --jobs 2x": "--jobs", "b 1 -a": "option '-a'",
     "b 1 -z": "option '-z'", "b 1 -A": "option '-A'", "b 1 -Z": "option '-Z'",
     "b 1 2 --jobs 2": "batch", "batch a --json": "file", "rhs 100 100 5 --all": "--all",
@@ -121,6 +105,7 @@ LIMITS = [line.split("; ") for line in """
 ia {} 100 100 20 10 5; 31; 30; flanges T1 and T2
 ia 300 50 100 10 10 {}; 50; 51; web TW
 ia 300 100 50 10 10 {}; 50; 51; web TW
+h {} 100 100 20 10 5; 31; 30; flanges T1 and T2
 i 100 90 90 20 30 10 30 {} 0; 19; 20; flanges and fillets
 i 100 50 90 9 9 10 10 5 {}; 10; 10.5; web TW with its fillets S1
 i 100 50 90 9 9 {} 10 5 10; 10; 11; web TW with its fillets S1
@@ -172,9 +157,8 @@ b 1 {}; 1e-12; 1e-13; the section is
 b {} 1; 1e-12; 1e-13; the section is""".splitlines()[1:]]
 
 # What is near to a word that is no profile.
-NEAR = {"lat": "", "rol": "", "rhz": "'rhs'", "girder": "'box'", "rroolled": "'rolled'",
-        "ROOT": "'l' or 'rolled'", "batc": "'batch'",
-        "section": "'ia', 'h', 't', 'h1b', 'rhs' or 'rolled'",
+NEAR = {"lat": "", "rol": "", "rhz": "'rhs'", "Channel": "'c'",
+        "girder": "'box'", "rroolled": "'rolled'", "ROOT": "'l' or 'rolled'", "batc": "'batch'",
         "plate": "'h1b', 'tab', 'h2b' or 'plates'"}
 
 # The rows of the table: heading, names of the figures, power of mm.
@@ -202,15 +186,28 @@ def run(arguments, folder=None, stdout=subprocess.PIPE, **options):
 
 
 @functools.cache  # starting a program under Wine takes its time
-def json_of(arguments):
-    result = run(arguments + " --json")
+def output_of(arguments):
+    result = run(arguments)
     if result.returncode != 0:
         raise AssertionError(result.stderr)
     return result.stdout
 
 
+def profiles():
+    """The profiles that the program lists, with their dimensions."""
+    listed = re.findall(r"\n  ([a-z]\w*)((?: [A-Z]+[12]?)+)\s", output_of("--help"))
+    *listed, (last, _) = listed
+    assert last == "plates"
+    return {name: dimensions.split() for name, dimensions in listed}
+
+
+def example(profile):
+    """Of the profile's help."""
+    return re.search("\nexample: section_properties (.*)", output_of(profile + " --help"))[1]
+
+
 def figures(arguments):
-    return json.loads(json_of(arguments))
+    return json.loads(output_of(arguments + " --json"))
 
 
 def add_plates(plates):
@@ -269,42 +266,54 @@ def plastic(heights):
 
 
 class SectionProperties(unittest.TestCase):
-    def test_plates_come_from_a_file(self):
-        with tempfile.TemporaryDirectory() as folder:
-            def answer(text):
-                with open(os.path.join(folder, "p.txt"), "w", encoding="utf-8") as file:
-                    file.write(text)
-                return run("plates p.txt --json --svg p.svg", folder)
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
 
-            f = json.loads(answer(PLATES).stdout)
-            t, h, b, c = 2, 198, 78, 24  # centre lines
-            area = t * (h + 2 * b + 2 * c)
-            ix = t * (h**3 / 12 + 2 * b * h * h / 4 + 2 * (c**3 / 12 + c * (h / 2 - c / 2) ** 2))
-            ix += 2 * b * t**3 / 12
-            xs = t * (b * b + 2 * c * b) / area
-            for name, expected in (("area", area), ("Ix", ix), ("xs", xs), ("It", area * 4 / 3)):
-                self.assertAlmostEqual(f[name] / expected, 1, delta=TOLERANCE)
-            self.assertLess(f["xm"], -30)  # beyond the web
-            for side in ("x1", "x2", "y1", "y2"):
-                fibre = f["e" + side.translate(str.maketrans("xy", "yx"))]
-                moment = f["centroidal"]["I" + side[0]]
-                self.assertAlmostEqual(f["W" + side] * fibre / moment, 1, delta=TOLERANCE)
-            self.assertAlmostEqual(f["ey1"], h / 2, delta=1.01)
-            with open(os.path.join(folder, "p.svg"), encoding="utf-8") as picture:  # over all
-                self.assertEqual(re.findall(r">(\d\d+)</text>", picture.read()), ["80", "200"])
-            rings = [[tuple(map(float, v.split())) for v in ring.split("L")]
-                     for ring in drawn_steel("plates p.txt", folder)]
-            heights = [y for ring in rings for _, y in ring]
-            mm = 200 / (max(heights) - min(heights))
-            for ring, length in zip(rings, (h, b, b, c, c), strict=True):
-                self.assertAlmostEqual(-enclosed_area(ring) * mm**2, t * length, delta=t)
-            for ending in ("0 0 1", "0 0 0 x 2", "0 0 0 0 2"):
-                result = answer(PLATES + ending)
-                self.assertEqual((result.returncode, result.stdout), (2, ""))
-                self.assertRegex(result.stderr, "p.txt:7: .* x1 y1|a plate has no length or")
-            self.assertIn(": p.txt: no plates\n", answer("# none").stderr)
-            for closing in ("78 -75 78 75 2", "78 -75 20 99 2", "78 -75 20 120 2"):
-                self.assertNotIn("It", json.loads(answer(PLATES + closing).stdout))
+    def write(self, name, text):
+        (self.folder / name).write_text(text, encoding="utf-8")
+
+    def read(self, name):
+        return (self.folder / name).read_text(encoding="utf-8")
+
+    def draw(self, name, **options):
+        return run("rhs 100 100 5 --svg " + name, self.folder, **options)
+
+    def test_plates_come_from_a_file(self):
+        def answer(text):
+            self.write("p.txt", text)
+            return run("plates p.txt --json --svg p.svg", self.folder)
+
+        f = json.loads(answer(PLATES).stdout)
+        t, h, b, c = 2, 198, 78, 24  # centre lines
+        area = t * (h + 2 * b + 2 * c)
+        ix = t * (h**3 / 12 + 2 * b * h * h / 4 + 2 * (c**3 / 12 + c * (h / 2 - c / 2) ** 2))
+        ix += 2 * b * t**3 / 12
+        xs = t * (b * b + 2 * c * b) / area
+        for name, expected in (("area", area), ("Ix", ix), ("xs", xs), ("It", area * 4 / 3)):
+            self.assertAlmostEqual(f[name] / expected, 1, delta=TOLERANCE)
+        self.assertLess(f["xm"], -30)  # beyond the web
+        for side in ("x1", "x2", "y1", "y2"):
+            fibre = f["e" + side.translate(str.maketrans("xy", "yx"))]
+            moment = f["centroidal"]["I" + side[0]]
+            self.assertAlmostEqual(f["W" + side] * fibre / moment, 1, delta=TOLERANCE)
+        self.assertAlmostEqual(f["ey1"], h / 2, delta=1.01)
+        over_all = re.findall(r">(\d\d+)</text>", self.read("p.svg"))
+        self.assertEqual(over_all, ["80", "200"])
+        rings = [[tuple(map(float, v.split())) for v in ring.split("L")]
+                 for ring in drawn_steel("plates p.txt", self.folder)]
+        heights = [y for ring in rings for _, y in ring]
+        mm = 200 / (max(heights) - min(heights))
+        for ring, length in zip(rings, (h, b, b, c, c), strict=True):
+            self.assertAlmostEqual(-enclosed_area(ring) * mm**2, t * length, delta=t)
+        for ending in ("0 0 1", "0 0 0 x 2", "0 0 0 0 2"):
+            result = answer(PLATES + ending)
+            self.assertEqual((result.returncode, result.stdout), (2, ""))
+            self.assertRegex(result.stderr, "p.txt:7: .* x1 y1|a plate has no length or")
+        self.assertIn(": p.txt: no plates\n", answer("# none").stderr)
+        for closing in ("78 -75 78 75 2", "78 -75 20 99 2", "78 -75 20 120 2"):
+            self.assertNotIn("It", json.loads(answer(PLATES + closing).stdout))
 
     def test_rolled_sections_have_the_published_values(self):
         for dimensions, published in ROLLED.items():
@@ -466,15 +475,13 @@ class SectionProperties(unittest.TestCase):
                 "12 194.5 -75 194.5 11", "12 194.5 75 194.5 11"),
             "t 180 260 17 9.5": (
                 "0 121.5 0 -130 9.5", "0 121.5 -90 121.5 17", "0 121.5 90 121.5 17")}
-        with tempfile.TemporaryDirectory() as folder:
-            for section, plates in sections.items():
-                with open(os.path.join(folder, "p.txt"), "w", encoding="utf-8") as file:
-                    file.write("\n".join(plates))
-                f, sum_of_plates = figures(section), run("plates p.txt --json", folder).stdout
-                for name, expected in json.loads(sum_of_plates).items():
-                    if name in ("It", "Iw", "xm", "ym"):
-                        self.assertAlmostEqual(f[name], expected, msg=section + name,
-                                               delta=TOLERANCE * max(abs(expected), 100))
+        for section, plates in sections.items():
+            self.write("p.txt", "\n".join(plates))
+            f, sum_of_plates = figures(section), run("plates p.txt --json", self.folder).stdout
+            for name, expected in json.loads(sum_of_plates).items():
+                if name in ("It", "Iw", "xm", "ym"):
+                    self.assertAlmostEqual(f[name], expected, msg=section + name,
+                                           delta=TOLERANCE * max(abs(expected), 100))
 
     def test_what_is_not_given_is_told(self):
         f = figures("l2 100 150 12 10 14")
@@ -539,40 +546,29 @@ class SectionProperties(unittest.TestCase):
         self.assertEqual((f["centroidal"]["Ixy"], f["alpha"]), (0, 0))
 
     def test_picture_shows_the_steel(self):
-        with tempfile.TemporaryDirectory() as folder:
-            for profile, (plates, solids, holes) in OUTLINES.items():
-                with self.subTest(profile):
-                    rings = [ring.split("L") for ring in drawn_steel(profile, folder)]
-                    rings = [[tuple(map(float, v.split())) for v in ring] for ring in rings]
-                    self.assertEqual(len(rings), solids + holes)
-                    xs = [x for ring in rings for x, _ in ring]
-                    width = max(p[1] for p in plates) - min(p[0] for p in plates)
-                    mm = width / (max(xs) - min(xs))
-                    areas = [-enclosed_area(ring) * mm * mm for ring in rings]  # y downwards
-                    steel = add_plates(plates)[0]
-                    self.assertAlmostEqual(sum(areas[:solids]) - sum(areas[solids:]), steel,
-                                           delta=0.01 * steel)
-            (rolled,) = drawn_steel("rolled 300 150 7.1 10.7 15", folder)
-            self.assertEqual(rolled.count("A20.00 20.00 0 0 1"), 4)  # at 4/3 px a mm
-            self.assertEqual(os.listdir(folder), ["a.svg"])
-            # A heavy flange at the lower right pulls axis 1 down there: clockwise, positive in SVG.
-            drawn_steel("h1b 250 200 160 9 22 8 15", folder)
-            picture = ElementTree.parse(os.path.join(folder, "a.svg"))
-            axis = next(e for e in picture.iter() if e.get("stroke-dasharray") == "14 4 2 4")
-            x1, y1, x2, y2 = (float(axis.get(name)) for name in ("x1", "y1", "x2", "y2"))
-            angle = math.degrees(math.atan2(y2 - y1, x2 - x1))
-            self.assertAlmostEqual(angle, 9.2, delta=0.1)
+        for profile, (plates, solids, holes) in OUTLINES.items():
+            with self.subTest(profile):
+                rings = [ring.split("L") for ring in drawn_steel(profile, self.folder)]
+                rings = [[tuple(map(float, v.split())) for v in ring] for ring in rings]
+                self.assertEqual(len(rings), solids + holes)
+                xs = [x for ring in rings for x, _ in ring]
+                width = max(p[1] for p in plates) - min(p[0] for p in plates)
+                mm = width / (max(xs) - min(xs))
+                areas = [-enclosed_area(ring) * mm * mm for ring in rings]  # y downwards
+                steel = add_plates(plates)[0]
+                self.assertAlmostEqual(sum(areas[:solids]) - sum(areas[solids:]), steel,
+                                       delta=0.01 * steel)
+        self.assertEqual(os.listdir(self.folder), ["a.svg"])
 
     def test_bad_input_is_told_in_a_line(self):
-        with tempfile.TemporaryDirectory() as folder:
-            for arguments, named in BAD_INPUT.items():
-                with self.subTest(arguments):
-                    result = run(arguments, folder)
-                    message = result.stderr.splitlines()
-                    self.assertEqual((result.returncode, result.stdout), (2, ""))
-                    self.assertRegex(message[0], "^section_properties: .*" + re.escape(named))
-                    self.assertTrue(len(message) == 1 or "usage: section_properties " in message[1])
-                    self.assertEqual(os.listdir(folder), [])
+        for arguments, named in BAD_INPUT.items():
+            with self.subTest(arguments):
+                result = run(arguments, self.folder)
+                message = result.stderr.splitlines()
+                self.assertEqual((result.returncode, result.stdout), (2, ""))
+                self.assertRegex(message[0], "^section_properties: .*" + re.escape(named))
+                self.assertTrue(len(message) == 1 or "usage: section_properties " in message[1])
+                self.assertEqual(os.listdir(self.folder), [])
         self.assertIn("rhs B H T", run("rhs 100 100").stderr)
         for word, near in NEAR.items():
             told = f", did you mean {near}?" if near else ""
@@ -586,22 +582,19 @@ class SectionProperties(unittest.TestCase):
         for line, row, message in zip(lines, rows, named, strict=True):
             self.assertRegex(row["error"], message, line)
 
-    def test_help_lists_every_profile(self):
-        result = run("--help")
-        self.assertEqual((result.returncode, result.stderr), (0, ""))
-        for profile in list(OUTLINES) + ["rolled 1 2 3 4 5"]:
-            name, *dimensions = profile.split()
-            self.assertRegex(result.stdout, f"\n  {name}( [A-Z]+[12]?){{{len(dimensions)}}}\\s ")
-
     def test_help_of_a_profile_draws_its_dimensions(self):
-        listed = re.findall(r"\n  ([a-z]\w*)((?: [A-Z]+[12]?)+)\s", run("--help").stdout)
-        for name, dimensions in listed[:-1]:  # plates comes last
-            picture = run(name.upper() + " -h").stdout.split("\n\n", 2)[2]
-            for dimension in dimensions.split():
+        for name, dimensions in profiles().items():
+            usage, text, picture = run(name.upper() + " -h").stdout.split("\n\n", 2)
+            self.assertIn("usage: section_properties " + " ".join([name, *dimensions]), usage)
+            self.assertIn(text.split(", dimensions in mm")[0] + "\n", output_of("--help"))
+            for dimension in dimensions:
                 self.assertRegex(picture, rf"\b{dimension}\b", name)
         for name, zero in (("i", "S1, S2, E."), ("l", "R."), ("rhs", "")):
-            self.assertEqual(run(name + " -h").stdout.partition("\nMay be 0: ")[2].strip(), zero)
-        self.assertEqual((len(listed), listed[-1][0]), (len(OUTLINES) + 1, "plates"))
+            self.assertEqual(output_of(name + " --help").partition("\nMay be 0: ")[2].strip(), zero)
+
+    def test_every_profile_has_its_rows(self):
+        for rows, others in ((OUTLINES, ["rolled"]), ([form for form, *_ in LIMITS], [])):
+            self.assertEqual({row.split()[0] for row in rows}.union(others), profiles().keys())
 
     def test_version_is_that_of_the_library(self):
         with open(os.path.dirname(__file__) + "/../../include/trelvin/calling.h") as header:
@@ -645,10 +638,8 @@ class SectionProperties(unittest.TestCase):
                          (2, "section_properties: 3 of 7 lines are no sections"))
 
     def test_jobs_keep_the_order(self):
-        with tempfile.TemporaryDirectory() as folder:  # more than a block of one job
-            with open(os.path.join(folder, "a.csv"), "w", encoding="utf-8") as file:
-                file.writelines(f"b {i} 1{' ' * (i % 40)}\n" for i in range(1, 50001))
-            one, three = (run(f"batch a.csv --jobs {n}", folder).stdout for n in (1, 3))
+        self.write("a.csv", "".join(f"b {i} 1{' ' * (i % 40)}\n" for i in range(1, 50001)))
+        one, three = (run(f"batch a.csv --jobs {n}", self.folder).stdout for n in (1, 3))
         self.assertTrue(one == three)
         areas = [(row["line"], row["area"]) for row in csv.DictReader(one.splitlines())]
         self.assertTrue(areas == [(str(i), str(i)) for i in range(1, 50001)])
@@ -671,26 +662,25 @@ class SectionProperties(unittest.TestCase):
 
     def test_a_file_without_lines_is_refused(self):
         longest = "#" + 65535 * "." + "\n"
-        with tempfile.TemporaryDirectory() as folder:
-            def answer(command, text):
-                with open(os.path.join(folder, "a.txt"), "w", encoding="utf-8") as file:
-                    file.write(text)
-                return run(command + " a.txt", folder)
 
-            for command, line in (("batch", "b 2 3\n"), ("plates --json", "0 0 9 0 1\n")):
-                lines = line + 20 * longest + line  # several blocks
-                good, long = answer(command, lines), answer(command, lines + "#" + longest + line)
-                self.assertEqual((good.returncode, long.returncode), (0, 2), good.stderr)
-                self.assertEqual(long.stdout, good.stdout if command == "batch" else "")
-                self.assertEqual(long.stderr, "section_properties: a.txt:23: the line is too long; "
-                                 "a line must have at most 65536 bytes\n")
-                for name in [folder] + ["/dev/zero"] * IS_NATIVE:
-                    result = run(f"{command} '{name}'", timeout=60)
-                    self.assertEqual(result.returncode, 2)
-                    told = "/dev/zero:1: the line is too long" if result.stderr.count("zero") else (
-                        f"cannot read '{name}'")
-                    self.assertIn(told, result.stderr)
-            self.assertEqual(json.loads(good.stdout)["area"], 18)
+        def answer(command, text):
+            self.write("a.txt", text)
+            return run(command + " a.txt", self.folder)
+
+        for command, line in (("batch", "b 2 3\n"), ("plates --json", "0 0 9 0 1\n")):
+            lines = line + 20 * longest + line  # several blocks
+            good, long = answer(command, lines), answer(command, lines + "#" + longest + line)
+            self.assertEqual((good.returncode, long.returncode), (0, 2), good.stderr)
+            self.assertEqual(long.stdout, good.stdout if command == "batch" else "")
+            self.assertEqual(long.stderr, "section_properties: a.txt:23: the line is too long; "
+                             "a line must have at most 65536 bytes\n")
+            for name in [self.folder] + ["/dev/zero"] * IS_NATIVE:
+                result = run(f"{command} '{name}'", timeout=60)
+                self.assertEqual(result.returncode, 2)
+                told = "/dev/zero:1: the line is too long" if result.stderr.count("zero") else (
+                    f"cannot read '{name}'")
+                self.assertIn(told, result.stderr)
+        self.assertEqual(json.loads(good.stdout)["area"], 18)
 
     @unittest.skipUnless(IS_NATIVE, "needs a terminal")
     def test_a_terminal_shows_the_progress(self):
@@ -706,82 +696,67 @@ class SectionProperties(unittest.TestCase):
 
         # One and a half blocks, of 16 bytes a line, with a section in each.
         text = ("b 2 3          \n" + 65535 * "#              \n") + 32768 * "b 2 3          \n"
-        with tempfile.TemporaryDirectory() as folder:
-            with open(os.path.join(folder, "a.csv"), "w", encoding="utf-8") as file:
-                file.write(text)
-            options = {"cwd": folder, "stdout": subprocess.DEVNULL}
-            self.assertEqual(shown("batch a.csv", **options),
-                             f"\r[{20 * '#'}{10 * '.'}] 66 %  1 sections"
-                             f"\r[{30 * '#'}] 100 %  32769 sections\r\n$")
-            with open(os.path.join(folder, "a.csv"), "rb") as file:
-                self.assertEqual(shown("batch -", stdin=file, **options),
-                                 "\r1 sections\r32769 sections\r\n$")
+        self.write("a.csv", text)
+        options = {"cwd": self.folder, "stdout": subprocess.DEVNULL}
+        self.assertEqual(shown("batch a.csv", **options),
+                         f"\r[{20 * '#'}{10 * '.'}] 66 %  1 section"
+                         f"\r[{30 * '#'}] 100 %  32769 sections\r\n$")
+        with open(self.folder / "a.csv", "rb") as file:
+            self.assertEqual(shown("batch -", stdin=file, **options),
+                             "\r1 section\r32769 sections\r\n$")
         end = pty.openpty()[1]
         with open(end, "wb") as stdout:  # which shows the lines themselves
             self.assertEqual(shown("batch -", input=b"b 2 3", stdout=stdout), "$")
 
     @unittest.skipUnless(IS_NATIVE, "needs a limit on file sizes")
     def test_a_picture_that_fails_leaves_the_old_one(self):
-        with tempfile.TemporaryDirectory() as folder:
-            old = os.path.join(folder, "old.svg")
-            with open(old, "w", encoding="utf-8") as file:
-                file.write("old")
-            result = run("rhs 100 100 5 --svg old.svg", folder, restore_signals=False,
-                         preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (999, 999)))
-            self.assertEqual((result.returncode, result.stdout), (1, ""))
-            self.assertEqual(os.listdir(folder), ["old.svg"])
-            with open(old, encoding="utf-8") as file:
-                self.assertEqual(file.read(), "old")
+        self.write("old.svg", "old")
+        limit = functools.partial(resource.setrlimit, resource.RLIMIT_FSIZE, (999, 999))
+        result = self.draw("old.svg", restore_signals=False, preexec_fn=limit)
+        self.assertEqual((result.returncode, result.stdout), (1, ""))
+        self.assertEqual(os.listdir(self.folder), ["old.svg"])
+        self.assertEqual(self.read("old.svg"), "old")
 
     def test_a_picture_takes_the_place_of_its_file_only(self):
-        with tempfile.TemporaryDirectory() as folder:
-            def draw(name, **options):
-                return run("rhs 100 100 5 --svg " + name, folder, **options).returncode
+        far = self.folder / "far"
+        far.mkdir()
+        self.write("far/old.svg", "other")
+        self.write("other", "other")
+        links = {"a.svg.part": "other", "near.svg": "far/old.svg", "a.svg": "near.svg"}
+        for link, target in links.items():
+            os.symlink(target, self.folder / link)
+        old = far / "old.svg"
+        old.chmod(0o604)
+        if IS_NATIVE and os.getuid() == 0:
+            os.chown(old, 12, 34)
+        before = os.stat(old)
+        self.assertEqual(self.draw("a.svg").returncode, 0)
+        self.assertEqual((self.read(old)[:5], self.read("other")), ("<?xml", "other"))
+        self.assertEqual({link: os.readlink(self.folder / link) for link in links}, links)
+        self.assertEqual(os.listdir(far), ["old.svg"])
+        if not IS_NATIVE:
+            return
+        for kept in (stat.ST_MODE, stat.ST_UID, stat.ST_GID):
+            self.assertEqual(os.stat(old)[kept], before[kept])
+        os.remove(old)
+        self.assertEqual(self.draw("a.svg", umask=0o027).returncode, 0)  # creates what the link leads to
+        self.assertEqual(stat.S_IMODE(os.stat(old).st_mode), 0o640)
 
-            def content(name):
-                with open(os.path.join(folder, name), encoding="utf-8") as file:
-                    return file.read(5)
+        def take_names(count):  # those that the process will use
+            for i in range(count):
+                os.symlink("../other", f"far/.section_properties-{os.getpid()}-{i}.part")
 
-            far = os.path.join(folder, "far")
-            old = os.path.join(far, "old.svg")
-            os.mkdir(far)
-            for name in (old, os.path.join(folder, "other")):
-                with open(name, "w", encoding="utf-8") as file:
-                    file.write("other")
-            links = {"a.svg.part": "other", "near.svg": "far/old.svg", "a.svg": "near.svg"}
-            in_folder = {os.path.join(folder, link): target for link, target in links.items()}
-            for link, target in in_folder.items():
-                os.symlink(target, link)
-            os.chmod(old, 0o604)
-            if IS_NATIVE and os.getuid() == 0:
-                os.chown(old, 12, 34)
-            before = os.stat(old)
-            self.assertEqual((draw("a.svg"), content(old), content("other")), (0, "<?xml", "other"))
-            self.assertEqual({link: os.readlink(link) for link in in_folder}, in_folder)
-            self.assertEqual(os.listdir(far), ["old.svg"])
-            if not IS_NATIVE:
-                return
-            for kept in (stat.ST_MODE, stat.ST_UID, stat.ST_GID):
-                self.assertEqual(os.stat(old)[kept], before[kept])
-            os.remove(old)
-            self.assertEqual(draw("a.svg", umask=0o027), 0)  # creates what the link leads to
-            self.assertEqual(stat.S_IMODE(os.stat(old).st_mode), 0o640)
-
-            def take_names(count):  # those that the process will use
-                for i in range(count):
-                    os.symlink("../other", f"far/.section_properties-{os.getpid()}-{i}.part")
-
-            self.assertEqual(draw("far/new.svg", preexec_fn=lambda: take_names(1)), 0)
-            self.assertEqual(draw("far/none.svg", preexec_fn=lambda: take_names(100)), 1)
-            self.assertEqual((content("far/new.svg"), content("other")), ("<?xml", "other"))
-            self.assertEqual(len(os.listdir(far)), 2 + 101)
+        for name, count in (("far/new.svg", 1), ("far/none.svg", 100)):
+            result = self.draw(name, preexec_fn=functools.partial(take_names, count))
+            self.assertEqual(result.returncode, count == 100)
+        self.assertEqual((self.read("far/new.svg")[:5], self.read("other")), ("<?xml", "other"))
+        self.assertEqual(len(os.listdir(far)), 2 + 101)
 
     def test_a_picture_that_cannot_be_is_an_error_of_output(self):
-        with tempfile.TemporaryDirectory() as folder:
-            for name in ("missing/out.svg", "."):
-                result = run("rhs 100 100 5 --svg " + name, folder)
-                self.assertEqual((result.returncode, result.stdout), (1, ""))
-                self.assertIn(f"cannot write '{name}'", result.stderr)
+        for name in ("missing/out.svg", "."):
+            result = self.draw(name)
+            self.assertEqual((result.returncode, result.stdout), (1, ""))
+            self.assertIn(f"cannot write '{name}'", result.stderr)
 
     @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
     def test_output_that_fails_is_an_error(self):

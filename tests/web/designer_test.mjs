@@ -18,21 +18,18 @@ const file = join(root, "build/wasm/designer.html");
 const url = pathToFileURL(file).href;
 const {chromium} = createRequire(packages)("playwright-core");
 
+const PROFILES = [
+  ...commandLine(["--help"])
+    .text.split("Profiles and their dimensions:")[1]
+    .matchAll(/^ {2}(\w+) (?!FILE)/gm),
+].map(match => match[1]);
+const example = profile =>
+  commandLine([profile, "--help"]).text.match(/^example: section_properties (.*)$/m)[1];
 const SECTIONS = [
-  "ia 400 310 150 22 11 8.5",
-  "h 400 300 200 20 15 10",
-  "i 400 300 200 20 15 10 8 6 20",
-  "t 150 200 12 8",
+  ...PROFILES.map(example),
   "b 200.5 10",
-  "c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2",
-  "h1b 250 200 160 9 22 8 15",
-  "box 3000 2000 20 25 1500 12 1600",
-  "rhs 200 100 8",
   "l 100 75 10 12",
-  "l2 90 120 10 9 11",
   "tab 6000 100 100 1 1 1 20",
-  "h2b 400 300 500 12 14 10 20",
-  "rolled 300 150 7.1 10.7 15",
   "b 1e-8 1e9",
   "rhs 123456.7 9876.543 .1",
 ];
@@ -104,6 +101,11 @@ function mainFigures(words) {
 // The outline in the picture that is seen.
 const outline = () => page.locator("#picture path[fill-rule]").getAttribute("d");
 const field = name => page.locator(`#dimension-${name}`);
+const shows = (id, text) =>
+  page.waitForFunction(
+    told => document.getElementById(told[0]).textContent === told[1],
+    [id, text],
+  );
 const faultOf = name => page.locator(`#fault-${name}`).textContent();
 
 test("figures and picture are those of the command line, character by character", async () => {
@@ -129,41 +131,23 @@ test("the table is that of the command line", async () => {
   assert.equal(words([...rows, remarks].join(" ")), words(lines.join(" ")));
 });
 
-test("all profiles of the command line can be chosen", async () => {
-  const list = commandLine(["--help"]).text.split("Profiles and their dimensions:")[1];
-  const names = [...list.matchAll(/^ {2}(\w+) /gm)].map(match => match[1]);
-  const chosen = await page
-    .locator("input[name=profile]")
-    .evaluateAll(all => all.map(one => one.value));
-  assert.deepEqual([...chosen, "plates"], names);
+test("each profile of the command line can be chosen, and starts as its example", async () => {
+  const other = await open("");
+  const radios = other.locator("input[name=profile]");
+  assert.deepEqual(await radios.evaluateAll(all => all.map(one => one.value)), PROFILES);
+  for (const profile of PROFILES) {
+    await other.check(`input[value=${profile}]`);
+    assert.equal(await taken("command line", other), `section_properties ${example(profile)}\n`);
+    assert.ok(await other.locator("#stale").isHidden());
+  }
+  await other.close();
 });
 
 test("a dimension that cannot be says why in the words of the command line", async () => {
   await follow("rhs 100 200 8");
   const seen = await outline();
-  const words = [
-    "abc",
-    "",
-    "-1",
-    "0",
-    "50",
-    "1e39",
-    "1e-60",
-    "0x10",
-    "+5",
-    " 5",
-    "5 ",
-    "1,5,2",
-    "1.5,2",
-    "1e5,3",
-    "inf",
-    "nan",
-    "7e",
-    "1e-45",
-    ".",
-    "e5",
-  ];
-  for (const word of words) {
+  const words = "abc||-1|0|50|1e39|1e-60|0x10|+5| 5|5 |1,5,2|1.5,2|1e5,3|inf|nan|7e|1e-45|.|e5";
+  for (const word of words.split("|")) {
     await field("T").fill(word);
     assert.equal(await faultOf("T"), commandLine(["rhs", "100", "200", word]).message, word);
     assert.notEqual(await faultOf("T"), "", word);
@@ -322,30 +306,15 @@ test("the keyboard alone will do", async () => {
 
 test("every control has a name, and what changes is told", async () => {
   await follow("rolled 300 150 7.1 10.7 15");
-  const unnamed = await page
+  const named = await page
     .locator("input, select, button")
-    .evaluateAll(
-      all =>
-        all.filter(
-          control =>
-            !(
-              control.labels?.[0]?.innerText ||
-              control.getAttribute("aria-label") ||
-              control.innerText
-            ),
-        ).length,
-    );
-  assert.equal(unnamed, 0);
+    .evaluateAll(all => all.map(one => (one.labels?.[0] ?? one).innerText || one.ariaLabel));
+  assert.ok(named.length > 20 && named.every(Boolean), named);
   const told = mainFigures("rolled 300 150 7.1 10.7 15".split(" "));
-  await page.waitForFunction(
-    text => document.getElementById("told").textContent === text,
-    told.join(", "),
-  );
+  await shows("told", told.join(", "));
+  const main = await page.locator("#main-figures > div").allInnerTexts();
   assert.deepEqual(
-    await page
-      .locator("#main-figures > div")
-      .allInnerTexts()
-      .then(all => all.map(text => text.split(/\s+/).join(" "))),
+    main.map(text => text.split(/\s+/).join(" ")),
     told,
   );
   const found = [];
@@ -392,14 +361,11 @@ test("what is copied is what is shown", async () => {
       await page.locator(button).click();
       await page.waitForFunction(n => window.copies.length === n, 1);
       assert.equal(await page.evaluate(() => window.copies.pop()), text);
-      await page.waitForFunction(
-        told => document.getElementById("copied").textContent === told,
-        `${format} copied`,
-      );
+      await shows("copied", `${format} copied`);
     }
     assert.equal(await page.locator("textarea").count(), 0);
   }
-  await page.waitForFunction(() => document.getElementById("copied").textContent === "");
+  await shows("copied", "");
 });
 
 test("a browser that cannot run the code says so", async () => {
@@ -429,12 +395,6 @@ test("each profile shows its steel in a square", async () => {
     }),
   );
   for (const icon of icons) assert.deepEqual(icon, [1.2, 1, 0, 0, 1, 2]);
-  const other = await open("");
-  for (const radio of await other.locator("input[name=profile]").all()) {
-    await radio.check();
-    assert.ok(await other.locator("#stale").isHidden());
-  }
-  await other.close();
 });
 
 test("no wider than a phone", async () => {
@@ -483,33 +443,35 @@ test("the first picture is there within 100 ms", async () => {
   assert.ok(times.at(-1) <= 100, `${times} ms`);
 });
 
-// Programs that print A, xs, ys, Ix and Iy.
+// Programs that print A, xs, ys, Ix and Iy: the ending of the source, and how it is made and run.
+const LINK = "-o PROGRAM -Lbuild/native/lib -ltrelvin";
 const HOSTS = {
-  C: [
-    "section.c",
-    "gcc -std=c11 -Wall -Wextra -Wpedantic -Werror -Iinclude",
-    "-Lbuild/native/lib -ltrelvin",
-  ],
+  C: ["c", `gcc -std=c11 -Wall -Wextra -Wpedantic -Werror -Iinclude SOURCE ${LINK}`, "PROGRAM"],
   Fortran: [
-    "section.f90",
-    `gfortran -Werror -J${work} bindings/fortran/trelvin.F90`,
-    "-Lbuild/native/lib -ltrelvin",
+    "f90",
+    `gfortran -Werror -JWORK bindings/fortran/trelvin.F90 SOURCE ${LINK}`,
+    "PROGRAM",
   ],
-  Pascal: ["section.pas", `fpc -v0w -Sew -Fubindings/pascal -Flbuild/native/lib -FU${work}`, ""],
-  "C#": ["section.cs", "mcs -warnaserror bindings/csharp/Trelvin.cs", ""],
-  Python: ["section.py", "", ""],
-  JavaScript: ["section.mjs", "", ""],
+  Pascal: [
+    "pas",
+    "fpc -v0w -Sew -Fubindings/pascal -Flbuild/native/lib -FUWORK -oPROGRAM SOURCE",
+    "PROGRAM",
+  ],
+  "C#": ["cs", "mcs -warnaserror -out:PROGRAM bindings/csharp/Trelvin.cs SOURCE", "mono PROGRAM"],
+  Python: ["py", "/usr/bin/python3 SOURCE"],
+  JavaScript: ["mjs", "node SOURCE"],
 };
-const START = {"C#": ["mono"], Python: ["/usr/bin/python3"], JavaScript: ["node"]};
 
 function printed(language, text) {
-  const [name, compiler, libraries] = HOSTS[language];
-  const source = join(work, name);
-  const program = compiler ? `${source}.exe` : source;
-  writeFileSync(source, text);
-  const output = {Pascal: [`-o${program}`], "C#": [`-out:${program}`]}[language] ?? ["-o", program];
-  const run = command =>
-    execFileSync(command[0], command.slice(1), {
+  const [ending, ...commands] = HOSTS[language];
+  const files = {SOURCE: join(work, `section.${ending}`), PROGRAM: join(work, "section.exe")};
+  writeFileSync(files.SOURCE, text);
+  const run = command => {
+    const words = command.split(" ");
+    const named = words.map(word =>
+      word.replace(/SOURCE|PROGRAM|WORK/, name => files[name] ?? work),
+    );
+    return execFileSync(named[0], named.slice(1), {
       cwd: root,
       encoding: "utf8",
       stdio: ["ignore", "pipe", "pipe"],
@@ -520,9 +482,8 @@ function printed(language, text) {
         TRELVIN_LIBRARY: "build/native/lib/libtrelvin.so",
       },
     });
-  if (compiler)
-    run([...compiler.split(" "), source, ...output, ...libraries.split(" ").filter(Boolean)]);
-  return run([...(START[language] ?? []), program]);
+  };
+  return commands.map(run).at(-1);
 }
 
 // Basic has no compiler here. Its statements are held against those of C#, which is run.
@@ -539,7 +500,7 @@ test("calls in Basic are those in C#", async () => {
           .join(" "),
       ),
     );
-  for (const section of [SECTIONS[13], SECTIONS[6], SECTIONS[5]]) {
+  for (const section of ["rolled", "h1b", "c"].map(example)) {
     await follow(section);
     const broken = await taken("calls in Basic");
     assert.doesNotMatch(broken, /(.* _\n){25}|.{121}/); // Basic takes 24 of such lines
@@ -570,14 +531,7 @@ before(() => {
   cpSync(join(root, "build/native/lib/libtrelvin.so"), join(folder, "libtrelvin.so"), {
     dereference: true,
   });
-  execFileSync("gcc", [
-    "-O2",
-    "-shared",
-    "-fPIC",
-    join(folder, "_loop.c"),
-    "-o",
-    join(folder, "_loop.so"),
-  ]);
+  execFileSync("gcc", ["-O2", "-shared", "-fPIC", "_loop.c", "-o", "_loop.so"], {cwd: folder});
 });
 
 before(() =>
@@ -589,14 +543,8 @@ for (const language of Object.keys(HOSTS)) {
     const some = ["rolled 300 150 7.1 10.7 15", "h1b 250 200 160 9 22 8 15"];
     for (const section of language === "C" ? SECTIONS : some) {
       await follow(section);
-      const figures = JSON.parse(await taken("JSON"));
-      const expected = [
-        figures.area,
-        figures.xs,
-        figures.ys,
-        figures.centroidal.Ix,
-        figures.centroidal.Iy,
-      ];
+      const {area, xs, ys, centroidal} = JSON.parse(await taken("JSON"));
+      const expected = [area, xs, ys, centroidal.Ix, centroidal.Iy];
       const lines = printed(language, await taken(`calls in ${language}`))
         .trim()
         .split("\n");

@@ -3,14 +3,15 @@
 // centroid and second moments about it. Where a routine gives the profile's outline, the program
 // calls that one with the dimensions, else it has the parts written out.
 
-const BY_PARTS = ["b", "l", "rolled"];
 const BEHIND = ["z1", "z2", "z3", "z4", "z5", "q1", "q2"]; // what else comes with each polygon
 
-// A list, broken into lines with an indent.
-function listed(items, indent, end = "") {
+const same = name => name;
+
+// A list of items in a form, broken into lines with an indent.
+function listed(items, indent, end = "", form = same) {
   const rows = [""];
   items.forEach((item, i) => {
-    const text = item + (i + 1 < items.length ? ", " : "");
+    const text = form(item) + (i + 1 < items.length ? ", " : "");
     if (indent + rows.at(-1).length + text.length > 96) {
       rows.push(`${rows.pop().trimEnd()}${end}`, "");
     }
@@ -19,18 +20,20 @@ function listed(items, indent, end = "") {
   return rows.join(`\n${" ".repeat(indent)}`);
 }
 
-// The call's arguments: dimensions, q, and the outputs as the language writes an array.
-const argumentsOf = (s, array, input = name => name, output = name => name) => [
+// The call's arguments: dimensions, q, and the outputs, as the language writes each kind.
+const argumentsOf = (s, {input = same, output = same, array = same} = {}) => [
   ...s.names.map(input),
   input("q"),
   output("np"),
   ...["nv", "x", "y", "code", "sign", ...BEHIND].map(array),
 ];
-const valuesOf = (s, value = word => word) => [
+const valuesOf = (s, value = same) => [
   ...s.names.map((name, i) => `${name} = ${value(s.dimensions[i])}`),
   `q = ${value("0")}`,
 ];
-const same = name => name;
+const body = (s, part, call) => (s.routine === "" ? s.parts.map(part).join("") : call());
+const single = number => `${number}f`;
+const pointer = name => `&${name}`;
 const withPoint = number => (number.includes(".") ? number : `${number}.0`);
 
 // Each takes a section: its title, profile, names and dimensions, and its parts with kind, factor,
@@ -40,15 +43,7 @@ const LANGUAGES = {
     const call = () => `  const float ${listed(valuesOf(s), 14)};
   int32_t np, nv[3], code[3];
   float x[20], y[20], sign[3], ${BEHIND.map(name => `${name}[3]`).join(", ")};
-  trvsec_${s.profile}(${listed(
-    argumentsOf(
-      s,
-      same,
-      name => `&${name}`,
-      name => `&${name}`,
-    ),
-    6,
-  )});
+  ${s.routine}(${listed(argumentsOf(s, {input: pointer, output: pointer}), 6)});
   for (int32_t i = 0, from = 0; i < np; from += nv[i++]) {
     add(code[i], sign[i], nv[i], x + from, y + from);
   }
@@ -82,7 +77,7 @@ static void add(int32_t kind, float factor, int32_t n, const float *x, const flo
 }
 
 int main(void) {
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
   printf("A  %.7g mm2\\n", A);
   printf("xs %.7g mm\\nys %.7g mm\\n", Sy / A, Sx / A);
   printf("Ix %.7g mm4\\nIy %.7g mm4\\n", Ix - Sx * Sx / A, Iy - Sy * Sy / A);
@@ -96,7 +91,7 @@ ${s.isByParts ? s.parts.map(part).join("") : call()}
   integer(c_int32_t) :: np, nv(3), code(3), i, first = 1
   real(rk) :: x(20), y(20), sign(3), ${BEHIND.map(name => `${name}(3)`).join(", ")}
 `;
-    const call = () => `  call trvsec_${s.profile}(${listed(argumentsOf(s, same), 6, " &")})
+    const call = () => `  call ${s.routine}(${listed(argumentsOf(s), 6, " &")})
   do i = 1, np
     call add(code(i), sign(i), x(first:first + nv(i) - 1), y(first:first + nv(i) - 1))
     first = first + nv(i)
@@ -113,8 +108,8 @@ program section
 
   integer, parameter :: rk = c_float, dp = kind(1.0d0)
   real(dp) :: A = 0, Sx = 0, Sy = 0, Ix = 0, Iy = 0
-${s.isByParts ? "" : declared()}
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${s.routine && declared()}
+${body(s, part, call)}
   print "(a, g0, a)", "A  ", A, " mm2", "xs ", Sy / A, " mm", "ys ", Sx / A, " mm"
   print "(a, g0, a)", "Ix ", Ix - Sx * Sx / A, " mm4", "Iy ", Iy - Sy * Sy / A, " mm4"
 
@@ -154,10 +149,7 @@ var
   x, y: array[0..19] of Single;
   ${["sign", ...BEHIND].join(", ")}: array[0..2] of Single;
 `;
-    const call = () => `  trvsec_${s.profile}(${listed(
-      argumentsOf(s, name => `${name}[0]`),
-      4,
-    )});
+    const call = () => `  ${s.routine}(${listed(argumentsOf(s, {array: name => `${name}[0]`}), 4)});
   first := 0;
   for i := 0 to np - 1 do
   begin
@@ -194,9 +186,9 @@ begin
   Ix := Ix + jx;
   Iy := Iy + jy;
 end;
-${s.isByParts ? "" : declared()}
+${s.routine && declared()}
 begin
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
   WriteLn('A  ', A, ' mm2');
   WriteLn('xs ', Sy / A, ' mm');
   WriteLn('ys ', Sx / A, ' mm');
@@ -213,16 +205,8 @@ end.
         "",
       )}    Dim np As Long, nv(0 To 2) As Long, code(0 To 2) As Long, i As Long, first As Long
     Dim x(0 To 19) As Single, y(0 To 19) As Single, sign(0 To 2) As Single
-    Dim ${listed(
-      BEHIND.map(name => `${name}(0 To 2) As Single`),
-      8,
-      " _",
-    )}
-    trvsec_${s.profile} ${listed(
-      argumentsOf(s, name => `${name}(0)`),
-      8,
-      " _",
-    )}
+    Dim ${listed(BEHIND, 8, " _", name => `${name}(0 To 2) As Single`)}
+    ${s.routine} ${listed(argumentsOf(s, {array: name => `${name}(0)`}), 8, " _")}
     For i = 0 To np - 1
         AddPart code(i), sign(i), nv(i), first, x, y
         first = first + nv(i)
@@ -239,7 +223,7 @@ Private A As Double, Sx As Double, Sy As Double, Ix As Double, Iy As Double
 
 Public Sub PrintSection()
     A = 0: Sx = 0: Sy = 0: Ix = 0: Iy = 0
-${s.isByParts ? s.parts.map(part).join("") : call()}    Debug.Print "A  "; A; " mm2"
+${body(s, part, call)}    Debug.Print "A  "; A; " mm2"
     Debug.Print "xs "; Sy / A; " mm"
     Debug.Print "ys "; Sx / A; " mm"
     Debug.Print "Ix "; Ix - Sx * Sx / A; " mm4"
@@ -268,33 +252,18 @@ End Sub
   },
 
   "C#": s => {
-    const call = () => `        const float ${listed(
-      valuesOf(s, word => `${word}f`),
-      12,
-    )};
+    const call = () => `        const float ${listed(valuesOf(s, single), 12)};
         int np;
         int[] nv = new int[3], code = new int[3];
         float[] x = new float[20], y = new float[20], sign = new float[3];
-        float[] ${listed(
-          BEHIND.map(name => `${name} = new float[3]`),
-          12,
-        )};
-        Native.trvsec_${s.profile}(${listed(
-          argumentsOf(s, same, same, name => `out ${name}`),
-          12,
-        )});
+        float[] ${listed(BEHIND, 12, "", name => `${name} = new float[3]`)};
+        Native.${s.routine}(${listed(argumentsOf(s, {output: name => `out ${name}`}), 12)});
         for (int i = 0, first = 0; i < np; first += nv[i++])
             Add(code[i], sign[i], nv[i], first, x, y);
 `;
     const part = p => `        Add(${p.kind}, ${p.factor}, ${p.x.length}, 0,
-            new float[] {${listed(
-              p.x.map(x => `${x}f`),
-              16,
-            )}},
-            new float[] {${listed(
-              p.y.map(y => `${y}f`),
-              16,
-            )}});
+            new float[] {${listed(p.x, 16, "", single)}},
+            new float[] {${listed(p.y, 16, "", single)}});
 `;
     return `// ${s.title}
 using System;
@@ -323,7 +292,7 @@ static class Section
 
     static void Main()
     {
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
         Console.WriteLine(FormattableString.Invariant($"A  {A:G7} mm2"));
         Console.WriteLine(FormattableString.Invariant($"xs {Sy / A:G7} mm"));
         Console.WriteLine(FormattableString.Invariant($"ys {Sx / A:G7} mm"));
@@ -335,10 +304,8 @@ ${s.isByParts ? s.parts.map(part).join("") : call()}
   },
 
   Python: s => {
-    const call = () => `outline = trelvin.trvsec_${s.profile}(${listed(
-      valuesOf(s).map(value => value.replace(" = ", "=")),
-      4,
-    )})
+    const call =
+      () => `outline = trelvin.${s.routine}(${listed(valuesOf(s), 4, "", value => value.replace(" = ", "="))})
 first = 0
 for kind, factor, n in zip(outline.code, outline.sign, outline.nv):
     add(kind, factor, outline.X[first : first + n], outline.Y[first : first + n])
@@ -365,7 +332,7 @@ def add(kind, factor, x, y):
     Iy += second.iy
 
 
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
 print(f"A  {A:.7g} mm2")
 print(f"xs {Sy / A:.7g} mm")
 print(f"ys {Sx / A:.7g} mm")
@@ -376,7 +343,7 @@ print(f"Iy {Iy - Sy * Sy / A:.7g} mm4")
 
   JavaScript: s => {
     const call = () => `const ${listed(valuesOf(s), 2)};
-const outline = trelvin.trvsec_${s.profile}(${listed([...s.names, "q"], 2)});
+const outline = trelvin.${s.routine}(${listed([...s.names, "q"], 2)});
 for (let i = 0, from = 0; i < outline.np; from += outline.nv[i++]) {
   const to = from + outline.nv[i];
   add(outline.code[i], outline.sign[i], outline.X.slice(from, to), outline.Y.slice(from, to));
@@ -401,7 +368,7 @@ function add(kind, factor, x, y) {
   Iy += second.iy;
 }
 
-${s.isByParts ? s.parts.map(part).join("") : call()}
+${body(s, part, call)}
 console.log("A ", A.toPrecision(7), "mm2");
 console.log("xs", (Sy / A).toPrecision(7), "mm");
 console.log("ys", (Sx / A).toPrecision(7), "mm");
@@ -415,7 +382,7 @@ function callsIn(language, profile, section) {
   return LANGUAGES[language]({
     ...section,
     names: profile.dimensions,
-    isByParts: BY_PARTS.includes(profile.name),
+    routine: profile.routine,
     title: `${profile.name} ${section.dimensions.join(" ")}: ${profile.description}, in mm`,
   });
 }

@@ -1,24 +1,7 @@
 "use strict";
 // The page: fields to the compiled code, texts from it to the page. The state is in the address.
 
-const START = {
-  ia: "400 300 200 20 15 10",
-  h: "400 300 200 20 15 10",
-  i: "400 300 200 20 15 10 8 6 20",
-  t: "150 200 12 8",
-  b: "200 15",
-  c: "200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2",
-  h1b: "320 300 280 12 14 10 20",
-  box: "3000 2000 20 25 1500 12 1600",
-  rhs: "100 200 8",
-  l: "100 100 10 12",
-  l2: "90 120 10 9 11",
-  tab: "600 400 350 40 25 12 20",
-  h2b: "400 300 500 12 14 10 20",
-  rolled: "300 150 7.1 10.7 15",
-};
 const FIRST = "rolled";
-const startOf = each => START[each.name].split(" ");
 
 // Of the figures, by heading and symbol, those that stand under the picture.
 const MAIN = [
@@ -32,12 +15,8 @@ const MAIN = [
 
 const element = id => document.getElementById(id);
 
-function make(tag, attributes = {}, ...children) {
-  const made = document.createElement(tag);
-  for (const [name, value] of Object.entries(attributes)) made.setAttribute(name, value);
-  made.append(...children);
-  return made;
-}
+// All that is put into this is the program's own: names, letters, figures.
+const appendHtml = (parent, html) => parent.insertAdjacentHTML("beforeend", html);
 
 const withPowers = unit => unit.replace(/\d/, digit => ({2: "²", 3: "³", 4: "⁴", 6: "⁶"})[digit]);
 const drawn = picture => picture.slice(picture.indexOf("<svg"));
@@ -51,6 +30,7 @@ const typed = {}; // the words in the fields, by profile
 
 // Fields -----------------------------------------------------------------------------------------
 
+const radioOf = each => document.querySelector(`input[value="${each.name}"]`);
 const field = name => element(`dimension-${name}`);
 const slider = name => element(`slider-${name}`);
 const numberIn = word => Number(word.replace(",", "."));
@@ -58,7 +38,7 @@ const numberIn = word => Number(word.replace(",", "."));
 // A slider reaches from nothing to well beyond the value that its profile starts with, or beyond a
 // larger one that is typed. It does not move under the hand that drags it.
 function setReach(name, value) {
-  const start = numberIn(startOf(profile)[profile.dimensions.indexOf(name)]);
+  const start = numberIn(profile.start[profile.dimensions.indexOf(name)]);
   const reach = 2.5 * (value > 2.5 * start ? value : start);
   const step = 10 ** Math.floor(Math.log10(reach / 150));
   const control = slider(name);
@@ -94,19 +74,18 @@ function onKey(event, name) {
 }
 
 function makeField(name, word) {
-  const text = make("input", {
-    id: `dimension-${name}`,
-    type: "text",
-    inputmode: "decimal",
-    spellcheck: "false",
-    "aria-describedby": `fault-${name}`,
-  });
-  const drag = make("input", {
-    id: `slider-${name}`,
-    type: "range",
-    "aria-label": `${name}, slider`,
-    "aria-describedby": `fault-${name}`,
-  });
+  appendHtml(
+    element("dimensions"),
+    `<div class="dimension">
+      <label for="dimension-${name}">${name}</label>
+      <input id="dimension-${name}" type="text" inputmode="decimal" spellcheck="false"
+        aria-describedby="fault-${name}">
+      <input id="slider-${name}" type="range" aria-label="${name}, slider"
+        aria-describedby="fault-${name}">
+      <p id="fault-${name}" class="fault"></p>
+    </div>`,
+  );
+  const [text, drag] = [field(name), slider(name)];
   text.value = word;
   text.addEventListener("input", () => {
     showValue(name, text.value);
@@ -117,25 +96,14 @@ function makeField(name, word) {
     text.value = drag.value;
     update(name);
   });
-  return make(
-    "div",
-    {class: "dimension"},
-    make("label", {for: text.id}, name),
-    text,
-    drag,
-    make("p", {id: `fault-${name}`, class: "fault"}),
-  );
+  setReach(name, 0);
+  showValue(name, word);
 }
 
 function makeFields(words) {
-  const legend = element("dimensions").firstElementChild;
-  element("dimensions").replaceChildren(
-    legend,
-    ...profile.dimensions.map((name, i) => makeField(name, words[i])),
-  );
+  element("dimensions").replaceChildren(element("dimensions").firstElementChild); // the legend
   profile.dimensions.forEach((name, i) => {
-    setReach(name, 0);
-    showValue(name, words[i]);
+    makeField(name, words[i]);
   });
 }
 
@@ -163,37 +131,18 @@ function showRefusal(message, changed) {
 function showFigures() {
   let heading = "";
   const main = [];
+  const number = (figure, unit) =>
+    `<td class="number">${figure} <span class="unit"> ${withPowers(unit)}</span></td>`;
   const rows = section.figures.map(([start, symbol, value, unit, otherValue, otherUnit]) => {
     heading = start || heading;
     if (MAIN.some(([a, b]) => heading.startsWith(a) && symbol === b)) {
-      main.push(
-        make(
-          "div",
-          {},
-          make("dt", {}, symbol),
-          make("dd", {}, `${otherValue} ${withPowers(otherUnit)}`),
-        ),
-      );
+      main.push(`<div><dt>${symbol}</dt><dd>${otherValue} ${withPowers(otherUnit)}</dd></div>`);
     }
-    const number = (figure, of) =>
-      make(
-        "td",
-        {class: "number"},
-        figure,
-        " ",
-        make("span", {class: "unit"}, ` ${withPowers(of)}`),
-      );
-    return make(
-      "tr",
-      start ? {class: "first"} : {},
-      make("th", {scope: "row"}, start),
-      make("td", {class: "symbol"}, symbol),
-      number(value, unit),
-      number(otherValue, otherUnit),
-    );
+    return `<tr${start && ' class="first"'}><th scope="row">${start}</th>
+      <td class="symbol">${symbol}</td>${number(value, unit)}${number(otherValue, otherUnit)}</tr>`;
   });
-  element("rows").replaceChildren(...rows);
-  element("main-figures").replaceChildren(...main);
+  element("rows").innerHTML = rows.join("");
+  element("main-figures").innerHTML = main.join("");
   element("remarks").textContent = section.remarks;
 }
 
@@ -266,7 +215,7 @@ function fitPicture() {
 
 function choose(chosen, words) {
   profile = chosen;
-  const radio = document.querySelector(`input[value="${profile.name}"]`);
+  const radio = radioOf(profile);
   radio.checked = true;
   const strip = element("profiles"); // on a narrow screen
   strip.scrollLeft = radio.parentElement.offsetLeft - strip.clientWidth / 2;
@@ -275,29 +224,25 @@ function choose(chosen, words) {
   update();
   if (section?.profile === profile.name) return;
   // What does not fit together stands beside the profile as it starts.
-  show(engine.design(profile.name, startOf(profile)));
+  show(engine.design(profile.name, profile.start));
 }
 
 function makeChooser() {
   for (const each of engine.profiles) {
-    const radio = make("input", {
-      type: "radio",
-      name: "profile",
-      value: each.name,
-      "aria-label": `${each.name}: ${each.description}`,
-    });
-    radio.addEventListener("change", () => choose(each, typed[each.name] ?? startOf(each)));
-    element("profiles").append(
-      make("label", {title: each.description}, radio, make("span", {}, each.name)),
+    appendHtml(
+      element("profiles"),
+      `<label title="${each.description}"><input type="radio" name="profile" value="${each.name}"
+        aria-label="${each.name}: ${each.description}"><span>${each.name}</span></label>`,
     );
+    radioOf(each).addEventListener("change", () => choose(each, typed[each.name] ?? each.start));
   }
 }
 
 // Each profile as it starts, the steel of its picture alone.
 function drawIcons() {
   for (const each of engine.profiles) {
-    const radio = document.querySelector(`input[value="${each.name}"]`);
-    radio.insertAdjacentHTML("afterend", drawn(engine.design(each.name, startOf(each)).picture));
+    const radio = radioOf(each);
+    radio.insertAdjacentHTML("afterend", drawn(engine.design(each.name, each.start).picture));
     const svg = radio.nextElementSibling;
     const steel = svg.querySelector("path[fill-rule]");
     const {x, y, width, height} = steel.getBBox();
@@ -334,7 +279,7 @@ function openLink(hash) {
     choose(linked, words);
   } else if (!section) {
     const first = engine.profiles.find(each => each.name === FIRST);
-    choose(first, startOf(first));
+    choose(first, first.start);
   }
   element("link-fault").textContent = refusal;
 }
@@ -346,7 +291,7 @@ async function copy(text, what) {
     await navigator.clipboard.writeText(text);
   } catch {
     // without the right to do so, or from a folder
-    const area = make("textarea");
+    const area = document.createElement("textarea");
     area.value = text;
     document.body.append(area);
     area.select();
@@ -360,7 +305,7 @@ async function copy(text, what) {
 }
 
 function listen() {
-  element("format").append(...Object.keys(TAKEN).map(name => make("option", {}, name)));
+  element("format").append(...Object.keys(TAKEN).map(name => new Option(name)));
   element("format").addEventListener("change", showText);
   element("copy").addEventListener("click", () =>
     copy(element("text").textContent, element("format").value),

@@ -33,12 +33,17 @@ async function startEngine() {
 
   return {
     profiles: lines(read(code.designer_profiles())).map(
-      ([name, description, dimensions, mayBeZero]) => ({
-        name,
-        description,
-        dimensions: words(dimensions),
-        mayBeZero: words(mayBeZero),
-      }),
+      ([name, description, routine, ...dimensions]) => {
+        const told = dimensions.map(words);
+        return {
+          name,
+          description,
+          routine,
+          dimensions: told.map(([letter]) => letter),
+          start: told.map(([, value]) => value),
+          mayBeZero: told.filter(([, , zero]) => zero).map(([letter]) => letter),
+        };
+      },
     ),
 
     // The section, or why there is none: { refusal }.

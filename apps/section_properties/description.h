@@ -1,0 +1,71 @@
+// What is told of a profile besides its geometry.
+#pragma once
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace host {
+
+constexpr std::size_t most_dimensions = 14;
+
+enum class Least { positive, zero };
+constexpr Least may_be_zero = Least::zero;
+
+struct Dimension {
+  std::string_view letter;
+  float start;  // of the profile as the designer shows it first
+  Least least = Least::positive;
+};
+
+// A list of the compiler's: of dimensions in the order of the library's routine, and of values.
+template <class T>
+class Listed {
+ public:
+  constexpr Listed(std::initializer_list<T> items) {
+    for (const T &item : items) items_[size_++] = item;
+  }
+
+  [[nodiscard]] constexpr std::size_t size() const { return size_; }
+  constexpr const T &operator[](std::size_t i) const { return items_[i]; }
+  [[nodiscard]] const T *begin() const { return items_.data(); }
+  [[nodiscard]] const T *end() const { return begin() + size_; }
+
+ private:
+  std::array<T, most_dimensions> items_{};
+  std::size_t size_ = 0;
+};
+
+using Dimensions = Listed<Dimension>;
+
+struct Description {
+  std::string_view name;
+  std::string_view description;
+  std::string_view routine;  // gives the outline
+  Dimensions dimensions;
+  Listed<float> drawn;  // in the manual's figure, whose walls have room for the vertices' numbers
+  std::string_view letters;  // a picture with the dimensions
+};
+
+// Instead of a routine: the profile adds its parts itself.
+constexpr std::string_view by_its_parts;
+constexpr Listed<float> no_figure{};
+
+// A list of profiles.
+template <class... P>
+struct Kinds {};
+
+template <class P, class Value, std::size_t... i>
+constexpr P made_of(Value value, std::index_sequence<i...> /*positions*/) {
+  return {value(i)...};
+}
+
+// The profile P whose dimensions are value(0), value(1) ...
+template <class P, class Value>
+constexpr P made_of(Value value) {
+  constexpr std::size_t n = P::about.dimensions.size();
+  static_assert(sizeof(P) == n * sizeof(float), "P describes as many dimensions as it has");
+  return made_of<P>(value, std::make_index_sequence<n>());
+}
+
+}  // namespace host
