@@ -21,8 +21,9 @@ esac
 shift
 if [ $# -gt 0 ]; then exec "$loader" "$@"; fi
 mkdir -p "$WINEPREFIX"
-wineserver -p60 || true # refused where one runs already
-"$loader" wineboot --init >"$WINEPREFIX.log" 2>&1 || {
+# It keeps no file of ours open; refused where one runs already.
+wineserver -p60 </dev/null >/dev/null 2>&1 || true
+"$loader" wineboot --init </dev/null >"$WINEPREFIX.log" 2>&1 || {
   cat "$WINEPREFIX.log" >&2
   exit 1
 }
