@@ -81,11 +81,12 @@ class FreshLibrary : public testing::EmptyTestEventListener {
       std::exit(2);
     }
     for (const Bytes &bytes : memory_)
-      at_start_.emplace_back(bytes.start, bytes.start + bytes.size);
+      copy(bytes.start, at_start_.emplace_back(bytes.size).data(), bytes.size);
   }
 
   void OnTestStart(const testing::TestInfo & /*test*/) override {
-    for (std::size_t i = 0; i < memory_.size(); ++i) restore(memory_[i].start, at_start_[i]);
+    for (std::size_t i = 0; i < memory_.size(); ++i)
+      copy(at_start_[i].data(), memory_[i].start, memory_[i].size);
   }
 
   // Between the library's variables, AddressSanitizer has bytes that nobody may touch.
@@ -93,9 +94,8 @@ class FreshLibrary : public testing::EmptyTestEventListener {
   __attribute__((no_sanitize("address")))
 #endif
   static void
-  restore(volatile unsigned char *to, const std::vector<unsigned char> &from) {
-    const unsigned char *byte = from.data();
-    for (std::size_t size = from.size(); size != 0; --size) *to++ = *byte++;
+  copy(const volatile unsigned char *from, volatile unsigned char *to, std::size_t size) {
+    for (; size != 0; --size) *to++ = *from++;
   }
 
   std::vector<Bytes> memory_;
