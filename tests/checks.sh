@@ -63,7 +63,7 @@ installs() {
   cmake --install build/native --prefix build/installed
   for project in examples apps/section_properties; do
     cmake -G Ninja -S "$project" -B "build/consumer/$project" \
-      -DCMAKE_PREFIX_PATH="$PWD/build/installed"
+      -DCMAKE_PREFIX_PATH="$PWD/build/installed" -DCMAKE_BUILD_TYPE=Debug # which compiles sooner
     cmake --build "build/consumer/$project"
   done
   cd build/consumer

@@ -23,8 +23,8 @@ OTHERWISE = ("-Iinclude", "-Itests", "-Isrc", "-Iapps/section_properties", "-std
 # These need Windows' own headers, GCC's numbers of 113 bits, and the libraries of ./dev bench.
 LEFT_OUT = re.compile(r"library_entry|dll_host|tests/accuracy|benchmarks/peers/")
 LARGEST = 60_000  # bytes of a unit
-# The analyzer takes most of the time. It follows all paths in library and programs, fewer in other code, and
-# none in unit tests, which run under sanitizers.
+# The analyzer takes most of the time. It follows all paths in library and programs, fewer in other code,
+# and none in unit tests, which run under sanitizers.
 SHALLOW = [f"--extra-arg={word}" for word in ("-Xclang", "-analyzer-config", "-Xclang", "mode=shallow")]
 
 
