@@ -33,21 +33,10 @@ SHARED_LIBRARY = BUILD / "native/lib/libtrelvin.so"
 LARGEST_DLL = 200 * 1024
 MEMORY = {"calloc", "free", "malloc", "memcpy", "memmove", "memset", "strlen"}
 ALLOWED_IMPORTS = {
-    "KERNEL32.dll": {
-        "CloseHandle",
-        "CreateFileA",
-        "DisableThreadLibraryCalls",
-        "GetFileSize",
-        "GetFileType",
-        "GetLastError",
-        "GetTickCount",
-        "LockFileEx",
-        "SetHandleInformation",
-        "SetLastError",
-        "Sleep",
-        "UnlockFileEx",
-        "WriteFile",
-    },
+    "KERNEL32.dll": set("""
+        CloseHandle CreateFileA DisableThreadLibraryCalls GetFileSize GetFileType GetLastError
+        GetTickCount LockFileEx SetHandleInformation SetLastError Sleep UnlockFileEx WriteFile
+        """.split()),
     "msvcrt.dll": MEMORY,
 }
 BIND_NOW = 8  # of DT_FLAGS
@@ -163,12 +152,8 @@ def image_faults_of_shared(library):
         yield "no stack protector"
     if library["e_machine"] == "EM_X86_64":
         notes = library.get_section_by_name(".note.gnu.property")
-        marks = [
-            mark["pr_data"]
-            for note in (notes.iter_notes() if notes else ())
-            for mark in note["n_desc"]
-            if mark["pr_type"] == "GNU_PROPERTY_X86_FEATURE_1_AND"
-        ]
+        marks = [mark["pr_data"] for note in (notes.iter_notes() if notes else ())
+                 for mark in note["n_desc"] if mark["pr_type"] == "GNU_PROPERTY_X86_FEATURE_1_AND"]
         if marks != [INDIRECT_BRANCHES | SHADOW_STACK]:
             yield "not marked for control-flow enforcement"
     # Trelvin.dll, of the same sources, would not run them: it has no start-up code.
