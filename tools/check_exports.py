@@ -1,30 +1,21 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Checks what the built libraries export, import and promise: those in build, or in another folder.
 
     tools/check_exports.py [FOLDER]
 
-Needs the Python packages pefile and pyelftools.
+Needs Debian's packages python3-pefile and python3-pyelftools.
 """
 
-import importlib.util
-import os
 import re
 import sys
 from pathlib import Path
 
+import pefile
+from elftools.elf.elffile import ELFFile
+from elftools.elf.relocation import RelocationSection
+
 import entries
 import model
-
-DEBIAN_PYTHON = "/usr/bin/python3"  # which has Debian's packages where another python3 comes first
-
-if any(importlib.util.find_spec(package) is None for package in ("pefile", "elftools")):
-    if os.path.realpath(sys.executable) != os.path.realpath(DEBIAN_PYTHON):
-        os.execv(DEBIAN_PYTHON, [DEBIAN_PYTHON, *sys.argv])
-    sys.exit("check_exports: apt-get install python3-pefile python3-pyelftools")
-
-import pefile  # noqa: E402
-from elftools.elf.elffile import ELFFile  # noqa: E402
-from elftools.elf.relocation import RelocationSection  # noqa: E402
 
 BUILD = Path(sys.argv[1]) if len(sys.argv) > 1 else model.ROOT / "build"
 DLLS = (BUILD / "windows/bin/Trelvin.dll", BUILD / "windows64/bin/Trelvin64.dll")
