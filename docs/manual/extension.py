@@ -195,17 +195,14 @@ class NothingUnchecked(SphinxTransform):
         if not re.match(r"accuracy$|conventions$|tasks/", self.env.docname):
             return
         for text in self.document.findall(nodes.Text):
-            parents = []
-            node = text.parent
-            while node:
-                parents.append(node)
-                node = node.parent
-            if any(isinstance(p, self.shown) or {"checked", "measured"} & {*p.get("classes", ())}
-                   for p in parents):
-                continue
-            for word in facts.careful(text):
+            for word in [] if self._is_left_out(text.parent) else facts.careful(text):
                 LOG.warning("'%s' in '%s': no fact stands behind it", word, text,
                             location=text.parent)
+
+    def _is_left_out(self, node):
+        """Whether a node is shown as it is, or has its fact, or stands in one of which that is so."""
+        return node and (isinstance(node, self.shown) or {"checked", "measured"} & {*node["classes"]}
+                         or self._is_left_out(node.parent))
 
 
 class NothingOutside(SphinxTransform):

@@ -14,13 +14,8 @@ DECIMAL = re.compile(r"\b\d+\.\d+\b")
 ELEMENT = re.compile(r"(\w+)\[(\d+)\]")
 SPARE = "element n+1 is overwritten"  # by which an array counts as not changed
 
-
-def wrap(text, first):
-    return bindings_text.wrap(text, first, width=WIDTH)
-
-
-def wrap_list(items, first, following, end, continuation=""):
-    return bindings_text.wrap_list(items, first, following, end, continuation, WIDTH)
+wrap = partial(bindings_text.wrap, width=WIDTH)
+wrap_list = partial(bindings_text.wrap_list, width=WIDTH)
 
 
 class Language:
