@@ -103,12 +103,16 @@ def _difference_of_formula(text, fact):
     return None
 
 
+def _whole(words):
+    """An expression for words that are no part of a longer word or number."""
+    return (r"(?<![\w.-])" * words[0].isalnum() + re.escape(words)
+            + r"(?!\.?\d)" * words[-1].isalnum())
+
+
 def _is_quoted(text, quote):
-    """Whether the words of a text stand in a quote in this order, none as a part of another."""
+    """Whether the words of a text stand in a quote in this order."""
     words = re.findall(r"[^\s,]+", text.replace("²", "^2").replace("³", "^3"))
-    forms = [r"(?<![\w.-])" * word[0].isalnum() + re.escape(word)
-             + r"(?!\.?\d)" * word[-1].isalnum() for word in words]
-    return re.search(".*?".join(forms), quote, re.IGNORECASE)
+    return re.search(".*?".join(map(_whole, words)), quote, re.IGNORECASE)
 
 
 def difference(text, fact):
@@ -184,7 +188,7 @@ def told(name, phrase):
 def says(names, phrase):
     """A phrase that the contracts of some routines have word by word."""
     for name in names.split():
-        if phrase not in _contracts()[name]:
+        if not re.search(_whole(phrase), _contracts()[name]):
             raise LookupError(f"not in the contract of {name}: {phrase}")
     return Quote(phrase)
 
