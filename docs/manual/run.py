@@ -145,10 +145,7 @@ def run(tasks, folder):
         columns = dict(zip([language.name for language in languages_run], columns))
     for name, column in columns.items():
         for task in tasks:
-            compare(task.name, columns["C"][task.name], name, column[task.name])
+            expected, printed = columns["C"][task.name], column[task.name]
+            if printed != expected:
+                raise Failed(f"{task.name}: C prints\n{expected}but {name} prints\n{printed}")
     return columns["C"]
-
-
-def compare(task, expected, language, printed):
-    if printed != expected:
-        raise Failed(f"{task}: C prints\n{expected}but {language} prints\n{printed}")
