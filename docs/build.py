@@ -3,8 +3,8 @@
 
     docs/build.py
 
-Generated pages and the programs of the tasks come first, then the figures, where the program that
-draws them is built, then Sphinx, to which every warning is an error.
+Generated pages and the programs of the tasks come first, then the figures, then Sphinx, to which
+every warning is an error.
 """
 
 import re
@@ -26,8 +26,7 @@ def draw_figures():
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     program = ROOT / "build/native/bin/figures"
-    if program.exists():
-        subprocess.run([program, folder], check=True, stdout=subprocess.DEVNULL)
+    subprocess.run([program, folder], check=True, stdout=subprocess.DEVNULL)
 
 
 def inline_imports(out):

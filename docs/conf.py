@@ -31,8 +31,6 @@ html_show_sphinx = False
 html_show_copyright = False
 html_show_search_summary = False  # its texts would be fetched, which a browser refuses of a folder
 
-# Every figure that a page names must have been drawn.
-trelvin_figures_required = True
 trelvin_figures = str(ROOT / "build/manual/figures")
 trelvin_routines, trelvin_tasks = prepare.results()
 

@@ -37,17 +37,14 @@ def text(interface):
         lines += [f"Public Const {name} As Long = {number}" for name, number in values]
     lines += ["", "#If VBA7 And Win64 Then"]
     for routine in routines:
-        lines += ["", *_comment(routine)]
+        lines.append("")
+        for paragraph in explanation(routine):
+            lines += wrap(paragraph, "' ")
         lines += _declaration(routine, "Declare PtrSafe", "Trelvin64.dll", "LongPtr")
     lines += ["", "#Else", "' The same for 32 bits."]
     for routine in routines:
         lines += ["", *_declaration(routine, "Declare", "Trelvin.dll", "Long")]
     return "\n".join([*lines, "", "#End If"]) + "\n"
-
-
-def _comment(routine):
-    for paragraph in explanation(routine):
-        yield from wrap(paragraph, "' ")
 
 
 def _declaration(routine, declare, library, address):

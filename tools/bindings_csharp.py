@@ -1,8 +1,6 @@
 """The C# class: each routine by addresses, and again with its inputs by value."""
 
-from xml.sax.saxutils import escape
-
-from bindings_text import NOTICE, constants, explanation, wrap, wrap_list
+from bindings_text import NOTICE, constants, documented, wrap, wrap_list
 
 RESERVED = set("""
 abstract as base bool break byte case catch char checked class const continue decimal default
@@ -46,16 +44,11 @@ def text(interface):
     for family in interface.families:
         lines += ["", f"{INDENT}// {family.title}"]
         for routine in family.routines:
-            lines += ["", *_comment(routine), *_external(routine)]
+            comment = ["", *documented(routine, f"{INDENT}/// ")]
+            lines += [*comment, *_external(routine)]
             if any(_takes_value(argument) for argument in routine.arguments):
-                lines += ["", *_comment(routine), *_by_value(routine)]
+                lines += [*comment, *_by_value(routine)]
     return "\n".join(lines) + "\n    }\n}\n"
-
-
-def _comment(routine):
-    for i, paragraph in enumerate(explanation(routine)):
-        tag = "remarks" if i else "summary"
-        yield from wrap(f"<{tag}>{escape(paragraph)}</{tag}>", f"{INDENT}/// ")
 
 
 def _external(routine):
@@ -92,26 +85,25 @@ def _is_single_output(argument):
     return argument.type in ("TrvOut", "TrvIntOut")
 
 
-def _array_or_function(argument):
+def _kind(argument):
     if argument.kind == "function":
         return "PositionFunction"
-    direction = "[In, Out]" if argument.is_written else "[In]"
-    return f"{direction} {'int' if argument.is_integer else 'float'}[]"
+    return ("int" if argument.is_integer else "float") + "[]" * argument.is_array
 
 
 def _by_address(argument):
-    if argument.is_array or argument.kind == "function":
-        return _array_or_function(argument)
-    return "ref int" if argument.is_integer else "ref float"
+    direction = "[In, Out] " if argument.is_written else "[In] "
+    return direction * argument.is_array + "ref " * _is_single(argument) + _kind(argument)
 
 
 def _by_choice(argument):
-    if argument.is_array or argument.kind == "function":
-        return _array_or_function(argument).split("] ", 1)[-1]
     way = "" if _takes_value(argument) else "out " if _is_single_output(argument) else "ref "
-    return way + ("int" if argument.is_integer else "float")
+    return way * _is_single(argument) + _kind(argument)
+
+
+def _is_single(argument):
+    return not argument.is_array and argument.kind != "function"
 
 
 def _passed(argument):
-    single = not argument.is_array and argument.kind != "function"
-    return "ref " * single + _name(argument)
+    return "ref " * _is_single(argument) + _name(argument)

@@ -1,8 +1,6 @@
 """The Pascal unit for Free Pascal and Delphi."""
 
-from xml.sax.saxutils import escape
-
-from bindings_text import NOTICE, constants, explanation, groups, wrap, wrap_list
+from bindings_text import NOTICE, constants, documented, groups, wrap, wrap_list
 
 # Words of the language, of either compiler; an argument of such a name gets an underscore.
 RESERVED = set("""
@@ -64,9 +62,7 @@ def text(interface):
 
 
 def _declaration(routine):
-    for i, paragraph in enumerate(explanation(routine)):
-        tag = "remarks" if i else "summary"
-        yield from wrap(f"<{tag}>{escape(paragraph)}</{tag}>", "/// ")
+    yield from documented(routine, "/// ")
     yield f"procedure {routine.name}("
     parts = groups((_kind(a), _name(a)) for a in routine.arguments)
     for i, ((way, kind), names) in enumerate(parts):

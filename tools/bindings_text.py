@@ -2,6 +2,7 @@
 
 import csv
 import textwrap
+from xml.sax.saxutils import escape
 
 import model
 
@@ -42,6 +43,13 @@ def explanation(routine):
     """The meaning of a routine, then what its status values tell; a paragraph each."""
     written = [a for a in routine.named_values() if a.is_written]
     return [routine.brief] + [f"{a.name}: {told(a)}." for a in written]
+
+
+def documented(routine, first):
+    """The same as the comments of XML that C# and Pascal have."""
+    for i, paragraph in enumerate(explanation(routine)):
+        tag = "remarks" if i else "summary"
+        yield from wrap(f"<{tag}>{escape(paragraph)}</{tag}>", first)
 
 
 def told(argument):

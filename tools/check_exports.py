@@ -1,30 +1,21 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Checks what the built libraries export, import and promise: those in build, or in another folder.
 
     tools/check_exports.py [FOLDER]
 
-Needs the Python packages pefile and pyelftools.
+Needs Debian's packages python3-pefile and python3-pyelftools.
 """
 
-import importlib.util
-import os
 import re
 import sys
 from pathlib import Path
 
+import pefile
+from elftools.elf.elffile import ELFFile
+from elftools.elf.relocation import RelocationSection
+
 import entries
 import model
-
-DEBIAN_PYTHON = "/usr/bin/python3"  # which has Debian's packages where another python3 comes first
-
-if any(importlib.util.find_spec(package) is None for package in ("pefile", "elftools")):
-    if os.path.realpath(sys.executable) != os.path.realpath(DEBIAN_PYTHON):
-        os.execv(DEBIAN_PYTHON, [DEBIAN_PYTHON, *sys.argv])
-    sys.exit("check_exports: apt-get install python3-pefile python3-pyelftools")
-
-import pefile  # noqa: E402
-from elftools.elf.elffile import ELFFile  # noqa: E402
-from elftools.elf.relocation import RelocationSection  # noqa: E402
 
 BUILD = Path(sys.argv[1]) if len(sys.argv) > 1 else model.ROOT / "build"
 DLLS = (BUILD / "windows/bin/Trelvin.dll", BUILD / "windows64/bin/Trelvin64.dll")
@@ -33,21 +24,10 @@ SHARED_LIBRARY = BUILD / "native/lib/libtrelvin.so"
 LARGEST_DLL = 200 * 1024
 MEMORY = {"calloc", "free", "malloc", "memcpy", "memmove", "memset", "strlen"}
 ALLOWED_IMPORTS = {
-    "KERNEL32.dll": {
-        "CloseHandle",
-        "CreateFileA",
-        "DisableThreadLibraryCalls",
-        "GetFileSize",
-        "GetFileType",
-        "GetLastError",
-        "GetTickCount",
-        "LockFileEx",
-        "SetHandleInformation",
-        "SetLastError",
-        "Sleep",
-        "UnlockFileEx",
-        "WriteFile",
-    },
+    "KERNEL32.dll": set("""
+        CloseHandle CreateFileA DisableThreadLibraryCalls GetFileSize GetFileType GetLastError
+        GetTickCount LockFileEx SetHandleInformation SetLastError Sleep UnlockFileEx WriteFile
+        """.split()),
     "msvcrt.dll": MEMORY,
 }
 BIND_NOW = 8  # of DT_FLAGS
@@ -163,12 +143,8 @@ def image_faults_of_shared(library):
         yield "no stack protector"
     if library["e_machine"] == "EM_X86_64":
         notes = library.get_section_by_name(".note.gnu.property")
-        marks = [
-            mark["pr_data"]
-            for note in (notes.iter_notes() if notes else ())
-            for mark in note["n_desc"]
-            if mark["pr_type"] == "GNU_PROPERTY_X86_FEATURE_1_AND"
-        ]
+        marks = [mark["pr_data"] for note in (notes.iter_notes() if notes else ())
+                 for mark in note["n_desc"] if mark["pr_type"] == "GNU_PROPERTY_X86_FEATURE_1_AND"]
         if marks != [INDIRECT_BRANCHES | SHADOW_STACK]:
             yield "not marked for control-flow enforcement"
     # Trelvin.dll, of the same sources, would not run them: it has no start-up code.

@@ -47,7 +47,6 @@ class Variable:
     size: int = 0  # of an array
     values: list = None
     is_changed: bool = False  # by a call
-    is_declared: bool = True  # by a line of its own
 
     @property
     def is_array(self):
@@ -109,7 +108,7 @@ class _Reader:
             name, text = let.groups()
             for used in set(NAME.findall(text)) - {"sqrt"}:
                 self._known(used)
-            return Step("let", text, new=[self._add(Variable(name, False, is_declared=False))])
+            return Step("let", text, new=[self._add(Variable(name, False))])
         if line.startswith("set "):
             name, place, text = SET.match(line).groups()
             self._known(name).is_changed = True
@@ -143,7 +142,7 @@ class _Reader:
         for name, argument in zip(words[1:], routine.arguments):
             is_single_output = argument.direction == "out" and not argument.is_array
             if name not in self.task.variables and is_single_output:
-                step.new.append(self._add(Variable(name, argument.is_integer, is_declared=False)))
+                step.new.append(self._add(Variable(name, argument.is_integer)))
             variable = self._known(name)
             if (variable.is_array, variable.is_integer) != (argument.is_array, argument.is_integer):
                 raise Faulty(f"{name} is of another type than {routine.name} takes")

@@ -9,7 +9,6 @@ from docutils import nodes
 from docutils.parsers.rst import Directive, directives
 from docutils.statemachine import StringList
 from sphinx import addnodes
-from sphinx.directives.other import TocTree
 from sphinx.transforms import SphinxTransform
 from sphinx.util import logging
 from sphinx.util.docutils import ReferenceRole, SphinxRole
@@ -42,21 +41,17 @@ class _OfManual(Directive):
 
 
 class Figure(_OfManual):
-    """A figure that the library draws of its own results; the content is its caption.
-
-    One that has not been drawn is left out, or an error where `trelvin_figures_required` is set.
-    """
+    """A figure that the library draws of its own results; the content is its caption."""
 
     required_arguments = 1
     has_content = True
 
     def run(self):
-        name, config = self.arguments[0], self.env.config
-        folders = [Path(config.trelvin_figures), Path(self.env.srcdir)]
+        name = self.arguments[0]
+        folders = [Path(self.env.config.trelvin_figures), Path(self.env.srcdir)]
         file = next((f for f in (folder / f"{name}.svg" for folder in folders) if f.exists()), None)
         if not file:
-            if config.trelvin_figures_required:
-                LOG.warning("no figure %s", name, location=self.env.docname)
+            LOG.warning("no figure %s", name, location=self.env.docname)
             return []
         caption = nodes.caption("", "", *self.markdown(self.content)[0].children)
         wide = float(re.search(r'width="([\d.]+)', file.read_text()).group(1)) > 600
@@ -95,15 +90,12 @@ class Task(_OfManual):
 
 
 class Table(_OfManual):
-    """A table from a CSV file of docs/, where it exists; lines behind # are shown as text."""
+    """A table from a CSV file of docs/; lines behind # are shown as text."""
 
     required_arguments = 1
-    option_spec = {"missing": directives.unchanged}
 
     def run(self):
         file = Path(self.env.srcdir) / self.arguments[0]
-        if not file.exists():
-            return self.markdown([self.options.get("missing", "")])
         self.path_from_page(file)
         lines = file.read_text().splitlines()
         notes = [line.lstrip("# ") for line in lines if line.startswith("#")]
@@ -143,15 +135,6 @@ class Accuracy(Table):
         further = [f"{note[0].upper()}{note[1:]}: {', '.join(map(self._cell, routines))}.\n"
                    for note, routines in without.items()]
         return head, rows, "\n".join(further).splitlines()
-
-
-class Pages(TocTree):
-    """A table of contents of those pages that exist."""
-
-    def run(self):
-        there = [entry for entry in self.content if entry in self.env.found_docs]
-        self.content = StringList(there, self.state.document.current_source)
-        return super().run()
 
 
 class Anchors(SphinxTransform):
@@ -212,17 +195,14 @@ class NothingUnchecked(SphinxTransform):
         if not re.match(r"accuracy$|conventions$|tasks/", self.env.docname):
             return
         for text in self.document.findall(nodes.Text):
-            parents = []
-            node = text.parent
-            while node:
-                parents.append(node)
-                node = node.parent
-            if any(isinstance(p, self.shown) or {"checked", "measured"} & {*p.get("classes", ())}
-                   for p in parents):
-                continue
-            for word in facts.careful(text):
+            for word in [] if self._is_left_out(text.parent) else facts.careful(text):
                 LOG.warning("'%s' in '%s': no fact stands behind it", word, text,
                             location=text.parent)
+
+    def _is_left_out(self, node):
+        """Whether a node is shown as it is, or has its fact, or stands in one of which that is so."""
+        return node and (isinstance(node, self.shown) or {"checked", "measured"} & {*node["classes"]}
+                         or self._is_left_out(node.parent))
 
 
 class NothingOutside(SphinxTransform):
@@ -246,21 +226,18 @@ def without_link(app, env, node, contents):
 
 def with_page_of_designer(app, page, source):
     """What docs/designer.md tells stands on another page: designer.html is the designer itself."""
-    told = Path(app.srcdir) / "designer.md"
-    if page == "section_designer" and told.exists():
-        source[0] += "\n" + told.read_text().split("\n", 1)[1]
+    if page == "section_designer":
+        source[0] += "\n" + (Path(app.srcdir) / "designer.md").read_text().split("\n", 1)[1]
 
 
 def setup(app):
     app.add_config_value("trelvin_figures", "", "env")
-    app.add_config_value("trelvin_figures_required", False, "env")
     app.add_config_value("trelvin_tasks", {}, "")
     app.add_config_value("trelvin_routines", {}, "")
     app.add_directive("trelvin-figure", Figure)
     app.add_directive("trelvin-task", Task)
     app.add_directive("trelvin-table", Table)
     app.add_directive("trelvin-accuracy", Accuracy)
-    app.add_directive("trelvin-pages", Pages)
     app.add_role("checked", Checked())
     app.add_role("said", Said())
     app.add_transform(Anchors)

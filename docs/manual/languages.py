@@ -14,13 +14,8 @@ DECIMAL = re.compile(r"\b\d+\.\d+\b")
 ELEMENT = re.compile(r"(\w+)\[(\d+)\]")
 SPARE = "element n+1 is overwritten"  # by which an array counts as not changed
 
-
-def wrap(text, first):
-    return bindings_text.wrap(text, first, width=WIDTH)
-
-
-def wrap_list(items, first, following, end, continuation=""):
-    return bindings_text.wrap_list(items, first, following, end, continuation, WIDTH)
+wrap = partial(bindings_text.wrap, width=WIDTH)
+wrap_list = partial(bindings_text.wrap_list, width=WIDTH)
 
 
 class Language:
@@ -31,6 +26,10 @@ class Language:
     indent = "  "
     head, between, tail = [], [], []
     declares_first = False  # all variables before the first call
+    called = "{}(", ");"  # what is before and behind the arguments of a routine
+    assignment = "{} = {};"
+    declared = "{}", ";"  # what is before and behind the names of variables of a kind
+    element_at, first = "{}[{}]", 0
     continuation = ""
     real_suffix = ""
     square_root = "sqrt"
@@ -45,12 +44,9 @@ class Language:
                 body += lines
             if self.declares_first and step.kind != "declare":
                 declarations += self.appearing(step.new)
-        lines = [*self.start(task), *declarations, *self.between, *body]
+        lines = [*declarations, *self.between, *body]
         lines = [self.indent + line if line else "" for line in lines]
         return re.sub(r"\n{3,}", "\n\n", "\n".join([*self.head, *lines, *self.tail]) + "\n")
-
-    def start(self, task):
-        return []
 
     @staticmethod
     def _belongs_to_declarations(steps, i):
@@ -72,22 +68,29 @@ class Language:
         return self.call(task, step) if step.kind == "call" else [""]
 
     def assign(self, name, expression):
-        return f"{name} = {expression};"
+        return self.assignment.format(name, expression)
+
+    def let(self, v, expression):
+        return self.assign(v.name, expression)
 
     def call(self, task, step):
         first = [] if self.declares_first else self.appearing(step.new)
         passed = [self.passed(task.variables[name], argument)
                   for name, argument in zip(step.arguments, step.routine.arguments)]
-        start, end = self.parentheses(step.routine.name)
+        start, end = [part.format(step.routine.name) for part in self.called]
         return first + wrap_list(passed, start, " " * len(start), end, self.continuation)
 
-    def parentheses(self, name):
-        return f"{name}(", ");"
+    def passed(self, v, argument):
+        return v.name
 
     def declare(self, variables):
         if variables[0].is_array:
             return self.array(variables[0])
         return list(self.singles(variables))
+
+    def singles(self, variables):
+        some = [f"{v.name} = {self.value(v)}" for v in variables]
+        return self.declaration_of(variables[0].is_integer, some)
 
     def value(self, variable):
         return variable.values[0] + self.real_suffix * ("." in variable.values[0])
@@ -97,7 +100,8 @@ class Language:
         return self.element(text.replace("sqrt", self.square_root))
 
     def element(self, text):
-        return ELEMENT.sub(lambda m: f"{m.group(1)}[{int(m.group(2)) - 1}]", text)
+        return ELEMENT.sub(lambda m: self.element_at.format(
+            m.group(1), int(m.group(2)) - 1 + self.first), text)
 
     def values(self, variable):
         values = variable.values + ["0"] * (variable.size - len(variable.values))
@@ -109,6 +113,10 @@ class Language:
             names = [v.name for v in variables if v.is_integer == kind]
             lines += self.declaration_of(kind, names) if names else []
         return lines
+
+    def declaration_of(self, is_integer, names):
+        start, end = self.declared
+        return wrap_list(names, start.format(self.kinds[is_integer]), "    ", end, self.continuation)
 
     def label(self, step):
         return step.label.ljust(LABEL)
@@ -125,11 +133,12 @@ class C(Language):
     real_suffix = "f"
     square_root = "sqrtf"
     kinds = ("float", "int32_t")
+    mathematics = "#include <math.h>\n#include <stdio"
 
     def program(self, task):
         text = super().program(task)
-        return text.replace("#include <stdio", "#include <math.h>\n#include <stdio") \
-            if "sqrtf" in text else text
+        behind = self.mathematics.split("\n")[1]
+        return text.replace(behind, self.mathematics) if f"{self.square_root}(" in text else text
 
     def lines_of(self, task, step):
         if step.kind == "comment":
@@ -148,9 +157,6 @@ class C(Language):
         kind = "const " * (not v.is_changed) + self.kinds[v.is_integer]
         values = ", ".join(x + "f" * ("." in x) for x in v.values)
         return [f"{kind} {v.name}[{v.size}]" + (f" = {{{values}}};" if v.values else ";")]
-
-    def declaration_of(self, is_integer, names):
-        return wrap_list(names, self.kinds[is_integer], "    ", ";")
 
     def let(self, v, expression):
         return f"const float {v.name} = {expression};"
@@ -171,11 +177,7 @@ class Cpp(C):
     tail = ["}"]
     comment = "// "
     square_root = "std::sqrt"
-
-    def program(self, task):
-        text = super().program(task)
-        return text.replace("#include <cstdio", "#include <cmath>\n#include <cstdio") \
-            if "std::sqrt" in text else text
+    mathematics = "#include <cmath>\n#include <cstdio"
 
     def lines_of(self, task, step):
         return wrap(step.text, "// ") if step.kind == "comment" else super().lines_of(task, step)
@@ -193,35 +195,17 @@ class Fortran(Language):
     head = ["program task", "  use trelvin", "  implicit none"]
     between, tail = [""], ["end program"]
     declares_first = True
+    called = "call {}(", ")"
+    assignment = "{} = {}"
+    declared = "{} ::", ""
+    element_at, first = "{}({})", 1
     continuation = " &"
     kinds = ("real(c_float)", "integer(c_int32_t)")
-
-    def parentheses(self, name):
-        return f"call {name}(", ")"
-
-    def singles(self, variables):
-        some = [f"{v.name} = {self.value(v)}" for v in variables]
-        return wrap_list(some, f"{self.kinds[variables[0].is_integer]} ::", "    ", "", " &")
 
     def array(self, v):
         kind = self.kinds[v.is_integer]
         start = f"{kind} :: {v.name}({v.size})"
         return [f"{start} = [{kind} :: {self.values(v)}]" if v.values else start]
-
-    def declaration_of(self, is_integer, names):
-        return wrap_list(names, f"{self.kinds[is_integer]} ::", "    ", "", " &")
-
-    def assign(self, name, expression):
-        return f"{name} = {expression}"
-
-    def let(self, v, expression):
-        return self.assign(v.name, expression)
-
-    def element(self, text):
-        return ELEMENT.sub(r"\1(\2)", text)
-
-    def passed(self, v, argument):
-        return v.name
 
     def show(self, step):
         form = f"i{VALUE}" if step.decimals is None else f"f{VALUE}.{step.decimals}"
@@ -236,6 +220,7 @@ class Pascal(Language):
     head = ["program task;", "", "uses", "  trelvin;", "", "var"]
     between, tail = ["", "\x00begin"], ["end."]
     declares_first = True
+    assignment = "{} := {};"
     square_root = "Sqrt"
     kinds = ("Single", "LongInt")
 
@@ -251,12 +236,6 @@ class Pascal(Language):
 
     def declaration_of(self, is_integer, names):
         return wrap_list(names, "", "  ", f": {self.kinds[is_integer]};")
-
-    def assign(self, name, expression):
-        return f"{name} := {expression};"
-
-    def let(self, v, expression):
-        return self.assign(v.name, expression)
 
     def passed(self, v, argument):
         return f"{v.name}[0]" if v.is_array else v.name
@@ -274,24 +253,15 @@ class CSharp(Language):
             "    static void Main()", "    {"]
     tail = ["    }", "}"]
     indent = " " * 8
+    called = "Native.{}(", ");"
     real_suffix = "f"
     square_root = "(float)Math.Sqrt"
     kinds = ("float", "int")
-
-    def parentheses(self, name):
-        return f"Native.{name}(", ");"
-
-    def singles(self, variables):
-        some = [f"{v.name} = {self.value(v)}" for v in variables]
-        return wrap_list(some, self.kinds[variables[0].is_integer], "    ", ";")
 
     def array(self, v):
         kind = self.kinds[v.is_integer]
         values = f"{{ {self.values(v)} }}" if v.values else f"new {kind}[{v.size}]"
         return [f"{kind}[] {v.name} = {values};"]
-
-    def declaration_of(self, is_integer, names):
-        return wrap_list(names, self.kinds[is_integer], "    ", ";")
 
     def let(self, v, expression):
         return f"float {v.name} = {expression};"
@@ -314,12 +284,13 @@ class Basic(Language):
     comment = "' "
     head, tail = ["Public Sub Task()"], ["End Sub"]
     indent = "    "
+    called = "{}", ""
+    assignment = "{} = {}"
+    declared = "Dim", ""
+    element_at, first = "{}({})", 1
     continuation = " _"
     square_root = "Sqr"
     kinds = ("Single", "Long")
-
-    def parentheses(self, name):
-        return f"{name}", ""
 
     def singles(self, variables):
         yield from self.appearing(variables)
@@ -333,16 +304,10 @@ class Basic(Language):
 
     def declaration_of(self, is_integer, names):
         names = [f"{name} As {self.kinds[is_integer]}" for name in names]
-        return wrap_list(names, "Dim", "    ", "", " _")
+        return super().declaration_of(is_integer, names)
 
     def let(self, v, expression):
         return f"Dim {v.name} As Single: {v.name} = {expression}"
-
-    def assign(self, name, expression):
-        return f"{name} = {expression}"
-
-    def element(self, text):
-        return ELEMENT.sub(r"\1(\2)", text)
 
     def passed(self, v, argument):
         return f"{v.name}(1)" if v.is_array else v.name
@@ -418,6 +383,7 @@ class Returning(Language):
 class Python(Returning):
     name, suffix, lexer = "Python", "py", "python"
     comment = "# "
+    assignment = "{} = {}"
 
     def program(self, task):
         text = super().program(task)
@@ -429,12 +395,6 @@ class Python(Returning):
 
     def singles(self, variables):
         return [f"{v.name} = {self.value(v)}" for v in variables]
-
-    def assign(self, name, expression):
-        return f"{name} = {expression}"
-
-    def let(self, v, expression):
-        return self.assign(v.name, expression)
 
     def call(self, task, step):
         function, names = self.facts(step)
@@ -486,9 +446,6 @@ class JavaScript(Returning):
         lines = super().lines_of(task, step)
         word = self._word(task, [step.new[0].name]) if step.kind == "let" else ""
         return [f"{word} {lines[0]}"] if word else lines
-
-    def let(self, v, expression):
-        return self.assign(v.name, expression)
 
     def _binding(self, task, name):
         """The steps that bind a variable: the first declares it, others assign to it."""

@@ -88,11 +88,15 @@ def _argument_row(writer, routine, names, argument):
     return [names, f"{DIRECTIONS[argument.direction]}, {kind}", writer.text(text, routine.name)]
 
 
-def _value_rows(argument):
-    """(value, name, meaning) as texts."""
+def _value_rows(writer, routine, argument):
+    """Value, name and meaning of each."""
     values = argument.values
-    rows = [(str(v.number), values.enumeration.snake(v), v.meaning) for v in values.values]
-    return rows + [(*text.partition(": ")[::2],) for text in values.ranges]
+    rows = [(str(v.number), f"`{values.enumeration.snake(v)}`", v.meaning) for v in values.values]
+    for text in values.ranges:
+        value, _, meaning = text.partition(": ")
+        rows.append((value, "", meaning))
+    return [[f"**{escaped(value)}**", name, writer.text(meaning, routine.name)]
+            for value, name, meaning in rows]
 
 
 def _routine(writer, routine, level):
@@ -103,8 +107,7 @@ def _routine(writer, routine, level):
     rows = [_argument_row(writer, routine, *pair) for pair in _alike(routine.arguments)]
     lines += table(["Argument", "Kind", "Meaning"], rows, "arguments")
     for argument in routine.named_values():
-        rows = [[f"**{escaped(row[0])}**", f"`{row[1]}`" if len(row) > 2 else "",
-                 writer.text(row[-1], routine.name)] for row in _value_rows(argument)]
+        rows = _value_rows(writer, routine, argument)
         if argument.values.other:
             rows.append(["**other**", "", writer.text(argument.values.other, routine.name)])
         lines += table([f"`{argument.name}`", "Name", "Meaning"], rows, "statuses")
@@ -181,10 +184,9 @@ def statuses(writer):
         rows = []
         for routine in family.routines:
             for argument in (a for a in routine.named_values() if a.is_written):
-                for i, row in enumerate(_value_rows(argument)):
-                    rows.append([writer.link(routine.name) if i == 0 else "", f"`{argument.name}`",
-                                 f"**{escaped(row[0])}**", writer.text(row[-1], routine.name),
-                                 f"`{row[1]}`" if len(row) > 2 else ""])
+                for i, (value, name, meaning) in enumerate(_value_rows(writer, routine, argument)):
+                    link = writer.link(routine.name) if i == 0 else ""
+                    rows.append([link, f"`{argument.name}`", value, meaning, name])
         if rows:
             lines += [f"## {family.title}", ""]
             lines += table(["Routine", "Output", "Value", "Meaning", "Name"], rows, "values")

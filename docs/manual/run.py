@@ -10,7 +10,7 @@ import model
 import languages
 
 LIBRARY = model.ROOT / "build/native/lib"
-OPTIONS = ["-L", str(LIBRARY), "-ltrelvin", "-Wl,-rpath," + str(LIBRARY)]
+OPTIONS = ["-L", str(LIBRARY), "-ltrelvin", "-Wl,-rpath," + str(LIBRARY), "-lm"]
 BINDINGS = model.ROOT / "bindings"
 
 
@@ -31,19 +31,6 @@ def _command(words, folder):
 # --- once for all tasks -------------------------------------------------------------------------
 
 
-def _prepare_fortran(folder):
-    _command(["gfortran", "-O1", "-c", BINDINGS / "fortran/trelvin.F90"], folder)
-
-
-def _prepare_pascal(folder):
-    _command(["fpc", "-v0w", f"-FU{folder}", BINDINGS / "pascal/trelvin.pas"], folder)
-
-
-def _prepare_csharp(folder):
-    source = BINDINGS / "csharp/Trelvin.cs"
-    _command(["mcs", "-target:library", "-out:Trelvin.Net.dll", source], folder)
-
-
 def _prepare_python(folder):
     package = folder / "trelvin"
     shutil.copytree(BINDINGS / "python/trelvin", package, dirs_exist_ok=True)
@@ -61,32 +48,24 @@ def _prepare_javascript(folder):
     (folder / "node_modules").symlink_to(modules)
 
 
-PREPARE = {"Fortran": _prepare_fortran, "Pascal": _prepare_pascal, "C#": _prepare_csharp,
-           "Python": _prepare_python, "JavaScript": _prepare_javascript}
+def _prepare(*command):
+    return lambda folder: _command(command, folder)
+
+
+PREPARE = {
+    "Fortran": _prepare("gfortran", "-O1", "-c", BINDINGS / "fortran/trelvin.F90"),
+    "Pascal": _prepare("fpc", "-v0w", "-FU.", BINDINGS / "pascal/trelvin.pas"),
+    "C#": _prepare("mcs", "-target:library", "-out:Trelvin.Net.dll", BINDINGS / "csharp/Trelvin.cs"),
+    "Python": _prepare_python,
+    "JavaScript": _prepare_javascript,
+}
 
 # --- a program ----------------------------------------------------------------------------------
 
 
-def _c(source, program):
-    return [["gcc", "-Wall", "-Wextra", "-Werror", "-I", model.ROOT / "include", source, *OPTIONS,
-             "-lm", "-o", program], [program]]
-
-
-def _cpp(source, program):
-    return [["g++", "-Wall", "-Wextra", "-Werror", "-I", model.ROOT / "include", source, *OPTIONS,
-             "-o", program], [program]]
-
-
-def _fortran(source, program):
-    return [["gfortran", "-Wall", source, *OPTIONS, "-o", program], [program]]
-
-
-def _pascal(source, program):
-    places = [f"-Fu{source.parent}", f"-Fl{LIBRARY}", f"-o{program}"]
-    return [["fpc", "-v0w", *places, source], [program]]
-
-
-COMMANDS = {"C": _c, "C++": _cpp, "Fortran": _fortran, "Pascal": _pascal}
+STRICT = ["-Wall", "-Wextra", "-Werror", "-I", model.ROOT / "include"]
+COMPILERS = {"C": ["gcc", *STRICT], "C++": ["g++", *STRICT], "Fortran": ["gfortran", "-Wall"],
+             "Pascal": ["fpc", "-v0w", "-Fu.", f"-Fl{LIBRARY}"]}
 
 
 def _each(language, folder, tasks):
@@ -96,9 +75,10 @@ def _each(language, folder, tasks):
 def _printed(language, folder, task):
     source = folder / f"{task.name.replace('-', '_')}.{language.suffix}"
     source.write_text(language.program(task))
-    for words in COMMANDS[language.name](source, folder / f"{source.stem}.program"):
-        text = _command(words, folder)
-    return text
+    program = folder / f"{source.stem}.program"
+    linked = [] if language.name == "Pascal" else OPTIONS
+    _command([*COMPILERS[language.name], source, *linked, f"-o{program}"], folder)
+    return _command([program], folder)
 
 
 # --- all programs in one process, where starting is what takes time ------------------------------
@@ -121,30 +101,33 @@ def _all_csharp(language, folder, tasks):
     return _split(_command(["mono", "all.exe"], folder), tasks)
 
 
-def _all_python(language, folder, tasks):
-    for task in tasks:
-        (folder / f"{task.name}.py").write_text(language.program(task))
-    loop = "import runpy, sys\nfor program in sys.argv[1:]:\n    runpy.run_path(program)\n"
-    loop += f"    print({END[:-1]!r})"
-    files = [f"{task.name}.py" for task in tasks]
-    return _split(_command(["/usr/bin/python3", "-c", loop, *files], folder), tasks)
-
-
-def _all_javascript(language, folder, tasks):
-    for task in tasks:
-        (folder / f"{task.name}.mjs").write_text(language.program(task))
-    loop = "for (const program of process.argv.slice(1)) {\n  await import(program);\n"
-    loop += f"  console.log({json.dumps(END[:-1])});\n}}"
-    files = [f"./{task.name}.mjs" for task in tasks]
-    return _split(_command(["node", "--input-type=module", "-e", loop, *files], folder), tasks)
+def _all_scripts(command, loop):
+    """A column of programs that a loop of their own language runs, given their files."""
+    def column(language, folder, tasks):
+        files = [f"./{task.name}.{language.suffix}" for task in tasks]
+        for task, file in zip(tasks, files):
+            (folder / file).write_text(language.program(task))
+        return _split(_command([*command, loop % json.dumps(END[:-1]), *files], folder), tasks)
+    return column
 
 
 def _split(text, tasks):
     return dict(zip([task.name for task in tasks], text.split(END)))
 
 
+PYTHON = """\
+import runpy, sys
+for program in sys.argv[1:]:
+    runpy.run_path(program)
+    print(%s)"""
+JAVASCRIPT = """\
+for (const program of process.argv.slice(1)) {
+  await import(program);
+  console.log(%s);
+}"""
 COLUMNS = {"C": _each, "C++": _each, "Fortran": _each, "Pascal": _each, "C#": _all_csharp,
-           "Python": _all_python, "JavaScript": _all_javascript}
+           "Python": _all_scripts(["/usr/bin/python3", "-c"], PYTHON),
+           "JavaScript": _all_scripts(["node", "--input-type=module", "-e"], JAVASCRIPT)}
 
 
 def _column(language, folder, tasks):
@@ -162,10 +145,7 @@ def run(tasks, folder):
         columns = dict(zip([language.name for language in languages_run], columns))
     for name, column in columns.items():
         for task in tasks:
-            compare(task.name, columns["C"][task.name], name, column[task.name])
+            expected, printed = columns["C"][task.name], column[task.name]
+            if printed != expected:
+                raise Failed(f"{task.name}: C prints\n{expected}but {name} prints\n{printed}")
     return columns["C"]
-
-
-def compare(task, expected, language, printed):
-    if printed != expected:
-        raise Failed(f"{task}: C prints\n{expected}but {language} prints\n{printed}")

@@ -9,13 +9,8 @@ from pathlib import Path
 FILE = Path(__file__).resolve().parents[1] / "words.txt"
 
 
-def read():
-    """(word, [target, ...]) in the order of the alphabet; a target is a routine or a page."""
-    return [(word, targets) for word, _, targets in _entries()]
-
-
 def _entries():
-    """(word, other terms, targets) of each line."""
+    """(word, other terms, targets) in the order of the alphabet; a target is a routine or a page."""
     lines = [line for line in FILE.read_text().splitlines() if line and not line.startswith("#")]
     entries = [re.fullmatch(r"([^(:]+?)(?: \((.+)\))?: (.+)", line).groups() for line in lines]
     entries = [(word, (terms or "").split(", "), targets.split()) for word, terms, targets in entries]
@@ -58,7 +53,7 @@ def page(writer):
     lines = ["# Find by word", "", "A word of the trade, the task that shows how it is done, and "
              "the routines. The search box and the [index](genindex) know the same words.", ""]
     letter = ""
-    for word, targets in read():
+    for word, _, targets in _entries():
         if word[0].upper() != letter:
             letter = word[0].upper()
             lines += [f"## {letter}", ""]
@@ -71,7 +66,7 @@ def page(writer):
 def entries():
     """For the index of Sphinx: {target: [word, ...]}."""
     found = {}
-    for word, targets in read():
+    for word, _, targets in _entries():
         for target in targets:
             found.setdefault(target, []).append(word)
     return found

@@ -4,7 +4,8 @@
 FORTRAN = {"r": "r", "i": "i", "rs": "rs", "is": "is", "f": "height"}
 PASCAL = {"r": "r", "i": "i", "rs": "rs[0]", "is": "js[0]", "f": "@Height"}
 CSHARP = {"r": "ref r", "i": "ref i", "rs": "rs", "is": "js", "f": "height"}
-BY_VALUE = {"r": "1f", "i": "1"}
+BY_VALUE = {"r": {"in": "1f", "out": "out r", "inout": "ref r"},
+            "i": {"in": "1", "out": "out i", "inout": "ref i"}}
 
 FORTRAN_FRAME = """\
 program probe
@@ -70,32 +71,28 @@ def kind_of(argument):
     return ("i" if argument.is_integer else "r") + "s" * argument.is_array
 
 
-def _calls(routines, spelling, form):
-    for routine in routines:
-        arguments = [spelling[kind_of(argument)] for argument in routine.arguments]
-        yield form % (routine.name, ", ".join(arguments))
-
-
-def fortran(routines):
-    calls = (call.replace(", ", ", &\n") for call in _calls(routines, FORTRAN, "call %s(%s)"))
-    return FORTRAN_FRAME % "\n".join(calls)
-
-
-def pascal(routines):
-    return PASCAL_FRAME % "\n".join(_calls(routines, PASCAL, "%s(%s);"))
-
-
-def csharp(routines):
-    calls = list(_calls(routines, CSHARP, "Native.%s(%s);"))
+def _calls(routines, form, spelling, by_value=None):
+    """A call of each routine; single arguments by their direction where there are such spellings."""
     for routine in routines:
         arguments = []
         for argument in routine.arguments:
             kind = kind_of(argument)
-            if kind in BY_VALUE:
-                ways = {"in": BY_VALUE[kind], "out": f"out {kind}", "inout": f"ref {kind}"}
-                arguments.append(ways[argument.direction])
-            else:
-                arguments.append(CSHARP[kind])
-        if any(argument in BY_VALUE.values() for argument in arguments):
-            calls.append(f"Native.{routine.name}({', '.join(arguments)});")
-    return CSHARP_FRAME % "\n".join(calls)
+            ways = by_value and by_value.get(kind)
+            arguments.append(ways[argument.direction] if ways else spelling[kind])
+        yield form % (routine.name, ", ".join(arguments))
+
+
+def fortran(routines):
+    calls = (call.replace(", ", ", &\n") for call in _calls(routines, "call %s(%s)", FORTRAN))
+    return FORTRAN_FRAME % "\n".join(calls)
+
+
+def pascal(routines):
+    return PASCAL_FRAME % "\n".join(_calls(routines, "%s(%s);", PASCAL))
+
+
+def csharp(routines):
+    with_inputs = [r for r in routines if {"TrvIn", "TrvIntIn"} & {a.type for a in r.arguments}]
+    return CSHARP_FRAME % "\n".join([
+        *_calls(routines, "Native.%s(%s);", CSHARP),
+        *_calls(with_inputs, "Native.%s(%s);", CSHARP, BY_VALUE)])

@@ -44,11 +44,6 @@ def parts(result):
 
 
 class Wheel(unittest.TestCase):
-    def test_a_host_prints_the_table(self):
-        host = [sys.executable, ROOT / "examples" / "python" / "girder.py"]
-        printed = subprocess.check_output(host, env={**os.environ, "PYTHONPATH": str(SITE)})
-        self.assertEqual(printed, (ROOT / "examples" / "girder.txt").read_bytes())
-
     def test_the_same_bytes_from_another_folder(self):
         other = FOLDER / "other" / "bindings" / "python"
         shutil.copytree(SOURCES, other)
@@ -72,9 +67,6 @@ class Wheel(unittest.TestCase):
 
 
 class Results(unittest.TestCase):
-    def test_a_single_output_is_a_number(self):
-        self.assertEqual(trelvin.trvpds(0, 0, 0, 3, 4, 0), 5.0)
-
     def test_a_polygon_needs_its_vertices_only(self):
         square = trelvin.trvspl(x=[2, 3, 3, 2], y=[4, 4, 5, 5])
         self.assertEqual((square.sx, square.sy), (4.5, 2.5))
@@ -83,8 +75,6 @@ class Results(unittest.TestCase):
     def test_unwritten_outputs(self):
         parallel = trelvin.trvlni(1, 0, 0, 1, 0, -5)
         self.assertTrue(np.isnan([parallel.x, parallel.y]).all())
-        meanings = trelvin.MEANINGS["trvlni"]["status"]
-        self.assertEqual(meanings[parallel.status], "the lines are parallel and distinct")
         self.assertEqual(trelvin.trvphip(1, 0, 0, 0, 1, 0).status, 0)
         x, y = [0, 1, 1, 0], [0, 0, 1, 1]
         closed = trelvin.trvmxt(x, y, np.roll(x, -1), np.roll(y, -1), 4 * [0.1])

@@ -267,7 +267,10 @@ class Checked(unittest.TestCase):
             ("sqrt(9) = 2", 2, False), ("2·x²", facts.Formula([({"x": 3}, 18)]), True),
             ("a - b = b a", facts.Formula([({"a": 2, "b": 1}, 1)]), False),
             ("Clockwise", "clockwise", True), ("clockwise", "counter-clockwise", False),
-            ("clockwise", None, False),
+            ("clockwise", None, False), ("+y, else -z", facts.Quote("to +y if y is, else to -z"), True),
+            ("-z, else +y", facts.Quote("to +y if y is, else to -z"), False),
+            ("clockwise", facts.Quote("counter-clockwise"), False),
+            ("l³ / 3", facts.Quote("l^3/3"), True), ("0.5", facts.Quote("0.53"), False),
         ):
             self.assertEqual(facts.difference(text, fact) is None, agrees, (text, fact))
 

@@ -43,49 +43,21 @@ typedef uintptr_t Address;
 #define REPEAT_33(x) REPEAT_32(x), x(32)
 #define REPEAT_34(x) REPEAT_33(x), x(33)
 
+#define EACH_COUNT(x)                                                                           \
+  x(1) x(2) x(3) x(4) x(5) x(6) x(7) x(8) x(9) x(10) x(11) x(12) x(13) x(14) x(15) x(16) x(17)  \
+      x(18) x(19) x(20) x(21) x(22) x(23) x(24) x(25) x(26) x(27) x(28) x(29) x(30) x(31) x(32) \
+          x(33) x(34)
+
 #define POINTER(i) void *
 #define PLACE(i) (void *)at[i]
 #define CALL(count)                                                      \
   case count:                                                            \
     ((void (*)(REPEAT_##count(POINTER)))routine)(REPEAT_##count(PLACE)); \
-    break
+    break;
 
 static void call(void (*routine)(void), int32_t arguments, const Address *at) {
   switch (arguments) {
-    CALL(1);
-    CALL(2);
-    CALL(3);
-    CALL(4);
-    CALL(5);
-    CALL(6);
-    CALL(7);
-    CALL(8);
-    CALL(9);
-    CALL(10);
-    CALL(11);
-    CALL(12);
-    CALL(13);
-    CALL(14);
-    CALL(15);
-    CALL(16);
-    CALL(17);
-    CALL(18);
-    CALL(19);
-    CALL(20);
-    CALL(21);
-    CALL(22);
-    CALL(23);
-    CALL(24);
-    CALL(25);
-    CALL(26);
-    CALL(27);
-    CALL(28);
-    CALL(29);
-    CALL(30);
-    CALL(31);
-    CALL(32);
-    CALL(33);
-    CALL(34);
+    EACH_COUNT(CALL)
     default:
       break;
   }
