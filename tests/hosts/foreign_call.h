@@ -15,5 +15,9 @@ struct ForeignCall {
 };
 
 // `arguments` has room for six addresses at least. The state of the caller is back afterwards.
-extern "C" void foreign_call(void (*routine)(), void *const *arguments, int count,
-                             ForeignCall *call);
+extern "C" {
+#ifdef __x86_64__
+[[gnu::sysv_abi]]  // on Windows too
+#endif
+void foreign_call(void (*routine)(), void *const *arguments, int count, ForeignCall *call);
+}
