@@ -21,7 +21,7 @@ UNITS = ROOT / "build/tidy"
 KEPT = re.compile(r"-(I|D|std=|m|fno-(exceptions|rtti))")
 OTHERWISE = ("-Iinclude", "-Itests", "-Isrc", "-Iapps/section_properties", "-std=c++17")
 # These need Windows' own headers, GCC's numbers of 113 bits, and the libraries of ./dev bench.
-LEFT_OUT = re.compile(r"library_entry|dll_host|tests/accuracy|benchmarks/peers/")
+LEFT_OUT = re.compile(r"library_entry|tests/accuracy|benchmarks/peers/")
 LARGEST = 60_000  # bytes of a unit
 # Of tests, which run under sanitizers, the analyzer follows fewer paths: it would take most of the time.
 SHALLOW = [f"--extra-arg={word}" for word in ("-Xclang", "-analyzer-config", "-Xclang", "mode=shallow")]

@@ -110,6 +110,8 @@ _foreign_call:
   movl  20(%ebp), %edx
   stmxcsr 20(%edx)
   fnstcw  24(%edx)
+  andl  $-16, %esp
+  subl  28(%edx), %esp
   movl  %esp, %ebx            # where the routine must leave the stack
 1:
   testl %ecx, %ecx

@@ -68,11 +68,6 @@ endforeach()
 
 if(BUILD_SHARED_LIBS)
   set(libraries ${CMAKE_DL_LIBS})  # these know the library by name only
-  if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
-    add_host(dll_host hosts/dll_host.cpp)
-    add_dependencies(dll_host trelvin)
-    trelvin_test(dll_host dll_host)
-  endif()
   find_program(TRELVIN_CLANG clang)
   find_program(TRELVIN_LLD_LINK lld-link)
   if(MINGW AND TRELVIN_LLVM_DLLTOOL AND TRELVIN_CLANG AND TRELVIN_LLD_LINK)
