@@ -92,17 +92,11 @@ if(BUILD_SHARED_LIBS)
     trelvin_test(cycles cycles $<TARGET_FILE:trelvin>)
   endif()
 
-  if(NOT WIN32)
-    set(libraries Trelvin::trelvin ${CMAKE_DL_LIBS})
-    add_host(interpose hosts/interpose.cpp)
-    set_target_properties(interpose PROPERTIES ENABLE_EXPORTS ON)
-    trelvin_test(interpose interpose)
-    if(NOT CMAKE_CROSSCOMPILING AND NOT CMAKE_CXX_FLAGS MATCHES sanitize)
-      list(APPEND libraries callers)
-      add_host(contracts hosts/contracts.cpp hosts/conditions.cpp)
-      target_compile_options(contracts PRIVATE -ffp-contract=off)  # of what conditions compute
-      trelvin_test(contracts contracts $<TARGET_FILE:trelvin>)
-    endif()
+  if(NOT WIN32 AND NOT CMAKE_CROSSCOMPILING AND NOT CMAKE_CXX_FLAGS MATCHES sanitize)
+    set(libraries Trelvin::trelvin ${CMAKE_DL_LIBS} callers)
+    add_host(contracts hosts/contracts.cpp hosts/conditions.cpp)
+    target_compile_options(contracts PRIVATE -ffp-contract=off)  # of what conditions compute
+    trelvin_test(contracts contracts $<TARGET_FILE:trelvin>)
   endif()
 endif()
 
