@@ -1,6 +1,7 @@
 // Circles and arcs.
 #include <trelvin/trelvin.h>
 
+#include <optional>
 #include <utility>
 
 #include "measure.h"
@@ -32,22 +33,23 @@ MEASURE(trvcer, "cancels where the result is small") {
   out.add("F", got.F, dot(V2(c), V2(c)) - square(Exact(r)));
 }
 
-// The points in which a line, by a point and a direction, meets a circle; false where it does not.
-bool meet(V2 p, V2 u, V2 centre, Exact radius_squared, V2 *first, V2 *second) {
+using Two = std::optional<std::pair<V2, V2>>;
+
+// The points in which a line, by a point and a direction, meets a circle, if it does.
+Two meet(V2 p, V2 u, V2 centre, Exact radius_squared) {
   const V2 foot = p + (dot(centre - p, u) / dot(u, u)) * u;
   const Exact rest = radius_squared - dot(foot - centre, foot - centre);
-  if (!(rest > 0)) return false;
+  if (!(rest > 0)) return {};
   const V2 half = square_root(rest) * unit(u);
-  *first = foot + half;
-  *second = foot - half;
-  if (first->y < second->y) std::swap(*first, *second);
-  return true;
+  Two points = {{foot + half, foot - half}};
+  if (points->first.y < points->second.y) std::swap(points->first, points->second);
+  return points;
 }
 
-bool meet(Exact a, Exact b, Exact c, const Circle &circle, V2 *first, V2 *second) {
+Two meet(Exact a, Exact b, Exact c, const Circle &circle) {
   const V2 normal{a, b};
   const V2 on_line = (-c / dot(normal, normal)) * normal;
-  return meet(on_line, left_of(normal), circle.centre(), circle.radius_squared(), first, second);
+  return meet(on_line, left_of(normal), circle.centre(), circle.radius_squared());
 }
 
 MEASURE(trvlci, level_line) {
@@ -56,10 +58,10 @@ MEASURE(trvlci, level_line) {
   const P2 p = draw.near_by(c, 0, 60), q = draw.near_by(p);
   const auto line = call<P3>(trvln3, p, q);
   const auto [n, first, second] = call<int, P2, P2>(trvlci, line, k);
-  V2 exact_first, exact_second;
-  if (n != 2 || !meet(line.x, line.y, line.z, k, &exact_first, &exact_second)) return;
-  out.add("x1 y1", first, exact_first);
-  out.add("x2 y2", second, exact_second);
+  const Two exact = meet(line.x, line.y, line.z, k);
+  if (n != 2 || !exact) return;
+  out.add("x1 y1", first, exact->first);
+  out.add("x2 y2", second, exact->second);
 }
 
 MEASURE(trvc12, level_line) {
@@ -67,12 +69,10 @@ MEASURE(trvc12, level_line) {
   const Circle k1 = circle(c, draw.number(200, 300));
   const Circle k2 = circle(draw.near_by(c, 150, 250), draw.number(200, 300));
   const auto [n, first, second] = call<int, P2, P2>(trvc12, k1, k2);
-  V2 exact_first, exact_second;
-  if (n != 2 || !meet(Exact(k2.D) - k1.D, Exact(k2.E) - k1.E, Exact(k2.F) - k1.F, k1, &exact_first,
-                      &exact_second))
-    return;
-  out.add("x1 y1", first, exact_first);
-  out.add("x2 y2", second, exact_second);
+  const Two exact = meet(Exact(k2.D) - k1.D, Exact(k2.E) - k1.E, Exact(k2.F) - k1.F, k1);
+  if (n != 2 || !exact) return;
+  out.add("x1 y1", first, exact->first);
+  out.add("x2 y2", second, exact->second);
 }
 
 // The centre to the right of the chord from p to q, at a distance from its middle.
@@ -138,8 +138,7 @@ Arc arc(Draw &draw) {
 // Where a line through a station of the chord meets the circle on the left of the chord, which is
 // across from the centre.
 V2 on_arc(const Arc &arc, V2 p, V2 u) {
-  V2 first, second;
-  meet(p, u, arc.c, square(arc.radius()), &first, &second);
+  const auto [first, second] = *meet(p, u, arc.c, square(arc.radius()));
   return cross(arc.along(), first - arc.a) > 0 ? first : second;
 }
 

@@ -108,17 +108,17 @@ void Results::add_all(const char *output, const std::vector<float> &got,
   errors_.push_back({output, worst / unit});
 }
 
-std::vector<Measurement> &measurements() {
-  static std::vector<Measurement> all;
+std::map<std::string, Measurement> &measurements() {
+  static std::map<std::string, Measurement> all;
   return all;
 }
 
-std::string measured(const Measurement &measurement) {
+std::string measured(const std::string &routine, const Measurement &measurement) {
   std::string lines;
   for (const double shift : {0.0, far_shift}) {
     if (shift > 0 && measurement.where == origin_only) break;
     std::vector<Column> columns = errors_of(measurement, shift);
-    if (columns.empty()) lines += measurement.routine + ",,far,,,refused\n";
+    if (columns.empty()) lines += routine + ",,far,,,refused\n";
     for (Column &column : columns) {
       std::vector<double> &errors = column.errors;
       std::sort(errors.begin(), errors.end());
@@ -126,8 +126,8 @@ std::string measured(const Measurement &measurement) {
       std::string note = worst >= many ? measurement.note : "";
       if (errors.size() < cases / 2)
         note += (note.empty() ? "" : "; ") + std::to_string(errors.size()) + " cases";
-      lines += measurement.routine + ',' + column.output + ',' + (shift > 0 ? "far" : "origin") +
-               ',' + figure(errors[errors.size() / 2]) + ',' + figure(worst) + ',' + note + '\n';
+      lines += routine + ',' + column.output + ',' + (shift > 0 ? "far" : "origin") + ',' +
+               figure(errors[errors.size() / 2]) + ',' + figure(worst) + ',' + note + '\n';
     }
   }
   return lines;

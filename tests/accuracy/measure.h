@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -120,28 +121,24 @@ class Results {
   std::vector<Error> errors_;
 };
 
-// A routine to measure. The note tells what loses the figures where many are lost.
+// How a routine is measured. The note tells what loses the figures where many are lost.
 enum Where { both, origin_only };  // the second where no argument is a place
 struct Measurement {
-  std::string routine;
   void (*run)(Draw &draw, Results &out);
   std::string note;
   Where where = both;
 };
 
-std::vector<Measurement> &measurements();
-inline bool add(const Measurement &measurement) {
-  measurements().push_back(measurement);
-  return true;
-}
+std::map<std::string, Measurement> &measurements();
 
 // The case of a routine: MEASURE(routine, note, where) { what is called, and the exact results }
-#define MEASURE(routine, ...)                                                                 \
-  void routine##_case(Draw &draw, Results &out);                                              \
-  [[maybe_unused]] const bool routine##_added = add({#routine, routine##_case, __VA_ARGS__}); \
+#define MEASURE(routine, ...)                                                  \
+  void routine##_case(Draw &draw, Results &out);                               \
+  [[maybe_unused]] const bool routine##_added =                                \
+      measurements().insert({#routine, {routine##_case, __VA_ARGS__}}).second; \
   void routine##_case(Draw &draw, Results &out)
 
 // The lines of the table.
-std::string measured(const Measurement &measurement);
+std::string measured(const std::string &routine, const Measurement &measurement);
 
 }  // namespace accuracy
