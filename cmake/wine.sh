@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # Runs a Windows program under Wine of 32 or 64 bits, in a prefix of the project's own, without Wine's
-# chatter and without asking for add-ons. Without a program it only makes the prefix and starts Wine's
-# server, which stays for the next programs.
+# chatter and without asking for add-ons. Without a program it only makes the prefix.
 #
 #     wine.sh 32|64 [PROGRAM ARGUMENTS...]
 set -euo pipefail
@@ -19,10 +18,11 @@ case $1 in
     ;;
 esac
 shift
-if [ $# -gt 0 ]; then exec "$loader" "$@"; fi
 mkdir -p "$WINEPREFIX"
-wineserver -p60 || true # refused where one runs already
-"$loader" wineboot --init >"$WINEPREFIX.log" 2>&1 || {
+# The server stays for the next programs, and keeps no pipe of this one open. Refused where one runs.
+wineserver -p60 </dev/null >/dev/null 2>&1 || true
+if [ $# -gt 0 ]; then exec "$loader" "$@"; fi
+"$loader" wineboot --init </dev/null >"$WINEPREFIX.log" 2>&1 || {
   cat "$WINEPREFIX.log" >&2
   exit 1
 }

@@ -58,7 +58,7 @@ scripts_lint() {
 # Examples and program again, as projects of their own against the installed library. They must print
 # what those of the build tree print.
 installs() {
-  local project
+  local project version
   rm -rf build/installed build/consumer
   cmake --install build/native --prefix build/installed
   for project in examples apps/section_properties; do
@@ -76,8 +76,9 @@ installs() {
     ../native/bin/section_properties rhs 100 200 8
   } >expected
   diff expected printed
+  version=$(sed -n 's/.*TRELVIN_VERSION "\(.*\)"/\1/p' ../../include/trelvin/calling.h)
   PKG_CONFIG_PATH=$(dirname "$(find ../installed -name trelvin.pc)") \
-    pkg-config --print-errors --exact-version="$(sed -n 's/.*TRELVIN_VERSION "\(.*\)"/\1/p' ../../include/trelvin/calling.h)" trelvin
+    pkg-config --print-errors --exact-version="$version" trelvin
 }
 
 # All routines on bytes of the fuzzer's choice, for a minute.

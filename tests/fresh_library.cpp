@@ -42,6 +42,7 @@ std::vector<Bytes> memory_of_library() {
 #else
 // The writable segments of the shared library but for what the loader has closed since.
 std::vector<Bytes> memory_of_library() {
+  static auto *const within = reinterpret_cast<unsigned char *>(&trvpds);
   std::vector<Bytes> found;
   dl_iterate_phdr(
       [](dl_phdr_info *info, std::size_t, void *data) {
@@ -52,7 +53,7 @@ std::vector<Bytes> memory_of_library() {
         std::uintptr_t closed = 0;
         for (int i = 0; i < info->dlpi_phnum; ++i) {
           const ElfW(Phdr) &header = info->dlpi_phdr[i];
-          ours |= header.p_type == PT_LOAD && in(header, reinterpret_cast<std::uintptr_t>(&trvpds));
+          ours |= header.p_type == PT_LOAD && in(header, reinterpret_cast<std::uintptr_t>(within));
           if (header.p_type == PT_GNU_RELRO)
             closed = info->dlpi_addr + header.p_vaddr + header.p_memsz;
         }
@@ -63,7 +64,7 @@ std::vector<Bytes> memory_of_library() {
           const std::uintptr_t end = start + header.p_memsz;
           if (closed > start && closed <= end) start = closed;
           static_cast<std::vector<Bytes> *>(data)->push_back(
-              {reinterpret_cast<unsigned char *>(start), end - start});
+              {within + (start - reinterpret_cast<std::uintptr_t>(within)), end - start});
         }
         return 0;
       },
@@ -80,11 +81,12 @@ class FreshLibrary : public testing::EmptyTestEventListener {
       std::exit(2);
     }
     for (const Bytes &bytes : memory_)
-      at_start_.emplace_back(bytes.start, bytes.start + bytes.size);
+      copy(bytes.start, at_start_.emplace_back(bytes.size).data(), bytes.size);
   }
 
   void OnTestStart(const testing::TestInfo & /*test*/) override {
-    for (std::size_t i = 0; i < memory_.size(); ++i) restore(memory_[i].start, at_start_[i]);
+    for (std::size_t i = 0; i < memory_.size(); ++i)
+      copy(at_start_[i].data(), memory_[i].start, memory_[i].size);
   }
 
   // Between the library's variables, AddressSanitizer has bytes that nobody may touch.
@@ -92,9 +94,8 @@ class FreshLibrary : public testing::EmptyTestEventListener {
   __attribute__((no_sanitize("address")))
 #endif
   static void
-  restore(volatile unsigned char *to, const std::vector<unsigned char> &from) {
-    const unsigned char *byte = from.data();
-    for (std::size_t size = from.size(); size != 0; --size) *to++ = *byte++;
+  copy(const volatile unsigned char *from, volatile unsigned char *to, std::size_t size) {
+    for (; size != 0; --size) *to++ = *from++;
   }
 
   std::vector<Bytes> memory_;

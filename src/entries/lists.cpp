@@ -178,7 +178,7 @@ TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
 TRELVIN_ROUTINE trvppp(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn y0, TrvIntOut count,
                        TrvArrayOut XC) {
   const Door door;
-  const OutlineVertices outline = {X, Y, n};
+  const Outline outline = {X, Y, n};
   count = outline.n < 3 ? 0 : cross_level(outline, y0, XC);
 }
 
@@ -186,7 +186,7 @@ TRELVIN_ROUTINE trvpin(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn x1, TrvIn y
                        TrvIn y2, TrvIntOut count, TrvArrayOut XI, TrvArrayOut YI, TrvArrayOut T,
                        TrvIntArrayOut EDGE, TrvIntOut status) {
   const Door door;
-  const OutlineVertices outline = {X, Y, n};
+  const Outline outline = {X, Y, n};
   const Point2 p1 = {x1, y1};
   const Point2 p2 = {x2, y2};
   if (outline.n < 3 || coincide(p1, p2)) {

@@ -18,7 +18,7 @@ struct Edge {
 
 // The edge from a vertex on, if it crosses the line y = y0. It counts from its lower end, included, to
 // its upper end, excluded.
-std::optional<Edge> crossing_edge(const OutlineVertices &outline, Integer i, Real y0) {
+std::optional<Edge> crossing_edge(const Outline &outline, Integer i, Real y0) {
   const Point2 p = outline[i];
   const Point2 q = outline[outline.after(i)];
   if ((p.y <= y0) == (q.y <= y0)) return std::nullopt;
@@ -116,7 +116,7 @@ struct CrossingSort {
 
 }  // namespace
 
-Integer cross_level(const OutlineVertices &outline, Real y0, Real *crossings) {
+Integer cross_level(const Outline &outline, Real y0, Real *crossings) {
   Integer found = 0;
   for (Integer i = 0; i < outline.n; ++i) {
     const auto edge = crossing_edge(outline, i, y0);
@@ -129,7 +129,7 @@ Integer cross_level(const OutlineVertices &outline, Real y0, Real *crossings) {
   return found;
 }
 
-bool inside(const OutlineVertices &outline, Point2 p) {
+bool inside(const Outline &outline, Point2 p) {
   bool odd = false;
   for (Integer i = 0; i < outline.n; ++i) {
     const auto edge = crossing_edge(outline, i, p.y);
@@ -141,7 +141,7 @@ bool inside(const OutlineVertices &outline, Point2 p) {
   return odd;
 }
 
-Integer cross_segment(const OutlineVertices &outline, Point2 p1, Point2 p2,
+Integer cross_segment(const Outline &outline, Point2 p1, Point2 p2,
                       const CrossingArrays &crossings) {
   const Segment segment = {p1, p2};
   const auto side = [&](Integer i) { return segment.side(outline[i]); };

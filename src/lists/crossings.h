@@ -1,23 +1,16 @@
 // Crossings of closed outlines with lines and segments of the plane.
 #pragma once
 
-#include "vectors/vectors.h"
+#include "plane/outlines.h"
 
 namespace trelvin {
 
-struct OutlineVertices {
-  const Real *x, *y;
-  Integer n;
-  Point2 operator[](Integer i) const { return {x[i], y[i]}; }
-  [[nodiscard]] Integer after(Integer i) const { return i + 1 < n ? i + 1 : 0; }
-};
-
 // Writes where the line y = y0 crosses an outline, ascending, and returns how often it does.
-Integer cross_level(const OutlineVertices &outline, Real y0, Real *crossings);
+Integer cross_level(const Outline &outline, Real y0, Real *crossings);
 
 // Whether a point is inside by the even-odd rule. One on the outline counts as the point just to its
 // right, or just above where that is on the outline too.
-bool inside(const OutlineVertices &outline, Point2 p);
+bool inside(const Outline &outline, Point2 p);
 
 struct CrossingArrays {
   Real *x, *y;
@@ -26,7 +19,7 @@ struct CrossingArrays {
 };
 
 // Writes where a segment crosses an outline, by place, then by edge, and returns how often it does.
-Integer cross_segment(const OutlineVertices &outline, Point2 p1, Point2 p2,
+Integer cross_segment(const Outline &outline, Point2 p1, Point2 p2,
                       const CrossingArrays &crossings);
 
 }  // namespace trelvin
