@@ -22,8 +22,7 @@ constexpr float not_a_number = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
 // What outputs hold before a call: found again, it shows that the routine left them alone.
-constexpr std::int32_t unwritten_int = -7725;
-constexpr float unwritten = unwritten_int;
+constexpr std::int32_t kept = -7725;
 
 using Values = std::vector<double>;
 
@@ -36,8 +35,8 @@ Values outputs(void(TRELVIN_CALL *routine)(Arguments...), Inputs... inputs) {
   std::apply(
       [&](auto &...argument) {
         std::size_t i = 0;
-        ((argument = static_cast<std::decay_t<decltype(argument)>>(
-              i < given.size() ? given[i] : unwritten_int),
+        ((argument =
+              static_cast<std::decay_t<decltype(argument)>>(i < given.size() ? given[i] : kept),
           ++i),
          ...);
         routine(argument...);

@@ -21,7 +21,7 @@ UNITS = ROOT / "build/tidy"
 KEPT = re.compile(r"-(I|D|std=|m|fno-(exceptions|rtti))")
 OTHERWISE = ("-Iinclude", "-Itests", "-Isrc", "-Iapps/section_properties", "-std=c++17")
 # These need Windows' own headers, GCC's numbers of 113 bits, and the libraries of ./dev bench.
-LEFT_OUT = re.compile(r"library_entry|dll_host|tests/accuracy|benchmarks/peers/")
+LEFT_OUT = re.compile(r"library_entry|tests/accuracy|benchmarks/peers/")
 LARGEST = 60_000  # bytes of a unit
 # The analyzer takes most of the time. It follows all paths in library and programs, fewer in other code,
 # and none in unit tests, which run under sanitizers.

@@ -1,6 +1,7 @@
 // Circles and arcs.
 #include <trelvin/trelvin.h>
 
+#include <optional>
 #include <utility>
 
 #include "measure.h"
@@ -20,13 +21,11 @@ struct Circle {
   [[nodiscard]] Exact radius_squared() const { return dot(centre(), centre()) - F; }
 };
 
-Circle circle(P2 centre, float r) {
-  Circle c;
-  trvcer(centre.x, centre.y, r, c.D, c.E, c.F);
-  return c;
-}
+auto parts(Circle &c) { return std::tie(c.D, c.E, c.F); }
 
-void equation_of_circle(Draw &draw, Results &out) {
+Circle circle(P2 centre, float r) { return call<Circle>(trvcer, centre, r); }
+
+MEASURE(trvcer, "cancels where the result is small") {
   const P2 c = draw.point();
   const float r = draw.number(50, 500);
   const Circle got = circle(c, r);
@@ -34,52 +33,46 @@ void equation_of_circle(Draw &draw, Results &out) {
   out.add("F", got.F, dot(V2(c), V2(c)) - square(Exact(r)));
 }
 
-// The points in which a line, by a point and a direction, meets a circle; false where it does not.
-bool meet(V2 p, V2 u, V2 centre, Exact radius_squared, V2 *first, V2 *second) {
+using Two = std::optional<std::pair<V2, V2>>;
+
+// The points in which a line, by a point and a direction, meets a circle, if it does.
+Two meet(V2 p, V2 u, V2 centre, Exact radius_squared) {
   const V2 foot = p + (dot(centre - p, u) / dot(u, u)) * u;
   const Exact rest = radius_squared - dot(foot - centre, foot - centre);
-  if (!(rest > 0)) return false;
+  if (!(rest > 0)) return {};
   const V2 half = square_root(rest) * unit(u);
-  *first = foot + half;
-  *second = foot - half;
-  if (first->y < second->y) std::swap(*first, *second);
-  return true;
+  Two points = {{foot + half, foot - half}};
+  if (points->first.y < points->second.y) std::swap(points->first, points->second);
+  return points;
 }
 
-bool meet(Exact a, Exact b, Exact c, const Circle &circle, V2 *first, V2 *second) {
+Two meet(Exact a, Exact b, Exact c, const Circle &circle) {
   const V2 normal{a, b};
   const V2 on_line = (-c / dot(normal, normal)) * normal;
-  return meet(on_line, left_of(normal), circle.centre(), circle.radius_squared(), first, second);
+  return meet(on_line, left_of(normal), circle.centre(), circle.radius_squared());
 }
 
-void line_and_circle(Draw &draw, Results &out) {
+MEASURE(trvlci, level_line) {
   const P2 c = draw.point();
   const Circle k = circle(c, draw.number(100, 500));
-  const P2 p = Draw::from(c, draw.vector(0, 60)), q = Draw::from(p, draw.vector(50, 500));
-  float la = 0, lb = 0, lc = 0;
-  trvln3(p.x, p.y, q.x, q.y, la, lb, lc);
-  std::int32_t n = 0;
-  P2 first, second;
-  trvlci(la, lb, lc, k.D, k.E, k.F, n, first.x, first.y, second.x, second.y);
-  V2 exact_first, exact_second;
-  if (n != 2 || !meet(la, lb, lc, k, &exact_first, &exact_second)) return;
-  out.add("x1 y1", first, exact_first);
-  out.add("x2 y2", second, exact_second);
+  const P2 p = draw.near_by(c, 0, 60), q = draw.near_by(p);
+  const auto line = call<P3>(trvln3, p, q);
+  const auto [n, first, second] = call<int, P2, P2>(trvlci, line, k);
+  const Two exact = meet(line.x, line.y, line.z, k);
+  if (n != 2 || !exact) return;
+  out.add("x1 y1", first, exact->first);
+  out.add("x2 y2", second, exact->second);
 }
 
-void two_circles(Draw &draw, Results &out) {
+MEASURE(trvc12, level_line) {
   const P2 c = draw.point();
   const Circle k1 = circle(c, draw.number(200, 300));
-  const Circle k2 = circle(Draw::from(c, draw.vector(150, 250)), draw.number(200, 300));
-  std::int32_t n = 0;
-  P2 first, second;
-  trvc12(k1.D, k1.E, k1.F, k2.D, k2.E, k2.F, n, first.x, first.y, second.x, second.y);
-  V2 exact_first, exact_second;
-  if (n != 2 || !meet(Exact(k2.D) - k1.D, Exact(k2.E) - k1.E, Exact(k2.F) - k1.F, k1, &exact_first,
-                      &exact_second))
-    return;
-  out.add("x1 y1", first, exact_first);
-  out.add("x2 y2", second, exact_second);
+  const Circle k2 = circle(draw.near_by(c, 150, 250), draw.number(200, 300));
+  const auto [n, first, second] = call<int, P2, P2>(trvc12, k1, k2);
+  const Two exact = meet(Exact(k2.D) - k1.D, Exact(k2.E) - k1.E, Exact(k2.F) - k1.F, k1);
+  if (n != 2 || !exact) return;
+  out.add("x1 y1", first, exact->first);
+  out.add("x2 y2", second, exact->second);
 }
 
 // The centre to the right of the chord from p to q, at a distance from its middle.
@@ -87,39 +80,30 @@ V2 centre_beside(V2 p, V2 q, Exact distance) {
   return 0.5 * (p + q) - distance * unit(left_of(q - p));
 }
 
-void centre_of_radius(Draw &draw, Results &out) {
-  const P2 p = draw.point(), q = Draw::from(p, draw.vector(50, 300));
+MEASURE(trvcer2, level_chord) {
+  const P2 p = draw.point(), q = draw.near_by(p, 50, 300);
   const float r = draw.number(200, 600);
-  P2 a, b, c;
-  std::int32_t n = 0;
-  trvcer2(p.x, p.y, q.x, q.y, 1, r, a.x, a.y, b.x, b.y, c.x, c.y, n);
+  const auto [a, b, c, n] = call<P2, P2, P2, int>(trvcer2, p, q, 1, r);
   const V2 chord = q - p;
   if (n == 2)
     out.add("xc yc", c, centre_beside(p, q, square_root(square(Exact(r)) - dot(chord, chord) / 4)));
 }
 
-void centre_of_sagitta(Draw &draw, Results &out) {
-  const P2 p = draw.point(), q = Draw::from(p, draw.vector(100, 300));
+MEASURE(trvcer1, level_chord) {
+  const P2 p = draw.point(), q = draw.near_by(p, 100, 300);
   const float h = draw.number(5, 45);
-  float r = 0;
-  P2 c;
-  std::int32_t n = 0;
-  trvcer1(p.x, p.y, q.x, q.y, 1, h, r, c.x, c.y, n);
+  const auto [r, c, n] = call<float, P2, int>(trvcer1, p, q, 1, h);
   const V2 chord = q - p;
   const Exact radius = Exact(h) / 2 + dot(chord, chord) / (8 * Exact(h));
   out.add("r", r, radius);
   if (n == 2) out.add("xc yc", c, centre_beside(p, q, radius - h));
 }
 
-void turned_point(Draw &draw, Results &out) {
-  const P2 c = draw.point();
-  P2 p = Draw::from(c, draw.vector(50, 500));
-  const V2 given = p;
+MEASURE(trvcer3, "") {
+  const P2 c = draw.point(), p = draw.near_by(c);
   const float angle = draw.angle();
-  P2 got;
-  std::int32_t status = 0;
-  trvcer3(c.x, c.y, p.x, p.y, angle, got.x, got.y, status);
-  out.add("xr yr", got, V2(c) + turned(given - c, angle));
+  const auto [r, status] = call<P2, int>(trvcer3, c, p, angle);
+  out.add("xr yr", r, V2(c) + turned(p - c, angle));
 }
 
 // --- arcs -------------------------------------------------------------------------------------------
@@ -133,6 +117,8 @@ struct Arc {
   [[nodiscard]] Exact radius() const { return length(a - c); }
   [[nodiscard]] V2 station(Exact s) const { return V2(a) + s * along(); }
 };
+
+auto parts(Arc &arc) { return parts(arc.c, arc.a, arc.b); }
 
 Arc arc(Draw &draw) {
   constexpr float directions[12][2] = {{25, 0},   {24, 7},  {20, 15}, {15, 20},
@@ -152,73 +138,61 @@ Arc arc(Draw &draw) {
 // Where a line through a station of the chord meets the circle on the left of the chord, which is
 // across from the centre.
 V2 on_arc(const Arc &arc, V2 p, V2 u) {
-  V2 first, second;
-  meet(p, u, arc.c, square(arc.radius()), &first, &second);
+  const auto [first, second] = *meet(p, u, arc.c, square(arc.radius()));
   return cross(arc.along(), first - arc.a) > 0 ? first : second;
 }
 
-float station(Draw &draw, const Arc &arc) {
-  return draw.number(0.1, 0.9) * static_cast<float>(arc.chord());
+float station(Draw &draw, const Arc &arc, double low = 0.1, double high = 0.9) {
+  return draw.number(low, high) * static_cast<float>(arc.chord());
 }
 
-void perpendicular_station(Draw &draw, Results &out) {
+MEASURE(trvcer8, constant) {
   const Arc k = arc(draw);
   const float d = station(draw, k);
-  P2 p;
-  std::int32_t status = 0;
-  trvcer8(k.c.x, k.c.y, k.a.x, k.a.y, k.b.x, k.b.y, 1, d, p.x, p.y, status);
+  const auto [p, status] = call<P2, int>(trvcer8, k, 1, d);
   if (status == 1) out.add("x y", p, on_arc(k, k.station(d), left_of(k.along())));
 }
 
-void radial_station(Draw &draw, Results &out) {
+MEASURE(trvcer6, level_line) {
   const Arc k = arc(draw);
   const float d = station(draw, k);
-  P2 p;
-  std::int32_t status = 0;
-  trvcer6(k.c.x, k.c.y, k.a.x, k.a.y, k.b.x, k.b.y, 1, d, p.x, p.y, status);
+  const auto [p, status] = call<P2, int>(trvcer6, k, 1, d);
   if (status == 1) out.add("x y", p, on_arc(k, k.station(d), k.station(d) - k.c));
 }
 
-void strip(Draw &draw, Results &out) {
+MEASURE(trvcer9, constant) {
   const Arc k = arc(draw);
-  const float d = draw.number(0.4, 0.6) * static_cast<float>(k.chord());
-  const float w = draw.number(0.1, 0.5) * static_cast<float>(k.chord());
-  P2 p, q;
-  std::int32_t status = 0;
-  trvcer9(k.c.x, k.c.y, k.a.x, k.a.y, k.b.x, k.b.y, 1, d, w, p.x, p.y, q.x, q.y, status);
+  const float d = station(draw, k, 0.4, 0.6), w = station(draw, k, 0.1, 0.5);
+  const auto [p, q, status] = call<P2, P2, int>(trvcer9, k, 1, d, w);
   if (status != 1) return;
   out.add("x1 y1", p, on_arc(k, k.station(d - Exact(w) / 2), left_of(k.along())));
   out.add("x2 y2", q, on_arc(k, k.station(d + Exact(w) / 2), left_of(k.along())));
 }
 
-void lengths_of_arcs(Draw &draw, Results &out) {
+MEASURE(trvarc1, "") {
   const Arc k = arc(draw);
-  float s1 = 0, s2 = 0;
-  std::int32_t status = 0;
-  trvarc1(k.c.x, k.c.y, k.a.x, k.a.y, k.b.x, k.b.y, s1, s2, status);
+  const auto [s1, s2, status] = call<float, float, int>(trvarc1, k);
   const Exact phi = angle_between(k.a - k.c, k.b - k.c);
   out.add("s1", s1, k.radius() * phi);
   out.add("s2", s2, k.radius() * (2 * pi - phi));
 }
 
-void angle_of_direction(Draw &draw, Results &out) {
+MEASURE(trvaxph, "arc cosine near 0 and pi", origin_only) {
   const P2 d = draw.vector(1, 100);
-  float phi = 0;
-  trvaxph(d.x, d.y, phi);
-  out.add("phi", phi, angle_of(d.y, d.x));
+  out.add("phi", call<float>(trvaxph, d), angle_of(d.y, d.x));
 }
 
-void feet_on_segment(Draw &draw, Results &out) {
-  const P2 p1 = draw.point(), p2 = Draw::from(p1, draw.vector(400, 600));
+MEASURE(trvhin, "the constant of the line cancels") {
+  const P2 p1 = draw.point(), p2 = draw.near_by(p1, 400, 600);
   const V2 u = unit(p2 - p1);
   // Within the segment's stations, where the routine's roots have their sign.
   const auto beside = [&](P2 p, double low, double high) {
-    const V2 v = Exact(draw.number(low, high)) * u + Exact(draw.number(-150, 150)) * left_of(u);
-    return Draw::from(p, {static_cast<float>(v.x), static_cast<float>(v.y)});
+    return Draw::from(
+        p, rounded(Exact(draw.number(low, high)) * u + Exact(draw.number(-150, 150)) * left_of(u)));
   };
   const P2 p0 = beside(p1, 50, 350), p3 = beside(p2, -350, -50);
-  float h0 = 0, s0 = 0, h3 = 0, s3 = 0, len = 0;
-  trvhin(p0.x, p0.y, 0, p1.x, p1.y, 0, p2.x, p2.y, 0, p3.x, p3.y, 0, h0, s0, h3, s3, len);
+  const auto [h0, s0, h3, s3, len] =
+      call<float, float, float, float, float>(trvhin, p0, 0, p1, 0, p2, 0, p3, 0);
   out.add("h0", h0, absolute(cross(u, p0 - p1)));
   out.add("s0", s0, dot(u, p0 - p1));
   out.add("h3", h3, absolute(cross(u, p3 - p1)));
@@ -228,51 +202,36 @@ void feet_on_segment(Draw &draw, Results &out) {
 
 // --- constructions ------------------------------------------------------------------------------
 
-void line_at_angle(Draw &draw, Results &out) {
+constexpr const char *frame_of_chord = "loses digits in the chord's frame";
+
+MEASURE(trvcer4, frame_of_chord) {
   const Arc k = arc(draw);
-  Arc moved = k;
   const float s = station(draw, k), angle = draw.number(0.3, 2.8);
-  P2 o;
-  std::int32_t status = 0;
-  trvcer4(moved.c.x, moved.c.y, moved.a.x, moved.a.y, moved.b.x, moved.b.y, s, angle, o.x, o.y,
-          status);
+  const auto [o, status] = call<P2, int>(trvcer4, k, s, angle);
   if (status == 1) out.add("xo yo", o, on_arc(k, k.station(s), turned(k.along(), angle)));
 }
 
-void chord_and_turned_end(Draw &draw, Results &out) {
+MEASURE(trvcer10, frame_of_chord) {
   const Arc k = arc(draw);
-  Arc moved = k;
   const float turn = draw.number(-1, -0.2), angle = draw.number(0.3, 2.8);
-  constexpr float unwritten = -7725;
-  P2 o{unwritten, unwritten};
-  std::int32_t status = -1;
-  trvcer10(moved.c.x, moved.c.y, moved.a.x, moved.a.y, moved.b.x, moved.b.y, turn, angle, o.x, o.y,
-           status);
+  const auto [o, status] = call<P2, int>(trvcer10, k, turn, angle);
+  if (o.x == 0) return;  // unwritten
   const V2 end = V2(k.c) + turned(k.a - k.c, turn);
-  if (o.x != unwritten)
-    out.add("xo yo", o, crossing(k.a, k.along(), end, turned(k.along(), angle)));
+  out.add("xo yo", o, crossing(k.a, k.along(), end, turned(k.along(), angle)));
 }
 
-void towards_sagitta(Draw &draw, Results &out) {
+MEASURE(trvcer5, frame_of_chord) {
   const Arc k = arc(draw);
-  Arc moved = k;
-  const float s = draw.number(0.1, 0.4) * static_cast<float>(k.chord()), e = draw.number(5, 20);
-  P2 o;
-  std::int32_t status = 0;
-  trvcer5(moved.c.x, moved.c.y, moved.a.x, moved.a.y, moved.b.x, moved.b.y, s, 1, e, o.x, o.y,
-          status);
+  const float s = station(draw, k, 0.1, 0.4), e = draw.number(5, 20);
+  const auto [o, status] = call<P2, int>(trvcer5, k, s, 1, e);
   const V2 t = k.station(k.chord() / 2) + e * left_of(k.along());
   if (status == 1) out.add("xo yo", o, on_arc(k, k.station(s), t - k.station(s)));
 }
 
-void station_parallel_arc(Draw &draw, Results &out) {
-  Arc k = arc(draw);
+MEASURE(trvcer7, "") {
+  const Arc k = arc(draw);
   const float s = station(draw, k), e = draw.number(5, 20), angle = draw.number(0.3, 2.8);
-  P2 p, t, o;
-  float len = 0;
-  std::int32_t status = 0;
-  trvcer7(k.c.x, k.c.y, k.a.x, k.a.y, k.b.x, k.b.y, s, 1, e, angle, p.x, p.y, t.x, t.y, o.x, o.y,
-          len, status);
+  const auto [p, t, o, len, status] = call<P2, P2, P2, float, int>(trvcer7, k, s, 1, e, angle);
   if (status != 1) return;
   const V2 u = turned(k.along(), angle), exact_o = on_arc(k, k.station(s), u);
   out.add("xp yp", p, k.station(s));
@@ -281,17 +240,14 @@ void station_parallel_arc(Draw &draw, Results &out) {
   out.add("len", len, length(exact_o - k.station(s)));
 }
 
-void rounded_corner(Draw &draw, Results &out) {
+MEASURE(trvard, "") {
   const P2 p0 = draw.point();
   const float from = draw.angle(), between = draw.number(0.5, 2.6), r = draw.number(5, 40);
   const auto end = [&](Exact angle) {
-    const V2 v = turned({draw.number(200, 500), 0}, angle);
-    return Draw::from(p0, {static_cast<float>(v.x), static_cast<float>(v.y)});
+    return Draw::from(p0, rounded(turned({draw.number(200, 500), 0}, angle)));
   };
   const P2 p1 = end(from), p2 = end(Exact(from) + between);
-  P2 c, t1, t2;
-  std::int32_t status = 0;
-  trvard(p0.x, p0.y, p1.x, p1.y, p2.x, p2.y, r, c.x, c.y, t1.x, t1.y, t2.x, t2.y, status);
+  const auto [c, t1, t2, status] = call<P2, P2, P2, int>(trvard, p0, p1, p2, r);
   if (status != 1) return;
   const V2 u = unit(p1 - p0), w = unit(p2 - p0);
   const Exact half = angle_between(u, w) / 2;
@@ -300,11 +256,10 @@ void rounded_corner(Draw &draw, Results &out) {
   out.add("xt2 yt2", t2, V2(p0) + (r / tangent(half)) * w);
 }
 
-void box_of_arc(Draw &draw, Results &out) {
-  const P2 c = draw.point(), a = Draw::from(c, draw.vector(50, 500));
+MEASURE(trvenv, "") {
+  const P2 c = draw.point(), a = draw.near_by(c);
   const float sweep = draw.angle();
-  P2 low, high;
-  trvenv(c.x, c.y, a.x, a.y, sweep, low.x, low.y, high.x, high.y);
+  const auto [low, high] = call<P2, P2>(trvenv, c, a, sweep);
   const V2 start = a - c;
   V2 least = a, most = a;
   const auto include = [&](V2 p) {
@@ -322,27 +277,4 @@ void box_of_arc(Draw &draw, Results &out) {
 }
 
 }  // namespace
-
-std::vector<Measurement> circle_measurements() {
-  const auto here = Measurement::origin_only;
-  return {{"trvcer", equation_of_circle, "cancels where the result is small"},
-          {"trvlci", line_and_circle, level_line},
-          {"trvc12", two_circles, level_line},
-          {"trvcer2", centre_of_radius, level_chord},
-          {"trvcer1", centre_of_sagitta, level_chord},
-          {"trvcer3", turned_point, ""},
-          {"trvcer8", perpendicular_station, constant},
-          {"trvcer6", radial_station, level_line},
-          {"trvcer9", strip, constant},
-          {"trvarc1", lengths_of_arcs, ""},
-          {"trvaxph", angle_of_direction, "arc cosine near 0 and pi", here},
-          {"trvhin", feet_on_segment, "the constant of the line cancels"},
-          {"trvcer4", line_at_angle, "loses digits in the chord's frame"},
-          {"trvcer10", chord_and_turned_end, "loses digits in the chord's frame"},
-          {"trvcer5", towards_sagitta, "loses digits in the chord's frame"},
-          {"trvcer7", station_parallel_arc, ""},
-          {"trvard", rounded_corner, ""},
-          {"trvenv", box_of_arc, ""}};
-}
-
 }  // namespace accuracy

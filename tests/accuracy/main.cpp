@@ -41,19 +41,12 @@ const char *without_measurement(const char *routine) {
 }
 
 std::string table() {
-  std::vector<Measurement> measurements;
-  for (const auto &family : {plane_measurements(), property_measurements(), section_measurements(),
-                             circle_measurements(), space_measurements()})
-    measurements.insert(measurements.end(), family.begin(), family.end());
   std::string lines = "routine,output,where,median_ulps,worst_ulps,note\n";
   for (const char *routine : routines) {
-    bool found = false;
-    for (const Measurement &measurement : measurements) {
-      if (measurement.routine != routine) continue;
-      lines += measured(measurement);
-      found = true;
-    }
-    if (!found) lines += std::string(routine) + ",,,,," + without_measurement(routine) + "\n";
+    const auto found = measurements().find(routine);
+    lines += found != measurements().end()
+                 ? measured(routine, found->second)
+                 : std::string(routine) + ",,,,," + without_measurement(routine) + "\n";
   }
   return lines;
 }

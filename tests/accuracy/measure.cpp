@@ -79,6 +79,20 @@ P3 Draw::vector_of_space(double shortest, double longest) {
           static_cast<float>(size * z)};
 }
 
+Outline Draw::star(int n, double first) {
+  const P2 middle = point();
+  Outline outline;
+  for (int i = 0; i < n; ++i) {
+    const double angle = 2 * 3.14159265 * (i + first) / n;
+    const float r = number(100, 300);
+    outline.x.push_back(middle.x + r * static_cast<float>(cosine(angle)));
+    outline.y.push_back(middle.y + r * static_cast<float>(sine(angle)));
+  }
+  outline.x.push_back(0);
+  outline.y.push_back(0);
+  return outline;
+}
+
 void Results::add_all(const char *output, const std::vector<float> &got,
                       const std::vector<Exact> &expected) {
   double unit = 0;
@@ -94,12 +108,17 @@ void Results::add_all(const char *output, const std::vector<float> &got,
   errors_.push_back({output, worst / unit});
 }
 
-std::string measured(const Measurement &measurement) {
+std::map<std::string, Measurement> &measurements() {
+  static std::map<std::string, Measurement> all;
+  return all;
+}
+
+std::string measured(const std::string &routine, const Measurement &measurement) {
   std::string lines;
   for (const double shift : {0.0, far_shift}) {
-    if (shift > 0 && measurement.where == Measurement::origin_only) break;
+    if (shift > 0 && measurement.where == origin_only) break;
     std::vector<Column> columns = errors_of(measurement, shift);
-    if (columns.empty()) lines += measurement.routine + ",,far,,,refused\n";
+    if (columns.empty()) lines += routine + ",,far,,,refused\n";
     for (Column &column : columns) {
       std::vector<double> &errors = column.errors;
       std::sort(errors.begin(), errors.end());
@@ -107,8 +126,8 @@ std::string measured(const Measurement &measurement) {
       std::string note = worst >= many ? measurement.note : "";
       if (errors.size() < cases / 2)
         note += (note.empty() ? "" : "; ") + std::to_string(errors.size()) + " cases";
-      lines += measurement.routine + ',' + column.output + ',' + (shift > 0 ? "far" : "origin") +
-               ',' + figure(errors[errors.size() / 2]) + ',' + figure(worst) + ',' + note + '\n';
+      lines += routine + ',' + column.output + ',' + (shift > 0 ? "far" : "origin") + ',' +
+               figure(errors[errors.size() / 2]) + ',' + figure(worst) + ',' + note + '\n';
     }
   }
   return lines;

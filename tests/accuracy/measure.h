@@ -1,9 +1,11 @@
 // Random cases, and the errors of the results in units in the last place.
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <functional>
+#include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "exact.h"
@@ -19,6 +21,49 @@ struct P3 {
   float x = 0, y = 0, z = 0;
   operator V3() const { return {x, y, z}; }
 };
+
+inline P2 rounded(V2 v) { return {static_cast<float>(v.x), static_cast<float>(v.y)}; }
+
+// A polygon, with the spare element of the routines.
+struct Outline {
+  std::vector<float> x, y;
+  [[nodiscard]] int n() const { return static_cast<int>(x.size()) - 1; }
+  [[nodiscard]] V2 vertex(int i) const {
+    const auto k = static_cast<std::size_t>(i % n());
+    return {x[k], y[k]};
+  }
+};
+
+// What stands for a value among the arguments of a routine.
+template <class T>
+std::tuple<T &> parts(T &value) {
+  return {value};
+}
+template <class T, std::size_t n>
+std::tuple<T *> parts(std::array<T, n> &values) {
+  return {values.data()};
+}
+inline auto parts(P2 &p) { return std::tie(p.x, p.y); }
+inline auto parts(P3 &p) { return std::tie(p.x, p.y, p.z); }
+inline auto parts(P2 *p) { return std::make_tuple(&p->x, &p->y); }
+inline auto parts(P3 *p) { return std::make_tuple(&p->x, &p->y, &p->z); }
+inline auto parts(Outline &o) { return std::make_tuple(o.x.data(), o.y.data(), o.n()); }
+template <class... Values>
+auto parts(Values &...values) {
+  return std::tuple_cat(parts(values)...);
+}
+
+// Calls a routine whose outputs come after its inputs, and returns its output, or all as a tuple.
+template <class... Outputs, class Routine, class... Inputs>
+auto call(Routine routine, Inputs... inputs) {
+  std::tuple<Outputs...> results;
+  std::apply([&](auto &...outputs) { std::apply(routine, parts(inputs..., outputs...)); }, results);
+  if constexpr (sizeof...(Outputs) == 1) {
+    return std::get<0>(results);
+  } else {
+    return results;
+  }
+}
 
 // Where the coordinates of a case lie: within 1000 of the origin, or the same figures moved by 1e5
 // along each axis. They are Reals in both.
@@ -39,6 +84,12 @@ class Draw {
   // A place at a vector from another one, rounded as a host's coordinates are.
   static P2 from(P2 p, P2 vector) { return {p.x + vector.x, p.y + vector.y}; }
   static P3 from(P3 p, P3 vector) { return {p.x + vector.x, p.y + vector.y, p.z + vector.z}; }
+  P2 near_by(P2 p, double shortest = 50, double longest = 500) {
+    return from(p, vector(shortest, longest));
+  }
+  P3 near_by(P3 p) { return from(p, vector_of_space(50, 500)); }
+  // Around a point, the first vertex at a part of the angle between two.
+  Outline star(int n, double first);
 
  private:
   double even(double low, double high);
@@ -70,23 +121,24 @@ class Results {
   std::vector<Error> errors_;
 };
 
-using Case = std::function<void(Draw &, Results &)>;
-
-// A routine to measure. The note tells what loses the figures where many are lost.
+// How a routine is measured. The note tells what loses the figures where many are lost.
+enum Where { both, origin_only };  // the second where no argument is a place
 struct Measurement {
-  std::string routine;
-  Case run;
+  void (*run)(Draw &draw, Results &out);
   std::string note;
-  enum Where { both, origin_only } where = both;  // the second where no argument is a place
+  Where where = both;
 };
 
-std::vector<Measurement> plane_measurements();
-std::vector<Measurement> property_measurements();
-std::vector<Measurement> section_measurements();
-std::vector<Measurement> circle_measurements();
-std::vector<Measurement> space_measurements();
+std::map<std::string, Measurement> &measurements();
+
+// The case of a routine: MEASURE(routine, note, where) { what is called, and the exact results }
+#define MEASURE(routine, ...)                                                  \
+  void routine##_case(Draw &draw, Results &out);                               \
+  [[maybe_unused]] const bool routine##_added =                                \
+      measurements().insert({#routine, {routine##_case, __VA_ARGS__}}).second; \
+  void routine##_case(Draw &draw, Results &out)
 
 // The lines of the table.
-std::string measured(const Measurement &measurement);
+std::string measured(const std::string &routine, const Measurement &measurement);
 
 }  // namespace accuracy

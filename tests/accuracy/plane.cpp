@@ -2,6 +2,7 @@
 #include <trelvin/trelvin.h>
 
 #include <algorithm>
+#include <functional>
 
 #include "measure.h"
 
@@ -10,20 +11,16 @@ namespace {
 
 constexpr const char *small_result = "cancels where the result is small";
 constexpr const char *constant = "the constant of the line cancels";
+constexpr const char *arc_cosine = "arc cosine near 0 and pi";
 
 struct Line {
   float a = 0, b = 0, c = 0;
   [[nodiscard]] V2 normal() const { return {a, b}; }
 };
 
-Line line_through(P2 p, P2 q) {
-  Line l;
-  trvln3(p.x, p.y, q.x, q.y, l.a, l.b, l.c);
-  return l;
-}
+auto parts(Line &l) { return std::tie(l.a, l.b, l.c); }
 
-P2 near_by(Draw &draw, P2 p) { return Draw::from(p, draw.vector(50, 500)); }
-P3 near_by(Draw &draw, P3 p) { return Draw::from(p, draw.vector_of_space(50, 500)); }
+Line line_through(P2 p, P2 q) { return call<Line>(trvln3, p, q); }
 
 struct Four {
   P3 p1, p2, p3, p4;
@@ -32,147 +29,122 @@ struct Four {
 Four four_points(Draw &draw) {
   Four f;
   f.p1 = draw.point_of_space();
-  f.p2 = near_by(draw, f.p1);
-  f.p3 = near_by(draw, f.p1);
-  f.p4 = near_by(draw, f.p3);
+  f.p2 = draw.near_by(f.p1);
+  f.p3 = draw.near_by(f.p1);
+  f.p4 = draw.near_by(f.p3);
   return f;
 }
 
-void distance(Draw &draw, Results &out) {
-  const P3 p = draw.point_of_space(), q = near_by(draw, p);
-  float d = 0;
-  trvpds(p.x, p.y, p.z, q.x, q.y, q.z, d);
-  out.add("d", d, length(q - p));
+MEASURE(trvpds, "") {
+  const P3 p = draw.point_of_space(), q = draw.near_by(p);
+  out.add("d", call<float>(trvpds, p, q), length(q - p));
 }
 
-void dot_product(Draw &draw, Results &out) {
+MEASURE(trvpri, small_result) {
   const auto [p1, p2, p3, p4] = four_points(draw);
-  float s = 0;
-  trvpri(p1.x, p1.y, p1.z, p2.x, p2.y, p2.z, p3.x, p3.y, p3.z, p4.x, p4.y, p4.z, s);
-  out.add("s", s, dot(p2 - p1, p4 - p3));
+  out.add("s", call<float>(trvpri, p1, p2, p3, p4), dot(p2 - p1, p4 - p3));
 }
 
-void cross_product(Draw &draw, Results &out) {
+MEASURE(trvpre, "cancels near parallel") {
   const auto [p1, p2, p3, p4] = four_points(draw);
-  float c[3];
-  trvpre(p1.x, p1.y, p1.z, p2.x, p2.y, p2.z, p3.x, p3.y, p3.z, p4.x, p4.y, p4.z, c);
+  const auto c = call<std::array<float, 3>>(trvpre, p1, p2, p3, p4);
   out.add("c", P3{c[0], c[1], c[2]}, cross(p2 - p1, p4 - p3));
 }
 
-void difference(Draw &draw, Results &out) {
-  const P3 p = draw.point_of_space(), q = near_by(draw, p);
-  P3 d;
-  std::int32_t status = 0;
-  trvcnt(p.x, p.y, p.z, q.x, q.y, q.z, d.x, d.y, d.z, status);
+MEASURE(trvcnt, "") {
+  const P3 p = draw.point_of_space(), q = draw.near_by(p);
+  const auto [d, status] = call<P3, int>(trvcnt, p, q);
   out.add("dx dy dz", d, q - p);
 }
 
-void fraction(Draw &draw, Results &out) {
-  const P3 p = draw.point_of_space(), q = near_by(draw, p);
+MEASURE(trv123, "") {
+  const P3 p = draw.point_of_space(), q = draw.near_by(p);
   const float t = draw.number(0, 1);
-  P3 r;
-  std::int32_t status = 0;
-  trv123(p.x, p.y, p.z, q.x, q.y, q.z, t, r.x, r.y, r.z, status);
+  const auto [r, status] = call<P3, int>(trv123, p, q, t);
   out.add("x y z", r, V3(p) + t * (q - p));
 }
 
-void midpoint(Draw &draw, Results &out) {
-  const P3 p = draw.point_of_space(), q = near_by(draw, p);
-  P3 m;
-  trvmed(p.x, p.y, p.z, q.x, q.y, q.z, m.x, m.y, m.z);
-  out.add("xm ym zm", m, 0.5 * (V3(p) + V3(q)));
+MEASURE(trvmed, "") {
+  const P3 p = draw.point_of_space(), q = draw.near_by(p);
+  out.add("xm ym zm", call<P3>(trvmed, p, q), 0.5 * (V3(p) + V3(q)));
 }
 
-void determinants(Draw &draw, Results &out) {
+MEASURE(trvdtr2, small_result, origin_only) {
   const P2 p = draw.vector(50, 500), q = draw.vector(50, 500);
-  float det = 0;
-  trvdtr2(p.x, p.y, q.x, q.y, det);
-  out.add("det", det, cross(V2(p), V2(q)));
+  out.add("det", call<float>(trvdtr2, p, q), cross(V2(p), V2(q)));
 }
 
-void determinant_of_three(Draw &draw, Results &out) {
+MEASURE(trvdtr3, small_result, origin_only) {
   const P3 a = draw.vector_of_space(50, 500), b = draw.vector_of_space(50, 500),
            c = draw.vector_of_space(50, 500);
-  float det = 0;
-  trvdtr3(a.x, a.y, a.z, b.x, b.y, b.z, c.x, c.y, c.z, det);
-  out.add("det", det, dot(V3(a), cross(V3(b), V3(c))));
+  out.add("det", call<float>(trvdtr3, a, b, c), dot(V3(a), cross(V3(b), V3(c))));
 }
 
-void quotients(Draw &draw, Results &out) {
+MEASURE(trvgrc, "", origin_only) {
   const float a = draw.number(1, 100), b = draw.number(-100, 100), c = draw.number(-100, 100);
-  float q1 = 0, q2 = 0;
-  trvgrc(a, b, c, q1, q2);
+  const auto [q1, q2] = call<float, float>(trvgrc, a, b, c);
   out.add("q1", q1, Exact(c) / a);
   out.add("q2", q2, Exact(b) / a);
 }
 
-void interpolation(Draw &draw, Results &out) {
+MEASURE(trvint, "", origin_only) {
   const float x1 = draw.number(0, 100), x2 = draw.number(200, 300), x = draw.number(100, 200);
   const float y1 = draw.number(50, 500), y2 = draw.number(50, 500);
-  float y = 0;
-  trvint(x1, x2, y1, y2, x, y);
-  out.add("y", y, Exact(y1) + (Exact(y2) - y1) * (Exact(x) - x1) / (Exact(x2) - x1));
+  out.add("y", call<float>(trvint, x1, x2, y1, y2, x),
+          Exact(y1) + (Exact(y2) - y1) * (Exact(x) - x1) / (Exact(x2) - x1));
 }
 
-void from_two_points(Draw &draw, Results &out) {
-  const P2 p = draw.point(), q = near_by(draw, p);
+MEASURE(trvln3, constant) {
+  const P2 p = draw.point(), q = draw.near_by(p);
   const Line l = line_through(p, q);
   out.add("a b", P2{l.a, l.b}, V2{Exact(q.y) - p.y, Exact(p.x) - q.x});
   out.add("c", l.c, cross(V2(q), V2(p)));
 }
 
-void from_angle(Draw &draw, Results &out) {
+MEASURE(trvln1, constant) {
   const P2 p = draw.point();
   const float phi = draw.number(-1.5, 1.5);
-  Line l;
-  trvln1(p.x, p.y, phi, l.a, l.b, l.c);
+  const auto l = call<Line>(trvln1, p, phi);
   out.add("a", l.a, tangent(phi));
   out.add("c", l.c, p.y - tangent(phi) * p.x);
 }
 
-void from_direction(Draw &draw, Results &out) {
+MEASURE(trvln4, constant) {
   const P2 p = draw.point(), d = draw.vector(1, 100);
-  Line l;
-  trvln4(p.x, p.y, d.x, d.y, 0.0F, l.a, l.b, l.c);
+  const auto l = call<Line>(trvln4, p, d, 0.0F);
   out.add("a", l.a, Exact(d.y) / d.x);
   out.add("c", l.c, p.y - Exact(d.y) * p.x / d.x);
 }
 
-void parallel(Draw &draw, Results &out) {
+MEASURE(trvln2, constant) {
   const P2 p = draw.point();
-  const Line l = line_through(p, near_by(draw, p));
+  const Line l = line_through(p, draw.near_by(p));
   const float d = draw.number(-100, 100);
-  Line m;
-  trvln2(l.a, l.b, l.c, d, m.a, m.b, m.c);
+  const auto m = call<Line>(trvln2, l, d);
   out.add("c2", m.c, l.c - length(l.normal()) * d);
 }
 
-void bisector(Draw &draw, Results &out) {
-  const P2 p = draw.point(), q = near_by(draw, p), r = near_by(draw, p);
-  Line l;
-  trvln5(p.x, p.y, q.x, q.y, r.x, r.y, l.a, l.b, l.c);
+MEASURE(trvln5, constant) {
+  const P2 p = draw.point(), q = draw.near_by(p), r = draw.near_by(p);
+  const auto l = call<Line>(trvln5, p, q, r);
   const V2 u = q - p, w = r - p;
   const V2 normal = length(w) * u - length(u) * w;
   out.add("a b", P2{l.a, l.b}, normal);
   out.add("c", l.c, -dot(normal, V2(p)));
 }
 
-void distance_from_line(Draw &draw, Results &out) {
-  const P2 p = draw.point(), q = near_by(draw, p), r = near_by(draw, p);
+MEASURE(trvlds, constant) {
+  const P2 p = draw.point(), q = draw.near_by(p), r = draw.near_by(p);
   const Line l = line_through(p, r);
-  float d = 0;
-  trvlds(q.x, q.y, l.a, l.b, l.c, d);
+  const auto d = call<float>(trvlds, q, l);
   out.add("d", d, (dot(l.normal(), V2(q)) + l.c) / length(l.normal()));
   out.add("d by trvln3", d, cross(q - p, r - p) / length(r - p));
 }
 
-void intersection(Draw &draw, Results &out) {
-  const P2 p1 = draw.point(), p2 = near_by(draw, p1), q1 = near_by(draw, p1),
-           q2 = near_by(draw, p1);
+MEASURE(trvlni, "the constants of the lines cancel; near parallel") {
+  const P2 p1 = draw.point(), p2 = draw.near_by(p1), q1 = draw.near_by(p1), q2 = draw.near_by(p1);
   const Line l = line_through(p1, p2), m = line_through(q1, q2);
-  std::int32_t status = -1;
-  P2 s;
-  trvlni(l.a, l.b, l.c, m.a, m.b, m.c, status, s.x, s.y);
+  const auto [status, s] = call<int, P2>(trvlni, l, m);
   const Exact det = cross(l.normal(), m.normal());
   if (status != 0) return;
   out.add(
@@ -181,182 +153,105 @@ void intersection(Draw &draw, Results &out) {
   out.add("x y by trvln3", s, crossing(p1, p2 - p1, q1, q2 - q1));
 }
 
-void between_parallels(Draw &draw, Results &out) {
+MEASURE(trvlul, "") {
   const P2 p = draw.point();
-  const Line l = line_through(p, near_by(draw, p));
-  Line m;
-  trvln2(l.a, l.b, l.c, draw.number(10, 100), m.a, m.b, m.c);
-  float d = 0;
-  std::int32_t status = -1;
-  trvlul(l.a, l.b, l.c, m.a, m.b, m.c, d, status);
+  const Line l = line_through(p, draw.near_by(p));
+  const auto m = call<Line>(trvln2, l, draw.number(10, 100));
+  const auto [d, status] = call<float, int>(trvlul, l, m);
   if (status == 2) out.add("d", d, (Exact(l.c) - m.c) / length(l.normal()));
 }
 
-void angle_in_plane(Draw &draw, Results &out) {
-  const P2 p = draw.point(), q = near_by(draw, p), r = near_by(draw, p);
-  float phi = 0;
-  trvphi(p.x, p.y, q.x, q.y, r.x, r.y, phi);
-  out.add("phi", phi, angle_between(q - p, r - p));
+MEASURE(trvphi, arc_cosine) {
+  const P2 p = draw.point(), q = draw.near_by(p), r = draw.near_by(p);
+  out.add("phi", call<float>(trvphi, p, q, r), angle_between(q - p, r - p));
 }
 
-void angle_in_space(Draw &draw, Results &out) {
-  const P3 p = draw.point_of_space(), q = near_by(draw, p), r = near_by(draw, p);
-  float phi = 0;
-  trvphi3(p.x, p.y, p.z, q.x, q.y, q.z, r.x, r.y, r.z, phi);
-  out.add("phi", phi, angle_between(q - p, r - p));
+MEASURE(trvphi3, arc_cosine) {
+  const P3 p = draw.point_of_space(), q = draw.near_by(p), r = draw.near_by(p);
+  out.add("phi", call<float>(trvphi3, p, q, r), angle_between(q - p, r - p));
 }
 
-void angle_of_vectors(Draw &draw, Results &out) {
+MEASURE(trvphi1, arc_cosine, origin_only) {
   const P3 u = draw.vector_of_space(1, 100), v = draw.vector_of_space(1, 100);
-  float phi = 0;
-  trvphi1(u.x, u.y, u.z, v.x, v.y, v.z, phi);
-  out.add("phi", phi, angle_between(V3(u), V3(v)));
+  out.add("phi", call<float>(trvphi1, u, v), angle_between(V3(u), V3(v)));
 }
 
-void angle_of_lines(Draw &draw, Results &out) {
+MEASURE(trvphip, arc_cosine, origin_only) {
   const P3 u = draw.vector_of_space(1, 100), v = draw.vector_of_space(1, 100);
-  float phi = 0;
-  std::int32_t status = 0;
-  trvphip(u.x, u.y, u.z, v.x, v.y, v.z, phi, status);
+  const auto [phi, status] = call<float, int>(trvphip, u, v);
   const Exact angle = angle_between(V3(u), V3(v));
   out.add("phi", phi, lesser(angle, pi - angle));
 }
 
-void directed_angle(Draw &draw, Results &out) {
-  const P3 p = draw.point_of_space(), q = near_by(draw, p), r = near_by(draw, p);
-  float chi = 0;
-  std::int32_t status = -1;
-  trvchi(p.x, p.y, p.z, q.x, q.y, q.z, r.x, r.y, r.z, chi, status);
-  const V3 normal = cross(q - p, r - p);
+MEASURE(trvchi, "") {
+  const P3 p = draw.point_of_space(), q = draw.near_by(p), r = draw.near_by(p);
+  const auto [chi, status] = call<float, int>(trvchi, p, q, r);
   const Exact angle = angle_between(q - p, r - p);
-  const bool other_side = normal.y < 0;
+  const bool other_side = cross(q - p, r - p).y < 0;
   out.add("chi", chi, other_side ? 2 * pi - angle : angle);
 }
 
-void cosine_and_sine(Draw &draw, Results &out) {
+MEASURE(trvtrg, small_result) {
   const auto [p1, p2, p3, p4] = four_points(draw);
-  float c = 0, s = 0;
-  std::int32_t status = -1;
-  trvtrg(p1.x, p1.y, p1.z, p2.x, p2.y, p2.z, p3.x, p3.y, p3.z, p4.x, p4.y, p4.z, c, s, status);
+  const auto [c, s, status] = call<float, float, int>(trvtrg, p1, p2, p3, p4);
   const V3 u = p2 - p1, w = p4 - p3;
   out.add("cphi", c, dot(u, w) / (length(u) * length(w)));
   out.add("sphi", s, length(cross(u, w)) / (length(u) * length(w)));
 }
 
-void line_of_planes(Draw &draw, Results &out) {
-  const P3 n = draw.vector_of_space(50, 500), m = draw.vector_of_space(50, 500), p;
+MEASURE(trvln7, small_result, origin_only) {
+  const P3 n = draw.vector_of_space(50, 500), m = draw.vector_of_space(50, 500);
   float ex = 0, ey = 0;
-  std::int32_t code = 0, on = 0;
-  trvln7(n.x, n.y, n.z, 1, m.x, m.y, m.z, 1, p.x, p.y, p.z, ex, ey, 1, 1, code, on);
+  call<int, int>(trvln7, n, 1, m, 1, P3{}, std::ref(ex), std::ref(ey), 1, 1);
   const V3 direction = cross(V3(n), V3(m));
   out.add("ex", ex, direction.x);
   out.add("ey", ey, -direction.y);
 }
 
-void projected_angles(Draw &draw, Results &out) {
+MEASURE(trvmov, arc_cosine) {
   const auto [p1, p2, p3, p4] = four_points(draw);
-  float ax = 0, ay = 0, az = 0;
-  trvmov(p1.x, p1.y, p1.z, p2.x, p2.y, p2.z, p3.x, p3.y, p3.z, p4.x, p4.y, p4.z, ax, ay, az);
+  const auto a = call<P3>(trvmov, p1, p2, p3, p4);
   const V3 u = p2 - p1, w = p4 - p3;
-  out.add("ax", ax, angle_between(V2{u.y, u.z}, V2{w.y, w.z}));
-  out.add("ay", ay, angle_between(V2{u.x, u.z}, V2{w.x, w.z}));
-  out.add("az", az, angle_between(V2{u.x, u.y}, V2{w.x, w.y}));
+  out.add("ax", a.x, angle_between(V2{u.y, u.z}, V2{w.y, w.z}));
+  out.add("ay", a.y, angle_between(V2{u.x, u.z}, V2{w.x, w.z}));
+  out.add("az", a.z, angle_between(V2{u.x, u.y}, V2{w.x, w.y}));
 }
 
-void moved_origin(Draw &draw, Results &out) {
+MEASURE(trvtra, "") {
   const P2 origin = draw.point();
-  P2 p = near_by(draw, origin);
+  P2 p = draw.near_by(origin);
   const V2 expected = p - origin;
-  trvtra(&p.x, &p.y, 1, origin.x, origin.y);
+  call(trvtra, &p, 1, origin);
   out.add("X Y", p, expected);
 }
 
-std::vector<P2> star(Draw &draw, int n) {
-  const P2 middle = draw.point();
-  std::vector<P2> outline;
-  for (int i = 0; i < n; ++i) {
-    const double angle = 2 * 3.14159265 * i / n;
-    const float r = draw.number(100, 300);
-    outline.push_back({middle.x + r * static_cast<float>(cosine(angle)),
-                       middle.y + r * static_cast<float>(sine(angle))});
-  }
-  return outline;
-}
-
-struct Arrays {
-  explicit Arrays(const std::vector<P2> &points) {
-    for (const P2 &p : points) x.push_back(p.x), y.push_back(p.y);
-  }
-  std::vector<float> x, y;
-};
-
-void level_crossings(Draw &draw, Results &out) {
-  const std::vector<P2> outline = star(draw, 7);
-  const Arrays at(outline);
-  const float level = outline[0].y + draw.number(-50, 50);
-  float xc[7];
-  std::int32_t count = 0;
-  trvppp(at.x.data(), at.y.data(), 7, level, count, xc);
+MEASURE(trvppp, "") {
+  const Outline outline = draw.star(7, 0);
+  const float level = outline.y[0] + draw.number(-50, 50);
+  const auto [count, xc] = call<int, std::array<float, 7>>(trvppp, outline, level);
   std::vector<Exact> exact;
-  for (std::size_t i = 0; i < 7; ++i) {
-    const V2 p = outline[i], q = outline[(i + 1) % 7];
+  for (int i = 0; i < 7; ++i) {
+    const V2 p = outline.vertex(i), q = outline.vertex(i + 1);
     if ((p.y <= level) == (q.y <= level)) continue;
     exact.push_back(p.x + (level - p.y) * (q.x - p.x) / (q.y - p.y));
   }
   std::sort(exact.begin(), exact.end());
-  if (count == static_cast<std::int32_t>(exact.size()) && count > 0) out.add("XC", xc[0], exact[0]);
+  if (count == static_cast<int>(exact.size()) && count > 0) out.add("XC", xc[0], exact[0]);
 }
 
-void segment_crossings(Draw &draw, Results &out) {
-  const std::vector<P2> outline = star(draw, 7);
-  const Arrays at(outline);
-  const P2 p1{outline[0].x + draw.number(-250, -150), outline[0].y + draw.number(-40, 40)};
-  const P2 p2 = Draw::from(p1, draw.vector(600, 700));
-  float xi[7], yi[7], t[7];
-  std::int32_t count = 0, edge[7], status = -1;
-  trvpin(at.x.data(), at.y.data(), 7, p1.x, p1.y, p2.x, p2.y, count, xi, yi, t, edge, status);
+MEASURE(trvpin, "") {
+  using Seven = std::array<float, 7>;
+  const Outline outline = draw.star(7, 0);
+  const P2 p1{outline.x[0] + draw.number(-250, -150), outline.y[0] + draw.number(-40, 40)};
+  const P2 p2 = draw.near_by(p1, 600, 700);
+  const auto [count, xi, yi, t, edge, status] =
+      call<int, Seven, Seven, Seven, std::array<int, 7>, int>(trvpin, outline, p1, p2);
   if (count < 1) return;
-  const auto i = static_cast<std::size_t>(edge[0] - 1);
-  const V2 a = outline[i], b = outline[(i + 1) % 7];
+  const V2 a = outline.vertex(edge[0] - 1), b = outline.vertex(edge[0]);
   const V2 s = crossing(p1, p2 - p1, a, b - a);
   out.add("XI YI", P2{xi[0], yi[0]}, s);
   out.add("T", t[0], dot(s - p1, p2 - p1) / dot(p2 - p1, p2 - p1));
 }
 
 }  // namespace
-
-std::vector<Measurement> plane_measurements() {
-  const auto here = Measurement::origin_only;
-  const char *angles = "arc cosine near 0 and pi";
-  return {{"trvpds", distance, ""},
-          {"trvpri", dot_product, small_result},
-          {"trvpre", cross_product, "cancels near parallel"},
-          {"trvcnt", difference, ""},
-          {"trv123", fraction, ""},
-          {"trvmed", midpoint, ""},
-          {"trvdtr2", determinants, small_result, here},
-          {"trvdtr3", determinant_of_three, small_result, here},
-          {"trvgrc", quotients, "", here},
-          {"trvint", interpolation, "", here},
-          {"trvln3", from_two_points, constant},
-          {"trvln1", from_angle, constant},
-          {"trvln4", from_direction, constant},
-          {"trvln2", parallel, constant},
-          {"trvln5", bisector, constant},
-          {"trvlds", distance_from_line, constant},
-          {"trvlni", intersection, "the constants of the lines cancel; near parallel"},
-          {"trvlul", between_parallels, ""},
-          {"trvln7", line_of_planes, small_result, here},
-          {"trvphi", angle_in_plane, angles},
-          {"trvphi3", angle_in_space, angles},
-          {"trvphi1", angle_of_vectors, angles, here},
-          {"trvphip", angle_of_lines, angles, here},
-          {"trvchi", directed_angle, ""},
-          {"trvtrg", cosine_and_sine, small_result},
-          {"trvmov", projected_angles, angles},
-          {"trvtra", moved_origin, ""},
-          {"trvppp", level_crossings, ""},
-          {"trvpin", segment_crossings, ""}};
-}
-
 }  // namespace accuracy

@@ -6,38 +6,18 @@
 namespace accuracy {
 namespace {
 
-// With the spare element of the routines.
-struct Polygon {
-  std::vector<float> x, y;
-  [[nodiscard]] std::int32_t n() const { return static_cast<std::int32_t>(x.size()) - 1; }
-  [[nodiscard]] V2 vertex(std::int32_t i) const {
-    const auto k = static_cast<std::size_t>(i % n());
-    return {x[k], y[k]};
-  }
-};
+constexpr const char *small_result = "cancels where the result is small";
 
-Polygon polygon(Draw &draw) {
-  const P2 middle = draw.point();
-  Polygon p;
-  for (int i = 0; i < 9; ++i) {
-    const double angle = 2 * 3.14159265 * (i + 0.3) / 9;
-    const float r = draw.number(100, 300);
-    p.x.push_back(middle.x + r * static_cast<float>(cosine(angle)));
-    p.y.push_back(middle.y + r * static_cast<float>(sine(angle)));
-  }
-  p.x.push_back(0);
-  p.y.push_back(0);
-  return p;
-}
+Outline polygon(Draw &draw) { return draw.star(9, 0.3); }
 
 struct Moments {
   Exact area = 0, x = 0, y = 0, xx = 0, yy = 0, xy = 0;
 };
 
 // The sum of the triangles from the origin to each edge.
-Moments moments_of(const Polygon &p) {
+Moments moments_of(const Outline &p) {
   Moments m;
-  for (std::int32_t i = 0; i < p.n(); ++i) {
+  for (int i = 0; i < p.n(); ++i) {
     const V2 a = p.vertex(i), b = p.vertex(i + 1);
     const Exact twice = cross(a, b);
     m.area += twice / 2;
@@ -50,28 +30,22 @@ Moments moments_of(const Polygon &p) {
   return m;
 }
 
-void area_of_polygon(Draw &draw, Results &out) {
-  Polygon p = polygon(draw);
-  const std::int32_t n = p.n();
-  float area = 0;
-  trvapl(p.x.data(), p.y.data(), n, area);
+MEASURE(trvapl, "") {
+  const Outline p = polygon(draw);
+  const auto area = call<float>(trvapl, p);
   out.add("area", area, moments_of(p).area);
 }
 
-void first_moments(Draw &draw, Results &out) {
-  Polygon p = polygon(draw);
-  const std::int32_t n = p.n();
-  float sx = 0, sy = 0;
-  trvspl(p.x.data(), p.y.data(), n, sx, sy);
+MEASURE(trvspl, small_result) {
+  const Outline p = polygon(draw);
+  const auto [sx, sy] = call<float, float>(trvspl, p);
   out.add("sx", sx, moments_of(p).x);
   out.add("sy", sy, moments_of(p).y);
 }
 
-void second_moments(Draw &draw, Results &out) {
-  Polygon p = polygon(draw);
-  const std::int32_t n = p.n();
-  float ix = 0, iy = 0, ixy = 0;
-  trvipl(p.x.data(), p.y.data(), n, ix, iy, ixy);
+MEASURE(trvipl, small_result) {
+  const Outline p = polygon(draw);
+  const auto [ix, iy, ixy] = call<float, float, float>(trvipl, p);
   const Moments m = moments_of(p);
   out.add("ix", ix, m.xx);
   out.add("iy", iy, m.yy);
@@ -82,17 +56,18 @@ void second_moments(Draw &draw, Results &out) {
 
 struct Segment {
   P2 c, p1, p2;
-  std::int32_t kind;
+  int kind;
 };
+
+auto parts(Segment &s) { return parts(s.c, s.p1, s.p2, s.kind); }
 
 Segment segment(Draw &draw) {
   Segment s;
   s.c = draw.point();
   const float r = draw.number(50, 500);
   const Exact from = draw.angle(), by = draw.number(0.5, 2.8);
-  const V2 start = turned({r, 0}, from), end = turned({r, 0}, from + by);
-  s.p1 = {s.c.x + static_cast<float>(start.x), s.c.y + static_cast<float>(start.y)};
-  s.p2 = {s.c.x + static_cast<float>(end.x), s.c.y + static_cast<float>(end.y)};
+  s.p1 = Draw::from(s.c, rounded(turned({r, 0}, from)));
+  s.p2 = Draw::from(s.c, rounded(turned({r, 0}, from + by)));
   s.kind = draw.integer(4, 5);
   return s;
 }
@@ -126,20 +101,17 @@ SegmentProperties properties_of(const Segment &s) {
   return p;
 }
 
-void segment_area(Draw &draw, Results &out) {
+MEASURE(trvacp, "the coordinates' own spacing") {
   const Segment s = segment(draw);
-  float area = 0;
-  P2 centroid;
-  trvacp(s.c.x, s.c.y, s.p1.x, s.p1.y, s.p2.x, s.p2.y, s.kind, area, centroid.x, centroid.y);
+  const auto [area, centroid] = call<float, P2>(trvacp, s);
   const SegmentProperties p = properties_of(s);
   out.add("area", area, p.area);
   out.add("xs ys", centroid, p.centroid);
 }
 
-void segment_moments(Draw &draw, Results &out) {
+MEASURE(trvicp, "the moments about the centroid are small beside those about the origin") {
   const Segment s = segment(draw);
-  float ix = 0, iy = 0, ixy = 0;
-  trvicp(s.c.x, s.c.y, s.p1.x, s.p1.y, s.p2.x, s.p2.y, s.kind, ix, iy, ixy);
+  const auto [ix, iy, ixy] = call<float, float, float>(trvicp, s);
   const SegmentProperties p = properties_of(s);
   out.add("ix", ix, p.xx);
   out.add("iy", iy, p.yy);
@@ -159,51 +131,48 @@ struct Circle {
   }
 };
 
+auto parts(Circle &c) { return std::make_tuple(c.x, c.y, 0); }
+
 Circle circle(Draw &draw) {
-  const P2 c = draw.point();
-  const P2 p = Draw::from(c, draw.vector(50, 500));
+  const P2 c = draw.point(), p = draw.near_by(c);
   return {{c.x, p.x}, {c.y, p.y}};
 }
 
-void part_area(Draw &draw, Results &out) {
-  Polygon p = polygon(draw);
-  float area = 0;
-  trvair(p.x.data(), p.y.data(), p.n(), 2, 0, -1, area);
-  out.add("area of a polygon", area, -moments_of(p).area);
-  Circle c = circle(draw);
-  trvair(c.x, c.y, 0, 3, 0, 1, area);
+MEASURE(trvair, "") {
+  const Outline p = polygon(draw);
+  const auto area_of_polygon = call<float>(trvair, p, 2, 0, -1);
+  out.add("area of a polygon", area_of_polygon, -moments_of(p).area);
+  const Circle c = circle(draw);
+  const auto area = call<float>(trvair, c, 3, 0, 1);
   out.add("area of a circle", area, c.area());
 }
 
-void part_first_moments(Draw &draw, Results &out) {
-  Polygon p = polygon(draw);
-  float sx = 0, sy = 0;
-  trvstm(p.x.data(), p.y.data(), p.n(), 2, 0, 1, sx, sy);
-  out.add("sx of a polygon", sx, moments_of(p).x);
-  Circle c = circle(draw);
-  trvstm(c.x, c.y, 0, 3, 0, 1, sx, sy);
+MEASURE(trvstm, small_result) {
+  const Outline p = polygon(draw);
+  const P2 of_polygon = call<P2>(trvstm, p, 2, 0, 1);
+  out.add("sx of a polygon", of_polygon.x, moments_of(p).x);
+  const Circle c = circle(draw);
+  const auto [sx, sy] = call<float, float>(trvstm, c, 3, 0, 1);
   out.add("sx of a circle", sx, c.area() * c.centre().y);
   out.add("sy of a circle", sy, c.area() * c.centre().x);
 }
 
-void part_second_moments(Draw &draw, Results &out) {
-  Polygon p = polygon(draw);
-  float ix = 0, iy = 0, ixy = 0;
-  trvinm(p.x.data(), p.y.data(), p.n(), 2, 0, 0, 1, ix, iy, ixy);
-  out.add("ix of a polygon", ix, moments_of(p).xx);
-  Circle c = circle(draw);
-  trvinm(c.x, c.y, 0, 3, 0, 0, 1, ix, iy, ixy);
+MEASURE(trvinm, small_result) {
+  const Outline p = polygon(draw);
+  const P3 of_polygon = call<P3>(trvinm, p, 2, 0, 0, 1);
+  out.add("ix of a polygon", of_polygon.x, moments_of(p).xx);
+  const Circle c = circle(draw);
+  const auto [ix, iy, ixy] = call<float, float, float>(trvinm, c, 3, 0, 0, 1);
   const Exact own = c.area() * c.radius_squared() / 4;
   out.add("ix of a circle", ix, own + c.area() * square(c.centre().y));
   out.add("iy of a circle", iy, own + c.area() * square(c.centre().x));
   out.add("ixy of a circle", ixy, c.area() * c.centre().x * c.centre().y);
 }
 
-void principal(Draw &draw, Results &out) {
+MEASURE(trvinp, "cancels where i1 or i2 is small beside the other", origin_only) {
   const float ix = draw.number(1e6, 1e8), iy = draw.number(1e6, 1e8);
   const float ixy = draw.number(-0.9, 0.9) * (ix < iy ? ix : iy);
-  float i1 = 0, i2 = 0, alpha = 0;
-  trvinp(ix, iy, ixy, i1, i2, alpha);
+  const auto [i1, i2, alpha] = call<float, float, float>(trvinp, ix, iy, ixy);
   const Exact difference = Exact(ix) - iy;
   const Exact radius = square_root(square(difference) / 4 + square(Exact(ixy)));
   const Exact mean = (Exact(ix) + iy) / 2;
@@ -213,33 +182,15 @@ void principal(Draw &draw, Results &out) {
   out.add("alpha", alpha, atanq(-2 * Exact(ixy) / difference) / 2);
 }
 
-void trapezoids(Draw &draw, Results &out) {
-  float f[20];
+MEASURE(trvinr, "", origin_only) {
+  std::array<float, 20> f;
   for (float &value : f) value = draw.number(10, 100);
   const float a = draw.number(0, 10), b = draw.number(20, 50);
-  float result = 0;
-  trvinr(20, f, a, b, result);
+  const auto result = call<float>(trvinr, 20, f, a, b);
   Exact sum = (Exact(f[0]) + f[19]) / 2;
-  for (int i = 1; i < 18; ++i) sum += f[i];
+  for (std::size_t i = 1; i < 18; ++i) sum += f[i];
   out.add("result", result, (Exact(b) - a) / 19 * sum);
 }
 
 }  // namespace
-
-std::vector<Measurement> property_measurements() {
-  const auto here = Measurement::origin_only;
-  const char *turned_moments =
-      "the moments about the centroid are small beside those about the origin";
-  return {{"trvapl", area_of_polygon, ""},
-          {"trvspl", first_moments, "cancels where the result is small"},
-          {"trvipl", second_moments, "cancels where the result is small"},
-          {"trvacp", segment_area, "the coordinates' own spacing"},
-          {"trvicp", segment_moments, turned_moments},
-          {"trvair", part_area, ""},
-          {"trvstm", part_first_moments, "cancels where the result is small"},
-          {"trvinm", part_second_moments, "cancels where the result is small"},
-          {"trvinp", principal, "cancels where i1 or i2 is small beside the other", here},
-          {"trvinr", trapezoids, "", here}};
-}
-
 }  // namespace accuracy

@@ -23,30 +23,27 @@ Exact reduction(Exact slender, Exact psi) {
   return lesser(1, (1 - decimal(55, 1000) * (3 + psi) / slender) / slender);
 }
 
-void reduction_factor(Draw &draw, Results &out) {
+MEASURE(trvro2, "", origin_only) {
   const float b = draw.number(200, 2000), t = draw.number(4, 12), r1 = draw.number(15, 22),
               r2 = 15.329709F, psi = draw.number(-1, 1), ks = draw.number(4, 24);
-  float rho = 0;
-  trvro2(b, t, r1, r2, psi, ks, rho);
-  out.add("rho", rho, reduction(slenderness(b, t, r1, r2, ks), psi));
+  out.add("rho", call<float>(trvro2, b, t, r1, r2, psi, ks),
+          reduction(slenderness(b, t, r1, r2, ks), psi));
 }
 
-void edge_fold(Draw &draw, Results &out) {
+MEASURE(trvefr, "", origin_only) {
   const float bp = draw.number(100, 200), ratio = draw.number(0.1, 0.55), c = bp * ratio;
   const float t = draw.number(0.7, 2), r1 = draw.number(15, 22), r2 = 15.329709F;
-  float ceff = 0;
-  trvefr(c, bp, t, r1, r2, ceff);
+  const auto ceff = call<float>(trvefr, c, bp, t, r1, r2);
   const Exact beyond = Exact(c) / bp - decimal(35, 100);
   const Exact ks = decimal(1, 2) + (beyond > 0 ? square(beyond) / 3 : 0);
   out.add("ceff", ceff, c * reduction(slenderness(c, t, r1, r2, ks), 1));
 }
 
-void effective_widths(Draw &draw, Results &out) {
+MEASURE(trvef2, "cancels in the slenderness", origin_only) {
   const float bl = draw.number(200, 2000), t = draw.number(4, 12), r1 = draw.number(15, 22),
               r2 = 15.329709F, s1 = draw.number(100, 300), s2 = s1 * draw.number(-2.5, 0.95);
   const float w = s2 < 0 ? bl * s1 / (s1 - s2) : bl;
-  float be1 = 0, be2 = 0;
-  trvef2(bl, w, t, r1, r2, s1, s2, be1, be2);
+  const auto [be1, be2] = call<float, float>(trvef2, bl, w, t, r1, r2, s1, s2);
   const Exact psi = Exact(s2) / s1;
   const Exact ks =
       psi > 0    ? decimal(82, 10) / (decimal(105, 100) + psi)
@@ -132,31 +129,40 @@ struct Channel {
   }
 };
 
+auto parts(Channel &c) { return std::tie(c.B, c.H, c.C, c.t); }
+
 Channel channel(Draw &draw) {
   return {draw.number(40, 100), draw.number(100, 300), draw.number(10, 30), draw.number(1, 4)};
 }
 
-void channel_shear_centre(Draw &draw, Results &out) {
+MEASURE(trvshc_c, "", origin_only) {
   const Channel s = channel(draw);
-  float e0 = 0;
-  trvshc_c(s.B, s.H, s.C, s.t, e0);
+  const auto e0 = call<float>(trvshc_c, s);
   const ThinWalled p = s.properties();
   out.add("e0", e0, p.centroid.x - p.shear_centre.x);
 }
 
-void channel_warping(Draw &draw, Results &out) {
+MEASURE(trvwar_c, "the terms of the formula cancel", origin_only) {
   const Channel s = channel(draw);
-  float iw = 0;
-  trvwar_c(s.B, s.H, s.C, s.t, iw);
-  out.add("Iw", iw, s.properties().warping);
+  out.add("Iw", call<float>(trvwar_c, s), s.properties().warping);
 }
 
 // --- thin plates ------------------------------------------------------------------------------------
 
 struct Written {
-  float A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt,
-      xm, ym, Iw, r0;
+  float A;
+  P2 centroid;
+  float Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2, Wpx, Wpy;
+  P2 halves;
+  float It, Wt;
+  P2 shear_centre;
+  float Iw, r0;
 };
+
+auto parts(Written &s) {
+  return parts(s.A, s.centroid, s.Ix, s.Iy, s.Ixy, s.I1, s.I2, s.alpha, s.rx, s.ry, s.Wx1, s.Wx2,
+               s.Wy1, s.Wy2, s.Wpx, s.Wpy, s.halves, s.It, s.Wt, s.shear_centre, s.Iw, s.r0);
+}
 
 // What lies above a level, of plates as rectangles. With x and y exchanged, what lies to the right.
 struct Above {
@@ -246,16 +252,17 @@ void compare_moduli(Results &out, const Written &s, const Chain &chain, const Th
   out.add("Wy2", s.Wy2, y.bottom);
   out.add("Wpx", s.Wpx, x.plastic);
   out.add("Wpy", s.Wpy, y.plastic);
-  out.add("xp yp", P2{s.xp, s.yp}, V2{y.level, x.level});
+  out.add("xp yp", s.halves, V2{y.level, x.level});
   Exact thickest = 0;
   for (const Exact t : chain.thickness) thickest = greater(thickest, t);
   out.add("Wt", s.Wt, p.torsion / thickest);
 }
 
-void plates(Draw &draw, Results &out) {
-  constexpr std::size_t n = 5;
+MEASURE(trvmxt, "") {
+  constexpr int n = 5;
+  using Plates = std::array<float, n>;
   P2 node = draw.point();
-  float x1[n], y1[n], x2[n], y2[n], t[n], w1[n], w2[n];
+  Plates x1, y1, x2, y2, t;
   Chain chain;
   chain.nodes.push_back(node);
   for (std::size_t k = 0; k < n; ++k) {  // onwards in x, so that no plate meets another
@@ -265,15 +272,11 @@ void plates(Draw &draw, Results &out) {
     chain.nodes.push_back(node);
     chain.thickness.push_back(t[k]);
   }
-  Written s{};
-  std::int32_t status = -2;
-  trvmxt(n, x1, y1, x2, y2, t, s.A, s.xs, s.ys, s.Ix, s.Iy, s.Ixy, s.I1, s.I2, s.alpha, s.rx, s.ry,
-         s.Wx1, s.Wx2, s.Wy1, s.Wy2, s.Wpx, s.Wpy, s.xp, s.yp, s.It, s.Wt, s.xm, s.ym, s.Iw, s.r0,
-         w1, w2, status);
+  const auto [s, w1, w2, status] = call<Written, Plates, Plates, int>(trvmxt, n, x1, y1, x2, y2, t);
   if (status != 0) return;
   const ThinWalled p = properties_of(chain, true);
   out.add("A", s.A, p.area);
-  out.add("xs ys", P2{s.xs, s.ys}, p.centroid);
+  out.add("xs ys", s.centroid, p.centroid);
   out.add("Ix", s.Ix, p.xx);
   out.add("Iy", s.Iy, p.yy);
   out.add("Ixy", s.Ixy, p.xy);
@@ -285,12 +288,12 @@ void plates(Draw &draw, Results &out) {
   out.add("rx", s.rx, square_root(p.xx / p.area));
   out.add("ry", s.ry, square_root(p.yy / p.area));
   out.add("It", s.It, p.torsion);
-  out.add("xm ym", P2{s.xm, s.ym}, p.shear_centre);
+  out.add("xm ym", s.shear_centre, p.shear_centre);
   out.add("Iw", s.Iw, p.warping);
   out.add("r0", s.r0, p.polar);
   compare_moduli(out, s, chain, p);
-  out.add_all("W1", {w1, w1 + n}, {p.sectorial.begin(), p.sectorial.end() - 1});
-  out.add_all("W2", {w2, w2 + n}, {p.sectorial.begin() + 1, p.sectorial.end()});
+  out.add_all("W1", {w1.begin(), w1.end()}, {p.sectorial.begin(), p.sectorial.end() - 1});
+  out.add_all("W2", {w2.begin(), w2.end()}, {p.sectorial.begin() + 1, p.sectorial.end()});
 }
 
 // Saint-Venant's series, of a strip as thick as 1 and as wide as b: the part beyond the first terms,
@@ -310,14 +313,10 @@ Exact stress_factor(Exact b) {
   return 1 - 8 / square(pi) * sum;
 }
 
-void flat_bar(Draw &draw, Results &out) {
+MEASURE(trvmxt_fb, "", origin_only) {
   const float B = draw.number(20, 200), H = draw.number(20, 200);
-  Written s{};
-  float w1[1], w2[1];
-  std::int32_t status = -2;
-  trvmxt_fb(B, H, s.A, s.xs, s.ys, s.Ix, s.Iy, s.Ixy, s.I1, s.I2, s.alpha, s.rx, s.ry, s.Wx1, s.Wx2,
-            s.Wy1, s.Wy2, s.Wpx, s.Wpy, s.xp, s.yp, s.It, s.Wt, s.xm, s.ym, s.Iw, s.r0, w1, w2,
-            status);
+  const auto [s, w1, w2, status] =
+      call<Written, std::array<float, 1>, std::array<float, 1>, int>(trvmxt_fb, B, H);
   const Exact b = B, h = H, t = lesser(b, h);
   out.add("A", s.A, b * h);
   out.add("Ix", s.Ix, b * cube(h) / 12);
@@ -335,17 +334,5 @@ void flat_bar(Draw &draw, Results &out) {
 }
 
 }  // namespace
-
-std::vector<Measurement> section_measurements() {
-  const auto here = Measurement::origin_only;
-  std::vector<Measurement> all = {{"trvro2", reduction_factor, "", here},
-                                  {"trvefr", edge_fold, "", here},
-                                  {"trvef2", effective_widths, "cancels in the slenderness", here}};
-  all.push_back({"trvshc_c", channel_shear_centre, "", here});
-  all.push_back({"trvwar_c", channel_warping, "the terms of the formula cancel", here});
-  all.push_back({"trvmxt", plates, ""});
-  all.push_back({"trvmxt_fb", flat_bar, "", here});
-  return all;
-}
 
 }  // namespace accuracy

@@ -7,8 +7,8 @@ namespace {
 
 // The point as it comes back, the turned point and the status.
 Values turn(float x0, float y0, float x, float y, float angle) {
-  float xr = unwritten, yr = unwritten;
-  std::int32_t status = unwritten_int;
+  float xr = kept, yr = kept;
+  std::int32_t status = kept;
   trvcer3(x0, y0, x, y, angle, xr, yr, status);
   return {x, y, xr, yr, static_cast<double>(status)};
 }
@@ -16,7 +16,7 @@ Values turn(float x0, float y0, float x, float y, float angle) {
 }  // namespace
 
 TEST(Arcs, LengthsOfBothArcs) {
-  const Values refused = {unwritten, unwritten, TRV_ARC_REFUSED};
+  const Values refused = {kept, kept, TRV_ARC_REFUSED};
   for (const double y : {3, -1})  // the sense is not told
     expect_near(outputs(trvarc1, 1, 1, 3, 1, 1, y), {pi, 3 * pi, TRV_ARC_DONE}, 1e-6);
   expect_near(outputs(trvarc1, 1, 1, 3, 1, -6, 1), {2 * pi, 2 * pi, 1}, 1e-6);  // A's radius
@@ -34,8 +34,7 @@ TEST(Arcs, PointIsTurnedCounterClockwise) {
   }
   EXPECT_EQ(turn(16777216, 0, 0.25F, 0, 0)[0], 0);  // rounded on its way
   const float near = std::ldexp(1.0F, -17);
-  EXPECT_EQ(turn(1, 2, 1 + near, 2, 1),
-            (Values{near, 0, unwritten, unwritten, 0}));  // left at the centre
+  EXPECT_EQ(turn(1, 2, 1 + near, 2, 1), (Values{near, 0, kept, kept, 0}));  // left at the centre
   EXPECT_EQ(turn(0, 0, 0, tolerance, 1)[4], 0);
   EXPECT_EQ(turn(0, 0, 0, beyond, 1)[4], 1);
 }

@@ -7,9 +7,8 @@ using namespace trelvin_test;
 
 namespace {
 
-constexpr float u = unwritten;
 constexpr float t = tolerance;
-const Values refused = {u, u, 0};
+const Values refused = {kept, kept, 0};
 
 using Arc = std::array<float, 6>;  // centre and ends
 const Arc level = {1, 2, -3, -1, 5, -1}, level_reversed = {1, 2, 5, -1, -3, -1};
@@ -17,8 +16,8 @@ const Arc level = {1, 2, -3, -1, 5, -1}, level_reversed = {1, 2, 5, -1, -3, -1};
 // Point and status; rewrites the arc.
 template <class Routine, class... Inputs>
 Values construct(Routine *routine, Arc &arc, Inputs... inputs) {
-  float x = u, y = u;
-  std::int32_t status = unwritten_int;
+  float x = kept, y = kept;
+  std::int32_t status = kept;
   routine(arc[0], arc[1], arc[2], arc[3], arc[4], arc[5], inputs..., x, y, status);
   return {x, y, static_cast<double>(status)};
 }
@@ -105,10 +104,10 @@ TEST(Chords, Refusals) {
     EXPECT_EQ(construct(trvcer5, arc, 0.0F, -1, 0.5F), refused);
   }
   Arc unequal = {0, 0, 2 * t, 0, -t, 0};  // by the tolerance, no more
-  EXPECT_NE(construct(trvcer10, unequal, 1.0F, 1.0F)[0], u);
+  EXPECT_NE(construct(trvcer10, unequal, 1.0F, 1.0F)[0], kept);
   Arc near = {-3, 3, 0, 0, t, t};  // refused only where the station is asked for its status
   EXPECT_EQ(construct(trvcer4, near, 0.0F, 1.0F), refused);
-  EXPECT_NE(construct(trvcer10, near, 1.0F, 1.0F)[0], u);
+  EXPECT_NE(construct(trvcer10, near, 1.0F, 1.0F)[0], kept);
 
   Arc arc = level, large = {1000, 2000, -3000, -1000, 5000, -1000},
       small = {0, 0, -2 * t, 0, 2 * t, 0};

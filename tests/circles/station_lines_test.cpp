@@ -15,8 +15,7 @@ Values cross(const Arc &arc, double s, int side, double e, double angle) {
 }
 
 const Arc small = {0, 0, -3, 4, 3, 4};  // of the circle of radius 5; it rises to (0, 5)
-const Values refused = {unwritten, unwritten, unwritten, unwritten,
-                        unwritten, unwritten, unwritten, 0};
+const Values refused = {kept, kept, kept, kept, kept, kept, kept, 0};
 
 }  // namespace
 

@@ -3,12 +3,6 @@
 
 using namespace trelvin_test;
 
-namespace {
-
-constexpr float u = unwritten;
-
-}  // namespace
-
 TEST(Stations, OnBothSidesOfTheChord) {
   // Of the circle about (1, 2) with the radius 5; chords level, oblique and upright.
   expect_near(outputs(trvcer8, 1, 2, -3, -1, 5, -1, 1, 1), {-2, 6, 1}, 1e-6);
@@ -32,15 +26,17 @@ TEST(Stations, RefusedCloserThanAThousandth) {
   const auto ray = [](double d) { return outputs(trvcer6, 1, 2, -4, 2, 6.0009, 2, 1, d); };
   for (const Values &refused :
        {above(5, 0.001), above(5, 7.9991), above(5.0015, 1), radius(0.001), ray(9.9992)}) {
-    EXPECT_EQ(refused, (Values{u, u, 0}));
+    EXPECT_EQ(refused, (Values{kept, kept, 0}));
   }
   for (const Values &done :
        {above(5, 0.0011), above(5, 7.9989), above(5.001, 1), radius(0.0013), ray(9.9989)}) {
     EXPECT_EQ(done.back(), 1);
   }
   for (const double d : {6.5, 1.5})
-    EXPECT_EQ(outputs(trvcer9, 1, 2, -3, -1, 5, -1, 1, d, 2.9995), (Values{u, u, u, u, 0}));
-  EXPECT_EQ(outputs(trvcer9, 1, 2, -3, -1, 5, -1, 1, 4, 0.001), (Values{u, u, u, u, 0}));
+    EXPECT_EQ(outputs(trvcer9, 1, 2, -3, -1, 5, -1, 1, d, 2.9995),
+              (Values{kept, kept, kept, kept, 0}));
+  EXPECT_EQ(outputs(trvcer9, 1, 2, -3, -1, 5, -1, 1, 4, 0.001),
+            (Values{kept, kept, kept, kept, 0}));
 }
 
 TEST(Stations, LineThatMissesTheCircleLeavesBothPointsOfTheCallBefore) {

@@ -1,89 +1,14 @@
 #include "hosts/foreign_call.h"
 
-#if defined(__x86_64__) && defined(_WIN32)
-asm(R"(
+#ifdef __x86_64__
+#ifdef _WIN32
+#define WINDOWS ".set windows, 1"
+#else
+#define WINDOWS ".set windows, 0"
+#endif
+asm(WINDOWS R"(
   .text
   .globl foreign_call
-foreign_call:
-  pushq %rbp
-  movq  %rsp, %rbp
-  pushq %rbx
-  pushq %rsi
-  pushq %rdi
-  pushq %r12
-  pushq %r13
-  pushq %r9
-  movq  %rcx, %rax
-  movq  %rdx, %r10
-  stmxcsr 20(%r9)
-  fnstcw  24(%r9)
-  subl  $4, %r8d              # arguments that go on the stack
-  xorl  %ecx, %ecx
-  testl %r8d, %r8d
-  cmovsl %ecx, %r8d
-  movl  %r8d, %ecx
-  andl  $1, %ecx
-  shll  $3, %ecx
-  subq  %rcx, %rsp            # aligned to 16 bytes at the call
-1:
-  testl %r8d, %r8d
-  jz    2f
-  pushq 24(%r10,%r8,8)
-  decl  %r8d
-  jmp   1b
-2:
-  subq  $32, %rsp             # room that belongs to the routine
-  movl  $0x5A5A0001, %ebx
-  movl  $0x5A5A0002, %esi
-  movl  $0x5A5A0003, %edi
-  movl  $0x5A5A0004, %r12d
-  movl  $0x5A5A0005, %r13d
-  ldmxcsr (%r9)
-  fnclex
-  fldcw 4(%r9)
-  movq  (%r10), %rcx
-  movq  8(%r10), %rdx
-  movq  16(%r10), %r8
-  movq  24(%r10), %r9
-  call  *%rax
-  movq  -48(%rbp), %rcx
-  stmxcsr (%rcx)
-  fnstcw 4(%rcx)
-  fnstsw 8(%rcx)
-  pushfq
-  popq  %rdx
-  movl  %edx, 12(%rcx)
-  cld
-  fnclex
-  fldcw 24(%rcx)
-  ldmxcsr 20(%rcx)
-  movl  $1, 16(%rcx)
-  cmpq  $0x5A5A0001, %rbx
-  jne   3f
-  cmpq  $0x5A5A0002, %rsi
-  jne   3f
-  cmpq  $0x5A5A0003, %rdi
-  jne   3f
-  cmpq  $0x5A5A0004, %r12
-  jne   3f
-  cmpq  $0x5A5A0005, %r13
-  jne   3f
-  movl  $0, 16(%rcx)
-3:
-  leaq  -40(%rbp), %rsp
-  popq  %r13
-  popq  %r12
-  popq  %rdi
-  popq  %rsi
-  popq  %rbx
-  popq  %rbp
-  ret
-)");
-#elif defined(__x86_64__)
-asm(R"(
-  .text
-  .globl foreign_call
-  .type foreign_call, @function
 foreign_call:
   pushq %rbp
   movq  %rsp, %rbp
@@ -94,24 +19,19 @@ foreign_call:
   pushq %r15
   pushq %rcx
   movq  %rdi, %rax
-  movq  %rsi, %r10
   stmxcsr 20(%rcx)
   fnstcw  24(%rcx)
-  leal  -6(%rdx), %r8d        # arguments that go on the stack
-  xorl  %r9d, %r9d
-  testl %r8d, %r8d
-  cmovsl %r9d, %r8d
-  movl  %r8d, %r9d
-  andl  $1, %r9d
-  shll  $3, %r9d
-  subq  %r9, %rsp             # aligned to 16 bytes at the call
+  movl  $6, %r8d              # room that arguments have at least
+  cmpl  %r8d, %edx
+  cmovl %r8d, %edx
+  movl  %edx, %r8d
+  andl  $1, %r8d
+  shll  $3, %r8d
+  subq  %r8, %rsp             # aligned to 16 bytes at the call
 1:
-  testl %r8d, %r8d
-  jz    2f
-  pushq 40(%r10,%r8,8)
-  decl  %r8d
-  jmp   1b
-2:
+  pushq -8(%rsi,%rdx,8)
+  decl  %edx
+  jnz   1b
   movl  $0x5A5A0001, %ebx
   movl  $0x5A5A0002, %r12d
   movl  $0x5A5A0003, %r13d
@@ -120,12 +40,21 @@ foreign_call:
   ldmxcsr (%rcx)
   fnclex
   fldcw 4(%rcx)
-  movq  (%r10), %rdi
-  movq  8(%r10), %rsi
-  movq  16(%r10), %rdx
-  movq  24(%r10), %rcx
-  movq  32(%r10), %r8
-  movq  40(%r10), %r9
+  .if windows
+  movq  (%rsp), %rcx          # these stay on the stack too, as room that belongs to the routine
+  movq  8(%rsp), %rdx
+  movq  16(%rsp), %r8
+  movq  24(%rsp), %r9
+  movl  $0x5A5A0006, %esi
+  movl  $0x5A5A0007, %edi
+  .else
+  popq  %rdi
+  popq  %rsi
+  popq  %rdx
+  popq  %rcx
+  popq  %r8
+  popq  %r9
+  .endif
   call  *%rax
   movq  -48(%rbp), %rcx
   stmxcsr (%rcx)
@@ -149,6 +78,12 @@ foreign_call:
   jne   3f
   cmpq  $0x5A5A0005, %r15
   jne   3f
+  .if windows
+  cmpq  $0x5A5A0006, %rsi
+  jne   3f
+  cmpq  $0x5A5A0007, %rdi
+  jne   3f
+  .endif
   movl  $0, 16(%rcx)
 3:
   leaq  -40(%rbp), %rsp
@@ -159,7 +94,6 @@ foreign_call:
   popq  %rbx
   popq  %rbp
   ret
-  .size foreign_call, . - foreign_call
 )");
 #else
 asm(R"(
@@ -176,6 +110,8 @@ _foreign_call:
   movl  20(%ebp), %edx
   stmxcsr 20(%edx)
   fnstcw  24(%edx)
+  andl  $-16, %esp
+  subl  28(%edx), %esp
   movl  %esp, %ebx            # where the routine must leave the stack
 1:
   testl %ecx, %ecx

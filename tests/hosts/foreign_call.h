@@ -12,8 +12,13 @@ struct ForeignCall {
   std::uint32_t spoiled;  // registers or stack are not as a callee must leave them
   std::uint32_t own_mxcsr;
   std::uint32_t own_x87_control;
+  std::uint32_t stack_offset;  // from a multiple of 16; of 32-bit programs, and as they set it
 };
 
 // `arguments` has room for six addresses at least. The state of the caller is back afterwards.
-extern "C" void foreign_call(void (*routine)(), void *const *arguments, int count,
-                             ForeignCall *call);
+extern "C" {
+#ifdef __x86_64__
+[[gnu::sysv_abi]]  // on Windows too
+#endif
+void foreign_call(void (*routine)(), void *const *arguments, int count, ForeignCall *call);
+}

@@ -1,5 +1,6 @@
-// Calls every routine in a processor state that a host may have set: each must give the golden bits,
-// and leave the state, the sticky flags included, as it was.
+// Calls every routine in a processor state that a host may have set, and with each alignment that a
+// 32-bit host's stack may have: each must give the golden bits, and leave the state, the sticky flags
+// included, as it was.
 //
 //     states DIGEST MXCSR X87    both control words in hexadecimal
 #include <cinttypes>
@@ -29,6 +30,8 @@ const char *call_in_state(const Routine &routine, Arguments &arguments, const Fo
   const auto count = static_cast<int>(addresses.size());
   addresses.resize(addresses.size() + 6);
   ForeignCall call = state;
+  static std::uint32_t offset = 0;
+  call.stack_offset = offset = (offset + 4) % 16;
   foreign_call(routine.address, addresses.data(), count, &call);
   if (call.mxcsr != state.mxcsr) return "changes the SSE control and status word";
   if (call.x87_control != state.x87_control) return "changes the x87 control word";

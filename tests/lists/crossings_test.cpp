@@ -20,8 +20,8 @@ struct Crossings {
 Crossings cross(const Outline &o, float x1, float y1, float x2, float y2) {
   float x[60], y[60], t[60];
   std::int32_t edge[60];
-  std::int32_t count = unwritten_int;
-  std::int32_t status = unwritten_int;
+  std::int32_t count = kept;
+  std::int32_t status = kept;
   trvpin(o.x.data(), o.y.data(), size_of(o.x), x1, y1, x2, y2, count, x, y, t, edge, status);
   EXPECT_GE(count, 0);
   return {{x, x + count}, {y, y + count}, {t, t + count}, {edge, edge + count}, status};
@@ -29,7 +29,7 @@ Crossings cross(const Outline &o, float x1, float y1, float x2, float y2) {
 
 Reals cross(const Outline &o, float y0) {
   float x[60];
-  std::int32_t count = unwritten_int;
+  std::int32_t count = kept;
   trvppp(o.x.data(), o.y.data(), size_of(o.x), y0, count, x);
   return {x, x + count};
 }

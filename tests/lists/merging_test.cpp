@@ -54,7 +54,7 @@ TEST(Merging, ListsAreSiftedWithAndWithoutMemory) {
 
   for (const bool memory : {true, false}) {
     Integers common(a.size()), left = a;
-    std::int32_t found = unwritten_int, stay = size_of(a), removed = unwritten_int;
+    std::int32_t found = kept, stay = size_of(a), removed = kept;
     const auto sift = [&] {
       trvmer14(size_of(a), a.data(), size_of(b), b.data(), found, common.data());
       trvmer15(stay, left.data(), size_of(b), b.data(), removed);
@@ -64,7 +64,7 @@ TEST(Merging, ListsAreSiftedWithAndWithoutMemory) {
     left.resize(static_cast<std::size_t>(stay));
     EXPECT_TRUE(common == held && left == rest && removed == size_of(held)) << memory;
   }
-  std::int32_t n = -2, count = unwritten_int;
+  std::int32_t n = -2, count = kept;
   trvmer15(n, a.data(), 3, b.data(), count);
   EXPECT_TRUE(n == -2 && count == 0);
 }

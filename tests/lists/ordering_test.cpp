@@ -14,10 +14,8 @@ extern "C" const char *__asan_default_options() { return "allocator_may_return_n
 
 namespace {
 
-constexpr std::int32_t u = unwritten_int;
-
 Integers order(const Reals &list) {
-  Integers positions(list.size(), u);
+  Integers positions(list.size(), kept);
   trvordi(list.data(), size_of(list), positions.data());
   return positions;
 }
@@ -27,7 +25,7 @@ Integers order_lines(const std::vector<std::array<float, 3>> &lines) {
   float coefficients[3][4];
   for (std::size_t i = 0; i < lines.size(); ++i)
     for (std::size_t j = 0; j < 3; ++j) coefficients[j][i] = lines[i][j];
-  Integers result(lines.size() + 1, u);
+  Integers result(lines.size() + 1, kept);
   trvpor(size_of(lines), coefficients[0], coefficients[1], coefficients[2], result.data(),
          result.back());
   return result;
@@ -43,7 +41,7 @@ void select_plainly(Reals &v) {
 }
 
 Integers order_plainly(Reals w) {
-  Integers positions(w.size(), u);
+  Integers positions(w.size(), kept);
   float done = w.empty() ? 0 : w[0];
   for (const float entry : w) done = entry > done ? entry : done;
   done += 1;
@@ -92,7 +90,7 @@ TEST(Ordering, OddListsAreSortedAndOrderedAsThePlainWays) {
 
 TEST(Ordering, Positions) {
   EXPECT_EQ(order({2, -1, 4, 3, -1}), (Integers{5, 2, 1, 4, 3}));
-  EXPECT_EQ(order({1, not_a_number, 0}), (Integers{3, u, 1}));
+  EXPECT_EQ(order({1, not_a_number, 0}), (Integers{3, kept, 1}));
   // The mark of a found entry is the largest plus 1, where that is a number of its own.
   EXPECT_EQ(order({16777215, 1, 2}), (Integers{2, 3, 1}));
   EXPECT_EQ(order({16777216, 1, 2}), (Integers{2, 3, 3}));
@@ -105,12 +103,12 @@ TEST(Ordering, ParallelLinesByTheirCrossingOfAnAxis) {
   EXPECT_EQ(order_lines({{2, 3, 4}}), (Integers{1, 0}));
   // A first line on the y axis does not cross it, nor does its parallel: NaN and infinity.
   EXPECT_EQ(order_lines({{1, 0, -beyond}, {1, 0, -1}}), (Integers{1, 2, 0}));
-  EXPECT_EQ(order_lines({{1, 0, 0}, {1, 0, -1}}), (Integers{u, 2, 0}));
+  EXPECT_EQ(order_lines({{1, 0, 0}, {1, 0, -1}}), (Integers{kept, 2, 0}));
   EXPECT_EQ(order_lines({{1, 2, 0}, {1, -3, 0}}), (Integers{1, 2, -1}));
   EXPECT_EQ(order_lines({{1, 2, 0}, {1, 2, -9}, {2, 4, 0}}), (Integers{1, 2, 3, -1}));
-  std::int32_t position = u, status = u;
+  std::int32_t position = kept, status = kept;
   trvpor(0, nullptr, nullptr, nullptr, &position, status);
-  EXPECT_TRUE(position == u && status == TRV_STATUS_REFUSED);
+  EXPECT_TRUE(position == kept && status == TRV_STATUS_REFUSED);
 }
 
 TEST(Ordering, WithoutMemoryListsAreSortedAlike) {
@@ -133,7 +131,7 @@ TEST(Ordering, WithoutMemoryOddListsHaveTheSameOrder) {
     Reals list(static_cast<std::size_t>(part.empty() ? 0 : 20000 + lists.below(512)));
     for (std::size_t i = 0; i < list.size(); ++i) list[i] = part[i % part.size()];
     const Integers positions = order(list);
-    Integers without(list.size(), u);
+    Integers without(list.size(), kept);
     without_memory([&] { trvordi(list.data(), size_of(list), without.data()); });
     ASSERT_EQ(without, positions) << trial;
   }
@@ -150,7 +148,7 @@ TEST(Ordering, CornersOfAQuadrilateral) {
       const float *corner = corners[orders[c][k] - 1];
       x[k] = corner[0], y[k] = corner[1], z[k] = corner[2];
     }
-    Integers positions(4, u);
+    Integers positions(4, kept);
     trvorv(x, y, z, positions.data());
     EXPECT_EQ(positions, expected[c]);
     for (int k = 0; k < 4; ++k) {
@@ -158,7 +156,7 @@ TEST(Ordering, CornersOfAQuadrilateral) {
     }
   }
   float x[] = {0, 1, 2, 3}, y[] = {0, 0, 0, 5}, z[] = {7, 7, 7, 7};  // a degenerate triangle
-  Integers positions(4, u);
+  Integers positions(4, kept);
   trvorv(x, y, z, positions.data());
   EXPECT_EQ(positions, (Integers{1, 2, 3, 4}));
 }

@@ -5,8 +5,6 @@ using namespace trelvin_test;
 
 namespace {
 
-constexpr std::int32_t u = unwritten_int;
-
 struct Points {
   Reals x, y, z;
   [[nodiscard]] std::int32_t n() const { return size_of(x); }
@@ -48,12 +46,12 @@ Pairs pair_plainly(std::size_t na, std::size_t nb, Agree agrees) {
 }
 
 Pairs pair(const Points &a, const Points &b, float tol, std::int32_t &status) {
-  Pairs pairs(2, Integers(a.x.size() * b.x.size() + 1, u));
-  std::int32_t count = u;
+  Pairs pairs(2, Integers(a.x.size() * b.x.size() + 1, kept));
+  std::int32_t count = kept;
   trvptp1(a.n(), a.x.data(), a.y.data(), a.z.data(), b.n(), b.x.data(), b.y.data(), b.z.data(), tol,
           count, pairs[0].data(), pairs[1].data(), status);
   for (Integers &positions : pairs) {
-    EXPECT_EQ(positions[static_cast<std::size_t>(count)], u);
+    EXPECT_EQ(positions[static_cast<std::size_t>(count)], kept);
     positions.resize(static_cast<std::size_t>(count));
   }
   return pairs;
@@ -78,7 +76,7 @@ Merged merge(const Points (&p)[3], float tol, std::int32_t k) {
     shrink(p[i].n() * p[(i + 1) % 3].n(), m.pairs[2 * i], m.pairs[2 * i + 1]);
   }
   shrink(all, m.places.x, m.places.y, m.places.z, m.at_k, m.levels);
-  std::int32_t counts[3] = {u, u, u}, nout = u, nk = u, nz = u;
+  std::int32_t counts[3] = {kept, kept, kept}, nout = kept, nk = kept, nz = kept;
   trvptp2(p[0].n(), p[0].x.data(), p[0].y.data(), p[0].z.data(), p[1].n(), p[1].x.data(),
           p[1].y.data(), p[1].z.data(), p[2].n(), p[2].x.data(), p[2].y.data(), p[2].z.data(), tol,
           counts[0], m.pairs[0].data(), m.pairs[1].data(), counts[1], m.pairs[2].data(),
@@ -96,7 +94,7 @@ Merged merge(const Points (&p)[3], float tol, std::int32_t k) {
 
 TEST(PointLists, SomeOrAllPointsHavePartners) {
   const Points a = {{0, 1, 2}, {0, 0, 5}, {3, 3, 6}}, b = {{1, 9, 0}, {0, 9, 0}, {3.001F, 9, 3}};
-  std::int32_t status = u;
+  std::int32_t status = kept;
   EXPECT_EQ(pair(a, b, 0.01F, status), (Pairs{{1, 2}, {3, 1}}));
   EXPECT_EQ(status, TRVPTP1_SOME_PAIRS);
   EXPECT_EQ(pair(a, b, 1e-4F, status), (Pairs{{1}, {3}}));
@@ -104,7 +102,7 @@ TEST(PointLists, SomeOrAllPointsHavePartners) {
   EXPECT_EQ(status, TRVPTP1_NO_PAIR);
   EXPECT_EQ(pair({{2, 9}, {1, 9}, {3, 9}}, b, 1, status), (Pairs{{1, 2}, {1, 2}}));
   EXPECT_EQ(status, TRVPTP1_ALL_PAIRED);
-  std::int32_t count = u;
+  std::int32_t count = kept;
   trvptp1(-2, a.x.data(), a.y.data(), a.z.data(), 3, b.x.data(), b.y.data(), b.z.data(), 9, count,
           nullptr, nullptr, status);
   EXPECT_TRUE(count == 0 && status == 0);
@@ -112,14 +110,16 @@ TEST(PointLists, SomeOrAllPointsHavePartners) {
 
 TEST(PointLists, PairsOfNumbersWithinATolerance) {
   const float a[] = {0, 1, 1.25F, not_a_number}, b[] = {1.25F, 0, 1.5F};
-  std::int32_t count = u, ia[] = {u, u, u, u, u, u, u, u}, ib[] = {u, u, u, u, u, u, u, u};
+  std::int32_t count = kept, ia[] = {kept, kept, kept, kept, kept, kept, kept, kept},
+               ib[] = {kept, kept, kept, kept, kept, kept, kept, kept};
   trvmer13(-1, a, 3, b, count, ia, ib, 5);
   EXPECT_EQ(count, 0);
-  EXPECT_TRUE(ia[1] == 0 && ia[2] == u && ib[1] == 0 && ib[2] == u);  // as far as the counts sum up
+  EXPECT_TRUE(ia[1] == 0 && ia[2] == kept && ib[1] == 0 &&
+              ib[2] == kept);  // as far as the counts sum up
   trvmer13(4, a, 3, b, count, ia, ib, 0.25F);
   EXPECT_EQ(count, 4);
-  EXPECT_EQ(Values(ia, ia + 8), (Values{1, 2, 3, 3, 0, 0, 0, u}));
-  EXPECT_EQ(Values(ib, ib + 8), (Values{2, 1, 1, 3, 0, 0, 0, u}));
+  EXPECT_EQ(Values(ia, ia + 8), (Values{1, 2, 3, 3, 0, 0, 0, kept}));
+  EXPECT_EQ(Values(ib, ib + 8), (Values{2, 1, 1, 3, 0, 0, 0, kept}));
 }
 
 TEST(PointLists, OddListsArePairedAsThePlainWay) {
@@ -127,13 +127,13 @@ TEST(PointLists, OddListsArePairedAsThePlainWay) {
   for (int trial = 0; trial < 3000; ++trial) {
     const float tol = lists.tolerance();
     const Points a = odd_points(lists, {}, tol), b = odd_points(lists, a, tol);
-    std::int32_t status = u, count = u;
+    std::int32_t status = kept, count = kept;
     ASSERT_EQ(pair(a, b, tol, status), pair_plainly(a.x.size(), b.x.size(), agreement(a, b, tol)))
         << trial;
     Pairs plain = pair_plainly(a.x.size(), b.x.size(), [&](std::size_t i, std::size_t j) {
       return std::fabs(a.x[i] - b.x[j]) <= tol;  // equal infinities are no pair here
     });
-    Pairs pairs(2, Integers(a.x.size() * b.x.size() + a.x.size() + b.x.size(), u));
+    Pairs pairs(2, Integers(a.x.size() * b.x.size() + a.x.size() + b.x.size(), kept));
     trvmer13(a.n(), a.x.data(), b.n(), b.x.data(), count, pairs[0].data(), pairs[1].data(), tol);
     for (Integers &positions : pairs) positions.resize(static_cast<std::size_t>(count));
     ASSERT_EQ(pairs, plain) << trial;
@@ -185,13 +185,13 @@ TEST(PointLists, OddPointsMergeAsThePlainWay) {
 TEST(PointLists, JoinedToNothingAListStillLosesWhatAgrees) {
   const Reals b = {7, 1.1F, 7.05F};
   for (const std::int32_t na : {0, -3}) {
-    Reals out(4, unwritten);
-    Integers ib(4, u);
-    std::int32_t nout = u;
+    Reals out(4, kept);
+    Integers ib(4, kept);
+    std::int32_t nout = kept;
     trvmer4(na, nullptr, 3, b.data(), 0.0625F, nout, out.data(), ib.data());
     EXPECT_EQ(nout, 2);
-    EXPECT_EQ(out, (Reals{7, 1.1F, unwritten, unwritten}));
-    EXPECT_EQ(ib, (Integers{1, 2, 1, u}));
+    EXPECT_EQ(out, (Reals{7, 1.1F, kept, kept}));
+    EXPECT_EQ(ib, (Integers{1, 2, 1, kept}));
   }
 }
 
@@ -201,8 +201,8 @@ TEST(PointLists, OddListsAreJoinedInTheirOrder) {
     const Reals a = lists.reals(), b = lists.reals();
     const float tol = lists.tolerance();
     Reals plain = a, out(a.size() + b.size());
-    Integers ib(b.size(), u);
-    std::int32_t nout = u;
+    Integers ib(b.size(), kept);
+    std::int32_t nout = kept;
     trvmer4(size_of(a), a.data(), size_of(b), b.data(), tol, nout, out.data(), ib.data());
     for (std::size_t j = 0; j < b.size(); ++j) {
       std::size_t place = 0;

@@ -13,7 +13,7 @@ TEST(Tables, PositionInATable) {
   const float table[] = {0, 1, 2}, t = tolerance;
   // Interval by interval; then status and position where an equal entry goes first.
   const auto place = [&](std::int32_t n, float x) -> double {
-    std::int32_t interval = unwritten_int, status = unwritten_int, i = unwritten_int;
+    std::int32_t interval = kept, status = kept, i = kept;
     trvpos(n, table, x, interval);
     trvpos1(n, table, x, status, i);
     return 100 * interval + 10 * status + i;

@@ -58,8 +58,8 @@ TEST(Lines, BisectorIsAsFarFromBothRays) {
 }
 
 TEST(Lines, Intersection) {
-  const Values same = {TRV_PLANE_LINES_SAME_LINE, unwritten, unwritten},
-               parallel = {TRV_PLANE_LINES_PARALLEL, unwritten, unwritten};
+  const Values same = {TRV_PLANE_LINES_SAME_LINE, kept, kept},
+               parallel = {TRV_PLANE_LINES_PARALLEL, kept, kept};
   EXPECT_EQ(outputs(trvlni, 1, 2, 3, -2, -4, -6), same);
   EXPECT_EQ(outputs(trvlni, 1, 0, 0, 1, 0, -1), parallel);
   EXPECT_EQ(outputs(trvlni, 0, 1, 0, 0, 1, -1), parallel);
@@ -83,7 +83,7 @@ TEST(Lines, ParallelsAreAsFarApartAsTheParallelTells) {
     expect_near(apart, {-7, 2}, 1e-6);
     EXPECT_EQ(outputs(trvlul, 3, -4, 5, scale * 3, scale * -4, scale * 5), (Values{0, 1}));
   }
-  EXPECT_EQ(outputs(trvlul, 3, -4, 5, 3, 4, 5), (Values{unwritten, 0}));
+  EXPECT_EQ(outputs(trvlul, 3, -4, 5, 3, 4, 5), (Values{kept, 0}));
   // Far from the origin the constants nearly cancel: 100000.5 - 300001.8125 / 3.
   expect_near(outputs(trvlul, 1, 0, 100000.5, 3, 0, 300001.8125), {-0.3125 / 3, 2}, 1e-8);
 }

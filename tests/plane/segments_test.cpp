@@ -34,14 +34,14 @@ TEST(Segments, SectorMarksByTheSignsOfBothDistances) {
     trvapp(1, 2, 1 + dx, 2 + dy, 1 - s * dy, 2 + s * dx, 10, x, y, mark);
     for (int i = 0; i < 10; ++i) EXPECT_EQ(mark[i], cases[i][2]) << i << " " << dx << " " << s;
   }
-  std::fill_n(mark, 11, unwritten_int);
+  std::fill_n(mark, 11, kept);
   trvapp(1, 2, 2, 3, 5, 6, 9, x, y, mark);  // both rays of one direction
-  EXPECT_TRUE(std::count(mark, mark + 9, TRVAPP_NO_SECTOR) == 9 && mark[9] == unwritten_int);
+  EXPECT_TRUE(std::count(mark, mark + 9, TRVAPP_NO_SECTOR) == 9 && mark[9] == kept);
 }
 
 TEST(Segments, NotANumberInASectorLeavesPointsInside) {
   const auto marks = [](std::array<float, 6> rays, float x, float y) {
-    std::int32_t mark = unwritten_int;
+    std::int32_t mark = kept;
     trvapp(rays[0], rays[1], rays[2], rays[3], rays[4], rays[5], 1, &x, &y, &mark);
     return mark;
   };
@@ -57,7 +57,7 @@ TEST(Segments, ThreePointTestsShareTheirCosine) {
   // A foot that coincides with the vertex by coordinates, not by its distance: the cosine of an
   // earlier test decides whether it lies beyond.
   const float x = 9e-6F, y = -9e-6F;
-  std::int32_t mark = unwritten_int, status = unwritten_int;
+  std::int32_t mark = kept, status = kept;
   trvapp(0, 0, 5, -5, 4, 3, 1, &x, &y, &mark);
   EXPECT_EQ(mark, 1);
   float arc[] = {1, 2, -3, -1, 5, -1}, crossing[2];

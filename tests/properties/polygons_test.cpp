@@ -11,11 +11,11 @@ using Reals = std::vector<float>;
 Values properties(const Reals &x, const Reals &y) {
   const auto call = [&](auto routine, auto &...results) {
     Reals px = x, py = y;  // with the spare element, which is the library's
-    px.push_back(unwritten);
-    py.push_back(unwritten);
+    px.push_back(kept);
+    py.push_back(kept);
     routine(px.data(), py.data(), static_cast<std::int32_t>(x.size()), results...);
   };
-  Reals r(6, unwritten);
+  Reals r(6, kept);
   call(trvapl, r[0]);
   call(trvspl, r[1], r[2]);
   call(trvipl, r[3], r[4], r[5]);

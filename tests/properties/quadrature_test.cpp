@@ -5,7 +5,7 @@ using namespace trelvin_test;
 
 TEST(Quadrature, TrapezoidsLeaveOutTheLastInteriorSample) {
   const auto integral = [](std::vector<float> f, float a, float b) {
-    float result = unwritten;
+    float result = kept;
     trvinr(static_cast<std::int32_t>(f.size()), f.data(), a, b, result);
     return result;
   };

@@ -11,11 +11,11 @@ struct Plate {
 };
 
 struct ThinSection {
-  float A = unwritten, xs = A, ys = A, Ix = A, Iy = A, Ixy = A, I1 = A, I2 = A, alpha = A, rx = A,
+  float A = kept, xs = A, ys = A, Ix = A, Iy = A, Ixy = A, I1 = A, I2 = A, alpha = A, rx = A,
         ry = A, Wx1 = A, Wx2 = A, Wy1 = A, Wy2 = A, Wpx = A, Wpy = A, xp = A, yp = A, It = A,
         Wt = A, xm = A, ym = A, Iw = A, r0 = A;
   std::vector<float> W1, W2;
-  std::int32_t status = unwritten_int;
+  std::int32_t status = kept;
 
   explicit ThinSection(const std::vector<Plate> &plates) : W1(plates.size()), W2(plates.size()) {
     std::vector<float> columns[5];

@@ -102,14 +102,14 @@ TEST(SpaceLines, PointsNearALine) {
   // and nowhere.
   const float x[] = {4, 17, -1, not_a_number}, y[] = {-2, 14, 1, 0};
   const auto found = [&](std::int32_t n, float tol) {
-    std::int32_t status = unwritten_int, count = unwritten_int, index[4] = {};
+    std::int32_t status = kept, count = kept, index[4] = {};
     trvpnl(1, 4, 9, 3, 7, 15, x, y, n > 0 ? height : nullptr, n, tol, status, count, index);
     Values all(index, index + 4);
     all.push_back(count);
     all.push_back(status);
     return all;
   };
-  EXPECT_EQ(found(0, 7), (Values{0, 0, 0, 0, 0, unwritten}));
+  EXPECT_EQ(found(0, 7), (Values{0, 0, 0, 0, 0, kept}));
   EXPECT_EQ(found(4, 7), (Values{1, 3, 0, 0, 2, TRV_STATUS_DONE}));
   EXPECT_EQ(found(4, 6.999F), (Values{3, 0, 0, 0, 1, 0}));
   EXPECT_EQ(found(4, infinity), (Values{1, 2, 3, 0, 3, 0}));
@@ -118,7 +118,7 @@ TEST(SpaceLines, PointsNearALine) {
 TEST(SpaceLines, FunctionIsCalledInTheStateOfTheHost) {
   const float x[] = {5, 5, 5}, y[] = {1, 1, 1};
   float d = 0;
-  std::int32_t status = unwritten_int, count = unwritten_int, index[3] = {};
+  std::int32_t status = kept, count = kept, index[3] = {};
   trv3ldb(0, 0, 0, 1, 2, 3, 5, 1, 3, status, d);
   const auto find = [&](std::int32_t n, float tol) {
     std::fesetround(FE_UPWARD);
@@ -129,16 +129,16 @@ TEST(SpaceLines, FunctionIsCalledInTheStateOfTheHost) {
   EXPECT_TRUE(count == 2 && rounding() == 1);
   find(1, std::nextafter(d, 0.0F));
   EXPECT_TRUE(count == 0 && rounding() == -1);
-  count = unwritten_int;
+  count = kept;
   if (setjmp(way_out) == 0) find(3, d);
-  EXPECT_TRUE(count == unwritten_int && index[1] == 2 && rounding() == 1);
+  EXPECT_TRUE(count == kept && index[1] == 2 && rounding() == 1);
   std::fesetround(FE_TONEAREST);
   EXPECT_EQ(roundings, (std::vector<int>{1, -1, 1, 1, -1, 1}));
 }
 
 TEST(SpaceLines, PointCarriedAlong) {
   const auto carried = [](Point q1, Point q2) {
-    std::int32_t status = unwritten_int;
+    std::int32_t status = kept;
     trvlpc(1, -2, 4, q1[0], q1[1], q1[2], q2[0], q2[1], q2[2], 1, 2, 3, 2, 4, 8, status);
     return Values{q2[0], q2[1], q2[2], static_cast<double>(status)};
   };

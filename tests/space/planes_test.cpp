@@ -11,7 +11,7 @@ namespace {
 const Values plane = {42, 14, -21, 70, 0};
 
 Values zeros(double status) { return {0, 0, 0, 0, status}; }
-Values left(double status) { return {unwritten, unwritten, unwritten, unwritten, status}; }
+Values left(double status) { return {kept, kept, kept, kept, status}; }
 
 }  // namespace
 
@@ -108,12 +108,12 @@ TEST(Planes, DistanceOfAPoint) {
 
 TEST(Planes, ListOfPointsRunsItsResidualOn) {
   const float x[] = {1, 1, 0, 0}, y[] = {2, 0, -1, 0}, z[] = {3, 0, 1, 1e-30F};
-  std::int32_t count = unwritten_int, index[] = {unwritten_int, unwritten_int, unwritten_int};
+  std::int32_t count = kept, index[] = {kept, kept, kept};
   float d = -21;
   trvpnp(x, y, z, 2, 5, 3, d, 0, count, index);
   EXPECT_TRUE(count == 0 && d == -21);
   trvpnp(x, y, z, 2, 5, 3, d, 4, count, index);  // 0, 2, 0, 3e-30
-  EXPECT_EQ(Values(index, index + 3), (Values{1, 3, unwritten}));
+  EXPECT_EQ(Values(index, index + 3), (Values{1, 3, kept}));
   EXPECT_EQ(count, 2);
   EXPECT_FLOAT_EQ(d, 3e-30F);
 }

@@ -42,10 +42,10 @@ TEST(PointsOnLines, TwoPlanesAgreeWithAPointAtTheRetainedStation) {
   const Planes across = {1, 1, 2, -8, 4, 2, 4, -22};       // x = 3, y + 2 z = 5
   const Planes slight = {1, 1, 0, 0, 0, 0, tolerance, 0};  // no direction counts but the caller's
   const Planes none = {n, n, n, n, n, n, n, n};
-  float ex = unwritten, ey = unwritten;
+  float ex = kept, ey = kept;
   const auto expect = [&](const Planes &g, float ez, float x, float y, float z, std::int32_t code,
                           std::int32_t on) {
-    std::int32_t codes = unwritten_int, result = unwritten_int;
+    std::int32_t codes = kept, result = kept;
     trvln7(g.a1, g.b1, g.c1, g.d1, g.a2, g.b2, g.c2, g.d2, x, y, z, ex, ey, ez, 0.25F, codes,
            result);
     EXPECT_TRUE(codes == code && result == on) << x << " " << y << " " << z;

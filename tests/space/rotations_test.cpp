@@ -13,10 +13,10 @@ TEST(Rotations, TurnTheFirstOfTheirPairTowardsTheSecondAndBackWithModeOne) {
   const double root = std::sqrt(3.0);
   for (const auto turn : turns) {
     for (const I mode : {0, 2, -1}) {
-      float p[] = {2, 0, unwritten}, q[] = {0, 2, unwritten};
+      float p[] = {2, 0, kept}, q[] = {0, 2, kept};
       for (const I n : {0, -1, 2}) turn(mode, p, q, n, static_cast<float>(pi / 6));
-      expect_near(Values(p, p + 3), {root, -1, unwritten}, 2e-7);
-      expect_near(Values(q, q + 3), {1, root, unwritten}, 2e-7);
+      expect_near(Values(p, p + 3), {root, -1, kept}, 2e-7);
+      expect_near(Values(q, q + 3), {1, root, kept}, 2e-7);
       turn(1, p, q, 2, static_cast<float>(pi / 6));
       expect_near(Values(p, p + 2), {2, 0}, 2e-7);
       expect_near(Values(q, q + 2), {0, 2}, 2e-7);

@@ -39,7 +39,7 @@ TEST(Transformations, ShiftAndTurnsAboutTheGlobalAxes) {
 
 // A right angle about x, one back about y and two about z turn (a, b, c) to (-b, c, -a).
 TEST(Transformations, LocalShiftComesBeforeTheTurns) {
-  std::int32_t status = unwritten_int;
+  std::int32_t status = kept;
   const Point o = in_sevens(0, 0, 0), u = in_sevens(1, 0, 0), w = in_sevens(2, 1, 0);
   const Points start = points(in_sevens(1, 2, -1), in_sevens(0, 5, 0), {7, 8, 9});
   Points p = start;
@@ -60,7 +60,7 @@ TEST(Transformations, GlobalShiftComesAfterTheTurnsOfPointsOfAPlane) {
   const Points start = points(in_sevens(1, 2, 0), in_sevens(0, 5, 0.5), {7, 8, 9});
   Points p = start;
   const auto moved = [&](Point p2, std::int32_t n, float tol) {
-    std::int32_t status = unwritten_int;
+    std::int32_t status = kept;
     trvppc(o[0], o[1], o[2], u[0], u[1], u[2], p2[0], p2[1], p2[2], 100, 20, 3, right, -right,
            straight, n, p.data(), &p[3], &p[6], tol, status);
     return status;
@@ -83,7 +83,7 @@ TEST(Transformations, GlobalShiftComesAfterTheTurnsOfPointsOfAPlane) {
 }
 
 TEST(Transformations, TurnAboutAnAxis) {
-  std::int32_t status = unwritten_int;
+  std::int32_t status = kept;
   const Point a = in_sevens(0, 0, 0), b = in_sevens(2, 0, 0);
   const Points start = points(in_sevens(1, 0, 0), in_sevens(3, 1, 0), {7, 8, 9});
   Points p = start;

@@ -30,7 +30,6 @@ using namespace trelvin_test;
 
 namespace {
 
-constexpr float u = unwritten;
 constexpr const char *file_name = "OUTPUT.TXT";
 
 class Trace : public testing::Test {
@@ -55,8 +54,8 @@ class Trace : public testing::Test {
 Values classify(double x, double y, double r, double a, double b, double c) {
   const auto real = [](double value) { return static_cast<float>(value); };
   const float xs[] = {real(x), real(x + r * 3 / 5)}, ys[] = {real(y), real(y - r * 4 / 5)};
-  std::int32_t position = unwritten_int;
-  float x1 = u, y1 = u, x2 = u, y2 = u;
+  std::int32_t position = kept;
+  float x1 = kept, y1 = kept, x2 = kept, y2 = kept;
   trvcin(xs, ys, real(a), real(b), real(c), position, x1, y1, x2, y2);
   return {static_cast<double>(position), x1, y1, x2, y2};
 }
@@ -111,9 +110,9 @@ TEST_F(Trace, IsAppendedByteForByte) {
   };
   const std::string below = "\xCD \xC1\xD1\xCD\xC7\xD4\xC9\xCA\xC7 \xD0\xC5\xD1\xC9\xCF\xD7\xC7";
   const std::string larger = segment + "2\xD0-\xD6 \xD3\xD4\xC7" + positive;
-  expect(classify(1, 5, 5, 0, 1, 0), {TRVCIN_UNCUT_ABOVE, 1, 0, u, u},
+  expect(classify(1, 5, 5, 0, 1, 0), {TRVCIN_UNCUT_ABOVE, 1, 0, kept, kept},
          record("1", circle + positive));
-  expect(classify(1, 0, 5, 0, 1, -7), {TRVCIN_UNCUT_BELOW, u, u, u, u},
+  expect(classify(1, 0, 5, 0, 1, -7), {TRVCIN_UNCUT_BELOW, kept, kept, kept, kept},
          record("2", circle + below));
   expect(classify(1, -7, 5, 1, 0, -4), {TRVCIN_CUT_BELOW, 4, -3, 4, -11},
          record("3", segment + "\xD6 \xD3\xD4\xC7" + positive +

@@ -25,17 +25,17 @@ TEST(Angles, RayWithoutLengthGivesZero) {
   // A NaN is not short.
   EXPECT_TRUE(std::isnan(outputs(trvphi, 0, 0, not_a_number, 0, 0, 1)[0]));
   EXPECT_TRUE(std::isnan(outputs(trvphi1, 1, 0, 0, 0, not_a_number, 0)[0]));
-  EXPECT_EQ(outputs(trvphip, not_a_number, 0, 0, 0, 1, 0)[1], unwritten);
+  EXPECT_EQ(outputs(trvphip, not_a_number, 0, 0, 0, 1, 0)[1], kept);
 }
 
 TEST(Angles, BetweenLinesIsAcuteAndLeavesTheStatus) {
-  EXPECT_EQ(outputs(trvphip, 1, 0, 0, 0, -tolerance, 0), (Values{unwritten, TRVPHIP_NO_LENGTH}));
-  EXPECT_EQ(outputs(trvphip, 0, 0, tolerance, 1, 0, 0), (Values{unwritten, -1}));
-  expect_near(outputs(trvphip, 1, 2, 2, -2, 1, -2), {std::acos(4.0 / 9), unwritten}, 1e-7);
+  EXPECT_EQ(outputs(trvphip, 1, 0, 0, 0, -tolerance, 0), (Values{kept, TRVPHIP_NO_LENGTH}));
+  EXPECT_EQ(outputs(trvphip, 0, 0, tolerance, 1, 0, 0), (Values{kept, -1}));
+  expect_near(outputs(trvphip, 1, 2, 2, -2, 1, -2), {std::acos(4.0 / 9), kept}, 1e-7);
 }
 
 TEST(Angles, CosineAndSine) {
-  const Values coincident = {unwritten, unwritten, 1};
+  const Values coincident = {kept, kept, 1};
   EXPECT_EQ(outputs(trvtrg, 1, 2, 3, 1, 2, 3, 0, 0, 0, 1, 0, 0), coincident);
   EXPECT_EQ(outputs(trvtrg, 0, 0, 0, 1, 0, 0, 4, 2, 3, 4, 2, 3), coincident);
   // (2, 3, 6) and (2, 6, -3), or the opposite of the latter; both are 7 long.
@@ -113,8 +113,8 @@ TEST(Angles, DirectedAngleInSpaceIsSeenAgainstTheTurnedNormal) {
 
 TEST(Angles, DirectedAngleOfPointsAtTheVertexIsRefused) {
   const double t = tolerance;
-  EXPECT_EQ(outputs(trvchi, 0, 0, 0, t, -t, t, 2, 1, 1), (Values{unwritten, 1}));
-  EXPECT_EQ(outputs(trvchi, 0, 0, 0, 2, 1, 1, t, -t, t), (Values{unwritten, 1}));
+  EXPECT_EQ(outputs(trvchi, 0, 0, 0, t, -t, t, 2, 1, 1), (Values{kept, 1}));
+  EXPECT_EQ(outputs(trvchi, 0, 0, 0, 2, 1, 1, t, -t, t), (Values{kept, 1}));
   EXPECT_NEAR(outputs(trvchi, 0, 0, 0, beyond, 0, 0, 0, 1, 0)[0], pi / 2, 1e-6);
 }
 

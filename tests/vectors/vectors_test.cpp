@@ -8,9 +8,9 @@ TEST(Vectors, DistanceProductsAndDeterminants) {
   EXPECT_EQ(outputs(trvpds, 1, 2, 3, 3, 5, 9), Values{7});
   // (2, -3, 5) and (4, -7, 6), neither starting from the origin.
   EXPECT_EQ(outputs(trvpri, 1, 2, 4, 3, -1, 9, -1, 0, 2, 3, -7, 8), Values{59});
-  float c[] = {0, 0, 0, unwritten};
+  float c[] = {0, 0, 0, kept};
   trvpre(1, 2, 4, 3, -1, 9, -1, 0, 2, 3, -7, 8, c);
-  EXPECT_EQ(Values(c, c + 4), (Values{17, 8, -2, unwritten}));
+  EXPECT_EQ(Values(c, c + 4), (Values{17, 8, -2, kept}));
   EXPECT_EQ(outputs(trvdtr2, 1, 2, 3, 5), Values{-1});
   // By Sarrus: 24 - 10 + 3 - 45 - 4 + 4.
   EXPECT_EQ(outputs(trvdtr3, 2, -1, 3, 1, 3, 2, 5, 1, 4), Values{-28});
@@ -47,7 +47,7 @@ TEST(Vectors, ComponentsThatDifferByMoreThanTheTolerance) {
 
 TEST(Vectors, AlongTheLineOfTwoPoints) {
   EXPECT_EQ(outputs(trv123, 0, 0, 0, tolerance, tolerance, tolerance, 0.5),
-            (Values{unwritten, unwritten, unwritten, 1}));
+            (Values{kept, kept, kept, 1}));
   EXPECT_EQ(outputs(trv123, 1, 2, 3, 3, -2, 9, -1.5), (Values{-2, 8, -6, 0}));
   EXPECT_EQ(outputs(trvmed, 1, 2, 3, 3, -4, 8), (Values{2, -1, 5.5}));
 }
