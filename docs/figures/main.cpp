@@ -7,8 +7,27 @@
 #include <cstdio>
 #include <exception>
 #include <fstream>
+#include <utility>
 
 #include "figures.h"
+
+namespace figures {
+
+Figure figure_of(std::string name, double width, double height, std::string title,
+                 std::string description, std::vector<Panel> panels) {
+  return {std::move(name), [=](const std::string &of) {
+            Sheet sheet(of, width, height, title, description);
+            for (const Panel &panel : panels) {
+              View view(sheet, panel.paper, panel.world);
+              panel.draw(view);
+              const double middle = 0.5 * (panel.paper.left + panel.paper.right);
+              if (!panel.caption.empty()) sheet.caption({middle, panel.level}, panel.caption);
+            }
+            return sheet;
+          }};
+}
+
+}  // namespace figures
 
 namespace {
 
