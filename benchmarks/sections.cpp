@@ -6,6 +6,7 @@
 
 #include "given.h"
 #include "task.h"
+#include "thin_plates.h"
 
 namespace bench {
 namespace {
@@ -30,7 +31,7 @@ constexpr std::array<Dimensions, 8> catalogue{{{200, 100, 5.6F, 8.5F, 12},
                                                {390, 300, 11, 19, 27},
                                                {490, 300, 12, 23, 27}}};
 
-struct Rolled : Job {
+struct Rolled {
   Rolled() {
     for (std::size_t k = 0; k < catalogue.size(); ++k) {
       const Dimensions &d = catalogue[k];
@@ -82,60 +83,57 @@ std::vector<double> true_properties() {
 
 // Thin plates -------------------------------------------------------------------------------------
 
-// All that trvmxt and trvmxt_fb hand back.
-struct Figures {
-  float A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt,
-      xm, ym, Iw, r0, W1[3], W2[3];
-  std::int32_t status;
-};
-
-template <class Routine, class... Inputs>
-void compute(Routine routine, Figures &f, const Inputs &...inputs) {
-  routine(inputs..., f.A, f.xs, f.ys, f.Ix, f.Iy, f.Ixy, f.I1, f.I2, f.alpha, f.rx, f.ry, f.Wx1,
-          f.Wx2, f.Wy1, f.Wy2, f.Wpx, f.Wpy, f.xp, f.yp, f.It, f.Wt, f.xm, f.ym, f.Iw, f.r0, f.W1,
-          f.W2, f.status);
-}
-
-struct Plates : Job {
-  void run() { compute(trvmxt, figures, 3, x1, y1, x2, y2, t); }
-  [[nodiscard]] std::vector<double> answer() const {
-    return {figures.A, figures.Ix, figures.Iy, figures.It};
-  }
+struct Plates {
   // A channel, from tip to tip.
   float x1[3] = {100, 0, 0}, y1[3] = {0, 0, 200};
   float x2[3] = {0, 0, 100}, y2[3] = {0, 200, 200};
   float t[3] = {10, 6, 10};
-  Figures figures{};
 };
 
-struct FlatBar : Job {
-  void run() { compute(trvmxt_fb, figures, width, height); }
-  [[nodiscard]] std::vector<double> answer() const {
-    return {figures.A, figures.Ix, figures.Iy, figures.It};
-  }
+struct FlatBar {
   float width = 100, height = 10;
-  Figures figures{};
 };
 
-template <class Work>
-Task own(std::string name, Work work, std::vector<double> truth, std::vector<Goal> goals) {
-  Task task{family, std::move(name), {1}, [work](int) {
-              return std::vector<Contender>{contender("Trelvin", work)};
-            }};
-  task.goals = std::move(goals);
-  task.truth = [truth = std::move(truth)](int) { return truth; };
-  return task;
+// What trvmxt or trvmxt_fb gives for inputs: area, second moments, torsion constant.
+template <class... Inputs>
+std::array<float, 4> figures_by(const Inputs &...inputs) {
+  float w1[3], w2[3];
+  const host::ThinSection s = host::thin_section_by(w1, w2, inputs...);
+  return {s.A, s.Ix, s.Iy, s.It};
+}
+
+std::array<float, 4> figures_of(const Plates &p) {
+  return figures_by(trvmxt, 3, p.x1, p.y1, p.x2, p.y2, p.t);
+}
+
+std::array<float, 4> figures_of(const FlatBar &bar) {
+  return figures_by(trvmxt_fb, bar.width, bar.height);
+}
+
+template <class Data>
+Contender thin_section(const Data &data) {
+  return evaluated("Trelvin", data, [](const Data &d) { return figures_of(d); });
+}
+
+Task own(std::string name, const Contender &trelvin, std::vector<double> truth,
+         std::vector<Goal> goals, Tolerance tolerance, int calls = 1) {
+  return {family,
+          std::move(name),
+          {1},
+          [=](int) { return std::vector<Contender>{trelvin}; },
+          std::move(goals),
+          tolerance,
+          calls,
+          [=](int) { return truth; }};
 }
 
 }  // namespace
 
 void add_sections(std::vector<Task> &tasks) {
   // A million sections a second.
-  Task rolled = own("rolled section (whole job)", Rolled(), true_properties(),
-                    {{Goal::Kind::per_item, 1, 1000}});
-  rolled.calls = static_cast<int>(catalogue.size());
-  rolled.relative = 1e-5;
-  tasks.push_back(std::move(rolled));
+  tasks.push_back(own("rolled section (whole job)", contender("Trelvin", Rolled()),
+                      true_properties(), {{Goal::Kind::per_item, 1, 1000}}, relative(1e-5),
+                      static_cast<int>(catalogue.size())));
 
   // Flanges 100 x 10 and a web 200 x 6, on centre lines; the centroid is 2*1000*50/3200 from the
   // web.
@@ -143,17 +141,14 @@ void add_sections(std::vector<Task> &tasks) {
   const double ix = 2 * (1000 * 100.0 * 100 + 100 * 1000 / 12.0) + 6 * 8e6 / 12;
   const double iy =
       2 * (10 * 1e6 / 12 + 1000 * (50 - xs) * (50 - xs)) + 200 * 216 / 12.0 + 1200 * xs * xs;
-  Task plates =
-      own("trvmxt (3 plates)", Plates(), {3200, ix, iy, (2 * 100 * 1000 + 200 * 216) / 3.0},
-          {{Goal::Kind::per_item, 1, 800}});
-  plates.relative = 1e-5;
-  tasks.push_back(std::move(plates));
+  tasks.push_back(own("trvmxt (3 plates)", thin_section(Plates()),
+                      {3200, ix, iy, (2 * 100 * 1000 + 200 * 216) / 3.0},
+                      {{Goal::Kind::per_item, 1, 800}}, relative(1e-5)));
 
   // The torsion constant from the published table of b/t = 10: 0.312.
-  Task bar = own("trvmxt_fb", FlatBar(), {1000, 1e5 / 12, 1e7 / 12, 0.312 * 100 * 1000},
-                 {{Goal::Kind::per_item, 1, 1000, "", 0, true}});
-  bar.relative = 2e-3;
-  tasks.push_back(std::move(bar));
+  tasks.push_back(own("trvmxt_fb", thin_section(FlatBar()),
+                      {1000, 1e5 / 12, 1e7 / 12, 0.312 * 100 * 1000},
+                      {{Goal::Kind::per_item, 1, 1000, "", 0, true}}, relative(2e-3)));
 }
 
 }  // namespace bench

@@ -14,37 +14,46 @@ namespace {
 constexpr const char *family = "Transformations";
 constexpr float angle = 0.3F;
 
-template <class Routine>
-struct Moving : Job {
-  Moving(Cloud at, Routine function)
-      : start(std::move(at)), n(static_cast<std::int32_t>(start.size())), routine(function) {}
-  void prepare() { points = start; }
-  void run() { routine(points.x.data(), points.y.data(), points.z.data(), n); }
+using Routine = void (*)(float *x, float *y, float *z, std::int32_t n);
+
+struct Moving {
+  void run() {
+    routine(points.x.data(), points.y.data(), points.z.data(),
+            static_cast<std::int32_t>(points.size()));
+  }
   [[nodiscard]] std::vector<double> answer() const {
-    std::vector<double> all(points.x.begin(), points.x.end());
-    all.insert(all.end(), points.y.begin(), points.y.end());
-    all.insert(all.end(), points.z.begin(), points.z.end());
+    std::vector<double> all;
+    for (const Reals *list : {&points.x, &points.y, &points.z}) {
+      all.insert(all.end(), list->begin(), list->end());
+    }
     return all;
   }
-  Cloud start, points;
-  std::int32_t n;
+  Cloud points;
   Routine routine;
 };
 
+// Trelvin's routine, and what the peers make of the same points.
+template <class Makers, class Argument>
+std::vector<Contender> moving(const Cloud &points, Routine routine, const Makers &peers,
+                              const Argument &argument) {
+  std::vector<Contender> all{contender<Input::restored>("Trelvin", Moving{points, routine})};
+  for (const auto &peer : peers) all.push_back(peer(points, argument));
+  return all;
+}
+
 void add_plane_rotation(std::vector<Task> &tasks, const Peers &peers) {
-  Task task{family, "trvrot", {16, 1000, 1000000}, [peers](int n) {
-              Random random(31);
-              Cloud points = cloud(random, n, 100);
-              points.z.clear();
-              std::vector<Contender> all{contender(
-                  "Trelvin", Moving(points, [](float *x, float *y, float * /*z*/, std::int32_t k) {
-                    trvrot(2, x, y, k, angle);
-                  }))};
-              for (const auto &peer : peers.rotate) all.push_back(peer(points, angle));
-              return all;
-            }};
+  Task task{
+      family, "trvrot", {16, 1000, 1000000}, [peers](int n) {
+        Random random(31);
+        Cloud points = cloud(random, n, 100);
+        points.z.clear();
+        return moving(
+            points,
+            [](float *x, float *y, float * /*z*/, std::int32_t k) { trvrot(2, x, y, k, angle); },
+            peers.rotate, angle);
+      }};
   for (const int size : task.sizes) task.goals.push_back({Goal::Kind::ratio, size, 1, "Eigen"});
-  task.absolute = 1e-4;
+  task.tolerance = absolute(1e-4);
   tasks.push_back(std::move(task));
 }
 
@@ -107,18 +116,14 @@ constexpr float dx = 0.01F, dy = 0.02F, dz = -0.03F;
 // As the contracts of trvptrl and trvppc tell the local turns; that about y is left-handed.
 Affine local_turns() { return turn(0, 1, az) * turn(0, 2, ay) * turn(1, 2, ax); }
 
-template <class Routine>
 Task transformation(std::string name, const Affine &affine, Routine routine, double goal,
                     const Peers &peers) {
   Task task{family, std::move(name), {16, 1000, 100000}, [=](int n) {
               Random random(32);
-              const Cloud points = cloud(random, n, 100);
-              std::vector<Contender> all{contender("Trelvin", Moving(points, routine))};
-              for (const auto &peer : peers.transform) all.push_back(peer(points, affine));
-              return all;
+              return moving(cloud(random, n, 100), routine, peers.transform, affine);
             }};
   task.goals = {{Goal::Kind::per_item, 1000, goal}};
-  task.absolute = 1e-3;
+  task.tolerance = absolute(1e-3);
   return task;
 }
 

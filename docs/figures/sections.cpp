@@ -1,10 +1,9 @@
 // Parts of a section, whole sections, plates.
 #include <trelvin/trelvin.h>
 
-#include <array>
-
 #include "figures.h"
 #include "profile.h"
+#include "thin_plates.h"
 
 namespace figures {
 namespace {
@@ -208,50 +207,35 @@ void plate(View &view) {
 }
 
 // The centre lines of a lipped channel as plates, from the upper lip's end to the lower one's.
-struct ThinSection {
-  std::array<Point, 6> corners;
-  Point centroid, shear_centre;
-};
-
-ThinSection lipped_channel(float B, float H, float C, float t) {
+std::vector<host::Plate> lipped_channel(float B, float H, float C, float t) {
   const float b = B - t, h = 0.5F * (H - t), c = C - 0.5F * t;
-  ThinSection section{{{{b, h - c}, {b, h}, {0, h}, {0, -h}, {b, -h}, {b, c - h}}}, {}, {}};
-  std::array<float, 5> x1{}, y1{}, x2{}, y2{}, thickness{}, w1{}, w2{};
-  for (std::size_t i = 0; i < 5; ++i) {
-    x1[i] = section.corners[i].x, y1[i] = section.corners[i].y;
-    x2[i] = section.corners[i + 1].x, y2[i] = section.corners[i + 1].y;
-    thickness[i] = t;
-  }
-  std::array<float, 22> others{};
-  std::int32_t status = -2;
-  trvmxt(5, x1.data(), y1.data(), x2.data(), y2.data(), thickness.data(), others[0],
-         section.centroid.x, section.centroid.y, others[1], others[2], others[3], others[4],
-         others[5], others[6], others[7], others[8], others[9], others[10], others[11], others[12],
-         others[13], others[14], others[15], others[16], others[17], others[18],
-         section.shear_centre.x, section.shear_centre.y, others[19], others[20], w1.data(),
-         w2.data(), status);
-  require(status == 0, "properties of the plates");
-  return section;
+  return {{b, h - c, b, h, t},
+          {b, h, 0, h, t},
+          {0, h, 0, -h, t},
+          {0, -h, b, -h, t},
+          {b, -h, b, c - h, t}};
 }
 
 void shear_centre(View &view) {
   const float B = 80, H = 140, C = 30, t = 4;
-  const ThinSection section = lipped_channel(B, H, C, t);
+  const host::ThinSection section = host::thin_section(lipped_channel(B, H, C, t));
+  require(section.status == 0, "properties of the plates");
+  const Point centroid{section.xs, section.ys}, centre{section.xm, section.ym};
   float e0 = 0;
   trvshc_c(B, H, C, t, e0);
-  require(section.shear_centre.x < 0 && section.centroid.x > 0, "S behind the web, G before it");
-  require_near(section.shear_centre.y, 0, "S on the axis of symmetry");
-  require_near(section.centroid.x - section.shear_centre.x, e0, "trvshc_c and trvmxt agree on e0");
+  require(centre.x < 0 && centroid.x > 0, "S behind the web, G before it");
+  require_near(centre.y, 0, "S on the axis of symmetry");
+  require_near(centroid.x - centre.x, e0, "trvshc_c and trvmxt agree on e0");
   Profile outline =
       profile(host::section_from(trvsec_c, H, B, B, C, C, 0.0F, 0.0F, t, t, t, t, t, t, t));
   for (Point &p : outline.polygons[0]) p = p + Point{0.5F * (B - t), 0};  // web's centre line at 0
   view.area(outline.polygons);
-  view.long_line(section.shear_centre, {B, 0}, 26, pens::axis);
-  view.dot(section.centroid, colours::red);
-  view.dot(section.shear_centre, colours::red);
-  view.label(section.centroid, "G", {4, 13}, colours::red);
-  view.label(section.shear_centre, "S", {-4, 13}, colours::red);
-  view.across(section.shear_centre, section.centroid, -34, "e0", View::Letter::behind);
+  view.long_line(centre, {B, 0}, 26, pens::axis);
+  view.dot(centroid, colours::red);
+  view.dot(centre, colours::red);
+  view.label(centroid, "G", {4, 13}, colours::red);
+  view.label(centre, "S", {-4, 13}, colours::red);
+  view.across(centre, centroid, -34, "e0", View::Letter::behind);
   view.upright({0.5F * t, -0.5F * H}, {0.5F * t, 0.5F * H}, -130, "H");
   view.across({-0.5F * t, 0.5F * H}, {B - 0.5F * t, 0.5F * H}, 20, "B");
   view.upright({B - 0.5F * t, -0.5F * H}, {B - 0.5F * t, C - 0.5F * H}, 26, "C");
