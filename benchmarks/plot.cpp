@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 
 #include "report.h"
 #include "svg.h"
@@ -104,9 +103,7 @@ class Axes {
  private:
   static std::string power_of_ten(long exponent) {
     if (exponent > 4) return "1e" + std::to_string(exponent);
-    char label[32];
-    std::snprintf(label, sizeof label, "%g", std::pow(10, exponent));
-    return label;
+    return host::significant(std::pow(10, exponent), 6);
   }
   double x_low_ = 1e9, x_high_ = -1e9, y_low_ = 1e9, y_high_ = -1e9;
 };

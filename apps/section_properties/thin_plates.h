@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "figures.h"
-#include "measures.h"
 
 namespace host {
 
