@@ -33,32 +33,27 @@ std::vector<double> as_doubles(const List &values) {
 }
 
 template <class List>
-std::vector<Contender> sorting(const List &values, std::function<void(List &)> trelvin,
-                               const std::vector<Way<List>> &peers) {
-  const std::vector<Way<List>> own{{"Trelvin", std::move(trelvin)},
+Task sorting(std::string name, List (*values)(int), void (*trelvin)(List &),
+             const std::vector<Way<List>> &peers) {
+  const std::vector<Way<List>> own{{"Trelvin", trelvin},
                                    {"std::sort", [](List &v) { std::sort(v.begin(), v.end()); }}};
-  return contenders<Input::fresh>(values, joined(own, peers), as_doubles<List>);
+  return {
+      one_list,
+      std::move(name),
+      sizes,
+      [values, ways = joined(own, peers)](int n) {
+        return contenders<Input::fresh>(values(n), ways, as_doubles<List>);
+      },
+      {{Goal::Kind::ratio, large, 0.2, "std::sort"}, {Goal::Kind::growth, large, 1.15, "", 10000}}};
 }
 
-const std::vector<Goal> goals_of_sorts = {{Goal::Kind::ratio, large, 0.2, "std::sort"},
-                                          {Goal::Kind::growth, large, 1.15, "", 10000}};
-
 void add_sorts(std::vector<Task> &tasks, const Peers &peers) {
-  tasks.push_back({one_list, "trvord", sizes,
-                   [peers](int n) {
-                     return sorting<Reals>(
-                         Random(1).reals(n, -1000, 1000),
-                         [](Reals &v) { trvord(v.data(), count_of(v.size())); }, peers.sort_reals);
-                   },
-                   goals_of_sorts});
-  tasks.push_back({one_list, "trvord1", sizes,
-                   [peers](int n) {
-                     return sorting<Integers>(
-                         Random(2).integers(n),
-                         [](Integers &v) { trvord1(v.data(), count_of(v.size())); },
-                         peers.sort_integers);
-                   },
-                   goals_of_sorts});
+  tasks.push_back(sorting<Reals>(
+      "trvord", [](int n) { return Random(1).reals(n, -1000, 1000); },
+      [](Reals &v) { trvord(v.data(), count_of(v.size())); }, peers.sort_reals));
+  tasks.push_back(sorting<Integers>(
+      "trvord1", [](int n) { return Random(2).integers(n); },
+      [](Integers &v) { trvord1(v.data(), count_of(v.size())); }, peers.sort_integers));
 }
 
 // Positions in ascending order -----------------------------------------------------------------
