@@ -79,6 +79,7 @@ std::vector<Contender> contenders(const Data &data, const std::vector<Way<Data>>
     Answer answer_of;
   };
   std::vector<Contender> all;
+  all.reserve(ways.size());
   for (const Way<Data> &way : ways) {
     all.push_back(contender<input>(way.name, Job{data, way, answer}));
   }

@@ -2,7 +2,6 @@
 #include <trelvin/sections.h>
 
 #include <array>
-#include <cmath>
 
 #include "given.h"
 #include "task.h"
@@ -16,27 +15,26 @@ constexpr const char *family = "Sections";
 // A hot-rolled I section, from its dimensions to its principal moments: what section_properties
 // does, all of it ------------------------------------------------------------------------------
 
-struct Dimensions {
-  float H, B, TW, TF, R;
+struct Listed {
+  std::array<float, host::most_dimensions> dimensions;  // H, B, TW, TF, R
+  double area, i1, i2;                                  // cm2 and cm4
 };
 
-// IPE 200, 300, 400, 500 and HEA 200, 300, 400, 500: a host goes through a catalogue, not through
-// one profile again and again.
-constexpr std::array<Dimensions, 8> catalogue{{{200, 100, 5.6F, 8.5F, 12},
-                                               {300, 150, 7.1F, 10.7F, 15},
-                                               {400, 180, 8.6F, 13.5F, 21},
-                                               {500, 200, 10.2F, 16, 21},
-                                               {190, 200, 6.5F, 10, 18},
-                                               {290, 300, 8.5F, 14, 27},
-                                               {390, 300, 11, 19, 27},
-                                               {490, 300, 12, 23, 27}}};
+// IPE 200, 300, 400, 500 and HEA 200, 300, 400, 500 with their figures after EN 10365: a host goes
+// through a catalogue, not through one profile again and again.
+constexpr std::array<Listed, 8> catalogue{{{{200, 100, 5.6F, 8.5F, 12}, 28.48, 1943, 142.4},
+                                           {{300, 150, 7.1F, 10.7F, 15}, 53.81, 8356, 603.8},
+                                           {{400, 180, 8.6F, 13.5F, 21}, 84.46, 23130, 1318},
+                                           {{500, 200, 10.2F, 16, 21}, 115.5, 48200, 2142},
+                                           {{190, 200, 6.5F, 10, 18}, 53.83, 3692, 1336},
+                                           {{290, 300, 8.5F, 14, 27}, 112.5, 18260, 6310},
+                                           {{390, 300, 11, 19, 27}, 159.0, 45070, 8564},
+                                           {{490, 300, 12, 23, 27}, 197.5, 86970, 10370}}};
 
 struct Rolled {
   Rolled() {
     for (std::size_t k = 0; k < catalogue.size(); ++k) {
-      const Dimensions &d = catalogue[k];
-      given[k].profile = host::find_profile("rolled");
-      given[k].dimensions = {d.H, d.B, d.TW, d.TF, d.R};
+      given[k] = {host::find_profile("rolled"), catalogue[k].dimensions};
     }
   }
   void run() {
@@ -56,28 +54,9 @@ struct Rolled {
   bool refused = false;
 };
 
-// The moment of four fillets about an axis of the section. The corner's edge along the axis is at
-// the distance `edge`; the fillet lies towards the axis for positive r, away from it for negative.
-double moment_of_fillets(double r, double edge) {
-  constexpr double pi = 3.14159265358979;
-  const double area = (1 - pi / 4) * r * r;
-  const double first = (1.0 / 2 - pi / 4 + 1.0 / 3) * r * r * r;  // about the edge
-  const double second = (1.0 / 3 - 5 * pi / 16 + 2.0 / 3) * r * r * r * r;
-  return 4 * (area * edge * edge - 2 * edge * first + second);
-}
-
-// Rectangles, and fillets by integrals on paper.
-std::vector<double> true_properties() {
-  constexpr double pi = 3.14159265358979;
+std::vector<double> listed_properties() {
   std::vector<double> all;
-  for (const Dimensions &p : catalogue) {
-    const double h = double{p.H} - 2 * p.TF;
-    all.push_back(2.0 * p.B * p.TF + h * p.TW + (4 - pi) * p.R * p.R);
-    all.push_back((p.B * std::pow(p.H, 3.0) - (double{p.B} - p.TW) * h * h * h) / 12 +
-                  moment_of_fillets(p.R, h / 2));
-    all.push_back((2 * p.TF * std::pow(p.B, 3.0) + h * std::pow(p.TW, 3.0)) / 12 +
-                  moment_of_fillets(-p.R, p.TW / 2.0));
-  }
+  for (const Listed &l : catalogue) all.insert(all.end(), {100 * l.area, 1e4 * l.i1, 1e4 * l.i2});
   return all;
 }
 
@@ -115,7 +94,7 @@ Contender thin_section(const Data &data) {
   return evaluated("Trelvin", data, [](const Data &d) { return figures_of(d); });
 }
 
-Task own(std::string name, const Contender &trelvin, std::vector<double> truth,
+Task own(std::string name, const Contender &trelvin, const std::vector<double> &truth,
          std::vector<Goal> goals, Tolerance tolerance, int calls = 1) {
   return {family,
           std::move(name),
@@ -132,7 +111,7 @@ Task own(std::string name, const Contender &trelvin, std::vector<double> truth,
 void add_sections(std::vector<Task> &tasks) {
   // A million sections a second.
   tasks.push_back(own("rolled section (whole job)", contender("Trelvin", Rolled()),
-                      true_properties(), {{Goal::Kind::per_item, 1, 1000}}, relative(1e-5),
+                      listed_properties(), {{Goal::Kind::per_item, 1, 1000}}, relative(5e-4),
                       static_cast<int>(catalogue.size())));
 
   // Flanges 100 x 10 and a web 200 x 6, on centre lines; the centroid is 2*1000*50/3200 from the
