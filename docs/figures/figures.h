@@ -22,8 +22,8 @@ struct Panel {
   double level = 0;
 };
 
-Figure figure_of(std::string name, double width, double height, std::string title,
-                 std::string description, std::vector<Panel> panels);
+Figure figure_of(const std::string &name, double width, double height, const std::string &title,
+                 const std::string &description, const std::vector<Panel> &panels);
 
 std::vector<Figure> convention_figures();
 std::vector<Figure> outline_figures();

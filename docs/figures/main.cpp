@@ -7,15 +7,14 @@
 #include <cstdio>
 #include <exception>
 #include <fstream>
-#include <utility>
 
 #include "figures.h"
 
 namespace figures {
 
-Figure figure_of(std::string name, double width, double height, std::string title,
-                 std::string description, std::vector<Panel> panels) {
-  return {std::move(name), [=](const std::string &of) {
+Figure figure_of(const std::string &name, double width, double height, const std::string &title,
+                 const std::string &description, const std::vector<Panel> &panels) {
+  return {name, [=](const std::string &of) {
             Sheet sheet(of, width, height, title, description);
             for (const Panel &panel : panels) {
               View view(sheet, panel.paper, panel.world);
