@@ -22,12 +22,17 @@ class Random {
   float real(float from, float to) {
     return from + (to - from) * static_cast<float>(engine_() >> 8) / 16777216.0F;
   }
-  std::int32_t integer() { return static_cast<std::int32_t>(engine_() >> 1) - (1 << 30); }
   std::size_t below(std::size_t n) { return engine_() % n; }
 
   Reals reals(int n, float from, float to) {
     Reals values(static_cast<std::size_t>(n));
     for (float &value : values) value = real(from, to);
+    return values;
+  }
+
+  Integers integers(int n) {
+    Integers values(static_cast<std::size_t>(n));
+    for (auto &value : values) value = static_cast<std::int32_t>(engine_() >> 1) - (1 << 30);
     return values;
   }
 

@@ -16,81 +16,59 @@ constexpr double millisecond = 1e6;  // in nanoseconds
 constexpr int large = 100000;
 const std::vector<int> sizes = {1000, 10000, large};
 
-std::vector<double> as_doubles(const Integers &values) { return {values.begin(), values.end()}; }
+// Our way first.
+template <class Data>
+std::vector<Way<Data>> joined(std::vector<Way<Data>> own, const std::vector<Way<Data>> &peers) {
+  own.insert(own.end(), peers.begin(), peers.end());
+  return own;
+}
+
+std::int32_t count_of(std::size_t n) { return static_cast<std::int32_t>(n); }
 
 // Sorting in place ---------------------------------------------------------------------------
 
-template <class Element>
-struct Sorting : Job {
-  static constexpr bool fresh = true;
-  Sorting(std::vector<Element> values, Sorter<Element> with)
-      : start(std::move(values)), sorter(std::move(with)) {}
-  void prepare() { work = start; }
-  void run() { sorter.sort(work.data(), work.size()); }
-  [[nodiscard]] std::vector<double> answer() const { return {work.begin(), work.end()}; }
-  std::vector<Element> start, work;
-  Sorter<Element> sorter;
-};
-
-template <class Element>
-std::vector<Contender> sorting(const std::vector<Element> &values,
-                               std::function<void(Element *, std::size_t)> trelvin,
-                               const std::vector<Sorter<Element>> &peers) {
-  std::vector<Sorter<Element>> sorters{
-      {"Trelvin", std::move(trelvin)},
-      {"std::sort", [](Element *v, std::size_t n) { std::sort(v, v + n); }}};
-  sorters.insert(sorters.end(), peers.begin(), peers.end());
-  std::vector<Contender> all;
-  all.reserve(sorters.size());
-  for (const auto &sorter : sorters) all.push_back(contender(sorter.name, Sorting(values, sorter)));
-  return all;
+template <class List>
+std::vector<double> as_doubles(const List &values) {
+  return {values.begin(), values.end()};
 }
 
-const std::vector<Goal> goals_of_sorts = {{Goal::Kind::ratio, large, 0.2, "std::sort"},
-                                          {Goal::Kind::growth, large, 1.15, "", 10000}};
+template <class List>
+Task sorting(std::string name, List (*values)(int), void (*trelvin)(List &),
+             const std::vector<Way<List>> &peers) {
+  const std::vector<Way<List>> own{{"Trelvin", trelvin},
+                                   {"std::sort", [](List &v) { std::sort(v.begin(), v.end()); }}};
+  return {
+      one_list,
+      std::move(name),
+      sizes,
+      [values, ways = joined(own, peers)](int n) {
+        return contenders<Input::fresh>(values(n), ways, as_doubles<List>);
+      },
+      {{Goal::Kind::ratio, large, 0.2, "std::sort"}, {Goal::Kind::growth, large, 1.15, "", 10000}}};
+}
 
 void add_sorts(std::vector<Task> &tasks, const Peers &peers) {
-  tasks.push_back(
-      {one_list, "trvord", sizes,
-       [peers](int n) {
-         return sorting<float>(
-             Random(1).reals(n, -1000, 1000),
-             [](float *v, std::size_t count) { trvord(v, static_cast<std::int32_t>(count)); },
-             peers.sort_reals);
-       },
-       goals_of_sorts});
-  tasks.push_back({one_list, "trvord1", sizes,
-                   [peers](int n) {
-                     Integers values(static_cast<std::size_t>(n));
-                     Random random(2);
-                     for (auto &value : values) value = random.integer();
-                     return sorting<std::int32_t>(
-                         values,
-                         [](std::int32_t *v, std::size_t count) {
-                           trvord1(v, static_cast<std::int32_t>(count));
-                         },
-                         peers.sort_integers);
-                   },
-                   goals_of_sorts});
+  tasks.push_back(sorting<Reals>(
+      "trvord", [](int n) { return Random(1).reals(n, -1000, 1000); },
+      [](Reals &v) { trvord(v.data(), count_of(v.size())); }, peers.sort_reals));
+  tasks.push_back(sorting<Integers>(
+      "trvord1", [](int n) { return Random(2).integers(n); },
+      [](Integers &v) { trvord1(v.data(), count_of(v.size())); }, peers.sort_integers));
 }
 
 // Positions in ascending order -----------------------------------------------------------------
 
-struct Ordering : Job {
-  Ordering(Reals values, Orderer with)
-      : keys(std::move(values)), order(keys.size()), orderer(std::move(with)) {}
-  void run() { orderer.order(keys, order); }
-  [[nodiscard]] std::vector<double> answer() const { return as_doubles(order); }
-  Reals keys;
-  Integers order;
-  Orderer orderer;
-};
-
-void order_by_comparison(const Reals &keys, Integers &order) {
-  std::iota(order.begin(), order.end(), 1);
-  std::sort(order.begin(), order.end(), [&](std::int32_t p, std::int32_t q) {
-    return keys[static_cast<std::size_t>(p - 1)] < keys[static_cast<std::size_t>(q - 1)];
+void order_by_comparison(Order &o) {
+  std::iota(o.positions.begin(), o.positions.end(), 1);
+  std::sort(o.positions.begin(), o.positions.end(), [&](std::int32_t p, std::int32_t q) {
+    return o.keys[static_cast<std::size_t>(p - 1)] < o.keys[static_cast<std::size_t>(q - 1)];
   });
+}
+
+std::vector<Contender> ordering(Reals keys, const std::vector<Way<Order>> &ways) {
+  Integers places(keys.size());
+  return contenders<Input::kept>(Order{std::move(keys), std::move(places)}, ways,
+                                 [](const Order &o) { return as_doubles(o.positions); });
 }
 
 // Lines a*x + b*y + C = 0 cross the y axis at -C/b. The factor of the constants is a power of two,
@@ -99,52 +77,41 @@ constexpr float line_a = 0.75F;
 constexpr float line_b = 0.5F;
 
 // The peers form the crossings too, but take it for granted that the lines are parallel.
-Orderer by_crossing(const Orderer &orderer) {
-  return {orderer.name, [orderer](const Reals &constants, Integers &order) {
-            Reals crossings(constants.size());
-            std::transform(constants.begin(), constants.end(), crossings.begin(),
+Way<Order> by_crossing(const Way<Order> &way) {
+  return {way.name, [way](Order &lines) {
+            Order crossings{Reals(lines.keys.size()), std::move(lines.positions)};
+            std::transform(lines.keys.begin(), lines.keys.end(), crossings.keys.begin(),
                            [](float c) { return 0 - c / line_b; });
-            orderer.order(crossings, order);
+            way.work(crossings);
+            lines.positions = std::move(crossings.positions);
           }};
 }
 
-std::vector<Contender> ordering(const Reals &keys, const std::vector<Orderer> &orderers) {
-  std::vector<Contender> all;
-  all.reserve(orderers.size());
-  for (const Orderer &orderer : orderers) {
-    all.push_back(contender(orderer.name, Ordering(keys, orderer)));
-  }
-  return all;
-}
-
-std::vector<Contender> crossings(int n, const std::vector<Orderer> &peers) {
+std::vector<Contender> crossings(int n, const std::vector<Way<Order>> &peers) {
   const auto size = static_cast<std::size_t>(n);
-  std::vector<Orderer> orderers{
-      {"Trelvin", [a = Reals(size, line_a), b = Reals(size, line_b)](const Reals &c, Integers &o) {
+  std::vector<Way<Order>> ways{
+      {"Trelvin", [a = Reals(size, line_a), b = Reals(size, line_b)](Order &o) {
          std::int32_t status = 0;
-         trvpor(static_cast<std::int32_t>(c.size()), a.data(), b.data(), c.data(), o.data(),
+         trvpor(count_of(o.keys.size()), a.data(), b.data(), o.keys.data(), o.positions.data(),
                 status);
        }}};
-  for (const Orderer &peer : peers) orderers.push_back(by_crossing(peer));
+  for (const Way<Order> &peer : peers) ways.push_back(by_crossing(peer));
   Random random(4);
   Reals constants = distinct_reals(random, n, -1000, 1000);
   constants[0] = 2000;  // the first line has to be clear of the others by the library's tolerance
-  return ordering(constants, orderers);
+  return ordering(std::move(constants), ways);
 }
 
 void add_orders(std::vector<Task> &tasks, const Peers &peers) {
-  std::vector<Orderer> others{{"std::sort", order_by_comparison}};
-  others.insert(others.end(), peers.order.begin(), peers.order.end());
+  const auto others = joined({{"std::sort", order_by_comparison}}, peers.order);
   const std::vector<Goal> goals{{Goal::Kind::ratio, large, 0.2, "std::sort"}};
+  const Way<Order> trelvin{"Trelvin", [](Order &o) {
+                             trvordi(o.keys.data(), count_of(o.keys.size()), o.positions.data());
+                           }};
   tasks.push_back({one_list, "trvordi", sizes,
-                   [others](int n) {
-                     std::vector<Orderer> orderers{
-                         {"Trelvin", [](const Reals &v, Integers &o) {
-                            trvordi(v.data(), static_cast<std::int32_t>(v.size()), o.data());
-                          }}};
-                     orderers.insert(orderers.end(), others.begin(), others.end());
+                   [ways = joined({trelvin}, others)](int n) {
                      Random random(3);
-                     return ordering(distinct_reals(random, n, -1000, 1000), orderers);
+                     return ordering(distinct_reals(random, n, -1000, 1000), ways);
                    },
                    goals});
   tasks.push_back(
@@ -170,15 +137,17 @@ Reals jittered(Random &random, Reals values) {
   return values;
 }
 
-template <class Element>
+template <class List>
 struct TwoLists {
-  std::vector<Element> a, b;
+  List a, b = {};
+  List result = {};
+  Integers places = {};
 };
 
 // Half of B is in A.
-TwoLists<float> half_common(int n) {
+TwoLists<Reals> half_common(int n) {
   Random random(5);
-  TwoLists<float> lists{spaced_values(random, 0, n), {}};
+  TwoLists<Reals> lists{spaced_values(random, 0, n)};
   Reals b(lists.a.begin(), lists.a.begin() + n / 2);
   const Reals others = spaced_values(random, n, n - n / 2);
   b.insert(b.end(), others.begin(), others.end());
@@ -188,81 +157,54 @@ TwoLists<float> half_common(int n) {
 }
 
 // Every entry has one partner.
-TwoLists<float> all_common(int n) {
+TwoLists<Reals> all_common(int n) {
   Random random(6);
-  TwoLists<float> lists{spaced_values(random, 0, n), {}};
+  TwoLists<Reals> lists{spaced_values(random, 0, n)};
   lists.b = jittered(random, lists.a);
   random.shuffle(lists.a);
   return lists;
 }
 
-TwoLists<std::int32_t> common_integers(int n) {
+TwoLists<Integers> common_integers(int n) {
   Random random(7);
-  Integers universe(2 * static_cast<std::size_t>(n));
-  for (auto &value : universe) value = random.integer();
-  TwoLists<std::int32_t> lists;
+  const Integers universe = random.integers(2 * n);
+  TwoLists<Integers> lists;
   for (int i = 0; i < n; ++i) lists.a.push_back(universe[random.below(universe.size())]);
   for (int i = 0; i < n; ++i) lists.b.push_back(universe[random.below(universe.size())]);
   return lists;
 }
 
-// A job on two lists with a function for its work. The function gets the lists and fills `result`.
-template <class Element>
-struct Merging : Job {
-  using Work = std::function<void(TwoLists<Element> &, std::vector<Element> &, Integers &)>;
-  static constexpr bool fresh = true;
-  Merging(TwoLists<Element> data, Work function)
-      : start(std::move(data)), work(std::move(function)) {}
-  void prepare() {
-    lists = start;
-    result.assign(start.a.size() + start.b.size(), 0);
-    places.assign(2 * (start.a.size() + start.b.size()), 0);
-  }
-  void run() { work(lists, result, places); }
-  [[nodiscard]] std::vector<double> answer() const {
-    std::vector<double> all(result.begin(), result.end());
-    all.insert(all.end(), places.begin(), places.end());
-    return all;
-  }
-  TwoLists<Element> start, lists;
-  std::vector<Element> result;
-  Integers places;
-  Work work;
-};
-
-std::int32_t count_of(std::size_t n) { return static_cast<std::int32_t>(n); }
-
 // B's new entries behind A, and the place of each entry of B.
-void join(TwoLists<float> &l, Reals &result, Integers &places) {
+void join(TwoLists<Reals> &l) {
   std::int32_t written = 0;
   trvmer4(count_of(l.a.size()), l.a.data(), count_of(l.b.size()), l.b.data(), tol, written,
-          result.data(), places.data());
-  result.resize(static_cast<std::size_t>(written));
+          l.result.data(), l.places.data());
+  l.result.resize(static_cast<std::size_t>(written));
 }
 
-void join_with_map(TwoLists<float> &l, Reals &result, Integers &places) {
+void join_with_map(TwoLists<Reals> &l) {
   std::map<float, std::int32_t> known;
-  result.clear();
+  l.result.clear();
   const auto append = [&](float value) {
-    result.push_back(value);
-    return known[value] = count_of(result.size());
+    l.result.push_back(value);
+    return known[value] = count_of(l.result.size());
   };
   for (const float value : l.a) append(value);
   for (std::size_t j = 0; j < l.b.size(); ++j) {
     const auto near = known.lower_bound(l.b[j] - tol);
     const bool is_known = near != known.end() && near->first - l.b[j] <= tol;
-    places[j] = is_known ? near->second : append(l.b[j]);
+    l.places[j] = is_known ? near->second : append(l.b[j]);
   }
 }
 
 // Pairs that agree: their positions in A in the first half of `places`, in B in the second.
-void pair(TwoLists<float> &l, Reals & /*result*/, Integers &places) {
+void pair(TwoLists<Reals> &l) {
   std::int32_t count = 0;
-  trvmer13(count_of(l.a.size()), l.a.data(), count_of(l.b.size()), l.b.data(), count, places.data(),
-           places.data() + places.size() / 2, tol);
+  trvmer13(count_of(l.a.size()), l.a.data(), count_of(l.b.size()), l.b.data(), count,
+           l.places.data(), l.places.data() + l.places.size() / 2, tol);
 }
 
-void pair_with_sorted(TwoLists<float> &l, Reals & /*result*/, Integers &places) {
+void pair_with_sorted(TwoLists<Reals> &l) {
   std::vector<std::pair<float, std::int32_t>> sorted;
   for (const float value : l.b) sorted.emplace_back(value, count_of(sorted.size() + 1));
   std::sort(sorted.begin(), sorted.end());
@@ -270,57 +212,62 @@ void pair_with_sorted(TwoLists<float> &l, Reals & /*result*/, Integers &places) 
   for (std::size_t i = 0; i < l.a.size(); ++i) {
     auto near = std::lower_bound(sorted.begin(), sorted.end(), std::pair(l.a[i] - tol, 0));
     for (; near != sorted.end() && near->first - l.a[i] <= tol; ++near, ++pairs) {
-      places[pairs] = count_of(i + 1);
-      places[places.size() / 2 + pairs] = near->second;
+      l.places[pairs] = count_of(i + 1);
+      l.places[l.places.size() / 2 + pairs] = near->second;
     }
   }
 }
 
-void intersect(TwoLists<std::int32_t> &l, Integers &result, Integers & /*places*/) {
+void intersect(TwoLists<Integers> &l) {
   std::int32_t written = 0;
   trvmer14(count_of(l.a.size()), l.a.data(), count_of(l.b.size()), l.b.data(), written,
-           result.data());
-  result.resize(static_cast<std::size_t>(written));
+           l.result.data());
+  l.result.resize(static_cast<std::size_t>(written));
 }
 
-void subtract(TwoLists<std::int32_t> &l, Integers &result, Integers & /*places*/) {
+void subtract(TwoLists<Integers> &l) {
   std::int32_t n = count_of(l.a.size());
   std::int32_t removed = 0;
   trvmer15(n, l.a.data(), count_of(l.b.size()), l.b.data(), removed);
   l.a.resize(static_cast<std::size_t>(n));
-  result.swap(l.a);
+  l.result.swap(l.a);
 }
 
 // Those entries of A whose presence in B is as wanted, by the standard's two ways.
 template <bool wanted>
-void filter_with_hash(TwoLists<std::int32_t> &l, Integers &result, Integers & /*places*/) {
+void filter_with_hash(TwoLists<Integers> &l) {
   const std::unordered_set<std::int32_t> held(l.b.begin(), l.b.end(), 2 * l.b.size());
-  result.clear();
-  std::copy_if(l.a.begin(), l.a.end(), std::back_inserter(result),
+  l.result.clear();
+  std::copy_if(l.a.begin(), l.a.end(), std::back_inserter(l.result),
                [&](std::int32_t value) { return (held.count(value) != 0) == wanted; });
 }
 
 template <bool wanted>
-void filter_with_sorted(TwoLists<std::int32_t> &l, Integers &result, Integers & /*places*/) {
+void filter_with_sorted(TwoLists<Integers> &l) {
   std::sort(l.b.begin(), l.b.end());
-  result.clear();
-  std::copy_if(l.a.begin(), l.a.end(), std::back_inserter(result), [&](std::int32_t value) {
+  l.result.clear();
+  std::copy_if(l.a.begin(), l.a.end(), std::back_inserter(l.result), [&](std::int32_t value) {
     return std::binary_search(l.b.begin(), l.b.end(), value) == wanted;
   });
 }
 
-template <class Element>
-Task merging(std::string name, TwoLists<Element> (*data)(int),
-             std::vector<std::pair<std::string, typename Merging<Element>::Work>> works,
+// The data of a size, with room for any answer, and what a way found.
+template <class List>
+Task merging(std::string name, TwoLists<List> (*data)(int), std::vector<Way<TwoLists<List>>> ways,
              std::vector<Goal> goals) {
+  const auto start = [data](int n) {
+    TwoLists<List> lists = data(n);
+    lists.result.assign(lists.a.size() + lists.b.size(), 0);
+    lists.places.assign(2 * lists.result.size(), 0);
+    return lists;
+  };
+  const auto answer = +[](const TwoLists<List> &lists) {
+    std::vector<double> all = as_doubles(lists.result);
+    all.insert(all.end(), lists.places.begin(), lists.places.end());
+    return all;
+  };
   return {two_lists, std::move(name), sizes,
-          [data, works = std::move(works)](int n) {
-            std::vector<Contender> all;
-            for (const auto &[who, work] : works) {
-              all.push_back(contender(who, Merging<Element>(data(n), work)));
-            }
-            return all;
-          },
+          [=](int n) { return contenders<Input::fresh>(start(n), ways, answer); },
           std::move(goals)};
 }
 
@@ -328,20 +275,20 @@ void add_merges(std::vector<Task> &tasks) {
   const std::vector<Goal> of_reals{{Goal::Kind::per_call, large, 30 * millisecond},
                                    {Goal::Kind::growth, large, 1.2, "", 10000}};
   const std::vector<Goal> of_integers{{Goal::Kind::per_call, large, 15 * millisecond}};
-  tasks.push_back(merging<float>("trvmer4", half_common,
+  tasks.push_back(merging<Reals>("trvmer4", half_common,
                                  {{"Trelvin", join}, {"std::map", join_with_map}}, of_reals));
-  tasks.push_back(merging<float>("trvmer13", all_common,
+  tasks.push_back(merging<Reals>("trvmer13", all_common,
                                  {{"Trelvin", pair}, {"std::sort", pair_with_sorted}}, of_reals));
-  tasks.push_back(merging<std::int32_t>("trvmer14", common_integers,
-                                        {{"Trelvin", intersect},
-                                         {"std::sort", filter_with_sorted<true>},
-                                         {"hash set", filter_with_hash<true>}},
-                                        of_integers));
-  tasks.push_back(merging<std::int32_t>("trvmer15", common_integers,
-                                        {{"Trelvin", subtract},
-                                         {"std::sort", filter_with_sorted<false>},
-                                         {"hash set", filter_with_hash<false>}},
-                                        of_integers));
+  tasks.push_back(merging<Integers>("trvmer14", common_integers,
+                                    {{"Trelvin", intersect},
+                                     {"std::sort", filter_with_sorted<true>},
+                                     {"hash set", filter_with_hash<true>}},
+                                    of_integers));
+  tasks.push_back(merging<Integers>("trvmer15", common_integers,
+                                    {{"Trelvin", subtract},
+                                     {"std::sort", filter_with_sorted<false>},
+                                     {"hash set", filter_with_hash<false>}},
+                                    of_integers));
 }
 
 }  // namespace

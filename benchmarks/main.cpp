@@ -72,7 +72,8 @@ Request read_command_line(const std::vector<std::string> &words) {
 }
 
 std::vector<Task> all_tasks() {
-  const Peers peers = all_peers();
+  Peers peers;  // of the libraries found
+  for (const auto add : std::vector<void (*)(Peers &)>{BENCH_PEERS}) add(peers);
   std::vector<Task> tasks;
   add_lists(tasks, peers);
   add_matching(tasks, peers);

@@ -60,45 +60,33 @@ Integers inverse(const Integers &order) {
 
 // Pairs ------------------------------------------------------------------------------------------
 
-struct Matching : Job {
-  Matching(const Lists &lists, Matcher with)
-      : a(lists.a),
-        b(lists.b.points),
-        ia(2 * a.size()),
-        ib(2 * a.size()),
-        matcher(std::move(with)) {}
-  void run() { found = matcher.match(a, b, tol, ia, ib); }
-  // By A, as the routine gives them; a peer's order is free.
-  [[nodiscard]] std::vector<double> answer() const {
-    std::vector<std::pair<double, double>> pairs;
-    for (std::size_t k = 0; k < found; ++k) pairs.emplace_back(ia[k], ib[k]);
-    if (matcher.name != "Trelvin") std::sort(pairs.begin(), pairs.end());
-    std::vector<double> all;
-    for (const auto &[i, j] : pairs) {
-      all.push_back(i);
-      all.push_back(j);
-    }
-    return all;
-  }
-  Cloud a, b;
-  Integers ia, ib;
-  std::size_t found = 0;
-  Matcher matcher;
-};
-
-std::size_t match(const Cloud &a, const Cloud &b, float tolerance, Integers &ia, Integers &ib) {
+void match(Match &m) {
   std::int32_t count = 0;
   std::int32_t status = 0;
-  trvptp1(count_of(a), a.x.data(), a.y.data(), a.z.data(), count_of(b), b.x.data(), b.y.data(),
-          b.z.data(), tolerance, count, ia.data(), ib.data(), status);
-  return static_cast<std::size_t>(count);
+  trvptp1(count_of(m.a), m.a.x.data(), m.a.y.data(), m.a.z.data(), count_of(m.b), m.b.x.data(),
+          m.b.y.data(), m.b.z.data(), m.tol, count, m.ia.data(), m.ib.data(), status);
+  m.pairs = static_cast<std::size_t>(count);
 }
 
-std::vector<Contender> matching(int n, const std::vector<Matcher> &peers) {
+// By A, as the routine gives them; a peer's order is free.
+template <bool is_ordered>
+std::vector<double> pairs_of(const Match &m) {
+  std::vector<std::pair<double, double>> pairs;
+  for (std::size_t k = 0; k < m.pairs; ++k) pairs.emplace_back(m.ia[k], m.ib[k]);
+  if (!is_ordered) std::sort(pairs.begin(), pairs.end());
+  std::vector<double> all;
+  for (const auto &[i, j] : pairs) all.insert(all.end(), {i, j});
+  return all;
+}
+
+std::vector<Contender> matching(int n, const std::vector<Way<Match>> &peers) {
   const Lists all = lists(n);
-  std::vector<Contender> contenders{contender("Trelvin", Matching(all, {"Trelvin", match}))};
-  for (const Matcher &peer : peers) contenders.push_back(contender(peer.name, Matching(all, peer)));
-  return contenders;
+  const Integers room(2 * all.a.size());
+  const Match data{all.a, all.b.points, tol, room, room};
+  const std::vector<Way<Match>> own{{"Trelvin", match}};
+  auto ways = contenders<Input::kept>(data, own, pairs_of<true>);
+  for (auto &peer : contenders<Input::kept>(data, peers, pairs_of<false>)) ways.push_back(peer);
+  return ways;
 }
 
 std::vector<double> true_pairs(int n) {
@@ -106,15 +94,14 @@ std::vector<double> true_pairs(int n) {
   const Integers partner = inverse(all.b.original);
   std::vector<double> pairs;
   for (std::size_t i = 0; i < partner.size(); ++i) {
-    pairs.push_back(static_cast<double>(i + 1));
-    pairs.push_back(partner[i]);
+    pairs.insert(pairs.end(), {static_cast<double>(i + 1), static_cast<double>(partner[i])});
   }
   return pairs;
 }
 
 // Places of three lists --------------------------------------------------------------------------
 
-struct Placing : Job {
+struct Placing {
   explicit Placing(Lists data) : lists(std::move(data)), size(lists.a.size()) {
     for (Integers *array : {&iab, &jab, &ibc, &jbc, &ica, &jca}) array->resize(2 * size);
     for (Integers *array : {&ma, &mb, &mc}) array->resize(size);
@@ -150,10 +137,9 @@ struct Placing : Job {
 std::vector<double> true_places(int n) {
   const Lists all = lists(n);
   std::vector<double> truth(4, n);
-  truth.push_back(3);  // at the first place: the first point and its two partners
-  truth.push_back(1);
-  truth.push_back(n + inverse(all.b.original)[0]);
-  truth.push_back(2.0 * n + inverse(all.c.original)[0]);
+  // At the first place: the first point and its two partners.
+  truth.insert(truth.end(),
+               {3, 1, 1.0 * n + inverse(all.b.original)[0], 2.0 * n + inverse(all.c.original)[0]});
   const Integers own = positions(all.a.size());
   for (const Integers *places : {&own, &all.b.original, &all.c.original}) {
     truth.insert(truth.end(), places->begin(), places->end());

@@ -91,7 +91,8 @@ bool agree(const std::vector<double> &answer, const std::vector<double> &referen
            const Task &task) {
   return answer.size() == reference.size() &&
          std::equal(answer.begin(), answer.end(), reference.begin(), [&](double a, double b) {
-           return std::fabs(a - b) <= task.relative * std::fabs(b) + task.absolute;
+           return std::fabs(a - b) <=
+                  task.tolerance.relative * std::fabs(b) + task.tolerance.absolute;
          });
 }
 

@@ -12,30 +12,25 @@
 
 namespace bench {
 
-template <class Element>
-struct Sorter {
-  std::string name;
-  std::function<void(Element *, std::size_t)> sort;
+struct Order {
+  Reals keys;
+  Integers positions;  // from 1, in ascending order of the keys
 };
 
-struct Orderer {
-  std::string name;
-  std::function<void(const Reals &, Integers &)> order;  // positions from 1
-};
-
-struct Matcher {
-  std::string name;
-  // Writes the positions of the pairs, in any order, into arrays with room for them; their number.
-  std::function<std::size_t(const Cloud &, const Cloud &, float tol, Integers &, Integers &)> match;
+struct Match {
+  Cloud a, b;
+  float tol;
+  Integers ia, ib;  // the positions of the pairs, in any order; with room for them
+  std::size_t pairs = 0;
 };
 
 using OutlineMaker = std::function<Contender(const Outline &)>;
 
 struct Peers {
-  std::vector<Sorter<float>> sort_reals;
-  std::vector<Sorter<std::int32_t>> sort_integers;
-  std::vector<Orderer> order;
-  std::vector<Matcher> match;
+  std::vector<Way<Reals>> sort_reals;
+  std::vector<Way<Integers>> sort_integers;
+  std::vector<Way<Order>> order;
+  std::vector<Way<Match>> match;
   std::vector<OutlineMaker> area;                                            // answer: area
   std::vector<OutlineMaker> area_and_centroid;                               // answer: area, xs, ys
   std::vector<std::function<Contender(const Cloud &, float angle)>> rotate;  // answer: all x, all y
@@ -49,7 +44,5 @@ void add_eigen(Peers &peers);
 void add_geos(Peers &peers);
 void add_highway(Peers &peers);
 void add_nanoflann(Peers &peers);
-
-Peers all_peers();  // of the libraries found
 
 }  // namespace bench

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 
 #include "report.h"
 #include "svg.h"
@@ -104,9 +103,7 @@ class Axes {
  private:
   static std::string power_of_ten(long exponent) {
     if (exponent > 4) return "1e" + std::to_string(exponent);
-    char label[32];
-    std::snprintf(label, sizeof label, "%g", std::pow(10, exponent));
-    return label;
+    return host::significant(std::pow(10, exponent), 6);
   }
   double x_low_ = 1e9, x_high_ = -1e9, y_low_ = 1e9, y_high_ = -1e9;
 };
@@ -124,18 +121,17 @@ std::string curve(const Series &series, const Axes &axes, const std::string &str
     const double y = axes.y(series.points[k][1]);
     const bool hollow = series.predicted_end && k + 1 == series.points.size();
     points += point(x, y) + ' ';
-    dots += circle(x, y, "3",
-                   attribute("stroke", stroke) + attribute("fill", hollow ? "white" : stroke));
+    dots += circle(x, y, "3", attribute("stroke", stroke, "fill", hollow ? "white" : stroke));
   }
-  return "<polyline" + attribute("fill", colours::none) + attribute("stroke", stroke) +
-         attribute("stroke-width", own ? 2.6 : 1.4) + dash(series) + attribute("points", points) +
-         "/>\n" + dots;
+  return "<polyline" +
+         attribute("fill", colours::none, "stroke", stroke, "stroke-width", own ? 2.6 : 1.4) +
+         dash(series) + attribute("points", points) + "/>\n" + dots;
 }
 
 std::string panel_svg(const Panel &panel, std::vector<std::string> &known) {
   const Axes axes(panel);
   std::string drawn =
-      text(left, 18, panel.title, attribute("font-weight", "bold") + attribute("font-size", 13));
+      text(left, 18, panel.title, attribute("font-weight", "bold", "font-size", 13));
   drawn += axes.grid();
   double legend_x = left;
   double legend_y = 34;
@@ -147,7 +143,7 @@ std::string panel_svg(const Panel &panel, std::vector<std::string> &known) {
       legend_y += 14;
     }
     drawn += line(legend_x, legend_y - 4, legend_x + 22, legend_y - 4,
-                  attribute("stroke-width", 3) + attribute("stroke", stroke) + dash(series));
+                  attribute("stroke-width", 3, "stroke", stroke) + dash(series));
     drawn += text(legend_x + 26, legend_y, series.name);
     legend_x += width;
     drawn += curve(series, axes, stroke);
@@ -168,8 +164,7 @@ std::string plot(const std::vector<Row> &rows, const std::vector<Row> &dll) {
   const auto lines = (panels.size() + columns - 1) / columns;
   const double height = 30 + panel_height * static_cast<double>(lines);
   std::string content =
-      "<rect" + attribute("width", "100%") + attribute("height", "100%") +
-      attribute("fill", "white") + "/>\n" +
+      "<rect" + attribute("width", "100%", "height", "100%", "fill", "white") + "/>\n" +
       text(left, 20, "Nanoseconds an item against the number of items", attribute("font-size", 14));
   std::vector<std::string> known;
   for (std::size_t k = 0; k < panels.size(); ++k) {
@@ -179,8 +174,7 @@ std::string plot(const std::vector<Row> &rows, const std::vector<Row> &dll) {
     content += group(attribute("transform", moved(x, y)), panel_svg(panels[k], known));
   }
   return sheet(columns * panel_width, height,
-               attribute("font-family", "sans-serif") + attribute("font-size", 11) +
-                   attribute("fill", colours::ink),
+               attribute("font-family", "sans-serif", "font-size", 11, "fill", colours::ink),
                content);
 }
 

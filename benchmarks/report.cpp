@@ -2,27 +2,22 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <istream>
 #include <optional>
 #include <ostream>
 #include <sstream>
+
+#include "numbers.h"
 
 namespace bench {
 namespace {
 
 // Figures as text --------------------------------------------------------------------------------
 
-std::string formatted(const char *format, double value) {
-  char text[64];
-  std::snprintf(text, sizeof text, format, value);
-  return text;
-}
-
 // Three digits at least, and no exponent.
 std::string short_number(double value) {
   const double size = std::fabs(value);
-  return formatted(size < 10 ? "%.2f" : size < 100 ? "%.1f" : "%.0f", value);
+  return host::fixed(value, size < 10 ? 2 : size < 100 ? 1 : 0);
 }
 
 std::string duration(double ns) {
@@ -253,9 +248,9 @@ void write_csv(std::ostream &out, const std::vector<Row> &rows) {
   for (const Row &row : rows) {
     for (const Figure &figure : row.figures) {
       out << row.task << ',' << row.size << ',' << figure.contender << ','
-          << formatted("%.6g", figure.seconds * 1e9) << ','
-          << formatted("%.6g", per_item(row, figure)) << ',' << formatted("%.4g", figure.ratio)
-          << ',' << (figure.predicted ? 1 : 0) << '\n';
+          << host::significant(figure.seconds * 1e9, 6) << ','
+          << host::significant(per_item(row, figure), 6) << ','
+          << host::significant(figure.ratio, 4) << ',' << (figure.predicted ? 1 : 0) << '\n';
     }
   }
 }
@@ -286,8 +281,8 @@ void write_goals_csv(std::ostream &out, const Results &results) {
       if (find_row(results.own, task.name, size) == nullptr) continue;
       for (const Judged &judged : judge(results, task, size)) {
         out << task.name << ',' << size << ',' << judged.text << ','
-            << formatted("%.6g", judged.goal->limit) << ','
-            << (judged.value ? formatted("%.6g", *judged.value) : "") << ',' << judged.verdict()
+            << host::significant(judged.goal->limit, 6) << ','
+            << (judged.value ? host::significant(*judged.value, 6) : "") << ',' << judged.verdict()
             << '\n';
       }
     }

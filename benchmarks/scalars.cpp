@@ -16,25 +16,25 @@ constexpr std::size_t sets = 256;  // fit the first-level cache, and are too man
 
 // Calls call(routine, inputs, outputs) for each set.
 template <class Routine, class Call>
-struct Sweep : Job {
-  Sweep(Reals arguments, std::size_t outputs_of_set, Routine *function, Call caller)
-      : inputs(std::move(arguments)),
-        outputs(sets * outputs_of_set),
-        width(inputs.size() / sets),
-        height(outputs_of_set),
-        routine(function),
-        call(caller) {}
+struct Sweep {
   void run() {
+    const std::size_t width = inputs.size() / sets, height = outputs.size() / sets;
     const float *in = inputs.data();
     float *out = outputs.data();
     for (std::size_t i = 0; i < sets; ++i, in += width, out += height) call(routine, in, out);
   }
   [[nodiscard]] std::vector<double> answer() const { return {outputs.begin(), outputs.end()}; }
   Reals inputs, outputs;
-  std::size_t width, height;
   Routine *routine;
   Call call;
 };
+
+template <class Routine, class Call>
+Contender sweep(std::string name, const Reals &inputs, std::size_t outputs_of_set, Routine *routine,
+                Call call) {
+  return contender(std::move(name),
+                   Sweep<Routine, Call>{inputs, Reals(sets * outputs_of_set), routine, call});
+}
 
 Reals arguments(std::size_t width) {
   return Random(41).reals(static_cast<int>(sets * width), -10, 10);
@@ -119,17 +119,16 @@ BENCH_ROUTINE crossing(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
 template <auto formula, class Routine, class Call>
 Task against_formula(std::string name, Routine *routine, std::size_t inputs, std::size_t outputs,
                      Call call) {
-  Task task{
-      "Scalar routines", std::move(name), {1}, [=](int) {
-        const Reals values = arguments(inputs);
-        return std::vector<Contender>{
-            contender("Trelvin", Sweep(values, outputs, routine, call)),
-            contender("guarded formula", Sweep(values, outputs, Called<formula>::guarded, call)),
-            contender("formula", Sweep(values, outputs, Called<formula>::bare, call))};
-      }};
+  Task task{"Scalar routines", std::move(name), {1}, [=](int) {
+              const Reals values = arguments(inputs);
+              return std::vector<Contender>{
+                  sweep("Trelvin", values, outputs, routine, call),
+                  sweep("guarded formula", values, outputs, Called<formula>::guarded, call),
+                  sweep("formula", values, outputs, Called<formula>::bare, call)};
+            }};
   task.goals = {{Goal::Kind::ratio, 1, 1.2, "guarded formula"}};
   task.calls = sets;
-  task.relative = 1e-6;
+  task.tolerance = relative(1e-6);
   return task;
 }
 
@@ -195,9 +194,9 @@ std::vector<Contender> turns() {
     const float y = o[1];
     f(i[0], i[1], x, y, o[0], o[1]);
   };
-  return {contender("Trelvin", Sweep(angles, 2, trvrot, in_place)),
-          contender("guarded turn alone", Sweep(sines, 2, Called<turn_alone>::guarded, copied)),
-          contender("std::sin+cos", Sweep(angles, 2, Called<turn_by_platform>::bare, copied))};
+  return {sweep("Trelvin", angles, 2, trvrot, in_place),
+          sweep("guarded turn alone", sines, 2, Called<turn_alone>::guarded, copied),
+          sweep("std::sin+cos", angles, 2, Called<turn_by_platform>::bare, copied)};
 }
 
 void add_sine_and_cosine(std::vector<Task> &tasks) {
@@ -205,7 +204,7 @@ void add_sine_and_cosine(std::vector<Task> &tasks) {
   task.goals = {{Goal::Kind::excess, 1, 6.7, "guarded turn alone"},
                 {Goal::Kind::excess, 1, 16, "guarded turn alone", 0, true}};
   task.calls = sets;
-  task.absolute = 1e-5;
+  task.tolerance = absolute(1e-5);
   tasks.push_back(std::move(task));
 }
 
@@ -242,15 +241,14 @@ void add_line_and_plane(std::vector<Task> &tasks, const Peers &peers) {
                   status);
               };
               const auto guarded = Called<line_and_plane>::guarded;
-              std::vector<Contender> all{
-                  contender("Trelvin", Sweep(data.values, 3, trvpli, call)),
-                  contender("guarded formula", Sweep(data.values, 3, guarded, call))};
+              std::vector<Contender> all{sweep("Trelvin", data.values, 3, trvpli, call),
+                                         sweep("guarded formula", data.values, 3, guarded, call)};
               for (const auto &peer : peers.intersect) all.push_back(peer(data));
               return all;
             }};
   task.goals = {{Goal::Kind::per_item, 1, 6}};
   task.calls = sets;
-  task.absolute = 1e-3;
+  task.tolerance = absolute(1e-3);
   tasks.push_back(std::move(task));
 }
 

@@ -32,15 +32,22 @@ struct Goal {
   bool dll = false;       // asked of the Windows library; the others are asked of the native one
 };
 
+// How far answers may differ: |a - b| <= relative*|b| + absolute.
+struct Tolerance {
+  double relative = 0;
+  double absolute = 0;
+};
+
+constexpr Tolerance relative(double by) { return {by, 0}; }
+constexpr Tolerance absolute(double by) { return {0, by}; }
+
 struct Task {
   std::string family;
   std::string name;  // begins with the routine
   std::vector<int> sizes;
   std::function<std::vector<Contender>(int)> contenders;  // for a size; Trelvin is the first
   std::vector<Goal> goals = {};
-  // How far answers may differ: |a - b| <= relative*|b| + absolute.
-  double relative = 0;
-  double absolute = 0;
+  Tolerance tolerance = {};
   int calls = 1;  // of the routine in one run
   // The answer where it is known beforehand.
   std::function<std::vector<double>(int)> truth = {};

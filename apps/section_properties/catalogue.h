@@ -9,7 +9,6 @@
 #include <algorithm>
 
 #include "description.h"
-#include "measures.h"
 #include "shapes.h"
 #include "torsion.h"
 

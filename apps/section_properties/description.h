@@ -1,9 +1,10 @@
 // What is told of a profile besides its geometry.
 #pragma once
 
-#include <array>
 #include <string_view>
 #include <utility>
+
+#include "model.h"
 
 namespace host {
 
@@ -18,38 +19,21 @@ struct Dimension {
   Least least = Least::positive;
 };
 
-// A list of the compiler's: of dimensions in the order of the library's routine, and of values.
-template <class T>
-class Listed {
- public:
-  constexpr Listed(std::initializer_list<T> items) {
-    for (const T &item : items) items_[size_++] = item;
-  }
-
-  [[nodiscard]] constexpr std::size_t size() const { return size_; }
-  constexpr const T &operator[](std::size_t i) const { return items_[i]; }
-  [[nodiscard]] const T *begin() const { return items_.data(); }
-  [[nodiscard]] const T *end() const { return begin() + size_; }
-
- private:
-  std::array<T, most_dimensions> items_{};
-  std::size_t size_ = 0;
-};
-
-using Dimensions = Listed<Dimension>;
+using Dimensions = List<Dimension, most_dimensions>;
 
 struct Description {
   std::string_view name;
   std::string_view description;
   std::string_view routine;  // gives the outline
-  Dimensions dimensions;
-  Listed<float> drawn;  // in the manual's figure, whose walls have room for the vertices' numbers
+  Dimensions dimensions;     // in the order of the routine
+  List<float, most_dimensions>
+      drawn;  // in the manual's figure, whose walls have room for the vertices' numbers
   std::string_view letters;  // a picture with the dimensions
 };
 
 // Instead of a routine: the profile adds its parts itself.
 constexpr std::string_view by_its_parts;
-constexpr Listed<float> no_figure{};
+constexpr decltype(Description::drawn) no_figure{std::initializer_list<float>{}};
 
 // A list of profiles.
 template <class... P>

@@ -87,10 +87,9 @@ std::string DimensionLines::drawn(const Sheet &at) const {
     all.figures += one.figures;
   }
   // A rim of paper keeps the figures clear of the lines behind them.
-  return group(attribute("stroke", colours::blue) + attribute("stroke-width", "0.8"), all.lines) +
-         group(attribute("fill", colours::blue) + attribute("font-size", font_size) +
-                   attribute("stroke", "white") + attribute("stroke-width", "3") +
-                   attribute("paint-order", "stroke"),
+  return group(attribute("stroke", colours::blue, "stroke-width", "0.8"), all.lines) +
+         group(attribute("fill", colours::blue, "font-size", font_size, "stroke", "white",
+                         "stroke-width", "3", "paint-order", "stroke"),
                all.figures);
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "plastic.h"
+#include "outline.h"
 
 namespace host {
 
@@ -19,6 +19,12 @@ struct Torsion {
   std::optional<double> it, iw;  // torsion and warping constant
   std::optional<Point> shear_centre;
   std::string note;  // for people: where the figures come from
+};
+
+// The equal-area axes, and the plastic moduli about them.
+struct Plastic {
+  double wx, wy;  // about the horizontal and the vertical axis
+  double x, y;    // where these are: the vertical one at x, the horizontal one at y
 };
 
 // From the centroid to the outermost points, or the elastic moduli there.
@@ -34,6 +40,10 @@ struct Figures {
   Torsion torsion;
   std::string_view origin;  // where it is
 };
+
+// Exact but for double precision, quarter circles included. An axis that may lie anywhere in a gap
+// between the halves lies in its middle.
+Plastic plastic_of(const Outline &outline);
 
 // Fibres, moduli and plastic figures of the outline, beside the properties.
 Figures figures_of(const Properties &properties, const Outline &outline);

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 
 namespace host {
 
@@ -11,11 +12,15 @@ namespace host {
 template <class T, std::size_t capacity>
 class List {
  public:
+  List() = default;
+  constexpr List(std::initializer_list<T> items) : items_{} {
+    for (const T &item : items) items_[size_++] = item;
+  }
   void push_back(const T &item) { items_[size_++] = item; }
-  [[nodiscard]] std::size_t size() const { return size_; }
+  [[nodiscard]] constexpr std::size_t size() const { return size_; }
   [[nodiscard]] bool empty() const { return size_ == 0; }
   T &operator[](std::size_t i) { return items_[i]; }
-  const T &operator[](std::size_t i) const { return items_[i]; }
+  constexpr const T &operator[](std::size_t i) const { return items_[i]; }
   T &back() { return items_[size_ - 1]; }
   T *begin() { return items_.data(); }
   T *end() { return items_.data() + size_; }
@@ -23,7 +28,7 @@ class List {
   [[nodiscard]] const T *end() const { return items_.data() + size_; }
 
  private:
-  std::array<T, capacity> items_;  // unwritten beyond the size
+  std::array<T, capacity> items_;  // unwritten beyond the size, but for a list of given items
   std::size_t size_ = 0;
 };
 

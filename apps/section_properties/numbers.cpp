@@ -9,7 +9,11 @@
 namespace host {
 namespace {
 
-constexpr std::size_t longest = 512;  // the largest double has 309 digits before its point
+template <class... Form>
+std::string written(Form... form) {
+  char text[512];  // the largest double has 309 digits before its point
+  return {text, std::to_chars(text, text + sizeof text, form...).ptr};
+}
 
 std::string without_negative_zero(std::string text) {
   const bool zero = text.find_first_of("123456789") == std::string::npos;
@@ -49,23 +53,14 @@ std::string fixed(double value, int decimals) {
   double step = 1;
   for (; decimals < 0; ++decimals) step *= 10;
   if (step > 1) value = std::round(value / step) * step;
-  char text[longest];
-  char *const end =
-      std::to_chars(text, text + longest, value, std::chars_format::fixed, decimals).ptr;
-  return without_negative_zero(std::string(text, end));
+  return without_negative_zero(written(value, std::chars_format::fixed, decimals));
 }
 
 std::string significant(double value, int digits) {
-  char text[longest];
-  char *const end =
-      std::to_chars(text, text + longest, value, std::chars_format::general, digits).ptr;
-  return without_negative_zero(std::string(text, end));
+  return without_negative_zero(written(value, std::chars_format::general, digits));
 }
 
-std::string shortest(float value) {
-  char text[longest];
-  return {text, std::to_chars(text, text + longest, value, std::chars_format::fixed).ptr};
-}
+std::string shortest(float value) { return written(value, std::chars_format::fixed); }
 
 int decimals_for(double size, int digits) {
   int decimals = digits - 1;

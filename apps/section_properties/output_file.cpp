@@ -4,15 +4,14 @@
 #include <cstdio>
 #include <filesystem>
 
-#ifdef _WIN32
 #include <fcntl.h>
+#include <sys/stat.h>
+
+#ifdef _WIN32
 #include <io.h>
 #include <process.h>
-#include <sys/stat.h>
 #include <windows.h>
 #else
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -42,14 +41,6 @@ std::FILE *create(const fs::path &name, const fs::path & /*like*/) {
   return descriptor < 0 ? nullptr : _fdopen(descriptor, "wb");
 }
 
-// A file that is there keeps its access rights.
-bool replace(const fs::path &file, const fs::path &by) {
-  if (ReplaceFileW(file.c_str(), by.c_str(), nullptr, 0, nullptr, nullptr) != 0) return true;
-  std::error_code error;
-  fs::rename(by, file, error);
-  return !error;
-}
-
 #else
 
 int process() { return getpid(); }
@@ -74,13 +65,16 @@ std::FILE *create(const fs::path &name, const fs::path &like) {
   return fdopen(descriptor, "wb");
 }
 
+#endif
+
 bool replace(const fs::path &file, const fs::path &by) {
+#ifdef _WIN32  // so that a file that is there keeps its access rights
+  if (ReplaceFileW(file.c_str(), by.c_str(), nullptr, 0, nullptr, nullptr) != 0) return true;
+#endif
   std::error_code error;
   fs::rename(by, file, error);
   return !error;
 }
-
-#endif
 
 // A new file in the folder of the other one, under a name of this process's own.
 std::FILE *create_beside(const fs::path &file, fs::path &name) {

@@ -38,21 +38,19 @@ std::string steel_area(const Outline &outline, const Sheet &at) {
     }
     rings += " Z";
   }
-  return path(rings, attribute("fill", colours::steel) + attribute("fill-rule", "evenodd") +
-                         attribute("stroke", colours::ink) + attribute("stroke-linejoin", "round"));
+  return path(rings, attribute("fill", colours::steel, "fill-rule", "evenodd", "stroke",
+                               colours::ink, "stroke-linejoin", "round"));
 }
 
 std::string arrow_head(double x, double y, const std::string &turn) {
-  return path("M0 0 L-9 -3.5 L-9 3.5 Z", attribute("transform", moved(x, y) + turn) +
-                                             attribute("fill", colours::light_grey) +
-                                             attribute("stroke", colours::none));
+  return path("M0 0 L-9 -3.5 L-9 3.5 Z", attribute("transform", moved(x, y) + turn, "fill",
+                                                   colours::light_grey, "stroke", colours::none));
 }
 
 std::string origin_axes(const Sheet &at) {
   const double right = at.right() + arrow_overhang;
   const double top = at.top() - arrow_overhang;
-  const std::string label =
-      attribute("fill", colours::light_grey) + attribute("stroke", colours::none);
+  const std::string label = attribute("fill", colours::light_grey, "stroke", colours::none);
   return group(attribute("stroke", colours::light_grey),
                line(at.left() - axis_overhang, at.y(0), right, at.y(0)) +
                    line(at.x(0), at.bottom() + axis_overhang, at.x(0), top) +
@@ -78,7 +76,7 @@ std::string principal_axis(const Sheet &at, double x, double y, double cos, doub
   return line(x + ends[0] * cos, y - ends[0] * sin, x + ends[1] * cos, y - ends[1] * sin,
               attribute("stroke-dasharray", dash_dot)) +
          text(x + label * cos, y - label * sin + 4.5, name,
-              attribute("fill", colours::red) + attribute("stroke", colours::none));
+              attribute("fill", colours::red, "stroke", colours::none));
 }
 
 std::string principal_axes(const Sheet &at, const Properties &p) {
@@ -86,29 +84,27 @@ std::string principal_axes(const Sheet &at, const Properties &p) {
   const double y = at.y(p.ys);
   const double cos = std::cos(p.alpha);
   const double sin = std::sin(p.alpha);
-  return group(attribute("stroke", colours::red) + attribute("stroke-width", "1.2"),
+  return group(attribute("stroke", colours::red, "stroke-width", "1.2"),
                principal_axis(at, x, y, cos, sin, "1") + principal_axis(at, x, y, -sin, cos, "2"));
 }
 
 std::string equal_area_axes(const Box &box, const Sheet &at, const Plastic &p) {
   constexpr double overhang = 18;
   return group(
-      attribute("stroke", colours::green) + attribute("stroke-width", "1.6") +
-          attribute("stroke-dasharray", dots),
+      attribute("stroke", colours::green, "stroke-width", "1.6", "stroke-dasharray", dots),
       line(at.x(box.left) - overhang, at.y(p.y), at.x(box.right) + overhang, at.y(p.y)) +
           line(at.x(p.x), at.y(box.bottom) + overhang, at.x(p.x), at.y(box.top) - overhang));
 }
 
 std::string centroid_mark(double x, double y) {
   return circle(x, y, "4.5",
-                attribute("fill", "white") + attribute("stroke", colours::red) +
-                    attribute("stroke-width", "1.6"));
+                attribute("fill", "white", "stroke", colours::red, "stroke-width", "1.6"));
 }
 
 std::string shear_centre_mark(double x, double y) {
   constexpr double half = 5.5;
   return group(
-      attribute("stroke", colours::violet) + attribute("stroke-width", "1.8"),
+      attribute("stroke", colours::violet, "stroke-width", "1.8"),
       line(x - half, y - half, x + half, y + half) + line(x - half, y + half, x + half, y - half));
 }
 
@@ -136,7 +132,7 @@ class Legend {
   [[nodiscard]] double middle() const { return y_ - 4; }
   [[nodiscard]] double height() const { return y_ - Sheet::header; }
   [[nodiscard]] std::string drawn() const {
-    return group(attribute("text-anchor", "start") + attribute("fill", colours::ink), rows_);
+    return group(attribute("text-anchor", "start", "fill", colours::ink), rows_);
   }
 
  private:
@@ -158,11 +154,11 @@ Legend legend(const Figures &f, double left) {
   if (f.torsion.iw) legend.figure("Iw", *f.torsion.iw / 1e6, "cm⁶");
   legend.gap();
   legend.line_key(attribute("stroke", colours::light_grey), "x, y of the origin");
-  legend.line_key(attribute("stroke", colours::red) + attribute("stroke-dasharray", dash_dot),
+  legend.line_key(attribute("stroke", colours::red, "stroke-dasharray", dash_dot),
                   "principal axes 1, 2");
-  legend.line_key(attribute("stroke", colours::green) + attribute("stroke-width", "1.6") +
-                      attribute("stroke-dasharray", dots),
-                  "equal-area axes");
+  legend.line_key(
+      attribute("stroke", colours::green, "stroke-width", "1.6", "stroke-dasharray", dots),
+      "equal-area axes");
   legend.key(centroid_mark(legend.mark(), legend.middle()), "centroid");
   if (f.torsion.shear_centre) {
     legend.key(shear_centre_mark(legend.mark(), legend.middle()), "shear centre");
@@ -196,14 +192,14 @@ std::string picture(const Subject &subject) {
   const Box shown = around(bounding_box(outline), figures.torsion.shear_centre);
   const DimensionLines dimensions(measures, shown, Sheet::scale(shown));
   const Sheet at(shown, dimensions.lanes(), legend(figures, 0).height());
-  const std::string left = attribute("text-anchor", "start") + attribute("fill", colours::ink);
+  const std::string left = attribute("text-anchor", "start", "fill", colours::ink);
   const std::string heading =
-      text(30, 38, title, left + attribute("font-size", "18") + attribute("font-weight", "bold")) +
+      text(30, 38, title, left + attribute("font-size", "18", "font-weight", "bold")) +
       text(30, 60, subtitle, left + attribute("font-size", subtitle.size() > 100 ? "11" : "14"));
   return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" +
          sheet(at.width(), at.height(),
-               attribute("font-family", "Helvetica, Arial, sans-serif") +
-                   attribute("font-size", "14") + attribute("text-anchor", "middle"),
+               attribute("font-family", "Helvetica, Arial, sans-serif", "font-size", "14",
+                         "text-anchor", "middle"),
                "<title>" + title + ' ' + subtitle +
                    "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n" + heading +
                    drawing(outline, figures, dimensions, at) +

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "figures.h"
-#include "measures.h"
 
 namespace host {
 

@@ -1,4 +1,4 @@
-#include "plastic.h"
+#include "figures.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,7 +3,6 @@
 
 #include "description.h"
 #include "figures.h"
-#include "measures.h"
 
 namespace host {
 

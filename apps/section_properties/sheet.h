@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "measures.h"
+#include "outline.h"
 
 namespace host {
 

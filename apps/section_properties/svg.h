@@ -33,16 +33,21 @@ inline std::string attribute(const std::string &name, double value) {
   return attribute(name, px(value));
 }
 
+// Several of them: name, value, name, value ...
+template <class Value, class... More>
+std::string attribute(const std::string &name, const Value &value, const std::string &next,
+                      const More &...more) {
+  return attribute(name, value) + attribute(next, more...);
+}
+
 inline std::string line(double x1, double y1, double x2, double y2,
                         const std::string &attributes = "") {
-  return "<line" + attribute("x1", x1) + attribute("y1", y1) + attribute("x2", x2) +
-         attribute("y2", y2) + attributes + "/>\n";
+  return "<line" + attribute("x1", x1, "y1", y1, "x2", x2, "y2", y2) + attributes + "/>\n";
 }
 
 inline std::string circle(double x, double y, const std::string &radius,
                           const std::string &attributes) {
-  return "<circle" + attribute("cx", x) + attribute("cy", y) + attribute("r", radius) + attributes +
-         "/>\n";
+  return "<circle" + attribute("cx", x, "cy", y, "r", radius) + attributes + "/>\n";
 }
 
 inline std::string path(const std::string &commands, const std::string &attributes) {
@@ -52,7 +57,7 @@ inline std::string path(const std::string &commands, const std::string &attribut
 // Centred on x unless the attributes say otherwise.
 inline std::string text(double x, double y, const std::string &content,
                         const std::string &attributes = "") {
-  return "<text" + attribute("x", x) + attribute("y", y) + attributes + '>' + content + "</text>\n";
+  return "<text" + attribute("x", x, "y", y) + attributes + '>' + content + "</text>\n";
 }
 
 inline std::string group(const std::string &attributes, const std::string &content) {
@@ -64,8 +69,9 @@ inline std::string moved(double x, double y) { return "translate(" + point(x, y)
 // The whole picture.
 inline std::string sheet(double width, double height, const std::string &attributes,
                          const std::string &content) {
-  return "<svg" + attribute("xmlns", "http://www.w3.org/2000/svg") + attribute("width", width) +
-         attribute("height", height) + attribute("viewBox", "0 0 " + point(width, height)) +
+  return "<svg" +
+         attribute("xmlns", "http://www.w3.org/2000/svg", "width", width, "height", height,
+                   "viewBox", "0 0 " + point(width, height)) +
          attributes + ">\n" + content + "</svg>\n";
 }
 

@@ -19,11 +19,8 @@ ThinSection thin_section(const std::vector<Plate> &plates) {
     t.push_back(p.t);
   }
   std::vector<float> w1(plates.size()), w2(plates.size());
-  ThinSection f{};
-  trvmxt(n, x1.data(), y1.data(), x2.data(), y2.data(), t.data(), f.A, f.xs, f.ys, f.Ix, f.Iy,
-         f.Ixy, f.I1, f.I2, f.alpha, f.rx, f.ry, f.Wx1, f.Wx2, f.Wy1, f.Wy2, f.Wpx, f.Wpy, f.xp,
-         f.yp, f.It, f.Wt, f.xm, f.ym, f.Iw, f.r0, w1.data(), w2.data(), f.status);
-  return f;
+  return thin_section_by(w1.data(), w2.data(), trvmxt, n, x1.data(), y1.data(), x2.data(),
+                         y2.data(), t.data());
 }
 
 namespace {

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "figures.h"
-#include "measures.h"
 
 namespace host {
 
@@ -22,6 +21,16 @@ struct ThinSection {
   float It, Wt, xm, ym, Iw, r0;
   std::int32_t status;
 };
+
+// By a routine with these outputs behind its inputs; w1 and w2 have an element for each plate.
+template <class Routine, class... Inputs>
+ThinSection thin_section_by(float *w1, float *w2, Routine routine, const Inputs &...inputs) {
+  ThinSection f{};
+  routine(inputs..., f.A, f.xs, f.ys, f.Ix, f.Iy, f.Ixy, f.I1, f.I2, f.alpha, f.rx, f.ry, f.Wx1,
+          f.Wx2, f.Wy1, f.Wy2, f.Wpx, f.Wpy, f.xp, f.yp, f.It, f.Wt, f.xm, f.ym, f.Iw, f.r0, w1, w2,
+          f.status);
+  return f;
+}
 
 ThinSection thin_section(const std::vector<Plate> &plates);
 

@@ -60,11 +60,8 @@ double torsion_constant_of_rolled(double H, double B, double TW, double TF, doub
 }
 
 Torsion torsion_of_bar(float B, float H) {
-  ThinSection s{};
   float w1 = 0, w2 = 0;
-  trvmxt_fb(B, H, s.A, s.xs, s.ys, s.Ix, s.Iy, s.Ixy, s.I1, s.I2, s.alpha, s.rx, s.ry, s.Wx1, s.Wx2,
-            s.Wy1, s.Wy2, s.Wpx, s.Wpy, s.xp, s.yp, s.It, s.Wt, s.xm, s.ym, s.Iw, s.r0, &w1, &w2,
-            s.status);
+  const ThinSection s = thin_section_by(&w1, &w2, trvmxt_fb, B, H);
   if (s.status != 0) return {};
   return {s.It, s.Iw, Point{s.xm, s.ym}, "Torsion: Saint-Venant's series for the rectangle."};
 }

@@ -3,6 +3,8 @@
 #include <boost/geometry/geometries/ring.hpp>
 #include <boost/geometry/index/rtree.hpp>
 
+#include <array>
+
 #include "../peers.h"
 
 namespace bench {
@@ -22,23 +24,13 @@ Ring ring_of(const Outline &outline) {
   return ring;
 }
 
-struct Area : Job {
-  explicit Area(const Outline &outline) : ring(ring_of(outline)) {}
-  void run() { area = bg::area(ring); }
-  [[nodiscard]] std::vector<double> answer() const { return {area}; }
-  Ring ring;
-  double area = 0;
-};
+std::array<double, 1> area(const Ring &ring) { return {bg::area(ring)}; }
 
-struct AreaAndCentroid : Area {
-  using Area::Area;
-  void run() {
-    Area::run();
-    bg::centroid(ring, centroid);
-  }
-  [[nodiscard]] std::vector<double> answer() const { return {area, centroid.x(), centroid.y()}; }
-  Point centroid{0, 0};
-};
+std::array<double, 3> area_and_centroid(const Ring &ring) {
+  Point centroid(0, 0);
+  bg::centroid(ring, centroid);
+  return {bg::area(ring), centroid.x(), centroid.y()};
+}
 
 using SpacePoint = bg::model::point<float, 3, bg::cs::cartesian>;
 using Box = bg::model::box<SpacePoint>;
@@ -47,7 +39,9 @@ using Tree = bgi::rtree<Entry, bgi::linear<16>>;
 
 // The tree is made from all points at once, which packs it: faster to build and to search than one
 // that grows point by point.
-std::size_t match(const Cloud &a, const Cloud &b, float tol, Integers &ia, Integers &ib) {
+void match(Match &m) {
+  const Cloud &a = m.a, &b = m.b;
+  const float tol = m.tol;
   std::vector<Entry> entries;
   entries.reserve(b.size());
   for (std::size_t j = 0; j < b.size(); ++j) {
@@ -55,27 +49,29 @@ std::size_t match(const Cloud &a, const Cloud &b, float tol, Integers &ia, Integ
   }
   const Tree tree(entries);
   std::vector<Entry> found;
-  std::size_t pairs = 0;
+  m.pairs = 0;
   for (std::size_t i = 0; i < a.size(); ++i) {
     const Box box(SpacePoint(a.x[i] - tol, a.y[i] - tol, a.z[i] - tol),
                   SpacePoint(a.x[i] + tol, a.y[i] + tol, a.z[i] + tol));
     found.clear();
     tree.query(bgi::intersects(box), std::back_inserter(found));
     for (const Entry &entry : found) {
-      ia[pairs] = static_cast<std::int32_t>(i + 1);
-      ib[pairs++] = entry.second;
+      m.ia[m.pairs] = static_cast<std::int32_t>(i + 1);
+      m.ib[m.pairs++] = entry.second;
     }
   }
-  return pairs;
 }
 
 }  // namespace
 
 void add_boost(Peers &peers) {
   peers.match.push_back({"Boost R-tree", match});
-  peers.area.emplace_back([](const Outline &o) { return contender("Boost.Geometry", Area(o)); });
-  peers.area_and_centroid.emplace_back(
-      [](const Outline &o) { return contender("Boost.Geometry", AreaAndCentroid(o)); });
+  const auto maker = [](auto function) {
+    return
+        [function](const Outline &o) { return evaluated("Boost.Geometry", ring_of(o), function); };
+  };
+  peers.area.emplace_back(maker(area));
+  peers.area_and_centroid.emplace_back(maker(area_and_centroid));
 }
 
 }  // namespace bench

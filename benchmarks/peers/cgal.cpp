@@ -3,6 +3,8 @@
 #include <CGAL/Simple_cartesian.h>
 #include <CGAL/intersections.h>
 
+#include <array>
+
 #include "../peers.h"
 
 namespace bench {
@@ -10,21 +12,16 @@ namespace {
 
 using Doubles = CGAL::Simple_cartesian<double>;
 
-struct Area : Job {
-  explicit Area(const Outline &outline) {
-    for (int i = 0; i < outline.vertices(); ++i) {
-      const auto at = static_cast<std::size_t>(i);
-      polygon.push_back({outline.x[at], outline.y[at]});
-    }
-  }
-  void run() { area = polygon.area(); }
-  [[nodiscard]] std::vector<double> answer() const { return {area}; }
+Contender area_of(const Outline &outline) {
   CGAL::Polygon_2<Doubles> polygon;
-  double area = 0;
-};
+  for (std::size_t i = 0; i + 1 < outline.x.size(); ++i) {
+    polygon.push_back({outline.x[i], outline.y[i]});
+  }
+  return evaluated("CGAL", polygon, [](const auto &p) { return std::array{p.area()}; });
+}
 
 template <class Kernel>
-struct Intersections : Job {
+struct Intersections {
   using Line = typename Kernel::Line_3;
   using Plane = typename Kernel::Plane_3;
   using Point = typename Kernel::Point_3;
@@ -59,7 +56,7 @@ struct Intersections : Job {
 }  // namespace
 
 void add_cgal(Peers &peers) {
-  peers.area.emplace_back([](const Outline &o) { return contender("CGAL", Area(o)); });
+  peers.area.emplace_back(area_of);
   peers.intersect.emplace_back([](const LinesAndPlanes &data) {
     return contender("CGAL double", Intersections<Doubles>(data));
   });

@@ -1,6 +1,8 @@
 // Everything that can be computed once is: matrices and temporaries are made before the clock runs.
 #include <Eigen/Dense>
 
+#include <array>
+
 #include "../peers.h"
 
 namespace bench {
@@ -13,34 +15,33 @@ Array array_of(const Reals &values) {
   return Map(values.data(), static_cast<Eigen::Index>(values.size()));
 }
 
-void append(std::vector<double> &all, const Array &values) {
+template <class Values>
+void append(std::vector<double> &all, const Values &values) {
   all.insert(all.end(), values.begin(), values.end());
 }
 
-// Two arrays, as the library has them. A temporary is unavoidable; it becomes the new x.
-struct RotateArrays : Job {
+template <class Lists>
+std::vector<double> joined(const Lists &lists) {
+  std::vector<double> all;
+  for (const auto &list : lists) append(all, list);
+  return all;
+}
+
+// Arrays, as the library has them. A temporary is unavoidable; it becomes the new x.
+struct RotateArrays {
   RotateArrays(const Cloud &points, float angle)
-      : x0(array_of(points.x)), y0(array_of(points.y)), turned(x0) {
-    const Eigen::Matrix2f r = Eigen::Rotation2Df(angle).toRotationMatrix();
-    c = r(0, 0);
-    s = r(1, 0);
-  }
-  void prepare() {
-    x = x0;
-    y = y0;
-  }
+      : x(array_of(points.x)),
+        y(array_of(points.y)),
+        turned(x),
+        c(std::cos(angle)),
+        s(std::sin(angle)) {}
   void run() {
     turned = c * x - s * y;
     y = s * x + c * y;
     x.swap(turned);
   }
-  [[nodiscard]] std::vector<double> answer() const {
-    std::vector<double> all;
-    append(all, x);
-    append(all, y);
-    return all;
-  }
-  Array x0, y0, x, y, turned;
+  [[nodiscard]] std::vector<double> answer() const { return joined(std::array{x, y}); }
+  Array x, y, turned;
   float c, s;
 };
 
@@ -56,99 +57,75 @@ struct RotateByAngle : RotateArrays {
 };
 
 // One matrix with a point a column.
-struct RotateMatrix : Job {
-  RotateMatrix(const Cloud &points, float angle)
-      : m0(2, static_cast<Eigen::Index>(points.size())), r(Eigen::Rotation2Df(angle)) {
-    m0.row(0) = array_of(points.x).matrix();
-    m0.row(1) = array_of(points.y).matrix();
-    turned = m0;
-  }
-  void prepare() { m = m0; }
-  void run() {
-    turned.noalias() = r * m;
-    m.swap(turned);
+template <int dimensions>
+struct Columns {
+  using Matrix = Eigen::Matrix<float, dimensions, Eigen::Dynamic>;
+  explicit Columns(const Cloud &points) : m(dimensions, static_cast<Eigen::Index>(points.size())) {
+    const Reals *const coordinates[] = {&points.x, &points.y, &points.z};
+    for (int i = 0; i < dimensions; ++i) m.row(i) = array_of(*coordinates[i]).matrix();
+    moved = m;
   }
   [[nodiscard]] std::vector<double> answer() const {
     std::vector<double> all;
-    append(all, m.row(0).array());
-    append(all, m.row(1).array());
+    for (int i = 0; i < dimensions; ++i) append(all, m.row(i).array());
     return all;
   }
-  Eigen::Matrix2Xf m0, m, turned;
+  Matrix m, moved;
+};
+
+struct RotateMatrix : Columns<2> {
+  RotateMatrix(const Cloud &points, float angle) : Columns(points), r(Eigen::Rotation2Df(angle)) {}
+  void run() {
+    moved.noalias() = r * m;
+    m.swap(moved);
+  }
   Eigen::Matrix2f r;
 };
 
 // Two columns turned in place by Eigen's own plane rotation, made for decompositions.
-struct RotateColumns : Job {
+struct RotateColumns {
   RotateColumns(const Cloud &points, float angle)
-      : m0(static_cast<Eigen::Index>(points.size()), 2), r(std::cos(angle), std::sin(angle)) {
-    m0.col(0) = array_of(points.x);
-    m0.col(1) = array_of(points.y);
+      : m(static_cast<Eigen::Index>(points.size()), 2), r(std::cos(angle), std::sin(angle)) {
+    m.col(0) = array_of(points.x);
+    m.col(1) = array_of(points.y);
   }
-  void prepare() { m = m0; }
   void run() { m.applyOnTheRight(0, 1, r); }
-  [[nodiscard]] std::vector<double> answer() const {
-    std::vector<double> all;
-    append(all, m.col(0).array());
-    append(all, m.col(1).array());
-    return all;
-  }
-  Eigen::MatrixX2f m0, m;
+  [[nodiscard]] std::vector<double> answer() const { return {m.data(), m.data() + m.size()}; }
+  Eigen::MatrixX2f m;
   Eigen::JacobiRotation<float> r;
 };
 
-struct TransformArrays : Job {
-  TransformArrays(const Cloud &points, const Affine &affine)
-      : start{array_of(points.x), array_of(points.y), array_of(points.z)}, old(start) {
-    for (int i = 0; i < 3; ++i) {
-      for (int k = 0; k < 3; ++k) m[i][k] = static_cast<float>(affine.m[i][k]);
-      t[i] = static_cast<float>(affine.t[i]);
-    }
-  }
-  void prepare() { p = start; }
-  void run() {
-    p.swap(old);
-    for (std::size_t i = 0; i < 3; ++i) {
-      p[i] = m[i][0] * old[0] + m[i][1] * old[1] + m[i][2] * old[2] + t[i];
-    }
-  }
-  [[nodiscard]] std::vector<double> answer() const {
-    std::vector<double> all;
-    for (const Array &coordinates : p) append(all, coordinates);
-    return all;
-  }
-  std::vector<Array> start, old, p;
-  float m[3][3], t[3];
-};
-
-struct TransformMatrix : Job {
-  TransformMatrix(const Cloud &points, const Affine &affine)
-      : m0(3, static_cast<Eigen::Index>(points.size())) {
-    m0.row(0) = array_of(points.x).matrix();
-    m0.row(1) = array_of(points.y).matrix();
-    m0.row(2) = array_of(points.z).matrix();
-    moved = m0;
-    for (int i = 0; i < 3; ++i) {
-      for (int k = 0; k < 3; ++k) r(i, k) = static_cast<float>(affine.m[i][k]);
-      t(i) = static_cast<float>(affine.t[i]);
-    }
-  }
-  void prepare() { m = m0; }
-  void run() {
-    moved = r.lazyProduct(m).colwise() + t;
-    m.swap(moved);
-  }
-  [[nodiscard]] std::vector<double> answer() const {
-    std::vector<double> all;
-    for (int i = 0; i < 3; ++i) append(all, m.row(i).array());
-    return all;
-  }
-  Eigen::Matrix3Xf m0, m, moved;
+struct Matrices {
+  explicit Matrices(const Affine &affine)
+      : r(Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(*affine.m).cast<float>()),
+        t(Eigen::Map<const Eigen::Vector3d>(affine.t).cast<float>()) {}
   Eigen::Matrix3f r;
   Eigen::Vector3f t;
 };
 
-struct Intersections : Job {
+struct TransformArrays : Matrices {
+  TransformArrays(const Cloud &points, const Affine &affine)
+      : Matrices(affine), p{array_of(points.x), array_of(points.y), array_of(points.z)}, old(p) {}
+  void run() {
+    p.swap(old);
+    for (Eigen::Index i = 0; i < 3; ++i) {
+      p[static_cast<std::size_t>(i)] =
+          r(i, 0) * old[0] + r(i, 1) * old[1] + r(i, 2) * old[2] + t(i);
+    }
+  }
+  [[nodiscard]] std::vector<double> answer() const { return joined(p); }
+  std::array<Array, 3> p, old;
+};
+
+struct TransformMatrix : Columns<3>, Matrices {
+  TransformMatrix(const Cloud &points, const Affine &affine) : Columns(points), Matrices(affine) {}
+  void run() {
+    moved = r.lazyProduct(m).colwise() + t;
+    m.swap(moved);
+  }
+};
+
+struct Intersections {
   using Line = Eigen::ParametrizedLine<float, 3>;
   using Plane = Eigen::Hyperplane<float, 3>;
   explicit Intersections(const LinesAndPlanes &data) : points(data.size()) {
@@ -162,11 +139,7 @@ struct Intersections : Job {
     for (std::size_t i = 0; i < lines.size(); ++i)
       points[i] = lines[i].intersectionPoint(planes[i]);
   }
-  [[nodiscard]] std::vector<double> answer() const {
-    std::vector<double> all;
-    for (const Eigen::Vector3f &p : points) append(all, p.array());
-    return all;
-  }
+  [[nodiscard]] std::vector<double> answer() const { return joined(points); }
   std::vector<Line> lines;
   std::vector<Plane> planes;
   std::vector<Eigen::Vector3f> points;
@@ -175,7 +148,9 @@ struct Intersections : Job {
 // A contender of the list's kind from a job that takes the same arguments.
 template <class Work>
 auto maker(const char *name) {
-  return [name](const auto &...arguments) { return contender(name, Work(arguments...)); };
+  return [name](const auto &...arguments) {
+    return contender<Input::restored>(name, Work(arguments...));
+  };
 }
 
 }  // namespace

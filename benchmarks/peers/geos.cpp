@@ -1,6 +1,8 @@
 // Through the C interface, which is the one GEOS keeps stable.
 #include <geos_c.h>
 
+#include <array>
+
 #include "../peers.h"
 
 namespace bench {
@@ -9,7 +11,7 @@ namespace {
 using Handle = std::shared_ptr<GEOSContextHandle_HS>;
 using Geometry = std::shared_ptr<GEOSGeometry>;
 
-struct Polygon : Job {
+struct Polygon {
   explicit Polygon(const Outline &outline)
       : handle(GEOS_init_r(), [](GEOSContextHandle_t h) { GEOS_finish_r(h); }) {
     const auto n = static_cast<unsigned>(outline.x.size());
@@ -23,33 +25,31 @@ struct Polygon : Job {
   [[nodiscard]] Geometry owned(GEOSGeometry *geometry) const {
     return {geometry, [h = handle](GEOSGeometry *g) { GEOSGeom_destroy_r(h.get(), g); }};
   }
-  void run() { GEOSArea_r(handle.get(), polygon.get(), &area); }
-  [[nodiscard]] std::vector<double> answer() const { return {area}; }
   Handle handle;
   Geometry polygon;
-  double area = 0;
 };
 
-struct AreaAndCentroid : Polygon {
-  using Polygon::Polygon;
-  void run() {
-    Polygon::run();
-    GEOSGeometry *const centroid = GEOSGetCentroid_r(handle.get(), polygon.get());
-    GEOSGeomGetX_r(handle.get(), centroid, &x);
-    GEOSGeomGetY_r(handle.get(), centroid, &y);
-    GEOSGeom_destroy_r(handle.get(), centroid);
-  }
-  [[nodiscard]] std::vector<double> answer() const { return {area, x, y}; }
-  double x = 0;
-  double y = 0;
-};
+std::array<double, 1> area(const Polygon &of) {
+  double area = 0;
+  GEOSArea_r(of.handle.get(), of.polygon.get(), &area);
+  return {area};
+}
+
+std::array<double, 3> area_and_centroid(const Polygon &of) {
+  GEOSGeometry *const centroid = GEOSGetCentroid_r(of.handle.get(), of.polygon.get());
+  double x = 0, y = 0;
+  GEOSGeomGetX_r(of.handle.get(), centroid, &x);
+  GEOSGeomGetY_r(of.handle.get(), centroid, &y);
+  GEOSGeom_destroy_r(of.handle.get(), centroid);
+  return {area(of)[0], x, y};
+}
 
 }  // namespace
 
 void add_geos(Peers &peers) {
-  peers.area.emplace_back([](const Outline &o) { return contender("GEOS", Polygon(o)); });
+  peers.area.emplace_back([](const Outline &o) { return evaluated("GEOS", Polygon(o), area); });
   peers.area_and_centroid.emplace_back(
-      [](const Outline &o) { return contender("GEOS", AreaAndCentroid(o)); });
+      [](const Outline &o) { return evaluated("GEOS", Polygon(o), area_and_centroid); });
 }
 
 }  // namespace bench

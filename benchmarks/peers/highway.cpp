@@ -16,23 +16,23 @@ std::uint32_t ordered_bits(float value) {
 }
 
 // Keys and positions sorted together, packing and unpacking included.
-void order(const Reals &values, Integers &positions) {
-  std::vector<hwy::K32V32> pairs(values.size());
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    pairs[i].key = ordered_bits(values[i]);
+void order(Order &o) {
+  std::vector<hwy::K32V32> pairs(o.keys.size());
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
+    pairs[i].key = ordered_bits(o.keys[i]);
     pairs[i].value = static_cast<std::uint32_t>(i + 1);
   }
   hwy::Sorter()(pairs.data(), pairs.size(), hwy::SortAscending());
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    positions[i] = static_cast<std::int32_t>(pairs[i].value);
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
+    o.positions[i] = static_cast<std::int32_t>(pairs[i].value);
   }
 }
 
 }  // namespace
 
 void add_highway(Peers &peers) {
-  const auto sort = [](auto *values, std::size_t n) {
-    hwy::Sorter()(values, n, hwy::SortAscending());
+  const auto sort = [](auto &values) {
+    hwy::Sorter()(values.data(), values.size(), hwy::SortAscending());
   };
   peers.sort_reals.push_back({"VQSort", sort});
   peers.sort_integers.push_back({"VQSort", sort});

@@ -22,12 +22,14 @@ using Metric = nanoflann::L2_Simple_Adaptor<float, Points>;
 using Tree = nanoflann::KDTreeSingleIndexAdaptor<Metric, Points, 3>;
 
 // The tree knows balls: that about the cube is searched, and its few points are compared.
-std::size_t match(const Cloud &a, const Cloud &b, float tol, Integers &ia, Integers &ib) {
+void match(Match &m) {
+  const Cloud &a = m.a, &b = m.b;
+  const float tol = m.tol;
   const Points points{b};
   const Tree tree(3, points, nanoflann::KDTreeSingleIndexAdaptorParams(10));
   const float squared_radius = 3.001F * tol * tol;
   std::vector<std::pair<std::uint32_t, float>> near;
-  std::size_t pairs = 0;
+  m.pairs = 0;
   const nanoflann::SearchParams unsorted(32, 0, false);
   for (std::size_t i = 0; i < a.size(); ++i) {
     const float p[3] = {a.x[i], a.y[i], a.z[i]};
@@ -36,12 +38,11 @@ std::size_t match(const Cloud &a, const Cloud &b, float tol, Integers &ia, Integ
     for (const auto &[j, distance] : near) {
       if (std::fabs(p[0] - b.x[j]) <= tol && std::fabs(p[1] - b.y[j]) <= tol &&
           std::fabs(p[2] - b.z[j]) <= tol) {
-        ia[pairs] = static_cast<std::int32_t>(i + 1);
-        ib[pairs++] = static_cast<std::int32_t>(j + 1);
+        m.ia[m.pairs] = static_cast<std::int32_t>(i + 1);
+        m.ib[m.pairs++] = static_cast<std::int32_t>(j + 1);
       }
     }
   }
-  return pairs;
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ using svg::attribute;
 constexpr double number_size = 11;
 
 std::string drawn_with(const Pen &pen, const char *fill = colours::none) {
-  return attribute("stroke", pen.colour) + attribute("stroke-width", pen.width) +
+  return attribute("stroke", pen.colour, "stroke-width", pen.width) +
          (*pen.dash != 0 ? attribute("stroke-dasharray", pen.dash) : "") + attribute("fill", fill);
 }
 
@@ -57,9 +57,8 @@ void Sheet::text(Offset at, int side, const std::string &content, const char *co
   const char *anchor = side > 0 ? "start" : side < 0 ? "end" : "middle";
   // The paper's colour around the letters keeps them legible on lines.
   add(svg::text(at.x, down(at.y) + 0.35 * size, escaped(content),
-                attribute("text-anchor", anchor) + attribute("font-size", size) +
-                    attribute("fill", colour) + attribute("stroke", colours::paper) +
-                    attribute("stroke-width", "3") + attribute("paint-order", "stroke")));
+                attribute("text-anchor", anchor, "font-size", size, "fill", colour, "stroke",
+                          colours::paper, "stroke-width", "3", "paint-order", "stroke")));
 }
 
 void Sheet::caption(Offset at, const std::string &content) {
@@ -83,12 +82,12 @@ std::string Sheet::svg() const {
   check_labels();
   return svg::sheet(
       width_, height_,
-      attribute("role", "img") + attribute("aria-labelledby", name_ + "-title " + name_ + "-desc") +
-          attribute("font-family", "system-ui, 'Segoe UI', Helvetica, Arial, sans-serif"),
+      attribute("role", "img", "aria-labelledby", name_ + "-title " + name_ + "-desc",
+                "font-family", "system-ui, 'Segoe UI', Helvetica, Arial, sans-serif"),
       "<title" + attribute("id", name_ + "-title") + '>' + escaped(title_) + "</title>\n<desc" +
           attribute("id", name_ + "-desc") + '>' + escaped(description_) + "</desc>\n<rect" +
-          attribute("width", width_) + attribute("height", height_) + attribute("rx", "8") +
-          attribute("fill", colours::paper) + "/>\n" + elements_);
+          attribute("width", width_, "height", height_, "rx", "8", "fill", colours::paper) +
+          "/>\n" + elements_);
 }
 
 // --- views ------------------------------------------------------------------------------------
@@ -153,8 +152,8 @@ void View::path(const std::vector<Point> &points, const Pen &pen) {
 void View::area(const std::vector<Outline> &rings, const char *fill, const Pen &pen) {
   std::string d;
   for (const Outline &ring : rings) d += commands(ring) + " Z ";
-  sheet_->add(svg::path(d, attribute("fill-rule", "evenodd") +
-                               attribute("stroke-linejoin", "round") + drawn_with(pen, fill)));
+  sheet_->add(svg::path(
+      d, attribute("fill-rule", "evenodd", "stroke-linejoin", "round") + drawn_with(pen, fill)));
 }
 
 void View::disc(Offset c, const std::string &radius, const std::string &attributes) {

@@ -86,21 +86,9 @@ void strip(View &view) {
   view.across({p.x, 0}, {q.x, 0}, 22, "w", View::Letter::behind);
 }
 
-Sheet stations(const std::string &name) {
-  Sheet sheet(name, 700, 250, "Stations on an arc",
-              "The point of the arc from A to B about C above a station d of its chord: "
-              "perpendicular to the chord, on the line from the centre, and above both edges of a "
-              "strip of width w. The side is 1.");
-  const auto panel = [&](int column, const char *caption, void (*draw)(View &)) {
-    const double x = 30 + 220 * column;
-    View view(sheet, {x, 55, x + 200, 215}, {-2.4, -1.7, 2.4, 1.4});
-    draw(view);
-    sheet.caption({x + 100, 22}, caption);
-  };
-  panel(0, "trvcer8", perpendicular_station);
-  panel(1, "trvcer6", radial_station);
-  panel(2, "trvcer9", strip);
-  return sheet;
+Panel station_panel(int column, const char *caption, void (*draw)(View &)) {
+  const double x = 30 + 220 * column;
+  return {{x, 55, x + 200, 215}, {-2.4, -1.7, 2.4, 1.4}, draw, caption, 22};
 }
 
 // --- constructions ------------------------------------------------------------------------------
@@ -285,36 +273,15 @@ void box_of_arc(View &view) {
   view.point(high, "max", {5, 9}, colours::red, 12);
 }
 
-Sheet constructions(const std::string &name) {
-  Sheet sheet(
-      name, 900, 440, "Constructions on arcs and chords",
-      "What trvcer4, trvcer10, trvcer5, trvcer7, trvcer1, trvcer2, trvarc1 and trvenv find: "
-      "the points P, T and O and the angles by which they are given.");
-  const auto panel = [&](int column, int row, const char *caption, void (*draw)(View &),
+Panel construction_panel(int column, int row, const char *caption, void (*draw)(View &),
                          const Box &world = construction_world) {
-    const double x = 8 + 221.0 * column, y = 240 - 215.0 * row;
-    View view(sheet, {x + 12, y + 25, x + 208, y + 185}, world);
-    draw(view);
-    sheet.caption({x + 110, y}, caption);
-  };
-  panel(0, 0, "trvcer4", line_at_angle);
-  panel(1, 0, "trvcer10", chord_and_turned_end);
-  panel(2, 0, "trvcer5", towards_sagitta);
-  panel(3, 0, "trvcer7", station_parallel_arc);
-  panel(0, 1, "trvcer1, side 1", from_sagitta);
-  panel(1, 1, "trvcer2, side 1", two_centres);
-  panel(2, 1, "trvarc1", two_arcs, {-2.6, -3.4, 2.6, 1.5});
-  panel(3, 1, "trvenv", box_of_arc);
-  return sheet;
+  const double x = 20 + 221.0 * column, y = 240 - 215.0 * row;
+  return {{x, y + 25, x + 196, y + 185}, world, draw, caption, y};
 }
 
 // --- corners ------------------------------------------------------------------------------------
 
-Sheet fillet(const std::string &name) {
-  Sheet sheet(
-      name, 520, 300, "A rounded corner",
-      "The arc of radius r that rounds the corner at P0: its centre C, and T1 and T2 where it "
-      "touches the segments to P1 and P2.");
+void fillet(View &view) {
   const Point p0{0.5F, 0.5F}, p1{6, 1}, p2{2, 4};
   const float r = 1.25F;
   Point c, t1, t2;
@@ -327,7 +294,6 @@ Sheet fillet(const std::string &name) {
   require_near(cross(t2 - p0, p2 - p0), 0, "T2 on the segment to P2");
   require_near(dot(t1 - c, p1 - p0), 0, "the arc touches the segment to P1");
   require_near(dot(t2 - c, p2 - p0), 0, "the arc touches the segment to P2");
-  View view(sheet, {60, 40, 470, 265}, {0.3, 0.3, 6, 4});
   view.path({t1, p0, t2}, pens::dashed);
   view.line(t1, p1, {colours::ink, 2.2});
   view.line(t2, p2, {colours::ink, 2.2});
@@ -343,14 +309,36 @@ Sheet fillet(const std::string &name) {
   view.point(t1, "T1", {4, -13}, colours::red);
   view.point(t2, "T2", {-10, 2}, colours::red);
   view.label(0.5F * (c + t1), "r", {8, 4}, colours::blue);
-  return sheet;
 }
 
 }  // namespace
 
 std::vector<Figure> circle_figures() {
   return {
-      {"arc-stations", stations}, {"arc-constructions", constructions}, {"task-fillet", fillet}};
+      figure_of(
+          "arc-stations", 700, 250, "Stations on an arc",
+          "The point of the arc from A to B about C above a station d of its chord: "
+          "perpendicular to the chord, on the line from the centre, and above both edges of a "
+          "strip of width w. The side is 1.",
+          {station_panel(0, "trvcer8", perpendicular_station),
+           station_panel(1, "trvcer6", radial_station), station_panel(2, "trvcer9", strip)}),
+      figure_of(
+          "arc-constructions", 900, 440, "Constructions on arcs and chords",
+          "What trvcer4, trvcer10, trvcer5, trvcer7, trvcer1, trvcer2, trvarc1 and trvenv find: "
+          "the points P, T and O and the angles by which they are given.",
+          {construction_panel(0, 0, "trvcer4", line_at_angle),
+           construction_panel(1, 0, "trvcer10", chord_and_turned_end),
+           construction_panel(2, 0, "trvcer5", towards_sagitta),
+           construction_panel(3, 0, "trvcer7", station_parallel_arc),
+           construction_panel(0, 1, "trvcer1, side 1", from_sagitta),
+           construction_panel(1, 1, "trvcer2, side 1", two_centres),
+           construction_panel(2, 1, "trvarc1", two_arcs, {-2.6, -3.4, 2.6, 1.5}),
+           construction_panel(3, 1, "trvenv", box_of_arc)}),
+      figure_of(
+          "task-fillet", 520, 300, "A rounded corner",
+          "The arc of radius r that rounds the corner at P0: its centre C, and T1 and T2 where it "
+          "touches the segments to P1 and P2.",
+          {{{60, 40, 470, 265}, {0.3, 0.3, 6, 4}, fillet}})};
 }
 
 }  // namespace figures

@@ -110,16 +110,13 @@ Sheet alpha(const std::string &name) {
 template <class Rotation>
 void rotation_about(View &view, Rotation rotate, const Vector &first, const Vector &second,
                     const std::string &routine, Offset at) {
+  const auto c = static_cast<float>(std::cos(0.5)), s = static_cast<float>(std::sin(0.5));
   Vector p = first;
   rotate(2, p);
-  require_at(p,
-             static_cast<float>(std::cos(0.5)) * first + static_cast<float>(std::sin(0.5)) * second,
-             routine + " with mode 2");
+  require_at(p, c * first + s * second, routine + " with mode 2");
   p = second;
   rotate(1, p);
-  require_at(p,
-             static_cast<float>(std::cos(0.5)) * second + static_cast<float>(std::sin(0.5)) * first,
-             routine + " with mode 1");
+  require_at(p, c * second + s * first, routine + " with mode 1");
   view.axes_in_space({}, 1.1F);
   view.sweep({}, 0.8F * first, 0.8F * second, pens::result);
   view.sweep({}, 0.5F * second, 0.5F * first, {colours::blue, 1.4, "5 3"});

@@ -10,6 +10,24 @@
 
 #include "figures.h"
 
+namespace figures {
+
+Figure figure_of(const std::string &name, double width, double height, const std::string &title,
+                 const std::string &description, const std::vector<Panel> &panels) {
+  return {name, [=](const std::string &of) {
+            Sheet sheet(of, width, height, title, description);
+            for (const Panel &panel : panels) {
+              View view(sheet, panel.paper, panel.world);
+              panel.draw(view);
+              const double middle = 0.5 * (panel.paper.left + panel.paper.right);
+              if (!panel.caption.empty()) sheet.caption({middle, panel.level}, panel.caption);
+            }
+            return sheet;
+          }};
+}
+
+}  // namespace figures
+
 namespace {
 
 bool write(const std::string &file, const std::string &content) {

