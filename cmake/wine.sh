@@ -19,10 +19,12 @@ case $1 in
 esac
 shift
 mkdir -p "$WINEPREFIX"
-# The server stays for the next programs, and keeps no pipe of this one open. Refused where one runs.
-wineserver -p60 </dev/null >/dev/null 2>&1 || true
+# The server stays some minutes for the next programs; it refuses to start where one runs. A new one is
+# booted apart from any program, since what it starts would keep the pipes of that program open.
+if wineserver -p300 </dev/null >/dev/null 2>&1; then
+  "$loader" wineboot --init </dev/null >"$WINEPREFIX.log" 2>&1 || {
+    cat "$WINEPREFIX.log" >&2
+    exit 1
+  }
+fi
 if [ $# -gt 0 ]; then exec "$loader" "$@"; fi
-"$loader" wineboot --init </dev/null >"$WINEPREFIX.log" 2>&1 || {
-  cat "$WINEPREFIX.log" >&2
-  exit 1
-}
