@@ -338,7 +338,7 @@ Public Declare PtrSafe Sub trvlci Lib "Trelvin64.dll" Alias "trvlci" (ByRef a As
     ByRef n As Long, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single)
 
-' Intersection of two circles: that of their radical line with the first circle (trvlci).
+' Intersection of two circles, computed as that of their radical line and the first circle (trvlci).
 ' n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric: |D2
 ' - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles cut each
 ' other.
@@ -374,7 +374,7 @@ Public Declare PtrSafe Sub trvcin Lib "Trelvin64.dll" Alias "trvcin" (ByRef X As
     ByRef position As Long, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single)
 
-' Turns a point about a centre.
+' Rotates a point about a centre.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance from
 ' the centre is within the tolerance.
 Public Declare PtrSafe Sub trvcer3 Lib "Trelvin64.dll" Alias "trvcer3" (ByRef x0 As Single, _
@@ -383,8 +383,8 @@ Public Declare PtrSafe Sub trvcer3 Lib "Trelvin64.dll" Alias "trvcer3" (ByRef x0
 
 ' Point of an arc above a station of its chord, perpendicular to the chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
-' at most 0.001, the radii of A and B differ by more, or the station is not farther than that from
-' both ends.
+' at most 0.001, the radii of A and B differ by more than 0.001, or the station is not more than
+' 0.001 inside both ends of the chord.
 Public Declare PtrSafe Sub trvcer8 Lib "Trelvin64.dll" Alias "trvcer8" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef x As Single, _
@@ -392,8 +392,8 @@ Public Declare PtrSafe Sub trvcer8 Lib "Trelvin64.dll" Alias "trvcer8" (ByRef xc
 
 ' Point of an arc on the line from its centre through a station of its chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
-' at most 0.001, the radii of A and B differ by more, the station is not farther than that from both
-' ends, or d is closer than that to the diameter.
+' at most 0.001, the radii of A and B differ by more than 0.001, the station is not more than 0.001
+' inside both ends of the chord, or d differs from the diameter by less than 0.001.
 Public Declare PtrSafe Sub trvcer6 Lib "Trelvin64.dll" Alias "trvcer6" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef x As Single, _
@@ -401,8 +401,8 @@ Public Declare PtrSafe Sub trvcer6 Lib "Trelvin64.dll" Alias "trvcer6" (ByRef xc
 
 ' Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord, d,
-' the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or
-' the strip comes closer than that to an end of the chord.
+' the rest of the chord beyond d or the width is at most 0.001, the radii of A and B differ by more
+' than 0.001, or an edge of the strip is less than 0.001 inside an end of the chord.
 Public Declare PtrSafe Sub trvcer9 Lib "Trelvin64.dll" Alias "trvcer9" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef w As Single, _
@@ -420,56 +420,56 @@ Public Declare PtrSafe Sub trvarc1 Lib "Trelvin64.dll" Alias "trvarc1" (ByRef xc
 Public Declare PtrSafe Sub trvaxph Lib "Trelvin64.dll" Alias "trvaxph" (ByRef dx As Single, _
     ByRef dy As Single, ByRef phi As Single)
 
-' Distances and stations of two points against a segment.
+' Distances of two points from the line of a segment, and their stations along it.
 Public Declare PtrSafe Sub trvhin Lib "Trelvin64.dll" Alias "trvhin" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
     ByRef x3 As Single, ByRef y3 As Single, ByRef z3 As Single, ByRef h0 As Single, _
     ByRef s0 As Single, ByRef h3 As Single, ByRef s3 As Single, ByRef len_ As Single)
 
-' Marks points by a sector.
+' Marks points as inside or outside a sector.
 ' mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
-' outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same for
-' all points.
+' outside the sector; -1 no_sector: the angle of the rays by trvphi is within the tolerance, so all
+' points have this value.
 Public Declare PtrSafe Sub trvapp Lib "Trelvin64.dll" Alias "trvapp" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single, ByRef n As Long, ByRef X As Single, ByRef Y As Single, ByRef mark As Long)
 
 ' Point of an arc on a line through a station of its chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
-' within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches
-' the circle.
+' within the tolerance, the radii of A and B differ by more than the tolerance, A and B coincide, or
+' the line is tangent to the circle.
 Public Declare PtrSafe Sub trvcer4 Lib "Trelvin64.dll" Alias "trvcer4" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef angle As Single, ByRef xo As Single, _
     ByRef yo As Single, ByRef status As Long)
 
-' Crossing of an arc's chord with a line through its turned end.
+' Intersection of an arc's chord with a line through its rotated end.
 ' status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal result, or
-' a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or the
-' input is rejected, since the radius or the chord is within the tolerance or the radii of A and B
-' differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the line is parallel to
-' the chord.
+' an intersection kept from an earlier call lies on the chord's line but not at A or B (trvpsl above
+' 2), or the input is rejected, since the radius or the chord is within the tolerance or the radii
+' of A and B differ by more than the tolerance; 1 along_chord: the line runs along the chord; 2
+' parallel: the line is parallel to the chord.
 Public Declare PtrSafe Sub trvcer10 Lib "Trelvin64.dll" Alias "trvcer10" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef turn As Single, ByRef angle As Single, ByRef xo As Single, _
     ByRef yo As Single, ByRef status As Long)
 
-' Point of an arc on the line from a station of its chord towards the sagitta.
-' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e, the
-' radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more, or
-' the line touches the circle.
+' Point of an arc on the line from a station of its chord to a point of the sagitta.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, e, the
+' radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by more than
+' 1e-5, or the line is tangent to the circle.
 Public Declare PtrSafe Sub trvcer5 Lib "Trelvin64.dll" Alias "trvcer5" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef side As Long, ByRef e As Single, _
     ByRef xo As Single, ByRef yo As Single, ByRef status As Long)
 
-' Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
-' chord.
+' Intersections of a line through a station of an arc's chord with the arc and with a line parallel
+' to the chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative, the
-' radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the
-' rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle
-' is not longer than 2e-4.
+' radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more than 1e-4
+' and the rounding, side is 0, the line is parallel to the chord, or the part of the line inside the
+' circle is not longer than 2e-4.
 Public Declare PtrSafe Sub trvcer7 Lib "Trelvin64.dll" Alias "trvcer7" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef side As Long, ByRef e As Single, _
@@ -478,9 +478,9 @@ Public Declare PtrSafe Sub trvcer7 Lib "Trelvin64.dll" Alias "trvcer7" (ByRef xc
     ByRef status As Long)
 
 ' Rounds the corner at P0 between the segments to P1 and to P2.
-' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not above
-' the tolerance, the sine of the angle between the segments is within it, or the arc touches one
-' beyond its end by more.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length of a
+' segment is not above the tolerance, the sine of the angle between the segments is within the
+' tolerance, or a tangent point lies beyond the end of its segment by more than the tolerance.
 Public Declare PtrSafe Sub trvard Lib "Trelvin64.dll" Alias "trvard" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single, ByRef r As Single, ByRef xc As Single, ByRef yc As Single, _

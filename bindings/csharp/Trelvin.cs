@@ -371,8 +371,8 @@ namespace Trelvin
             trvlci(ref a, ref b, ref c, ref D, ref E, ref F, ref n, ref x1, ref y1, ref x2, ref y2);
         }
 
-        /// <summary>Intersection of two circles: that of their radical line with the first circle
-        /// (trvlci).</summary>
+        /// <summary>Intersection of two circles, computed as that of their radical line and the
+        /// first circle (trvlci).</summary>
         /// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or
         /// are concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch;
         /// 2 two: the circles cut each other.</remarks>
@@ -381,8 +381,8 @@ namespace Trelvin
             ref float E2, ref float F2, ref int n, ref float x1, ref float y1, ref float x2,
             ref float y2);
 
-        /// <summary>Intersection of two circles: that of their radical line with the first circle
-        /// (trvlci).</summary>
+        /// <summary>Intersection of two circles, computed as that of their radical line and the
+        /// first circle (trvlci).</summary>
         /// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or
         /// are concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch;
         /// 2 two: the circles cut each other.</remarks>
@@ -462,14 +462,14 @@ namespace Trelvin
             trvcin(X, Y, ref a, ref b, ref c, ref position, ref x1, ref y1, ref x2, ref y2);
         }
 
-        /// <summary>Turns a point about a centre.</summary>
+        /// <summary>Rotates a point about a centre.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
         /// point's distance from the centre is within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer3(ref float x0, ref float y0, ref float x, ref float y,
             ref float angle, ref float xr, ref float yr, ref int status);
 
-        /// <summary>Turns a point about a centre.</summary>
+        /// <summary>Rotates a point about a centre.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
         /// point's distance from the centre is within the tolerance.</remarks>
         public static void trvcer3(float x0, float y0, ref float x, ref float y, float angle,
@@ -483,8 +483,8 @@ namespace Trelvin
         /// <summary>Point of an arc above a station of its chord, perpendicular to the
         /// chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is at most 0.001, the radii of A and B differ by more, or the
-        /// station is not farther than that from both ends.</remarks>
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001, or
+        /// the station is not more than 0.001 inside both ends of the chord.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer8(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float x, ref float y,
@@ -493,8 +493,8 @@ namespace Trelvin
         /// <summary>Point of an arc above a station of its chord, perpendicular to the
         /// chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is at most 0.001, the radii of A and B differ by more, or the
-        /// station is not farther than that from both ends.</remarks>
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001, or
+        /// the station is not more than 0.001 inside both ends of the chord.</remarks>
         public static void trvcer8(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, out float x, out float y, out int status)
         {
@@ -507,9 +507,9 @@ namespace Trelvin
         /// <summary>Point of an arc on the line from its centre through a station of its
         /// chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is at most 0.001, the radii of A and B differ by more, the station
-        /// is not farther than that from both ends, or d is closer than that to the
-        /// diameter.</remarks>
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001,
+        /// the station is not more than 0.001 inside both ends of the chord, or d differs from the
+        /// diameter by less than 0.001.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer6(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float x, ref float y,
@@ -518,9 +518,9 @@ namespace Trelvin
         /// <summary>Point of an arc on the line from its centre through a station of its
         /// chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is at most 0.001, the radii of A and B differ by more, the station
-        /// is not farther than that from both ends, or d is closer than that to the
-        /// diameter.</remarks>
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001,
+        /// the station is not more than 0.001 inside both ends of the chord, or d differs from the
+        /// diameter by less than 0.001.</remarks>
         public static void trvcer6(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, out float x, out float y, out int status)
         {
@@ -533,9 +533,9 @@ namespace Trelvin
         /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to
         /// the chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii
-        /// of A and B differ by more, or the strip comes closer than that to an end of the
-        /// chord.</remarks>
+        /// radius, the chord, d, the rest of the chord beyond d or the width is at most 0.001, the
+        /// radii of A and B differ by more than 0.001, or an edge of the strip is less than 0.001
+        /// inside an end of the chord.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer9(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float w, ref float x1,
@@ -544,9 +544,9 @@ namespace Trelvin
         /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to
         /// the chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii
-        /// of A and B differ by more, or the strip comes closer than that to an end of the
-        /// chord.</remarks>
+        /// radius, the chord, d, the rest of the chord beyond d or the width is at most 0.001, the
+        /// radii of A and B differ by more than 0.001, or an edge of the strip is less than 0.001
+        /// inside an end of the chord.</remarks>
         public static void trvcer9(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, float w, out float x1, out float y1, out float x2, out float y2,
             out int status)
@@ -586,14 +586,16 @@ namespace Trelvin
             trvaxph(ref dx, ref dy, ref phi);
         }
 
-        /// <summary>Distances and stations of two points against a segment.</summary>
+        /// <summary>Distances of two points from the line of a segment, and their stations along
+        /// it.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvhin(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float x3,
             ref float y3, ref float z3, ref float h0, ref float s0, ref float h3, ref float s3,
             ref float len);
 
-        /// <summary>Distances and stations of two points against a segment.</summary>
+        /// <summary>Distances of two points from the line of a segment, and their stations along
+        /// it.</summary>
         public static void trvhin(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, float x3, float y3, float z3, out float h0, out float s0,
             out float h3, out float s3, out float len)
@@ -603,19 +605,19 @@ namespace Trelvin
                 ref y3, ref z3, ref h0, ref s0, ref h3, ref s3, ref len);
         }
 
-        /// <summary>Marks points by a sector.</summary>
+        /// <summary>Marks points as inside or outside a sector.</summary>
         /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside:
-        /// the point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the
-        /// tolerance, the same for all points.</remarks>
+        /// the point is outside the sector; -1 no_sector: the angle of the rays by trvphi is within
+        /// the tolerance, so all points have this value.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvapp(ref float x0, ref float y0, ref float x1, ref float y1,
             ref float x2, ref float y2, ref int n, [In] float[] X, [In] float[] Y,
             [In, Out] int[] mark);
 
-        /// <summary>Marks points by a sector.</summary>
+        /// <summary>Marks points as inside or outside a sector.</summary>
         /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside:
-        /// the point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the
-        /// tolerance, the same for all points.</remarks>
+        /// the point is outside the sector; -1 no_sector: the angle of the rays by trvphi is within
+        /// the tolerance, so all points have this value.</remarks>
         public static void trvapp(float x0, float y0, float x1, float y1, float x2, float y2, int n,
             float[] X, float[] Y, int[] mark)
         {
@@ -624,8 +626,8 @@ namespace Trelvin
 
         /// <summary>Point of an arc on a line through a station of its chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is within the tolerance, the radii of A and B differ by more, A and
-        /// B coincide, or the line touches the circle.</remarks>
+        /// radius or the chord is within the tolerance, the radii of A and B differ by more than
+        /// the tolerance, A and B coincide, or the line is tangent to the circle.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer4(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref float angle, ref float xo, ref float yo,
@@ -633,8 +635,8 @@ namespace Trelvin
 
         /// <summary>Point of an arc on a line through a station of its chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is within the tolerance, the radii of A and B differ by more, A and
-        /// B coincide, or the line touches the circle.</remarks>
+        /// radius or the chord is within the tolerance, the radii of A and B differ by more than
+        /// the tolerance, A and B coincide, or the line is tangent to the circle.</remarks>
         public static void trvcer4(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, float angle, out float xo, out float yo,
             out int status)
@@ -645,23 +647,25 @@ namespace Trelvin
                 ref yo, ref status);
         }
 
-        /// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
+        /// <summary>Intersection of an arc's chord with a line through its rotated end.</summary>
         /// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is
-        /// the normal result, or a crossing of an earlier call lies on the chord's line but not at
-        /// A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is
-        /// within the tolerance or the radii of A and B differ by more; 1 along_chord: the line
-        /// runs along the chord; 2 parallel: the line is parallel to the chord.</remarks>
+        /// the normal result, or an intersection kept from an earlier call lies on the chord's line
+        /// but not at A or B (trvpsl above 2), or the input is rejected, since the radius or the
+        /// chord is within the tolerance or the radii of A and B differ by more than the tolerance;
+        /// 1 along_chord: the line runs along the chord; 2 parallel: the line is parallel to the
+        /// chord.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer10(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float turn, ref float angle, ref float xo, ref float yo,
             ref int status);
 
-        /// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
+        /// <summary>Intersection of an arc's chord with a line through its rotated end.</summary>
         /// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is
-        /// the normal result, or a crossing of an earlier call lies on the chord's line but not at
-        /// A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is
-        /// within the tolerance or the radii of A and B differ by more; 1 along_chord: the line
-        /// runs along the chord; 2 parallel: the line is parallel to the chord.</remarks>
+        /// the normal result, or an intersection kept from an earlier call lies on the chord's line
+        /// but not at A or B (trvpsl above 2), or the input is rejected, since the radius or the
+        /// chord is within the tolerance or the radii of A and B differ by more than the tolerance;
+        /// 1 along_chord: the line runs along the chord; 2 parallel: the line is parallel to the
+        /// chord.</remarks>
         public static void trvcer10(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float turn, float angle, out float xo, out float yo,
             out int status)
@@ -672,21 +676,21 @@ namespace Trelvin
                 ref yo, ref status);
         }
 
-        /// <summary>Point of an arc on the line from a station of its chord towards the
+        /// <summary>Point of an arc on the line from a station of its chord to a point of the
         /// sagitta.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is
-        /// negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii
-        /// of A and B differ by more, or the line touches the circle.</remarks>
+        /// negative, e, the radius, the chord or its rest beyond s is at most 1e-5, the radii of A
+        /// and B differ by more than 1e-5, or the line is tangent to the circle.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer5(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref int side, ref float e, ref float xo,
             ref float yo, ref int status);
 
-        /// <summary>Point of an arc on the line from a station of its chord towards the
+        /// <summary>Point of an arc on the line from a station of its chord to a point of the
         /// sagitta.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is
-        /// negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii
-        /// of A and B differ by more, or the line touches the circle.</remarks>
+        /// negative, e, the radius, the chord or its rest beyond s is at most 1e-5, the radii of A
+        /// and B differ by more than 1e-5, or the line is tangent to the circle.</remarks>
         public static void trvcer5(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, int side, float e, out float xo, out float yo,
             out int status)
@@ -697,24 +701,24 @@ namespace Trelvin
                 ref yo, ref status);
         }
 
-        /// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
-        /// parallel to the chord.</summary>
+        /// <summary>Intersections of a line through a station of an arc's chord with the arc and
+        /// with a line parallel to the chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e
         /// is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and
-        /// B differ by more and the rounding, side is 0, the line is parallel to the chord, or the
-        /// part of the line inside the circle is not longer than 2e-4.</remarks>
+        /// B differ by more than 1e-4 and the rounding, side is 0, the line is parallel to the
+        /// chord, or the part of the line inside the circle is not longer than 2e-4.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer7(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref int side, ref float e, ref float angle,
             ref float xp, ref float yp, ref float xt, ref float yt, ref float xo, ref float yo,
             ref float len, ref int status);
 
-        /// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
-        /// parallel to the chord.</summary>
+        /// <summary>Intersections of a line through a station of an arc's chord with the arc and
+        /// with a line parallel to the chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e
         /// is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and
-        /// B differ by more and the rounding, side is 0, the line is parallel to the chord, or the
-        /// part of the line inside the circle is not longer than 2e-4.</remarks>
+        /// B differ by more than 1e-4 and the rounding, side is 0, the line is parallel to the
+        /// chord, or the part of the line inside the circle is not longer than 2e-4.</remarks>
         public static void trvcer7(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, int side, float e, float angle, out float xp,
             out float yp, out float xt, out float yt, out float xo, out float yo, out float len,
@@ -727,18 +731,20 @@ namespace Trelvin
         }
 
         /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a
-        /// segment is not above the tolerance, the sine of the angle between the segments is within
-        /// it, or the arc touches one beyond its end by more.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the
+        /// length of a segment is not above the tolerance, the sine of the angle between the
+        /// segments is within the tolerance, or a tangent point lies beyond the end of its segment
+        /// by more than the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvard(ref float x0, ref float y0, ref float x1, ref float y1,
             ref float x2, ref float y2, ref float r, ref float xc, ref float yc, ref float xt1,
             ref float yt1, ref float xt2, ref float yt2, ref int status);
 
         /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a
-        /// segment is not above the tolerance, the sine of the angle between the segments is within
-        /// it, or the arc touches one beyond its end by more.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the
+        /// length of a segment is not above the tolerance, the sine of the angle between the
+        /// segments is within the tolerance, or a tangent point lies beyond the end of its segment
+        /// by more than the tolerance.</remarks>
         public static void trvard(float x0, float y0, float x1, float y1, float x2, float y2,
             float r, out float xc, out float yc, out float xt1, out float yt1, out float xt2,
             out float yt2, out int status)

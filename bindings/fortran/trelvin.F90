@@ -366,7 +366,8 @@ module trelvin
       real(c_float), intent(inout) :: x1, y1, x2, y2
     end subroutine
 
-    !> Intersection of two circles: that of their radical line with the first circle (trvlci).
+    !> Intersection of two circles, computed as that of their radical line and the first circle
+    !! (trvlci).
     !! n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric:
     !! |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles
     !! cut each other.
@@ -419,7 +420,7 @@ module trelvin
       real(c_float), intent(inout) :: x1, y1, x2, y2
     end subroutine
 
-    !> Turns a point about a centre.
+    !> Rotates a point about a centre.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance
     !! from the centre is within the tolerance.
     subroutine trvcer3(x0, y0, x, y, angle, xr, yr, status) bind(c, name="trvcer3")
@@ -434,8 +435,8 @@ module trelvin
 
     !> Point of an arc above a station of its chord, perpendicular to the chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-    !! chord is at most 0.001, the radii of A and B differ by more, or the station is not farther
-    !! than that from both ends.
+    !! chord is at most 0.001, the radii of A and B differ by more than 0.001, or the station is not
+    !! more than 0.001 inside both ends of the chord.
     subroutine trvcer8(xc, yc, xa, ya, xb, yb, side, d, x, y, status) bind(c, name="trvcer8")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer8
@@ -448,8 +449,9 @@ module trelvin
 
     !> Point of an arc on the line from its centre through a station of its chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-    !! chord is at most 0.001, the radii of A and B differ by more, the station is not farther than
-    !! that from both ends, or d is closer than that to the diameter.
+    !! chord is at most 0.001, the radii of A and B differ by more than 0.001, the station is not
+    !! more than 0.001 inside both ends of the chord, or d differs from the diameter by less than
+    !! 0.001.
     subroutine trvcer6(xc, yc, xa, ya, xb, yb, side, d, x, y, status) bind(c, name="trvcer6")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer6
@@ -462,8 +464,8 @@ module trelvin
 
     !> Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord,
-    !! d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by
-    !! more, or the strip comes closer than that to an end of the chord.
+    !! d, the rest of the chord beyond d or the width is at most 0.001, the radii of A and B differ
+    !! by more than 0.001, or an edge of the strip is less than 0.001 inside an end of the chord.
     subroutine trvcer9(xc, yc, xa, ya, xb, yb, side, d, w, x1, y1, x2, y2, &
         status) bind(c, name="trvcer9")
       import :: c_float, c_int32_t
@@ -494,7 +496,7 @@ module trelvin
       real(c_float), intent(out) :: phi
     end subroutine
 
-    !> Distances and stations of two points against a segment.
+    !> Distances of two points from the line of a segment, and their stations along it.
     subroutine trvhin(x0, y0, z0, x1, y1, z1, x2, y2, z2, x3, y3, z3, h0, s0, h3, s3, &
         len) bind(c, name="trvhin")
       import :: c_float, c_int32_t
@@ -503,10 +505,10 @@ module trelvin
       real(c_float), intent(out) :: h0, s0, h3, s3, len
     end subroutine
 
-    !> Marks points by a sector.
+    !> Marks points as inside or outside a sector.
     !! mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
-    !! outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same
-    !! for all points.
+    !! outside the sector; -1 no_sector: the angle of the rays by trvphi is within the tolerance, so
+    !! all points have this value.
     subroutine trvapp(x0, y0, x1, y1, x2, y2, n, X, Y, mark) bind(c, name="trvapp")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvapp
@@ -518,8 +520,8 @@ module trelvin
 
     !> Point of an arc on a line through a station of its chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-    !! chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the
-    !! line touches the circle.
+    !! chord is within the tolerance, the radii of A and B differ by more than the tolerance, A and
+    !! B coincide, or the line is tangent to the circle.
     subroutine trvcer4(xc, yc, xa, ya, xb, yb, s, angle, xo, yo, status) bind(c, name="trvcer4")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer4
@@ -529,12 +531,12 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Crossing of an arc's chord with a line through its turned end.
+    !> Intersection of an arc's chord with a line through its rotated end.
     !! status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal
-    !! result, or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl
-    !! above 2), or the input is rejected, since the radius or the chord is within the tolerance or
-    !! the radii of A and B differ by more; 1 along_chord: the line runs along the chord; 2
-    !! parallel: the line is parallel to the chord.
+    !! result, or an intersection kept from an earlier call lies on the chord's line but not at A or
+    !! B (trvpsl above 2), or the input is rejected, since the radius or the chord is within the
+    !! tolerance or the radii of A and B differ by more than the tolerance; 1 along_chord: the line
+    !! runs along the chord; 2 parallel: the line is parallel to the chord.
     subroutine trvcer10(xc, yc, xa, ya, xb, yb, turn, angle, xo, yo, &
         status) bind(c, name="trvcer10")
       import :: c_float, c_int32_t
@@ -545,10 +547,10 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Point of an arc on the line from a station of its chord towards the sagitta.
-    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e,
-    !! the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by
-    !! more, or the line touches the circle.
+    !> Point of an arc on the line from a station of its chord to a point of the sagitta.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, e, the
+    !! radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by more
+    !! than 1e-5, or the line is tangent to the circle.
     subroutine trvcer5(xc, yc, xa, ya, xb, yb, s, side, e, xo, yo, status) bind(c, name="trvcer5")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer5
@@ -560,12 +562,12 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Crossings of a line through a station of an arc's chord with the arc and with a parallel to
-    !! the chord.
+    !> Intersections of a line through a station of an arc's chord with the arc and with a line
+    !! parallel to the chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative,
     !! the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more
-    !! and the rounding, side is 0, the line is parallel to the chord, or the part of the line
-    !! inside the circle is not longer than 2e-4.
+    !! than 1e-4 and the rounding, side is 0, the line is parallel to the chord, or the part of the
+    !! line inside the circle is not longer than 2e-4.
     subroutine trvcer7(xc, yc, xa, ya, xb, yb, s, side, e, angle, xp, yp, xt, yt, xo, yo, len, &
         status) bind(c, name="trvcer7")
       import :: c_float, c_int32_t
@@ -579,9 +581,9 @@ module trelvin
     end subroutine
 
     !> Rounds the corner at P0 between the segments to P1 and to P2.
-    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not
-    !! above the tolerance, the sine of the angle between the segments is within it, or the arc
-    !! touches one beyond its end by more.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length of a
+    !! segment is not above the tolerance, the sine of the angle between the segments is within the
+    !! tolerance, or a tangent point lies beyond the end of its segment by more than the tolerance.
     subroutine trvard(x0, y0, x1, y1, x2, y2, r, xc, yc, xt1, yt1, xt2, yt2, &
         status) bind(c, name="trvard")
       import :: c_float, c_int32_t

@@ -347,7 +347,8 @@ export const trvlci = routine("trvlci", ["in real a", "in real b", "in real c", 
   "out real y2"]);
 
 /**
- * Intersection of two circles: that of their radical line with the first circle (trvlci).
+ * Intersection of two circles, computed as that of their radical line and the first circle
+ * (trvlci).
  *
  * n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric: |D2
  * - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles cut each
@@ -402,7 +403,7 @@ export const trvcin = routine("trvcin", ["in real X[2]", "in real Y[2]", "in rea
   "in real c", "out int position", "out real x1", "out real y1", "out real x2", "out real y2"]);
 
 /**
- * Turns a point about a centre.
+ * Rotates a point about a centre.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance from
  * the centre is within the tolerance.
@@ -417,8 +418,8 @@ export const trvcer3 = routine("trvcer3", ["in real x0", "in real y0", "inout re
  * Point of an arc above a station of its chord, perpendicular to the chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
- * at most 0.001, the radii of A and B differ by more, or the station is not farther than that from
- * both ends.
+ * at most 0.001, the radii of A and B differ by more than 0.001, or the station is not more than
+ * 0.001 inside both ends of the chord.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number) => {x: number, y: number, status: number}}
@@ -431,8 +432,8 @@ export const trvcer8 = routine("trvcer8", ["in real xc", "in real yc", "in real 
  * Point of an arc on the line from its centre through a station of its chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
- * at most 0.001, the radii of A and B differ by more, the station is not farther than that from
- * both ends, or d is closer than that to the diameter.
+ * at most 0.001, the radii of A and B differ by more than 0.001, the station is not more than 0.001
+ * inside both ends of the chord, or d differs from the diameter by less than 0.001.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number) => {x: number, y: number, status: number}}
@@ -445,8 +446,8 @@ export const trvcer6 = routine("trvcer6", ["in real xc", "in real yc", "in real 
  * Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord, d,
- * the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or
- * the strip comes closer than that to an end of the chord.
+ * the rest of the chord beyond d or the width is at most 0.001, the radii of A and B differ by more
+ * than 0.001, or an edge of the strip is less than 0.001 inside an end of the chord.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number, w: number) => {x1: number, y1: number, x2: number, y2: number, status: number}}
@@ -475,7 +476,7 @@ export const trvarc1 = routine("trvarc1", ["in real xc", "in real yc", "in real 
 export const trvaxph = routine("trvaxph", ["in real dx", "in real dy", "out real phi"]);
 
 /**
- * Distances and stations of two points against a segment.
+ * Distances of two points from the line of a segment, and their stations along it.
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, x3: number, y3: number, z3: number) => {h0: number, s0: number, h3: number,
@@ -486,11 +487,11 @@ export const trvhin = routine("trvhin", ["in real x0", "in real y0", "in real z0
   "in real z3", "out real h0", "out real s0", "out real h3", "out real s3", "out real len"]);
 
 /**
- * Marks points by a sector.
+ * Marks points as inside or outside a sector.
  *
  * mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
- * outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same for
- * all points.
+ * outside the sector; -1 no_sector: the angle of the rays by trvphi is within the tolerance, so all
+ * points have this value.
  *
  * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, X: Numbers, Y:
  *   Numbers, counts?: {n?: number}) => {mark: Int32Array}}
@@ -502,8 +503,8 @@ export const trvapp = routine("trvapp", ["in real x0", "in real y0", "in real x1
  * Point of an arc on a line through a station of its chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
- * within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches
- * the circle.
+ * within the tolerance, the radii of A and B differ by more than the tolerance, A and B coincide,
+ * or the line is tangent to the circle.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, angle:
  *   number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, xo: number,
@@ -514,13 +515,13 @@ export const trvcer4 = routine("trvcer4", ["inout real xc", "inout real yc", "in
   "out real yo", "out int status"]);
 
 /**
- * Crossing of an arc's chord with a line through its turned end.
+ * Intersection of an arc's chord with a line through its rotated end.
  *
  * status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal result,
- * or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or
- * the input is rejected, since the radius or the chord is within the tolerance or the radii of A
- * and B differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the line is
- * parallel to the chord.
+ * or an intersection kept from an earlier call lies on the chord's line but not at A or B (trvpsl
+ * above 2), or the input is rejected, since the radius or the chord is within the tolerance or the
+ * radii of A and B differ by more than the tolerance; 1 along_chord: the line runs along the chord;
+ * 2 parallel: the line is parallel to the chord.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, turn: number,
  *   angle: number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, xo:
@@ -531,11 +532,11 @@ export const trvcer10 = routine("trvcer10", ["inout real xc", "inout real yc", "
   "out real yo", "out int status"]);
 
 /**
- * Point of an arc on the line from a station of its chord towards the sagitta.
+ * Point of an arc on the line from a station of its chord to a point of the sagitta.
  *
- * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e, the
- * radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more,
- * or the line touches the circle.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, e, the
+ * radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by more than
+ * 1e-5, or the line is tangent to the circle.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, side:
  *   number, e: number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number,
@@ -546,13 +547,13 @@ export const trvcer5 = routine("trvcer5", ["inout real xc", "inout real yc", "in
   "out real xo", "out real yo", "out int status"]);
 
 /**
- * Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
- * chord.
+ * Intersections of a line through a station of an arc's chord with the arc and with a line parallel
+ * to the chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative, the
- * radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the
- * rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle
- * is not longer than 2e-4.
+ * radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more than
+ * 1e-4 and the rounding, side is 0, the line is parallel to the chord, or the part of the line
+ * inside the circle is not longer than 2e-4.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, side:
  *   number, e: number, angle: number) => {xc: number, yc: number, xa: number, ya: number, xb:
@@ -567,9 +568,9 @@ export const trvcer7 = routine("trvcer7", ["inout real xc", "inout real yc", "in
 /**
  * Rounds the corner at P0 between the segments to P1 and to P2.
  *
- * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not
- * above the tolerance, the sine of the angle between the segments is within it, or the arc touches
- * one beyond its end by more.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length of a
+ * segment is not above the tolerance, the sine of the angle between the segments is within the
+ * tolerance, or a tangent point lies beyond the end of its segment by more than the tolerance.
  *
  * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, r: number) =>
  *   {xc: number, yc: number, xt1: number, yt1: number, xt2: number, yt2: number, status: number}}

@@ -362,8 +362,8 @@ procedure trvlci(
   var x1, y1, x2, y2: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvlci';
 
-/// <summary>Intersection of two circles: that of their radical line with the first circle
-/// (trvlci).</summary>
+/// <summary>Intersection of two circles, computed as that of their radical line and the first
+/// circle (trvlci).</summary>
 /// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or are
 /// concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the
 /// circles cut each other.</remarks>
@@ -409,7 +409,7 @@ procedure trvcin(
   var x1, y1, x2, y2: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcin';
 
-/// <summary>Turns a point about a centre.</summary>
+/// <summary>Rotates a point about a centre.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's
 /// distance from the centre is within the tolerance.</remarks>
 procedure trvcer3(
@@ -422,8 +422,8 @@ procedure trvcer3(
 
 /// <summary>Point of an arc above a station of its chord, perpendicular to the chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
-/// the chord is at most 0.001, the radii of A and B differ by more, or the station is not farther
-/// than that from both ends.</remarks>
+/// the chord is at most 0.001, the radii of A and B differ by more than 0.001, or the station is
+/// not more than 0.001 inside both ends of the chord.</remarks>
 procedure trvcer8(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -434,8 +434,9 @@ procedure trvcer8(
 
 /// <summary>Point of an arc on the line from its centre through a station of its chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
-/// the chord is at most 0.001, the radii of A and B differ by more, the station is not farther than
-/// that from both ends, or d is closer than that to the diameter.</remarks>
+/// the chord is at most 0.001, the radii of A and B differ by more than 0.001, the station is not
+/// more than 0.001 inside both ends of the chord, or d differs from the diameter by less than
+/// 0.001.</remarks>
 procedure trvcer6(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -447,8 +448,9 @@ procedure trvcer6(
 /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to the
 /// chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the
-/// chord, d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ
-/// by more, or the strip comes closer than that to an end of the chord.</remarks>
+/// chord, d, the rest of the chord beyond d or the width is at most 0.001, the radii of A and B
+/// differ by more than 0.001, or an edge of the strip is less than 0.001 inside an end of the
+/// chord.</remarks>
 procedure trvcer9(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -472,17 +474,18 @@ procedure trvaxph(
   out phi: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvaxph';
 
-/// <summary>Distances and stations of two points against a segment.</summary>
+/// <summary>Distances of two points from the line of a segment, and their stations along
+/// it.</summary>
 procedure trvhin(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2, x3, y3,
     z3: Single;
   out h0, s0, h3, s3, len: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvhin';
 
-/// <summary>Marks points by a sector.</summary>
+/// <summary>Marks points as inside or outside a sector.</summary>
 /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the
-/// point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance,
-/// the same for all points.</remarks>
+/// point is outside the sector; -1 no_sector: the angle of the rays by trvphi is within the
+/// tolerance, so all points have this value.</remarks>
 procedure trvapp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, x1, y1, x2, y2: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
@@ -492,8 +495,8 @@ procedure trvapp(
 
 /// <summary>Point of an arc on a line through a station of its chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
-/// the chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the
-/// line touches the circle.</remarks>
+/// the chord is within the tolerance, the radii of A and B differ by more than the tolerance, A and
+/// B coincide, or the line is tangent to the circle.</remarks>
 procedure trvcer4(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s, angle: Single;
@@ -501,12 +504,12 @@ procedure trvcer4(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer4';
 
-/// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
+/// <summary>Intersection of an arc's chord with a line through its rotated end.</summary>
 /// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal
-/// result, or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl
-/// above 2), or the input is rejected, since the radius or the chord is within the tolerance or the
-/// radii of A and B differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the
-/// line is parallel to the chord.</remarks>
+/// result, or an intersection kept from an earlier call lies on the chord's line but not at A or B
+/// (trvpsl above 2), or the input is rejected, since the radius or the chord is within the
+/// tolerance or the radii of A and B differ by more than the tolerance; 1 along_chord: the line
+/// runs along the chord; 2 parallel: the line is parallel to the chord.</remarks>
 procedure trvcer10(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} turn, angle: Single;
@@ -514,10 +517,11 @@ procedure trvcer10(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer10';
 
-/// <summary>Point of an arc on the line from a station of its chord towards the sagitta.</summary>
+/// <summary>Point of an arc on the line from a station of its chord to a point of the
+/// sagitta.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative,
-/// or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ
-/// by more, or the line touches the circle.</remarks>
+/// e, the radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by
+/// more than 1e-5, or the line is tangent to the circle.</remarks>
 procedure trvcer5(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s: Single;
@@ -527,12 +531,12 @@ procedure trvcer5(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer5';
 
-/// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
-/// parallel to the chord.</summary>
+/// <summary>Intersections of a line through a station of an arc's chord with the arc and with a
+/// line parallel to the chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is
 /// negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ
-/// by more and the rounding, side is 0, the line is parallel to the chord, or the part of the line
-/// inside the circle is not longer than 2e-4.</remarks>
+/// by more than 1e-4 and the rounding, side is 0, the line is parallel to the chord, or the part of
+/// the line inside the circle is not longer than 2e-4.</remarks>
 procedure trvcer7(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s: Single;
@@ -543,9 +547,10 @@ procedure trvcer7(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer7';
 
 /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment
-/// is not above the tolerance, the sine of the angle between the segments is within it, or the arc
-/// touches one beyond its end by more.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length
+/// of a segment is not above the tolerance, the sine of the angle between the segments is within
+/// the tolerance, or a tangent point lies beyond the end of its segment by more than the
+/// tolerance.</remarks>
 procedure trvard(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, x1, y1, x2, y2, r: Single;
   var xc, yc, xt1, yt1, xt2, yt2: Single;

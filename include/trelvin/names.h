@@ -25,15 +25,16 @@ enum TrvappMark {
   TRVAPP_INSIDE = 1,
   /** the point is outside the sector */
   TRVAPP_OUTSIDE = 2,
-  /** the rays' angle by trvphi is within the tolerance, the same for all points */
+  /** the angle of the rays by trvphi is within the tolerance, so all points have this value */
   TRVAPP_NO_SECTOR = -1,
 };
 
 /** trvcer10: outcome. */
 enum Trvcer10Status {
-  /** the line crosses the chord, which is the normal result, or a crossing of an earlier call lies
-   * on the chord's line but not at A or B (trvpsl above 2), or the input is rejected, since the
-   * radius or the chord is within the tolerance or the radii of A and B differ by more */
+  /** the line crosses the chord, which is the normal result, or an intersection kept from an
+   * earlier call lies on the chord's line but not at A or B (trvpsl above 2), or the input is
+   * rejected, since the radius or the chord is within the tolerance or the radii of A and B differ
+   * by more than the tolerance */
   TRVCER10_CROSSING_OR_REFUSED = 0,
   /** the line runs along the chord */
   TRVCER10_ALONG_CHORD = 1,
