@@ -13,7 +13,7 @@ Public Const TrelvinVersion As String = "1.1.1"
 Public Const trvStatusDone As Long = 0
 Public Const trvStatusRefused As Long = -1
 
-' Whether a point of an arc was found; note that 1 means done here.
+' Whether a point of an arc was found. Caution: here 1 means done.
 Public Const trvArcDone As Long = 1
 Public Const trvArcRefused As Long = 0
 
@@ -44,7 +44,7 @@ Public Const trvComponentsFirstThird As Long = 7
 Public Const trvOnLineNo As Long = 0
 Public Const trvOnLineYes As Long = 1
 
-' Whether a point lies on a plane; note that 0 means yes.
+' Whether a point lies on a plane. Caution: 0 means yes.
 Public Const trvOnPlaneYes As Long = 0
 Public Const trvOnPlaneNo As Long = -1
 Public Const trvOnPlaneZeroNormal As Long = 1
@@ -72,7 +72,7 @@ Public Const trvLinesPerpendicular As Long = 5
 Public Const trvLinesSkew As Long = 6
 Public Const trvLinesCoincident As Long = 7
 
-' What came of two lines of space: a result, or the relation that allows none.
+' Outcome for two lines of space: a result, or the relation that allows no result.
 Public Const trvTwoLinesDone As Long = 0
 Public Const trvTwoLinesSameLine As Long = 3
 Public Const trvTwoLinesOppositeLine As Long = 4
@@ -717,21 +717,23 @@ Public Declare PtrSafe Sub trvlul Lib "Trelvin64.dll" Alias "trvlul" (ByRef a1 A
     ByRef c2 As Single, ByRef d As Single, ByRef status As Long)
 
 ' Which components of two triples differ by more than the tolerance.
-' code: which components differ by more than the tolerance (TrvComponents): 0 none: no component is;
-' 1 all: all three components are; 2 first: the first component alone is; 3 second: the second
-' component alone is; 4 third: the third component alone is; 5 first_second: the first and the
-' second component are; 6 second_third: the second and the third component are; 7 first_third: the
-' first and the third component are.
+' code: which components differ by more than the tolerance (TrvComponents): 0 none: no component is
+' above the tolerance; 1 all: all three components are above the tolerance; 2 first: only the first
+' component is above the tolerance; 3 second: only the second component is above the tolerance; 4
+' third: only the third component is above the tolerance; 5 first_second: only the first and the
+' second are above the tolerance; 6 second_third: only the second and the third are above the
+' tolerance; 7 first_third: only the first and the third are above the tolerance.
 Public Declare PtrSafe Sub trvpsn Lib "Trelvin64.dll" Alias "trvpsn" (ByRef p1 As Single, _
     ByRef p2 As Single, ByRef p3 As Single, ByRef q1 As Single, ByRef q2 As Single, _
     ByRef q3 As Single, ByRef code As Long)
 
 ' Whether a point lies on the line of space through P0 with direction D.
 ' code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
-' component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
-' the second component alone is; 4 third: the third component alone is; 5 first_second: the first
-' and the second component are; 6 second_third: the second and the third component are; 7
-' first_third: the first and the third component are.
+' component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+' only the first component is above the tolerance; 3 second: only the second component is above the
+' tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+' first and the second are above the tolerance; 6 second_third: only the second and the third are
+' above the tolerance; 7 first_third: only the first and the third are above the tolerance.
 ' on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is 0.
 Public Declare PtrSafe Sub trvln6 Lib "Trelvin64.dll" Alias "trvln6" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef dx As Single, ByRef dy As Single, _
@@ -740,10 +742,11 @@ Public Declare PtrSafe Sub trvln6 Lib "Trelvin64.dll" Alias "trvln6" (ByRef x0 A
 
 ' Line of two planes, and whether it agrees with a point at a retained station.
 ' code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
-' component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
-' the second component alone is; 4 third: the third component alone is; 5 first_second: the first
-' and the second component are; 6 second_third: the second and the third component are; 7
-' first_third: the first and the third component are.
+' component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+' only the first component is above the tolerance; 3 second: only the second component is above the
+' tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+' first and the second are above the tolerance; 6 second_third: only the second and the third are
+' above the tolerance; 7 first_third: only the first and the third are above the tolerance.
 ' on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the line at
 ' the station.
 Public Declare PtrSafe Sub trvln7 Lib "Trelvin64.dll" Alias "trvln7" (ByRef a1 As Single, _
@@ -1034,21 +1037,21 @@ Public Declare PtrSafe Sub trvmxt_fb Lib "Trelvin64.dll" Alias "trvmxt_fb" (ByRe
     ByRef Iw As Single, ByRef r0 As Single, ByRef W1 As Single, ByRef W2 As Single, _
     ByRef status As Long)
 
-' Turns plane points about the origin, in place.
+' Rotates plane points about the origin, in place.
 Public Declare PtrSafe Sub trvrot Lib "Trelvin64.dll" Alias "trvrot" (ByRef mode As Long, _
     ByRef x As Single, ByRef y As Single, ByRef n As Long, ByRef angle As Single)
 
-' Turns points about the x axis, in place.
+' Rotates points about the x axis, in place.
 Public Declare PtrSafe Sub trvrotx Lib "Trelvin64.dll" Alias "trvrotx" (ByRef mode As Long, _
     ByRef x As Single, ByRef y As Single, ByRef z As Single, ByRef n As Long, _
     ByRef angle As Single)
 
-' Turns points about the y axis, in place.
+' Rotates points about the y axis, in place.
 Public Declare PtrSafe Sub trvroty Lib "Trelvin64.dll" Alias "trvroty" (ByRef mode As Long, _
     ByRef x As Single, ByRef y As Single, ByRef z As Single, ByRef n As Long, _
     ByRef angle As Single)
 
-' Turns points about the z axis, in place.
+' Rotates points about the z axis, in place.
 Public Declare PtrSafe Sub trvrotz Lib "Trelvin64.dll" Alias "trvrotz" (ByRef mode As Long, _
     ByRef x As Single, ByRef y As Single, ByRef z As Single, ByRef n As Long, _
     ByRef angle As Single)
@@ -1092,12 +1095,12 @@ Public Declare PtrSafe Sub trvaxel Lib "Trelvin64.dll" Alias "trvaxel" (ByRef x0
     ByRef e1z As Single, ByRef e2x As Single, ByRef e2y As Single, ByRef e2z As Single, _
     ByRef e3x As Single, ByRef e3y As Single, ByRef e3z As Single, ByRef status As Long)
 
-' Shifts points and turns them about the global axes x, y and z, in this order and in place.
+' Shifts points and rotates them about the global axes x, y and z, in this order and in place.
 Public Declare PtrSafe Sub trvptr Lib "Trelvin64.dll" Alias "trvptr" (ByRef X As Single, _
     ByRef Y As Single, ByRef Z As Single, ByRef n As Long, ByRef x0 As Single, ByRef y0 As Single, _
     ByRef z0 As Single, ByRef ax As Single, ByRef ay As Single, ByRef az As Single)
 
-' Shifts points and turns them in the frame of three points, in place.
+' Shifts points and rotates them in the frame of three points, in place.
 ' status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1, or
 ' the three points are on one line (trvpsl).
 Public Declare PtrSafe Sub trvptrl Lib "Trelvin64.dll" Alias "trvptrl" (ByRef x0 As Single, _
@@ -1107,7 +1110,7 @@ Public Declare PtrSafe Sub trvptrl Lib "Trelvin64.dll" Alias "trvptrl" (ByRef x0
     ByRef dy As Single, ByRef dz As Single, ByRef ax As Single, ByRef ay As Single, _
     ByRef az As Single, ByRef status As Long)
 
-' Turns points about the axis from P0 through P1, in place.
+' Rotates points about the axis from P0 through P1, in place.
 ' status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0 and
 ' P1 is within the tolerance.
 Public Declare PtrSafe Sub trvpra Lib "Trelvin64.dll" Alias "trvpra" (ByRef x0 As Single, _
@@ -1115,7 +1118,8 @@ Public Declare PtrSafe Sub trvpra Lib "Trelvin64.dll" Alias "trvpra" (ByRef x0 A
     ByRef z1 As Single, ByRef X As Single, ByRef Y As Single, ByRef Z As Single, ByRef n As Long, _
     ByRef angle As Single, ByRef status As Long)
 
-' Turns points of a plane in the frame of the three points that span it, then shifts them, in place.
+' Rotates points of a plane in the frame of the three points that span it, then shifts them, in
+' place.
 ' status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three points
 ' are on one line (trvpsl); 1 to n: position of the first point off the plane.
 Public Declare PtrSafe Sub trvppc Lib "Trelvin64.dll" Alias "trvppc" (ByRef x0 As Single, _
@@ -1164,7 +1168,7 @@ Public Declare PtrSafe Sub trvpl3 Lib "Trelvin64.dll" Alias "trvpl3" (ByRef xa A
 
 ' Plane through a point, perpendicular to a segment.
 ' status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
-' coincide, each coordinate within the tolerance (trvcnt).
+' coincide within the tolerance in each coordinate (trvcnt).
 Public Declare PtrSafe Sub trvpl4 Lib "Trelvin64.dll" Alias "trvpl4" (ByRef x As Single, _
     ByRef y As Single, ByRef z As Single, ByRef xa As Single, ByRef ya As Single, _
     ByRef za As Single, ByRef xb As Single, ByRef yb As Single, ByRef zb As Single, _
@@ -1181,14 +1185,14 @@ Public Declare PtrSafe Sub trvpl5 Lib "Trelvin64.dll" Alias "trvpl5" (ByRef ix A
 ' Plane of two lines, each given by a point and a direction.
 ' status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
 ' same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
-' skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
+' skew: the lines are skew; 7 no_length: all components of a direction are within the tolerance.
 Public Declare PtrSafe Sub trvpl6 Lib "Trelvin64.dll" Alias "trvpl6" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
     ByRef wx As Single, ByRef wy As Single, ByRef wz As Single, ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef d As Single, ByRef status As Long)
 
-' Plane of three points turned about the line from P0 to P1.
+' Plane of three points, rotated about the line from P0 to P1.
 ' status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
 ' is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2 is between
 ' P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on
@@ -1200,8 +1204,8 @@ Public Declare PtrSafe Sub trvpl7 Lib "Trelvin64.dll" Alias "trvpl7" (ByRef x0 A
     ByRef d As Single, ByRef status As Long)
 
 ' Whether a point lies on the plane of three points.
-' status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1; -1
-' no: the point does not lie on the plane, or the three points span no plane (trvpsl).
+' status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which any point
+' does; -1 no: the point does not lie on the plane, or the three points span no plane (trvpsl).
 Public Declare PtrSafe Sub trvpsp Lib "Trelvin64.dll" Alias "trvpsp" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -1223,8 +1227,8 @@ Public Declare PtrSafe Sub trvpspg Lib "Trelvin64.dll" Alias "trvpspg" (ByRef x 
 ' Relation of two directions, taken as lines through the origin.
 ' status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same, opposite
 ' nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the directions are
-' opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is within the
-' tolerance in each component.
+' opposite; 5 perpendicular: the directions are perpendicular; 7 zero: all components of u, or of w,
+' are within the tolerance.
 Public Declare PtrSafe Sub trvplv Lib "Trelvin64.dll" Alias "trvplv" (ByRef ux As Single, _
     ByRef uy As Single, ByRef uz As Single, ByRef wx As Single, ByRef wy As Single, _
     ByRef wz As Single, ByRef v7 As Single, ByRef v8 As Single, ByRef status As Long)
@@ -1273,7 +1277,7 @@ Public Declare PtrSafe Sub trv3lda Lib "Trelvin64.dll" Alias "trv3lda" (ByRef xa
 ' Intersection of the lines A + t*u and C + s*w.
 ' status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
 ' same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
-' skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
+' skew: the lines are skew; 7 no_length: all components of a direction are within the tolerance.
 Public Declare PtrSafe Sub trv3lni Lib "Trelvin64.dll" Alias "trv3lni" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
@@ -1281,16 +1285,16 @@ Public Declare PtrSafe Sub trv3lni Lib "Trelvin64.dll" Alias "trv3lni" (ByRef xa
     ByRef xi As Single, ByRef yi As Single, ByRef zi As Single)
 
 ' Intersection of the line P + t*u with a plane.
-' status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the plane, the
-' cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within the
-' tolerance in each component.
+' status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the plane,
+' since the cosine of the angle between u and the normal is within the tolerance; 4 zero: all
+' components of u, or of the normal, are within the tolerance.
 Public Declare PtrSafe Sub trvpli Lib "Trelvin64.dll" Alias "trvpli" (ByRef x As Single, _
     ByRef y As Single, ByRef z As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef a As Single, ByRef b As Single, ByRef c As Single, _
     ByRef d As Single, ByRef xi As Single, ByRef yi As Single, ByRef zi As Single, _
     ByRef status As Long)
 
-' Position of a plane against the axes.
+' Position of a plane relative to the axes.
 ' position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
 ' parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the plane
 ' is parallel to the z axis; 5 normal_z: the plane is normal to the z axis; 6 normal_x: the plane is
@@ -1310,8 +1314,9 @@ Public Declare PtrSafe Sub trvpnl Lib "Trelvin64.dll" Alias "trvpnl" (ByRef xa A
 ' Carries a point along when the line through it is moved.
 ' status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3 moved_one_side:
 ' Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved, Q1 and Q2 are on
-' either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points for skew lines; 7
-' moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance.
+' either side of P; 6 moved_skew: Q2 is moved, although the lines count as skew because of rounding;
+' 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is within the tolerance
+' of P's although their distance is above it.
 Public Declare PtrSafe Sub trvlpc Lib "Trelvin64.dll" Alias "trvlpc" (ByRef xp As Single, _
     ByRef yp As Single, ByRef zp As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _

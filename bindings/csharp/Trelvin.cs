@@ -24,7 +24,7 @@ namespace Trelvin
         public const int trvStatusDone = 0;
         public const int trvStatusRefused = -1;
 
-        // Whether a point of an arc was found; note that 1 means done here.
+        // Whether a point of an arc was found. Caution: here 1 means done.
         public const int trvArcDone = 1;
         public const int trvArcRefused = 0;
 
@@ -56,7 +56,7 @@ namespace Trelvin
         public const int trvOnLineNo = 0;
         public const int trvOnLineYes = 1;
 
-        // Whether a point lies on a plane; note that 0 means yes.
+        // Whether a point lies on a plane. Caution: 0 means yes.
         public const int trvOnPlaneYes = 0;
         public const int trvOnPlaneNo = -1;
         public const int trvOnPlaneZeroNormal = 1;
@@ -84,7 +84,7 @@ namespace Trelvin
         public const int trvLinesSkew = 6;
         public const int trvLinesCoincident = 7;
 
-        // What came of two lines of space: a result, or the relation that allows none.
+        // Outcome for two lines of space: a result, or the relation that allows no result.
         public const int trvTwoLinesDone = 0;
         public const int trvTwoLinesSameLine = 3;
         public const int trvTwoLinesOppositeLine = 4;
@@ -1353,22 +1353,24 @@ namespace Trelvin
 
         /// <summary>Which components of two triples differ by more than the tolerance.</summary>
         /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0
-        /// none: no component is; 1 all: all three components are; 2 first: the first component
-        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
-        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
-        /// and the third component are; 7 first_third: the first and the third component
-        /// are.</remarks>
+        /// none: no component is above the tolerance; 1 all: all three components are above the
+        /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        /// second component is above the tolerance; 4 third: only the third component is above the
+        /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        /// second_third: only the second and the third are above the tolerance; 7 first_third: only
+        /// the first and the third are above the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpsn(ref float p1, ref float p2, ref float p3, ref float q1,
             ref float q2, ref float q3, ref int code);
 
         /// <summary>Which components of two triples differ by more than the tolerance.</summary>
         /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0
-        /// none: no component is; 1 all: all three components are; 2 first: the first component
-        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
-        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
-        /// and the third component are; 7 first_third: the first and the third component
-        /// are.</remarks>
+        /// none: no component is above the tolerance; 1 all: all three components are above the
+        /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        /// second component is above the tolerance; 4 third: only the third component is above the
+        /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        /// second_third: only the second and the third are above the tolerance; 7 first_third: only
+        /// the first and the third are above the tolerance.</remarks>
         public static void trvpsn(float p1, float p2, float p3, float q1, float q2, float q3,
             out int code)
         {
@@ -1379,11 +1381,13 @@ namespace Trelvin
         /// <summary>Whether a point lies on the line of space through P0 with direction
         /// D.</summary>
         /// <remarks>code: which components of (P0 + D) - P0 are above the tolerance
-        /// (TrvComponents): 0 none: no component is; 1 all: all three components are; 2 first: the
-        /// first component alone is; 3 second: the second component alone is; 4 third: the third
-        /// component alone is; 5 first_second: the first and the second component are; 6
-        /// second_third: the second and the third component are; 7 first_third: the first and the
-        /// third component are.</remarks>
+        /// (TrvComponents): 0 none: no component is above the tolerance; 1 all: all three
+        /// components are above the tolerance; 2 first: only the first component is above the
+        /// tolerance; 3 second: only the second component is above the tolerance; 4 third: only the
+        /// third component is above the tolerance; 5 first_second: only the first and the second
+        /// are above the tolerance; 6 second_third: only the second and the third are above the
+        /// tolerance; 7 first_third: only the first and the third are above the
+        /// tolerance.</remarks>
         /// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the
         /// line, or code is 0.</remarks>
         [DllImport(Library, ExactSpelling = true)]
@@ -1394,11 +1398,13 @@ namespace Trelvin
         /// <summary>Whether a point lies on the line of space through P0 with direction
         /// D.</summary>
         /// <remarks>code: which components of (P0 + D) - P0 are above the tolerance
-        /// (TrvComponents): 0 none: no component is; 1 all: all three components are; 2 first: the
-        /// first component alone is; 3 second: the second component alone is; 4 third: the third
-        /// component alone is; 5 first_second: the first and the second component are; 6
-        /// second_third: the second and the third component are; 7 first_third: the first and the
-        /// third component are.</remarks>
+        /// (TrvComponents): 0 none: no component is above the tolerance; 1 all: all three
+        /// components are above the tolerance; 2 first: only the first component is above the
+        /// tolerance; 3 second: only the second component is above the tolerance; 4 third: only the
+        /// third component is above the tolerance; 5 first_second: only the first and the second
+        /// are above the tolerance; 6 second_third: only the second and the third are above the
+        /// tolerance; 7 first_third: only the first and the third are above the
+        /// tolerance.</remarks>
         /// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the
         /// line, or code is 0.</remarks>
         public static void trvln6(float x0, float y0, float z0, float dx, float dy, float dz,
@@ -1412,11 +1418,12 @@ namespace Trelvin
         /// <summary>Line of two planes, and whether it agrees with a point at a retained
         /// station.</summary>
         /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents):
-        /// 0 none: no component is; 1 all: all three components are; 2 first: the first component
-        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
-        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
-        /// and the third component are; 7 first_third: the first and the third component
-        /// are.</remarks>
+        /// 0 none: no component is above the tolerance; 1 all: all three components are above the
+        /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        /// second component is above the tolerance; 4 third: only the third component is above the
+        /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        /// second_third: only the second and the third are above the tolerance; 7 first_third: only
+        /// the first and the third are above the tolerance.</remarks>
         /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
         /// not match the line at the station.</remarks>
         [DllImport(Library, ExactSpelling = true)]
@@ -1428,11 +1435,12 @@ namespace Trelvin
         /// <summary>Line of two planes, and whether it agrees with a point at a retained
         /// station.</summary>
         /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents):
-        /// 0 none: no component is; 1 all: all three components are; 2 first: the first component
-        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
-        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
-        /// and the third component are; 7 first_third: the first and the third component
-        /// are.</remarks>
+        /// 0 none: no component is above the tolerance; 1 all: all three components are above the
+        /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        /// second component is above the tolerance; 4 third: only the third component is above the
+        /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        /// second_third: only the second and the third are above the tolerance; 7 first_third: only
+        /// the first and the third are above the tolerance.</remarks>
         /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
         /// not match the line at the station.</remarks>
         public static void trvln7(float a1, float b1, float c1, float d1, float a2, float b2,
@@ -2168,45 +2176,45 @@ namespace Trelvin
 
         // Rotations about the origin and the axes
 
-        /// <summary>Turns plane points about the origin, in place.</summary>
+        /// <summary>Rotates plane points about the origin, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvrot(ref int mode, [In, Out] float[] x, [In, Out] float[] y,
             ref int n, ref float angle);
 
-        /// <summary>Turns plane points about the origin, in place.</summary>
+        /// <summary>Rotates plane points about the origin, in place.</summary>
         public static void trvrot(int mode, float[] x, float[] y, int n, float angle)
         {
             trvrot(ref mode, x, y, ref n, ref angle);
         }
 
-        /// <summary>Turns points about the x axis, in place.</summary>
+        /// <summary>Rotates points about the x axis, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvrotx(ref int mode, [In] float[] x, [In, Out] float[] y,
             [In, Out] float[] z, ref int n, ref float angle);
 
-        /// <summary>Turns points about the x axis, in place.</summary>
+        /// <summary>Rotates points about the x axis, in place.</summary>
         public static void trvrotx(int mode, float[] x, float[] y, float[] z, int n, float angle)
         {
             trvrotx(ref mode, x, y, z, ref n, ref angle);
         }
 
-        /// <summary>Turns points about the y axis, in place.</summary>
+        /// <summary>Rotates points about the y axis, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvroty(ref int mode, [In, Out] float[] x, [In] float[] y,
             [In, Out] float[] z, ref int n, ref float angle);
 
-        /// <summary>Turns points about the y axis, in place.</summary>
+        /// <summary>Rotates points about the y axis, in place.</summary>
         public static void trvroty(int mode, float[] x, float[] y, float[] z, int n, float angle)
         {
             trvroty(ref mode, x, y, z, ref n, ref angle);
         }
 
-        /// <summary>Turns points about the z axis, in place.</summary>
+        /// <summary>Rotates points about the z axis, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvrotz(ref int mode, [In, Out] float[] x, [In, Out] float[] y,
             [In] float[] z, ref int n, ref float angle);
 
-        /// <summary>Turns points about the z axis, in place.</summary>
+        /// <summary>Rotates points about the z axis, in place.</summary>
         public static void trvrotz(int mode, float[] x, float[] y, float[] z, int n, float angle)
         {
             trvrotz(ref mode, x, y, z, ref n, ref angle);
@@ -2307,14 +2315,14 @@ namespace Trelvin
                 ref e1z, ref e2x, ref e2y, ref e2z, ref e3x, ref e3y, ref e3z, ref status);
         }
 
-        /// <summary>Shifts points and turns them about the global axes x, y and z, in this order
+        /// <summary>Shifts points and rotates them about the global axes x, y and z, in this order
         /// and in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptr([In, Out] float[] X, [In, Out] float[] Y,
             [In, Out] float[] Z, ref int n, ref float x0, ref float y0, ref float z0, ref float ax,
             ref float ay, ref float az);
 
-        /// <summary>Shifts points and turns them about the global axes x, y and z, in this order
+        /// <summary>Shifts points and rotates them about the global axes x, y and z, in this order
         /// and in place.</summary>
         public static void trvptr(float[] X, float[] Y, float[] Z, int n, float x0, float y0,
             float z0, float ax, float ay, float az)
@@ -2322,7 +2330,8 @@ namespace Trelvin
             trvptr(X, Y, Z, ref n, ref x0, ref y0, ref z0, ref ax, ref ay, ref az);
         }
 
-        /// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
+        /// <summary>Shifts points and rotates them in the frame of three points, in
+        /// place.</summary>
         /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2
         /// is at P0 or P1, or the three points are on one line (trvpsl).</remarks>
         [DllImport(Library, ExactSpelling = true)]
@@ -2331,7 +2340,8 @@ namespace Trelvin
             [In, Out] float[] X, [In, Out] float[] Y, [In, Out] float[] Z, ref int n, ref float dx,
             ref float dy, ref float dz, ref float ax, ref float ay, ref float az, ref int status);
 
-        /// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
+        /// <summary>Shifts points and rotates them in the frame of three points, in
+        /// place.</summary>
         /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2
         /// is at P0 or P1, or the three points are on one line (trvpsl).</remarks>
         public static void trvptrl(float x0, float y0, float z0, float x1, float y1, float z1,
@@ -2343,7 +2353,7 @@ namespace Trelvin
                 ref n, ref dx, ref dy, ref dz, ref ax, ref ay, ref az, ref status);
         }
 
-        /// <summary>Turns points about the axis from P0 through P1, in place.</summary>
+        /// <summary>Rotates points about the axis from P0 through P1, in place.</summary>
         /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
         /// distance of P0 and P1 is within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
@@ -2351,7 +2361,7 @@ namespace Trelvin
             ref float y1, ref float z1, [In, Out] float[] X, [In, Out] float[] Y,
             [In, Out] float[] Z, ref int n, ref float angle, ref int status);
 
-        /// <summary>Turns points about the axis from P0 through P1, in place.</summary>
+        /// <summary>Rotates points about the axis from P0 through P1, in place.</summary>
         /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
         /// distance of P0 and P1 is within the tolerance.</remarks>
         public static void trvpra(float x0, float y0, float z0, float x1, float y1, float z1,
@@ -2362,7 +2372,7 @@ namespace Trelvin
                 ref status);
         }
 
-        /// <summary>Turns points of a plane in the frame of the three points that span it, then
+        /// <summary>Rotates points of a plane in the frame of the three points that span it, then
         /// shifts them, in place.</summary>
         /// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1,
         /// or the three points are on one line (trvpsl); 1 to n: position of the first point off
@@ -2374,7 +2384,7 @@ namespace Trelvin
             [In, Out] float[] X, [In, Out] float[] Y, [In, Out] float[] Z, ref float tol,
             ref int status);
 
-        /// <summary>Turns points of a plane in the frame of the three points that span it, then
+        /// <summary>Rotates points of a plane in the frame of the three points that span it, then
         /// shifts them, in place.</summary>
         /// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1,
         /// or the three points are on one line (trvpsl); 1 to n: position of the first point off
@@ -2482,7 +2492,7 @@ namespace Trelvin
 
         /// <summary>Plane through a point, perpendicular to a segment.</summary>
         /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1
-        /// coincident: A and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
+        /// coincident: A and B coincide within the tolerance in each coordinate (trvcnt).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl4(ref float x, ref float y, ref float z, ref float xa,
             ref float ya, ref float za, ref float xb, ref float yb, ref float zb, ref float a,
@@ -2490,7 +2500,7 @@ namespace Trelvin
 
         /// <summary>Plane through a point, perpendicular to a segment.</summary>
         /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1
-        /// coincident: A and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
+        /// coincident: A and B coincide within the tolerance in each coordinate (trvcnt).</remarks>
         public static void trvpl4(float x, float y, float z, float xa, float ya, float za, float xb,
             float yb, float zb, out float a, out float b, out float c, out float d, out int status)
         {
@@ -2521,8 +2531,8 @@ namespace Trelvin
         /// <summary>Plane of two lines, each given by a point and a direction.</summary>
         /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
         /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
-        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
-        /// the tolerance in each component.</remarks>
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: all components of a
+        /// direction are within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl6(ref float xa, ref float ya, ref float za, ref float ux,
             ref float uy, ref float uz, ref float xc, ref float yc, ref float zc, ref float wx,
@@ -2532,8 +2542,8 @@ namespace Trelvin
         /// <summary>Plane of two lines, each given by a point and a direction.</summary>
         /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
         /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
-        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
-        /// the tolerance in each component.</remarks>
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: all components of a
+        /// direction are within the tolerance.</remarks>
         public static void trvpl6(float xa, float ya, float za, float ux, float uy, float uz,
             float xc, float yc, float zc, float wx, float wy, float wz, out float a, out float b,
             out float c, out float d, out int status)
@@ -2544,7 +2554,7 @@ namespace Trelvin
                 ref wy, ref wz, ref a, ref b, ref c, ref d, ref status);
         }
 
-        /// <summary>Plane of three points turned about the line from P0 to P1.</summary>
+        /// <summary>Plane of three points, rotated about the line from P0 to P1.</summary>
         /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
         /// plane; 1 at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at
         /// P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0
@@ -2554,7 +2564,7 @@ namespace Trelvin
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float angle,
             ref float a, ref float b, ref float c, ref float d, ref int status);
 
-        /// <summary>Plane of three points turned about the line from P0 to P1.</summary>
+        /// <summary>Plane of three points, rotated about the line from P0 to P1.</summary>
         /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
         /// plane; 1 at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at
         /// P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0
@@ -2570,18 +2580,18 @@ namespace Trelvin
         }
 
         /// <summary>Whether a point lies on the plane of three points.</summary>
-        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point
-        /// does if P0 = P1; -1 no: the point does not lie on the plane, or the three points span no
-        /// plane (trvpsl).</remarks>
+        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for
+        /// which any point does; -1 no: the point does not lie on the plane, or the three points
+        /// span no plane (trvpsl).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpsp(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float x,
             ref float y, ref float z, ref float tol, ref int status);
 
         /// <summary>Whether a point lies on the plane of three points.</summary>
-        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point
-        /// does if P0 = P1; -1 no: the point does not lie on the plane, or the three points span no
-        /// plane (trvpsl).</remarks>
+        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for
+        /// which any point does; -1 no: the point does not lie on the plane, or the three points
+        /// span no plane (trvpsl).</remarks>
         public static void trvpsp(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, float x, float y, float z, float tol, out int status)
         {
@@ -2626,7 +2636,7 @@ namespace Trelvin
         /// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither
         /// the same, opposite nor perpendicular directions; 3 same: the directions are the same; 4
         /// opposite: the directions are opposite; 5 perpendicular: the directions are
-        /// perpendicular; 7 zero: u or w is within the tolerance in each component.</remarks>
+        /// perpendicular; 7 zero: all components of u, or of w, are within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvplv(ref float ux, ref float uy, ref float uz, ref float wx,
             ref float wy, ref float wz, ref float v7, ref float v8, ref int status);
@@ -2635,7 +2645,7 @@ namespace Trelvin
         /// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither
         /// the same, opposite nor perpendicular directions; 3 same: the directions are the same; 4
         /// opposite: the directions are opposite; 5 perpendicular: the directions are
-        /// perpendicular; 7 zero: u or w is within the tolerance in each component.</remarks>
+        /// perpendicular; 7 zero: all components of u, or of w, are within the tolerance.</remarks>
         public static void trvplv(float ux, float uy, float uz, float wx, float wy, float wz,
             float v7, float v8, out int status)
         {
@@ -2748,8 +2758,8 @@ namespace Trelvin
         /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
         /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
         /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
-        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
-        /// the tolerance in each component.</remarks>
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: all components of a
+        /// direction are within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trv3lni(ref float xa, ref float ya, ref float za, ref float ux,
             ref float uy, ref float uz, ref float xc, ref float yc, ref float zc, ref float wx,
@@ -2758,8 +2768,8 @@ namespace Trelvin
         /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
         /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
         /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
-        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
-        /// the tolerance in each component.</remarks>
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: all components of a
+        /// direction are within the tolerance.</remarks>
         public static void trv3lni(ref float xa, ref float ya, ref float za, float ux, float uy,
             float uz, ref float xc, ref float yc, ref float zc, float wx, float wy, float wz,
             out int status, ref float xi, ref float yi, out float zi)
@@ -2772,8 +2782,9 @@ namespace Trelvin
 
         /// <summary>Intersection of the line P + t*u with a plane.</summary>
         /// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is
-        /// parallel to the plane, the cosine of u and the normal is within the tolerance; 4 zero: u
-        /// or the normal is within the tolerance in each component.</remarks>
+        /// parallel to the plane, since the cosine of the angle between u and the normal is within
+        /// the tolerance; 4 zero: all components of u, or of the normal, are within the
+        /// tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpli(ref float x, ref float y, ref float z, ref float ux,
             ref float uy, ref float uz, ref float a, ref float b, ref float c, ref float d,
@@ -2781,8 +2792,9 @@ namespace Trelvin
 
         /// <summary>Intersection of the line P + t*u with a plane.</summary>
         /// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is
-        /// parallel to the plane, the cosine of u and the normal is within the tolerance; 4 zero: u
-        /// or the normal is within the tolerance in each component.</remarks>
+        /// parallel to the plane, since the cosine of the angle between u and the normal is within
+        /// the tolerance; 4 zero: all components of u, or of the normal, are within the
+        /// tolerance.</remarks>
         public static void trvpli(float x, float y, float z, float ux, float uy, float uz, float a,
             float b, float c, float d, out float xi, out float yi, out float zi, out int status)
         {
@@ -2792,7 +2804,7 @@ namespace Trelvin
                 ref yi, ref zi, ref status);
         }
 
-        /// <summary>Position of a plane against the axes.</summary>
+        /// <summary>Position of a plane relative to the axes.</summary>
         /// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x:
         /// the plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis;
         /// 4 parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to
@@ -2803,7 +2815,7 @@ namespace Trelvin
         public static extern void trvplp(ref float a, ref float b, ref float c, ref float d,
             ref int position);
 
-        /// <summary>Position of a plane against the axes.</summary>
+        /// <summary>Position of a plane relative to the axes.</summary>
         /// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x:
         /// the plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis;
         /// 4 parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to
@@ -2837,9 +2849,10 @@ namespace Trelvin
         /// <summary>Carries a point along when the line through it is moved.</summary>
         /// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at
         /// P; 3 moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side:
-        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding
-        /// takes the three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is
-        /// by each coordinate yet not by its distance.</remarks>
+        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the
+        /// lines count as skew because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P,
+        /// or each coordinate of Q1 is within the tolerance of P's although their distance is above
+        /// it.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvlpc(ref float xp, ref float yp, ref float zp, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float dxp,
@@ -2849,9 +2862,10 @@ namespace Trelvin
         /// <summary>Carries a point along when the line through it is moved.</summary>
         /// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at
         /// P; 3 moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side:
-        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding
-        /// takes the three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is
-        /// by each coordinate yet not by its distance.</remarks>
+        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the
+        /// lines count as skew because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P,
+        /// or each coordinate of Q1 is within the tolerance of P's although their distance is above
+        /// it.</remarks>
         public static void trvlpc(float xp, float yp, float zp, float x1, float y1, float z1,
             ref float x2, ref float y2, ref float z2, float dxp, float dyp, float dzp, float dx1,
             float dy1, float dz1, out int status)

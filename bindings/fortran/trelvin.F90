@@ -23,7 +23,7 @@ module trelvin
   integer(c_int32_t), parameter :: trv_status_done = 0
   integer(c_int32_t), parameter :: trv_status_refused = -1
 
-  ! Whether a point of an arc was found; note that 1 means done here.
+  ! Whether a point of an arc was found. Caution: here 1 means done.
   integer(c_int32_t), parameter :: trv_arc_done = 1
   integer(c_int32_t), parameter :: trv_arc_refused = 0
 
@@ -54,7 +54,7 @@ module trelvin
   integer(c_int32_t), parameter :: trv_on_line_no = 0
   integer(c_int32_t), parameter :: trv_on_line_yes = 1
 
-  ! Whether a point lies on a plane; note that 0 means yes.
+  ! Whether a point lies on a plane. Caution: 0 means yes.
   integer(c_int32_t), parameter :: trv_on_plane_yes = 0
   integer(c_int32_t), parameter :: trv_on_plane_no = -1
   integer(c_int32_t), parameter :: trv_on_plane_zero_normal = 1
@@ -82,7 +82,7 @@ module trelvin
   integer(c_int32_t), parameter :: trv_lines_skew = 6
   integer(c_int32_t), parameter :: trv_lines_coincident = 7
 
-  ! What came of two lines of space: a result, or the relation that allows none.
+  ! Outcome for two lines of space: a result, or the relation that allows no result.
   integer(c_int32_t), parameter :: trv_two_lines_done = 0
   integer(c_int32_t), parameter :: trv_two_lines_same_line = 3
   integer(c_int32_t), parameter :: trv_two_lines_opposite_line = 4
@@ -1025,10 +1025,12 @@ module trelvin
 
     !> Which components of two triples differ by more than the tolerance.
     !! code: which components differ by more than the tolerance (TrvComponents): 0 none: no
-    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
-    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-    !! the first and the second component are; 6 second_third: the second and the third component
-    !! are; 7 first_third: the first and the third component are.
+    !! component is above the tolerance; 1 all: all three components are above the tolerance; 2
+    !! first: only the first component is above the tolerance; 3 second: only the second component
+    !! is above the tolerance; 4 third: only the third component is above the tolerance; 5
+    !! first_second: only the first and the second are above the tolerance; 6 second_third: only the
+    !! second and the third are above the tolerance; 7 first_third: only the first and the third are
+    !! above the tolerance.
     subroutine trvpsn(p1, p2, p3, q1, q2, q3, code) bind(c, name="trvpsn")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpsn
@@ -1038,10 +1040,12 @@ module trelvin
 
     !> Whether a point lies on the line of space through P0 with direction D.
     !! code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
-    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
-    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-    !! the first and the second component are; 6 second_third: the second and the third component
-    !! are; 7 first_third: the first and the third component are.
+    !! component is above the tolerance; 1 all: all three components are above the tolerance; 2
+    !! first: only the first component is above the tolerance; 3 second: only the second component
+    !! is above the tolerance; 4 third: only the third component is above the tolerance; 5
+    !! first_second: only the first and the second are above the tolerance; 6 second_third: only the
+    !! second and the third are above the tolerance; 7 first_third: only the first and the third are
+    !! above the tolerance.
     !! on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is
     !! 0.
     subroutine trvln6(x0, y0, z0, dx, dy, dz, px, py, pz, tol, code, on) bind(c, name="trvln6")
@@ -1053,10 +1057,12 @@ module trelvin
 
     !> Line of two planes, and whether it agrees with a point at a retained station.
     !! code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
-    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
-    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-    !! the first and the second component are; 6 second_third: the second and the third component
-    !! are; 7 first_third: the first and the third component are.
+    !! component is above the tolerance; 1 all: all three components are above the tolerance; 2
+    !! first: only the first component is above the tolerance; 3 second: only the second component
+    !! is above the tolerance; 4 third: only the third component is above the tolerance; 5
+    !! first_second: only the first and the second are above the tolerance; 6 second_third: only the
+    !! second and the third are above the tolerance; 7 first_third: only the first and the third are
+    !! above the tolerance.
     !! on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the
     !! line at the station.
     subroutine trvln7(a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz, ex, ey, ez, tol, code, &
@@ -1525,7 +1531,7 @@ module trelvin
 
     ! Rotations about the origin and the axes
 
-    !> Turns plane points about the origin, in place.
+    !> Rotates plane points about the origin, in place.
     subroutine trvrot(mode, x, y, n, angle) bind(c, name="trvrot")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvrot
@@ -1535,7 +1541,7 @@ module trelvin
       real(c_float), intent(in) :: angle
     end subroutine
 
-    !> Turns points about the x axis, in place.
+    !> Rotates points about the x axis, in place.
     subroutine trvrotx(mode, x, y, z, n, angle) bind(c, name="trvrotx")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvrotx
@@ -1546,7 +1552,7 @@ module trelvin
       real(c_float), intent(in) :: angle
     end subroutine
 
-    !> Turns points about the y axis, in place.
+    !> Rotates points about the y axis, in place.
     subroutine trvroty(mode, x, y, z, n, angle) bind(c, name="trvroty")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvroty
@@ -1558,7 +1564,7 @@ module trelvin
       real(c_float), intent(in) :: angle
     end subroutine
 
-    !> Turns points about the z axis, in place.
+    !> Rotates points about the z axis, in place.
     subroutine trvrotz(mode, x, y, z, n, angle) bind(c, name="trvrotz")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvrotz
@@ -1624,7 +1630,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Shifts points and turns them about the global axes x, y and z, in this order and in place.
+    !> Shifts points and rotates them about the global axes x, y and z, in this order and in place.
     subroutine trvptr(X, Y, Z, n, x0, y0, z0, ax, ay, az) bind(c, name="trvptr")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvptr
@@ -1633,7 +1639,7 @@ module trelvin
       real(c_float), intent(in) :: x0, y0, z0, ax, ay, az
     end subroutine
 
-    !> Shifts points and turns them in the frame of three points, in place.
+    !> Shifts points and rotates them in the frame of three points, in place.
     !! status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1,
     !! or the three points are on one line (trvpsl).
     subroutine trvptrl(x0, y0, z0, x1, y1, z1, x2, y2, z2, X, Y, Z, n, dx, dy, dz, ax, ay, az, &
@@ -1647,7 +1653,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Turns points about the axis from P0 through P1, in place.
+    !> Rotates points about the axis from P0 through P1, in place.
     !! status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0
     !! and P1 is within the tolerance.
     subroutine trvpra(x0, y0, z0, x1, y1, z1, X, Y, Z, n, angle, status) bind(c, name="trvpra")
@@ -1660,7 +1666,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Turns points of a plane in the frame of the three points that span it, then shifts them, in
+    !> Rotates points of a plane in the frame of the three points that span it, then shifts them, in
     !! place.
     !! status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three
     !! points are on one line (trvpsl); 1 to n: position of the first point off the plane.
@@ -1726,7 +1732,7 @@ module trelvin
 
     !> Plane through a point, perpendicular to a segment.
     !! status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
-    !! coincide, each coordinate within the tolerance (trvcnt).
+    !! coincide within the tolerance in each coordinate (trvcnt).
     subroutine trvpl4(x, y, z, xa, ya, za, xb, yb, zb, a, b, c, d, status) bind(c, name="trvpl4")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpl4
@@ -1749,8 +1755,8 @@ module trelvin
     !> Plane of two lines, each given by a point and a direction.
     !! status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
     !! the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-    !! direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in
-    !! each component.
+    !! direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are within
+    !! the tolerance.
     subroutine trvpl6(xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy, wz, a, b, c, d, &
         status) bind(c, name="trvpl6")
       import :: c_float, c_int32_t
@@ -1760,7 +1766,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Plane of three points turned about the line from P0 to P1.
+    !> Plane of three points, rotated about the line from P0 to P1.
     !! status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
     !! at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between:
     !! P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1:
@@ -1775,8 +1781,9 @@ module trelvin
     end subroutine
 
     !> Whether a point lies on the plane of three points.
-    !! status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1;
-    !! -1 no: the point does not lie on the plane, or the three points span no plane (trvpsl).
+    !! status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which any
+    !! point does; -1 no: the point does not lie on the plane, or the three points span no plane
+    !! (trvpsl).
     subroutine trvpsp(x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z, tol, &
         status) bind(c, name="trvpsp")
       import :: c_float, c_int32_t
@@ -1806,8 +1813,8 @@ module trelvin
     !> Relation of two directions, taken as lines through the origin.
     !! status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
     !! opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the
-    !! directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is
-    !! within the tolerance in each component.
+    !! directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: all
+    !! components of u, or of w, are within the tolerance.
     subroutine trvplv(ux, uy, uz, wx, wy, wz, v7, v8, status) bind(c, name="trvplv")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvplv
@@ -1878,8 +1885,8 @@ module trelvin
     !> Intersection of the lines A + t*u and C + s*w.
     !! status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
     !! the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-    !! direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in
-    !! each component.
+    !! direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are within
+    !! the tolerance.
     subroutine trv3lni(xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy, wz, status, xi, yi, &
         zi) bind(c, name="trv3lni")
       import :: c_float, c_int32_t
@@ -1894,8 +1901,8 @@ module trelvin
 
     !> Intersection of the line P + t*u with a plane.
     !! status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
-    !! plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is
-    !! within the tolerance in each component.
+    !! plane, since the cosine of the angle between u and the normal is within the tolerance; 4
+    !! zero: all components of u, or of the normal, are within the tolerance.
     subroutine trvpli(x, y, z, ux, uy, uz, a, b, c, d, xi, yi, zi, status) bind(c, name="trvpli")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpli
@@ -1904,7 +1911,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Position of a plane against the axes.
+    !> Position of a plane relative to the axes.
     !! position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
     !! parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the
     !! plane is parallel to the z axis; 5 normal_z: the plane is normal to the z axis; 6 normal_x:
@@ -1936,9 +1943,9 @@ module trelvin
     !> Carries a point along when the line through it is moved.
     !! status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
     !! moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is
-    !! moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three
-    !! points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet
-    !! not by its distance.
+    !! moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the lines count
+    !! as skew because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each
+    !! coordinate of Q1 is within the tolerance of P's although their distance is above it.
     subroutine trvlpc(xp, yp, zp, x1, y1, z1, x2, y2, z2, dxp, dyp, dzp, dx1, dy1, dz1, &
         status) bind(c, name="trvlpc")
       import :: c_float, c_int32_t

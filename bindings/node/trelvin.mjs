@@ -13,7 +13,7 @@ export const version = "1.1.1";
 export const trvStatusDone = 0;
 export const trvStatusRefused = -1;
 
-// Whether a point of an arc was found; note that 1 means done here.
+// Whether a point of an arc was found. Caution: here 1 means done.
 export const trvArcDone = 1;
 export const trvArcRefused = 0;
 
@@ -44,7 +44,7 @@ export const trvComponentsFirstThird = 7;
 export const trvOnLineNo = 0;
 export const trvOnLineYes = 1;
 
-// Whether a point lies on a plane; note that 0 means yes.
+// Whether a point lies on a plane. Caution: 0 means yes.
 export const trvOnPlaneYes = 0;
 export const trvOnPlaneNo = -1;
 export const trvOnPlaneZeroNormal = 1;
@@ -72,7 +72,7 @@ export const trvLinesPerpendicular = 5;
 export const trvLinesSkew = 6;
 export const trvLinesCoincident = 7;
 
-// What came of two lines of space: a result, or the relation that allows none.
+// Outcome for two lines of space: a result, or the relation that allows no result.
 export const trvTwoLinesDone = 0;
 export const trvTwoLinesSameLine = 3;
 export const trvTwoLinesOppositeLine = 4;
@@ -1001,11 +1001,12 @@ export const trvlul = routine("trvlul", ["in real a1", "in real b1", "in real c1
 /**
  * Which components of two triples differ by more than the tolerance.
  *
- * code: which components differ by more than the tolerance (TrvComponents): 0 none: no component
- * is; 1 all: all three components are; 2 first: the first component alone is; 3 second: the second
- * component alone is; 4 third: the third component alone is; 5 first_second: the first and the
- * second component are; 6 second_third: the second and the third component are; 7 first_third: the
- * first and the third component are.
+ * code: which components differ by more than the tolerance (TrvComponents): 0 none: no component is
+ * above the tolerance; 1 all: all three components are above the tolerance; 2 first: only the first
+ * component is above the tolerance; 3 second: only the second component is above the tolerance; 4
+ * third: only the third component is above the tolerance; 5 first_second: only the first and the
+ * second are above the tolerance; 6 second_third: only the second and the third are above the
+ * tolerance; 7 first_third: only the first and the third are above the tolerance.
  *
  * @type {(p1: number, p2: number, p3: number, q1: number, q2: number, q3: number) => {code:
  *   number}}
@@ -1017,10 +1018,11 @@ export const trvpsn = routine("trvpsn", ["in real p1", "in real p2", "in real p3
  * Whether a point lies on the line of space through P0 with direction D.
  *
  * code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
- * component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
- * the second component alone is; 4 third: the third component alone is; 5 first_second: the first
- * and the second component are; 6 second_third: the second and the third component are; 7
- * first_third: the first and the third component are.
+ * component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+ * only the first component is above the tolerance; 3 second: only the second component is above the
+ * tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+ * first and the second are above the tolerance; 6 second_third: only the second and the third are
+ * above the tolerance; 7 first_third: only the first and the third are above the tolerance.
  *
  * on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is 0.
  *
@@ -1035,10 +1037,11 @@ export const trvln6 = routine("trvln6", ["in real x0", "in real y0", "in real z0
  * Line of two planes, and whether it agrees with a point at a retained station.
  *
  * code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
- * component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
- * the second component alone is; 4 third: the third component alone is; 5 first_second: the first
- * and the second component are; 6 second_third: the second and the third component are; 7
- * first_third: the first and the third component are.
+ * component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+ * only the first component is above the tolerance; 3 second: only the second component is above the
+ * tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+ * first and the second are above the tolerance; 6 second_third: only the second and the third are
+ * above the tolerance; 7 first_third: only the first and the third are above the tolerance.
  *
  * on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the line
  * at the station.
@@ -1536,7 +1539,7 @@ export const trvmxt_fb = routine("trvmxt_fb", ["in real B", "in real H", "out re
 // Rotations about the origin and the axes
 
 /**
- * Turns plane points about the origin, in place.
+ * Rotates plane points about the origin, in place.
  *
  * @type {(mode: number, x: Numbers, y: Numbers, angle: number, counts?: {n?: number}) => {x:
  *   Float32Array, y: Float32Array}}
@@ -1545,7 +1548,7 @@ export const trvrot = routine("trvrot", ["in int mode", "inout real x[n]", "inou
   "in int n = x y", "in real angle"]);
 
 /**
- * Turns points about the x axis, in place.
+ * Rotates points about the x axis, in place.
  *
  * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
  *   => {y: Float32Array, z: Float32Array}}
@@ -1554,7 +1557,7 @@ export const trvrotx = routine("trvrotx", ["in int mode", "in real x[0]", "inout
   "inout real z[n]", "in int n = y z", "in real angle"]);
 
 /**
- * Turns points about the y axis, in place.
+ * Rotates points about the y axis, in place.
  *
  * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
  *   => {x: Float32Array, z: Float32Array}}
@@ -1563,7 +1566,7 @@ export const trvroty = routine("trvroty", ["in int mode", "inout real x[n]", "in
   "inout real z[n]", "in int n = x z", "in real angle"]);
 
 /**
- * Turns points about the z axis, in place.
+ * Rotates points about the z axis, in place.
  *
  * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
  *   => {x: Float32Array, y: Float32Array}}
@@ -1636,7 +1639,7 @@ export const trvaxel = routine("trvaxel", ["in real x0", "in real y0", "in real 
   "out int status"]);
 
 /**
- * Shifts points and turns them about the global axes x, y and z, in this order and in place.
+ * Shifts points and rotates them about the global axes x, y and z, in this order and in place.
  *
  * @type {(X: Numbers, Y: Numbers, Z: Numbers, x0: number, y0: number, z0: number, ax: number, ay:
  *   number, az: number, counts?: {n?: number}) => {X: Float32Array, Y: Float32Array, Z:
@@ -1647,7 +1650,7 @@ export const trvptr = routine("trvptr", ["inout real X[n]", "inout real Y[n]", "
   "in real az"]);
 
 /**
- * Shifts points and turns them in the frame of three points, in place.
+ * Shifts points and rotates them in the frame of three points, in place.
  *
  * status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1, or
  * the three points are on one line (trvpsl).
@@ -1663,7 +1666,7 @@ export const trvptrl = routine("trvptrl", ["in real x0", "in real y0", "in real 
   "in real dz", "in real ax", "in real ay", "in real az", "out int status"]);
 
 /**
- * Turns points about the axis from P0 through P1, in place.
+ * Rotates points about the axis from P0 through P1, in place.
  *
  * status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0 and
  * P1 is within the tolerance.
@@ -1677,7 +1680,7 @@ export const trvpra = routine("trvpra", ["in real x0", "in real y0", "in real z0
   "in int n = X Y Z", "in real angle", "out int status"]);
 
 /**
- * Turns points of a plane in the frame of the three points that span it, then shifts them, in
+ * Rotates points of a plane in the frame of the three points that span it, then shifts them, in
  * place.
  *
  * status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three
@@ -1754,7 +1757,7 @@ export const trvpl3 = routine("trvpl3", ["in real xa", "in real ya", "in real za
  * Plane through a point, perpendicular to a segment.
  *
  * status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
- * coincide, each coordinate within the tolerance (trvcnt).
+ * coincide within the tolerance in each coordinate (trvcnt).
  *
  * @type {(x: number, y: number, z: number, xa: number, ya: number, za: number, xb: number, yb:
  *   number, zb: number) => {a: number, b: number, c: number, d: number, status: number}}
@@ -1780,7 +1783,7 @@ export const trvpl5 = routine("trvpl5", ["in real ix", "in real iy", "in real iz
  *
  * status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
  * same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
- * skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
+ * skew: the lines are skew; 7 no_length: all components of a direction are within the tolerance.
  *
  * @type {(xa: number, ya: number, za: number, ux: number, uy: number, uz: number, xc: number, yc:
  *   number, zc: number, wx: number, wy: number, wz: number) => {a: number, b: number, c: number, d:
@@ -1791,7 +1794,7 @@ export const trvpl6 = routine("trvpl6", ["in real xa", "in real ya", "in real za
   "in real wz", "out real a", "out real b", "out real c", "out real d", "out int status"]);
 
 /**
- * Plane of three points turned about the line from P0 to P1.
+ * Plane of three points, rotated about the line from P0 to P1.
  *
  * status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
  * is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2 is between
@@ -1809,8 +1812,8 @@ export const trvpl7 = routine("trvpl7", ["in real x0", "in real y0", "in real z0
 /**
  * Whether a point lies on the plane of three points.
  *
- * status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1; -1
- * no: the point does not lie on the plane, or the three points span no plane (trvpsl).
+ * status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which any point
+ * does; -1 no: the point does not lie on the plane, or the three points span no plane (trvpsl).
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, x: number, y: number, z: number, tol: number) => {status: number}}
@@ -1845,8 +1848,8 @@ export const trvpspg = routine("trvpspg", ["in real x", "in real y", "in real z"
  *
  * status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
  * opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the
- * directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is
- * within the tolerance in each component.
+ * directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: all
+ * components of u, or of w, are within the tolerance.
  *
  * @type {(ux: number, uy: number, uz: number, wx: number, wy: number, wz: number, v7: number, v8:
  *   number) => {status: number}}
@@ -1927,7 +1930,7 @@ export const trv3lda = routine("trv3lda", ["in real xa", "in real ya", "in real 
  *
  * status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
  * same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
- * skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
+ * skew: the lines are skew; 7 no_length: all components of a direction are within the tolerance.
  *
  * @type {(xa: number, ya: number, za: number, ux: number, uy: number, uz: number, xc: number, yc:
  *   number, zc: number, wx: number, wy: number, wz: number, xi: number, yi: number) => {xa: number,
@@ -1943,8 +1946,8 @@ export const trv3lni = routine("trv3lni", ["inout real xa", "inout real ya", "in
  * Intersection of the line P + t*u with a plane.
  *
  * status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the plane,
- * the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within the
- * tolerance in each component.
+ * since the cosine of the angle between u and the normal is within the tolerance; 4 zero: all
+ * components of u, or of the normal, are within the tolerance.
  *
  * @type {(x: number, y: number, z: number, ux: number, uy: number, uz: number, a: number, b:
  *   number, c: number, d: number) => {xi: number, yi: number, zi: number, status: number}}
@@ -1954,7 +1957,7 @@ export const trvpli = routine("trvpli", ["in real x", "in real y", "in real z", 
   "out real yi", "out real zi", "out int status"]);
 
 /**
- * Position of a plane against the axes.
+ * Position of a plane relative to the axes.
  *
  * position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
  * parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the
@@ -1985,9 +1988,9 @@ export const trvpnl = routine("trvpnl", ["in real xa", "in real ya", "in real za
  *
  * status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
  * moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved, Q1
- * and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points for
- * skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its
- * distance.
+ * and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the lines count as skew
+ * because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is
+ * within the tolerance of P's although their distance is above it.
  *
  * @type {(xp: number, yp: number, zp: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, dxp: number, dyp: number, dzp: number, dx1: number, dy1: number, dz1:

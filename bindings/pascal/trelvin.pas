@@ -27,7 +27,7 @@ const
   trv_status_done = 0;
   trv_status_refused = -1;
 
-  // Whether a point of an arc was found; note that 1 means done here.
+  // Whether a point of an arc was found. Caution: here 1 means done.
   trv_arc_done = 1;
   trv_arc_refused = 0;
 
@@ -58,7 +58,7 @@ const
   trv_on_line_no = 0;
   trv_on_line_yes = 1;
 
-  // Whether a point lies on a plane; note that 0 means yes.
+  // Whether a point lies on a plane. Caution: 0 means yes.
   trv_on_plane_yes = 0;
   trv_on_plane_no = -1;
   trv_on_plane_zero_normal = 1;
@@ -86,7 +86,7 @@ const
   trv_lines_skew = 6;
   trv_lines_coincident = 7;
 
-  // What came of two lines of space: a result, or the relation that allows none.
+  // Outcome for two lines of space: a result, or the relation that allows no result.
   trv_two_lines_done = 0;
   trv_two_lines_same_line = 3;
   trv_two_lines_opposite_line = 4;
@@ -925,10 +925,12 @@ procedure trvlul(
 
 /// <summary>Which components of two triples differ by more than the tolerance.</summary>
 /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0 none: no
-/// component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
-/// the second component alone is; 4 third: the third component alone is; 5 first_second: the first
-/// and the second component are; 6 second_third: the second and the third component are; 7
-/// first_third: the first and the third component are.</remarks>
+/// component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+/// only the first component is above the tolerance; 3 second: only the second component is above
+/// the tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only
+/// the first and the second are above the tolerance; 6 second_third: only the second and the third
+/// are above the tolerance; 7 first_third: only the first and the third are above the
+/// tolerance.</remarks>
 procedure trvpsn(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} p1, p2, p3, q1, q2, q3: Single;
   out code: LongInt);
@@ -936,10 +938,12 @@ procedure trvpsn(
 
 /// <summary>Whether a point lies on the line of space through P0 with direction D.</summary>
 /// <remarks>code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0
-/// none: no component is; 1 all: all three components are; 2 first: the first component alone is; 3
-/// second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-/// the first and the second component are; 6 second_third: the second and the third component are;
-/// 7 first_third: the first and the third component are.</remarks>
+/// none: no component is above the tolerance; 1 all: all three components are above the tolerance;
+/// 2 first: only the first component is above the tolerance; 3 second: only the second component is
+/// above the tolerance; 4 third: only the third component is above the tolerance; 5 first_second:
+/// only the first and the second are above the tolerance; 6 second_third: only the second and the
+/// third are above the tolerance; 7 first_third: only the first and the third are above the
+/// tolerance.</remarks>
 /// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or
 /// code is 0.</remarks>
 procedure trvln6(
@@ -949,10 +953,12 @@ procedure trvln6(
 
 /// <summary>Line of two planes, and whether it agrees with a point at a retained station.</summary>
 /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none:
-/// no component is; 1 all: all three components are; 2 first: the first component alone is; 3
-/// second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-/// the first and the second component are; 6 second_third: the second and the third component are;
-/// 7 first_third: the first and the third component are.</remarks>
+/// no component is above the tolerance; 1 all: all three components are above the tolerance; 2
+/// first: only the first component is above the tolerance; 3 second: only the second component is
+/// above the tolerance; 4 third: only the third component is above the tolerance; 5 first_second:
+/// only the first and the second are above the tolerance; 6 second_third: only the second and the
+/// third are above the tolerance; 7 first_third: only the first and the third are above the
+/// tolerance.</remarks>
 /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match
 /// the line at the station.</remarks>
 procedure trvln7(
@@ -1336,7 +1342,7 @@ procedure trvmxt_fb(
 
 // Rotations about the origin and the axes
 
-/// <summary>Turns plane points about the origin, in place.</summary>
+/// <summary>Rotates plane points about the origin, in place.</summary>
 procedure trvrot(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} mode: LongInt;
   var x, y: TTrvReals;
@@ -1344,7 +1350,7 @@ procedure trvrot(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} angle: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvrot';
 
-/// <summary>Turns points about the x axis, in place.</summary>
+/// <summary>Rotates points about the x axis, in place.</summary>
 procedure trvrotx(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} mode: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x: TTrvReals;
@@ -1353,7 +1359,7 @@ procedure trvrotx(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} angle: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvrotx';
 
-/// <summary>Turns points about the y axis, in place.</summary>
+/// <summary>Rotates points about the y axis, in place.</summary>
 procedure trvroty(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} mode: LongInt;
   var x: TTrvReals;
@@ -1363,7 +1369,7 @@ procedure trvroty(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} angle: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvroty';
 
-/// <summary>Turns points about the z axis, in place.</summary>
+/// <summary>Rotates points about the z axis, in place.</summary>
 procedure trvrotz(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} mode: LongInt;
   var x, y: TTrvReals;
@@ -1416,7 +1422,7 @@ procedure trvaxel(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvaxel';
 
-/// <summary>Shifts points and turns them about the global axes x, y and z, in this order and in
+/// <summary>Shifts points and rotates them about the global axes x, y and z, in this order and in
 /// place.</summary>
 procedure trvptr(
   var X, Y, Z: TTrvReals;
@@ -1424,7 +1430,7 @@ procedure trvptr(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, ax, ay, az: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptr';
 
-/// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
+/// <summary>Shifts points and rotates them in the frame of three points, in place.</summary>
 /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0
 /// or P1, or the three points are on one line (trvpsl).</remarks>
 procedure trvptrl(
@@ -1435,7 +1441,7 @@ procedure trvptrl(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptrl';
 
-/// <summary>Turns points about the axis from P0 through P1, in place.</summary>
+/// <summary>Rotates points about the axis from P0 through P1, in place.</summary>
 /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance
 /// of P0 and P1 is within the tolerance.</remarks>
 procedure trvpra(
@@ -1446,7 +1452,7 @@ procedure trvpra(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpra';
 
-/// <summary>Turns points of a plane in the frame of the three points that span it, then shifts
+/// <summary>Rotates points of a plane in the frame of the three points that span it, then shifts
 /// them, in place.</summary>
 /// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the
 /// three points are on one line (trvpsl); 1 to n: position of the first point off the
@@ -1503,7 +1509,7 @@ procedure trvpl3(
 
 /// <summary>Plane through a point, perpendicular to a segment.</summary>
 /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A
-/// and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
+/// and B coincide within the tolerance in each coordinate (trvcnt).</remarks>
 procedure trvpl4(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x, y, z, xa, ya, za, xb, yb, zb: Single;
   out a, b, c, d: Single;
@@ -1522,8 +1528,8 @@ procedure trvpl5(
 /// <summary>Plane of two lines, each given by a point and a direction.</summary>
 /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines
 /// are the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-/// direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in each
-/// component.</remarks>
+/// direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are within the
+/// tolerance.</remarks>
 procedure trvpl6(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy,
     wz: Single;
@@ -1531,7 +1537,7 @@ procedure trvpl6(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl6';
 
-/// <summary>Plane of three points turned about the line from P0 to P1.</summary>
+/// <summary>Plane of three points, rotated about the line from P0 to P1.</summary>
 /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
 /// at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2
 /// is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is
@@ -1543,8 +1549,8 @@ procedure trvpl7(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl7';
 
 /// <summary>Whether a point lies on the plane of three points.</summary>
-/// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0
-/// = P1; -1 no: the point does not lie on the plane, or the three points span no plane
+/// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which
+/// any point does; -1 no: the point does not lie on the plane, or the three points span no plane
 /// (trvpsl).</remarks>
 procedure trvpsp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z,
@@ -1570,8 +1576,8 @@ procedure trvpspg(
 /// <summary>Relation of two directions, taken as lines through the origin.</summary>
 /// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the
 /// same, opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite:
-/// the directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w
-/// is within the tolerance in each component.</remarks>
+/// the directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: all
+/// components of u, or of w, are within the tolerance.</remarks>
 procedure trvplv(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ux, uy, uz, wx, wy, wz, v7, v8: Single;
   out status: LongInt);
@@ -1631,8 +1637,8 @@ procedure trv3lda(
 /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
 /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines
 /// are the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-/// direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in each
-/// component.</remarks>
+/// direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are within the
+/// tolerance.</remarks>
 procedure trv3lni(
   var xa, ya, za: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ux, uy, uz: Single;
@@ -1644,15 +1650,15 @@ procedure trv3lni(
 
 /// <summary>Intersection of the line P + t*u with a plane.</summary>
 /// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
-/// plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within
-/// the tolerance in each component.</remarks>
+/// plane, since the cosine of the angle between u and the normal is within the tolerance; 4 zero:
+/// all components of u, or of the normal, are within the tolerance.</remarks>
 procedure trvpli(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x, y, z, ux, uy, uz, a, b, c, d: Single;
   var xi, yi, zi: Single;
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpli';
 
-/// <summary>Position of a plane against the axes.</summary>
+/// <summary>Position of a plane relative to the axes.</summary>
 /// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the
 /// plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4
 /// parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to the z axis;
@@ -1680,9 +1686,9 @@ procedure trvpnl(
 /// <summary>Carries a point along when the line through it is moved.</summary>
 /// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
 /// moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved,
-/// Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points
-/// for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by
-/// its distance.</remarks>
+/// Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the lines count as skew
+/// because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is
+/// within the tolerance of P's although their distance is above it.</remarks>
 procedure trvlpc(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xp, yp, zp, x1, y1, z1: Single;
   var x2, y2, z2: Single;

@@ -164,7 +164,7 @@ enum TrvplvStatus {
   TRVPLV_OPPOSITE = 4,
   /** the directions are perpendicular */
   TRVPLV_PERPENDICULAR = 5,
-  /** u or w is within the tolerance in each component */
+  /** all components of u, or of w, are within the tolerance */
   TRVPLV_ZERO = 7,
 };
 
@@ -180,9 +180,10 @@ enum Trv3spStatus {
 enum TrvpliStatus {
   /** the point is computed */
   TRVPLI_DONE = 0,
-  /** the line is parallel to the plane, the cosine of u and the normal is within the tolerance */
+  /** the line is parallel to the plane, since the cosine of the angle between u and the normal is
+   * within the tolerance */
   TRVPLI_PARALLEL = 3,
-  /** u or the normal is within the tolerance in each component */
+  /** all components of u, or of the normal, are within the tolerance */
   TRVPLI_ZERO = 4,
 };
 
@@ -218,9 +219,10 @@ enum TrvlpcStatus {
   TRVLPC_MOVED_ONE_SIDE = 3,
   /** Q2 is moved, Q1 and Q2 are on either side of P */
   TRVLPC_MOVED_EITHER_SIDE = 4,
-  /** Q2 is moved, rounding takes the three points for skew lines */
+  /** Q2 is moved, although the lines count as skew because of rounding */
   TRVLPC_MOVED_SKEW = 6,
-  /** Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance */
+  /** Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is within the tolerance of P's
+   * although their distance is above it */
   TRVLPC_MOVED_AT_P = 7,
 };
 

@@ -241,26 +241,26 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvpsn": {
         "code": {
-            0: 'no component is',
-            1: 'all three components are',
-            2: 'the first component alone is',
-            3: 'the second component alone is',
-            4: 'the third component alone is',
-            5: 'the first and the second component are',
-            6: 'the second and the third component are',
-            7: 'the first and the third component are',
+            0: 'no component is above the tolerance',
+            1: 'all three components are above the tolerance',
+            2: 'only the first component is above the tolerance',
+            3: 'only the second component is above the tolerance',
+            4: 'only the third component is above the tolerance',
+            5: 'only the first and the second are above the tolerance',
+            6: 'only the second and the third are above the tolerance',
+            7: 'only the first and the third are above the tolerance',
         },
     },
     "trvln6": {
         "code": {
-            0: 'no component is',
-            1: 'all three components are',
-            2: 'the first component alone is',
-            3: 'the second component alone is',
-            4: 'the third component alone is',
-            5: 'the first and the second component are',
-            6: 'the second and the third component are',
-            7: 'the first and the third component are',
+            0: 'no component is above the tolerance',
+            1: 'all three components are above the tolerance',
+            2: 'only the first component is above the tolerance',
+            3: 'only the second component is above the tolerance',
+            4: 'only the third component is above the tolerance',
+            5: 'only the first and the second are above the tolerance',
+            6: 'only the second and the third are above the tolerance',
+            7: 'only the first and the third are above the tolerance',
         },
         "on": {
             0: 'P does not lie on the line, or code is 0',
@@ -269,14 +269,14 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvln7": {
         "code": {
-            0: 'no component is',
-            1: 'all three components are',
-            2: 'the first component alone is',
-            3: 'the second component alone is',
-            4: 'the third component alone is',
-            5: 'the first and the second component are',
-            6: 'the second and the third component are',
-            7: 'the first and the third component are',
+            0: 'no component is above the tolerance',
+            1: 'all three components are above the tolerance',
+            2: 'only the first component is above the tolerance',
+            3: 'only the second component is above the tolerance',
+            4: 'only the third component is above the tolerance',
+            5: 'only the first and the second are above the tolerance',
+            6: 'only the second and the third are above the tolerance',
+            7: 'only the first and the third are above the tolerance',
         },
         "on": {
             0: 'P does not match the line at the station',
@@ -408,7 +408,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     "trvpl4": {
         "status": {
             0: 'the plane is computed',
-            1: 'A and B coincide, each coordinate within the tolerance (trvcnt)',
+            1: 'A and B coincide within the tolerance in each coordinate (trvcnt)',
         },
     },
     "trvpl5": {
@@ -423,7 +423,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             3: 'the lines are the same, of the same direction',
             4: 'the lines are the same, of opposite direction',
             6: 'the lines are skew',
-            7: 'a direction is within the tolerance in each component',
+            7: 'all components of a direction are within the tolerance',
         },
     },
     "trvpl7": {
@@ -439,7 +439,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     "trvpsp": {
         "status": {
             -1: 'the point does not lie on the plane, or the three points span no plane (trvpsl)',
-            0: 'the point lies on the plane, as any point does if P0 = P1',
+            0: 'the point lies on the plane, or P0 = P1, for which any point does',
         },
     },
     "trvpspg": {
@@ -456,7 +456,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             3: 'the directions are the same',
             4: 'the directions are opposite',
             5: 'the directions are perpendicular',
-            7: 'u or w is within the tolerance in each component',
+            7: 'all components of u, or of w, are within the tolerance',
         },
     },
     "trvdirl": {
@@ -493,14 +493,14 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             3: 'the lines are the same, of the same direction',
             4: 'the lines are the same, of opposite direction',
             6: 'the lines are skew',
-            7: 'a direction is within the tolerance in each component',
+            7: 'all components of a direction are within the tolerance',
         },
     },
     "trvpli": {
         "status": {
             0: 'the point is computed',
-            3: 'the line is parallel to the plane, the cosine of u and the normal is within the tolerance',
-            4: 'u or the normal is within the tolerance in each component',
+            3: 'the line is parallel to the plane, since the cosine of the angle between u and the normal is within the tolerance',
+            4: 'all components of u, or of the normal, are within the tolerance',
         },
     },
     "trvplp": {
@@ -527,8 +527,8 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             0: 'the three points are not collinear, or Q1 is at P',
             3: 'Q2 is moved, Q1 and Q2 are on one side of P',
             4: 'Q2 is moved, Q1 and Q2 are on either side of P',
-            6: 'Q2 is moved, rounding takes the three points for skew lines',
-            7: 'Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance',
+            6: 'Q2 is moved, although the lines count as skew because of rounding',
+            7: "Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is within the tolerance of P's although their distance is above it",
         },
     },
 }
@@ -543,7 +543,7 @@ class TrvStatus(IntEnum):
 
 
 class TrvArc(IntEnum):
-    """Whether a point of an arc was found; note that 1 means done here."""
+    """Whether a point of an arc was found. Caution: here 1 means done."""
 
     DONE = 1
     REFUSED = 0
@@ -617,7 +617,7 @@ class TrvOnLine(IntEnum):
 
 
 class TrvOnPlane(IntEnum):
-    """Whether a point lies on a plane; note that 0 means yes."""
+    """Whether a point lies on a plane. Caution: 0 means yes."""
 
     YES = 0
     NO = -1
@@ -668,7 +668,7 @@ class TrvLines(IntEnum):
 
 
 class TrvTwoLines(IntEnum):
-    """What came of two lines of space: a result, or the relation that allows none."""
+    """Outcome for two lines of space: a result, or the relation that allows no result."""
 
     DONE = 0
     SAME_LINE = 3
@@ -3387,10 +3387,12 @@ def trvpsn(
 
     Returns:
       code: which components differ by more than the tolerance (TrvComponents): 0 none: no
-        component is; 1 all: all three components are; 2 first: the first component alone is; 3
-        second: the second component alone is; 4 third: the third component alone is; 5
-        first_second: the first and the second component are; 6 second_third: the second and the
-        third component are; 7 first_third: the first and the third component are
+        component is above the tolerance; 1 all: all three components are above the tolerance; 2
+        first: only the first component is above the tolerance; 3 second: only the second
+        component is above the tolerance; 4 third: only the third component is above the
+        tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        second_third: only the second and the third are above the tolerance; 7 first_third: only
+        the first and the third are above the tolerance
     """
     return _trvpsn.cells(p1, p2, p3, q1, q2, q3, 0)
 
@@ -3427,10 +3429,12 @@ def trvln6(
 
     Returns:
       code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none:
-        no component is; 1 all: all three components are; 2 first: the first component alone is;
-        3 second: the second component alone is; 4 third: the third component alone is; 5
-        first_second: the first and the second component are; 6 second_third: the second and the
-        third component are; 7 first_third: the first and the third component are
+        no component is above the tolerance; 1 all: all three components are above the
+        tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        second component is above the tolerance; 4 third: only the third component is above the
+        tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        second_third: only the second and the third are above the tolerance; 7 first_third: only
+        the first and the third are above the tolerance
       on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code
         is 0
     """
@@ -3481,10 +3485,12 @@ def trvln7(
       ex: b1*c2 - c1*b2
       ey: a1*c2 - c1*a2, the second component of the cross product negated
       code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
-        component is; 1 all: all three components are; 2 first: the first component alone is; 3
-        second: the second component alone is; 4 third: the third component alone is; 5
-        first_second: the first and the second component are; 6 second_third: the second and the
-        third component are; 7 first_third: the first and the third component are
+        component is above the tolerance; 1 all: all three components are above the tolerance; 2
+        first: only the first component is above the tolerance; 3 second: only the second
+        component is above the tolerance; 4 third: only the third component is above the
+        tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        second_third: only the second and the third are above the tolerance; 7 first_third: only
+        the first and the third are above the tolerance
       on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the
         line at the station
     """
@@ -5420,14 +5426,14 @@ def trvrot(
     mode: int, x: ArrayLike, y: ArrayLike, angle: float, *, n: int | None = None,
     in_place: bool = False
 ) -> TrvrotResult:
-    """Turns plane points about the origin, in place.
+    """Rotates plane points about the origin, in place.
 
     Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
     Arguments:
-      mode: 1 turns clockwise; any other value counter-clockwise
+      mode: 1 rotates clockwise; any other value counter-clockwise
       x, y: arrays of n: coordinates
       n: number of points; below 1 nothing happens
       angle: angle in radians; may be an element of the arrays
@@ -5454,14 +5460,14 @@ def trvrotx(
     mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
     in_place: bool = False
 ) -> TrvrotxResult:
-    """Turns points about the x axis, in place.
+    """Rotates points about the x axis, in place.
 
     Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
     Arguments:
-      mode: 1 turns z towards y; any other value y towards z, right-handed about +x
+      mode: 1 rotates z towards y; any other value y towards z, right-handed about +x
       x: array of 0: not read
       y, z: arrays of n: coordinates
       n: number of points; below 1 nothing happens
@@ -5489,16 +5495,17 @@ def trvroty(
     mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
     in_place: bool = False
 ) -> TrvrotyResult:
-    """Turns points about the y axis, in place.
+    """Rotates points about the y axis, in place.
 
-    Unlike its sisters it turns left-handedly about its axis unless mode is 1.
+    Caution: unless mode is 1, this rotation is left-handed about its axis, while those of
+    trvrotx and trvrotz are right-handed.
 
     Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
     Arguments:
-      mode: 1 turns z towards x; any other value x towards z, left-handed about +y
+      mode: 1 rotates z towards x; any other value x towards z, left-handed about +y
       x, z: array of n: coordinates
       y: array of 0: not read
       n: number of points; below 1 nothing happens
@@ -5526,14 +5533,14 @@ def trvrotz(
     mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
     in_place: bool = False
 ) -> TrvrotzResult:
-    """Turns points about the z axis, in place.
+    """Rotates points about the z axis, in place.
 
     Cost: takes time in proportion to n and no memory.
 
     Retains: nothing.
 
     Arguments:
-      mode: 1 turns y towards x; any other value x towards y, right-handed about +z
+      mode: 1 rotates y towards x; any other value x towards y, right-handed about +z
       x, y: arrays of n: coordinates
       z: array of 0: not read
       n: number of points; below 1 nothing happens
@@ -5560,12 +5567,14 @@ def trvpsl(
 ) -> TrvThreePoints:
     """Three-point test: whether P0, P1 and P2 span a plane.
 
-    The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance: up to 0.00447
-    radians from pi or 0 the three are on one line, as are the ends of 6 m and a point 6 mm
-    beside its middle. Where P2 agrees with P0 or P1 within the tolerance in each coordinate yet
-    lies farther than that from it, the cosine of the last call that found one stands (0 after
-    loading). P0 = P1 is not tested and gives 0, as does any P2 on the line whose distances from
-    both come out equal.
+    The points count as collinear (status 3, 4 or 5) if the angle at P2 is within 0.00447
+    radians of pi or 0, since its cosine is compared within the tolerance. Example: a point 6 mm
+    beside the middle of a 6 m segment counts as on the segment.
+
+    Caution: if P2 matches P0 or P1 within the tolerance in each coordinate, but is farther from
+    it than the tolerance, the cosine of the last call that computed one is used (0 after
+    loading). P0 = P1 is not tested and gives status 0. So does a P2 on the line if its computed
+    distances from P0 and P1 are equal.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -5607,12 +5616,12 @@ def trv3tra(
     Retains: nothing.
 
     Arguments:
-      X, Y, Z: arrays of n: coordinates, less dx, dy and dz afterwards
+      X, Y, Z: arrays of n: coordinates; dx, dy and dz are subtracted
       n: number of points; below 1 nothing happens
       dx, dy, dz: new origin; may be one of the points
 
     Returns:
-      X, Y, Z: arrays of n: coordinates, less dx, dy and dz afterwards
+      X, Y, Z: arrays of n: coordinates; dx, dy and dz are subtracted
     """
     return _trv3tra.call((X, Y, Z, n, dx, dy, dz), in_place)
 
@@ -5634,10 +5643,10 @@ def trvtrn(
 
     Arguments:
       p: array of 3: coordinates
-      a1, a2, a3, a4, a5, a6, a7, a8, a9: frame matrix: the unit axes e1, e2 and e3 of a frame
-        by their global components, as trvaxe gives them; may be elements of p
-      mode: 1 local coordinates to global orientation (the transpose); any other value global to
-        local
+      a1, a2, a3, a4, a5, a6, a7, a8, a9: frame matrix: the global components of the unit axes
+        e1, e2 and e3 of a frame, as trvaxe gives them; may be elements of p
+      mode: 1 transforms local coordinates to global orientation (the transpose); any other
+        value global to local
 
     Returns:
       p: array of 3: coordinates
@@ -5674,10 +5683,12 @@ def trvaxe(
 ) -> TrvaxeResult:
     """Frame of the plane through three points.
 
-    e1 runs from P0 to P1; e3 is the normal, turned towards +y if the y component of (P1 - P0) x
-    (P2 - P0) is above the tolerance, else likewise towards +z, else towards +x; e2 = e3 x e1.
-    An axis whose length is below 1e-5 before it is normalised stays zero: all three where P0 =
-    P1, the last two where the points are very close; the status is 0 then.
+    e1 is the direction from P0 to P1, e3 is the normal, and e2 = e3 x e1. The normal is
+    oriented towards +y if the y component of (P1 - P0) x (P2 - P0) is above the tolerance, else
+    towards +z if the z component is, else towards +x.
+
+    Caution: an axis stays zero if its length before normalising is below 1e-5, although the
+    status is 0. All three axes are zero if P0 = P1; e2 and e3 are if the points are very close.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -5689,7 +5700,7 @@ def trvaxe(
     Returns:
       e1x, e1y, e1z: first axis
       e2x, e2y, e2z: second axis
-      e3x, e3y, e3z: third axis; all nine are zero when status is -2
+      e3x, e3y, e3z: third axis; all nine components are zero if status is -2
       status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or
         P1, or the three points are on one line (trvpsl)
     """
@@ -5724,23 +5735,23 @@ def trvaxel(
 ) -> TrvaxelResult:
     """Frame of an axis from P0 to P1.
 
-    At angle 0, e2 is the global y axis freed of its component along e1, and e3 = e1 x e2; a
-    positive angle turns both right-handedly about e1.
+    At angle 0, e2 is the unit vector of the global y axis minus its component along e1, and e3
+    = e1 x e2. A positive angle rotates both right-handedly about e1.
 
-    An axis along y, a column, has no such e2: e2 and e3 are NaN or infinite then, with status
-    0. Ask trvaxe with a third point instead.
+    Caution: an axis along y (a column) has no such e2. e2 and e3 are then NaN or infinite,
+    although the status is 0. Use trvaxe with a third point instead.
 
     Retains: nothing.
 
     Arguments:
       x0, y0, z0: P0
       x1, y1, z1: P1
-      angle: turn of e2 and e3 about e1 in radians
+      angle: rotation of e2 and e3 about e1 in radians
 
     Returns:
       e1x, e1y, e1z: first axis
       e2x, e2y, e2z: second axis
-      e3x, e3y, e3z: third axis; all nine are zero when status is -2
+      e3x, e3y, e3z: third axis; all nine components are zero if status is -2
       status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of
         P0 and P1 is within the tolerance
     """
@@ -5765,12 +5776,12 @@ def trvptr(
     X: ArrayLike, Y: ArrayLike, Z: ArrayLike, x0: float, y0: float, z0: float, ax: float,
     ay: float, az: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvptrResult:
-    """Shifts points and turns them about the global axes x, y and z, in this order and in
+    """Shifts points and rotates them about the global axes x, y and z, in this order and in
     place.
 
-    Each turn is that of trvrotx, trvroty and trvrotz with mode 2: right-handed about x and z,
-    left-handed about y. A shift none of whose components is above the tolerance is left out,
-    and so is a turn whose angle is not.
+    The rotations are those of trvrotx, trvroty and trvrotz with mode 2: right-handed about x
+    and z, left-handed about y. The shift is skipped if no component is above the tolerance. A
+    rotation is skipped if its angle is not above the tolerance.
 
     Cost: takes time in proportion to n and no memory.
 
@@ -5811,15 +5822,15 @@ def trvptrl(
     z2: float, X: ArrayLike, Y: ArrayLike, Z: ArrayLike, dx: float, dy: float, dz: float,
     ax: float, ay: float, az: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvptrlResult:
-    """Shifts points and turns them in the frame of three points, in place.
+    """Shifts points and rotates them in the frame of three points, in place.
 
-    In local coordinates each point is shifted by (dx, dy, dz), then turned about the local axes
-    x, y and z as trvrotx, trvroty and trvrotz turn with mode 2: right-handed about x and z,
-    left-handed about y. No angle is left out. Where the frame has a zero axis (trvaxe), the
-    points lose that coordinate.
+    In local coordinates each point is shifted by (dx, dy, dz), then rotated about the local
+    axes x, y and z as by trvrotx, trvroty and trvrotz with mode 2: right-handed about x and z,
+    left-handed about y. No rotation is skipped. Caution: if the frame has a zero axis (trvaxe),
+    the points lose that coordinate.
 
-    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read
-    before a point is moved.
+    Single inputs may be elements of the arrays, and P0 to P2 may be some of the points: they
+    are read before a point is moved.
 
     Cost: takes time in proportion to n and no memory.
 
@@ -5831,7 +5842,7 @@ def trvptrl(
       x2, y2, z2: P2
       X, Y, Z: arrays of n: coordinates; unchanged if status is -2
       n: number of points; below 1 only the status is written
-      dx, dy, dz: shift in local coordinates, before the turns
+      dx, dy, dz: shift in local coordinates, before the rotations
       ax, ay, az: angles in radians about the local axes x, y and z
 
     Returns:
@@ -5862,13 +5873,13 @@ def trvpra(
     x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, X: ArrayLike,
     Y: ArrayLike, Z: ArrayLike, angle: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvpraResult:
-    """Turns points about the axis from P0 through P1, in place.
+    """Rotates points about the axis from P0 through P1, in place.
 
-    An axis along the global y axis, a column, gives points that are NaN or infinite, with
-    status 0 (trvaxel). Use trv3tra and trvroty there.
+    Caution: if the axis is along the global y axis (a column), the points become NaN or
+    infinite, although the status is 0 (trvaxel). Use trv3tra and trvroty instead.
 
-    Single inputs may be elements of the arrays, P0 and P1 two of the points: they are read
-    before a point is moved.
+    Single inputs may be elements of the arrays, and P0 and P1 may be two of the points: they
+    are read before a point is moved.
 
     Cost: takes time in proportion to n and no memory.
 
@@ -5912,14 +5923,14 @@ def trvppc(
     z2: float, dx: float, dy: float, dz: float, ax: float, ay: float, az: float, X: ArrayLike,
     Y: ArrayLike, Z: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvppcResult:
-    """Turns points of a plane in the frame of the three points that span it, then shifts them,
-    in place.
+    """Rotates points of a plane in the frame of the three points that span it, then shifts
+    them, in place.
 
-    Unlike trvptrl, the shift is global and comes after the turns. Where the frame has a zero
-    axis (trvaxe), the points lose that coordinate.
+    Unlike in trvptrl, the shift is in global coordinates and comes after the rotations.
+    Caution: if the frame has a zero axis (trvaxe), the points lose that coordinate.
 
-    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read
-    before a point is moved.
+    Single inputs may be elements of the arrays, and P0 to P2 may be some of the points: they
+    are read before a point is moved.
 
     Cost: takes time in proportion to n and no memory.
 
@@ -5929,12 +5940,12 @@ def trvppc(
       x0, y0, z0: P0, the origin of the frame
       x1, y1, z1: P1
       x2, y2, z2: P2
-      dx, dy, dz: shift in global coordinates, after the turns
+      dx, dy, dz: shift in global coordinates, after the rotations
       ax, ay, az: angles in radians about the local axes x, y and z, right-handed about x and z,
         left-handed about y
       n: number of points; below 1 only the status is written
       X, Y, Z: arrays of n: coordinates; unchanged unless status is 0
-      tol: largest residual of a point of the plane, itself included: its distance times the
+      tol: largest residual of a point of the plane (inclusive): the point's distance times the
         length of (P1 - P0) x (P2 - P0), in the cube of the length unit
 
     Returns:
@@ -5966,8 +5977,8 @@ def trvplg(
 ) -> TrvplgResult:
     """Plane through a point, spanned by two directions.
 
-    (a, b, c) = u x w, not normalised; all four are zero where u and w are parallel. Far from
-    the origin d loses digits; take a local origin there (trv3tra).
+    (a, b, c) = u x w, not normalised. All four coefficients are zero if u and w are parallel.
+    Caution: far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
@@ -6005,7 +6016,7 @@ def trvpl1(
 ) -> Trvpl1Result:
     """Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
 
-    Far from the origin d loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6015,7 +6026,7 @@ def trvpl1(
       x2, y2, z2: P2
 
     Returns:
-      a, b, c, d: plane; all zero when status is not 0, and where P0 = P1
+      a, b, c, d: plane; all zero if status is not 0, or if P0 = P1
       status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
         at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4
         beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the
@@ -6048,8 +6059,8 @@ def trvpl2(
 ) -> Trvpl2Result:
     """Plane through a point, parallel to two lines.
 
-    (a, b, c) = (B - A) x (D - C). Far from the origin d loses digits; take a local origin there
-    (trv3tra).
+    (a, b, c) = (B - A) x (D - C). Caution: far from the origin d loses digits; use a local
+    origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6061,7 +6072,7 @@ def trvpl2(
       xd, yd, zd: D, on the second line
 
     Returns:
-      a, b, c, d: plane; all zero when status is not 0; its normal is zero, or nearly, where the
+      a, b, c, d: plane; all zero if status is not 0; the normal is zero, or nearly zero, if the
         lines are parallel
       status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
         the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
@@ -6095,7 +6106,7 @@ def trvpl3(
 ) -> Trvpl3Result:
     """Plane that contains one line and is parallel to another: trvpl2 through A.
 
-    Far from the origin d loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6106,7 +6117,7 @@ def trvpl3(
       xd, yd, zd: D, on the second line
 
     Returns:
-      a, b, c, d: plane; all zero when status is not 0; its normal is zero, or nearly, where the
+      a, b, c, d: plane; all zero if status is not 0; the normal is zero, or nearly zero, if the
         lines are parallel
       status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
         the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
@@ -6138,7 +6149,7 @@ def trvpl4(
 ) -> Trvpl4Result:
     """Plane through a point, perpendicular to a segment.
 
-    Far from the origin d loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
@@ -6148,9 +6159,9 @@ def trvpl4(
       xb, yb, zb: B; the normal is B - A
 
     Returns:
-      a, b, c, d: plane; all zero when status is 1
+      a, b, c, d: plane; all zero if status is 1
       status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
-        coincide, each coordinate within the tolerance (trvcnt)
+        coincide within the tolerance in each coordinate (trvcnt)
     """
     return _trvpl4.cells(x, y, z, xa, ya, za, xb, yb, zb, _NAN, _NAN, _NAN, _NAN, 0)
 
@@ -6213,9 +6224,9 @@ def trvpl6(
 ) -> Trvpl6Result:
     """Plane of two lines, each given by a point and a direction.
 
-    The relation of the lines is taken twice, the second time by trvpl2, with the cosine that
-    the first time left (trvpsl). Far from the origin d loses digits; take a local origin there
-    (trv3tra).
+    Caution: the relation of the lines is determined twice: by this routine, then by trvpl2,
+    which starts with the cosine that the first determination retained (trvpsl) and may have
+    another result. Far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6226,12 +6237,13 @@ def trvpl6(
       wx, wy, wz: direction of the second line
 
     Returns:
-      a, b, c, d: plane; its normal is zero, or nearly, for parallel lines; all zero if only the
-        second relation is 3 or 4; unwritten on a condition: the first relation is 3, 4, 6 or 7
+      a, b, c, d: plane; the normal is zero, or nearly zero, if the lines are parallel; all zero
+        if only the second relation is 3 or 4; unwritten on a condition: the first relation is
+        3, 4, 6 or 7
       status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
         the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-        direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance
-        in each component
+        direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are
+        within the tolerance
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -6261,11 +6273,11 @@ def trvpl7(
     x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
     z2: float, angle: float
 ) -> Trvpl7Result:
-    """Plane of three points turned about the line from P0 to P1.
+    """Plane of three points, rotated about the line from P0 to P1.
 
-    The normal is a unit vector, formed by adding it to P0 and taking P0 off again, which leaves
-    it the digits that P0 has; at angle 0 it is the third axis of trvaxe. Far from the origin d
-    loses digits; take a local origin there (trv3tra).
+    The normal is a unit vector; at angle 0 it is the third axis of trvaxe. Caution: the normal
+    is computed as (P0 + normal) - P0, so far from the origin the normal and d lose digits; use
+    a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6276,7 +6288,7 @@ def trvpl7(
       angle: angle in radians, right-handed about the direction from P0 to P1
 
     Returns:
-      a, b, c, d: plane; all zero when status is not 0
+      a, b, c, d: plane; all zero if status is not 0
       status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
         at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3
         between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1;
@@ -6300,7 +6312,7 @@ def trvpsp(
 ) -> TrvOnPlane:
     """Whether a point lies on the plane of three points.
 
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin the result loses digits; use a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6309,13 +6321,13 @@ def trvpsp(
       x1, y1, z1: P1
       x2, y2, z2: P2
       x, y, z: point
-      tol: largest residual allowed, itself included: the distance times the length of (P1 - P0)
-        x (P2 - P0), in the cube of the length unit
+      tol: largest residual allowed (inclusive): the point's distance times the length of (P1 -
+        P0) x (P2 - P0), in the cube of the length unit
 
     Returns:
-      status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 =
-        P1; -1 no: the point does not lie on the plane, or the three points span no plane
-        (trvpsl)
+      status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which any
+        point does; -1 no: the point does not lie on the plane, or the three points span no
+        plane (trvpsl)
     """
     return _trvpsp.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z, tol, 0)
 
@@ -6332,7 +6344,7 @@ def trvpld(
 ) -> float:
     """Signed distance of a point from a plane.
 
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin the result loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
@@ -6341,8 +6353,8 @@ def trvpld(
       a, b, c, d: plane a*x + b*y + c*z + d = 0
 
     Returns:
-      dist: distance, positive on the side the normal points to; not finite where the normal is
-        zero
+      dist: distance, positive on the side the normal points to; infinite or NaN if the normal
+        is zero
     """
     return _trvpld.cells(x, y, z, a, b, c, d, _NAN)
 
@@ -6360,14 +6372,14 @@ def trvpspg(
 ) -> TrvOnPlane:
     """Whether a point lies on a plane.
 
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin the result loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
     Arguments:
       x, y, z: point
       a, b, c, d: plane a*x + b*y + c*z + d = 0
-      tol: largest distance allowed, itself included
+      tol: largest distance allowed (inclusive)
 
     Returns:
       status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point does not
@@ -6402,7 +6414,7 @@ def trvplv(
       status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
         opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite:
         the directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero:
-        u or w is within the tolerance in each component
+        all components of u, or of w, are within the tolerance
     """
     return _trvplv.cells(ux, uy, uz, wx, wy, wz, v7, v8, 0)
 
@@ -6426,8 +6438,8 @@ def trvpnp(
 ) -> TrvpnpResult:
     """Points of a list on a plane, by a running residual.
 
-    The residual starts at d and is not reset between points: each point adds a*x, b*y and c*z
-    to it, in this order, and is found when it is exactly zero then.
+    Caution: the residual starts at d and is not reset between points. Each point adds a*x, b*y
+    and c*z to it, in this order. The point is found if the residual is then exactly zero.
 
     Cost: takes time in proportion to n and no memory.
 
@@ -6441,8 +6453,8 @@ def trvpnp(
 
     Returns:
       d: constant of the plane; the last residual afterwards; unchanged if n < 1
-      count_: how many are found
-      index_: array of n, count used: their positions, ascending
+      count_: number of points found
+      index_: array of n, count used: positions of these points, ascending
     """
     return _trvpnp.call((X, Y, Z, a, b, c, d, n))
 
@@ -6462,9 +6474,9 @@ def trvdirl(
 ) -> TrvLines:
     """Relation of two lines.
 
-    The same line means that C or D is on the line AB by the three-point test, which runs for C,
-    then for D. Skew means that the triple product of B - A, D - C and C - A is above the
-    tolerance; it is not scaled, so long lines count as skew sooner.
+    The lines are the same if C or D is on the line AB by the three-point test, which is made
+    for C, then for D. The lines are skew if the triple product of B - A, D - C and C - A is
+    above the tolerance. The triple product is not scaled, so long lines count as skew sooner.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6539,8 +6551,8 @@ def trv3ldb(
 ) -> Trv3ldbResult:
     """Distance of a point from a line.
 
-    The vector from Q to A takes A's y coordinate for its z component, so the figure is the
-    distance only where the z of A equals its y.
+    Caution: the vector from Q to A uses A's y coordinate for its z component. So the result is
+    the distance only if the y and z of A are equal.
 
     Retains: nothing.
 
@@ -6551,7 +6563,7 @@ def trv3ldb(
 
     Returns:
       status: outcome (TrvStatus): 0 done: always
-      dist: distance, never negative; the distance from A where A and B coincide (trvcnt)
+      dist: distance, never negative; the distance from A if A and B coincide (trvcnt)
     """
     return _trv3ldb.cells(xa, ya, za, xb, yb, zb, xq, yq, zq, 0, _NAN)
 
@@ -6576,9 +6588,10 @@ def trv3lda(
 ) -> Trv3ldaResult:
     """Signed distance of a point from a line, in the plane of both.
 
-    The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe turns towards +y,
-    else +z, else +x: positive to the right of the way from A to B, seen against that normal.
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe orients towards
+    +y, else +z, else +x. It is positive to the right of the direction from A to B, as seen from
+    the tip of that normal. Caution: far from the origin the result loses digits; use a local
+    origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6589,8 +6602,8 @@ def trv3lda(
 
     Returns:
       status: outcome (TrvStatus): 0 done: always
-      dist: distance; 0 where Q is on the line or very close to a short one (trvaxe); the
-        distance from A where A and B coincide (trvcnt)
+      dist: distance; 0 if Q is on the line or very close to a short line (trvaxe); the distance
+        from A if A and B coincide (trvcnt)
     """
     return _trv3lda.cells(xa, ya, za, xb, yb, zb, xq, yq, zq, 0, _NAN)
 
@@ -6624,11 +6637,12 @@ def trv3lni(
 ) -> Trv3lniResult:
     """Intersection of the lines A + t*u and C + s*w.
 
-    Works in the frame of A, A + u and C + w, with A as the origin, and leaves A and C in it.
-    Where C + w is on the first line there is no such frame, and the point is A with status 0.
+    The routine works in the frame of A, A + u and C + w, with A as the origin, and returns A
+    and C in this frame. Caution: if C + w is on the first line, there is no such frame, and the
+    result is A with status 0.
 
-    Parallel lines have no point: the caller's xi and yi are read, as local coordinates, and
-    come back in global ones, with status 0.
+    Caution: parallel lines have no intersection. The caller's xi and yi are then read as local
+    coordinates and returned as global ones, with status 0.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6645,8 +6659,8 @@ def trv3lni(
       xc, yc, zc: C; C - A afterwards; unchanged unless status is 0
       status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
         the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-        direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance
-        in each component
+        direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are
+        within the tolerance
       xi, yi: x and y of the point; read if the lines are parallel, as local coordinates;
         unchanged unless status is 0
       zi: z of the point; unwritten unless status is 0
@@ -6677,7 +6691,7 @@ def trvpli(
 ) -> TrvpliResult:
     """Intersection of the line P + t*u with a plane.
 
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin the result loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
@@ -6689,8 +6703,8 @@ def trvpli(
     Returns:
       xi, yi, zi: point; unwritten if status is 3 or 4
       status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
-        plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal
-        is within the tolerance in each component
+        plane, since the cosine of the angle between u and the normal is within the tolerance; 4
+        zero: all components of u, or of the normal, are within the tolerance
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -6707,7 +6721,7 @@ _trvplp = Routine(
 def trvplp(
     a: float, b: float, c: float, d: float
 ) -> TrvplpPosition:
-    """Position of a plane against the axes.
+    """Position of a plane relative to the axes.
 
     A coefficient within the tolerance counts as zero. A plane whose normal is zero is reported
     as 7 or 10.
@@ -6749,13 +6763,14 @@ def trvpnl(
 ) -> TrvpnlResult:
     """Points of a list near a line.
 
-    Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component.
+    Caution: the distances are those of trv3ldb, which uses A's y coordinate for the z component
+    of the vector to A.
 
-    The function is called in the processor's state as the host has it. It may change that
-    state: the change stays with the host and has no influence on the results. It may call
-    routines of this library. It may leave by longjmp or by a structured exception of Windows:
-    the host then has its own state, status and count are unwritten, and index holds the
-    positions found so far. An exception of C++ must not leave the function.
+    The function is called in the host's own floating-point environment. It may change this
+    environment: the change remains in the host and does not influence the results. The function
+    may call routines of this library. It may be left by longjmp or by a structured exception of
+    Windows: the host then has its own environment, status and count are unwritten, and index
+    holds the positions found so far. A C++ exception must not leave the function.
 
     Cost: takes time in proportion to n and no memory.
 
@@ -6765,15 +6780,15 @@ def trvpnl(
       xa, ya, za: A
       xb, yb, zb: B
       X, Y: arrays of n: x and y coordinates
-      zf: function that gives the z coordinate of the point at a position; called with 1 to n in
-        this order
+      zf: function that returns the z coordinate of the point at a position; called with 1 to n
+        in this order
       n: number of points
-      tol: largest distance allowed, itself included; a NaN distance is not
+      tol: largest distance allowed (inclusive); a point with a NaN distance is not found
 
     Returns:
       status: outcome (TrvStatus): 0 done: always; unwritten if n < 1
-      count_: how many are found
-      index_: array of n, count used: their positions, ascending
+      count_: number of points found
+      index_: array of n, count used: positions of these points, ascending
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -6803,8 +6818,9 @@ def trvlpc(
 ) -> TrvlpcResult:
     """Carries a point along when the line through it is moved.
 
-    P and Q1 move by dP and dQ1; Q2 keeps its place on their line in proportion. Only the
-    relation of the lines Q2-P and Q1-P tells whether the three are collinear (trvdirl).
+    P and Q1 move by dP and dQ1. Q2 moves so that the ratio of its distance from P to that of Q1
+    stays the same. Only the relation of the lines Q2-P and Q1-P (trvdirl) decides whether the
+    three points are collinear.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6819,8 +6835,8 @@ def trvlpc(
       x2, y2, z2: Q2; unchanged if status is 0
       status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
         moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is
-        moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the
-        three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each
-        coordinate yet not by its distance
+        moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the lines
+        count as skew because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or
+        each coordinate of Q1 is within the tolerance of P's although their distance is above it
     """
     return _trvlpc.cells(xp, yp, zp, x1, y1, z1, dxp, dyp, dzp, dx1, dy1, dz1, x2, y2, z2, 0)
