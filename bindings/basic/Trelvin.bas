@@ -1010,9 +1010,9 @@ Public Declare PtrSafe Sub trvwar_c Lib "Trelvin64.dll" Alias "trvwar_c" (ByRef 
 ' Properties of an open section of thin plates.
 ' status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a coordinate or
 ' a thickness is infinite or NaN, or a length or a thickness is not above the tolerance; 2 to n:
-' this plate is the first at fault, it starts at no end of an earlier plate, or ends at one and
-' closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses, touches or overlaps
-' an earlier plate elsewhere than at its start, which may close a cell.
+' number of the first faulty plate, which does not start at an end of an earlier plate, or closes a
+' cell by ending at one; n+2 to 2*n: n plus the number of the first faulty plate, which crosses,
+' touches or overlaps an earlier plate elsewhere than at its start, and may close a cell.
 Public Declare PtrSafe Sub trvmxt Lib "Trelvin64.dll" Alias "trvmxt" (ByRef n As Long, _
     ByRef X1 As Single, ByRef Y1 As Single, ByRef X2 As Single, ByRef Y2 As Single, _
     ByRef T As Single, ByRef A As Single, ByRef xs As Single, ByRef ys As Single, _

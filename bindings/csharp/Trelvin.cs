@@ -2109,10 +2109,10 @@ namespace Trelvin
         /// <summary>Properties of an open section of thin plates.</summary>
         /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n
         /// &lt; 1, a coordinate or a thickness is infinite or NaN, or a length or a thickness is
-        /// not above the tolerance; 2 to n: this plate is the first at fault, it starts at no end
-        /// of an earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is
-        /// the first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at
-        /// its start, which may close a cell.</remarks>
+        /// not above the tolerance; 2 to n: number of the first faulty plate, which does not start
+        /// at an end of an earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the
+        /// number of the first faulty plate, which crosses, touches or overlaps an earlier plate
+        /// elsewhere than at its start, and may close a cell.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmxt(ref int n, [In] float[] X1, [In] float[] Y1,
             [In] float[] X2, [In] float[] Y2, [In] float[] T, ref float A, ref float xs,
@@ -2125,10 +2125,10 @@ namespace Trelvin
         /// <summary>Properties of an open section of thin plates.</summary>
         /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n
         /// &lt; 1, a coordinate or a thickness is infinite or NaN, or a length or a thickness is
-        /// not above the tolerance; 2 to n: this plate is the first at fault, it starts at no end
-        /// of an earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is
-        /// the first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at
-        /// its start, which may close a cell.</remarks>
+        /// not above the tolerance; 2 to n: number of the first faulty plate, which does not start
+        /// at an end of an earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the
+        /// number of the first faulty plate, which crosses, touches or overlaps an earlier plate
+        /// elsewhere than at its start, and may close a cell.</remarks>
         public static void trvmxt(int n, float[] X1, float[] Y1, float[] X2, float[] Y2, float[] T,
             out float A, out float xs, out float ys, out float Ix, out float Iy, out float Ixy,
             out float I1, out float I2, out float alpha, out float rx, out float ry, out float Wx1,

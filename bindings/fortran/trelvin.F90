@@ -1500,10 +1500,10 @@ module trelvin
     !> Properties of an open section of thin plates.
     !! status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a
     !! coordinate or a thickness is infinite or NaN, or a length or a thickness is not above the
-    !! tolerance; 2 to n: this plate is the first at fault, it starts at no end of an earlier plate,
-    !! or ends at one and closes a cell; n+2 to 2*n: plate status - n is the first at fault, it
-    !! crosses, touches or overlaps an earlier plate elsewhere than at its start, which may close a
-    !! cell.
+    !! tolerance; 2 to n: number of the first faulty plate, which does not start at an end of an
+    !! earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the number of the first
+    !! faulty plate, which crosses, touches or overlaps an earlier plate elsewhere than at its
+    !! start, and may close a cell.
     subroutine trvmxt(n, X1, Y1, X2, Y2, T, A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, &
         Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt, xm, ym, Iw, r0, W1, W2, &
         status) bind(c, name="trvmxt")

@@ -1499,9 +1499,9 @@ export const trvwar_c = routine("trvwar_c", ["in real B", "in real H", "in real 
  *
  * status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a coordinate or
  * a thickness is infinite or NaN, or a length or a thickness is not above the tolerance; 2 to n:
- * this plate is the first at fault, it starts at no end of an earlier plate, or ends at one and
- * closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses, touches or
- * overlaps an earlier plate elsewhere than at its start, which may close a cell.
+ * number of the first faulty plate, which does not start at an end of an earlier plate, or closes a
+ * cell by ending at one; n+2 to 2*n: n plus the number of the first faulty plate, which crosses,
+ * touches or overlaps an earlier plate elsewhere than at its start, and may close a cell.
  *
  * @type {(X1: Numbers, Y1: Numbers, X2: Numbers, Y2: Numbers, T: Numbers, counts?: {n?: number}) =>
  *   {A: number, xs: number, ys: number, Ix: number, Iy: number, Ixy: number, I1: number, I2:

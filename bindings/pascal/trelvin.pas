@@ -1316,10 +1316,10 @@ procedure trvwar_c(
 /// <summary>Properties of an open section of thin plates.</summary>
 /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n &lt; 1, a
 /// coordinate or a thickness is infinite or NaN, or a length or a thickness is not above the
-/// tolerance; 2 to n: this plate is the first at fault, it starts at no end of an earlier plate, or
-/// ends at one and closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses,
-/// touches or overlaps an earlier plate elsewhere than at its start, which may close a
-/// cell.</remarks>
+/// tolerance; 2 to n: number of the first faulty plate, which does not start at an end of an
+/// earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the number of the first
+/// faulty plate, which crosses, touches or overlaps an earlier plate elsewhere than at its start,
+/// and may close a cell.</remarks>
 procedure trvmxt(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X1, Y1, X2, Y2, T: TTrvReals;

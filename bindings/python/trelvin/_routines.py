@@ -3958,24 +3958,24 @@ def trvapl(
 
     The exact integral over the closed outline by Green's theorem, A = integral of x dy along
     it: half the sum of (y(i+1) - y(i))*(x(i) + x(i+1)) over the n edges, summed in double
-    precision and rounded once, so that an outline far from the origin keeps its figures.
-    Positive for a counter-clockwise outline (x to the right, y up), negative for a clockwise
-    one; loops of a self-intersecting outline add up with their signs. The last vertex may
-    repeat the first.
+    precision and rounded once, so that the result stays accurate for an outline far from the
+    origin. Positive for a counter-clockwise outline (x to the right, y up), negative for a
+    clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex
+    may repeat the first.
 
     Cost: the time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
-      n: number of vertices, at least 0, which gives 0: for a negative n element n+1 would be
-        before the arrays
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
+      n: number of vertices, at least 0; n = 0 gives 0; n must not be negative, since the
+        routine would write before the start of the arrays
 
     Returns:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
       area: signed area, in L^2
     """
     return _trvapl.call((x, y, n), in_place)
@@ -4001,22 +4001,23 @@ def trvspl(
 
     The exact integrals over the closed outline by Green's theorem, Sx = -1/2 integral of y^2 dx
     and Sy = 1/2 integral of x^2 dy along it, as sums over the edges in double precision, each
-    rounded once. Right for a counter-clockwise outline, negated for a clockwise one; loops of a
-    self-intersecting outline add up with their signs. The last vertex may repeat the first.
+    rounded once. The signs are right for a counter-clockwise outline and opposite for a
+    clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex
+    may repeat the first.
 
     Cost: the time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
-      n: number of vertices, at least 0, which gives zeros: for a negative n element n+1 would
-        be before the arrays
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
+      n: number of vertices, at least 0; n = 0 gives zeros; n must not be negative, since the
+        routine would write before the start of the arrays
 
     Returns:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
       sx: first moment about the x axis, the integral of y dA, in L^3
       sy: first moment about the y axis, the integral of x dA, in L^3
     """
@@ -4045,23 +4046,23 @@ def trvipl(
 
     The exact integrals over the closed outline by Green's theorem, Ix = -1/3 integral of y^3
     dx, Iy = 1/3 integral of x^3 dy and Ixy = 1/2 integral of x^2*y dy along it, as sums over
-    the edges in double precision, each rounded once. Right for a counter-clockwise outline,
-    negated for a clockwise one; loops of a self-intersecting outline add up with their signs.
-    The last vertex may repeat the first.
+    the edges in double precision, each rounded once. The signs are right for a
+    counter-clockwise outline and opposite for a clockwise one; loops of a self-intersecting
+    outline add up with their signs. The last vertex may repeat the first.
 
     Cost: the time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
-      n: number of vertices, at least 0, which gives zeros: for a negative n element n+1 would
-        be before the arrays
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
+      n: number of vertices, at least 0; n = 0 gives zeros; n must not be negative, since the
+        routine would write before the start of the arrays
 
     Returns:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
       ix: second moment about the x axis, the integral of y*y dA, in L^4
       iy: second moment about the y axis, the integral of x*x dA, in L^4
       ixy: product of inertia, the integral of x*y dA, in L^4
@@ -4087,14 +4088,14 @@ def trvacp(
 ) -> TrvacpResult:
     """Area and centroid of a circular segment, the region between an arc and its chord.
 
-    The radius r is the distance of P1 from the centre; P2 fixes the angle phi, that of trvphi,
-    and the chord's direction. The order of P1 and P2 does not matter when both lie on the
-    circle. The larger segment has the angle 2*pi - phi. The area is r^2*(phi - sin phi)/2, and
+    The radius r is the distance of P1 from the centre. P2 determines the direction of the chord
+    and the angle phi (trvphi). If both lie on the circle, the order of P1 and P2 does not
+    matter. The larger segment has the angle 2*pi - phi. The area is r^2*(phi - sin phi)/2, and
     the centroid lies 4*r*sin^3(phi/2)/(3*(phi - sin phi)) from the centre, across the chord for
     the smaller segment.
 
-    The centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller segment
-    whose angle is 0; the area is a number then.
+    Caution: the centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller
+    segment whose angle is 0, although the area is a number.
 
     Retains: nothing.
 
@@ -4130,13 +4131,13 @@ def trvicp(
 ) -> TrvicpResult:
     """Second moments of a circular segment, the region between an arc and its chord.
 
-    The segment is that of trvacp: its radius is the distance of P1 from the centre; P2 fixes
-    the angle and the chord's direction. Its moments about its axis of symmetry and about the
-    parallel of the chord through its centroid are turned to the axes of x and y and shifted to
-    the origin.
+    The segment is that of trvacp: its radius is the distance of P1 from the centre; P2
+    determines the angle and the chord's direction. The moments about the segment's axis of
+    symmetry, and about the line through its centroid parallel to the chord, are rotated to the
+    axes of x and y and shifted to the origin.
 
-    All three are NaN for a chord through the centre, for P1 = P2, and for a smaller segment
-    whose angle is 0.
+    Caution: all three moments are NaN for a chord through the centre, for P1 = P2, and for a
+    smaller segment whose angle is 0.
 
     Retains: nothing.
 
@@ -4150,8 +4151,8 @@ def trvicp(
     Returns:
       ix: second moment about the x axis, the integral of y*y dA
       iy: second moment about the y axis, the integral of x*x dA
-      ixy: area*xs*ys, without the segment's own product of inertia about its centroid: the
-        integral of x*y dA only for a chord parallel to an axis
+      ixy: area*xs*ys, without the segment's own product of inertia about its centroid; so it is
+        the integral of x*y dA only if the chord is parallel to an axis
     """
     return _trvicp.cells(xc, yc, x1, y1, x2, y2, kind, _NAN, _NAN, _NAN)
 
@@ -4175,34 +4176,34 @@ def trvair(
 ) -> TrvairResult:
     """Area of a part of a section.
 
-    A polygon is that of trvapl, negative when it is listed clockwise; the segments are those of
-    trvacp.
+    The area of a polygon is that of trvapl, negative if its vertices are listed clockwise. The
+    area of a segment is that of trvacp.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for kind 1 and an unknown kind;
+      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for kind 1 and an unknown kind;
         unchanged on a condition: kind is not 2, or elements 1 to n
-      n: vertices of kind 2, at least 0, which gives 0: for a negative n element n+1 would be
-        before the arrays; ignored for other kinds
+      n: number of vertices of kind 2, at least 0; n = 0 gives 0; n must not be negative, since
+        the routine would write before the start of the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2 polygon: points
         1 to n are the vertices, counter-clockwise; 3 circle: a full circle, point 1 is its
         centre, point 2 is on it; 4 smaller_segment: the smaller circular segment, point 1 is
         the centre, points 2 and 3 are the ends of its chord; 5 larger_segment: the larger
-        circular segment, given as the smaller one; any other value is an unknown kind
+        circular segment, given by the same three points; any other value is an unknown kind
       value: area for kind 1, ignored otherwise
-      factor: multiplies the result. A hole is a part with the factor -1, a polygon then still
-        counter-clockwise: a clockwise one with -1 adds
-      area: area of the part, times the factor; for an unknown kind the caller's value, times
-        the factor
+      factor: multiplies the result. A hole is a part with the factor -1. Caution: a polygon
+        must then still be counter-clockwise; a clockwise one with -1 adds area
+      area: area of the part, times the factor; if the kind is unknown, the caller's value,
+        times the factor
 
     Returns:
-      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for kind 1 and an unknown kind;
+      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for kind 1 and an unknown kind;
         unchanged on a condition: kind is not 2, or elements 1 to n
-      area: area of the part, times the factor; for an unknown kind the caller's value, times
-        the factor
+      area: area of the part, times the factor; if the kind is unknown, the caller's value,
+        times the factor
     """
     return _trvair.call((x, y, n, kind, value, factor, area), in_place)
 
@@ -4228,34 +4229,34 @@ def trvstm(
 ) -> TrvstmResult:
     """First moments of a part of a section.
 
-    A polygon is that of trvspl, its moments negated when it is listed clockwise; the segments
-    are those of trvacp.
+    The moments of a polygon are those of trvspl, with opposite signs if its vertices are listed
+    clockwise. The area and centroid of a segment are those of trvacp.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
-        a condition: kind is not 2, or elements 1 to n
-      n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
-        be before the arrays; ignored for other kinds
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for an unknown kind; unchanged
+        on a condition: kind is not 2, or elements 1 to n
+      n: number of vertices of kind 2, at least 0; n = 0 gives zeros; n must not be negative,
+        since the routine would write before the start of the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2 polygon: points
         1 to n are the vertices, counter-clockwise; 3 circle: a full circle, point 1 is its
         centre, point 2 is on it; 4 smaller_segment: the smaller circular segment, point 1 is
         the centre, points 2 and 3 are the ends of its chord; 5 larger_segment: the larger
-        circular segment, given as the smaller one; any other value is an unknown kind
+        circular segment, given by the same three points; any other value is an unknown kind
       value: area for kind 1, ignored otherwise
-      factor: multiplies the results. A hole is a part with the factor -1, a polygon then still
-        counter-clockwise: a clockwise one with -1 adds
-      sx, sy: first moments about the x and the y axis, times the factor; for an unknown kind
-        the caller's values, times the factor
+      factor: multiplies the results. A hole is a part with the factor -1. Caution: a polygon
+        must then still be counter-clockwise; a clockwise one with -1 adds moments
+      sx, sy: first moments about the x and the y axis, times the factor; if the kind is
+        unknown, the caller's values, times the factor
 
     Returns:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
-        a condition: kind is not 2, or elements 1 to n
-      sx, sy: first moments about the x and the y axis, times the factor; for an unknown kind
-        the caller's values, times the factor
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for an unknown kind; unchanged
+        on a condition: kind is not 2, or elements 1 to n
+      sx, sy: first moments about the x and the y axis, times the factor; if the kind is
+        unknown, the caller's values, times the factor
     """
     return _trvstm.call((x, y, n, kind, value, factor, sx, sy), in_place)
 
@@ -4282,49 +4283,50 @@ def trvinm(
 ) -> TrvinmResult:
     """Second moments of a part of a section.
 
-    A polygon is that of trvipl, its moments negated when it is listed clockwise; the segments
-    are those of trvicp.
+    The moments of a polygon are those of trvipl, with opposite signs if its vertices are listed
+    clockwise. The moments of a segment are those of trvicp.
 
-    A part of kind 1 brings its own centroidal moments in ix, iy and ixy, which are turned by
-    `angle` and shifted to the origin. Turning takes each new value into the next, so it is not
-    the rotation of a tensor: with s, c and t the sine and cosine of the angle and the sine of
-    its double, in order
+    For a part of kind 1, the caller passes its centroidal moments in ix, iy and ixy. They are
+    rotated by `angle` and shifted to the origin. Caution: this is not the usual rotation of
+    second moments, since each line uses the values that the lines before it have changed. With
+    s = sin(angle), c = cos(angle) and t = sin(2*angle):
 
       ix  = ix*c^2 + iy*s^2 - ixy*t
       iy  = iy*c^2 + s^2*ix + ixy*t
       ixy = ((ix - iy)*0.5 + ixy)*t
 
-    but nothing is turned, ixy neither, for an angle of exactly 0.
+    If the angle is exactly 0, these lines are skipped.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
-        a condition: kind is not 2, or elements 1 to n
-      n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
-        be before the arrays; ignored for other kinds
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for an unknown kind; unchanged
+        on a condition: kind is not 2, or elements 1 to n
+      n: number of vertices of kind 2, at least 0; n = 0 gives zeros; n must not be negative,
+        since the routine would write before the start of the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1, or a region with
-        that centroid by its own moments; 2 polygon: points 1 to n are the vertices,
-        counter-clockwise; 3 circle: a full circle, point 1 is its centre, point 2 is on it; 4
-        smaller_segment: the smaller circular segment, point 1 is the centre, points 2 and 3 are
-        the ends of its chord; 5 larger_segment: the larger circular segment, given as the
-        smaller one; any other value is an unknown kind
+        its centroid at point 1, whose centroidal moments are passed in ix, iy and ixy; 2
+        polygon: points 1 to n are the vertices, counter-clockwise; 3 circle: a full circle,
+        point 1 is its centre, point 2 is on it; 4 smaller_segment: the smaller circular
+        segment, point 1 is the centre, points 2 and 3 are the ends of its chord; 5
+        larger_segment: the larger circular segment, given by the same three points; any other
+        value is an unknown kind
       value: area for kind 1, ignored otherwise
-      angle: turn of the own axes in radians for kind 1, ignored otherwise
-      factor: multiplies the results. A hole is a part with the factor -1, a polygon then still
-        counter-clockwise: a clockwise one with -1 adds
-      ix, iy, ixy: second moments about the axes, times the factor; ixy for kinds 4 and 5
-        without the segment's own product of inertia, as trvicp gives it; for kind 1 the own
-        moments on entry; for an unknown kind the caller's values, times the factor
+      angle: rotation of the part's own axes in radians for kind 1, ignored otherwise
+      factor: multiplies the results. A hole is a part with the factor -1. Caution: a polygon
+        must then still be counter-clockwise; a clockwise one with -1 adds moments
+      ix, iy, ixy: second moments about the axes, times the factor; for kinds 4 and 5, ixy lacks
+        the segment's own product of inertia (trvicp); for kind 1, the part's own moments on
+        entry; if the kind is unknown, the caller's values, times the factor
 
     Returns:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
-        a condition: kind is not 2, or elements 1 to n
-      ix, iy, ixy: second moments about the axes, times the factor; ixy for kinds 4 and 5
-        without the segment's own product of inertia, as trvicp gives it; for kind 1 the own
-        moments on entry; for an unknown kind the caller's values, times the factor
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for an unknown kind; unchanged
+        on a condition: kind is not 2, or elements 1 to n
+      ix, iy, ixy: second moments about the axes, times the factor; for kinds 4 and 5, ixy lacks
+        the segment's own product of inertia (trvicp); for kind 1, the part's own moments on
+        entry; if the kind is unknown, the caller's values, times the factor
     """
     return _trvinm.call((x, y, n, kind, value, angle, factor, ix, iy, ixy), in_place)
 
@@ -4352,11 +4354,11 @@ def trvinp(
       i1 = ix*cos^2(alpha) - 2*ixy*sin(alpha)*cos(alpha) + iy*sin^2(alpha)
       i2 = ix*sin^2(alpha) + 2*ixy*sin(alpha)*cos(alpha) + iy*cos^2(alpha)
 
-    Since alpha is at most an eighth of a turn, i1 is the larger one when ix is larger than iy.
+    Since alpha is at most pi/4, i1 is the larger one if ix is larger than iy.
 
-    The axes count as principal already, i1 = ix, i2 = iy and alpha = 0, when |ixy/(ix + iy)| is
-    at most 1e-8 or NaN. Else with |iy - ix| < 1e-12 alpha is an eighth of a turn, i1 the mean
-    of ix and iy less ixy, i2 the mean and ixy.
+    If |ixy/(ix + iy)| is at most 1e-8 or NaN, the axes count as principal: i1 = ix, i2 = iy and
+    alpha = 0. Otherwise, if |iy - ix| < 1e-12: alpha = pi/4, i1 = (ix + iy)/2 - ixy and i2 =
+    (ix + iy)/2 + ixy.
 
     Retains: nothing.
 
@@ -4382,16 +4384,15 @@ def trvinr(
 ) -> float:
     """Integral of equally spaced samples over [a, b] by the trapezoidal rule.
 
-    The last interior sample f(n-1) does not enter the sum, and for n = 3 no interior sample
-    does.
+    Caution: the last interior sample f(n-1) is not in the sum; if n = 3, no interior sample is.
 
     Cost: the time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      n: number of samples, at least 2; 1 divides by zero; a smaller n is not allowed, since
-        f(n) would be before the array
+      n: number of samples, at least 2; 1 divides by zero; n must not be smaller, since f(n)
+        would be before the array
       f: array of n: samples
       a, b: limits
 
@@ -4412,9 +4413,10 @@ def trvro2(
 ) -> float:
     """Reduction factor of an internal compression element, EN 1993-1-5, 4.4(2).
 
-    The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). No reduction up to 0.5 +
-    sqrt(0.085 - 0.055*psi), else (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1.
-    There is no lower bound. ks = 0 gives 0; psi above 0.085/0.055 takes the second formula.
+    The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). If it is at most 0.5 +
+    sqrt(0.085 - 0.055*psi), rho = 1. Otherwise rho = (1 - 0.055*(3 + psi)/slenderness) /
+    slenderness, at most 1, without a lower bound. ks = 0 gives 0. If psi is above 0.085/0.055,
+    the second formula is used.
 
     Retains: nothing.
 
@@ -4445,10 +4447,12 @@ def trvefr(
 ) -> float:
     """Effective width of an edge fold on a plate it stiffens, after EN 1993-1-3, 5.5.3.2.
 
-    The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. That
-    departs from the clause, which has 0.5 + 0.83*(c/bp - 0.35)^(2/3) there. Beyond 0.6, or
-    where c/bp is NaN, the factor of the previous call stands; zero after loading, which gives
-    ceff = 0. The reduction is that of trvro2 for psi = 1.
+    The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. The
+    reduction is that of trvro2 for psi = 1.
+
+    Caution: between 0.35 and 0.6 the factor differs from the clause, which has 0.5 + 0.83*(c/bp
+    - 0.35)^(2/3). Beyond 0.6, or if c/bp is NaN, the factor of the previous call is used again.
+    It is zero after loading, which gives ceff = 0.
 
     Retains: the buckling factor (trvefr).
 
@@ -4493,15 +4497,15 @@ def trvef2(
       -1 to -3      5.98*(1 - psi)^2              0.4*rho*w           0.6*rho*w
       below -3      none                          w/2                 w/2
 
-    psi counts as 1 or 0 where s1 - s2 or s2 is within the tolerance, as -1 where |s1 + s2| is
-    below it. Cases overlap there: 1 gives way to a ratio below it, 0 to any tension or
-    compression at s2.
+    psi counts as 1 if s1 - s2 is within the tolerance, as 0 if s2 is, and as -1 if |s1 + s2| is
+    below the tolerance. Caution: the rows 1 and 0 overlap with others. If 0 < s2 < s1, however
+    small the difference, the row "1 to 0" is used; if s2 < 0, one of the rows for negative psi.
 
     Retains: nothing.
 
     Arguments:
       bl: width for the slenderness
-      w: width to reduce; in bending, where s2 is tension, that of the compressed part
+      w: width to reduce; if s2 is tension, the width of the compressed part
       t: thickness
       r1: square root of the yield strength: sqrt(fy)
       r2: square root of the reference strength: sqrt(235) for N/mm2
@@ -4512,7 +4516,7 @@ def trvef2(
       be1: effective width at the edge of s1; unwritten on a condition: be2 is unwritten
       be2: effective width at the other edge; unwritten on a condition: both stresses are within
         the tolerance, s1 is zero or negative, s1 = -s2/3, or s2 is not within the tolerance and
-        s2 - s1 is above it or NaN
+        s2 - s1 is above the tolerance or NaN
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -4556,7 +4560,7 @@ def trvsec_ia(
       B1, T1: width and thickness of flange 1, at the bottom
       B2, T2: width and thickness of flange 2, at the top
       TW: web thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -4607,7 +4611,7 @@ def trvsec_h(
       B1, T1: width and thickness of flange 1, on the left
       B2, T2: width and thickness of flange 2, on the right
       TW: web thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -4657,7 +4661,7 @@ def trvsec_t(
       B, TF: width and thickness of the flange
       H: height
       TW: stem thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -4705,7 +4709,7 @@ def trvsec_b(
     Arguments:
       B: width, an Integer
       H: height
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -4760,7 +4764,7 @@ def trvsec_h1b(
       P: height of its flanges
       T1, T2: thicknesses of the left and the right flange
       TW: web thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4812,7 +4816,7 @@ def trvsec_box(
       H: overall height
       TW: thickness of each web
       G: clear distance of the webs
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4860,7 +4864,7 @@ def trvsec_rhs(
     Arguments:
       B, H: width and height
       T: wall thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4910,7 +4914,7 @@ def trvsec_l2(
       B, T: length and thickness of a horizontal leg
       H, TV: height and thickness of a vertical leg
       G: gap between the vertical legs
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4963,7 +4967,7 @@ def trvsec_tab(
       E: height of the bottom plate's underside above the webs' lower ends
       TW: thickness of each web
       TB: thickness of the bottom plate
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -5015,7 +5019,7 @@ def trvsec_h2b(
       HI: clear distance of the flanges
       TW1, TW2: thicknesses of the left and the right web
       TM: thickness of the middle plate, at mid-height
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 3
@@ -5069,7 +5073,7 @@ def trvsec_i(
       TW: web thickness
       S1, S2: legs of the fillets between the web and flanges 1, 2; 0 for none
       E: distance of the web from the middle, to the right
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -5116,8 +5120,9 @@ def trvsec_c(
     """Channel open to the right, with lips turned inwards and folds turned back towards the
     web.
 
-    Lengths are outer ones. A lip no longer than its flange is thick is none, and without a lip
-    there is no fold; a fold no longer than its lip is thick is none.
+    Lengths are outer ones. A lip whose length does not exceed the thickness of its flange is
+    ignored, and so is the fold of this lip. A fold whose length does not exceed the thickness
+    of its lip is ignored.
 
     Retains: nothing.
 
@@ -5130,7 +5135,7 @@ def trvsec_c(
       T1, T2: thicknesses of the flanges
       TC1, TC2: thicknesses of the lips
       TD1, TD2: thicknesses of the folds
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -5155,16 +5160,17 @@ def trvshc_c(
 ) -> float:
     """Distance of a channel's shear centre from its centroid.
 
-    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is
-    lipped when C is above the tolerance.
+    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel has
+    lips if C is above the tolerance.
 
       plain   e0 = b^2/(2*b + h) + 3*b^2/(h + 6*b)
       lipped  e0 = b*(b + 2*c)/(h + 2*b + 2*c) + b*t*(3*b*h^2 + 6*c*h^2 - 8*c^3)/(12*I)
               I  = t*(h^3 + 6*(b + c)*h^2 - 12*c^2*h + 8*c^3)/12
 
-    The first term is the centroid's distance from the web, the second the shear centre's on the
-    other side (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix,
-    table A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B, sharp corners).
+    The first term is the distance of the centroid from the web, the second that of the shear
+    centre on the other side of the web (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic
+    stability, appendix, table A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B,
+    sharp corners).
 
     Retains: nothing.
 
@@ -5175,7 +5181,7 @@ def trvshc_c(
       t: wall thickness
 
     Returns:
-      e0: distance along the flanges; infinite or NaN where the section has no size
+      e0: distance along the flanges; infinite or NaN if the section has no size
     """
     return _trvshc_c.cells(B, H, C, t, _NAN)
 
@@ -5191,9 +5197,9 @@ def trvwar_c(
 ) -> float:
     """Warping constant of a channel.
 
-    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is
-    lipped when C is above the tolerance. With A the area, xg and e the distances of centroid
-    and shear centre from the web, and I the second moment about the axis of symmetry, all as
+    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel has
+    lips if C is above the tolerance. With A the area, xg and e the distances of centroid and
+    shear centre from the web, and I the second moment about the axis of symmetry, all as
     trvshc_c:
 
       plain   Iw = t*b^3*h^2*(3*b + 2*h)/(12*(h + 6*b))
@@ -5215,7 +5221,7 @@ def trvwar_c(
       t: wall thickness
 
     Returns:
-      Iw: warping constant, in the sixth power of the length unit; infinite or NaN where the
+      Iw: warping constant, in the sixth power of the length unit; infinite or NaN if the
         section has no size
     """
     return _trvwar_c.cells(B, H, C, t, _NAN)
@@ -5270,14 +5276,14 @@ def trvmxt(
 ) -> TrvmxtResult:
     """Properties of an open section of thin plates.
 
-    Each plate is given by its centre line and its thickness. The first starts anywhere, each
-    further one at an end of an earlier one, within the tolerance in each coordinate. A plate
-    that others join between its ends is given as two. Plates meet at their ends only: elsewhere
-    none comes to another within 1e-5, or within 2^-22 of the greatest coordinate where that is
-    more.
+    Each plate is given by its centre line and its thickness. The first plate may start
+    anywhere. Each further plate must start at an end of an earlier one, within the tolerance in
+    each coordinate. A plate that others join between its ends must be given as two plates.
+    Plates must meet at their ends only: apart from the joints, the distance between two plates
+    must be more than 1e-5 and more than 2^-22 times the largest coordinate.
 
-    Area, moments and moduli are those of the plates as rectangles about their centre lines,
-    overlaps at the joints counted twice. Shear centre, warping constant and sectorial
+    Area, moments and moduli are those of the plates as rectangles about their centre lines;
+    overlaps at the joints are counted twice. Shear centre, warping constant and sectorial
     coordinates are those of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed
     in double precision and rounded once.
 
@@ -5297,30 +5303,33 @@ def trvmxt(
       Ix, Iy: second moments about the centroid, of y^2 and of x^2; unwritten if status is -1
       Ixy: product of inertia about the centroid; unwritten if status is -1
       I1: moment about the axis turned by alpha from the x axis; unwritten if status is -1
-      I2: moment about the axis perpendicular to it; either may be the larger; unwritten if
-        status is -1
-      alpha: angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 where |Ixy|
-        is at most 1e-8*(Ix + Iy), else pi/4 where |Iy - Ix| is; unwritten if status is -1
+      I2: moment about the axis perpendicular to that of I1; either may be the larger; unwritten
+        if status is -1
+      alpha: angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 if |Ixy| is
+        at most 1e-8*(Ix + Iy), otherwise pi/4 if |Iy - Ix| is; unwritten if status is -1
       rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
-      Wx1, Wx2: elastic moduli of the top and the bottom fibre; unwritten if status is -1
-      Wy1, Wy2: elastic moduli of the right and the left fibre; unwritten if status is -1
-      Wpx, Wpy: plastic moduli about the equal-area axes; unwritten if status is -1
-      xp, yp: equal-area axes: the vertical one at xp, the horizontal one at yp; in the middle
-        of a gap between the halves; unwritten if status is -1
+      Wx1, Wx2: elastic section moduli of the top and the bottom extreme fibre; unwritten if
+        status is -1
+      Wy1, Wy2: elastic section moduli of the right and the left extreme fibre; unwritten if
+        status is -1
+      Wpx, Wpy: plastic section moduli about the plastic neutral axes; unwritten if status is -1
+      xp, yp: plastic neutral axes (equal-area axes): the vertical one at xp, the horizontal one
+        at yp; in the middle of a gap if there is one between the halves; unwritten if status is
+        -1
       It: torsion constant: sum of l*t^3/3; unwritten unless status is 0
       Wt: torsion modulus: It over the greatest thickness; unwritten unless status is 0
-      xm, ym: shear centre; the centroid where all plates are on one line; unwritten unless
-        status is 0
+      xm, ym: shear centre; the centroid if all plates are on one line; unwritten unless status
+        is 0
       Iw: warping constant; unwritten unless status is 0
       r0: polar radius of gyration about the shear centre; unwritten unless status is 0
       W1, W2: arrays of n: normalised sectorial coordinate at the plates' starts and ends,
-        counter-clockwise positive; unwritten unless status is 0
+        positive counter-clockwise; unwritten unless status is 0
       status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a
         coordinate or a thickness is infinite or NaN, or a length or a thickness is not above
-        the tolerance; 2 to n: this plate is the first at fault, it starts at no end of an
-        earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is the
-        first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at its
-        start, which may close a cell
+        the tolerance; 2 to n: number of the first faulty plate, which does not start at an end
+        of an earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the number of
+        the first faulty plate, which crosses, touches or overlaps an earlier plate elsewhere
+        than at its start, and may close a cell
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -5391,10 +5400,12 @@ def trvmxt_fb(
       I1, I2: principal moments: Ix, Iy; unwritten if status is -1
       alpha: angle of the axis of I1 from the x axis: 0; unwritten if status is -1
       rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
-      Wx1, Wx2: elastic moduli of the top and the bottom fibre; unwritten if status is -1
-      Wy1, Wy2: elastic moduli of the right and the left fibre; unwritten if status is -1
-      Wpx, Wpy: plastic moduli about the x and the y axis; unwritten if status is -1
-      xp, yp: equal-area axes: 0; unwritten if status is -1
+      Wx1, Wx2: elastic section moduli of the top and the bottom extreme fibre; unwritten if
+        status is -1
+      Wy1, Wy2: elastic section moduli of the right and the left extreme fibre; unwritten if
+        status is -1
+      Wpx, Wpy: plastic section moduli about the x and the y axis; unwritten if status is -1
+      xp, yp: plastic neutral axes: 0; unwritten if status is -1
       It: torsion constant; unwritten if status is -1
       Wt: torsion modulus: torque over the greatest shear stress; unwritten if status is -1
       xm, ym: shear centre: 0; unwritten if status is -1
