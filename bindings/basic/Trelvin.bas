@@ -102,7 +102,7 @@ Public Const trvcer10CrossingOrRefused As Long = 0
 Public Const trvcer10AlongChord As Long = 1
 Public Const trvcer10Parallel As Long = 2
 
-' trvptp1: which points of A have a partner in B.
+' trvptp1: which points of A match a point of B.
 Public Const trvptp1NoPair As Long = 0
 Public Const trvptp1SomePairs As Long = 1
 Public Const trvptp1AllPaired As Long = 2
@@ -500,11 +500,11 @@ Public Declare PtrSafe Sub trvord Lib "Trelvin64.dll" Alias "trvord" (ByRef V As
 Public Declare PtrSafe Sub trvord1 Lib "Trelvin64.dll" Alias "trvord1" (ByRef V As Long, _
     ByRef n As Long)
 
-' Positions of the entries of a list in ascending order; the list itself stays.
+' Positions of the elements of a list in ascending order; the list itself is not changed.
 Public Declare PtrSafe Sub trvordi Lib "Trelvin64.dll" Alias "trvordi" (ByRef V As Single, _
     ByRef n As Long, ByRef IDX As Long)
 
-' Order of parallel lines by where they cross an axis.
+' Order of parallel lines by their intersections with an axis.
 ' status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a family
 ' of parallel and distinct lines, or n < 1.
 Public Declare PtrSafe Sub trvpor Lib "Trelvin64.dll" Alias "trvpor" (ByRef n As Long, _
@@ -519,12 +519,12 @@ Public Declare PtrSafe Sub trvorv Lib "Trelvin64.dll" Alias "trvorv" (ByRef X As
 Public Declare PtrSafe Sub trvsel1 Lib "Trelvin64.dll" Alias "trvsel1" (ByRef n As Long, _
     ByRef V As Long, ByRef key As Long, ByRef count As Long, ByRef pos As Long)
 
-' All pairs of entries of two lists that differ by at most a tolerance.
+' All pairs of elements of two lists that differ by at most a tolerance.
 Public Declare PtrSafe Sub trvmer13 Lib "Trelvin64.dll" Alias "trvmer13" (ByRef na As Long, _
     ByRef A As Single, ByRef nb As Long, ByRef B As Single, ByRef count As Long, ByRef IA As Long, _
     ByRef IB As Long, ByRef tol As Single)
 
-' Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
+' Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold Reals.
 Public Declare PtrSafe Sub trvmer1 Lib "Trelvin64.dll" Alias "trvmer1" (ByRef na As Long, _
     ByRef A As Long, ByRef nb As Long, ByRef B As Long, ByRef nout As Long, ByRef OUT As Long)
 
@@ -532,44 +532,44 @@ Public Declare PtrSafe Sub trvmer1 Lib "Trelvin64.dll" Alias "trvmer1" (ByRef na
 Public Declare PtrSafe Sub trvmer11 Lib "Trelvin64.dll" Alias "trvmer11" (ByRef na As Long, _
     ByRef A As Long, ByRef nb As Long, ByRef B As Long, ByRef nout As Long, ByRef OUT As Long)
 
-' Sorts Integers ascending and drops repeats, in place.
+' Sorts Integers ascending and removes duplicates, in place.
 Public Declare PtrSafe Sub trvmer2 Lib "Trelvin64.dll" Alias "trvmer2" (ByRef V As Long, _
     ByRef n As Long)
 
-' Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+' Sorts Reals ascending and removes duplicates within a tolerance, in place.
 Public Declare PtrSafe Sub trvmer3 Lib "Trelvin64.dll" Alias "trvmer3" (ByRef V As Single, _
     ByRef n As Long)
 
-' Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+' Sorts Reals ascending and removes duplicates within a tolerance, in place.
 Public Declare PtrSafe Sub trvmer12 Lib "Trelvin64.dll" Alias "trvmer12" (ByRef V As Single, _
     ByRef n As Long, ByRef tol As Single)
 
-' Joins to a list those entries of another that it does not hold yet.
+' Appends to a list those elements of another that it does not hold yet.
 Public Declare PtrSafe Sub trvmer4 Lib "Trelvin64.dll" Alias "trvmer4" (ByRef na As Long, _
     ByRef A As Single, ByRef nb As Long, ByRef B As Single, ByRef tol As Single, _
     ByRef nout As Long, ByRef OUT As Single, ByRef IB As Long)
 
-' Entries of a list that another holds too.
+' Elements of a list that another holds too.
 Public Declare PtrSafe Sub trvmer14 Lib "Trelvin64.dll" Alias "trvmer14" (ByRef na As Long, _
     ByRef A As Long, ByRef nb As Long, ByRef B As Long, ByRef nout As Long, ByRef OUT As Long)
 
-' Removes from a list the entries that another holds, in place.
+' Removes from a list the elements that another holds, in place.
 Public Declare PtrSafe Sub trvmer15 Lib "Trelvin64.dll" Alias "trvmer15" (ByRef na As Long, _
     ByRef A As Long, ByRef nb As Long, ByRef B As Long, ByRef count As Long)
 
-' Drops repeated vertices of a closed outline, in place.
+' Removes repeated vertices of a closed outline, in place.
 Public Declare PtrSafe Sub trvmer16 Lib "Trelvin64.dll" Alias "trvmer16" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef tol As Single)
 
-' All pairs of points of two lists that agree within a tolerance in each coordinate.
-' status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have; 2
-' all_paired: every one has.
+' All pairs of points of two lists that match within a tolerance in each coordinate.
+' status: which points of A match a point of B: 0 no_pair: no point of A does; 1 some_pairs: some
+' points of A do, others do not; 2 all_paired: every point of A does.
 Public Declare PtrSafe Sub trvptp1 Lib "Trelvin64.dll" Alias "trvptp1" (ByRef na As Long, _
     ByRef XA As Single, ByRef YA As Single, ByRef ZA As Single, ByRef nb As Long, _
     ByRef XB As Single, ByRef YB As Single, ByRef ZB As Single, ByRef tol As Single, _
     ByRef count As Long, ByRef IA As Long, ByRef IB As Long, ByRef status As Long)
 
-' Merges three lists of points into one list of places.
+' Merges three lists of points into one list.
 Public Declare PtrSafe Sub trvptp2 Lib "Trelvin64.dll" Alias "trvptp2" (ByRef na As Long, _
     ByRef XA As Single, ByRef YA As Single, ByRef ZA As Single, ByRef nb As Long, _
     ByRef XB As Single, ByRef YB As Single, ByRef ZB As Single, ByRef nc As Long, _
@@ -580,12 +580,12 @@ Public Declare PtrSafe Sub trvptp2 Lib "Trelvin64.dll" Alias "trvptp2" (ByRef na
     ByRef MA As Long, ByRef MB As Long, ByRef MC As Long, ByRef k As Long, ByRef nk As Long, _
     ByRef PK As Long, ByRef nz As Long, ByRef ZL As Single)
 
-' Where the horizontal line y = y0 crosses a closed outline.
+' Crossings of the horizontal line y = y0 with a closed outline.
 Public Declare PtrSafe Sub trvppp Lib "Trelvin64.dll" Alias "trvppp" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef y0 As Single, ByRef count As Long, _
     ByRef XC As Single)
 
-' Where the segment from P1 to P2 crosses a closed outline.
+' Crossings of the segment from P1 to P2 with a closed outline.
 ' status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1 is
 ' outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within the
 ' tolerance in both coordinates.
@@ -648,7 +648,7 @@ Public Declare PtrSafe Sub trvdtr3 Lib "Trelvin64.dll" Alias "trvdtr3" (ByRef a1
     ByRef b3 As Single, ByRef c1 As Single, ByRef c2 As Single, ByRef c3 As Single, _
     ByRef det As Single)
 
-' Divides two coefficients by a third, or gives zeros where it vanishes.
+' Divides two coefficients by a third, or gives zeros if the third is zero within the tolerance.
 Public Declare PtrSafe Sub trvgrc Lib "Trelvin64.dll" Alias "trvgrc" (ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef q1 As Single, ByRef q2 As Single)
 
@@ -667,7 +667,7 @@ Public Declare PtrSafe Sub trvvin Lib "Trelvin64.dll" Alias "trvvin" (ByRef u1 A
 Public Declare PtrSafe Sub trvpos Lib "Trelvin64.dll" Alias "trvpos" (ByRef n As Long, _
     ByRef A As Single, ByRef x As Single, ByRef i As Long)
 
-' Entry of an ascending table that equals a value, or the interval that holds it.
+' Element of an ascending table that equals a value, or the interval that holds it.
 ' status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
 ' A(i+1); 0 neither: x equals no element and lies in no interval.
 Public Declare PtrSafe Sub trvpos1 Lib "Trelvin64.dll" Alias "trvpos1" (ByRef n As Long, _
@@ -688,7 +688,7 @@ Public Declare PtrSafe Sub trvln4 Lib "Trelvin64.dll" Alias "trvln4" (ByRef x0 A
     ByRef y0 As Single, ByRef dx As Single, ByRef dy As Single, ByRef u As Single, _
     ByRef a As Single, ByRef b As Single, ByRef c As Single)
 
-' Parallel of a line at a signed distance.
+' Line parallel to a line at a signed distance.
 Public Declare PtrSafe Sub trvln2 Lib "Trelvin64.dll" Alias "trvln2" (ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef d As Single, ByRef a2 As Single, _
     ByRef b2 As Single, ByRef c2 As Single)
@@ -717,7 +717,7 @@ Public Declare PtrSafe Sub trvlul Lib "Trelvin64.dll" Alias "trvlul" (ByRef a1 A
     ByRef c2 As Single, ByRef d As Single, ByRef status As Long)
 
 ' Which components of two triples differ by more than the tolerance.
-' code: which components differ by more than the tolerance (TrvComponents): 0 none: no component is
+' code: which components of p - q are above the tolerance (TrvComponents): 0 none: no component is
 ' above the tolerance; 1 all: all three components are above the tolerance; 2 first: only the first
 ' component is above the tolerance; 3 second: only the second component is above the tolerance; 4
 ' third: only the third component is above the tolerance; 5 first_second: only the first and the
@@ -740,15 +740,15 @@ Public Declare PtrSafe Sub trvln6 Lib "Trelvin64.dll" Alias "trvln6" (ByRef x0 A
     ByRef dz As Single, ByRef px As Single, ByRef py As Single, ByRef pz As Single, _
     ByRef tol As Single, ByRef code As Long, ByRef on_ As Long)
 
-' Line of two planes, and whether it agrees with a point at a retained station.
+' Direction of the line of two planes, and whether a point matches it at a retained coordinate.
 ' code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
 ' component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
 ' only the first component is above the tolerance; 3 second: only the second component is above the
 ' tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
 ' first and the second are above the tolerance; 6 second_third: only the second and the third are
 ' above the tolerance; 7 first_third: only the first and the third are above the tolerance.
-' on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the line at
-' the station.
+' on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does not match the
+' line at the kept coordinate.
 Public Declare PtrSafe Sub trvln7 Lib "Trelvin64.dll" Alias "trvln7" (ByRef a1 As Single, _
     ByRef b1 As Single, ByRef c1 As Single, ByRef d1 As Single, ByRef a2 As Single, _
     ByRef b2 As Single, ByRef c2 As Single, ByRef d2 As Single, ByRef px As Single, _
@@ -830,11 +830,11 @@ Public Declare PtrSafe Sub trvmov Lib "Trelvin64.dll" Alias "trvmov" (ByRef x1 A
 Public Declare PtrSafe Sub trvtra Lib "Trelvin64.dll" Alias "trvtra" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef x0 As Single, ByRef y0 As Single)
 
-' Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+' Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
 Public Declare PtrSafe Sub trvinv Lib "Trelvin64.dll" Alias "trvinv" (ByRef V As Long, _
     ByRef n As Long)
 
-' Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+' Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
 Public Declare PtrSafe Sub trvadr Lib "Trelvin64.dll" Alias "trvadr" (ByRef V As Long, _
     ByRef n As Long, ByRef k As Long, ByRef A As Long, ByRef m As Long)
 

@@ -114,7 +114,7 @@ namespace Trelvin
         public const int trvcer10AlongChord = 1;
         public const int trvcer10Parallel = 2;
 
-        // trvptp1: which points of A have a partner in B.
+        // trvptp1: which points of A match a point of B.
         public const int trvptp1NoPair = 0;
         public const int trvptp1SomePairs = 1;
         public const int trvptp1AllPaired = 2;
@@ -791,26 +791,26 @@ namespace Trelvin
             trvord1(V, ref n);
         }
 
-        /// <summary>Positions of the entries of a list in ascending order; the list itself
-        /// stays.</summary>
+        /// <summary>Positions of the elements of a list in ascending order; the list itself is not
+        /// changed.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvordi([In] float[] V, ref int n, [In, Out] int[] IDX);
 
-        /// <summary>Positions of the entries of a list in ascending order; the list itself
-        /// stays.</summary>
+        /// <summary>Positions of the elements of a list in ascending order; the list itself is not
+        /// changed.</summary>
         public static void trvordi(float[] V, int n, int[] IDX)
         {
             trvordi(V, ref n, IDX);
         }
 
-        /// <summary>Order of parallel lines by where they cross an axis.</summary>
+        /// <summary>Order of parallel lines by their intersections with an axis.</summary>
         /// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines
         /// are not a family of parallel and distinct lines, or n &lt; 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpor(ref int n, [In] float[] A, [In] float[] B, [In] float[] C,
             [In, Out] int[] IDX, ref int status);
 
-        /// <summary>Order of parallel lines by where they cross an axis.</summary>
+        /// <summary>Order of parallel lines by their intersections with an axis.</summary>
         /// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines
         /// are not a family of parallel and distinct lines, or n &lt; 1.</remarks>
         public static void trvpor(int n, float[] A, float[] B, float[] C, int[] IDX, out int status)
@@ -837,12 +837,14 @@ namespace Trelvin
             trvsel1(ref n, V, ref key, ref count, pos);
         }
 
-        /// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
+        /// <summary>All pairs of elements of two lists that differ by at most a
+        /// tolerance.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer13(ref int na, [In] float[] A, ref int nb, [In] float[] B,
             ref int count, [In, Out] int[] IA, [In, Out] int[] IB, ref float tol);
 
-        /// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
+        /// <summary>All pairs of elements of two lists that differ by at most a
+        /// tolerance.</summary>
         public static void trvmer13(int na, float[] A, int nb, float[] B, out int count, int[] IA,
             int[] IB, float tol)
         {
@@ -850,14 +852,14 @@ namespace Trelvin
             trvmer13(ref na, A, ref nb, B, ref count, IA, IB, ref tol);
         }
 
-        /// <summary>Joins two lists end to end. Entries are copied bit for bit, so Reals pass as
-        /// well as Integers.</summary>
+        /// <summary>Joins two lists end to end. Elements are copied bit for bit, so the lists may
+        /// also hold Reals.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer1(ref int na, [In] int[] A, ref int nb, [In] int[] B,
             ref int nout, [In, Out] int[] OUT);
 
-        /// <summary>Joins two lists end to end. Entries are copied bit for bit, so Reals pass as
-        /// well as Integers.</summary>
+        /// <summary>Joins two lists end to end. Elements are copied bit for bit, so the lists may
+        /// also hold Reals.</summary>
         public static void trvmer1(int na, int[] A, int nb, int[] B, out int nout, int[] OUT)
         {
             nout = 0;
@@ -876,33 +878,35 @@ namespace Trelvin
             trvmer11(ref na, A, ref nb, B, ref nout, OUT);
         }
 
-        /// <summary>Sorts Integers ascending and drops repeats, in place.</summary>
+        /// <summary>Sorts Integers ascending and removes duplicates, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer2([In, Out] int[] V, ref int n);
 
-        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
-        /// in place.</summary>
+        /// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in
+        /// place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer3([In, Out] float[] V, ref int n);
 
-        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
-        /// in place.</summary>
+        /// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in
+        /// place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer12([In, Out] float[] V, ref int n, ref float tol);
 
-        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
-        /// in place.</summary>
+        /// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in
+        /// place.</summary>
         public static void trvmer12(float[] V, ref int n, float tol)
         {
             trvmer12(V, ref n, ref tol);
         }
 
-        /// <summary>Joins to a list those entries of another that it does not hold yet.</summary>
+        /// <summary>Appends to a list those elements of another that it does not hold
+        /// yet.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer4(ref int na, [In] float[] A, ref int nb, [In] float[] B,
             ref float tol, ref int nout, [In, Out] float[] OUT, [In, Out] int[] IB);
 
-        /// <summary>Joins to a list those entries of another that it does not hold yet.</summary>
+        /// <summary>Appends to a list those elements of another that it does not hold
+        /// yet.</summary>
         public static void trvmer4(int na, float[] A, int nb, float[] B, float tol, out int nout,
             float[] OUT, int[] IB)
         {
@@ -910,54 +914,56 @@ namespace Trelvin
             trvmer4(ref na, A, ref nb, B, ref tol, ref nout, OUT, IB);
         }
 
-        /// <summary>Entries of a list that another holds too.</summary>
+        /// <summary>Elements of a list that another holds too.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer14(ref int na, [In] int[] A, ref int nb, [In] int[] B,
             ref int nout, [In, Out] int[] OUT);
 
-        /// <summary>Entries of a list that another holds too.</summary>
+        /// <summary>Elements of a list that another holds too.</summary>
         public static void trvmer14(int na, int[] A, int nb, int[] B, out int nout, int[] OUT)
         {
             nout = 0;
             trvmer14(ref na, A, ref nb, B, ref nout, OUT);
         }
 
-        /// <summary>Removes from a list the entries that another holds, in place.</summary>
+        /// <summary>Removes from a list the elements that another holds, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer15(ref int na, [In, Out] int[] A, ref int nb, [In] int[] B,
             ref int count);
 
-        /// <summary>Removes from a list the entries that another holds, in place.</summary>
+        /// <summary>Removes from a list the elements that another holds, in place.</summary>
         public static void trvmer15(ref int na, int[] A, int nb, int[] B, out int count)
         {
             count = 0;
             trvmer15(ref na, A, ref nb, B, ref count);
         }
 
-        /// <summary>Drops repeated vertices of a closed outline, in place.</summary>
+        /// <summary>Removes repeated vertices of a closed outline, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer16([In, Out] float[] X, [In, Out] float[] Y, ref int n,
             ref float tol);
 
-        /// <summary>Drops repeated vertices of a closed outline, in place.</summary>
+        /// <summary>Removes repeated vertices of a closed outline, in place.</summary>
         public static void trvmer16(float[] X, float[] Y, ref int n, float tol)
         {
             trvmer16(X, Y, ref n, ref tol);
         }
 
-        /// <summary>All pairs of points of two lists that agree within a tolerance in each
+        /// <summary>All pairs of points of two lists that match within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1
-        /// some_pairs: some have; 2 all_paired: every one has.</remarks>
+        /// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A does; 1
+        /// some_pairs: some points of A do, others do not; 2 all_paired: every point of A
+        /// does.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptp1(ref int na, [In] float[] XA, [In] float[] YA,
             [In] float[] ZA, ref int nb, [In] float[] XB, [In] float[] YB, [In] float[] ZB,
             ref float tol, ref int count, [In, Out] int[] IA, [In, Out] int[] IB, ref int status);
 
-        /// <summary>All pairs of points of two lists that agree within a tolerance in each
+        /// <summary>All pairs of points of two lists that match within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1
-        /// some_pairs: some have; 2 all_paired: every one has.</remarks>
+        /// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A does; 1
+        /// some_pairs: some points of A do, others do not; 2 all_paired: every point of A
+        /// does.</remarks>
         public static void trvptp1(int na, float[] XA, float[] YA, float[] ZA, int nb, float[] XB,
             float[] YB, float[] ZB, float tol, out int count, int[] IA, int[] IB, out int status)
         {
@@ -965,7 +971,7 @@ namespace Trelvin
             trvptp1(ref na, XA, YA, ZA, ref nb, XB, YB, ZB, ref tol, ref count, IA, IB, ref status);
         }
 
-        /// <summary>Merges three lists of points into one list of places.</summary>
+        /// <summary>Merges three lists of points into one list.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptp2(ref int na, [In] float[] XA, [In] float[] YA,
             [In] float[] ZA, ref int nb, [In] float[] XB, [In] float[] YB, [In] float[] ZB,
@@ -976,7 +982,7 @@ namespace Trelvin
             [In, Out] int[] MA, [In, Out] int[] MB, [In, Out] int[] MC, ref int k, ref int nk,
             [In, Out] int[] PK, ref int nz, [In, Out] float[] ZL);
 
-        /// <summary>Merges three lists of points into one list of places.</summary>
+        /// <summary>Merges three lists of points into one list.</summary>
         public static void trvptp2(int na, float[] XA, float[] YA, float[] ZA, int nb, float[] XB,
             float[] YB, float[] ZB, int nc, float[] XC, float[] YC, float[] ZC, float tol,
             out int nab, int[] IAB, int[] JAB, out int nbc, int[] IBC, int[] JBC, out int nca,
@@ -989,19 +995,19 @@ namespace Trelvin
                 ref k, ref nk, PK, ref nz, ZL);
         }
 
-        /// <summary>Where the horizontal line y = y0 crosses a closed outline.</summary>
+        /// <summary>Crossings of the horizontal line y = y0 with a closed outline.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvppp([In] float[] X, [In] float[] Y, ref int n, ref float y0,
             ref int count, [In, Out] float[] XC);
 
-        /// <summary>Where the horizontal line y = y0 crosses a closed outline.</summary>
+        /// <summary>Crossings of the horizontal line y = y0 with a closed outline.</summary>
         public static void trvppp(float[] X, float[] Y, int n, float y0, out int count, float[] XC)
         {
             count = 0;
             trvppp(X, Y, ref n, ref y0, ref count, XC);
         }
 
-        /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
+        /// <summary>Crossings of the segment from P1 to P2 with a closed outline.</summary>
         /// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
         /// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and
         /// P2 coincide within the tolerance in both coordinates.</remarks>
@@ -1010,7 +1016,7 @@ namespace Trelvin
             ref float y1, ref float x2, ref float y2, ref int count, [In, Out] float[] XI,
             [In, Out] float[] YI, [In, Out] float[] T, [In, Out] int[] EDGE, ref int status);
 
-        /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
+        /// <summary>Crossings of the segment from P1 to P2 with a closed outline.</summary>
         /// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
         /// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and
         /// P2 coincide within the tolerance in both coordinates.</remarks>
@@ -1161,14 +1167,14 @@ namespace Trelvin
                 ref det);
         }
 
-        /// <summary>Divides two coefficients by a third, or gives zeros where it
-        /// vanishes.</summary>
+        /// <summary>Divides two coefficients by a third, or gives zeros if the third is zero within
+        /// the tolerance.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvgrc(ref float a, ref float b, ref float c, ref float q1,
             ref float q2);
 
-        /// <summary>Divides two coefficients by a third, or gives zeros where it
-        /// vanishes.</summary>
+        /// <summary>Divides two coefficients by a third, or gives zeros if the third is zero within
+        /// the tolerance.</summary>
         public static void trvgrc(float a, float b, float c, out float q1, out float q2)
         {
             q1 = q2 = 0;
@@ -1214,7 +1220,7 @@ namespace Trelvin
             trvpos(ref n, A, ref x, ref i);
         }
 
-        /// <summary>Entry of an ascending table that equals a value, or the interval that holds
+        /// <summary>Element of an ascending table that equals a value, or the interval that holds
         /// it.</summary>
         /// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2
         /// between: A(i) &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no
@@ -1223,7 +1229,7 @@ namespace Trelvin
         public static extern void trvpos1(ref int n, [In] float[] A, ref float x, ref int status,
             ref int i);
 
-        /// <summary>Entry of an ascending table that equals a value, or the interval that holds
+        /// <summary>Element of an ascending table that equals a value, or the interval that holds
         /// it.</summary>
         /// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2
         /// between: A(i) &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no
@@ -1273,12 +1279,12 @@ namespace Trelvin
             trvln4(ref x0, ref y0, ref dx, ref dy, ref u, ref a, ref b, ref c);
         }
 
-        /// <summary>Parallel of a line at a signed distance.</summary>
+        /// <summary>Line parallel to a line at a signed distance.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvln2(ref float a, ref float b, ref float c, ref float d,
             ref float a2, ref float b2, ref float c2);
 
-        /// <summary>Parallel of a line at a signed distance.</summary>
+        /// <summary>Line parallel to a line at a signed distance.</summary>
         public static void trvln2(float a, float b, float c, float d, out float a2, out float b2,
             out float c2)
         {
@@ -1352,7 +1358,7 @@ namespace Trelvin
         }
 
         /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-        /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0
+        /// <remarks>code: which components of p - q are above the tolerance (TrvComponents): 0
         /// none: no component is above the tolerance; 1 all: all three components are above the
         /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
         /// second component is above the tolerance; 4 third: only the third component is above the
@@ -1364,7 +1370,7 @@ namespace Trelvin
             ref float q2, ref float q3, ref int code);
 
         /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-        /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0
+        /// <remarks>code: which components of p - q are above the tolerance (TrvComponents): 0
         /// none: no component is above the tolerance; 1 all: all three components are above the
         /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
         /// second component is above the tolerance; 4 third: only the third component is above the
@@ -1415,8 +1421,8 @@ namespace Trelvin
                 ref code, ref on);
         }
 
-        /// <summary>Line of two planes, and whether it agrees with a point at a retained
-        /// station.</summary>
+        /// <summary>Direction of the line of two planes, and whether a point matches it at a
+        /// retained coordinate.</summary>
         /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents):
         /// 0 none: no component is above the tolerance; 1 all: all three components are above the
         /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
@@ -1424,16 +1430,16 @@ namespace Trelvin
         /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
         /// second_third: only the second and the third are above the tolerance; 7 first_third: only
         /// the first and the third are above the tolerance.</remarks>
-        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
-        /// not match the line at the station.</remarks>
+        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P
+        /// does not match the line at the kept coordinate.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvln7(ref float a1, ref float b1, ref float c1, ref float d1,
             ref float a2, ref float b2, ref float c2, ref float d2, ref float px, ref float py,
             ref float pz, ref float ex, ref float ey, ref float ez, ref float tol, ref int code,
             ref int on);
 
-        /// <summary>Line of two planes, and whether it agrees with a point at a retained
-        /// station.</summary>
+        /// <summary>Direction of the line of two planes, and whether a point matches it at a
+        /// retained coordinate.</summary>
         /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents):
         /// 0 none: no component is above the tolerance; 1 all: all three components are above the
         /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
@@ -1441,8 +1447,8 @@ namespace Trelvin
         /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
         /// second_third: only the second and the third are above the tolerance; 7 first_third: only
         /// the first and the third are above the tolerance.</remarks>
-        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
-        /// not match the line at the station.</remarks>
+        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P
+        /// does not match the line at the kept coordinate.</remarks>
         public static void trvln7(float a1, float b1, float c1, float d1, float a2, float b2,
             float c2, float d2, float px, float py, float pz, out float ex, out float ey, float ez,
             float tol, out int code, out int on)
@@ -1646,26 +1652,26 @@ namespace Trelvin
             trvtra(X, Y, ref n, ref x0, ref y0);
         }
 
-        /// <summary>Reverses a list, in place. Elements move bit for bit, so Reals pass as well as
-        /// Integers.</summary>
+        /// <summary>Reverses a list, in place. Elements move bit for bit, so the list may also hold
+        /// Reals.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvinv([In, Out] int[] V, ref int n);
 
-        /// <summary>Reverses a list, in place. Elements move bit for bit, so Reals pass as well as
-        /// Integers.</summary>
+        /// <summary>Reverses a list, in place. Elements move bit for bit, so the list may also hold
+        /// Reals.</summary>
         public static void trvinv(int[] V, int n)
         {
             trvinv(V, ref n);
         }
 
-        /// <summary>Inserts a list into another. Elements move bit for bit, so Reals pass as well
-        /// as Integers.</summary>
+        /// <summary>Inserts a list into another. Elements move bit for bit, so the lists may also
+        /// hold Reals.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvadr([In, Out] int[] V, ref int n, ref int k, [In] int[] A,
             ref int m);
 
-        /// <summary>Inserts a list into another. Elements move bit for bit, so Reals pass as well
-        /// as Integers.</summary>
+        /// <summary>Inserts a list into another. Elements move bit for bit, so the lists may also
+        /// hold Reals.</summary>
         public static void trvadr(int[] V, ref int n, int k, int[] A, int m)
         {
             trvadr(V, ref n, ref k, A, ref m);

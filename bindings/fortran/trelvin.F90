@@ -112,7 +112,7 @@ module trelvin
   integer(c_int32_t), parameter :: trvcer10_along_chord = 1
   integer(c_int32_t), parameter :: trvcer10_parallel = 2
 
-  ! trvptp1: which points of A have a partner in B.
+  ! trvptp1: which points of A match a point of B.
   integer(c_int32_t), parameter :: trvptp1_no_pair = 0
   integer(c_int32_t), parameter :: trvptp1_some_pairs = 1
   integer(c_int32_t), parameter :: trvptp1_all_paired = 2
@@ -619,7 +619,7 @@ module trelvin
       integer(c_int32_t), intent(in) :: n
     end subroutine
 
-    !> Positions of the entries of a list in ascending order; the list itself stays.
+    !> Positions of the elements of a list in ascending order; the list itself is not changed.
     subroutine trvordi(V, n, IDX) bind(c, name="trvordi")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvordi
@@ -628,7 +628,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: IDX(*)
     end subroutine
 
-    !> Order of parallel lines by where they cross an axis.
+    !> Order of parallel lines by their intersections with an axis.
     !! status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a
     !! family of parallel and distinct lines, or n < 1.
     subroutine trvpor(n, A, B, C, IDX, status) bind(c, name="trvpor")
@@ -657,7 +657,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: pos(*)
     end subroutine
 
-    !> All pairs of entries of two lists that differ by at most a tolerance.
+    !> All pairs of elements of two lists that differ by at most a tolerance.
     subroutine trvmer13(na, A, nb, B, count, IA, IB, tol) bind(c, name="trvmer13")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer13
@@ -670,8 +670,8 @@ module trelvin
       real(c_float), intent(in) :: tol
     end subroutine
 
-    !> Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as
-    !! Integers.
+    !> Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold
+    !! Reals.
     subroutine trvmer1(na, A, nb, B, nout, OUT) bind(c, name="trvmer1")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer1
@@ -689,14 +689,14 @@ module trelvin
       integer(c_int32_t), intent(inout) :: OUT(*)
     end subroutine
 
-    !> Sorts Integers ascending and drops repeats, in place.
+    !> Sorts Integers ascending and removes duplicates, in place.
     subroutine trvmer2(V, n) bind(c, name="trvmer2")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer2
       integer(c_int32_t), intent(inout) :: V(*), n
     end subroutine
 
-    !> Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+    !> Sorts Reals ascending and removes duplicates within a tolerance, in place.
     subroutine trvmer3(V, n) bind(c, name="trvmer3")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer3
@@ -704,7 +704,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: n
     end subroutine
 
-    !> Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+    !> Sorts Reals ascending and removes duplicates within a tolerance, in place.
     subroutine trvmer12(V, n, tol) bind(c, name="trvmer12")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer12
@@ -713,7 +713,7 @@ module trelvin
       real(c_float), intent(in) :: tol
     end subroutine
 
-    !> Joins to a list those entries of another that it does not hold yet.
+    !> Appends to a list those elements of another that it does not hold yet.
     subroutine trvmer4(na, A, nb, B, tol, nout, OUT, IB) bind(c, name="trvmer4")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer4
@@ -726,7 +726,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: IB(*)
     end subroutine
 
-    !> Entries of a list that another holds too.
+    !> Elements of a list that another holds too.
     subroutine trvmer14(na, A, nb, B, nout, OUT) bind(c, name="trvmer14")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer14
@@ -735,7 +735,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: OUT(*)
     end subroutine
 
-    !> Removes from a list the entries that another holds, in place.
+    !> Removes from a list the elements that another holds, in place.
     subroutine trvmer15(na, A, nb, B, count) bind(c, name="trvmer15")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer15
@@ -744,7 +744,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: count
     end subroutine
 
-    !> Drops repeated vertices of a closed outline, in place.
+    !> Removes repeated vertices of a closed outline, in place.
     subroutine trvmer16(X, Y, n, tol) bind(c, name="trvmer16")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer16
@@ -753,9 +753,9 @@ module trelvin
       real(c_float), intent(in) :: tol
     end subroutine
 
-    !> All pairs of points of two lists that agree within a tolerance in each coordinate.
-    !! status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have;
-    !! 2 all_paired: every one has.
+    !> All pairs of points of two lists that match within a tolerance in each coordinate.
+    !! status: which points of A match a point of B: 0 no_pair: no point of A does; 1 some_pairs:
+    !! some points of A do, others do not; 2 all_paired: every point of A does.
     subroutine trvptp1(na, XA, YA, ZA, nb, XB, YB, ZB, tol, count, IA, IB, &
         status) bind(c, name="trvptp1")
       import :: c_float, c_int32_t
@@ -769,7 +769,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Merges three lists of points into one list of places.
+    !> Merges three lists of points into one list.
     subroutine trvptp2(na, XA, YA, ZA, nb, XB, YB, ZB, nc, XC, YC, ZC, tol, nab, IAB, JAB, nbc, &
         IBC, JBC, nca, ICA, JCA, nout, XO, YO, ZO, MA, MB, MC, k, nk, PK, nz, &
         ZL) bind(c, name="trvptp2")
@@ -797,7 +797,7 @@ module trelvin
       real(c_float), intent(inout) :: ZL(*)
     end subroutine
 
-    !> Where the horizontal line y = y0 crosses a closed outline.
+    !> Crossings of the horizontal line y = y0 with a closed outline.
     subroutine trvppp(X, Y, n, y0, count, XC) bind(c, name="trvppp")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvppp
@@ -808,7 +808,7 @@ module trelvin
       real(c_float), intent(inout) :: XC(*)
     end subroutine
 
-    !> Where the segment from P1 to P2 crosses a closed outline.
+    !> Crossings of the segment from P1 to P2 with a closed outline.
     !! status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1
     !! is outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within
     !! the tolerance in both coordinates.
@@ -907,7 +907,8 @@ module trelvin
       real(c_float), intent(out) :: det
     end subroutine
 
-    !> Divides two coefficients by a third, or gives zeros where it vanishes.
+    !> Divides two coefficients by a third, or gives zeros if the third is zero within the
+    !! tolerance.
     subroutine trvgrc(a, b, c, q1, q2) bind(c, name="trvgrc")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvgrc
@@ -941,7 +942,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: i
     end subroutine
 
-    !> Entry of an ascending table that equals a value, or the interval that holds it.
+    !> Element of an ascending table that equals a value, or the interval that holds it.
     !! status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
     !! A(i+1); 0 neither: x equals no element and lies in no interval.
     subroutine trvpos1(n, A, x, status, i) bind(c, name="trvpos1")
@@ -976,7 +977,7 @@ module trelvin
       real(c_float), intent(out) :: a, b, c
     end subroutine
 
-    !> Parallel of a line at a signed distance.
+    !> Line parallel to a line at a signed distance.
     subroutine trvln2(a, b, c, d, a2, b2, c2) bind(c, name="trvln2")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvln2
@@ -1024,13 +1025,12 @@ module trelvin
     end subroutine
 
     !> Which components of two triples differ by more than the tolerance.
-    !! code: which components differ by more than the tolerance (TrvComponents): 0 none: no
-    !! component is above the tolerance; 1 all: all three components are above the tolerance; 2
-    !! first: only the first component is above the tolerance; 3 second: only the second component
-    !! is above the tolerance; 4 third: only the third component is above the tolerance; 5
-    !! first_second: only the first and the second are above the tolerance; 6 second_third: only the
-    !! second and the third are above the tolerance; 7 first_third: only the first and the third are
-    !! above the tolerance.
+    !! code: which components of p - q are above the tolerance (TrvComponents): 0 none: no component
+    !! is above the tolerance; 1 all: all three components are above the tolerance; 2 first: only
+    !! the first component is above the tolerance; 3 second: only the second component is above the
+    !! tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+    !! first and the second are above the tolerance; 6 second_third: only the second and the third
+    !! are above the tolerance; 7 first_third: only the first and the third are above the tolerance.
     subroutine trvpsn(p1, p2, p3, q1, q2, q3, code) bind(c, name="trvpsn")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpsn
@@ -1055,7 +1055,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: code, on
     end subroutine
 
-    !> Line of two planes, and whether it agrees with a point at a retained station.
+    !> Direction of the line of two planes, and whether a point matches it at a retained coordinate.
     !! code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
     !! component is above the tolerance; 1 all: all three components are above the tolerance; 2
     !! first: only the first component is above the tolerance; 3 second: only the second component
@@ -1063,8 +1063,8 @@ module trelvin
     !! first_second: only the first and the second are above the tolerance; 6 second_third: only the
     !! second and the third are above the tolerance; 7 first_third: only the first and the third are
     !! above the tolerance.
-    !! on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the
-    !! line at the station.
+    !! on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does not
+    !! match the line at the kept coordinate.
     subroutine trvln7(a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz, ex, ey, ez, tol, code, &
         on) bind(c, name="trvln7")
       import :: c_float, c_int32_t
@@ -1188,7 +1188,7 @@ module trelvin
       real(c_float), intent(in) :: x0, y0
     end subroutine
 
-    !> Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+    !> Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
     subroutine trvinv(V, n) bind(c, name="trvinv")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvinv
@@ -1196,7 +1196,7 @@ module trelvin
       integer(c_int32_t), intent(in) :: n
     end subroutine
 
-    !> Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+    !> Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
     subroutine trvadr(V, n, k, A, m) bind(c, name="trvadr")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvadr

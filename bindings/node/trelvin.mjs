@@ -102,7 +102,7 @@ export const trvcer10CrossingOrRefused = 0;
 export const trvcer10AlongChord = 1;
 export const trvcer10Parallel = 2;
 
-// trvptp1: which points of A have a partner in B.
+// trvptp1: which points of A match a point of B.
 export const trvptp1NoPair = 0;
 export const trvptp1SomePairs = 1;
 export const trvptp1AllPaired = 2;
@@ -605,14 +605,14 @@ export const trvord = routine("trvord", ["inout real V[n]", "in int n = V"]);
 export const trvord1 = routine("trvord1", ["inout int V[n]", "in int n = V"]);
 
 /**
- * Positions of the entries of a list in ascending order; the list itself stays.
+ * Positions of the elements of a list in ascending order; the list itself is not changed.
  *
  * @type {(V: Numbers, counts?: {n?: number}) => {IDX: Int32Array}}
  */
 export const trvordi = routine("trvordi", ["in real V[n]", "in int n = V", "out int IDX[n]"]);
 
 /**
- * Order of parallel lines by where they cross an axis.
+ * Order of parallel lines by their intersections with an axis.
  *
  * status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a family
  * of parallel and distinct lines, or n < 1.
@@ -641,7 +641,7 @@ export const trvsel1 = routine("trvsel1", ["in int n = V", "in int V[n]", "in in
   "out int count", "out int pos[n, count used]"]);
 
 /**
- * All pairs of entries of two lists that differ by at most a tolerance.
+ * All pairs of elements of two lists that differ by at most a tolerance.
  *
  * @type {(A: Numbers, B: Numbers, tol: number, counts?: {na?: number, nb?: number}) => {count:
  *   number, IA: Int32Array, IB: Int32Array}}
@@ -651,7 +651,7 @@ export const trvmer13 = routine("trvmer13", ["in int na = A", "in real A[na]", "
   "in real tol"]);
 
 /**
- * Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
+ * Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold Reals.
  *
  * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {nout: number, OUT:
  *   Int32Array}}
@@ -669,21 +669,21 @@ export const trvmer11 = routine("trvmer11", ["in int na = A", "in int A[na]", "i
   "in int B[nb]", "out int nout", "out int OUT[na+nb, nout used]"]);
 
 /**
- * Sorts Integers ascending and drops repeats, in place.
+ * Sorts Integers ascending and removes duplicates, in place.
  *
  * @type {(V: Numbers, counts?: {n?: number}) => {V: Int32Array, n: number}}
  */
 export const trvmer2 = routine("trvmer2", ["inout int V[n, n used]", "inout int n = V"]);
 
 /**
- * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+ * Sorts Reals ascending and removes duplicates within a tolerance, in place.
  *
  * @type {(V: Numbers, counts?: {n?: number}) => {V: Float32Array, n: number}}
  */
 export const trvmer3 = routine("trvmer3", ["inout real V[n, n used]", "inout int n = V"]);
 
 /**
- * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+ * Sorts Reals ascending and removes duplicates within a tolerance, in place.
  *
  * @type {(V: Numbers, tol: number, counts?: {n?: number}) => {V: Float32Array, n: number}}
  */
@@ -691,7 +691,7 @@ export const trvmer12 = routine("trvmer12", ["inout real V[n, n used]", "inout i
   "in real tol"]);
 
 /**
- * Joins to a list those entries of another that it does not hold yet.
+ * Appends to a list those elements of another that it does not hold yet.
  *
  * @type {(A: Numbers, B: Numbers, tol: number, counts?: {na?: number, nb?: number}) => {nout:
  *   number, OUT: Float32Array, IB: Int32Array}}
@@ -701,7 +701,7 @@ export const trvmer4 = routine("trvmer4", ["in int na = A", "in real A[na]", "in
   "out int IB[nb]"]);
 
 /**
- * Entries of a list that another holds too.
+ * Elements of a list that another holds too.
  *
  * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {nout: number, OUT:
  *   Int32Array}}
@@ -710,7 +710,7 @@ export const trvmer14 = routine("trvmer14", ["in int na = A", "in int A[na]", "i
   "in int B[nb]", "out int nout", "out int OUT[na, nout used]"]);
 
 /**
- * Removes from a list the entries that another holds, in place.
+ * Removes from a list the elements that another holds, in place.
  *
  * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {na: number, A:
  *   Int32Array, count: number}}
@@ -719,7 +719,7 @@ export const trvmer15 = routine("trvmer15", ["inout int na = A", "inout int A[na
   "in int nb = B", "in int B[nb]", "out int count"]);
 
 /**
- * Drops repeated vertices of a closed outline, in place.
+ * Removes repeated vertices of a closed outline, in place.
  *
  * @type {(X: Numbers, Y: Numbers, tol: number, counts?: {n?: number}) => {X: Float32Array, Y:
  *   Float32Array, n: number}}
@@ -728,10 +728,10 @@ export const trvmer16 = routine("trvmer16", ["inout real X[n, n used]", "inout r
   "inout int n = X Y", "in real tol"]);
 
 /**
- * All pairs of points of two lists that agree within a tolerance in each coordinate.
+ * All pairs of points of two lists that match within a tolerance in each coordinate.
  *
- * status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have; 2
- * all_paired: every one has.
+ * status: which points of A match a point of B: 0 no_pair: no point of A does; 1 some_pairs: some
+ * points of A do, others do not; 2 all_paired: every point of A does.
  *
  * @type {(XA: Numbers, YA: Numbers, ZA: Numbers, XB: Numbers, YB: Numbers, ZB: Numbers, tol:
  *   number, counts?: {na?: number, nb?: number}) => {count: number, IA: Int32Array, IB: Int32Array,
@@ -743,7 +743,7 @@ export const trvptp1 = routine("trvptp1", ["in int na = XA YA ZA", "in real XA[n
   "out int IB[na*nb, count used]", "out int status"]);
 
 /**
- * Merges three lists of points into one list of places.
+ * Merges three lists of points into one list.
  *
  * @type {(XA: Numbers, YA: Numbers, ZA: Numbers, XB: Numbers, YB: Numbers, ZB: Numbers, XC:
  *   Numbers, YC: Numbers, ZC: Numbers, tol: number, k: number, counts?: {na?: number, nb?: number,
@@ -764,7 +764,7 @@ export const trvptp2 = routine("trvptp2", ["in int na = XA YA ZA", "in real XA[n
   "out real ZL[na+nb+nc, nz used]"]);
 
 /**
- * Where the horizontal line y = y0 crosses a closed outline.
+ * Crossings of the horizontal line y = y0 with a closed outline.
  *
  * @type {(X: Numbers, Y: Numbers, y0: number, counts?: {n?: number}) => {count: number, XC:
  *   Float32Array}}
@@ -773,7 +773,7 @@ export const trvppp = routine("trvppp", ["in real X[n]", "in real Y[n]", "in int
   "in real y0", "out int count", "out real XC[n, count used]"]);
 
 /**
- * Where the segment from P1 to P2 crosses a closed outline.
+ * Crossings of the segment from P1 to P2 with a closed outline.
  *
  * status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1 is
  * outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within the
@@ -881,7 +881,7 @@ export const trvdtr3 = routine("trvdtr3", ["in real a1", "in real a2", "in real 
   "in real b2", "in real b3", "in real c1", "in real c2", "in real c3", "out real det"]);
 
 /**
- * Divides two coefficients by a third, or gives zeros where it vanishes.
+ * Divides two coefficients by a third, or gives zeros if the third is zero within the tolerance.
  *
  * @type {(a: number, b: number, c: number) => {q1: number, q2: number}}
  */
@@ -914,7 +914,7 @@ export const trvvin = routine("trvvin", ["in real u1", "in real v", "in real u3"
 export const trvpos = routine("trvpos", ["in int n = A", "in real A[n]", "in real x", "out int i"]);
 
 /**
- * Entry of an ascending table that equals a value, or the interval that holds it.
+ * Element of an ascending table that equals a value, or the interval that holds it.
  *
  * status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
  * A(i+1); 0 neither: x equals no element and lies in no interval.
@@ -950,7 +950,7 @@ export const trvln4 = routine("trvln4", ["in real x0", "in real y0", "in real dx
   "in real u", "out real a", "out real b", "out real c"]);
 
 /**
- * Parallel of a line at a signed distance.
+ * Line parallel to a line at a signed distance.
  *
  * @type {(a: number, b: number, c: number, d: number) => {a2: number, b2: number, c2: number}}
  */
@@ -1001,7 +1001,7 @@ export const trvlul = routine("trvlul", ["in real a1", "in real b1", "in real c1
 /**
  * Which components of two triples differ by more than the tolerance.
  *
- * code: which components differ by more than the tolerance (TrvComponents): 0 none: no component is
+ * code: which components of p - q are above the tolerance (TrvComponents): 0 none: no component is
  * above the tolerance; 1 all: all three components are above the tolerance; 2 first: only the first
  * component is above the tolerance; 3 second: only the second component is above the tolerance; 4
  * third: only the third component is above the tolerance; 5 first_second: only the first and the
@@ -1034,7 +1034,7 @@ export const trvln6 = routine("trvln6", ["in real x0", "in real y0", "in real z0
   "out int code", "out int on"]);
 
 /**
- * Line of two planes, and whether it agrees with a point at a retained station.
+ * Direction of the line of two planes, and whether a point matches it at a retained coordinate.
  *
  * code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
  * component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
@@ -1043,8 +1043,8 @@ export const trvln6 = routine("trvln6", ["in real x0", "in real y0", "in real z0
  * first and the second are above the tolerance; 6 second_third: only the second and the third are
  * above the tolerance; 7 first_third: only the first and the third are above the tolerance.
  *
- * on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the line
- * at the station.
+ * on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does not match
+ * the line at the kept coordinate.
  *
  * @type {(a1: number, b1: number, c1: number, d1: number, a2: number, b2: number, c2: number, d2:
  *   number, px: number, py: number, pz: number, ez: number, tol: number) => {ex: number, ey:
@@ -1178,14 +1178,14 @@ export const trvtra = routine("trvtra", ["inout real X[n]", "inout real Y[n]", "
   "in real x0", "in real y0"]);
 
 /**
- * Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+ * Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
  *
  * @type {(V: Numbers, counts?: {n?: number}) => {V: Int32Array}}
  */
 export const trvinv = routine("trvinv", ["inout int V[n]", "in int n = V"]);
 
 /**
- * Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+ * Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
  *
  * @type {(V: Numbers, k: number, A: Numbers, counts?: {n?: number, m?: number}) => {V: Int32Array,
  *   n: number}}

@@ -116,7 +116,7 @@ const
   trvcer10_along_chord = 1;
   trvcer10_parallel = 2;
 
-  // trvptp1: which points of A have a partner in B.
+  // trvptp1: which points of A match a point of B.
   trvptp1_no_pair = 0;
   trvptp1_some_pairs = 1;
   trvptp1_all_paired = 2;
@@ -577,14 +577,15 @@ procedure trvord1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvord1';
 
-/// <summary>Positions of the entries of a list in ascending order; the list itself stays.</summary>
+/// <summary>Positions of the elements of a list in ascending order; the list itself is not
+/// changed.</summary>
 procedure trvordi(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} V: TTrvReals;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   var IDX: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvordi';
 
-/// <summary>Order of parallel lines by where they cross an axis.</summary>
+/// <summary>Order of parallel lines by their intersections with an axis.</summary>
 /// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not
 /// a family of parallel and distinct lines, or n &lt; 1.</remarks>
 procedure trvpor(
@@ -609,7 +610,7 @@ procedure trvsel1(
   var pos: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsel1';
 
-/// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
+/// <summary>All pairs of elements of two lists that differ by at most a tolerance.</summary>
 procedure trvmer13(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvReals;
@@ -620,8 +621,8 @@ procedure trvmer13(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer13';
 
-/// <summary>Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as
-/// Integers.</summary>
+/// <summary>Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold
+/// Reals.</summary>
 procedure trvmer1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvIntegers;
@@ -641,28 +642,26 @@ procedure trvmer11(
   var OUT_: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer11';
 
-/// <summary>Sorts Integers ascending and drops repeats, in place.</summary>
+/// <summary>Sorts Integers ascending and removes duplicates, in place.</summary>
 procedure trvmer2(
   var V: TTrvIntegers;
   var n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer2';
 
-/// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left, in
-/// place.</summary>
+/// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in place.</summary>
 procedure trvmer3(
   var V: TTrvReals;
   var n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer3';
 
-/// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left, in
-/// place.</summary>
+/// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in place.</summary>
 procedure trvmer12(
   var V: TTrvReals;
   var n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer12';
 
-/// <summary>Joins to a list those entries of another that it does not hold yet.</summary>
+/// <summary>Appends to a list those elements of another that it does not hold yet.</summary>
 procedure trvmer4(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvReals;
@@ -674,7 +673,7 @@ procedure trvmer4(
   var IB: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer4';
 
-/// <summary>Entries of a list that another holds too.</summary>
+/// <summary>Elements of a list that another holds too.</summary>
 procedure trvmer14(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvIntegers;
@@ -684,7 +683,7 @@ procedure trvmer14(
   var OUT_: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer14';
 
-/// <summary>Removes from a list the entries that another holds, in place.</summary>
+/// <summary>Removes from a list the elements that another holds, in place.</summary>
 procedure trvmer15(
   var na: LongInt;
   var A: TTrvIntegers;
@@ -693,17 +692,17 @@ procedure trvmer15(
   out count: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer15';
 
-/// <summary>Drops repeated vertices of a closed outline, in place.</summary>
+/// <summary>Removes repeated vertices of a closed outline, in place.</summary>
 procedure trvmer16(
   var X, Y: TTrvReals;
   var n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer16';
 
-/// <summary>All pairs of points of two lists that agree within a tolerance in each
+/// <summary>All pairs of points of two lists that match within a tolerance in each
 /// coordinate.</summary>
-/// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some
-/// have; 2 all_paired: every one has.</remarks>
+/// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A does; 1
+/// some_pairs: some points of A do, others do not; 2 all_paired: every point of A does.</remarks>
 procedure trvptp1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} XA, YA, ZA: TTrvReals;
@@ -715,7 +714,7 @@ procedure trvptp1(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptp1';
 
-/// <summary>Merges three lists of points into one list of places.</summary>
+/// <summary>Merges three lists of points into one list.</summary>
 procedure trvptp2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} XA, YA, ZA: TTrvReals;
@@ -740,7 +739,7 @@ procedure trvptp2(
   var ZL: TTrvReals);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptp2';
 
-/// <summary>Where the horizontal line y = y0 crosses a closed outline.</summary>
+/// <summary>Crossings of the horizontal line y = y0 with a closed outline.</summary>
 procedure trvppp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X, Y: TTrvReals;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
@@ -749,7 +748,7 @@ procedure trvppp(
   var XC: TTrvReals);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvppp';
 
-/// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
+/// <summary>Crossings of the segment from P1 to P2 with a closed outline.</summary>
 /// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
 /// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and P2
 /// coincide within the tolerance in both coordinates.</remarks>
@@ -829,7 +828,8 @@ procedure trvdtr3(
   out det: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvdtr3';
 
-/// <summary>Divides two coefficients by a third, or gives zeros where it vanishes.</summary>
+/// <summary>Divides two coefficients by a third, or gives zeros if the third is zero within the
+/// tolerance.</summary>
 procedure trvgrc(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a, b, c: Single;
   out q1, q2: Single);
@@ -857,7 +857,7 @@ procedure trvpos(
   out i: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpos';
 
-/// <summary>Entry of an ascending table that equals a value, or the interval that holds
+/// <summary>Element of an ascending table that equals a value, or the interval that holds
 /// it.</summary>
 /// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i)
 /// &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no interval.</remarks>
@@ -886,7 +886,7 @@ procedure trvln4(
   out a, b, c: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvln4';
 
-/// <summary>Parallel of a line at a signed distance.</summary>
+/// <summary>Line parallel to a line at a signed distance.</summary>
 procedure trvln2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a, b, c, d: Single;
   out a2, b2, c2: Single);
@@ -924,7 +924,7 @@ procedure trvlul(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvlul';
 
 /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-/// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0 none: no
+/// <remarks>code: which components of p - q are above the tolerance (TrvComponents): 0 none: no
 /// component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
 /// only the first component is above the tolerance; 3 second: only the second component is above
 /// the tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only
@@ -951,7 +951,8 @@ procedure trvln6(
   out code, on_: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvln6';
 
-/// <summary>Line of two planes, and whether it agrees with a point at a retained station.</summary>
+/// <summary>Direction of the line of two planes, and whether a point matches it at a retained
+/// coordinate.</summary>
 /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none:
 /// no component is above the tolerance; 1 all: all three components are above the tolerance; 2
 /// first: only the first component is above the tolerance; 3 second: only the second component is
@@ -959,8 +960,8 @@ procedure trvln6(
 /// only the first and the second are above the tolerance; 6 second_third: only the second and the
 /// third are above the tolerance; 7 first_third: only the first and the third are above the
 /// tolerance.</remarks>
-/// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match
-/// the line at the station.</remarks>
+/// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does
+/// not match the line at the kept coordinate.</remarks>
 procedure trvln7(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz: Single;
   out ex, ey: Single;
@@ -1062,15 +1063,15 @@ procedure trvtra(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvtra';
 
-/// <summary>Reverses a list, in place. Elements move bit for bit, so Reals pass as well as
-/// Integers.</summary>
+/// <summary>Reverses a list, in place. Elements move bit for bit, so the list may also hold
+/// Reals.</summary>
 procedure trvinv(
   var V: TTrvIntegers;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvinv';
 
-/// <summary>Inserts a list into another. Elements move bit for bit, so Reals pass as well as
-/// Integers.</summary>
+/// <summary>Inserts a list into another. Elements move bit for bit, so the lists may also hold
+/// Reals.</summary>
 procedure trvadr(
   var V: TTrvIntegers;
   var n: LongInt;

@@ -42,13 +42,13 @@ enum Trvcer10Status {
   TRVCER10_PARALLEL = 2,
 };
 
-/** trvptp1: which points of A have a partner in B. */
+/** trvptp1: which points of A match a point of B. */
 enum Trvptp1Status {
-  /** none has */
+  /** no point of A does */
   TRVPTP1_NO_PAIR = 0,
-  /** some have */
+  /** some points of A do, others do not */
   TRVPTP1_SOME_PAIRS = 1,
-  /** every one has */
+  /** every point of A does */
   TRVPTP1_ALL_PAIRED = 2,
 };
 

@@ -89,7 +89,7 @@ TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ce
  * Retains: nothing.
  *
  * @param[in]  bl   width for the slenderness
- * @param[in]  w    width to reduce; if s2 is tension, the width of the compressed part
+ * @param[in]  w    width to reduce; in bending, if s2 is tension, the width of the compressed part
  * @param[in]  t    thickness
  * @param[in]  r1   square root of the yield strength: sqrt(fy)
  * @param[in]  r2   square root of the reference strength: sqrt(235) for N/mm2

@@ -182,9 +182,9 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvptp1": {
         "status": {
-            0: 'none has',
-            1: 'some have',
-            2: 'every one has',
+            0: 'no point of A does',
+            1: 'some points of A do, others do not',
+            2: 'every point of A does',
         },
     },
     "trvpin": {
@@ -279,8 +279,8 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             7: 'only the first and the third are above the tolerance',
         },
         "on": {
-            0: 'P does not match the line at the station',
-            1: 'P matches the line at the station',
+            0: 'P does not match the line at the kept coordinate',
+            1: 'P matches the line at the kept coordinate',
         },
     },
     "trvphip": {
@@ -715,7 +715,7 @@ class Trvcer10Status(IntEnum):
 
 
 class Trvptp1Status(IntEnum):
-    """trvptp1: which points of A have a partner in B."""
+    """trvptp1: which points of A match a point of B."""
 
     NO_PAIR = 0
     SOME_PAIRS = 1
@@ -1920,22 +1920,22 @@ def trvord(
 ) -> NDArray[float32]:
     """Sorts Reals ascending, in place.
 
-    The result is that of a selection sort that takes the last of equal smallest entries: a NaN
-    stays where it is, the others are sorted around it, and which of -0 and 0 comes first
-    follows from the swaps.
+    The result is that of a selection sort that takes the last of equal smallest elements. A NaN
+    stays where it is, and the other elements are sorted around it. The order of -0 and 0
+    depends on the swaps.
 
-    Cost: time grows with n, with n*log(n) where zeros of both signs occur. More than 32 entries
-    take 8*n bytes of the heap for the call. Where memory is short the sort is in place and
-    takes n*log(n), with NaNs or zeros of both signs n*n.
+    Cost: time grows with n, with n*log(n) if there are zeros of both signs. More than 32
+    elements take 8*n bytes of the heap for the call. If these cannot be allocated, the sort is
+    in place and takes n*log(n), with NaNs or zeros of both signs n*n.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries
-      n: number of entries; below 1 nothing happens
+      V: array of n: elements
+      n: number of elements; below 1 nothing happens
 
     Returns:
-      V: array of n: entries
+      V: array of n: elements
     """
     return _trvord.call((V, n), in_place)
 
@@ -1951,17 +1951,17 @@ def trvord1(
 ) -> NDArray[int32]:
     """Sorts Integers ascending, in place.
 
-    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
-    memory is short the sort is in place and takes n*log(n).
+    Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If
+    these cannot be allocated, the sort is in place and takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries
-      n: number of entries; below 1 nothing happens
+      V: array of n: elements
+      n: number of elements; below 1 nothing happens
 
     Returns:
-      V: array of n: entries
+      V: array of n: elements
     """
     return _trvord1.call((V, n), in_place)
 
@@ -1975,24 +1975,27 @@ _trvordi = Routine(
 def trvordi(
     V: ArrayLike, *, n: int | None = None
 ) -> NDArray[int32]:
-    """Positions of the entries of a list in ascending order; the list itself stays.
+    """Positions of the elements of a list in ascending order; the list itself is not changed.
 
-    Equal entries, -0 and 0 among them, are listed from the highest position to the lowest. The
-    k-th round finds the smallest entry and puts the largest of the list plus 1 in its place,
-    for the later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity),
-    an entry as large as the largest is never used up: IDX(k) is then the position of the last
-    number of the list. A round finds nothing where the list holds a NaN at k, by then: a NaN at
-    the head of the list makes the sum a NaN.
+    Equal elements, also -0 and 0, are listed from the highest position to the lowest. Round k
+    finds the smallest element and replaces it in a copy of the list by the largest plus 1, for
+    the later rounds.
 
-    Cost: time grows with n. More than 512 entries take 16*n bytes of the heap for the call. If
-    memory is short, the result is the same, but the list is read anew for each 512 entries:
-    time grows with n*n.
+    Caution: if largest plus 1 rounds to the largest (16777216 and beyond, infinity), the
+    largest elements are found again in later rounds: IDX(k) is then the position of the last
+    number of the list. Round k finds nothing if element k of the copy is NaN. That is so for a
+    NaN of the list. If the first element is NaN, largest plus 1 is NaN too, and so is every
+    element that an earlier round has found.
+
+    Cost: time grows with n. More than 512 elements take 16*n bytes of the heap for the call. If
+    these cannot be allocated, the list is read again for each 512 elements, and time grows with
+    n*n.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries
-      n: number of entries
+      V: array of n: elements
+      n: number of elements
 
     Returns:
       IDX: array of n: IDX(k) is the position of the k-th smallest element; unwritten on a
@@ -2019,11 +2022,12 @@ _trvpor = Routine(
 def trvpor(
     A: ArrayLike, B: ArrayLike, C: ArrayLike, *, n: int | None = None
 ) -> TrvporResult:
-    """Order of parallel lines by where they cross an axis.
+    """Order of parallel lines by their intersections with an axis.
 
-    That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the
-    y axis and apart from it. Parallel and distinct is what trvlni finds between the first line
-    and each other one; a single line is ordered.
+    The lines intersect the y axis at -C/B. If the first line is parallel to the y axis and
+    distinct from it, the intersections with the x axis, at -C/A, are used instead. Each other
+    line must be parallel to the first line and distinct from it (trvlni). A single line is
+    always in order.
 
     Cost: time and memory are those of trvordi.
 
@@ -2034,9 +2038,9 @@ def trvpor(
       A, B, C: arrays of n: lines A*x + B*y + C = 0
 
     Returns:
-      IDX: array of n: positions by ascending crossing, equal ones from the highest position
-        down, infinite and NaN ones as trvordi orders them; 1 ... n if status is -1; unwritten
-        on a condition: IDX(k) as trvordi leaves it
+      IDX: array of n: positions of the lines by ascending intersection, equal intersections
+        from the highest position down, infinite and NaN intersections as trvordi orders them; 1
+        ... n if status is -1; unwritten on a condition: IDX(k) as trvordi leaves it
       status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a
         family of parallel and distinct lines, or n < 1
 
@@ -2063,9 +2067,9 @@ def trvorv(
 ) -> TrvorvResult:
     """Puts the corners of a quadrilateral of space in cyclic order, in place.
 
-    An order stands when the two triangles on its diagonal from the first corner turn the same
-    way, or one of them is degenerate. Tried are (1, 2, 3, 4), then (1, 2, 4, 3); else it is (1,
-    4, 2, 3).
+    An order is accepted if the two triangles on the diagonal from its first corner have the
+    same orientation, or one of them is degenerate. The orders (1, 2, 3, 4) and (1, 2, 4, 3) are
+    tried. If neither is accepted, the result is (1, 4, 2, 3).
 
     Retains: nothing.
 
@@ -2098,13 +2102,13 @@ def trvsel1(
     Retains: nothing.
 
     Arguments:
-      n: number of entries; below 1 the list is empty
-      V: array of n: entries
+      n: number of elements; below 1 the list is empty
+      V: array of n: elements
       key: value
 
     Returns:
-      count_: how many entries equal it
-      pos: array of n, count used: their positions, ascending
+      count_: number of elements equal to key
+      pos: array of n, count used: positions of these elements, ascending
     """
     return _trvsel1.call((n, V, key))
 
@@ -2125,29 +2129,31 @@ _trvmer13 = Routine(
 def trvmer13(
     A: ArrayLike, B: ArrayLike, tol: float, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer13Result:
-    """All pairs of entries of two lists that differ by at most a tolerance.
+    """All pairs of elements of two lists that differ by at most a tolerance.
 
-    Equal infinities have no difference and make no pair, and neither does anything at a
-    tolerance that is negative or NaN; here the merging routines differ.
+    Caution: equal infinities are no pair here, since their difference is NaN. If the tolerance
+    is negative or NaN, there are no pairs, even of equal elements. The merging routines
+    (trvmer4, trvmer12) accept equal elements in these cases.
 
-    Cost: time grows with na+nb and the number of pairs, unless entries crowd within a few
-    tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the
-    call; where memory is short all entries are compared.
+    Cost: time grows with na+nb and the number of pairs, except for clusters of elements within
+    a few tolerances: all elements of a cluster are compared. Takes up to 32*(na+nb) bytes of
+    the heap for the call. If these cannot be allocated, all elements are compared.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
-      tol: largest difference, itself included
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
+      tol: largest difference (inclusive)
 
     Returns:
       count_: number of pairs
-      IA, IB: arrays of max(na+nb,na*nb): positions in A and in B, by A, then by B; first
-        elements 1 to na+nb, the sum of the counts as they are, are set to 0, and those that are
-        no pair stay 0; unwritten on a condition: elements beyond both na+nb and count
+      IA, IB: arrays of max(na+nb,na*nb): positions in A and in B, sorted by A, then by B;
+        elements 1 to na+nb are first set to 0 (with the counts as given, even if one is
+        negative), then the pairs are written over them; unwritten on a condition: elements
+        beyond both na+nb and count
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -2169,19 +2175,19 @@ _trvmer1 = Routine(
 def trvmer1(
     A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer1Result:
-    """Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as
-    Integers.
+    """Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold
+    Reals.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
 
     Returns:
-      nout: number of entries written
+      nout: number of elements written
       OUT: array of na+nb, nout used: A, then B
     """
     return _trvmer1.call((na, A, nb, B))
@@ -2207,13 +2213,13 @@ def trvmer11(
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
 
     Returns:
-      nout: number of entries written
+      nout: number of elements written
       OUT: array of na+nb, nout used: A, then B
     """
     return _trvmer11.call((na, A, nb, B))
@@ -2233,19 +2239,19 @@ _trvmer2 = Routine(
 def trvmer2(
     V: ArrayLike, *, n: int | None = None, in_place: bool = False
 ) -> Trvmer2Result:
-    """Sorts Integers ascending and drops repeats, in place.
+    """Sorts Integers ascending and removes duplicates, in place.
 
     Cost: time and memory are those of trvord1.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
 
     Returns:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
     """
     return _trvmer2.call((V, n), in_place)
 
@@ -2264,23 +2270,24 @@ _trvmer3 = Routine(
 def trvmer3(
     V: ArrayLike, *, n: int | None = None, in_place: bool = False
 ) -> Trvmer3Result:
-    """Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+    """Sorts Reals ascending and removes duplicates within a tolerance, in place.
 
-    Entries agree that are equal or differ by at most 1e-5. So a NaN agrees with nothing, an
-    infinity with itself. -0 comes before 0, NaNs come last and all stay.
+    Each element that matches the last one kept is removed. Two elements match if they are equal
+    or differ by at most 1e-5. A NaN matches nothing, an infinity matches itself. -0 comes
+    before 0. NaNs come last, and all are kept.
 
-    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
-    memory is short the sort takes n*log(n).
+    Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If
+    these cannot be allocated, the sort takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
 
     Returns:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
     """
     return _trvmer3.call((V, n), in_place)
 
@@ -2299,25 +2306,26 @@ _trvmer12 = Routine(
 def trvmer12(
     V: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
 ) -> Trvmer12Result:
-    """Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+    """Sorts Reals ascending and removes duplicates within a tolerance, in place.
 
-    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal entries
-    alone agree. -0 comes before 0, NaNs come last and all stay.
+    Each element that matches the last one kept is removed. Two elements match if they are equal
+    or differ by at most tol. A NaN matches nothing, an infinity matches itself. If tol is
+    negative or NaN, only equal elements match. -0 comes before 0. NaNs come last, and all are
+    kept.
 
-    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
-    memory is short the sort takes n*log(n).
+    Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If
+    these cannot be allocated, the sort takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
-      tol: largest difference of a repeat, itself included; may be an entry of V
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
+      tol: largest difference of elements that match (inclusive); may be an element of V
 
     Returns:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
     """
     return _trvmer12.call((V, n, tol), in_place)
 
@@ -2338,31 +2346,30 @@ _trvmer4 = Routine(
 def trvmer4(
     A: ArrayLike, B: ArrayLike, tol: float, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer4Result:
-    """Joins to a list those entries of another that it does not hold yet.
+    """Appends to a list those elements of another that it does not hold yet.
 
-    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal entries
-    alone agree.
+    Two elements match if they are equal or differ by at most tol. A NaN matches nothing, an
+    infinity matches itself. If tol is negative or NaN, only equal elements match.
 
-    Cost: time grows with na+nb, unless entries crowd within a few tolerances: a crowd's are
-    compared with each other. Takes up to 48*(na+nb) bytes of the heap for the call; where
-    memory is short all entries are compared.
+    Cost: time grows with na+nb, except for clusters of elements within a few tolerances: all
+    elements of a cluster are compared. Takes up to 48*(na+nb) bytes of the heap for the call.
+    If these cannot be allocated, all elements are compared.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
-      tol: largest difference of entries that agree, itself included
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
+      tol: largest difference of elements that match (inclusive)
 
     Returns:
-      nout: number of entries written
-      OUT: array of na+nb, nout used: A as it is, then the entries of B that agree with none
+      nout: number of elements written
+      OUT: array of na+nb, nout used: A as it is, then the elements of B that match no element
         before them in OUT
-      IB: array of nb: for each entry of B the first position in OUT that agrees with it, or its
-        own, for a NaN
+      IB: array of nb: for each element of B, the position in OUT of the first element that
+        matches it; for a NaN, its own position in OUT
     """
     return _trvmer4.call((na, A, nb, B, tol))
 
@@ -2382,23 +2389,23 @@ _trvmer14 = Routine(
 def trvmer14(
     A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer14Result:
-    """Entries of a list that another holds too.
+    """Elements of a list that another holds too.
 
-    Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap
-    for the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB
-    of the stack.
+    Cost: time grows with na+nb. More than 512 elements take up to 17*na+8*nb bytes of the heap
+    for the call. If these cannot be allocated, blocks of 512 are compared instead, on less than
+    16 KB of the stack.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
 
     Returns:
-      nout: number of entries written
-      OUT: array of na, nout used: the entries of A that B holds, repeats too, in A's order
+      nout: number of elements written
+      OUT: array of na, nout used: the elements of A that B holds, with duplicates, in A's order
     """
     return _trvmer14.call((na, A, nb, B))
 
@@ -2419,24 +2426,26 @@ def trvmer15(
     A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None,
     in_place: bool = False
 ) -> Trvmer15Result:
-    """Removes from a list the entries that another holds, in place.
+    """Removes from a list the elements that another holds, in place.
 
-    Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap
-    for the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB
-    of the stack.
+    Cost: time grows with na+nb. More than 512 elements take up to 17*na+8*nb bytes of the heap
+    for the call. If these cannot be allocated, blocks of 512 are compared instead, on less than
+    16 KB of the stack.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; unchanged if na < 1
-      A: array of na, na used: those that stay, in their order; unspecified beyond the new na
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
+      na: number of elements of A; unchanged if na < 1
+      A: array of na, na used: elements; those kept stay in their order; unspecified beyond the
+        new na
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
 
     Returns:
-      na: number of entries of A; unchanged if na < 1
-      A: array of na, na used: those that stay, in their order; unspecified beyond the new na
-      count_: how many were removed
+      na: number of elements of A; unchanged if na < 1
+      A: array of na, na used: elements; those kept stay in their order; unspecified beyond the
+        new na
+      count_: number of elements removed
     """
     return _trvmer15.call((na, A, nb, B), in_place)
 
@@ -2456,12 +2465,12 @@ _trvmer16 = Routine(
 def trvmer16(
     X: ArrayLike, Y: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
 ) -> Trvmer16Result:
-    """Drops repeated vertices of a closed outline, in place.
+    """Removes repeated vertices of a closed outline, in place.
 
-    A vertex that agrees with the last one left is dropped, and at the end those that agree with
-    the first. Vertices agree whose x and y both are equal or differ by at most the tolerance.
-    So a NaN agrees with nothing, an infinity with itself, and at a tolerance that is negative
-    or NaN equal coordinates alone agree.
+    Each vertex that matches the last one kept is removed; so are vertices at the end that match
+    the first. Two vertices match if both x and both y are equal or differ by at most tol. A NaN
+    matches nothing, an infinity matches itself. If tol is negative or NaN, only equal
+    coordinates match.
 
     Cost: time grows with n.
 
@@ -2470,7 +2479,7 @@ def trvmer16(
     Arguments:
       X, Y: arrays of n, n used: vertices; unspecified beyond the new n
       n: number of vertices; unchanged if n < 1
-      tol: largest difference of either coordinate, itself included
+      tol: largest difference of either coordinate (inclusive)
 
     Returns:
       X, Y: arrays of n, n used: vertices; unspecified beyond the new n
@@ -2500,15 +2509,14 @@ def trvptp1(
     XA: ArrayLike, YA: ArrayLike, ZA: ArrayLike, XB: ArrayLike, YB: ArrayLike, ZB: ArrayLike,
     tol: float, *, na: int | None = None, nb: int | None = None
 ) -> Trvptp1Result:
-    """All pairs of points of two lists that agree within a tolerance in each coordinate.
+    """All pairs of points of two lists that match within a tolerance in each coordinate.
 
-    Coordinates agree that are equal or differ by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
-    coordinates alone agree.
+    Two coordinates match if they are equal or differ by at most tol. A NaN matches nothing, an
+    infinity matches itself. If tol is negative or NaN, only equal coordinates match.
 
-    Cost: time grows with na+nb and the number of pairs, unless points crowd within a few
-    tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the
-    call; where memory is short all points are compared.
+    Cost: time grows with na+nb and the number of pairs, except for clusters of points within a
+    few tolerances: all points of a cluster are compared. Takes up to 32*(na+nb) bytes of the
+    heap for the call. If these cannot be allocated, all points are compared.
 
     Retains: nothing.
 
@@ -2517,13 +2525,13 @@ def trvptp1(
       XA, YA, ZA: arrays of na: points of A
       nb: number of points of B; below 1 there are none
       XB, YB, ZB: arrays of nb: points of B
-      tol: largest difference of a coordinate, itself included
+      tol: largest difference of a coordinate (inclusive)
 
     Returns:
       count_: number of pairs
-      IA, IB: arrays of na*nb, count used: positions in A and in B, by A, then by B
-      status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some
-        have; 2 all_paired: every one has
+      IA, IB: arrays of na*nb, count used: positions in A and in B, sorted by A, then by B
+      status: which points of A match a point of B: 0 no_pair: no point of A does; 1 some_pairs:
+        some points of A do, others do not; 2 all_paired: every point of A does
     """
     return _trvptp1.call((na, XA, YA, ZA, nb, XB, YB, ZB, tol))
 
@@ -2571,16 +2579,16 @@ def trvptp2(
     XC: ArrayLike, YC: ArrayLike, ZC: ArrayLike, tol: float, k: int, *, na: int | None = None,
     nb: int | None = None, nc: int | None = None
 ) -> Trvptp2Result:
-    """Merges three lists of points into one list of places.
+    """Merges three lists of points into one list.
 
-    A point is at the first place it agrees with, else it makes a new one. Points agree when
-    each of their coordinates is equal or differs by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
-    coordinates alone agree.
+    Each point is assigned to the first merged point that matches it. If none matches, the point
+    becomes a new merged point. Two points match if each of their coordinates is equal or
+    differs by at most tol. A NaN matches nothing, an infinity matches itself. If tol is
+    negative or NaN, only equal coordinates match.
 
-    Cost: time grows with na+nb+nc and the number of pairs, unless points crowd within a few
-    tolerances: a crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the
-    call; where memory is short all points are compared.
+    Cost: time grows with na+nb+nc and the number of pairs, except for clusters of points within
+    a few tolerances: all points of a cluster are compared. Takes up to 48*(na+nb+nc) bytes of
+    the heap for the call. If these cannot be allocated, all points are compared.
 
     Retains: nothing.
 
@@ -2591,26 +2599,27 @@ def trvptp2(
       XB, YB, ZB: arrays of nb: points of B
       nc: number of points of C; below 1 there are none
       XC, YC, ZC: arrays of nc: points of C
-      tol: largest difference of a coordinate, itself included
-      k: a place
+      tol: largest difference of a coordinate (inclusive)
+      k: position of a merged point
 
     Returns:
       nab: number of pairs of A and B
-      IAB, JAB: arrays of na*nb, nab used: positions in A and in B, by A, then by B
+      IAB, JAB: arrays of na*nb, nab used: positions in A and in B, sorted by A, then by B
       nbc: number of pairs of B and C
-      IBC, JBC: arrays of nb*nc, nbc used: positions in B and in C, by B, then by C
+      IBC, JBC: arrays of nb*nc, nbc used: positions in B and in C, sorted by B, then by C
       nca: number of pairs of C and A
-      ICA, JCA: arrays of nc*na, nca used: positions in C and in A, by C, then by A
-      nout: number of places
-      XO, YO, ZO: arrays of na+nb+nc, nout used: places, in the order of A, B, C
-      MA: array of na: the place of each point of A
-      MB: array of nb: the place of each point of B
-      MC: array of nc: the place of each point of C
-      nk: number of points at it; 0 where there is no such place
-      PK: array of na+nb+nc, nk used: their positions, counted on through A, B and C
+      ICA, JCA: arrays of nc*na, nca used: positions in C and in A, sorted by C, then by A
+      nout: number of merged points
+      XO, YO, ZO: arrays of na+nb+nc, nout used: merged points, in the order of A, B, C
+      MA: array of na: position of the merged point of each point of A
+      MB: array of nb: position of the merged point of each point of B
+      MC: array of nc: position of the merged point of each point of C
+      nk: number of points assigned to merged point k; 0 if there is no such point
+      PK: array of na+nb+nc, nk used: positions of these points, counted through A, then B, then
+        C
       nz: number of levels
-      ZL: array of na+nb+nc, nz used: the distinct z of the places, ascending, as trvmer12
-        leaves them; unspecified up to nout
+      ZL: array of na+nb+nc, nz used: the distinct z of the merged points, ascending, as
+        trvmer12 leaves them; unspecified up to nout
     """
     return _trvptp2.call((na, XA, YA, ZA, nb, XB, YB, ZB, nc, XC, YC, ZC, tol, k))
 
@@ -2630,26 +2639,26 @@ _trvppp = Routine(
 def trvppp(
     X: ArrayLike, Y: ArrayLike, y0: float, *, n: int | None = None
 ) -> TrvpppResult:
-    """Where the horizontal line y = y0 crosses a closed outline.
+    """Crossings of the horizontal line y = y0 with a closed outline.
 
-    An edge counts from its lower end, included, to its upper end, excluded. So the count is
-    even, and the first and second, third and fourth crossing and so on bound the inside. Formed
-    in double precision and rounded once.
+    An edge includes its lower end and excludes its upper end. So the count is even, and the
+    inside lies between the first and second crossing, between the third and fourth, and so on.
+    Formed in double precision and rounded once.
 
     Cost: time grows with n. More than 32 crossings take up to 8*n bytes of the heap for the
-    call; where memory is short their sort takes n*log(n).
+    call. If these cannot be allocated, sorting the crossings takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
       X, Y: arrays of n: vertices
-      n: number of vertices; below 3 nothing is crossed
+      n: number of vertices; below 3 there are no crossings
       y0: height of the line
 
     Returns:
       count_: number of crossings
-      XC: array of n, count used: their x, ascending; -0 before 0, NaNs last, which vertices
-        that are not finite give
+      XC: array of n, count used: x of the crossings, ascending; -0 before 0; NaNs, from
+        infinite or NaN vertices, last
     """
     return _trvppp.call((X, Y, n, y0))
 
@@ -2676,16 +2685,18 @@ def trvpin(
     X: ArrayLike, Y: ArrayLike, x1: float, y1: float, x2: float, y2: float, *,
     n: int | None = None
 ) -> TrvpinResult:
-    """Where the segment from P1 to P2 crosses a closed outline.
+    """Crossings of the segment from P1 to P2 with a closed outline.
 
-    A crossing is where the outline passes from one side of the segment's line to the other, at
-    a vertex on the line too. An outline that touches the line, or runs along it, and goes back
-    to its side does not cross. One that runs along it and leaves to the other side crosses
-    once, where the segment, seen from P1, first meets the run, whichever way the outline goes
-    round. A crossing counts when P1 and P2 are not both on the same side of the edge crossed:
-    ends on the outline count. Sides are formed in double precision, and are exact where
-    differences of coordinates take no more than 26 bits, whole numbers up to 33554432 for
-    example; points are formed in double precision and rounded once.
+    A crossing is a point where the outline passes from one side of the segment's line to the
+    other; this may be a vertex on the line. If the outline touches the line, or runs along it,
+    and returns to the same side, it does not cross. If it runs along the line and leaves to the
+    other side, it crosses once: where the segment, from P1, first meets the run, whichever
+    orientation the outline has. A crossing counts unless P1 and P2 are both on the same side of
+    the edge crossed, so it also counts if P1 or P2 is on the outline.
+
+    Sides are formed in double precision. They are exact if differences of coordinates take no
+    more than 26 bits, for example for whole numbers up to 33554432. Points are formed in double
+    precision and rounded once.
 
     Cost: time grows with n, and with count*log(count); nothing is allocated.
 
@@ -2698,12 +2709,13 @@ def trvpin(
       x2, y2: P2
 
     Returns:
-      count_: number of crossings; 0 when status is -1
+      count_: number of crossings; 0 if status is -1
       XI, YI: arrays of n, count used: points
-      T: array of n, count used: their places on the segment, ascending from 0 at P1 to 1 at P2
-      EDGE: array of n, count used: the edges crossed, ascending where places are equal; edge i
-        runs from vertex i to vertex i+1; at a vertex or a run the edge by which the outline
-        leaves the line
+      T: array of n, count used: parameters of the points on the segment, ascending from 0 at P1
+        to 1 at P2
+      EDGE: array of n, count used: positions of the edges crossed, ascending if parameters are
+        equal; edge i runs from vertex i to vertex i+1; at a vertex or a run, the edge by which
+        the outline leaves the line
       status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside:
         P1 is outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide
         within the tolerance in both coordinates
@@ -2977,9 +2989,8 @@ _trvgrc = Routine(
 def trvgrc(
     a: float, b: float, c: float
 ) -> TrvgrcResult:
-    """Divides two coefficients by a third, or gives zeros where it vanishes.
-
-    The first quotient is that of the last coefficient, the second that of the middle one.
+    """Divides two coefficients by a third, or gives zeros if the third is zero within the
+    tolerance.
 
     Retains: nothing.
 
@@ -2987,8 +2998,8 @@ def trvgrc(
       a, b, c: coefficients of a relation, a leading
 
     Returns:
-      q1: c/a, or 0 when a is within the tolerance or NaN
-      q2: b/a, or 0 likewise
+      q1: c/a, or 0 if a is within the tolerance or NaN
+      q2: b/a, or 0 if a is within the tolerance or NaN
     """
     return _trvgrc.cells(a, b, c, _NAN, _NAN)
 
@@ -3011,10 +3022,10 @@ def trvint(
     Arguments:
       x1, x2: abscissas of the samples
       y1, y2: ordinates of the samples
-      x: abscissa asked for
+      x: abscissa at which to interpolate
 
     Returns:
-      y: ordinate; infinite or NaN where x1 = x2
+      y: ordinate; infinite or NaN if x1 = x2
     """
     return _trvint.cells(x1, x2, y1, y2, x, _NAN)
 
@@ -3034,9 +3045,8 @@ def trvvin(
     Retains: nothing.
 
     Arguments:
-      u1: ignored, as u3, u4 and u5 are
+      u1, u3, u4, u5: ignored
       v: value
-      u3, u4, u5: ignored
 
     Returns:
       status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or NaN
@@ -3058,12 +3068,12 @@ def trvpos(
     Retains: nothing.
 
     Arguments:
-      n: number of entries
-      A: array of n: entries, ascending
+      n: number of elements
+      A: array of n: elements, ascending
       x: value
 
     Returns:
-      i: first i with A(i) <= x < A(i+1); 0 when there is none, as for x = A(n)
+      i: first i with A(i) <= x < A(i+1); 0 if there is none, for example if x = A(n)
     """
     return _trvpos.call((n, A, x))
 
@@ -3083,21 +3093,21 @@ _trvpos1 = Routine(
 def trvpos1(
     A: ArrayLike, x: float, *, n: int | None = None
 ) -> Trvpos1Result:
-    """Entry of an ascending table that equals a value, or the interval that holds it.
+    """Element of an ascending table that equals a value, or the interval that holds it.
 
-    An equal entry anywhere in the table goes before an interval.
+    An equal element anywhere in the table has priority over an interval.
 
     Retains: nothing.
 
     Arguments:
-      n: number of entries
-      A: array of n: entries, ascending
+      n: number of elements
+      A: array of n: elements, ascending
       x: value
 
     Returns:
       status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) <
         x < A(i+1); 0 neither: x equals no element and lies in no interval
-      i: first such position; 0 when status is 0
+      i: first such position; 0 if status is 0
     """
     return _trvpos1.call((n, A, x))
 
@@ -3129,7 +3139,7 @@ def trvln3(
       x2, y2: P2
 
     Returns:
-      a, b, c: line; all zero where the points are equal
+      a, b, c: line; all zero if the points are equal
     """
     return _trvln3.cells(x1, y1, x2, y2, _NAN, _NAN, _NAN)
 
@@ -3184,8 +3194,8 @@ def trvln4(
 ) -> Trvln4Result:
     """Line through a point with a direction.
 
-    (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) where dx is exactly zero;
-    no tolerance applies.
+    (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) if dx is exactly zero; no
+    tolerance applies.
 
     Retains: nothing.
 
@@ -3215,9 +3225,9 @@ _trvln2 = Routine(
 def trvln2(
     a: float, b: float, c: float, d: float
 ) -> Trvln2Result:
-    """Parallel of a line at a signed distance.
+    """Line parallel to a line at a signed distance.
 
-    Points of the new line have the distance d from the given one in the sense of trvlds.
+    By trvlds, points of the new line have the distance d from the given line.
 
     Retains: nothing.
 
@@ -3226,7 +3236,7 @@ def trvln2(
       d: distance, positive towards the normal (a, b)
 
     Returns:
-      a2, b2, c2: parallel: (a, b, c - sqrt(a*a + b*b)*d)
+      a2, b2, c2: parallel line: (a, b, c - sqrt(a*a + b*b)*d)
     """
     return _trvln2.cells(a, b, c, d, _NAN, _NAN, _NAN)
 
@@ -3260,8 +3270,8 @@ def trvln5(
       x2, y2: P2
 
     Returns:
-      a, b, c: line; all zero where a ray has no length, and to rounding where both have one
-        direction
+      a, b, c: line; all three are zero if a ray has zero length, and zero up to rounding errors
+        if both rays have the same direction
     """
     return _trvln5.cells(x0, y0, x1, y1, x2, y2, _NAN, _NAN, _NAN)
 
@@ -3286,7 +3296,7 @@ def trvlds(
       a, b, c: line
 
     Returns:
-      d: signed distance; infinite or NaN where a = b = 0
+      d: signed distance; infinite or NaN if a = b = 0
     """
     return _trvlds.cells(x, y, a, b, c, _NAN)
 
@@ -3310,9 +3320,9 @@ def trvlni(
 ) -> TrvlniResult:
     """Intersection of two lines.
 
-    The lines cross when the determinant a1*b2 - a2*b1 is above the tolerance; else they are
-    distinct when b1*c2 - b2*c1 or a2*c1 - a1*c2 is. Neither is scaled: lines with small
-    coefficients count as parallel, and as the same line, sooner.
+    The lines intersect if the determinant a1*b2 - a2*b1 is above the tolerance. Otherwise they
+    are distinct if b1*c2 - b2*c1 or a2*c1 - a1*c2 is above the tolerance. These values are not
+    scaled: lines with small coefficients count as parallel, and as the same line, sooner.
 
     Retains: nothing.
 
@@ -3355,9 +3365,9 @@ def trvlul(
       a2, b2, c2: second line
 
     Returns:
-      d: signed distance for which trvln2 makes the second line of the first: positive towards
-        the normal (a1, b1); 0 if status is 1; formed in double precision and rounded once;
-        unwritten if status is 0
+      d: signed distance of the second line from the first, positive towards the normal (a1,
+        b1); trvln2 with this distance gives the second line from the first; 0 if status is 1;
+        formed in double precision and rounded once; unwritten if status is 0
       status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1
         same_line: the lines are the same; 2 parallel: the lines are parallel and distinct, as
         trvlni finds
@@ -3386,7 +3396,7 @@ def trvpsn(
       q1, q2, q3: second triple
 
     Returns:
-      code: which components differ by more than the tolerance (TrvComponents): 0 none: no
+      code: which components of p - q are above the tolerance (TrvComponents): 0 none: no
         component is above the tolerance; 1 all: all three components are above the tolerance; 2
         first: only the first component is above the tolerance; 3 second: only the second
         component is above the tolerance; 4 third: only the third component is above the
@@ -3416,8 +3426,8 @@ def trvln6(
 ) -> Trvln6Result:
     """Whether a point lies on the line of space through P0 with direction D.
 
-    The components of D above the tolerance tell which coordinate of P places it along the line;
-    each other coordinate must then agree with the line's.
+    The point of the line is computed at a coordinate of P along which D is above the tolerance.
+    Each other coordinate of P must match that point within tol.
 
     Retains: nothing.
 
@@ -3425,7 +3435,7 @@ def trvln6(
       x0, y0, z0: P0
       dx, dy, dz: direction D, of any length
       px, py, pz: point P
-      tol: largest coordinate difference allowed, itself included
+      tol: largest coordinate difference allowed (inclusive)
 
     Returns:
       code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none:
@@ -3462,24 +3472,25 @@ def trvln7(
     a1: float, b1: float, c1: float, d1: float, a2: float, b2: float, c2: float, d2: float,
     px: float, py: float, pz: float, ez: float, tol: float
 ) -> Trvln7Result:
-    """Line of two planes, and whether it agrees with a point at a retained station.
+    """Direction of the line of two planes, and whether a point matches it at a retained
+    coordinate.
 
-    The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the
-    tolerance. Its station there is not the coordinate of P but that of the previous call: X, Y
-    and Z are zero after loading, and each call replaces the two it computes. The point agrees
-    when its other two coordinates are those computed at the station; along y, with the sign of
-    ey, z is that of the line at minus the station. One call with planes that are nearly
-    parallel, infinite or NaN can leave a station that is infinite or NaN; no later call
-    recovers from it.
+    The line is followed along the first of x, y, z whose component of (ex, ey, ez) is above the
+    tolerance. Caution: it is evaluated at a coordinate that is kept from the previous call, not
+    at the coordinate of P. The kept coordinates X, Y and Z are zero after loading; each call
+    overwrites the two that it computes. The point matches if its other two coordinates are
+    those computed. Along y, because of the sign of ey, z is that of the line at minus the kept
+    coordinate. A call with planes that are nearly parallel, infinite or NaN can leave infinite
+    or NaN coordinates, from which no later call recovers.
 
-    Retains: the station X, Y, Z (trvln7).
+    Retains: the coordinates X, Y, Z (trvln7).
 
     Arguments:
       a1, b1, c1, d1: first plane
       a2, b2, c2, d2: second plane
       px, py, pz: point P
       ez: third component: read, neither computed nor written
-      tol: largest coordinate difference allowed, itself included
+      tol: largest coordinate difference allowed (inclusive)
 
     Returns:
       ex: b1*c2 - c1*b2
@@ -3491,8 +3502,8 @@ def trvln7(
         tolerance; 5 first_second: only the first and the second are above the tolerance; 6
         second_third: only the second and the third are above the tolerance; 7 first_third: only
         the first and the third are above the tolerance
-      on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the
-        line at the station
+      on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does not
+        match the line at the kept coordinate
     """
     return _trvln7.cells(a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz, ez, tol, _NAN, _NAN, 0, 0)
 
@@ -3508,13 +3519,13 @@ def trvphi(
 ) -> float:
     """Angle at P0 between the rays to P1 and P2, in the plane.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
-    1 or -1 the angle is NaN, as can happen for collinear points.
+    The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or
+    -1, the angle is NaN; this can happen for collinear points.
 
-    Small angles, and angles as close to pi, lose their digits. Of 20,000 random pairs of rays,
-    1 to 1000 long and 4e-4 radians apart, 23 % give 0 and 1.3 % NaN; of pairs 5e-4 apart, 7 %
-    give 0. Errors reach 100 % at 6e-4 radians, 30 % at 1e-3 and 0.25 % at 1e-2. trvchi is
-    accurate there.
+    Small angles, and angles as close to pi, lose digits. Of 20,000 random pairs of rays, 1 to
+    1000 long and 4e-4 radians apart, 23 % give 0 and 1.3 % NaN; of pairs 5e-4 apart, 7 % give
+    0. Errors reach 100 % at 6e-4 radians, 30 % at 1e-3 and 0.25 % at 1e-2. trvchi is accurate
+    there.
 
     Retains: nothing.
 
@@ -3524,7 +3535,7 @@ def trvphi(
       x2, y2: P2
 
     Returns:
-      phi: angle in [0, pi]; 0 where a ray's length is within the tolerance
+      phi: angle in [0, pi]; 0 if a ray's length is within the tolerance
     """
     return _trvphi.cells(x0, y0, x1, y1, x2, y2, _NAN)
 
@@ -3542,9 +3553,9 @@ def trvphi3(
 ) -> float:
     """Angle at P0 between the rays to P1 and P2, in space.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
-    1 or -1 the angle is NaN. Small angles, and angles close to pi, lose their digits as in
-    trvphi; trvchi is accurate there.
+    The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or
+    -1, the angle is NaN. Small angles, and angles close to pi, lose digits as in trvphi; trvchi
+    is accurate there.
 
     Retains: nothing.
 
@@ -3554,7 +3565,7 @@ def trvphi3(
       x2, y2, z2: P2
 
     Returns:
-      phi: angle in [0, pi]; 0 where a ray's length is within the tolerance
+      phi: angle in [0, pi]; 0 if a ray's length is within the tolerance
     """
     return _trvphi3.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN)
 
@@ -3570,9 +3581,9 @@ def trvphi1(
 ) -> float:
     """Angle between two vectors.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
-    1 or -1 the angle is NaN. Small angles, and angles close to pi, lose their digits as in
-    trvphi; trvchi is accurate there.
+    The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or
+    -1, the angle is NaN. Small angles, and angles close to pi, lose digits as in trvphi; trvchi
+    is accurate there.
 
     Retains: nothing.
 
@@ -3581,7 +3592,7 @@ def trvphi1(
       vx, vy, vz: v
 
     Returns:
-      phi: angle in [0, pi]; 0 where a vector's length is within the tolerance
+      phi: angle in [0, pi]; 0 if a vector's length is within the tolerance
     """
     return _trvphi1.cells(ux, uy, uz, vx, vy, vz, _NAN)
 
@@ -3604,8 +3615,8 @@ def trvphip(
 ) -> TrvphipResult:
     """Angle between two lines given by their directions.
 
-    Small angles lose their digits as in trvphi, and can be NaN. For lines that are nearly
-    parallel take the cosine and the sine of trvtrg: the angle is atan2(sphi, |cphi|).
+    Caution: small angles lose digits as in trvphi, and can be NaN. For lines that are nearly
+    parallel, use the cosine and the sine of trvtrg: the angle is atan2(sphi, |cphi|).
 
     Retains: nothing.
 
@@ -3644,11 +3655,12 @@ def trvchi(
 ) -> TrvchiResult:
     """Directed angle at P0 from the ray to P1 to the ray to P2.
 
-    Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third
-    axis of trvaxe: the first of its components y, z, x that is above the tolerance becomes
-    positive, or the first that is not zero. So it is counter-clockwise in the plane z = 0.
-    Formed in double precision, its normal with twice the digits, and rounded once: as accurate
-    near 0, pi and 2*pi as elsewhere.
+    The angle is counter-clockwise as seen from the tip of the normal (P1 - P0) x (P2 - P0). The
+    normal is oriented like the third axis of trvaxe: the first of its components y, z, x that
+    is above the tolerance becomes positive, or if there is none, the first that is not zero. So
+    the angle is counter-clockwise in the plane z = 0. It is formed in double precision, its
+    normal with twice the digits, and rounded once, so it is as accurate near 0, pi and 2*pi as
+    elsewhere.
 
     Retains: nothing.
 
@@ -3680,8 +3692,8 @@ def trvcnv(
     """Convexity of a closed outline, of either orientation.
 
     A vertex within the tolerance of the line through its neighbours counts as straight, unless
-    the outline turns back there: spikes, and outlines all of whose vertices lie on one line,
-    are not convex, nor is one with a NaN or an infinite vertex.
+    the outline turns back there. An outline is not convex if it has a spike, if all its
+    vertices lie on one line, or if a vertex is infinite or NaN.
 
     Retains: nothing.
 
@@ -3748,8 +3760,9 @@ def trvdir(
 ) -> TrvdirCode:
     """Relation of two directions.
 
-    The cosine of their angle decides, within the tolerance; a later code goes before an earlier
-    one. So directions up to 0.00447 radians apart, 4.47 mm a metre, are the same.
+    The cosine of their angle decides, within the tolerance. If several codes apply, the result
+    is the highest. Directions up to 0.00447 radians apart, or 4.47 mm per metre, count as the
+    same.
 
     Retains: nothing.
 
@@ -3779,12 +3792,13 @@ def trvdirp(
 ) -> TrvdirpCode:
     """Relation of two planes.
 
-    The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are
-    parallel, and a normal is zero whose components are within the tolerance.
+    The relation of the normals is that of trvdir. Planes up to 0.00447 radians apart count as
+    parallel. A normal counts as zero if all its components are within the tolerance.
 
-    Planes with parallel normals are distinct when the ratio of their normals, taken at the last
-    component of the second one above the tolerance, and that of their constants (0 where d2 is
-    within the tolerance) differ by more than the tolerance and d1 or d2 is above it.
+    Planes with parallel normals are distinct if the ratio of their normals and the ratio of
+    their constants differ by more than the tolerance, and d1 or d2 is above the tolerance. The
+    ratio of the normals is taken at the last component that is above the tolerance in the
+    second normal. The ratio of the constants is 0 if d2 is within the tolerance.
 
     Retains: nothing.
 
@@ -3823,14 +3837,14 @@ def trvmov(
 ) -> TrvmovResult:
     """Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
 
-    Each is the angle that trvphi1 gives. Caution: its cosine is not clamped. If two projections
-    are parallel, rounding takes it beyond 1 or -1 in about one call of five, and that angle is
-    NaN; in others it is off by up to 5e-4. If P2 - P1 and P4 - P3 lie in one coordinate plane,
-    their projections onto the other two planes are parallel, and a tenth of such calls gives a
-    NaN.
+    Each angle is that of trvphi1. Caution: its cosine is not clamped. If two projections are
+    parallel, rounding takes the cosine beyond 1 or -1 in about one call of five, and that angle
+    is NaN; in other calls the angle is off by up to 5e-4. If P2 - P1 and P4 - P3 lie in one
+    coordinate plane, their projections onto the other two planes are parallel, and a tenth of
+    such calls gives a NaN.
 
-    Small angles, and angles close to pi, lose their digits as in trvphi. For them, and for
-    parallel projections, take trvchi of the two projections, from the origin; if chi is above
+    Small angles, and angles close to pi, lose digits as in trvphi. For such angles, and for
+    parallel projections, use trvchi of the two projections, from the origin; if chi is above
     pi, the angle is 2*pi - chi.
 
     Retains: nothing.
@@ -3868,12 +3882,12 @@ def trvtra(
     Retains: nothing.
 
     Arguments:
-      X, Y: arrays of n: coordinates, less x0 and y0 afterwards
+      X, Y: arrays of n: coordinates; x0 and y0 are subtracted
       n: number of points; below 1 nothing happens
       x0, y0: new origin; may be one of the points
 
     Returns:
-      X, Y: arrays of n: coordinates, less x0 and y0 afterwards
+      X, Y: arrays of n: coordinates; x0 and y0 are subtracted
     """
     return _trvtra.call((X, Y, n, x0, y0), in_place)
 
@@ -3887,7 +3901,7 @@ _trvinv = Routine(
 def trvinv(
     V: ArrayLike, *, n: int | None = None, in_place: bool = False
 ) -> NDArray[int32]:
-    """Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+    """Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
 
     Retains: nothing.
 
@@ -3916,23 +3930,22 @@ def trvadr(
     V: ArrayLike, k: int, A: ArrayLike, *, n: int | None = None, m: int | None = None,
     in_place: bool = False
 ) -> TrvadrResult:
-    """Inserts a list into another. Elements move bit for bit, so Reals pass as well as
-    Integers.
+    """Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: n is
-        unchanged
+      V: array of n+m: the list, with space for the elements to insert; unchanged on a
+        condition: n is unchanged
       n: number of its elements; n+m afterwards; unchanged on a condition: k is negative or
         above n, or m < 1
       k: position after which to insert, 0 for the front
-      A: array of m: what to insert
+      A: array of m: elements to insert
       m: number of elements to insert
 
     Returns:
-      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: n is
-        unchanged
+      V: array of n+m: the list, with space for the elements to insert; unchanged on a
+        condition: n is unchanged
       n: number of its elements; n+m afterwards; unchanged on a condition: k is negative or
         above n, or m < 1
     """
@@ -4505,7 +4518,7 @@ def trvef2(
 
     Arguments:
       bl: width for the slenderness
-      w: width to reduce; if s2 is tension, the width of the compressed part
+      w: width to reduce; in bending, if s2 is tension, the width of the compressed part
       t: thickness
       r1: square root of the yield strength: sqrt(fy)
       r2: square root of the reference strength: sqrt(235) for N/mm2
