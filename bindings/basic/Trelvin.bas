@@ -562,8 +562,9 @@ Public Declare PtrSafe Sub trvmer16 Lib "Trelvin64.dll" Alias "trvmer16" (ByRef 
     ByRef Y As Single, ByRef n As Long, ByRef tol As Single)
 
 ' All pairs of points of two lists that match within a tolerance in each coordinate.
-' status: which points of A match a point of B: 0 no_pair: no point of A does; 1 some_pairs: some
-' points of A do, others do not; 2 all_paired: every point of A does.
+' status: which points of A match a point of B: 0 no_pair: no point of A matches a point of B; 1
+' some_pairs: some points of A match points of B, others do not; 2 all_paired: every point of A
+' matches a point of B.
 Public Declare PtrSafe Sub trvptp1 Lib "Trelvin64.dll" Alias "trvptp1" (ByRef na As Long, _
     ByRef XA As Single, ByRef YA As Single, ByRef ZA As Single, ByRef nb As Long, _
     ByRef XB As Single, ByRef YB As Single, ByRef ZB As Single, ByRef tol As Single, _

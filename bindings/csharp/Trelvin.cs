@@ -951,9 +951,9 @@ namespace Trelvin
 
         /// <summary>All pairs of points of two lists that match within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A does; 1
-        /// some_pairs: some points of A do, others do not; 2 all_paired: every point of A
-        /// does.</remarks>
+        /// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A matches
+        /// a point of B; 1 some_pairs: some points of A match points of B, others do not; 2
+        /// all_paired: every point of A matches a point of B.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptp1(ref int na, [In] float[] XA, [In] float[] YA,
             [In] float[] ZA, ref int nb, [In] float[] XB, [In] float[] YB, [In] float[] ZB,
@@ -961,9 +961,9 @@ namespace Trelvin
 
         /// <summary>All pairs of points of two lists that match within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A does; 1
-        /// some_pairs: some points of A do, others do not; 2 all_paired: every point of A
-        /// does.</remarks>
+        /// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A matches
+        /// a point of B; 1 some_pairs: some points of A match points of B, others do not; 2
+        /// all_paired: every point of A matches a point of B.</remarks>
         public static void trvptp1(int na, float[] XA, float[] YA, float[] ZA, int nb, float[] XB,
             float[] YB, float[] ZB, float tol, out int count, int[] IA, int[] IB, out int status)
         {

@@ -754,8 +754,9 @@ module trelvin
     end subroutine
 
     !> All pairs of points of two lists that match within a tolerance in each coordinate.
-    !! status: which points of A match a point of B: 0 no_pair: no point of A does; 1 some_pairs:
-    !! some points of A do, others do not; 2 all_paired: every point of A does.
+    !! status: which points of A match a point of B: 0 no_pair: no point of A matches a point of B;
+    !! 1 some_pairs: some points of A match points of B, others do not; 2 all_paired: every point of
+    !! A matches a point of B.
     subroutine trvptp1(na, XA, YA, ZA, nb, XB, YB, ZB, tol, count, IA, IB, &
         status) bind(c, name="trvptp1")
       import :: c_float, c_int32_t

@@ -730,8 +730,9 @@ export const trvmer16 = routine("trvmer16", ["inout real X[n, n used]", "inout r
 /**
  * All pairs of points of two lists that match within a tolerance in each coordinate.
  *
- * status: which points of A match a point of B: 0 no_pair: no point of A does; 1 some_pairs: some
- * points of A do, others do not; 2 all_paired: every point of A does.
+ * status: which points of A match a point of B: 0 no_pair: no point of A matches a point of B; 1
+ * some_pairs: some points of A match points of B, others do not; 2 all_paired: every point of A
+ * matches a point of B.
  *
  * @type {(XA: Numbers, YA: Numbers, ZA: Numbers, XB: Numbers, YB: Numbers, ZB: Numbers, tol:
  *   number, counts?: {na?: number, nb?: number}) => {count: number, IA: Int32Array, IB: Int32Array,

@@ -701,8 +701,9 @@ procedure trvmer16(
 
 /// <summary>All pairs of points of two lists that match within a tolerance in each
 /// coordinate.</summary>
-/// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A does; 1
-/// some_pairs: some points of A do, others do not; 2 all_paired: every point of A does.</remarks>
+/// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A matches a point
+/// of B; 1 some_pairs: some points of A match points of B, others do not; 2 all_paired: every point
+/// of A matches a point of B.</remarks>
 procedure trvptp1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} XA, YA, ZA: TTrvReals;

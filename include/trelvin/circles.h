@@ -356,7 +356,7 @@ TRELVIN_ROUTINE trvhin(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * of 4e-4 radians 23 % are. For sectors below 8e-4 radians, compare the signed distances from both
  * rays yourself (trvln3, trvlds).
  *
- * Cost: takes time in proportion to n.
+ * Cost: time grows with n.
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *

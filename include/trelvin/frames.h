@@ -46,7 +46,7 @@ TRELVIN_ROUTINE trvpsl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 /**
  * Moves the origin of points to (dx, dy, dz), in place.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -129,7 +129,7 @@ TRELVIN_ROUTINE trvaxel(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn 
  * left-handed about y. The shift is skipped if no component is above the tolerance. A rotation is
  * skipped if its angle is not above the tolerance.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -152,7 +152,7 @@ TRELVIN_ROUTINE trvptr(TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z, TrvInt
  * Single inputs may be elements of the arrays, and P0 to P2 may be some of the points: they are
  * read before a point is moved.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -180,7 +180,7 @@ TRELVIN_ROUTINE trvptrl(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn 
  * Single inputs may be elements of the arrays, and P0 and P1 may be two of the points: they are
  * read before a point is moved.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -205,7 +205,7 @@ TRELVIN_ROUTINE trvpra(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * Single inputs may be elements of the arrays, and P0 to P2 may be some of the points: they are
  * read before a point is moved.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *

@@ -62,7 +62,8 @@ TRELVIN_ROUTINE trvord1(TrvIntArrayInOut V, TrvIntIn n);
  * round has found.
  *
  * Cost: time grows with n. More than 512 elements take 16*n bytes of the heap for the call. If
- * these cannot be allocated, the list is read again for each 512 elements, and time grows with n*n.
+ * these cannot be allocated, the result is the same, but the list is read again for each 512
+ * elements, and time grows with n*n.
  *
  * Retains: nothing.
  *
@@ -334,9 +335,9 @@ TRELVIN_ROUTINE trvmer16(TrvArrayInOut X, TrvArrayInOut Y, TrvIntInOut n, TrvIn 
  * @param[out] count     number of pairs
  * @param[out] IA,IB     arrays of na*nb, count used: positions in A and in B, sorted by A, then by
  *                       B
- * @param[out] status    which points of A match a point of B: 0 no_pair: no point of A does; 1
- *                       some_pairs: some points of A do, others do not; 2 all_paired: every point
- *                       of A does
+ * @param[out] status    which points of A match a point of B: 0 no_pair: no point of A matches a
+ *                       point of B; 1 some_pairs: some points of A match points of B, others do
+ *                       not; 2 all_paired: every point of A matches a point of B
  */
 TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA, TrvIntIn nb,
                         TrvArrayIn XB, TrvArrayIn YB, TrvArrayIn ZB, TrvIn tol, TrvIntOut count,

@@ -44,11 +44,11 @@ enum Trvcer10Status {
 
 /** trvptp1: which points of A match a point of B. */
 enum Trvptp1Status {
-  /** no point of A does */
+  /** no point of A matches a point of B */
   TRVPTP1_NO_PAIR = 0,
-  /** some points of A do, others do not */
+  /** some points of A match points of B, others do not */
   TRVPTP1_SOME_PAIRS = 1,
-  /** every point of A does */
+  /** every point of A matches a point of B */
   TRVPTP1_ALL_PAIRED = 2,
 };
 

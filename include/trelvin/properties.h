@@ -33,7 +33,7 @@
  * a counter-clockwise outline (x to the right, y up), negative for a clockwise one; loops of a
  * self-intersecting outline add up with their signs. The last vertex may repeat the first.
  *
- * Cost: the time grows with n.
+ * Cost: time grows with n.
  *
  * Retains: nothing.
  *
@@ -53,7 +53,7 @@ TRELVIN_ROUTINE trvapl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut area
  * once. The signs are right for a counter-clockwise outline and opposite for a clockwise one; loops
  * of a self-intersecting outline add up with their signs. The last vertex may repeat the first.
  *
- * Cost: the time grows with n.
+ * Cost: time grows with n.
  *
  * Retains: nothing.
  *
@@ -75,7 +75,7 @@ TRELVIN_ROUTINE trvspl(TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvOut sx, 
  * opposite for a clockwise one; loops of a self-intersecting outline add up with their signs. The
  * last vertex may repeat the first.
  *
- * Cost: the time grows with n.
+ * Cost: time grows with n.
  *
  * Retains: nothing.
  *
@@ -281,7 +281,7 @@ TRELVIN_ROUTINE trvinp(TrvIn ix, TrvIn iy, TrvIn ixy, TrvOut i1, TrvOut i2, TrvO
  *
  * Caution: the last interior sample f(n-1) is not in the sum; if n = 3, no interior sample is.
  *
- * Cost: the time grows with n.
+ * Cost: time grows with n.
  *
  * Retains: nothing.
  *

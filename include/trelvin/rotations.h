@@ -16,7 +16,7 @@
 /**
  * Rotates plane points about the origin, in place.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -30,7 +30,7 @@ TRELVIN_ROUTINE trvrot(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvIntIn
 /**
  * Rotates points about the x axis, in place.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -49,7 +49,7 @@ TRELVIN_ROUTINE trvrotx(TrvIntIn mode, TrvArrayIn x, TrvArrayInOut y, TrvArrayIn
  * Caution: unless mode is 1, this rotation is left-handed about its axis, while those of trvrotx
  * and trvrotz are right-handed.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -66,7 +66,7 @@ TRELVIN_ROUTINE trvroty(TrvIntIn mode, TrvArrayInOut x, TrvArrayIn y, TrvArrayIn
 /**
  * Rotates points about the z axis, in place.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *

@@ -84,7 +84,7 @@ TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ce
  *
  * psi counts as 1 if s1 - s2 is within the tolerance, as 0 if s2 is, and as -1 if |s1 + s2| is
  * below the tolerance. Caution: the rows 1 and 0 overlap with others. If 0 < s2 < s1, however small
- * the difference, the row "1 to 0" is used; if s2 < 0, one of the rows for negative psi.
+ * the difference, the row "1 to 0" applies; if s2 < 0, one of the rows for negative psi does.
  *
  * Retains: nothing.
  *
@@ -471,7 +471,7 @@ TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw);
  * those of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed in double precision
  * and rounded once.
  *
- * Cost: time grows with n^2; no memory is taken.
+ * Cost: time grows with n^2; nothing is allocated.
  *
  * Retains: nothing.
  *

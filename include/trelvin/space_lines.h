@@ -166,7 +166,7 @@ TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position);
  * the host then has its own environment, status and count are unwritten, and index holds the
  * positions found so far. A C++ exception must not leave the function.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *

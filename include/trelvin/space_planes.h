@@ -118,7 +118,7 @@ TRELVIN_ROUTINE trvpl4(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  * Retains: nothing.
  *
  * @param[in]  ix,iy,iz  intercepts
- * @param[out] a,b,c,d   plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
+ * @param[out] a,b,c,d   plane (1/ix, 1/iy, 1/iz, -1); all zero if status is 1
  * @param[out] status    outcome: 0 done: the plane is computed; 1 no_plane: there is no plane,
  *                       since an intercept is within the tolerance or NaN
  */
@@ -244,7 +244,7 @@ TRELVIN_ROUTINE trvplv(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy, TrvIn w
  * Caution: the residual starts at d and is not reset between points. Each point adds a*x, b*y and
  * c*z to it, in this order. The point is found if the residual is then exactly zero.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *

@@ -182,9 +182,9 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvptp1": {
         "status": {
-            0: 'no point of A does',
-            1: 'some points of A do, others do not',
-            2: 'every point of A does',
+            0: 'no point of A matches a point of B',
+            1: 'some points of A match points of B, others do not',
+            2: 'every point of A matches a point of B',
         },
     },
     "trvpin": {
@@ -1533,7 +1533,7 @@ def trvapp(
     sectors of 4e-4 radians 23 % are. For sectors below 8e-4 radians, compare the signed
     distances from both rays yourself (trvln3, trvlds).
 
-    Cost: takes time in proportion to n.
+    Cost: time grows with n.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -1988,8 +1988,8 @@ def trvordi(
     element that an earlier round has found.
 
     Cost: time grows with n. More than 512 elements take 16*n bytes of the heap for the call. If
-    these cannot be allocated, the list is read again for each 512 elements, and time grows with
-    n*n.
+    these cannot be allocated, the result is the same, but the list is read again for each 512
+    elements, and time grows with n*n.
 
     Retains: nothing.
 
@@ -2530,8 +2530,9 @@ def trvptp1(
     Returns:
       count_: number of pairs
       IA, IB: arrays of na*nb, count used: positions in A and in B, sorted by A, then by B
-      status: which points of A match a point of B: 0 no_pair: no point of A does; 1 some_pairs:
-        some points of A do, others do not; 2 all_paired: every point of A does
+      status: which points of A match a point of B: 0 no_pair: no point of A matches a point of
+        B; 1 some_pairs: some points of A match points of B, others do not; 2 all_paired: every
+        point of A matches a point of B
     """
     return _trvptp1.call((na, XA, YA, ZA, nb, XB, YB, ZB, tol))
 
@@ -3976,7 +3977,7 @@ def trvapl(
     clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex
     may repeat the first.
 
-    Cost: the time grows with n.
+    Cost: time grows with n.
 
     Retains: nothing.
 
@@ -4018,7 +4019,7 @@ def trvspl(
     clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex
     may repeat the first.
 
-    Cost: the time grows with n.
+    Cost: time grows with n.
 
     Retains: nothing.
 
@@ -4063,7 +4064,7 @@ def trvipl(
     counter-clockwise outline and opposite for a clockwise one; loops of a self-intersecting
     outline add up with their signs. The last vertex may repeat the first.
 
-    Cost: the time grows with n.
+    Cost: time grows with n.
 
     Retains: nothing.
 
@@ -4399,7 +4400,7 @@ def trvinr(
 
     Caution: the last interior sample f(n-1) is not in the sum; if n = 3, no interior sample is.
 
-    Cost: the time grows with n.
+    Cost: time grows with n.
 
     Retains: nothing.
 
@@ -4512,7 +4513,8 @@ def trvef2(
 
     psi counts as 1 if s1 - s2 is within the tolerance, as 0 if s2 is, and as -1 if |s1 + s2| is
     below the tolerance. Caution: the rows 1 and 0 overlap with others. If 0 < s2 < s1, however
-    small the difference, the row "1 to 0" is used; if s2 < 0, one of the rows for negative psi.
+    small the difference, the row "1 to 0" applies; if s2 < 0, one of the rows for negative psi
+    does.
 
     Retains: nothing.
 
@@ -5300,7 +5302,7 @@ def trvmxt(
     coordinates are those of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed
     in double precision and rounded once.
 
-    Cost: time grows with n^2; no memory is taken.
+    Cost: time grows with n^2; nothing is allocated.
 
     Retains: nothing.
 
@@ -5452,7 +5454,7 @@ def trvrot(
 ) -> TrvrotResult:
     """Rotates plane points about the origin, in place.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5486,7 +5488,7 @@ def trvrotx(
 ) -> TrvrotxResult:
     """Rotates points about the x axis, in place.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5524,7 +5526,7 @@ def trvroty(
     Caution: unless mode is 1, this rotation is left-handed about its axis, while those of
     trvrotx and trvrotz are right-handed.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5559,7 +5561,7 @@ def trvrotz(
 ) -> TrvrotzResult:
     """Rotates points about the z axis, in place.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5635,7 +5637,7 @@ def trv3tra(
 ) -> Trv3traResult:
     """Moves the origin of points to (dx, dy, dz), in place.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5807,7 +5809,7 @@ def trvptr(
     and z, left-handed about y. The shift is skipped if no component is above the tolerance. A
     rotation is skipped if its angle is not above the tolerance.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5856,7 +5858,7 @@ def trvptrl(
     Single inputs may be elements of the arrays, and P0 to P2 may be some of the points: they
     are read before a point is moved.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -5905,7 +5907,7 @@ def trvpra(
     Single inputs may be elements of the arrays, and P0 and P1 may be two of the points: they
     are read before a point is moved.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5956,7 +5958,7 @@ def trvppc(
     Single inputs may be elements of the arrays, and P0 to P2 may be some of the points: they
     are read before a point is moved.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6217,7 +6219,7 @@ def trvpl5(
       ix, iy, iz: intercepts
 
     Returns:
-      a, b, c, d: plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
+      a, b, c, d: plane (1/ix, 1/iy, 1/iz, -1); all zero if status is 1
       status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an
         intercept is within the tolerance or NaN
     """
@@ -6465,7 +6467,7 @@ def trvpnp(
     Caution: the residual starts at d and is not reset between points. Each point adds a*x, b*y
     and c*z to it, in this order. The point is found if the residual is then exactly zero.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -6796,7 +6798,7 @@ def trvpnl(
     Windows: the host then has its own environment, status and count are unwritten, and index
     holds the positions found so far. A C++ exception must not leave the function.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
