@@ -13,7 +13,7 @@ Public Const TrelvinVersion As String = "1.1.1"
 Public Const trvStatusDone As Long = 0
 Public Const trvStatusRefused As Long = -1
 
-' Whether a point of an arc was found; note that 1 means done here.
+' Whether a point of an arc was found. Caution: here 1 means done.
 Public Const trvArcDone As Long = 1
 Public Const trvArcRefused As Long = 0
 
@@ -44,7 +44,7 @@ Public Const trvComponentsFirstThird As Long = 7
 Public Const trvOnLineNo As Long = 0
 Public Const trvOnLineYes As Long = 1
 
-' Whether a point lies on a plane; note that 0 means yes.
+' Whether a point lies on a plane. Caution: 0 means yes.
 Public Const trvOnPlaneYes As Long = 0
 Public Const trvOnPlaneNo As Long = -1
 Public Const trvOnPlaneZeroNormal As Long = 1
@@ -72,7 +72,7 @@ Public Const trvLinesPerpendicular As Long = 5
 Public Const trvLinesSkew As Long = 6
 Public Const trvLinesCoincident As Long = 7
 
-' What came of two lines of space: a result, or the relation that allows none.
+' Outcome for two lines of space: a result, or the relation that allows no result.
 Public Const trvTwoLinesDone As Long = 0
 Public Const trvTwoLinesSameLine As Long = 3
 Public Const trvTwoLinesOppositeLine As Long = 4
@@ -102,7 +102,7 @@ Public Const trvcer10CrossingOrRefused As Long = 0
 Public Const trvcer10AlongChord As Long = 1
 Public Const trvcer10Parallel As Long = 2
 
-' trvptp1: which points of A have a partner in B.
+' trvptp1: which points of A match a point of B.
 Public Const trvptp1NoPair As Long = 0
 Public Const trvptp1SomePairs As Long = 1
 Public Const trvptp1AllPaired As Long = 2
@@ -338,7 +338,7 @@ Public Declare PtrSafe Sub trvlci Lib "Trelvin64.dll" Alias "trvlci" (ByRef a As
     ByRef n As Long, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single)
 
-' Intersection of two circles: that of their radical line with the first circle (trvlci).
+' Intersection of two circles, computed as that of their radical line and the first circle (trvlci).
 ' n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric: |D2
 ' - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles cut each
 ' other.
@@ -374,7 +374,7 @@ Public Declare PtrSafe Sub trvcin Lib "Trelvin64.dll" Alias "trvcin" (ByRef X As
     ByRef position As Long, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single)
 
-' Turns a point about a centre.
+' Rotates a point about a centre.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance from
 ' the centre is within the tolerance.
 Public Declare PtrSafe Sub trvcer3 Lib "Trelvin64.dll" Alias "trvcer3" (ByRef x0 As Single, _
@@ -383,8 +383,8 @@ Public Declare PtrSafe Sub trvcer3 Lib "Trelvin64.dll" Alias "trvcer3" (ByRef x0
 
 ' Point of an arc above a station of its chord, perpendicular to the chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
-' at most 0.001, the radii of A and B differ by more, or the station is not farther than that from
-' both ends.
+' at most 0.001, the radii of A and B differ by more than 0.001, or the station is not more than
+' 0.001 inside both ends of the chord.
 Public Declare PtrSafe Sub trvcer8 Lib "Trelvin64.dll" Alias "trvcer8" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef x As Single, _
@@ -392,8 +392,8 @@ Public Declare PtrSafe Sub trvcer8 Lib "Trelvin64.dll" Alias "trvcer8" (ByRef xc
 
 ' Point of an arc on the line from its centre through a station of its chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
-' at most 0.001, the radii of A and B differ by more, the station is not farther than that from both
-' ends, or d is closer than that to the diameter.
+' at most 0.001, the radii of A and B differ by more than 0.001, the station is not more than 0.001
+' inside both ends of the chord, or d differs from the diameter by less than 0.001.
 Public Declare PtrSafe Sub trvcer6 Lib "Trelvin64.dll" Alias "trvcer6" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef x As Single, _
@@ -401,8 +401,8 @@ Public Declare PtrSafe Sub trvcer6 Lib "Trelvin64.dll" Alias "trvcer6" (ByRef xc
 
 ' Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord, d,
-' the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or
-' the strip comes closer than that to an end of the chord.
+' the rest of the chord beyond d or the width is at most 0.001, the radii of A and B differ by more
+' than 0.001, or an edge of the strip is less than 0.001 inside an end of the chord.
 Public Declare PtrSafe Sub trvcer9 Lib "Trelvin64.dll" Alias "trvcer9" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef side As Long, ByRef d As Single, ByRef w As Single, _
@@ -420,56 +420,56 @@ Public Declare PtrSafe Sub trvarc1 Lib "Trelvin64.dll" Alias "trvarc1" (ByRef xc
 Public Declare PtrSafe Sub trvaxph Lib "Trelvin64.dll" Alias "trvaxph" (ByRef dx As Single, _
     ByRef dy As Single, ByRef phi As Single)
 
-' Distances and stations of two points against a segment.
+' Distances of two points from the line of a segment, and their stations along it.
 Public Declare PtrSafe Sub trvhin Lib "Trelvin64.dll" Alias "trvhin" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
     ByRef x3 As Single, ByRef y3 As Single, ByRef z3 As Single, ByRef h0 As Single, _
     ByRef s0 As Single, ByRef h3 As Single, ByRef s3 As Single, ByRef len_ As Single)
 
-' Marks points by a sector.
+' Marks points as inside or outside a sector.
 ' mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
-' outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same for
-' all points.
+' outside the sector; -1 no_sector: the angle of the rays by trvphi is within the tolerance, so all
+' points have this value.
 Public Declare PtrSafe Sub trvapp Lib "Trelvin64.dll" Alias "trvapp" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single, ByRef n As Long, ByRef X As Single, ByRef Y As Single, ByRef mark As Long)
 
 ' Point of an arc on a line through a station of its chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
-' within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches
-' the circle.
+' within the tolerance, the radii of A and B differ by more than the tolerance, A and B coincide, or
+' the line is tangent to the circle.
 Public Declare PtrSafe Sub trvcer4 Lib "Trelvin64.dll" Alias "trvcer4" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef angle As Single, ByRef xo As Single, _
     ByRef yo As Single, ByRef status As Long)
 
-' Crossing of an arc's chord with a line through its turned end.
+' Intersection of an arc's chord with a line through its rotated end.
 ' status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal result, or
-' a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or the
-' input is rejected, since the radius or the chord is within the tolerance or the radii of A and B
-' differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the line is parallel to
-' the chord.
+' an intersection kept from an earlier call lies on the chord's line but not at A or B (trvpsl above
+' 2), or the input is rejected, since the radius or the chord is within the tolerance or the radii
+' of A and B differ by more than the tolerance; 1 along_chord: the line runs along the chord; 2
+' parallel: the line is parallel to the chord.
 Public Declare PtrSafe Sub trvcer10 Lib "Trelvin64.dll" Alias "trvcer10" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef turn As Single, ByRef angle As Single, ByRef xo As Single, _
     ByRef yo As Single, ByRef status As Long)
 
-' Point of an arc on the line from a station of its chord towards the sagitta.
-' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e, the
-' radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more, or
-' the line touches the circle.
+' Point of an arc on the line from a station of its chord to a point of the sagitta.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, e, the
+' radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by more than
+' 1e-5, or the line is tangent to the circle.
 Public Declare PtrSafe Sub trvcer5 Lib "Trelvin64.dll" Alias "trvcer5" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef side As Long, ByRef e As Single, _
     ByRef xo As Single, ByRef yo As Single, ByRef status As Long)
 
-' Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
-' chord.
+' Intersections of a line through a station of an arc's chord with the arc and with a line parallel
+' to the chord.
 ' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative, the
-' radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the
-' rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle
-' is not longer than 2e-4.
+' radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more than 1e-4
+' and the rounding, side is 0, the line is parallel to the chord, or the part of the line inside the
+' circle is not longer than 2e-4.
 Public Declare PtrSafe Sub trvcer7 Lib "Trelvin64.dll" Alias "trvcer7" (ByRef xc As Single, _
     ByRef yc As Single, ByRef xa As Single, ByRef ya As Single, ByRef xb As Single, _
     ByRef yb As Single, ByRef s As Single, ByRef side As Long, ByRef e As Single, _
@@ -478,9 +478,9 @@ Public Declare PtrSafe Sub trvcer7 Lib "Trelvin64.dll" Alias "trvcer7" (ByRef xc
     ByRef status As Long)
 
 ' Rounds the corner at P0 between the segments to P1 and to P2.
-' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not above
-' the tolerance, the sine of the angle between the segments is within it, or the arc touches one
-' beyond its end by more.
+' status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length of a
+' segment is not above the tolerance, the sine of the angle between the segments is within the
+' tolerance, or a tangent point lies beyond the end of its segment by more than the tolerance.
 Public Declare PtrSafe Sub trvard Lib "Trelvin64.dll" Alias "trvard" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef x1 As Single, ByRef y1 As Single, ByRef x2 As Single, _
     ByRef y2 As Single, ByRef r As Single, ByRef xc As Single, ByRef yc As Single, _
@@ -500,11 +500,11 @@ Public Declare PtrSafe Sub trvord Lib "Trelvin64.dll" Alias "trvord" (ByRef V As
 Public Declare PtrSafe Sub trvord1 Lib "Trelvin64.dll" Alias "trvord1" (ByRef V As Long, _
     ByRef n As Long)
 
-' Positions of the entries of a list in ascending order; the list itself stays.
+' Positions of the elements of a list in ascending order; the list itself is not changed.
 Public Declare PtrSafe Sub trvordi Lib "Trelvin64.dll" Alias "trvordi" (ByRef V As Single, _
     ByRef n As Long, ByRef IDX As Long)
 
-' Order of parallel lines by where they cross an axis.
+' Order of parallel lines by their intersections with an axis.
 ' status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a family
 ' of parallel and distinct lines, or n < 1.
 Public Declare PtrSafe Sub trvpor Lib "Trelvin64.dll" Alias "trvpor" (ByRef n As Long, _
@@ -519,12 +519,12 @@ Public Declare PtrSafe Sub trvorv Lib "Trelvin64.dll" Alias "trvorv" (ByRef X As
 Public Declare PtrSafe Sub trvsel1 Lib "Trelvin64.dll" Alias "trvsel1" (ByRef n As Long, _
     ByRef V As Long, ByRef key As Long, ByRef count As Long, ByRef pos As Long)
 
-' All pairs of entries of two lists that differ by at most a tolerance.
+' All pairs of elements of two lists that differ by at most a tolerance.
 Public Declare PtrSafe Sub trvmer13 Lib "Trelvin64.dll" Alias "trvmer13" (ByRef na As Long, _
     ByRef A As Single, ByRef nb As Long, ByRef B As Single, ByRef count As Long, ByRef IA As Long, _
     ByRef IB As Long, ByRef tol As Single)
 
-' Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
+' Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold Reals.
 Public Declare PtrSafe Sub trvmer1 Lib "Trelvin64.dll" Alias "trvmer1" (ByRef na As Long, _
     ByRef A As Long, ByRef nb As Long, ByRef B As Long, ByRef nout As Long, ByRef OUT As Long)
 
@@ -532,44 +532,45 @@ Public Declare PtrSafe Sub trvmer1 Lib "Trelvin64.dll" Alias "trvmer1" (ByRef na
 Public Declare PtrSafe Sub trvmer11 Lib "Trelvin64.dll" Alias "trvmer11" (ByRef na As Long, _
     ByRef A As Long, ByRef nb As Long, ByRef B As Long, ByRef nout As Long, ByRef OUT As Long)
 
-' Sorts Integers ascending and drops repeats, in place.
+' Sorts Integers ascending and removes duplicates, in place.
 Public Declare PtrSafe Sub trvmer2 Lib "Trelvin64.dll" Alias "trvmer2" (ByRef V As Long, _
     ByRef n As Long)
 
-' Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+' Sorts Reals ascending and removes duplicates within a tolerance, in place.
 Public Declare PtrSafe Sub trvmer3 Lib "Trelvin64.dll" Alias "trvmer3" (ByRef V As Single, _
     ByRef n As Long)
 
-' Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+' Sorts Reals ascending and removes duplicates within a tolerance, in place.
 Public Declare PtrSafe Sub trvmer12 Lib "Trelvin64.dll" Alias "trvmer12" (ByRef V As Single, _
     ByRef n As Long, ByRef tol As Single)
 
-' Joins to a list those entries of another that it does not hold yet.
+' Appends to a list those elements of another that it does not hold yet.
 Public Declare PtrSafe Sub trvmer4 Lib "Trelvin64.dll" Alias "trvmer4" (ByRef na As Long, _
     ByRef A As Single, ByRef nb As Long, ByRef B As Single, ByRef tol As Single, _
     ByRef nout As Long, ByRef OUT As Single, ByRef IB As Long)
 
-' Entries of a list that another holds too.
+' Elements of a list that another holds too.
 Public Declare PtrSafe Sub trvmer14 Lib "Trelvin64.dll" Alias "trvmer14" (ByRef na As Long, _
     ByRef A As Long, ByRef nb As Long, ByRef B As Long, ByRef nout As Long, ByRef OUT As Long)
 
-' Removes from a list the entries that another holds, in place.
+' Removes from a list the elements that another holds, in place.
 Public Declare PtrSafe Sub trvmer15 Lib "Trelvin64.dll" Alias "trvmer15" (ByRef na As Long, _
     ByRef A As Long, ByRef nb As Long, ByRef B As Long, ByRef count As Long)
 
-' Drops repeated vertices of a closed outline, in place.
+' Removes repeated vertices of a closed outline, in place.
 Public Declare PtrSafe Sub trvmer16 Lib "Trelvin64.dll" Alias "trvmer16" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef tol As Single)
 
-' All pairs of points of two lists that agree within a tolerance in each coordinate.
-' status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have; 2
-' all_paired: every one has.
+' All pairs of points of two lists that match within a tolerance in each coordinate.
+' status: which points of A match a point of B: 0 no_pair: no point of A matches a point of B; 1
+' some_pairs: some points of A match points of B, others do not; 2 all_paired: every point of A
+' matches a point of B.
 Public Declare PtrSafe Sub trvptp1 Lib "Trelvin64.dll" Alias "trvptp1" (ByRef na As Long, _
     ByRef XA As Single, ByRef YA As Single, ByRef ZA As Single, ByRef nb As Long, _
     ByRef XB As Single, ByRef YB As Single, ByRef ZB As Single, ByRef tol As Single, _
     ByRef count As Long, ByRef IA As Long, ByRef IB As Long, ByRef status As Long)
 
-' Merges three lists of points into one list of places.
+' Merges three lists of points into one list.
 Public Declare PtrSafe Sub trvptp2 Lib "Trelvin64.dll" Alias "trvptp2" (ByRef na As Long, _
     ByRef XA As Single, ByRef YA As Single, ByRef ZA As Single, ByRef nb As Long, _
     ByRef XB As Single, ByRef YB As Single, ByRef ZB As Single, ByRef nc As Long, _
@@ -580,12 +581,12 @@ Public Declare PtrSafe Sub trvptp2 Lib "Trelvin64.dll" Alias "trvptp2" (ByRef na
     ByRef MA As Long, ByRef MB As Long, ByRef MC As Long, ByRef k As Long, ByRef nk As Long, _
     ByRef PK As Long, ByRef nz As Long, ByRef ZL As Single)
 
-' Where the horizontal line y = y0 crosses a closed outline.
+' Crossings of the horizontal line y = y0 with a closed outline.
 Public Declare PtrSafe Sub trvppp Lib "Trelvin64.dll" Alias "trvppp" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef y0 As Single, ByRef count As Long, _
     ByRef XC As Single)
 
-' Where the segment from P1 to P2 crosses a closed outline.
+' Crossings of the segment from P1 to P2 with a closed outline.
 ' status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1 is
 ' outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within the
 ' tolerance in both coordinates.
@@ -648,7 +649,7 @@ Public Declare PtrSafe Sub trvdtr3 Lib "Trelvin64.dll" Alias "trvdtr3" (ByRef a1
     ByRef b3 As Single, ByRef c1 As Single, ByRef c2 As Single, ByRef c3 As Single, _
     ByRef det As Single)
 
-' Divides two coefficients by a third, or gives zeros where it vanishes.
+' Divides two coefficients by a third, or gives zeros if the third is zero within the tolerance.
 Public Declare PtrSafe Sub trvgrc Lib "Trelvin64.dll" Alias "trvgrc" (ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef q1 As Single, ByRef q2 As Single)
 
@@ -667,7 +668,7 @@ Public Declare PtrSafe Sub trvvin Lib "Trelvin64.dll" Alias "trvvin" (ByRef u1 A
 Public Declare PtrSafe Sub trvpos Lib "Trelvin64.dll" Alias "trvpos" (ByRef n As Long, _
     ByRef A As Single, ByRef x As Single, ByRef i As Long)
 
-' Entry of an ascending table that equals a value, or the interval that holds it.
+' Element of an ascending table that equals a value, or the interval that holds it.
 ' status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
 ' A(i+1); 0 neither: x equals no element and lies in no interval.
 Public Declare PtrSafe Sub trvpos1 Lib "Trelvin64.dll" Alias "trvpos1" (ByRef n As Long, _
@@ -688,7 +689,7 @@ Public Declare PtrSafe Sub trvln4 Lib "Trelvin64.dll" Alias "trvln4" (ByRef x0 A
     ByRef y0 As Single, ByRef dx As Single, ByRef dy As Single, ByRef u As Single, _
     ByRef a As Single, ByRef b As Single, ByRef c As Single)
 
-' Parallel of a line at a signed distance.
+' Line parallel to a line at a signed distance.
 Public Declare PtrSafe Sub trvln2 Lib "Trelvin64.dll" Alias "trvln2" (ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef d As Single, ByRef a2 As Single, _
     ByRef b2 As Single, ByRef c2 As Single)
@@ -717,35 +718,38 @@ Public Declare PtrSafe Sub trvlul Lib "Trelvin64.dll" Alias "trvlul" (ByRef a1 A
     ByRef c2 As Single, ByRef d As Single, ByRef status As Long)
 
 ' Which components of two triples differ by more than the tolerance.
-' code: which components differ by more than the tolerance (TrvComponents): 0 none: no component is;
-' 1 all: all three components are; 2 first: the first component alone is; 3 second: the second
-' component alone is; 4 third: the third component alone is; 5 first_second: the first and the
-' second component are; 6 second_third: the second and the third component are; 7 first_third: the
-' first and the third component are.
+' code: which components of p - q are above the tolerance (TrvComponents): 0 none: no component is
+' above the tolerance; 1 all: all three components are above the tolerance; 2 first: only the first
+' component is above the tolerance; 3 second: only the second component is above the tolerance; 4
+' third: only the third component is above the tolerance; 5 first_second: only the first and the
+' second are above the tolerance; 6 second_third: only the second and the third are above the
+' tolerance; 7 first_third: only the first and the third are above the tolerance.
 Public Declare PtrSafe Sub trvpsn Lib "Trelvin64.dll" Alias "trvpsn" (ByRef p1 As Single, _
     ByRef p2 As Single, ByRef p3 As Single, ByRef q1 As Single, ByRef q2 As Single, _
     ByRef q3 As Single, ByRef code As Long)
 
 ' Whether a point lies on the line of space through P0 with direction D.
 ' code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
-' component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
-' the second component alone is; 4 third: the third component alone is; 5 first_second: the first
-' and the second component are; 6 second_third: the second and the third component are; 7
-' first_third: the first and the third component are.
+' component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+' only the first component is above the tolerance; 3 second: only the second component is above the
+' tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+' first and the second are above the tolerance; 6 second_third: only the second and the third are
+' above the tolerance; 7 first_third: only the first and the third are above the tolerance.
 ' on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is 0.
 Public Declare PtrSafe Sub trvln6 Lib "Trelvin64.dll" Alias "trvln6" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef dx As Single, ByRef dy As Single, _
     ByRef dz As Single, ByRef px As Single, ByRef py As Single, ByRef pz As Single, _
     ByRef tol As Single, ByRef code As Long, ByRef on_ As Long)
 
-' Line of two planes, and whether it agrees with a point at a retained station.
+' Direction of the line of two planes, and whether a point matches it at a retained coordinate.
 ' code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
-' component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
-' the second component alone is; 4 third: the third component alone is; 5 first_second: the first
-' and the second component are; 6 second_third: the second and the third component are; 7
-' first_third: the first and the third component are.
-' on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the line at
-' the station.
+' component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+' only the first component is above the tolerance; 3 second: only the second component is above the
+' tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+' first and the second are above the tolerance; 6 second_third: only the second and the third are
+' above the tolerance; 7 first_third: only the first and the third are above the tolerance.
+' on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does not match the
+' line at the kept coordinate.
 Public Declare PtrSafe Sub trvln7 Lib "Trelvin64.dll" Alias "trvln7" (ByRef a1 As Single, _
     ByRef b1 As Single, ByRef c1 As Single, ByRef d1 As Single, ByRef a2 As Single, _
     ByRef b2 As Single, ByRef c2 As Single, ByRef d2 As Single, ByRef px As Single, _
@@ -827,11 +831,11 @@ Public Declare PtrSafe Sub trvmov Lib "Trelvin64.dll" Alias "trvmov" (ByRef x1 A
 Public Declare PtrSafe Sub trvtra Lib "Trelvin64.dll" Alias "trvtra" (ByRef X As Single, _
     ByRef Y As Single, ByRef n As Long, ByRef x0 As Single, ByRef y0 As Single)
 
-' Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+' Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
 Public Declare PtrSafe Sub trvinv Lib "Trelvin64.dll" Alias "trvinv" (ByRef V As Long, _
     ByRef n As Long)
 
-' Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+' Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
 Public Declare PtrSafe Sub trvadr Lib "Trelvin64.dll" Alias "trvadr" (ByRef V As Long, _
     ByRef n As Long, ByRef k As Long, ByRef A As Long, ByRef m As Long)
 
@@ -1007,9 +1011,9 @@ Public Declare PtrSafe Sub trvwar_c Lib "Trelvin64.dll" Alias "trvwar_c" (ByRef 
 ' Properties of an open section of thin plates.
 ' status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a coordinate or
 ' a thickness is infinite or NaN, or a length or a thickness is not above the tolerance; 2 to n:
-' this plate is the first at fault, it starts at no end of an earlier plate, or ends at one and
-' closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses, touches or overlaps
-' an earlier plate elsewhere than at its start, which may close a cell.
+' number of the first faulty plate, which does not start at an end of an earlier plate, or closes a
+' cell by ending at one; n+2 to 2*n: n plus the number of the first faulty plate, which crosses,
+' touches or overlaps an earlier plate elsewhere than at its start, and may close a cell.
 Public Declare PtrSafe Sub trvmxt Lib "Trelvin64.dll" Alias "trvmxt" (ByRef n As Long, _
     ByRef X1 As Single, ByRef Y1 As Single, ByRef X2 As Single, ByRef Y2 As Single, _
     ByRef T As Single, ByRef A As Single, ByRef xs As Single, ByRef ys As Single, _
@@ -1034,21 +1038,21 @@ Public Declare PtrSafe Sub trvmxt_fb Lib "Trelvin64.dll" Alias "trvmxt_fb" (ByRe
     ByRef Iw As Single, ByRef r0 As Single, ByRef W1 As Single, ByRef W2 As Single, _
     ByRef status As Long)
 
-' Turns plane points about the origin, in place.
+' Rotates plane points about the origin, in place.
 Public Declare PtrSafe Sub trvrot Lib "Trelvin64.dll" Alias "trvrot" (ByRef mode As Long, _
     ByRef x As Single, ByRef y As Single, ByRef n As Long, ByRef angle As Single)
 
-' Turns points about the x axis, in place.
+' Rotates points about the x axis, in place.
 Public Declare PtrSafe Sub trvrotx Lib "Trelvin64.dll" Alias "trvrotx" (ByRef mode As Long, _
     ByRef x As Single, ByRef y As Single, ByRef z As Single, ByRef n As Long, _
     ByRef angle As Single)
 
-' Turns points about the y axis, in place.
+' Rotates points about the y axis, in place.
 Public Declare PtrSafe Sub trvroty Lib "Trelvin64.dll" Alias "trvroty" (ByRef mode As Long, _
     ByRef x As Single, ByRef y As Single, ByRef z As Single, ByRef n As Long, _
     ByRef angle As Single)
 
-' Turns points about the z axis, in place.
+' Rotates points about the z axis, in place.
 Public Declare PtrSafe Sub trvrotz Lib "Trelvin64.dll" Alias "trvrotz" (ByRef mode As Long, _
     ByRef x As Single, ByRef y As Single, ByRef z As Single, ByRef n As Long, _
     ByRef angle As Single)
@@ -1092,12 +1096,12 @@ Public Declare PtrSafe Sub trvaxel Lib "Trelvin64.dll" Alias "trvaxel" (ByRef x0
     ByRef e1z As Single, ByRef e2x As Single, ByRef e2y As Single, ByRef e2z As Single, _
     ByRef e3x As Single, ByRef e3y As Single, ByRef e3z As Single, ByRef status As Long)
 
-' Shifts points and turns them about the global axes x, y and z, in this order and in place.
+' Shifts points and rotates them about the global axes x, y and z, in this order and in place.
 Public Declare PtrSafe Sub trvptr Lib "Trelvin64.dll" Alias "trvptr" (ByRef X As Single, _
     ByRef Y As Single, ByRef Z As Single, ByRef n As Long, ByRef x0 As Single, ByRef y0 As Single, _
     ByRef z0 As Single, ByRef ax As Single, ByRef ay As Single, ByRef az As Single)
 
-' Shifts points and turns them in the frame of three points, in place.
+' Shifts points and rotates them in the frame of three points, in place.
 ' status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1, or
 ' the three points are on one line (trvpsl).
 Public Declare PtrSafe Sub trvptrl Lib "Trelvin64.dll" Alias "trvptrl" (ByRef x0 As Single, _
@@ -1107,7 +1111,7 @@ Public Declare PtrSafe Sub trvptrl Lib "Trelvin64.dll" Alias "trvptrl" (ByRef x0
     ByRef dy As Single, ByRef dz As Single, ByRef ax As Single, ByRef ay As Single, _
     ByRef az As Single, ByRef status As Long)
 
-' Turns points about the axis from P0 through P1, in place.
+' Rotates points about the axis from P0 through P1, in place.
 ' status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0 and
 ' P1 is within the tolerance.
 Public Declare PtrSafe Sub trvpra Lib "Trelvin64.dll" Alias "trvpra" (ByRef x0 As Single, _
@@ -1115,7 +1119,8 @@ Public Declare PtrSafe Sub trvpra Lib "Trelvin64.dll" Alias "trvpra" (ByRef x0 A
     ByRef z1 As Single, ByRef X As Single, ByRef Y As Single, ByRef Z As Single, ByRef n As Long, _
     ByRef angle As Single, ByRef status As Long)
 
-' Turns points of a plane in the frame of the three points that span it, then shifts them, in place.
+' Rotates points of a plane in the frame of the three points that span it, then shifts them, in
+' place.
 ' status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three points
 ' are on one line (trvpsl); 1 to n: position of the first point off the plane.
 Public Declare PtrSafe Sub trvppc Lib "Trelvin64.dll" Alias "trvppc" (ByRef x0 As Single, _
@@ -1164,7 +1169,7 @@ Public Declare PtrSafe Sub trvpl3 Lib "Trelvin64.dll" Alias "trvpl3" (ByRef xa A
 
 ' Plane through a point, perpendicular to a segment.
 ' status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
-' coincide, each coordinate within the tolerance (trvcnt).
+' coincide within the tolerance in each coordinate (trvcnt).
 Public Declare PtrSafe Sub trvpl4 Lib "Trelvin64.dll" Alias "trvpl4" (ByRef x As Single, _
     ByRef y As Single, ByRef z As Single, ByRef xa As Single, ByRef ya As Single, _
     ByRef za As Single, ByRef xb As Single, ByRef yb As Single, ByRef zb As Single, _
@@ -1181,14 +1186,14 @@ Public Declare PtrSafe Sub trvpl5 Lib "Trelvin64.dll" Alias "trvpl5" (ByRef ix A
 ' Plane of two lines, each given by a point and a direction.
 ' status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
 ' same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
-' skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
+' skew: the lines are skew; 7 no_length: all components of a direction are within the tolerance.
 Public Declare PtrSafe Sub trvpl6 Lib "Trelvin64.dll" Alias "trvpl6" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
     ByRef wx As Single, ByRef wy As Single, ByRef wz As Single, ByRef a As Single, _
     ByRef b As Single, ByRef c As Single, ByRef d As Single, ByRef status As Long)
 
-' Plane of three points turned about the line from P0 to P1.
+' Plane of three points, rotated about the line from P0 to P1.
 ' status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
 ' is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2 is between
 ' P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on
@@ -1200,8 +1205,8 @@ Public Declare PtrSafe Sub trvpl7 Lib "Trelvin64.dll" Alias "trvpl7" (ByRef x0 A
     ByRef d As Single, ByRef status As Long)
 
 ' Whether a point lies on the plane of three points.
-' status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1; -1
-' no: the point does not lie on the plane, or the three points span no plane (trvpsl).
+' status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which any point
+' does; -1 no: the point does not lie on the plane, or the three points span no plane (trvpsl).
 Public Declare PtrSafe Sub trvpsp Lib "Trelvin64.dll" Alias "trvpsp" (ByRef x0 As Single, _
     ByRef y0 As Single, ByRef z0 As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _
@@ -1223,8 +1228,8 @@ Public Declare PtrSafe Sub trvpspg Lib "Trelvin64.dll" Alias "trvpspg" (ByRef x 
 ' Relation of two directions, taken as lines through the origin.
 ' status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same, opposite
 ' nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the directions are
-' opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is within the
-' tolerance in each component.
+' opposite; 5 perpendicular: the directions are perpendicular; 7 zero: all components of u, or of w,
+' are within the tolerance.
 Public Declare PtrSafe Sub trvplv Lib "Trelvin64.dll" Alias "trvplv" (ByRef ux As Single, _
     ByRef uy As Single, ByRef uz As Single, ByRef wx As Single, ByRef wy As Single, _
     ByRef wz As Single, ByRef v7 As Single, ByRef v8 As Single, ByRef status As Long)
@@ -1273,7 +1278,7 @@ Public Declare PtrSafe Sub trv3lda Lib "Trelvin64.dll" Alias "trv3lda" (ByRef xa
 ' Intersection of the lines A + t*u and C + s*w.
 ' status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
 ' same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
-' skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
+' skew: the lines are skew; 7 no_length: all components of a direction are within the tolerance.
 Public Declare PtrSafe Sub trv3lni Lib "Trelvin64.dll" Alias "trv3lni" (ByRef xa As Single, _
     ByRef ya As Single, ByRef za As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef xc As Single, ByRef yc As Single, ByRef zc As Single, _
@@ -1281,16 +1286,16 @@ Public Declare PtrSafe Sub trv3lni Lib "Trelvin64.dll" Alias "trv3lni" (ByRef xa
     ByRef xi As Single, ByRef yi As Single, ByRef zi As Single)
 
 ' Intersection of the line P + t*u with a plane.
-' status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the plane, the
-' cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within the
-' tolerance in each component.
+' status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the plane,
+' since the cosine of the angle between u and the normal is within the tolerance; 4 zero: all
+' components of u, or of the normal, are within the tolerance.
 Public Declare PtrSafe Sub trvpli Lib "Trelvin64.dll" Alias "trvpli" (ByRef x As Single, _
     ByRef y As Single, ByRef z As Single, ByRef ux As Single, ByRef uy As Single, _
     ByRef uz As Single, ByRef a As Single, ByRef b As Single, ByRef c As Single, _
     ByRef d As Single, ByRef xi As Single, ByRef yi As Single, ByRef zi As Single, _
     ByRef status As Long)
 
-' Position of a plane against the axes.
+' Position of a plane relative to the axes.
 ' position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
 ' parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the plane
 ' is parallel to the z axis; 5 normal_z: the plane is normal to the z axis; 6 normal_x: the plane is
@@ -1310,8 +1315,9 @@ Public Declare PtrSafe Sub trvpnl Lib "Trelvin64.dll" Alias "trvpnl" (ByRef xa A
 ' Carries a point along when the line through it is moved.
 ' status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3 moved_one_side:
 ' Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved, Q1 and Q2 are on
-' either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points for skew lines; 7
-' moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance.
+' either side of P; 6 moved_skew: Q2 is moved, although the lines count as skew because of rounding;
+' 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is within the tolerance
+' of P's although their distance is above it.
 Public Declare PtrSafe Sub trvlpc Lib "Trelvin64.dll" Alias "trvlpc" (ByRef xp As Single, _
     ByRef yp As Single, ByRef zp As Single, ByRef x1 As Single, ByRef y1 As Single, _
     ByRef z1 As Single, ByRef x2 As Single, ByRef y2 As Single, ByRef z2 As Single, _

@@ -24,7 +24,7 @@ namespace Trelvin
         public const int trvStatusDone = 0;
         public const int trvStatusRefused = -1;
 
-        // Whether a point of an arc was found; note that 1 means done here.
+        // Whether a point of an arc was found. Caution: here 1 means done.
         public const int trvArcDone = 1;
         public const int trvArcRefused = 0;
 
@@ -56,7 +56,7 @@ namespace Trelvin
         public const int trvOnLineNo = 0;
         public const int trvOnLineYes = 1;
 
-        // Whether a point lies on a plane; note that 0 means yes.
+        // Whether a point lies on a plane. Caution: 0 means yes.
         public const int trvOnPlaneYes = 0;
         public const int trvOnPlaneNo = -1;
         public const int trvOnPlaneZeroNormal = 1;
@@ -84,7 +84,7 @@ namespace Trelvin
         public const int trvLinesSkew = 6;
         public const int trvLinesCoincident = 7;
 
-        // What came of two lines of space: a result, or the relation that allows none.
+        // Outcome for two lines of space: a result, or the relation that allows no result.
         public const int trvTwoLinesDone = 0;
         public const int trvTwoLinesSameLine = 3;
         public const int trvTwoLinesOppositeLine = 4;
@@ -114,7 +114,7 @@ namespace Trelvin
         public const int trvcer10AlongChord = 1;
         public const int trvcer10Parallel = 2;
 
-        // trvptp1: which points of A have a partner in B.
+        // trvptp1: which points of A match a point of B.
         public const int trvptp1NoPair = 0;
         public const int trvptp1SomePairs = 1;
         public const int trvptp1AllPaired = 2;
@@ -371,8 +371,8 @@ namespace Trelvin
             trvlci(ref a, ref b, ref c, ref D, ref E, ref F, ref n, ref x1, ref y1, ref x2, ref y2);
         }
 
-        /// <summary>Intersection of two circles: that of their radical line with the first circle
-        /// (trvlci).</summary>
+        /// <summary>Intersection of two circles, computed as that of their radical line and the
+        /// first circle (trvlci).</summary>
         /// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or
         /// are concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch;
         /// 2 two: the circles cut each other.</remarks>
@@ -381,8 +381,8 @@ namespace Trelvin
             ref float E2, ref float F2, ref int n, ref float x1, ref float y1, ref float x2,
             ref float y2);
 
-        /// <summary>Intersection of two circles: that of their radical line with the first circle
-        /// (trvlci).</summary>
+        /// <summary>Intersection of two circles, computed as that of their radical line and the
+        /// first circle (trvlci).</summary>
         /// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or
         /// are concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch;
         /// 2 two: the circles cut each other.</remarks>
@@ -462,14 +462,14 @@ namespace Trelvin
             trvcin(X, Y, ref a, ref b, ref c, ref position, ref x1, ref y1, ref x2, ref y2);
         }
 
-        /// <summary>Turns a point about a centre.</summary>
+        /// <summary>Rotates a point about a centre.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
         /// point's distance from the centre is within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer3(ref float x0, ref float y0, ref float x, ref float y,
             ref float angle, ref float xr, ref float yr, ref int status);
 
-        /// <summary>Turns a point about a centre.</summary>
+        /// <summary>Rotates a point about a centre.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
         /// point's distance from the centre is within the tolerance.</remarks>
         public static void trvcer3(float x0, float y0, ref float x, ref float y, float angle,
@@ -483,8 +483,8 @@ namespace Trelvin
         /// <summary>Point of an arc above a station of its chord, perpendicular to the
         /// chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is at most 0.001, the radii of A and B differ by more, or the
-        /// station is not farther than that from both ends.</remarks>
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001, or
+        /// the station is not more than 0.001 inside both ends of the chord.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer8(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float x, ref float y,
@@ -493,8 +493,8 @@ namespace Trelvin
         /// <summary>Point of an arc above a station of its chord, perpendicular to the
         /// chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is at most 0.001, the radii of A and B differ by more, or the
-        /// station is not farther than that from both ends.</remarks>
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001, or
+        /// the station is not more than 0.001 inside both ends of the chord.</remarks>
         public static void trvcer8(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, out float x, out float y, out int status)
         {
@@ -507,9 +507,9 @@ namespace Trelvin
         /// <summary>Point of an arc on the line from its centre through a station of its
         /// chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is at most 0.001, the radii of A and B differ by more, the station
-        /// is not farther than that from both ends, or d is closer than that to the
-        /// diameter.</remarks>
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001,
+        /// the station is not more than 0.001 inside both ends of the chord, or d differs from the
+        /// diameter by less than 0.001.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer6(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float x, ref float y,
@@ -518,9 +518,9 @@ namespace Trelvin
         /// <summary>Point of an arc on the line from its centre through a station of its
         /// chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is at most 0.001, the radii of A and B differ by more, the station
-        /// is not farther than that from both ends, or d is closer than that to the
-        /// diameter.</remarks>
+        /// radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001,
+        /// the station is not more than 0.001 inside both ends of the chord, or d differs from the
+        /// diameter by less than 0.001.</remarks>
         public static void trvcer6(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, out float x, out float y, out int status)
         {
@@ -533,9 +533,9 @@ namespace Trelvin
         /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to
         /// the chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii
-        /// of A and B differ by more, or the strip comes closer than that to an end of the
-        /// chord.</remarks>
+        /// radius, the chord, d, the rest of the chord beyond d or the width is at most 0.001, the
+        /// radii of A and B differ by more than 0.001, or an edge of the strip is less than 0.001
+        /// inside an end of the chord.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer9(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref int side, ref float d, ref float w, ref float x1,
@@ -544,9 +544,9 @@ namespace Trelvin
         /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to
         /// the chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii
-        /// of A and B differ by more, or the strip comes closer than that to an end of the
-        /// chord.</remarks>
+        /// radius, the chord, d, the rest of the chord beyond d or the width is at most 0.001, the
+        /// radii of A and B differ by more than 0.001, or an edge of the strip is less than 0.001
+        /// inside an end of the chord.</remarks>
         public static void trvcer9(float xc, float yc, float xa, float ya, float xb, float yb,
             int side, float d, float w, out float x1, out float y1, out float x2, out float y2,
             out int status)
@@ -586,14 +586,16 @@ namespace Trelvin
             trvaxph(ref dx, ref dy, ref phi);
         }
 
-        /// <summary>Distances and stations of two points against a segment.</summary>
+        /// <summary>Distances of two points from the line of a segment, and their stations along
+        /// it.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvhin(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float x3,
             ref float y3, ref float z3, ref float h0, ref float s0, ref float h3, ref float s3,
             ref float len);
 
-        /// <summary>Distances and stations of two points against a segment.</summary>
+        /// <summary>Distances of two points from the line of a segment, and their stations along
+        /// it.</summary>
         public static void trvhin(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, float x3, float y3, float z3, out float h0, out float s0,
             out float h3, out float s3, out float len)
@@ -603,19 +605,19 @@ namespace Trelvin
                 ref y3, ref z3, ref h0, ref s0, ref h3, ref s3, ref len);
         }
 
-        /// <summary>Marks points by a sector.</summary>
+        /// <summary>Marks points as inside or outside a sector.</summary>
         /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside:
-        /// the point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the
-        /// tolerance, the same for all points.</remarks>
+        /// the point is outside the sector; -1 no_sector: the angle of the rays by trvphi is within
+        /// the tolerance, so all points have this value.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvapp(ref float x0, ref float y0, ref float x1, ref float y1,
             ref float x2, ref float y2, ref int n, [In] float[] X, [In] float[] Y,
             [In, Out] int[] mark);
 
-        /// <summary>Marks points by a sector.</summary>
+        /// <summary>Marks points as inside or outside a sector.</summary>
         /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside:
-        /// the point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the
-        /// tolerance, the same for all points.</remarks>
+        /// the point is outside the sector; -1 no_sector: the angle of the rays by trvphi is within
+        /// the tolerance, so all points have this value.</remarks>
         public static void trvapp(float x0, float y0, float x1, float y1, float x2, float y2, int n,
             float[] X, float[] Y, int[] mark)
         {
@@ -624,8 +626,8 @@ namespace Trelvin
 
         /// <summary>Point of an arc on a line through a station of its chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is within the tolerance, the radii of A and B differ by more, A and
-        /// B coincide, or the line touches the circle.</remarks>
+        /// radius or the chord is within the tolerance, the radii of A and B differ by more than
+        /// the tolerance, A and B coincide, or the line is tangent to the circle.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer4(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref float angle, ref float xo, ref float yo,
@@ -633,8 +635,8 @@ namespace Trelvin
 
         /// <summary>Point of an arc on a line through a station of its chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the
-        /// radius or the chord is within the tolerance, the radii of A and B differ by more, A and
-        /// B coincide, or the line touches the circle.</remarks>
+        /// radius or the chord is within the tolerance, the radii of A and B differ by more than
+        /// the tolerance, A and B coincide, or the line is tangent to the circle.</remarks>
         public static void trvcer4(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, float angle, out float xo, out float yo,
             out int status)
@@ -645,23 +647,25 @@ namespace Trelvin
                 ref yo, ref status);
         }
 
-        /// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
+        /// <summary>Intersection of an arc's chord with a line through its rotated end.</summary>
         /// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is
-        /// the normal result, or a crossing of an earlier call lies on the chord's line but not at
-        /// A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is
-        /// within the tolerance or the radii of A and B differ by more; 1 along_chord: the line
-        /// runs along the chord; 2 parallel: the line is parallel to the chord.</remarks>
+        /// the normal result, or an intersection kept from an earlier call lies on the chord's line
+        /// but not at A or B (trvpsl above 2), or the input is rejected, since the radius or the
+        /// chord is within the tolerance or the radii of A and B differ by more than the tolerance;
+        /// 1 along_chord: the line runs along the chord; 2 parallel: the line is parallel to the
+        /// chord.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer10(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float turn, ref float angle, ref float xo, ref float yo,
             ref int status);
 
-        /// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
+        /// <summary>Intersection of an arc's chord with a line through its rotated end.</summary>
         /// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is
-        /// the normal result, or a crossing of an earlier call lies on the chord's line but not at
-        /// A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is
-        /// within the tolerance or the radii of A and B differ by more; 1 along_chord: the line
-        /// runs along the chord; 2 parallel: the line is parallel to the chord.</remarks>
+        /// the normal result, or an intersection kept from an earlier call lies on the chord's line
+        /// but not at A or B (trvpsl above 2), or the input is rejected, since the radius or the
+        /// chord is within the tolerance or the radii of A and B differ by more than the tolerance;
+        /// 1 along_chord: the line runs along the chord; 2 parallel: the line is parallel to the
+        /// chord.</remarks>
         public static void trvcer10(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float turn, float angle, out float xo, out float yo,
             out int status)
@@ -672,21 +676,21 @@ namespace Trelvin
                 ref yo, ref status);
         }
 
-        /// <summary>Point of an arc on the line from a station of its chord towards the
+        /// <summary>Point of an arc on the line from a station of its chord to a point of the
         /// sagitta.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is
-        /// negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii
-        /// of A and B differ by more, or the line touches the circle.</remarks>
+        /// negative, e, the radius, the chord or its rest beyond s is at most 1e-5, the radii of A
+        /// and B differ by more than 1e-5, or the line is tangent to the circle.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer5(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref int side, ref float e, ref float xo,
             ref float yo, ref int status);
 
-        /// <summary>Point of an arc on the line from a station of its chord towards the
+        /// <summary>Point of an arc on the line from a station of its chord to a point of the
         /// sagitta.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is
-        /// negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii
-        /// of A and B differ by more, or the line touches the circle.</remarks>
+        /// negative, e, the radius, the chord or its rest beyond s is at most 1e-5, the radii of A
+        /// and B differ by more than 1e-5, or the line is tangent to the circle.</remarks>
         public static void trvcer5(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, int side, float e, out float xo, out float yo,
             out int status)
@@ -697,24 +701,24 @@ namespace Trelvin
                 ref yo, ref status);
         }
 
-        /// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
-        /// parallel to the chord.</summary>
+        /// <summary>Intersections of a line through a station of an arc's chord with the arc and
+        /// with a line parallel to the chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e
         /// is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and
-        /// B differ by more and the rounding, side is 0, the line is parallel to the chord, or the
-        /// part of the line inside the circle is not longer than 2e-4.</remarks>
+        /// B differ by more than 1e-4 and the rounding, side is 0, the line is parallel to the
+        /// chord, or the part of the line inside the circle is not longer than 2e-4.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvcer7(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, ref float s, ref int side, ref float e, ref float angle,
             ref float xp, ref float yp, ref float xt, ref float yt, ref float xo, ref float yo,
             ref float len, ref int status);
 
-        /// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
-        /// parallel to the chord.</summary>
+        /// <summary>Intersections of a line through a station of an arc's chord with the arc and
+        /// with a line parallel to the chord.</summary>
         /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e
         /// is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and
-        /// B differ by more and the rounding, side is 0, the line is parallel to the chord, or the
-        /// part of the line inside the circle is not longer than 2e-4.</remarks>
+        /// B differ by more than 1e-4 and the rounding, side is 0, the line is parallel to the
+        /// chord, or the part of the line inside the circle is not longer than 2e-4.</remarks>
         public static void trvcer7(ref float xc, ref float yc, ref float xa, ref float ya,
             ref float xb, ref float yb, float s, int side, float e, float angle, out float xp,
             out float yp, out float xt, out float yt, out float xo, out float yo, out float len,
@@ -727,18 +731,20 @@ namespace Trelvin
         }
 
         /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a
-        /// segment is not above the tolerance, the sine of the angle between the segments is within
-        /// it, or the arc touches one beyond its end by more.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the
+        /// length of a segment is not above the tolerance, the sine of the angle between the
+        /// segments is within the tolerance, or a tangent point lies beyond the end of its segment
+        /// by more than the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvard(ref float x0, ref float y0, ref float x1, ref float y1,
             ref float x2, ref float y2, ref float r, ref float xc, ref float yc, ref float xt1,
             ref float yt1, ref float xt2, ref float yt2, ref int status);
 
         /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a
-        /// segment is not above the tolerance, the sine of the angle between the segments is within
-        /// it, or the arc touches one beyond its end by more.</remarks>
+        /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the
+        /// length of a segment is not above the tolerance, the sine of the angle between the
+        /// segments is within the tolerance, or a tangent point lies beyond the end of its segment
+        /// by more than the tolerance.</remarks>
         public static void trvard(float x0, float y0, float x1, float y1, float x2, float y2,
             float r, out float xc, out float yc, out float xt1, out float yt1, out float xt2,
             out float yt2, out int status)
@@ -785,26 +791,26 @@ namespace Trelvin
             trvord1(V, ref n);
         }
 
-        /// <summary>Positions of the entries of a list in ascending order; the list itself
-        /// stays.</summary>
+        /// <summary>Positions of the elements of a list in ascending order; the list itself is not
+        /// changed.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvordi([In] float[] V, ref int n, [In, Out] int[] IDX);
 
-        /// <summary>Positions of the entries of a list in ascending order; the list itself
-        /// stays.</summary>
+        /// <summary>Positions of the elements of a list in ascending order; the list itself is not
+        /// changed.</summary>
         public static void trvordi(float[] V, int n, int[] IDX)
         {
             trvordi(V, ref n, IDX);
         }
 
-        /// <summary>Order of parallel lines by where they cross an axis.</summary>
+        /// <summary>Order of parallel lines by their intersections with an axis.</summary>
         /// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines
         /// are not a family of parallel and distinct lines, or n &lt; 1.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpor(ref int n, [In] float[] A, [In] float[] B, [In] float[] C,
             [In, Out] int[] IDX, ref int status);
 
-        /// <summary>Order of parallel lines by where they cross an axis.</summary>
+        /// <summary>Order of parallel lines by their intersections with an axis.</summary>
         /// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines
         /// are not a family of parallel and distinct lines, or n &lt; 1.</remarks>
         public static void trvpor(int n, float[] A, float[] B, float[] C, int[] IDX, out int status)
@@ -831,12 +837,14 @@ namespace Trelvin
             trvsel1(ref n, V, ref key, ref count, pos);
         }
 
-        /// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
+        /// <summary>All pairs of elements of two lists that differ by at most a
+        /// tolerance.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer13(ref int na, [In] float[] A, ref int nb, [In] float[] B,
             ref int count, [In, Out] int[] IA, [In, Out] int[] IB, ref float tol);
 
-        /// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
+        /// <summary>All pairs of elements of two lists that differ by at most a
+        /// tolerance.</summary>
         public static void trvmer13(int na, float[] A, int nb, float[] B, out int count, int[] IA,
             int[] IB, float tol)
         {
@@ -844,14 +852,14 @@ namespace Trelvin
             trvmer13(ref na, A, ref nb, B, ref count, IA, IB, ref tol);
         }
 
-        /// <summary>Joins two lists end to end. Entries are copied bit for bit, so Reals pass as
-        /// well as Integers.</summary>
+        /// <summary>Joins two lists end to end. Elements are copied bit for bit, so the lists may
+        /// also hold Reals.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer1(ref int na, [In] int[] A, ref int nb, [In] int[] B,
             ref int nout, [In, Out] int[] OUT);
 
-        /// <summary>Joins two lists end to end. Entries are copied bit for bit, so Reals pass as
-        /// well as Integers.</summary>
+        /// <summary>Joins two lists end to end. Elements are copied bit for bit, so the lists may
+        /// also hold Reals.</summary>
         public static void trvmer1(int na, int[] A, int nb, int[] B, out int nout, int[] OUT)
         {
             nout = 0;
@@ -870,33 +878,35 @@ namespace Trelvin
             trvmer11(ref na, A, ref nb, B, ref nout, OUT);
         }
 
-        /// <summary>Sorts Integers ascending and drops repeats, in place.</summary>
+        /// <summary>Sorts Integers ascending and removes duplicates, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer2([In, Out] int[] V, ref int n);
 
-        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
-        /// in place.</summary>
+        /// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in
+        /// place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer3([In, Out] float[] V, ref int n);
 
-        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
-        /// in place.</summary>
+        /// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in
+        /// place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer12([In, Out] float[] V, ref int n, ref float tol);
 
-        /// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left,
-        /// in place.</summary>
+        /// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in
+        /// place.</summary>
         public static void trvmer12(float[] V, ref int n, float tol)
         {
             trvmer12(V, ref n, ref tol);
         }
 
-        /// <summary>Joins to a list those entries of another that it does not hold yet.</summary>
+        /// <summary>Appends to a list those elements of another that it does not hold
+        /// yet.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer4(ref int na, [In] float[] A, ref int nb, [In] float[] B,
             ref float tol, ref int nout, [In, Out] float[] OUT, [In, Out] int[] IB);
 
-        /// <summary>Joins to a list those entries of another that it does not hold yet.</summary>
+        /// <summary>Appends to a list those elements of another that it does not hold
+        /// yet.</summary>
         public static void trvmer4(int na, float[] A, int nb, float[] B, float tol, out int nout,
             float[] OUT, int[] IB)
         {
@@ -904,54 +914,56 @@ namespace Trelvin
             trvmer4(ref na, A, ref nb, B, ref tol, ref nout, OUT, IB);
         }
 
-        /// <summary>Entries of a list that another holds too.</summary>
+        /// <summary>Elements of a list that another holds too.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer14(ref int na, [In] int[] A, ref int nb, [In] int[] B,
             ref int nout, [In, Out] int[] OUT);
 
-        /// <summary>Entries of a list that another holds too.</summary>
+        /// <summary>Elements of a list that another holds too.</summary>
         public static void trvmer14(int na, int[] A, int nb, int[] B, out int nout, int[] OUT)
         {
             nout = 0;
             trvmer14(ref na, A, ref nb, B, ref nout, OUT);
         }
 
-        /// <summary>Removes from a list the entries that another holds, in place.</summary>
+        /// <summary>Removes from a list the elements that another holds, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer15(ref int na, [In, Out] int[] A, ref int nb, [In] int[] B,
             ref int count);
 
-        /// <summary>Removes from a list the entries that another holds, in place.</summary>
+        /// <summary>Removes from a list the elements that another holds, in place.</summary>
         public static void trvmer15(ref int na, int[] A, int nb, int[] B, out int count)
         {
             count = 0;
             trvmer15(ref na, A, ref nb, B, ref count);
         }
 
-        /// <summary>Drops repeated vertices of a closed outline, in place.</summary>
+        /// <summary>Removes repeated vertices of a closed outline, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmer16([In, Out] float[] X, [In, Out] float[] Y, ref int n,
             ref float tol);
 
-        /// <summary>Drops repeated vertices of a closed outline, in place.</summary>
+        /// <summary>Removes repeated vertices of a closed outline, in place.</summary>
         public static void trvmer16(float[] X, float[] Y, ref int n, float tol)
         {
             trvmer16(X, Y, ref n, ref tol);
         }
 
-        /// <summary>All pairs of points of two lists that agree within a tolerance in each
+        /// <summary>All pairs of points of two lists that match within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1
-        /// some_pairs: some have; 2 all_paired: every one has.</remarks>
+        /// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A matches
+        /// a point of B; 1 some_pairs: some points of A match points of B, others do not; 2
+        /// all_paired: every point of A matches a point of B.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptp1(ref int na, [In] float[] XA, [In] float[] YA,
             [In] float[] ZA, ref int nb, [In] float[] XB, [In] float[] YB, [In] float[] ZB,
             ref float tol, ref int count, [In, Out] int[] IA, [In, Out] int[] IB, ref int status);
 
-        /// <summary>All pairs of points of two lists that agree within a tolerance in each
+        /// <summary>All pairs of points of two lists that match within a tolerance in each
         /// coordinate.</summary>
-        /// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1
-        /// some_pairs: some have; 2 all_paired: every one has.</remarks>
+        /// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A matches
+        /// a point of B; 1 some_pairs: some points of A match points of B, others do not; 2
+        /// all_paired: every point of A matches a point of B.</remarks>
         public static void trvptp1(int na, float[] XA, float[] YA, float[] ZA, int nb, float[] XB,
             float[] YB, float[] ZB, float tol, out int count, int[] IA, int[] IB, out int status)
         {
@@ -959,7 +971,7 @@ namespace Trelvin
             trvptp1(ref na, XA, YA, ZA, ref nb, XB, YB, ZB, ref tol, ref count, IA, IB, ref status);
         }
 
-        /// <summary>Merges three lists of points into one list of places.</summary>
+        /// <summary>Merges three lists of points into one list.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptp2(ref int na, [In] float[] XA, [In] float[] YA,
             [In] float[] ZA, ref int nb, [In] float[] XB, [In] float[] YB, [In] float[] ZB,
@@ -970,7 +982,7 @@ namespace Trelvin
             [In, Out] int[] MA, [In, Out] int[] MB, [In, Out] int[] MC, ref int k, ref int nk,
             [In, Out] int[] PK, ref int nz, [In, Out] float[] ZL);
 
-        /// <summary>Merges three lists of points into one list of places.</summary>
+        /// <summary>Merges three lists of points into one list.</summary>
         public static void trvptp2(int na, float[] XA, float[] YA, float[] ZA, int nb, float[] XB,
             float[] YB, float[] ZB, int nc, float[] XC, float[] YC, float[] ZC, float tol,
             out int nab, int[] IAB, int[] JAB, out int nbc, int[] IBC, int[] JBC, out int nca,
@@ -983,19 +995,19 @@ namespace Trelvin
                 ref k, ref nk, PK, ref nz, ZL);
         }
 
-        /// <summary>Where the horizontal line y = y0 crosses a closed outline.</summary>
+        /// <summary>Crossings of the horizontal line y = y0 with a closed outline.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvppp([In] float[] X, [In] float[] Y, ref int n, ref float y0,
             ref int count, [In, Out] float[] XC);
 
-        /// <summary>Where the horizontal line y = y0 crosses a closed outline.</summary>
+        /// <summary>Crossings of the horizontal line y = y0 with a closed outline.</summary>
         public static void trvppp(float[] X, float[] Y, int n, float y0, out int count, float[] XC)
         {
             count = 0;
             trvppp(X, Y, ref n, ref y0, ref count, XC);
         }
 
-        /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
+        /// <summary>Crossings of the segment from P1 to P2 with a closed outline.</summary>
         /// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
         /// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and
         /// P2 coincide within the tolerance in both coordinates.</remarks>
@@ -1004,7 +1016,7 @@ namespace Trelvin
             ref float y1, ref float x2, ref float y2, ref int count, [In, Out] float[] XI,
             [In, Out] float[] YI, [In, Out] float[] T, [In, Out] int[] EDGE, ref int status);
 
-        /// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
+        /// <summary>Crossings of the segment from P1 to P2 with a closed outline.</summary>
         /// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
         /// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and
         /// P2 coincide within the tolerance in both coordinates.</remarks>
@@ -1155,14 +1167,14 @@ namespace Trelvin
                 ref det);
         }
 
-        /// <summary>Divides two coefficients by a third, or gives zeros where it
-        /// vanishes.</summary>
+        /// <summary>Divides two coefficients by a third, or gives zeros if the third is zero within
+        /// the tolerance.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvgrc(ref float a, ref float b, ref float c, ref float q1,
             ref float q2);
 
-        /// <summary>Divides two coefficients by a third, or gives zeros where it
-        /// vanishes.</summary>
+        /// <summary>Divides two coefficients by a third, or gives zeros if the third is zero within
+        /// the tolerance.</summary>
         public static void trvgrc(float a, float b, float c, out float q1, out float q2)
         {
             q1 = q2 = 0;
@@ -1208,7 +1220,7 @@ namespace Trelvin
             trvpos(ref n, A, ref x, ref i);
         }
 
-        /// <summary>Entry of an ascending table that equals a value, or the interval that holds
+        /// <summary>Element of an ascending table that equals a value, or the interval that holds
         /// it.</summary>
         /// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2
         /// between: A(i) &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no
@@ -1217,7 +1229,7 @@ namespace Trelvin
         public static extern void trvpos1(ref int n, [In] float[] A, ref float x, ref int status,
             ref int i);
 
-        /// <summary>Entry of an ascending table that equals a value, or the interval that holds
+        /// <summary>Element of an ascending table that equals a value, or the interval that holds
         /// it.</summary>
         /// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2
         /// between: A(i) &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no
@@ -1267,12 +1279,12 @@ namespace Trelvin
             trvln4(ref x0, ref y0, ref dx, ref dy, ref u, ref a, ref b, ref c);
         }
 
-        /// <summary>Parallel of a line at a signed distance.</summary>
+        /// <summary>Line parallel to a line at a signed distance.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvln2(ref float a, ref float b, ref float c, ref float d,
             ref float a2, ref float b2, ref float c2);
 
-        /// <summary>Parallel of a line at a signed distance.</summary>
+        /// <summary>Line parallel to a line at a signed distance.</summary>
         public static void trvln2(float a, float b, float c, float d, out float a2, out float b2,
             out float c2)
         {
@@ -1346,23 +1358,25 @@ namespace Trelvin
         }
 
         /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-        /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0
-        /// none: no component is; 1 all: all three components are; 2 first: the first component
-        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
-        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
-        /// and the third component are; 7 first_third: the first and the third component
-        /// are.</remarks>
+        /// <remarks>code: which components of p - q are above the tolerance (TrvComponents): 0
+        /// none: no component is above the tolerance; 1 all: all three components are above the
+        /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        /// second component is above the tolerance; 4 third: only the third component is above the
+        /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        /// second_third: only the second and the third are above the tolerance; 7 first_third: only
+        /// the first and the third are above the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpsn(ref float p1, ref float p2, ref float p3, ref float q1,
             ref float q2, ref float q3, ref int code);
 
         /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-        /// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0
-        /// none: no component is; 1 all: all three components are; 2 first: the first component
-        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
-        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
-        /// and the third component are; 7 first_third: the first and the third component
-        /// are.</remarks>
+        /// <remarks>code: which components of p - q are above the tolerance (TrvComponents): 0
+        /// none: no component is above the tolerance; 1 all: all three components are above the
+        /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        /// second component is above the tolerance; 4 third: only the third component is above the
+        /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        /// second_third: only the second and the third are above the tolerance; 7 first_third: only
+        /// the first and the third are above the tolerance.</remarks>
         public static void trvpsn(float p1, float p2, float p3, float q1, float q2, float q3,
             out int code)
         {
@@ -1373,11 +1387,13 @@ namespace Trelvin
         /// <summary>Whether a point lies on the line of space through P0 with direction
         /// D.</summary>
         /// <remarks>code: which components of (P0 + D) - P0 are above the tolerance
-        /// (TrvComponents): 0 none: no component is; 1 all: all three components are; 2 first: the
-        /// first component alone is; 3 second: the second component alone is; 4 third: the third
-        /// component alone is; 5 first_second: the first and the second component are; 6
-        /// second_third: the second and the third component are; 7 first_third: the first and the
-        /// third component are.</remarks>
+        /// (TrvComponents): 0 none: no component is above the tolerance; 1 all: all three
+        /// components are above the tolerance; 2 first: only the first component is above the
+        /// tolerance; 3 second: only the second component is above the tolerance; 4 third: only the
+        /// third component is above the tolerance; 5 first_second: only the first and the second
+        /// are above the tolerance; 6 second_third: only the second and the third are above the
+        /// tolerance; 7 first_third: only the first and the third are above the
+        /// tolerance.</remarks>
         /// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the
         /// line, or code is 0.</remarks>
         [DllImport(Library, ExactSpelling = true)]
@@ -1388,11 +1404,13 @@ namespace Trelvin
         /// <summary>Whether a point lies on the line of space through P0 with direction
         /// D.</summary>
         /// <remarks>code: which components of (P0 + D) - P0 are above the tolerance
-        /// (TrvComponents): 0 none: no component is; 1 all: all three components are; 2 first: the
-        /// first component alone is; 3 second: the second component alone is; 4 third: the third
-        /// component alone is; 5 first_second: the first and the second component are; 6
-        /// second_third: the second and the third component are; 7 first_third: the first and the
-        /// third component are.</remarks>
+        /// (TrvComponents): 0 none: no component is above the tolerance; 1 all: all three
+        /// components are above the tolerance; 2 first: only the first component is above the
+        /// tolerance; 3 second: only the second component is above the tolerance; 4 third: only the
+        /// third component is above the tolerance; 5 first_second: only the first and the second
+        /// are above the tolerance; 6 second_third: only the second and the third are above the
+        /// tolerance; 7 first_third: only the first and the third are above the
+        /// tolerance.</remarks>
         /// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the
         /// line, or code is 0.</remarks>
         public static void trvln6(float x0, float y0, float z0, float dx, float dy, float dz,
@@ -1403,32 +1421,34 @@ namespace Trelvin
                 ref code, ref on);
         }
 
-        /// <summary>Line of two planes, and whether it agrees with a point at a retained
-        /// station.</summary>
+        /// <summary>Direction of the line of two planes, and whether a point matches it at a
+        /// retained coordinate.</summary>
         /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents):
-        /// 0 none: no component is; 1 all: all three components are; 2 first: the first component
-        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
-        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
-        /// and the third component are; 7 first_third: the first and the third component
-        /// are.</remarks>
-        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
-        /// not match the line at the station.</remarks>
+        /// 0 none: no component is above the tolerance; 1 all: all three components are above the
+        /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        /// second component is above the tolerance; 4 third: only the third component is above the
+        /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        /// second_third: only the second and the third are above the tolerance; 7 first_third: only
+        /// the first and the third are above the tolerance.</remarks>
+        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P
+        /// does not match the line at the kept coordinate.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvln7(ref float a1, ref float b1, ref float c1, ref float d1,
             ref float a2, ref float b2, ref float c2, ref float d2, ref float px, ref float py,
             ref float pz, ref float ex, ref float ey, ref float ez, ref float tol, ref int code,
             ref int on);
 
-        /// <summary>Line of two planes, and whether it agrees with a point at a retained
-        /// station.</summary>
+        /// <summary>Direction of the line of two planes, and whether a point matches it at a
+        /// retained coordinate.</summary>
         /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents):
-        /// 0 none: no component is; 1 all: all three components are; 2 first: the first component
-        /// alone is; 3 second: the second component alone is; 4 third: the third component alone
-        /// is; 5 first_second: the first and the second component are; 6 second_third: the second
-        /// and the third component are; 7 first_third: the first and the third component
-        /// are.</remarks>
-        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
-        /// not match the line at the station.</remarks>
+        /// 0 none: no component is above the tolerance; 1 all: all three components are above the
+        /// tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        /// second component is above the tolerance; 4 third: only the third component is above the
+        /// tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        /// second_third: only the second and the third are above the tolerance; 7 first_third: only
+        /// the first and the third are above the tolerance.</remarks>
+        /// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P
+        /// does not match the line at the kept coordinate.</remarks>
         public static void trvln7(float a1, float b1, float c1, float d1, float a2, float b2,
             float c2, float d2, float px, float py, float pz, out float ex, out float ey, float ez,
             float tol, out int code, out int on)
@@ -1632,26 +1652,26 @@ namespace Trelvin
             trvtra(X, Y, ref n, ref x0, ref y0);
         }
 
-        /// <summary>Reverses a list, in place. Elements move bit for bit, so Reals pass as well as
-        /// Integers.</summary>
+        /// <summary>Reverses a list, in place. Elements move bit for bit, so the list may also hold
+        /// Reals.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvinv([In, Out] int[] V, ref int n);
 
-        /// <summary>Reverses a list, in place. Elements move bit for bit, so Reals pass as well as
-        /// Integers.</summary>
+        /// <summary>Reverses a list, in place. Elements move bit for bit, so the list may also hold
+        /// Reals.</summary>
         public static void trvinv(int[] V, int n)
         {
             trvinv(V, ref n);
         }
 
-        /// <summary>Inserts a list into another. Elements move bit for bit, so Reals pass as well
-        /// as Integers.</summary>
+        /// <summary>Inserts a list into another. Elements move bit for bit, so the lists may also
+        /// hold Reals.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvadr([In, Out] int[] V, ref int n, ref int k, [In] int[] A,
             ref int m);
 
-        /// <summary>Inserts a list into another. Elements move bit for bit, so Reals pass as well
-        /// as Integers.</summary>
+        /// <summary>Inserts a list into another. Elements move bit for bit, so the lists may also
+        /// hold Reals.</summary>
         public static void trvadr(int[] V, ref int n, int k, int[] A, int m)
         {
             trvadr(V, ref n, ref k, A, ref m);
@@ -2095,10 +2115,10 @@ namespace Trelvin
         /// <summary>Properties of an open section of thin plates.</summary>
         /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n
         /// &lt; 1, a coordinate or a thickness is infinite or NaN, or a length or a thickness is
-        /// not above the tolerance; 2 to n: this plate is the first at fault, it starts at no end
-        /// of an earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is
-        /// the first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at
-        /// its start, which may close a cell.</remarks>
+        /// not above the tolerance; 2 to n: number of the first faulty plate, which does not start
+        /// at an end of an earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the
+        /// number of the first faulty plate, which crosses, touches or overlaps an earlier plate
+        /// elsewhere than at its start, and may close a cell.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvmxt(ref int n, [In] float[] X1, [In] float[] Y1,
             [In] float[] X2, [In] float[] Y2, [In] float[] T, ref float A, ref float xs,
@@ -2111,10 +2131,10 @@ namespace Trelvin
         /// <summary>Properties of an open section of thin plates.</summary>
         /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n
         /// &lt; 1, a coordinate or a thickness is infinite or NaN, or a length or a thickness is
-        /// not above the tolerance; 2 to n: this plate is the first at fault, it starts at no end
-        /// of an earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is
-        /// the first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at
-        /// its start, which may close a cell.</remarks>
+        /// not above the tolerance; 2 to n: number of the first faulty plate, which does not start
+        /// at an end of an earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the
+        /// number of the first faulty plate, which crosses, touches or overlaps an earlier plate
+        /// elsewhere than at its start, and may close a cell.</remarks>
         public static void trvmxt(int n, float[] X1, float[] Y1, float[] X2, float[] Y2, float[] T,
             out float A, out float xs, out float ys, out float Ix, out float Iy, out float Ixy,
             out float I1, out float I2, out float alpha, out float rx, out float ry, out float Wx1,
@@ -2162,45 +2182,45 @@ namespace Trelvin
 
         // Rotations about the origin and the axes
 
-        /// <summary>Turns plane points about the origin, in place.</summary>
+        /// <summary>Rotates plane points about the origin, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvrot(ref int mode, [In, Out] float[] x, [In, Out] float[] y,
             ref int n, ref float angle);
 
-        /// <summary>Turns plane points about the origin, in place.</summary>
+        /// <summary>Rotates plane points about the origin, in place.</summary>
         public static void trvrot(int mode, float[] x, float[] y, int n, float angle)
         {
             trvrot(ref mode, x, y, ref n, ref angle);
         }
 
-        /// <summary>Turns points about the x axis, in place.</summary>
+        /// <summary>Rotates points about the x axis, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvrotx(ref int mode, [In] float[] x, [In, Out] float[] y,
             [In, Out] float[] z, ref int n, ref float angle);
 
-        /// <summary>Turns points about the x axis, in place.</summary>
+        /// <summary>Rotates points about the x axis, in place.</summary>
         public static void trvrotx(int mode, float[] x, float[] y, float[] z, int n, float angle)
         {
             trvrotx(ref mode, x, y, z, ref n, ref angle);
         }
 
-        /// <summary>Turns points about the y axis, in place.</summary>
+        /// <summary>Rotates points about the y axis, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvroty(ref int mode, [In, Out] float[] x, [In] float[] y,
             [In, Out] float[] z, ref int n, ref float angle);
 
-        /// <summary>Turns points about the y axis, in place.</summary>
+        /// <summary>Rotates points about the y axis, in place.</summary>
         public static void trvroty(int mode, float[] x, float[] y, float[] z, int n, float angle)
         {
             trvroty(ref mode, x, y, z, ref n, ref angle);
         }
 
-        /// <summary>Turns points about the z axis, in place.</summary>
+        /// <summary>Rotates points about the z axis, in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvrotz(ref int mode, [In, Out] float[] x, [In, Out] float[] y,
             [In] float[] z, ref int n, ref float angle);
 
-        /// <summary>Turns points about the z axis, in place.</summary>
+        /// <summary>Rotates points about the z axis, in place.</summary>
         public static void trvrotz(int mode, float[] x, float[] y, float[] z, int n, float angle)
         {
             trvrotz(ref mode, x, y, z, ref n, ref angle);
@@ -2301,14 +2321,14 @@ namespace Trelvin
                 ref e1z, ref e2x, ref e2y, ref e2z, ref e3x, ref e3y, ref e3z, ref status);
         }
 
-        /// <summary>Shifts points and turns them about the global axes x, y and z, in this order
+        /// <summary>Shifts points and rotates them about the global axes x, y and z, in this order
         /// and in place.</summary>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvptr([In, Out] float[] X, [In, Out] float[] Y,
             [In, Out] float[] Z, ref int n, ref float x0, ref float y0, ref float z0, ref float ax,
             ref float ay, ref float az);
 
-        /// <summary>Shifts points and turns them about the global axes x, y and z, in this order
+        /// <summary>Shifts points and rotates them about the global axes x, y and z, in this order
         /// and in place.</summary>
         public static void trvptr(float[] X, float[] Y, float[] Z, int n, float x0, float y0,
             float z0, float ax, float ay, float az)
@@ -2316,7 +2336,8 @@ namespace Trelvin
             trvptr(X, Y, Z, ref n, ref x0, ref y0, ref z0, ref ax, ref ay, ref az);
         }
 
-        /// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
+        /// <summary>Shifts points and rotates them in the frame of three points, in
+        /// place.</summary>
         /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2
         /// is at P0 or P1, or the three points are on one line (trvpsl).</remarks>
         [DllImport(Library, ExactSpelling = true)]
@@ -2325,7 +2346,8 @@ namespace Trelvin
             [In, Out] float[] X, [In, Out] float[] Y, [In, Out] float[] Z, ref int n, ref float dx,
             ref float dy, ref float dz, ref float ax, ref float ay, ref float az, ref int status);
 
-        /// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
+        /// <summary>Shifts points and rotates them in the frame of three points, in
+        /// place.</summary>
         /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2
         /// is at P0 or P1, or the three points are on one line (trvpsl).</remarks>
         public static void trvptrl(float x0, float y0, float z0, float x1, float y1, float z1,
@@ -2337,7 +2359,7 @@ namespace Trelvin
                 ref n, ref dx, ref dy, ref dz, ref ax, ref ay, ref az, ref status);
         }
 
-        /// <summary>Turns points about the axis from P0 through P1, in place.</summary>
+        /// <summary>Rotates points about the axis from P0 through P1, in place.</summary>
         /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
         /// distance of P0 and P1 is within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
@@ -2345,7 +2367,7 @@ namespace Trelvin
             ref float y1, ref float z1, [In, Out] float[] X, [In, Out] float[] Y,
             [In, Out] float[] Z, ref int n, ref float angle, ref int status);
 
-        /// <summary>Turns points about the axis from P0 through P1, in place.</summary>
+        /// <summary>Rotates points about the axis from P0 through P1, in place.</summary>
         /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the
         /// distance of P0 and P1 is within the tolerance.</remarks>
         public static void trvpra(float x0, float y0, float z0, float x1, float y1, float z1,
@@ -2356,7 +2378,7 @@ namespace Trelvin
                 ref status);
         }
 
-        /// <summary>Turns points of a plane in the frame of the three points that span it, then
+        /// <summary>Rotates points of a plane in the frame of the three points that span it, then
         /// shifts them, in place.</summary>
         /// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1,
         /// or the three points are on one line (trvpsl); 1 to n: position of the first point off
@@ -2368,7 +2390,7 @@ namespace Trelvin
             [In, Out] float[] X, [In, Out] float[] Y, [In, Out] float[] Z, ref float tol,
             ref int status);
 
-        /// <summary>Turns points of a plane in the frame of the three points that span it, then
+        /// <summary>Rotates points of a plane in the frame of the three points that span it, then
         /// shifts them, in place.</summary>
         /// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1,
         /// or the three points are on one line (trvpsl); 1 to n: position of the first point off
@@ -2476,7 +2498,7 @@ namespace Trelvin
 
         /// <summary>Plane through a point, perpendicular to a segment.</summary>
         /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1
-        /// coincident: A and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
+        /// coincident: A and B coincide within the tolerance in each coordinate (trvcnt).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl4(ref float x, ref float y, ref float z, ref float xa,
             ref float ya, ref float za, ref float xb, ref float yb, ref float zb, ref float a,
@@ -2484,7 +2506,7 @@ namespace Trelvin
 
         /// <summary>Plane through a point, perpendicular to a segment.</summary>
         /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1
-        /// coincident: A and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
+        /// coincident: A and B coincide within the tolerance in each coordinate (trvcnt).</remarks>
         public static void trvpl4(float x, float y, float z, float xa, float ya, float za, float xb,
             float yb, float zb, out float a, out float b, out float c, out float d, out int status)
         {
@@ -2515,8 +2537,8 @@ namespace Trelvin
         /// <summary>Plane of two lines, each given by a point and a direction.</summary>
         /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
         /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
-        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
-        /// the tolerance in each component.</remarks>
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: all components of a
+        /// direction are within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpl6(ref float xa, ref float ya, ref float za, ref float ux,
             ref float uy, ref float uz, ref float xc, ref float yc, ref float zc, ref float wx,
@@ -2526,8 +2548,8 @@ namespace Trelvin
         /// <summary>Plane of two lines, each given by a point and a direction.</summary>
         /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
         /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
-        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
-        /// the tolerance in each component.</remarks>
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: all components of a
+        /// direction are within the tolerance.</remarks>
         public static void trvpl6(float xa, float ya, float za, float ux, float uy, float uz,
             float xc, float yc, float zc, float wx, float wy, float wz, out float a, out float b,
             out float c, out float d, out int status)
@@ -2538,7 +2560,7 @@ namespace Trelvin
                 ref wy, ref wz, ref a, ref b, ref c, ref d, ref status);
         }
 
-        /// <summary>Plane of three points turned about the line from P0 to P1.</summary>
+        /// <summary>Plane of three points, rotated about the line from P0 to P1.</summary>
         /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
         /// plane; 1 at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at
         /// P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0
@@ -2548,7 +2570,7 @@ namespace Trelvin
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float angle,
             ref float a, ref float b, ref float c, ref float d, ref int status);
 
-        /// <summary>Plane of three points turned about the line from P0 to P1.</summary>
+        /// <summary>Plane of three points, rotated about the line from P0 to P1.</summary>
         /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a
         /// plane; 1 at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at
         /// P1; 3 between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0
@@ -2564,18 +2586,18 @@ namespace Trelvin
         }
 
         /// <summary>Whether a point lies on the plane of three points.</summary>
-        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point
-        /// does if P0 = P1; -1 no: the point does not lie on the plane, or the three points span no
-        /// plane (trvpsl).</remarks>
+        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for
+        /// which any point does; -1 no: the point does not lie on the plane, or the three points
+        /// span no plane (trvpsl).</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpsp(ref float x0, ref float y0, ref float z0, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float x,
             ref float y, ref float z, ref float tol, ref int status);
 
         /// <summary>Whether a point lies on the plane of three points.</summary>
-        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point
-        /// does if P0 = P1; -1 no: the point does not lie on the plane, or the three points span no
-        /// plane (trvpsl).</remarks>
+        /// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for
+        /// which any point does; -1 no: the point does not lie on the plane, or the three points
+        /// span no plane (trvpsl).</remarks>
         public static void trvpsp(float x0, float y0, float z0, float x1, float y1, float z1,
             float x2, float y2, float z2, float x, float y, float z, float tol, out int status)
         {
@@ -2620,7 +2642,7 @@ namespace Trelvin
         /// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither
         /// the same, opposite nor perpendicular directions; 3 same: the directions are the same; 4
         /// opposite: the directions are opposite; 5 perpendicular: the directions are
-        /// perpendicular; 7 zero: u or w is within the tolerance in each component.</remarks>
+        /// perpendicular; 7 zero: all components of u, or of w, are within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvplv(ref float ux, ref float uy, ref float uz, ref float wx,
             ref float wy, ref float wz, ref float v7, ref float v8, ref int status);
@@ -2629,7 +2651,7 @@ namespace Trelvin
         /// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither
         /// the same, opposite nor perpendicular directions; 3 same: the directions are the same; 4
         /// opposite: the directions are opposite; 5 perpendicular: the directions are
-        /// perpendicular; 7 zero: u or w is within the tolerance in each component.</remarks>
+        /// perpendicular; 7 zero: all components of u, or of w, are within the tolerance.</remarks>
         public static void trvplv(float ux, float uy, float uz, float wx, float wy, float wz,
             float v7, float v8, out int status)
         {
@@ -2742,8 +2764,8 @@ namespace Trelvin
         /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
         /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
         /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
-        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
-        /// the tolerance in each component.</remarks>
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: all components of a
+        /// direction are within the tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trv3lni(ref float xa, ref float ya, ref float za, ref float ux,
             ref float uy, ref float uz, ref float xc, ref float yc, ref float zc, ref float wx,
@@ -2752,8 +2774,8 @@ namespace Trelvin
         /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
         /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line:
         /// the lines are the same, of the same direction; 4 opposite_line: the lines are the same,
-        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: a direction is within
-        /// the tolerance in each component.</remarks>
+        /// of opposite direction; 6 skew: the lines are skew; 7 no_length: all components of a
+        /// direction are within the tolerance.</remarks>
         public static void trv3lni(ref float xa, ref float ya, ref float za, float ux, float uy,
             float uz, ref float xc, ref float yc, ref float zc, float wx, float wy, float wz,
             out int status, ref float xi, ref float yi, out float zi)
@@ -2766,8 +2788,9 @@ namespace Trelvin
 
         /// <summary>Intersection of the line P + t*u with a plane.</summary>
         /// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is
-        /// parallel to the plane, the cosine of u and the normal is within the tolerance; 4 zero: u
-        /// or the normal is within the tolerance in each component.</remarks>
+        /// parallel to the plane, since the cosine of the angle between u and the normal is within
+        /// the tolerance; 4 zero: all components of u, or of the normal, are within the
+        /// tolerance.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvpli(ref float x, ref float y, ref float z, ref float ux,
             ref float uy, ref float uz, ref float a, ref float b, ref float c, ref float d,
@@ -2775,8 +2798,9 @@ namespace Trelvin
 
         /// <summary>Intersection of the line P + t*u with a plane.</summary>
         /// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is
-        /// parallel to the plane, the cosine of u and the normal is within the tolerance; 4 zero: u
-        /// or the normal is within the tolerance in each component.</remarks>
+        /// parallel to the plane, since the cosine of the angle between u and the normal is within
+        /// the tolerance; 4 zero: all components of u, or of the normal, are within the
+        /// tolerance.</remarks>
         public static void trvpli(float x, float y, float z, float ux, float uy, float uz, float a,
             float b, float c, float d, out float xi, out float yi, out float zi, out int status)
         {
@@ -2786,7 +2810,7 @@ namespace Trelvin
                 ref yi, ref zi, ref status);
         }
 
-        /// <summary>Position of a plane against the axes.</summary>
+        /// <summary>Position of a plane relative to the axes.</summary>
         /// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x:
         /// the plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis;
         /// 4 parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to
@@ -2797,7 +2821,7 @@ namespace Trelvin
         public static extern void trvplp(ref float a, ref float b, ref float c, ref float d,
             ref int position);
 
-        /// <summary>Position of a plane against the axes.</summary>
+        /// <summary>Position of a plane relative to the axes.</summary>
         /// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x:
         /// the plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis;
         /// 4 parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to
@@ -2831,9 +2855,10 @@ namespace Trelvin
         /// <summary>Carries a point along when the line through it is moved.</summary>
         /// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at
         /// P; 3 moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side:
-        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding
-        /// takes the three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is
-        /// by each coordinate yet not by its distance.</remarks>
+        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the
+        /// lines count as skew because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P,
+        /// or each coordinate of Q1 is within the tolerance of P's although their distance is above
+        /// it.</remarks>
         [DllImport(Library, ExactSpelling = true)]
         public static extern void trvlpc(ref float xp, ref float yp, ref float zp, ref float x1,
             ref float y1, ref float z1, ref float x2, ref float y2, ref float z2, ref float dxp,
@@ -2843,9 +2868,10 @@ namespace Trelvin
         /// <summary>Carries a point along when the line through it is moved.</summary>
         /// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at
         /// P; 3 moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side:
-        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding
-        /// takes the three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is
-        /// by each coordinate yet not by its distance.</remarks>
+        /// Q2 is moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the
+        /// lines count as skew because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P,
+        /// or each coordinate of Q1 is within the tolerance of P's although their distance is above
+        /// it.</remarks>
         public static void trvlpc(float xp, float yp, float zp, float x1, float y1, float z1,
             ref float x2, ref float y2, ref float z2, float dxp, float dyp, float dzp, float dx1,
             float dy1, float dz1, out int status)

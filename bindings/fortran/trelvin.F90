@@ -23,7 +23,7 @@ module trelvin
   integer(c_int32_t), parameter :: trv_status_done = 0
   integer(c_int32_t), parameter :: trv_status_refused = -1
 
-  ! Whether a point of an arc was found; note that 1 means done here.
+  ! Whether a point of an arc was found. Caution: here 1 means done.
   integer(c_int32_t), parameter :: trv_arc_done = 1
   integer(c_int32_t), parameter :: trv_arc_refused = 0
 
@@ -54,7 +54,7 @@ module trelvin
   integer(c_int32_t), parameter :: trv_on_line_no = 0
   integer(c_int32_t), parameter :: trv_on_line_yes = 1
 
-  ! Whether a point lies on a plane; note that 0 means yes.
+  ! Whether a point lies on a plane. Caution: 0 means yes.
   integer(c_int32_t), parameter :: trv_on_plane_yes = 0
   integer(c_int32_t), parameter :: trv_on_plane_no = -1
   integer(c_int32_t), parameter :: trv_on_plane_zero_normal = 1
@@ -82,7 +82,7 @@ module trelvin
   integer(c_int32_t), parameter :: trv_lines_skew = 6
   integer(c_int32_t), parameter :: trv_lines_coincident = 7
 
-  ! What came of two lines of space: a result, or the relation that allows none.
+  ! Outcome for two lines of space: a result, or the relation that allows no result.
   integer(c_int32_t), parameter :: trv_two_lines_done = 0
   integer(c_int32_t), parameter :: trv_two_lines_same_line = 3
   integer(c_int32_t), parameter :: trv_two_lines_opposite_line = 4
@@ -112,7 +112,7 @@ module trelvin
   integer(c_int32_t), parameter :: trvcer10_along_chord = 1
   integer(c_int32_t), parameter :: trvcer10_parallel = 2
 
-  ! trvptp1: which points of A have a partner in B.
+  ! trvptp1: which points of A match a point of B.
   integer(c_int32_t), parameter :: trvptp1_no_pair = 0
   integer(c_int32_t), parameter :: trvptp1_some_pairs = 1
   integer(c_int32_t), parameter :: trvptp1_all_paired = 2
@@ -366,7 +366,8 @@ module trelvin
       real(c_float), intent(inout) :: x1, y1, x2, y2
     end subroutine
 
-    !> Intersection of two circles: that of their radical line with the first circle (trvlci).
+    !> Intersection of two circles, computed as that of their radical line and the first circle
+    !! (trvlci).
     !! n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric:
     !! |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles
     !! cut each other.
@@ -419,7 +420,7 @@ module trelvin
       real(c_float), intent(inout) :: x1, y1, x2, y2
     end subroutine
 
-    !> Turns a point about a centre.
+    !> Rotates a point about a centre.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance
     !! from the centre is within the tolerance.
     subroutine trvcer3(x0, y0, x, y, angle, xr, yr, status) bind(c, name="trvcer3")
@@ -434,8 +435,8 @@ module trelvin
 
     !> Point of an arc above a station of its chord, perpendicular to the chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-    !! chord is at most 0.001, the radii of A and B differ by more, or the station is not farther
-    !! than that from both ends.
+    !! chord is at most 0.001, the radii of A and B differ by more than 0.001, or the station is not
+    !! more than 0.001 inside both ends of the chord.
     subroutine trvcer8(xc, yc, xa, ya, xb, yb, side, d, x, y, status) bind(c, name="trvcer8")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer8
@@ -448,8 +449,9 @@ module trelvin
 
     !> Point of an arc on the line from its centre through a station of its chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-    !! chord is at most 0.001, the radii of A and B differ by more, the station is not farther than
-    !! that from both ends, or d is closer than that to the diameter.
+    !! chord is at most 0.001, the radii of A and B differ by more than 0.001, the station is not
+    !! more than 0.001 inside both ends of the chord, or d differs from the diameter by less than
+    !! 0.001.
     subroutine trvcer6(xc, yc, xa, ya, xb, yb, side, d, x, y, status) bind(c, name="trvcer6")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer6
@@ -462,8 +464,8 @@ module trelvin
 
     !> Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord,
-    !! d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by
-    !! more, or the strip comes closer than that to an end of the chord.
+    !! d, the rest of the chord beyond d or the width is at most 0.001, the radii of A and B differ
+    !! by more than 0.001, or an edge of the strip is less than 0.001 inside an end of the chord.
     subroutine trvcer9(xc, yc, xa, ya, xb, yb, side, d, w, x1, y1, x2, y2, &
         status) bind(c, name="trvcer9")
       import :: c_float, c_int32_t
@@ -494,7 +496,7 @@ module trelvin
       real(c_float), intent(out) :: phi
     end subroutine
 
-    !> Distances and stations of two points against a segment.
+    !> Distances of two points from the line of a segment, and their stations along it.
     subroutine trvhin(x0, y0, z0, x1, y1, z1, x2, y2, z2, x3, y3, z3, h0, s0, h3, s3, &
         len) bind(c, name="trvhin")
       import :: c_float, c_int32_t
@@ -503,10 +505,10 @@ module trelvin
       real(c_float), intent(out) :: h0, s0, h3, s3, len
     end subroutine
 
-    !> Marks points by a sector.
+    !> Marks points as inside or outside a sector.
     !! mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
-    !! outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same
-    !! for all points.
+    !! outside the sector; -1 no_sector: the angle of the rays by trvphi is within the tolerance, so
+    !! all points have this value.
     subroutine trvapp(x0, y0, x1, y1, x2, y2, n, X, Y, mark) bind(c, name="trvapp")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvapp
@@ -518,8 +520,8 @@ module trelvin
 
     !> Point of an arc on a line through a station of its chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-    !! chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the
-    !! line touches the circle.
+    !! chord is within the tolerance, the radii of A and B differ by more than the tolerance, A and
+    !! B coincide, or the line is tangent to the circle.
     subroutine trvcer4(xc, yc, xa, ya, xb, yb, s, angle, xo, yo, status) bind(c, name="trvcer4")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer4
@@ -529,12 +531,12 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Crossing of an arc's chord with a line through its turned end.
+    !> Intersection of an arc's chord with a line through its rotated end.
     !! status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal
-    !! result, or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl
-    !! above 2), or the input is rejected, since the radius or the chord is within the tolerance or
-    !! the radii of A and B differ by more; 1 along_chord: the line runs along the chord; 2
-    !! parallel: the line is parallel to the chord.
+    !! result, or an intersection kept from an earlier call lies on the chord's line but not at A or
+    !! B (trvpsl above 2), or the input is rejected, since the radius or the chord is within the
+    !! tolerance or the radii of A and B differ by more than the tolerance; 1 along_chord: the line
+    !! runs along the chord; 2 parallel: the line is parallel to the chord.
     subroutine trvcer10(xc, yc, xa, ya, xb, yb, turn, angle, xo, yo, &
         status) bind(c, name="trvcer10")
       import :: c_float, c_int32_t
@@ -545,10 +547,10 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Point of an arc on the line from a station of its chord towards the sagitta.
-    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e,
-    !! the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by
-    !! more, or the line touches the circle.
+    !> Point of an arc on the line from a station of its chord to a point of the sagitta.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, e, the
+    !! radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by more
+    !! than 1e-5, or the line is tangent to the circle.
     subroutine trvcer5(xc, yc, xa, ya, xb, yb, s, side, e, xo, yo, status) bind(c, name="trvcer5")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvcer5
@@ -560,12 +562,12 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Crossings of a line through a station of an arc's chord with the arc and with a parallel to
-    !! the chord.
+    !> Intersections of a line through a station of an arc's chord with the arc and with a line
+    !! parallel to the chord.
     !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative,
     !! the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more
-    !! and the rounding, side is 0, the line is parallel to the chord, or the part of the line
-    !! inside the circle is not longer than 2e-4.
+    !! than 1e-4 and the rounding, side is 0, the line is parallel to the chord, or the part of the
+    !! line inside the circle is not longer than 2e-4.
     subroutine trvcer7(xc, yc, xa, ya, xb, yb, s, side, e, angle, xp, yp, xt, yt, xo, yo, len, &
         status) bind(c, name="trvcer7")
       import :: c_float, c_int32_t
@@ -579,9 +581,9 @@ module trelvin
     end subroutine
 
     !> Rounds the corner at P0 between the segments to P1 and to P2.
-    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not
-    !! above the tolerance, the sine of the angle between the segments is within it, or the arc
-    !! touches one beyond its end by more.
+    !! status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length of a
+    !! segment is not above the tolerance, the sine of the angle between the segments is within the
+    !! tolerance, or a tangent point lies beyond the end of its segment by more than the tolerance.
     subroutine trvard(x0, y0, x1, y1, x2, y2, r, xc, yc, xt1, yt1, xt2, yt2, &
         status) bind(c, name="trvard")
       import :: c_float, c_int32_t
@@ -617,7 +619,7 @@ module trelvin
       integer(c_int32_t), intent(in) :: n
     end subroutine
 
-    !> Positions of the entries of a list in ascending order; the list itself stays.
+    !> Positions of the elements of a list in ascending order; the list itself is not changed.
     subroutine trvordi(V, n, IDX) bind(c, name="trvordi")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvordi
@@ -626,7 +628,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: IDX(*)
     end subroutine
 
-    !> Order of parallel lines by where they cross an axis.
+    !> Order of parallel lines by their intersections with an axis.
     !! status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a
     !! family of parallel and distinct lines, or n < 1.
     subroutine trvpor(n, A, B, C, IDX, status) bind(c, name="trvpor")
@@ -655,7 +657,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: pos(*)
     end subroutine
 
-    !> All pairs of entries of two lists that differ by at most a tolerance.
+    !> All pairs of elements of two lists that differ by at most a tolerance.
     subroutine trvmer13(na, A, nb, B, count, IA, IB, tol) bind(c, name="trvmer13")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer13
@@ -668,8 +670,8 @@ module trelvin
       real(c_float), intent(in) :: tol
     end subroutine
 
-    !> Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as
-    !! Integers.
+    !> Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold
+    !! Reals.
     subroutine trvmer1(na, A, nb, B, nout, OUT) bind(c, name="trvmer1")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer1
@@ -687,14 +689,14 @@ module trelvin
       integer(c_int32_t), intent(inout) :: OUT(*)
     end subroutine
 
-    !> Sorts Integers ascending and drops repeats, in place.
+    !> Sorts Integers ascending and removes duplicates, in place.
     subroutine trvmer2(V, n) bind(c, name="trvmer2")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer2
       integer(c_int32_t), intent(inout) :: V(*), n
     end subroutine
 
-    !> Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+    !> Sorts Reals ascending and removes duplicates within a tolerance, in place.
     subroutine trvmer3(V, n) bind(c, name="trvmer3")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer3
@@ -702,7 +704,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: n
     end subroutine
 
-    !> Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+    !> Sorts Reals ascending and removes duplicates within a tolerance, in place.
     subroutine trvmer12(V, n, tol) bind(c, name="trvmer12")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer12
@@ -711,7 +713,7 @@ module trelvin
       real(c_float), intent(in) :: tol
     end subroutine
 
-    !> Joins to a list those entries of another that it does not hold yet.
+    !> Appends to a list those elements of another that it does not hold yet.
     subroutine trvmer4(na, A, nb, B, tol, nout, OUT, IB) bind(c, name="trvmer4")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer4
@@ -724,7 +726,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: IB(*)
     end subroutine
 
-    !> Entries of a list that another holds too.
+    !> Elements of a list that another holds too.
     subroutine trvmer14(na, A, nb, B, nout, OUT) bind(c, name="trvmer14")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer14
@@ -733,7 +735,7 @@ module trelvin
       integer(c_int32_t), intent(inout) :: OUT(*)
     end subroutine
 
-    !> Removes from a list the entries that another holds, in place.
+    !> Removes from a list the elements that another holds, in place.
     subroutine trvmer15(na, A, nb, B, count) bind(c, name="trvmer15")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer15
@@ -742,7 +744,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: count
     end subroutine
 
-    !> Drops repeated vertices of a closed outline, in place.
+    !> Removes repeated vertices of a closed outline, in place.
     subroutine trvmer16(X, Y, n, tol) bind(c, name="trvmer16")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvmer16
@@ -751,9 +753,10 @@ module trelvin
       real(c_float), intent(in) :: tol
     end subroutine
 
-    !> All pairs of points of two lists that agree within a tolerance in each coordinate.
-    !! status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have;
-    !! 2 all_paired: every one has.
+    !> All pairs of points of two lists that match within a tolerance in each coordinate.
+    !! status: which points of A match a point of B: 0 no_pair: no point of A matches a point of B;
+    !! 1 some_pairs: some points of A match points of B, others do not; 2 all_paired: every point of
+    !! A matches a point of B.
     subroutine trvptp1(na, XA, YA, ZA, nb, XB, YB, ZB, tol, count, IA, IB, &
         status) bind(c, name="trvptp1")
       import :: c_float, c_int32_t
@@ -767,7 +770,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Merges three lists of points into one list of places.
+    !> Merges three lists of points into one list.
     subroutine trvptp2(na, XA, YA, ZA, nb, XB, YB, ZB, nc, XC, YC, ZC, tol, nab, IAB, JAB, nbc, &
         IBC, JBC, nca, ICA, JCA, nout, XO, YO, ZO, MA, MB, MC, k, nk, PK, nz, &
         ZL) bind(c, name="trvptp2")
@@ -795,7 +798,7 @@ module trelvin
       real(c_float), intent(inout) :: ZL(*)
     end subroutine
 
-    !> Where the horizontal line y = y0 crosses a closed outline.
+    !> Crossings of the horizontal line y = y0 with a closed outline.
     subroutine trvppp(X, Y, n, y0, count, XC) bind(c, name="trvppp")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvppp
@@ -806,7 +809,7 @@ module trelvin
       real(c_float), intent(inout) :: XC(*)
     end subroutine
 
-    !> Where the segment from P1 to P2 crosses a closed outline.
+    !> Crossings of the segment from P1 to P2 with a closed outline.
     !! status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1
     !! is outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within
     !! the tolerance in both coordinates.
@@ -905,7 +908,8 @@ module trelvin
       real(c_float), intent(out) :: det
     end subroutine
 
-    !> Divides two coefficients by a third, or gives zeros where it vanishes.
+    !> Divides two coefficients by a third, or gives zeros if the third is zero within the
+    !! tolerance.
     subroutine trvgrc(a, b, c, q1, q2) bind(c, name="trvgrc")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvgrc
@@ -939,7 +943,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: i
     end subroutine
 
-    !> Entry of an ascending table that equals a value, or the interval that holds it.
+    !> Element of an ascending table that equals a value, or the interval that holds it.
     !! status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
     !! A(i+1); 0 neither: x equals no element and lies in no interval.
     subroutine trvpos1(n, A, x, status, i) bind(c, name="trvpos1")
@@ -974,7 +978,7 @@ module trelvin
       real(c_float), intent(out) :: a, b, c
     end subroutine
 
-    !> Parallel of a line at a signed distance.
+    !> Line parallel to a line at a signed distance.
     subroutine trvln2(a, b, c, d, a2, b2, c2) bind(c, name="trvln2")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvln2
@@ -1022,11 +1026,12 @@ module trelvin
     end subroutine
 
     !> Which components of two triples differ by more than the tolerance.
-    !! code: which components differ by more than the tolerance (TrvComponents): 0 none: no
-    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
-    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-    !! the first and the second component are; 6 second_third: the second and the third component
-    !! are; 7 first_third: the first and the third component are.
+    !! code: which components of p - q are above the tolerance (TrvComponents): 0 none: no component
+    !! is above the tolerance; 1 all: all three components are above the tolerance; 2 first: only
+    !! the first component is above the tolerance; 3 second: only the second component is above the
+    !! tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+    !! first and the second are above the tolerance; 6 second_third: only the second and the third
+    !! are above the tolerance; 7 first_third: only the first and the third are above the tolerance.
     subroutine trvpsn(p1, p2, p3, q1, q2, q3, code) bind(c, name="trvpsn")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpsn
@@ -1036,10 +1041,12 @@ module trelvin
 
     !> Whether a point lies on the line of space through P0 with direction D.
     !! code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
-    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
-    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-    !! the first and the second component are; 6 second_third: the second and the third component
-    !! are; 7 first_third: the first and the third component are.
+    !! component is above the tolerance; 1 all: all three components are above the tolerance; 2
+    !! first: only the first component is above the tolerance; 3 second: only the second component
+    !! is above the tolerance; 4 third: only the third component is above the tolerance; 5
+    !! first_second: only the first and the second are above the tolerance; 6 second_third: only the
+    !! second and the third are above the tolerance; 7 first_third: only the first and the third are
+    !! above the tolerance.
     !! on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is
     !! 0.
     subroutine trvln6(x0, y0, z0, dx, dy, dz, px, py, pz, tol, code, on) bind(c, name="trvln6")
@@ -1049,14 +1056,16 @@ module trelvin
       integer(c_int32_t), intent(out) :: code, on
     end subroutine
 
-    !> Line of two planes, and whether it agrees with a point at a retained station.
+    !> Direction of the line of two planes, and whether a point matches it at a retained coordinate.
     !! code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
-    !! component is; 1 all: all three components are; 2 first: the first component alone is; 3
-    !! second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-    !! the first and the second component are; 6 second_third: the second and the third component
-    !! are; 7 first_third: the first and the third component are.
-    !! on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the
-    !! line at the station.
+    !! component is above the tolerance; 1 all: all three components are above the tolerance; 2
+    !! first: only the first component is above the tolerance; 3 second: only the second component
+    !! is above the tolerance; 4 third: only the third component is above the tolerance; 5
+    !! first_second: only the first and the second are above the tolerance; 6 second_third: only the
+    !! second and the third are above the tolerance; 7 first_third: only the first and the third are
+    !! above the tolerance.
+    !! on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does not
+    !! match the line at the kept coordinate.
     subroutine trvln7(a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz, ex, ey, ez, tol, code, &
         on) bind(c, name="trvln7")
       import :: c_float, c_int32_t
@@ -1180,7 +1189,7 @@ module trelvin
       real(c_float), intent(in) :: x0, y0
     end subroutine
 
-    !> Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+    !> Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
     subroutine trvinv(V, n) bind(c, name="trvinv")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvinv
@@ -1188,7 +1197,7 @@ module trelvin
       integer(c_int32_t), intent(in) :: n
     end subroutine
 
-    !> Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+    !> Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
     subroutine trvadr(V, n, k, A, m) bind(c, name="trvadr")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvadr
@@ -1492,10 +1501,10 @@ module trelvin
     !> Properties of an open section of thin plates.
     !! status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a
     !! coordinate or a thickness is infinite or NaN, or a length or a thickness is not above the
-    !! tolerance; 2 to n: this plate is the first at fault, it starts at no end of an earlier plate,
-    !! or ends at one and closes a cell; n+2 to 2*n: plate status - n is the first at fault, it
-    !! crosses, touches or overlaps an earlier plate elsewhere than at its start, which may close a
-    !! cell.
+    !! tolerance; 2 to n: number of the first faulty plate, which does not start at an end of an
+    !! earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the number of the first
+    !! faulty plate, which crosses, touches or overlaps an earlier plate elsewhere than at its
+    !! start, and may close a cell.
     subroutine trvmxt(n, X1, Y1, X2, Y2, T, A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, &
         Wx2, Wy1, Wy2, Wpx, Wpy, xp, yp, It, Wt, xm, ym, Iw, r0, W1, W2, &
         status) bind(c, name="trvmxt")
@@ -1523,7 +1532,7 @@ module trelvin
 
     ! Rotations about the origin and the axes
 
-    !> Turns plane points about the origin, in place.
+    !> Rotates plane points about the origin, in place.
     subroutine trvrot(mode, x, y, n, angle) bind(c, name="trvrot")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvrot
@@ -1533,7 +1542,7 @@ module trelvin
       real(c_float), intent(in) :: angle
     end subroutine
 
-    !> Turns points about the x axis, in place.
+    !> Rotates points about the x axis, in place.
     subroutine trvrotx(mode, x, y, z, n, angle) bind(c, name="trvrotx")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvrotx
@@ -1544,7 +1553,7 @@ module trelvin
       real(c_float), intent(in) :: angle
     end subroutine
 
-    !> Turns points about the y axis, in place.
+    !> Rotates points about the y axis, in place.
     subroutine trvroty(mode, x, y, z, n, angle) bind(c, name="trvroty")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvroty
@@ -1556,7 +1565,7 @@ module trelvin
       real(c_float), intent(in) :: angle
     end subroutine
 
-    !> Turns points about the z axis, in place.
+    !> Rotates points about the z axis, in place.
     subroutine trvrotz(mode, x, y, z, n, angle) bind(c, name="trvrotz")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvrotz
@@ -1622,7 +1631,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Shifts points and turns them about the global axes x, y and z, in this order and in place.
+    !> Shifts points and rotates them about the global axes x, y and z, in this order and in place.
     subroutine trvptr(X, Y, Z, n, x0, y0, z0, ax, ay, az) bind(c, name="trvptr")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvptr
@@ -1631,7 +1640,7 @@ module trelvin
       real(c_float), intent(in) :: x0, y0, z0, ax, ay, az
     end subroutine
 
-    !> Shifts points and turns them in the frame of three points, in place.
+    !> Shifts points and rotates them in the frame of three points, in place.
     !! status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1,
     !! or the three points are on one line (trvpsl).
     subroutine trvptrl(x0, y0, z0, x1, y1, z1, x2, y2, z2, X, Y, Z, n, dx, dy, dz, ax, ay, az, &
@@ -1645,7 +1654,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Turns points about the axis from P0 through P1, in place.
+    !> Rotates points about the axis from P0 through P1, in place.
     !! status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0
     !! and P1 is within the tolerance.
     subroutine trvpra(x0, y0, z0, x1, y1, z1, X, Y, Z, n, angle, status) bind(c, name="trvpra")
@@ -1658,7 +1667,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Turns points of a plane in the frame of the three points that span it, then shifts them, in
+    !> Rotates points of a plane in the frame of the three points that span it, then shifts them, in
     !! place.
     !! status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three
     !! points are on one line (trvpsl); 1 to n: position of the first point off the plane.
@@ -1724,7 +1733,7 @@ module trelvin
 
     !> Plane through a point, perpendicular to a segment.
     !! status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
-    !! coincide, each coordinate within the tolerance (trvcnt).
+    !! coincide within the tolerance in each coordinate (trvcnt).
     subroutine trvpl4(x, y, z, xa, ya, za, xb, yb, zb, a, b, c, d, status) bind(c, name="trvpl4")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpl4
@@ -1747,8 +1756,8 @@ module trelvin
     !> Plane of two lines, each given by a point and a direction.
     !! status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
     !! the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-    !! direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in
-    !! each component.
+    !! direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are within
+    !! the tolerance.
     subroutine trvpl6(xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy, wz, a, b, c, d, &
         status) bind(c, name="trvpl6")
       import :: c_float, c_int32_t
@@ -1758,7 +1767,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Plane of three points turned about the line from P0 to P1.
+    !> Plane of three points, rotated about the line from P0 to P1.
     !! status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
     !! at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between:
     !! P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1:
@@ -1773,8 +1782,9 @@ module trelvin
     end subroutine
 
     !> Whether a point lies on the plane of three points.
-    !! status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1;
-    !! -1 no: the point does not lie on the plane, or the three points span no plane (trvpsl).
+    !! status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which any
+    !! point does; -1 no: the point does not lie on the plane, or the three points span no plane
+    !! (trvpsl).
     subroutine trvpsp(x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z, tol, &
         status) bind(c, name="trvpsp")
       import :: c_float, c_int32_t
@@ -1804,8 +1814,8 @@ module trelvin
     !> Relation of two directions, taken as lines through the origin.
     !! status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
     !! opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the
-    !! directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is
-    !! within the tolerance in each component.
+    !! directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: all
+    !! components of u, or of w, are within the tolerance.
     subroutine trvplv(ux, uy, uz, wx, wy, wz, v7, v8, status) bind(c, name="trvplv")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvplv
@@ -1876,8 +1886,8 @@ module trelvin
     !> Intersection of the lines A + t*u and C + s*w.
     !! status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
     !! the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-    !! direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in
-    !! each component.
+    !! direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are within
+    !! the tolerance.
     subroutine trv3lni(xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy, wz, status, xi, yi, &
         zi) bind(c, name="trv3lni")
       import :: c_float, c_int32_t
@@ -1892,8 +1902,8 @@ module trelvin
 
     !> Intersection of the line P + t*u with a plane.
     !! status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
-    !! plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is
-    !! within the tolerance in each component.
+    !! plane, since the cosine of the angle between u and the normal is within the tolerance; 4
+    !! zero: all components of u, or of the normal, are within the tolerance.
     subroutine trvpli(x, y, z, ux, uy, uz, a, b, c, d, xi, yi, zi, status) bind(c, name="trvpli")
       import :: c_float, c_int32_t
       TRELVIN_CALL trvpli
@@ -1902,7 +1912,7 @@ module trelvin
       integer(c_int32_t), intent(out) :: status
     end subroutine
 
-    !> Position of a plane against the axes.
+    !> Position of a plane relative to the axes.
     !! position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
     !! parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the
     !! plane is parallel to the z axis; 5 normal_z: the plane is normal to the z axis; 6 normal_x:
@@ -1934,9 +1944,9 @@ module trelvin
     !> Carries a point along when the line through it is moved.
     !! status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
     !! moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is
-    !! moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three
-    !! points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet
-    !! not by its distance.
+    !! moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the lines count
+    !! as skew because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each
+    !! coordinate of Q1 is within the tolerance of P's although their distance is above it.
     subroutine trvlpc(xp, yp, zp, x1, y1, z1, x2, y2, z2, dxp, dyp, dzp, dx1, dy1, dz1, &
         status) bind(c, name="trvlpc")
       import :: c_float, c_int32_t

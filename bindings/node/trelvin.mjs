@@ -13,7 +13,7 @@ export const version = "1.1.1";
 export const trvStatusDone = 0;
 export const trvStatusRefused = -1;
 
-// Whether a point of an arc was found; note that 1 means done here.
+// Whether a point of an arc was found. Caution: here 1 means done.
 export const trvArcDone = 1;
 export const trvArcRefused = 0;
 
@@ -44,7 +44,7 @@ export const trvComponentsFirstThird = 7;
 export const trvOnLineNo = 0;
 export const trvOnLineYes = 1;
 
-// Whether a point lies on a plane; note that 0 means yes.
+// Whether a point lies on a plane. Caution: 0 means yes.
 export const trvOnPlaneYes = 0;
 export const trvOnPlaneNo = -1;
 export const trvOnPlaneZeroNormal = 1;
@@ -72,7 +72,7 @@ export const trvLinesPerpendicular = 5;
 export const trvLinesSkew = 6;
 export const trvLinesCoincident = 7;
 
-// What came of two lines of space: a result, or the relation that allows none.
+// Outcome for two lines of space: a result, or the relation that allows no result.
 export const trvTwoLinesDone = 0;
 export const trvTwoLinesSameLine = 3;
 export const trvTwoLinesOppositeLine = 4;
@@ -102,7 +102,7 @@ export const trvcer10CrossingOrRefused = 0;
 export const trvcer10AlongChord = 1;
 export const trvcer10Parallel = 2;
 
-// trvptp1: which points of A have a partner in B.
+// trvptp1: which points of A match a point of B.
 export const trvptp1NoPair = 0;
 export const trvptp1SomePairs = 1;
 export const trvptp1AllPaired = 2;
@@ -347,7 +347,8 @@ export const trvlci = routine("trvlci", ["in real a", "in real b", "in real c", 
   "out real y2"]);
 
 /**
- * Intersection of two circles: that of their radical line with the first circle (trvlci).
+ * Intersection of two circles, computed as that of their radical line and the first circle
+ * (trvlci).
  *
  * n: number of points (TrvPoints): 0 none: the circles have no common point, or are concentric: |D2
  * - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the circles cut each
@@ -402,7 +403,7 @@ export const trvcin = routine("trvcin", ["in real X[2]", "in real Y[2]", "in rea
   "in real c", "out int position", "out real x1", "out real y1", "out real x2", "out real y2"]);
 
 /**
- * Turns a point about a centre.
+ * Rotates a point about a centre.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's distance from
  * the centre is within the tolerance.
@@ -417,8 +418,8 @@ export const trvcer3 = routine("trvcer3", ["in real x0", "in real y0", "inout re
  * Point of an arc above a station of its chord, perpendicular to the chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
- * at most 0.001, the radii of A and B differ by more, or the station is not farther than that from
- * both ends.
+ * at most 0.001, the radii of A and B differ by more than 0.001, or the station is not more than
+ * 0.001 inside both ends of the chord.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number) => {x: number, y: number, status: number}}
@@ -431,8 +432,8 @@ export const trvcer8 = routine("trvcer8", ["in real xc", "in real yc", "in real 
  * Point of an arc on the line from its centre through a station of its chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
- * at most 0.001, the radii of A and B differ by more, the station is not farther than that from
- * both ends, or d is closer than that to the diameter.
+ * at most 0.001, the radii of A and B differ by more than 0.001, the station is not more than 0.001
+ * inside both ends of the chord, or d differs from the diameter by less than 0.001.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number) => {x: number, y: number, status: number}}
@@ -445,8 +446,8 @@ export const trvcer6 = routine("trvcer6", ["in real xc", "in real yc", "in real 
  * Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the chord, d,
- * the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or
- * the strip comes closer than that to an end of the chord.
+ * the rest of the chord beyond d or the width is at most 0.001, the radii of A and B differ by more
+ * than 0.001, or an edge of the strip is less than 0.001 inside an end of the chord.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, side: number, d:
  *   number, w: number) => {x1: number, y1: number, x2: number, y2: number, status: number}}
@@ -475,7 +476,7 @@ export const trvarc1 = routine("trvarc1", ["in real xc", "in real yc", "in real 
 export const trvaxph = routine("trvaxph", ["in real dx", "in real dy", "out real phi"]);
 
 /**
- * Distances and stations of two points against a segment.
+ * Distances of two points from the line of a segment, and their stations along it.
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, x3: number, y3: number, z3: number) => {h0: number, s0: number, h3: number,
@@ -486,11 +487,11 @@ export const trvhin = routine("trvhin", ["in real x0", "in real y0", "in real z0
   "in real z3", "out real h0", "out real s0", "out real h3", "out real s3", "out real len"]);
 
 /**
- * Marks points by a sector.
+ * Marks points as inside or outside a sector.
  *
  * mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point is
- * outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance, the same for
- * all points.
+ * outside the sector; -1 no_sector: the angle of the rays by trvphi is within the tolerance, so all
+ * points have this value.
  *
  * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, X: Numbers, Y:
  *   Numbers, counts?: {n?: number}) => {mark: Int32Array}}
@@ -502,8 +503,8 @@ export const trvapp = routine("trvapp", ["in real x0", "in real y0", "in real x1
  * Point of an arc on a line through a station of its chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the chord is
- * within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches
- * the circle.
+ * within the tolerance, the radii of A and B differ by more than the tolerance, A and B coincide,
+ * or the line is tangent to the circle.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, angle:
  *   number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, xo: number,
@@ -514,13 +515,13 @@ export const trvcer4 = routine("trvcer4", ["inout real xc", "inout real yc", "in
   "out real yo", "out int status"]);
 
 /**
- * Crossing of an arc's chord with a line through its turned end.
+ * Intersection of an arc's chord with a line through its rotated end.
  *
  * status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal result,
- * or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or
- * the input is rejected, since the radius or the chord is within the tolerance or the radii of A
- * and B differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the line is
- * parallel to the chord.
+ * or an intersection kept from an earlier call lies on the chord's line but not at A or B (trvpsl
+ * above 2), or the input is rejected, since the radius or the chord is within the tolerance or the
+ * radii of A and B differ by more than the tolerance; 1 along_chord: the line runs along the chord;
+ * 2 parallel: the line is parallel to the chord.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, turn: number,
  *   angle: number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, xo:
@@ -531,11 +532,11 @@ export const trvcer10 = routine("trvcer10", ["inout real xc", "inout real yc", "
   "out real yo", "out int status"]);
 
 /**
- * Point of an arc on the line from a station of its chord towards the sagitta.
+ * Point of an arc on the line from a station of its chord to a point of the sagitta.
  *
- * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or e, the
- * radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more,
- * or the line touches the circle.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, e, the
+ * radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by more than
+ * 1e-5, or the line is tangent to the circle.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, side:
  *   number, e: number) => {xc: number, yc: number, xa: number, ya: number, xb: number, yb: number,
@@ -546,13 +547,13 @@ export const trvcer5 = routine("trvcer5", ["inout real xc", "inout real yc", "in
   "out real xo", "out real yo", "out int status"]);
 
 /**
- * Crossings of a line through a station of an arc's chord with the arc and with a parallel to the
- * chord.
+ * Intersections of a line through a station of an arc's chord with the arc and with a line parallel
+ * to the chord.
  *
  * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative, the
- * radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the
- * rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle
- * is not longer than 2e-4.
+ * radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more than
+ * 1e-4 and the rounding, side is 0, the line is parallel to the chord, or the part of the line
+ * inside the circle is not longer than 2e-4.
  *
  * @type {(xc: number, yc: number, xa: number, ya: number, xb: number, yb: number, s: number, side:
  *   number, e: number, angle: number) => {xc: number, yc: number, xa: number, ya: number, xb:
@@ -567,9 +568,9 @@ export const trvcer7 = routine("trvcer7", ["inout real xc", "inout real yc", "in
 /**
  * Rounds the corner at P0 between the segments to P1 and to P2.
  *
- * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is not
- * above the tolerance, the sine of the angle between the segments is within it, or the arc touches
- * one beyond its end by more.
+ * status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length of a
+ * segment is not above the tolerance, the sine of the angle between the segments is within the
+ * tolerance, or a tangent point lies beyond the end of its segment by more than the tolerance.
  *
  * @type {(x0: number, y0: number, x1: number, y1: number, x2: number, y2: number, r: number) =>
  *   {xc: number, yc: number, xt1: number, yt1: number, xt2: number, yt2: number, status: number}}
@@ -604,14 +605,14 @@ export const trvord = routine("trvord", ["inout real V[n]", "in int n = V"]);
 export const trvord1 = routine("trvord1", ["inout int V[n]", "in int n = V"]);
 
 /**
- * Positions of the entries of a list in ascending order; the list itself stays.
+ * Positions of the elements of a list in ascending order; the list itself is not changed.
  *
  * @type {(V: Numbers, counts?: {n?: number}) => {IDX: Int32Array}}
  */
 export const trvordi = routine("trvordi", ["in real V[n]", "in int n = V", "out int IDX[n]"]);
 
 /**
- * Order of parallel lines by where they cross an axis.
+ * Order of parallel lines by their intersections with an axis.
  *
  * status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a family
  * of parallel and distinct lines, or n < 1.
@@ -640,7 +641,7 @@ export const trvsel1 = routine("trvsel1", ["in int n = V", "in int V[n]", "in in
   "out int count", "out int pos[n, count used]"]);
 
 /**
- * All pairs of entries of two lists that differ by at most a tolerance.
+ * All pairs of elements of two lists that differ by at most a tolerance.
  *
  * @type {(A: Numbers, B: Numbers, tol: number, counts?: {na?: number, nb?: number}) => {count:
  *   number, IA: Int32Array, IB: Int32Array}}
@@ -650,7 +651,7 @@ export const trvmer13 = routine("trvmer13", ["in int na = A", "in real A[na]", "
   "in real tol"]);
 
 /**
- * Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
+ * Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold Reals.
  *
  * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {nout: number, OUT:
  *   Int32Array}}
@@ -668,21 +669,21 @@ export const trvmer11 = routine("trvmer11", ["in int na = A", "in int A[na]", "i
   "in int B[nb]", "out int nout", "out int OUT[na+nb, nout used]"]);
 
 /**
- * Sorts Integers ascending and drops repeats, in place.
+ * Sorts Integers ascending and removes duplicates, in place.
  *
  * @type {(V: Numbers, counts?: {n?: number}) => {V: Int32Array, n: number}}
  */
 export const trvmer2 = routine("trvmer2", ["inout int V[n, n used]", "inout int n = V"]);
 
 /**
- * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+ * Sorts Reals ascending and removes duplicates within a tolerance, in place.
  *
  * @type {(V: Numbers, counts?: {n?: number}) => {V: Float32Array, n: number}}
  */
 export const trvmer3 = routine("trvmer3", ["inout real V[n, n used]", "inout int n = V"]);
 
 /**
- * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+ * Sorts Reals ascending and removes duplicates within a tolerance, in place.
  *
  * @type {(V: Numbers, tol: number, counts?: {n?: number}) => {V: Float32Array, n: number}}
  */
@@ -690,7 +691,7 @@ export const trvmer12 = routine("trvmer12", ["inout real V[n, n used]", "inout i
   "in real tol"]);
 
 /**
- * Joins to a list those entries of another that it does not hold yet.
+ * Appends to a list those elements of another that it does not hold yet.
  *
  * @type {(A: Numbers, B: Numbers, tol: number, counts?: {na?: number, nb?: number}) => {nout:
  *   number, OUT: Float32Array, IB: Int32Array}}
@@ -700,7 +701,7 @@ export const trvmer4 = routine("trvmer4", ["in int na = A", "in real A[na]", "in
   "out int IB[nb]"]);
 
 /**
- * Entries of a list that another holds too.
+ * Elements of a list that another holds too.
  *
  * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {nout: number, OUT:
  *   Int32Array}}
@@ -709,7 +710,7 @@ export const trvmer14 = routine("trvmer14", ["in int na = A", "in int A[na]", "i
   "in int B[nb]", "out int nout", "out int OUT[na, nout used]"]);
 
 /**
- * Removes from a list the entries that another holds, in place.
+ * Removes from a list the elements that another holds, in place.
  *
  * @type {(A: Numbers, B: Numbers, counts?: {na?: number, nb?: number}) => {na: number, A:
  *   Int32Array, count: number}}
@@ -718,7 +719,7 @@ export const trvmer15 = routine("trvmer15", ["inout int na = A", "inout int A[na
   "in int nb = B", "in int B[nb]", "out int count"]);
 
 /**
- * Drops repeated vertices of a closed outline, in place.
+ * Removes repeated vertices of a closed outline, in place.
  *
  * @type {(X: Numbers, Y: Numbers, tol: number, counts?: {n?: number}) => {X: Float32Array, Y:
  *   Float32Array, n: number}}
@@ -727,10 +728,11 @@ export const trvmer16 = routine("trvmer16", ["inout real X[n, n used]", "inout r
   "inout int n = X Y", "in real tol"]);
 
 /**
- * All pairs of points of two lists that agree within a tolerance in each coordinate.
+ * All pairs of points of two lists that match within a tolerance in each coordinate.
  *
- * status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some have; 2
- * all_paired: every one has.
+ * status: which points of A match a point of B: 0 no_pair: no point of A matches a point of B; 1
+ * some_pairs: some points of A match points of B, others do not; 2 all_paired: every point of A
+ * matches a point of B.
  *
  * @type {(XA: Numbers, YA: Numbers, ZA: Numbers, XB: Numbers, YB: Numbers, ZB: Numbers, tol:
  *   number, counts?: {na?: number, nb?: number}) => {count: number, IA: Int32Array, IB: Int32Array,
@@ -742,7 +744,7 @@ export const trvptp1 = routine("trvptp1", ["in int na = XA YA ZA", "in real XA[n
   "out int IB[na*nb, count used]", "out int status"]);
 
 /**
- * Merges three lists of points into one list of places.
+ * Merges three lists of points into one list.
  *
  * @type {(XA: Numbers, YA: Numbers, ZA: Numbers, XB: Numbers, YB: Numbers, ZB: Numbers, XC:
  *   Numbers, YC: Numbers, ZC: Numbers, tol: number, k: number, counts?: {na?: number, nb?: number,
@@ -763,7 +765,7 @@ export const trvptp2 = routine("trvptp2", ["in int na = XA YA ZA", "in real XA[n
   "out real ZL[na+nb+nc, nz used]"]);
 
 /**
- * Where the horizontal line y = y0 crosses a closed outline.
+ * Crossings of the horizontal line y = y0 with a closed outline.
  *
  * @type {(X: Numbers, Y: Numbers, y0: number, counts?: {n?: number}) => {count: number, XC:
  *   Float32Array}}
@@ -772,7 +774,7 @@ export const trvppp = routine("trvppp", ["in real X[n]", "in real Y[n]", "in int
   "in real y0", "out int count", "out real XC[n, count used]"]);
 
 /**
- * Where the segment from P1 to P2 crosses a closed outline.
+ * Crossings of the segment from P1 to P2 with a closed outline.
  *
  * status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside: P1 is
  * outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide within the
@@ -880,7 +882,7 @@ export const trvdtr3 = routine("trvdtr3", ["in real a1", "in real a2", "in real 
   "in real b2", "in real b3", "in real c1", "in real c2", "in real c3", "out real det"]);
 
 /**
- * Divides two coefficients by a third, or gives zeros where it vanishes.
+ * Divides two coefficients by a third, or gives zeros if the third is zero within the tolerance.
  *
  * @type {(a: number, b: number, c: number) => {q1: number, q2: number}}
  */
@@ -913,7 +915,7 @@ export const trvvin = routine("trvvin", ["in real u1", "in real v", "in real u3"
 export const trvpos = routine("trvpos", ["in int n = A", "in real A[n]", "in real x", "out int i"]);
 
 /**
- * Entry of an ascending table that equals a value, or the interval that holds it.
+ * Element of an ascending table that equals a value, or the interval that holds it.
  *
  * status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) < x <
  * A(i+1); 0 neither: x equals no element and lies in no interval.
@@ -949,7 +951,7 @@ export const trvln4 = routine("trvln4", ["in real x0", "in real y0", "in real dx
   "in real u", "out real a", "out real b", "out real c"]);
 
 /**
- * Parallel of a line at a signed distance.
+ * Line parallel to a line at a signed distance.
  *
  * @type {(a: number, b: number, c: number, d: number) => {a2: number, b2: number, c2: number}}
  */
@@ -1000,11 +1002,12 @@ export const trvlul = routine("trvlul", ["in real a1", "in real b1", "in real c1
 /**
  * Which components of two triples differ by more than the tolerance.
  *
- * code: which components differ by more than the tolerance (TrvComponents): 0 none: no component
- * is; 1 all: all three components are; 2 first: the first component alone is; 3 second: the second
- * component alone is; 4 third: the third component alone is; 5 first_second: the first and the
- * second component are; 6 second_third: the second and the third component are; 7 first_third: the
- * first and the third component are.
+ * code: which components of p - q are above the tolerance (TrvComponents): 0 none: no component is
+ * above the tolerance; 1 all: all three components are above the tolerance; 2 first: only the first
+ * component is above the tolerance; 3 second: only the second component is above the tolerance; 4
+ * third: only the third component is above the tolerance; 5 first_second: only the first and the
+ * second are above the tolerance; 6 second_third: only the second and the third are above the
+ * tolerance; 7 first_third: only the first and the third are above the tolerance.
  *
  * @type {(p1: number, p2: number, p3: number, q1: number, q2: number, q3: number) => {code:
  *   number}}
@@ -1016,10 +1019,11 @@ export const trvpsn = routine("trvpsn", ["in real p1", "in real p2", "in real p3
  * Whether a point lies on the line of space through P0 with direction D.
  *
  * code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none: no
- * component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
- * the second component alone is; 4 third: the third component alone is; 5 first_second: the first
- * and the second component are; 6 second_third: the second and the third component are; 7
- * first_third: the first and the third component are.
+ * component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+ * only the first component is above the tolerance; 3 second: only the second component is above the
+ * tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+ * first and the second are above the tolerance; 6 second_third: only the second and the third are
+ * above the tolerance; 7 first_third: only the first and the third are above the tolerance.
  *
  * on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code is 0.
  *
@@ -1031,16 +1035,17 @@ export const trvln6 = routine("trvln6", ["in real x0", "in real y0", "in real z0
   "out int code", "out int on"]);
 
 /**
- * Line of two planes, and whether it agrees with a point at a retained station.
+ * Direction of the line of two planes, and whether a point matches it at a retained coordinate.
  *
  * code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
- * component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
- * the second component alone is; 4 third: the third component alone is; 5 first_second: the first
- * and the second component are; 6 second_third: the second and the third component are; 7
- * first_third: the first and the third component are.
+ * component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+ * only the first component is above the tolerance; 3 second: only the second component is above the
+ * tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only the
+ * first and the second are above the tolerance; 6 second_third: only the second and the third are
+ * above the tolerance; 7 first_third: only the first and the third are above the tolerance.
  *
- * on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the line
- * at the station.
+ * on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does not match
+ * the line at the kept coordinate.
  *
  * @type {(a1: number, b1: number, c1: number, d1: number, a2: number, b2: number, c2: number, d2:
  *   number, px: number, py: number, pz: number, ez: number, tol: number) => {ex: number, ey:
@@ -1174,14 +1179,14 @@ export const trvtra = routine("trvtra", ["inout real X[n]", "inout real Y[n]", "
   "in real x0", "in real y0"]);
 
 /**
- * Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+ * Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
  *
  * @type {(V: Numbers, counts?: {n?: number}) => {V: Int32Array}}
  */
 export const trvinv = routine("trvinv", ["inout int V[n]", "in int n = V"]);
 
 /**
- * Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+ * Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
  *
  * @type {(V: Numbers, k: number, A: Numbers, counts?: {n?: number, m?: number}) => {V: Int32Array,
  *   n: number}}
@@ -1495,9 +1500,9 @@ export const trvwar_c = routine("trvwar_c", ["in real B", "in real H", "in real 
  *
  * status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a coordinate or
  * a thickness is infinite or NaN, or a length or a thickness is not above the tolerance; 2 to n:
- * this plate is the first at fault, it starts at no end of an earlier plate, or ends at one and
- * closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses, touches or
- * overlaps an earlier plate elsewhere than at its start, which may close a cell.
+ * number of the first faulty plate, which does not start at an end of an earlier plate, or closes a
+ * cell by ending at one; n+2 to 2*n: n plus the number of the first faulty plate, which crosses,
+ * touches or overlaps an earlier plate elsewhere than at its start, and may close a cell.
  *
  * @type {(X1: Numbers, Y1: Numbers, X2: Numbers, Y2: Numbers, T: Numbers, counts?: {n?: number}) =>
  *   {A: number, xs: number, ys: number, Ix: number, Iy: number, Ixy: number, I1: number, I2:
@@ -1535,7 +1540,7 @@ export const trvmxt_fb = routine("trvmxt_fb", ["in real B", "in real H", "out re
 // Rotations about the origin and the axes
 
 /**
- * Turns plane points about the origin, in place.
+ * Rotates plane points about the origin, in place.
  *
  * @type {(mode: number, x: Numbers, y: Numbers, angle: number, counts?: {n?: number}) => {x:
  *   Float32Array, y: Float32Array}}
@@ -1544,7 +1549,7 @@ export const trvrot = routine("trvrot", ["in int mode", "inout real x[n]", "inou
   "in int n = x y", "in real angle"]);
 
 /**
- * Turns points about the x axis, in place.
+ * Rotates points about the x axis, in place.
  *
  * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
  *   => {y: Float32Array, z: Float32Array}}
@@ -1553,7 +1558,7 @@ export const trvrotx = routine("trvrotx", ["in int mode", "in real x[0]", "inout
   "inout real z[n]", "in int n = y z", "in real angle"]);
 
 /**
- * Turns points about the y axis, in place.
+ * Rotates points about the y axis, in place.
  *
  * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
  *   => {x: Float32Array, z: Float32Array}}
@@ -1562,7 +1567,7 @@ export const trvroty = routine("trvroty", ["in int mode", "inout real x[n]", "in
   "inout real z[n]", "in int n = x z", "in real angle"]);
 
 /**
- * Turns points about the z axis, in place.
+ * Rotates points about the z axis, in place.
  *
  * @type {(mode: number, x: Numbers, y: Numbers, z: Numbers, angle: number, counts?: {n?: number})
  *   => {x: Float32Array, y: Float32Array}}
@@ -1635,7 +1640,7 @@ export const trvaxel = routine("trvaxel", ["in real x0", "in real y0", "in real 
   "out int status"]);
 
 /**
- * Shifts points and turns them about the global axes x, y and z, in this order and in place.
+ * Shifts points and rotates them about the global axes x, y and z, in this order and in place.
  *
  * @type {(X: Numbers, Y: Numbers, Z: Numbers, x0: number, y0: number, z0: number, ax: number, ay:
  *   number, az: number, counts?: {n?: number}) => {X: Float32Array, Y: Float32Array, Z:
@@ -1646,7 +1651,7 @@ export const trvptr = routine("trvptr", ["inout real X[n]", "inout real Y[n]", "
   "in real az"]);
 
 /**
- * Shifts points and turns them in the frame of three points, in place.
+ * Shifts points and rotates them in the frame of three points, in place.
  *
  * status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or P1, or
  * the three points are on one line (trvpsl).
@@ -1662,7 +1667,7 @@ export const trvptrl = routine("trvptrl", ["in real x0", "in real y0", "in real 
   "in real dz", "in real ax", "in real ay", "in real az", "out int status"]);
 
 /**
- * Turns points about the axis from P0 through P1, in place.
+ * Rotates points about the axis from P0 through P1, in place.
  *
  * status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of P0 and
  * P1 is within the tolerance.
@@ -1676,7 +1681,7 @@ export const trvpra = routine("trvpra", ["in real x0", "in real y0", "in real z0
   "in int n = X Y Z", "in real angle", "out int status"]);
 
 /**
- * Turns points of a plane in the frame of the three points that span it, then shifts them, in
+ * Rotates points of a plane in the frame of the three points that span it, then shifts them, in
  * place.
  *
  * status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the three
@@ -1753,7 +1758,7 @@ export const trvpl3 = routine("trvpl3", ["in real xa", "in real ya", "in real za
  * Plane through a point, perpendicular to a segment.
  *
  * status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
- * coincide, each coordinate within the tolerance (trvcnt).
+ * coincide within the tolerance in each coordinate (trvcnt).
  *
  * @type {(x: number, y: number, z: number, xa: number, ya: number, za: number, xb: number, yb:
  *   number, zb: number) => {a: number, b: number, c: number, d: number, status: number}}
@@ -1779,7 +1784,7 @@ export const trvpl5 = routine("trvpl5", ["in real ix", "in real iy", "in real iz
  *
  * status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
  * same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
- * skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
+ * skew: the lines are skew; 7 no_length: all components of a direction are within the tolerance.
  *
  * @type {(xa: number, ya: number, za: number, ux: number, uy: number, uz: number, xc: number, yc:
  *   number, zc: number, wx: number, wy: number, wz: number) => {a: number, b: number, c: number, d:
@@ -1790,7 +1795,7 @@ export const trvpl6 = routine("trvpl6", ["in real xa", "in real ya", "in real za
   "in real wz", "out real a", "out real b", "out real c", "out real d", "out int status"]);
 
 /**
- * Plane of three points turned about the line from P0 to P1.
+ * Plane of three points, rotated about the line from P0 to P1.
  *
  * status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1 at_p0: P2
  * is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2 is between
@@ -1808,8 +1813,8 @@ export const trvpl7 = routine("trvpl7", ["in real x0", "in real y0", "in real z0
 /**
  * Whether a point lies on the plane of three points.
  *
- * status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 = P1; -1
- * no: the point does not lie on the plane, or the three points span no plane (trvpsl).
+ * status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which any point
+ * does; -1 no: the point does not lie on the plane, or the three points span no plane (trvpsl).
  *
  * @type {(x0: number, y0: number, z0: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, x: number, y: number, z: number, tol: number) => {status: number}}
@@ -1844,8 +1849,8 @@ export const trvpspg = routine("trvpspg", ["in real x", "in real y", "in real z"
  *
  * status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
  * opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite: the
- * directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w is
- * within the tolerance in each component.
+ * directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: all
+ * components of u, or of w, are within the tolerance.
  *
  * @type {(ux: number, uy: number, uz: number, wx: number, wy: number, wz: number, v7: number, v8:
  *   number) => {status: number}}
@@ -1926,7 +1931,7 @@ export const trv3lda = routine("trv3lda", ["in real xa", "in real ya", "in real 
  *
  * status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are the
  * same, of the same direction; 4 opposite_line: the lines are the same, of opposite direction; 6
- * skew: the lines are skew; 7 no_length: a direction is within the tolerance in each component.
+ * skew: the lines are skew; 7 no_length: all components of a direction are within the tolerance.
  *
  * @type {(xa: number, ya: number, za: number, ux: number, uy: number, uz: number, xc: number, yc:
  *   number, zc: number, wx: number, wy: number, wz: number, xi: number, yi: number) => {xa: number,
@@ -1942,8 +1947,8 @@ export const trv3lni = routine("trv3lni", ["inout real xa", "inout real ya", "in
  * Intersection of the line P + t*u with a plane.
  *
  * status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the plane,
- * the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within the
- * tolerance in each component.
+ * since the cosine of the angle between u and the normal is within the tolerance; 4 zero: all
+ * components of u, or of the normal, are within the tolerance.
  *
  * @type {(x: number, y: number, z: number, ux: number, uy: number, uz: number, a: number, b:
  *   number, c: number, d: number) => {xi: number, yi: number, zi: number, status: number}}
@@ -1953,7 +1958,7 @@ export const trvpli = routine("trvpli", ["in real x", "in real y", "in real z", 
   "out real yi", "out real zi", "out int status"]);
 
 /**
- * Position of a plane against the axes.
+ * Position of a plane relative to the axes.
  *
  * position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the plane is
  * parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4 parallel_z: the
@@ -1984,9 +1989,9 @@ export const trvpnl = routine("trvpnl", ["in real xa", "in real ya", "in real za
  *
  * status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
  * moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved, Q1
- * and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points for
- * skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its
- * distance.
+ * and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the lines count as skew
+ * because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is
+ * within the tolerance of P's although their distance is above it.
  *
  * @type {(xp: number, yp: number, zp: number, x1: number, y1: number, z1: number, x2: number, y2:
  *   number, z2: number, dxp: number, dyp: number, dzp: number, dx1: number, dy1: number, dz1:

@@ -27,7 +27,7 @@ const
   trv_status_done = 0;
   trv_status_refused = -1;
 
-  // Whether a point of an arc was found; note that 1 means done here.
+  // Whether a point of an arc was found. Caution: here 1 means done.
   trv_arc_done = 1;
   trv_arc_refused = 0;
 
@@ -58,7 +58,7 @@ const
   trv_on_line_no = 0;
   trv_on_line_yes = 1;
 
-  // Whether a point lies on a plane; note that 0 means yes.
+  // Whether a point lies on a plane. Caution: 0 means yes.
   trv_on_plane_yes = 0;
   trv_on_plane_no = -1;
   trv_on_plane_zero_normal = 1;
@@ -86,7 +86,7 @@ const
   trv_lines_skew = 6;
   trv_lines_coincident = 7;
 
-  // What came of two lines of space: a result, or the relation that allows none.
+  // Outcome for two lines of space: a result, or the relation that allows no result.
   trv_two_lines_done = 0;
   trv_two_lines_same_line = 3;
   trv_two_lines_opposite_line = 4;
@@ -116,7 +116,7 @@ const
   trvcer10_along_chord = 1;
   trvcer10_parallel = 2;
 
-  // trvptp1: which points of A have a partner in B.
+  // trvptp1: which points of A match a point of B.
   trvptp1_no_pair = 0;
   trvptp1_some_pairs = 1;
   trvptp1_all_paired = 2;
@@ -362,8 +362,8 @@ procedure trvlci(
   var x1, y1, x2, y2: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvlci';
 
-/// <summary>Intersection of two circles: that of their radical line with the first circle
-/// (trvlci).</summary>
+/// <summary>Intersection of two circles, computed as that of their radical line and the first
+/// circle (trvlci).</summary>
 /// <remarks>n: number of points (TrvPoints): 0 none: the circles have no common point, or are
 /// concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2 two: the
 /// circles cut each other.</remarks>
@@ -409,7 +409,7 @@ procedure trvcin(
   var x1, y1, x2, y2: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcin';
 
-/// <summary>Turns a point about a centre.</summary>
+/// <summary>Rotates a point about a centre.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's
 /// distance from the centre is within the tolerance.</remarks>
 procedure trvcer3(
@@ -422,8 +422,8 @@ procedure trvcer3(
 
 /// <summary>Point of an arc above a station of its chord, perpendicular to the chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
-/// the chord is at most 0.001, the radii of A and B differ by more, or the station is not farther
-/// than that from both ends.</remarks>
+/// the chord is at most 0.001, the radii of A and B differ by more than 0.001, or the station is
+/// not more than 0.001 inside both ends of the chord.</remarks>
 procedure trvcer8(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -434,8 +434,9 @@ procedure trvcer8(
 
 /// <summary>Point of an arc on the line from its centre through a station of its chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
-/// the chord is at most 0.001, the radii of A and B differ by more, the station is not farther than
-/// that from both ends, or d is closer than that to the diameter.</remarks>
+/// the chord is at most 0.001, the radii of A and B differ by more than 0.001, the station is not
+/// more than 0.001 inside both ends of the chord, or d differs from the diameter by less than
+/// 0.001.</remarks>
 procedure trvcer6(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -447,8 +448,9 @@ procedure trvcer6(
 /// <summary>Points of an arc above the two edges of a strip on its chord, perpendicular to the
 /// chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the
-/// chord, d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ
-/// by more, or the strip comes closer than that to an end of the chord.</remarks>
+/// chord, d, the rest of the chord beyond d or the width is at most 0.001, the radii of A and B
+/// differ by more than 0.001, or an edge of the strip is less than 0.001 inside an end of the
+/// chord.</remarks>
 procedure trvcer9(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} side: LongInt;
@@ -472,17 +474,18 @@ procedure trvaxph(
   out phi: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvaxph';
 
-/// <summary>Distances and stations of two points against a segment.</summary>
+/// <summary>Distances of two points from the line of a segment, and their stations along
+/// it.</summary>
 procedure trvhin(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2, x3, y3,
     z3: Single;
   out h0, s0, h3, s3, len: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvhin';
 
-/// <summary>Marks points by a sector.</summary>
+/// <summary>Marks points as inside or outside a sector.</summary>
 /// <remarks>mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the
-/// point is outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance,
-/// the same for all points.</remarks>
+/// point is outside the sector; -1 no_sector: the angle of the rays by trvphi is within the
+/// tolerance, so all points have this value.</remarks>
 procedure trvapp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, x1, y1, x2, y2: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
@@ -492,8 +495,8 @@ procedure trvapp(
 
 /// <summary>Point of an arc on a line through a station of its chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or
-/// the chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the
-/// line touches the circle.</remarks>
+/// the chord is within the tolerance, the radii of A and B differ by more than the tolerance, A and
+/// B coincide, or the line is tangent to the circle.</remarks>
 procedure trvcer4(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s, angle: Single;
@@ -501,12 +504,12 @@ procedure trvcer4(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer4';
 
-/// <summary>Crossing of an arc's chord with a line through its turned end.</summary>
+/// <summary>Intersection of an arc's chord with a line through its rotated end.</summary>
 /// <remarks>status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal
-/// result, or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl
-/// above 2), or the input is rejected, since the radius or the chord is within the tolerance or the
-/// radii of A and B differ by more; 1 along_chord: the line runs along the chord; 2 parallel: the
-/// line is parallel to the chord.</remarks>
+/// result, or an intersection kept from an earlier call lies on the chord's line but not at A or B
+/// (trvpsl above 2), or the input is rejected, since the radius or the chord is within the
+/// tolerance or the radii of A and B differ by more than the tolerance; 1 along_chord: the line
+/// runs along the chord; 2 parallel: the line is parallel to the chord.</remarks>
 procedure trvcer10(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} turn, angle: Single;
@@ -514,10 +517,11 @@ procedure trvcer10(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer10';
 
-/// <summary>Point of an arc on the line from a station of its chord towards the sagitta.</summary>
+/// <summary>Point of an arc on the line from a station of its chord to a point of the
+/// sagitta.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative,
-/// or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ
-/// by more, or the line touches the circle.</remarks>
+/// e, the radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by
+/// more than 1e-5, or the line is tangent to the circle.</remarks>
 procedure trvcer5(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s: Single;
@@ -527,12 +531,12 @@ procedure trvcer5(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer5';
 
-/// <summary>Crossings of a line through a station of an arc's chord with the arc and with a
-/// parallel to the chord.</summary>
+/// <summary>Intersections of a line through a station of an arc's chord with the arc and with a
+/// line parallel to the chord.</summary>
 /// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is
 /// negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ
-/// by more and the rounding, side is 0, the line is parallel to the chord, or the part of the line
-/// inside the circle is not longer than 2e-4.</remarks>
+/// by more than 1e-4 and the rounding, side is 0, the line is parallel to the chord, or the part of
+/// the line inside the circle is not longer than 2e-4.</remarks>
 procedure trvcer7(
   var xc, yc, xa, ya, xb, yb: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} s: Single;
@@ -543,9 +547,10 @@ procedure trvcer7(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvcer7';
 
 /// <summary>Rounds the corner at P0 between the segments to P1 and to P2.</summary>
-/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment
-/// is not above the tolerance, the sine of the angle between the segments is within it, or the arc
-/// touches one beyond its end by more.</remarks>
+/// <remarks>status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length
+/// of a segment is not above the tolerance, the sine of the angle between the segments is within
+/// the tolerance, or a tangent point lies beyond the end of its segment by more than the
+/// tolerance.</remarks>
 procedure trvard(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, x1, y1, x2, y2, r: Single;
   var xc, yc, xt1, yt1, xt2, yt2: Single;
@@ -572,14 +577,15 @@ procedure trvord1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvord1';
 
-/// <summary>Positions of the entries of a list in ascending order; the list itself stays.</summary>
+/// <summary>Positions of the elements of a list in ascending order; the list itself is not
+/// changed.</summary>
 procedure trvordi(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} V: TTrvReals;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   var IDX: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvordi';
 
-/// <summary>Order of parallel lines by where they cross an axis.</summary>
+/// <summary>Order of parallel lines by their intersections with an axis.</summary>
 /// <remarks>status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not
 /// a family of parallel and distinct lines, or n &lt; 1.</remarks>
 procedure trvpor(
@@ -604,7 +610,7 @@ procedure trvsel1(
   var pos: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvsel1';
 
-/// <summary>All pairs of entries of two lists that differ by at most a tolerance.</summary>
+/// <summary>All pairs of elements of two lists that differ by at most a tolerance.</summary>
 procedure trvmer13(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvReals;
@@ -615,8 +621,8 @@ procedure trvmer13(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer13';
 
-/// <summary>Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as
-/// Integers.</summary>
+/// <summary>Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold
+/// Reals.</summary>
 procedure trvmer1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvIntegers;
@@ -636,28 +642,26 @@ procedure trvmer11(
   var OUT_: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer11';
 
-/// <summary>Sorts Integers ascending and drops repeats, in place.</summary>
+/// <summary>Sorts Integers ascending and removes duplicates, in place.</summary>
 procedure trvmer2(
   var V: TTrvIntegers;
   var n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer2';
 
-/// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left, in
-/// place.</summary>
+/// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in place.</summary>
 procedure trvmer3(
   var V: TTrvReals;
   var n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer3';
 
-/// <summary>Sorts Reals ascending and drops each entry that agrees with the last one left, in
-/// place.</summary>
+/// <summary>Sorts Reals ascending and removes duplicates within a tolerance, in place.</summary>
 procedure trvmer12(
   var V: TTrvReals;
   var n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer12';
 
-/// <summary>Joins to a list those entries of another that it does not hold yet.</summary>
+/// <summary>Appends to a list those elements of another that it does not hold yet.</summary>
 procedure trvmer4(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvReals;
@@ -669,7 +673,7 @@ procedure trvmer4(
   var IB: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer4';
 
-/// <summary>Entries of a list that another holds too.</summary>
+/// <summary>Elements of a list that another holds too.</summary>
 procedure trvmer14(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} A: TTrvIntegers;
@@ -679,7 +683,7 @@ procedure trvmer14(
   var OUT_: TTrvIntegers);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer14';
 
-/// <summary>Removes from a list the entries that another holds, in place.</summary>
+/// <summary>Removes from a list the elements that another holds, in place.</summary>
 procedure trvmer15(
   var na: LongInt;
   var A: TTrvIntegers;
@@ -688,17 +692,18 @@ procedure trvmer15(
   out count: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer15';
 
-/// <summary>Drops repeated vertices of a closed outline, in place.</summary>
+/// <summary>Removes repeated vertices of a closed outline, in place.</summary>
 procedure trvmer16(
   var X, Y: TTrvReals;
   var n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} tol: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvmer16';
 
-/// <summary>All pairs of points of two lists that agree within a tolerance in each
+/// <summary>All pairs of points of two lists that match within a tolerance in each
 /// coordinate.</summary>
-/// <remarks>status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some
-/// have; 2 all_paired: every one has.</remarks>
+/// <remarks>status: which points of A match a point of B: 0 no_pair: no point of A matches a point
+/// of B; 1 some_pairs: some points of A match points of B, others do not; 2 all_paired: every point
+/// of A matches a point of B.</remarks>
 procedure trvptp1(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} XA, YA, ZA: TTrvReals;
@@ -710,7 +715,7 @@ procedure trvptp1(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptp1';
 
-/// <summary>Merges three lists of points into one list of places.</summary>
+/// <summary>Merges three lists of points into one list.</summary>
 procedure trvptp2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} na: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} XA, YA, ZA: TTrvReals;
@@ -735,7 +740,7 @@ procedure trvptp2(
   var ZL: TTrvReals);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptp2';
 
-/// <summary>Where the horizontal line y = y0 crosses a closed outline.</summary>
+/// <summary>Crossings of the horizontal line y = y0 with a closed outline.</summary>
 procedure trvppp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X, Y: TTrvReals;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
@@ -744,7 +749,7 @@ procedure trvppp(
   var XC: TTrvReals);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvppp';
 
-/// <summary>Where the segment from P1 to P2 crosses a closed outline.</summary>
+/// <summary>Crossings of the segment from P1 to P2 with a closed outline.</summary>
 /// <remarks>status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
 /// outside: P1 is outside the outline by the even-odd rule; -1 refused: n &lt; 3, or P1 and P2
 /// coincide within the tolerance in both coordinates.</remarks>
@@ -824,7 +829,8 @@ procedure trvdtr3(
   out det: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvdtr3';
 
-/// <summary>Divides two coefficients by a third, or gives zeros where it vanishes.</summary>
+/// <summary>Divides two coefficients by a third, or gives zeros if the third is zero within the
+/// tolerance.</summary>
 procedure trvgrc(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a, b, c: Single;
   out q1, q2: Single);
@@ -852,7 +858,7 @@ procedure trvpos(
   out i: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpos';
 
-/// <summary>Entry of an ascending table that equals a value, or the interval that holds
+/// <summary>Element of an ascending table that equals a value, or the interval that holds
 /// it.</summary>
 /// <remarks>status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i)
 /// &lt; x &lt; A(i+1); 0 neither: x equals no element and lies in no interval.</remarks>
@@ -881,7 +887,7 @@ procedure trvln4(
   out a, b, c: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvln4';
 
-/// <summary>Parallel of a line at a signed distance.</summary>
+/// <summary>Line parallel to a line at a signed distance.</summary>
 procedure trvln2(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a, b, c, d: Single;
   out a2, b2, c2: Single);
@@ -919,11 +925,13 @@ procedure trvlul(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvlul';
 
 /// <summary>Which components of two triples differ by more than the tolerance.</summary>
-/// <remarks>code: which components differ by more than the tolerance (TrvComponents): 0 none: no
-/// component is; 1 all: all three components are; 2 first: the first component alone is; 3 second:
-/// the second component alone is; 4 third: the third component alone is; 5 first_second: the first
-/// and the second component are; 6 second_third: the second and the third component are; 7
-/// first_third: the first and the third component are.</remarks>
+/// <remarks>code: which components of p - q are above the tolerance (TrvComponents): 0 none: no
+/// component is above the tolerance; 1 all: all three components are above the tolerance; 2 first:
+/// only the first component is above the tolerance; 3 second: only the second component is above
+/// the tolerance; 4 third: only the third component is above the tolerance; 5 first_second: only
+/// the first and the second are above the tolerance; 6 second_third: only the second and the third
+/// are above the tolerance; 7 first_third: only the first and the third are above the
+/// tolerance.</remarks>
 procedure trvpsn(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} p1, p2, p3, q1, q2, q3: Single;
   out code: LongInt);
@@ -931,10 +939,12 @@ procedure trvpsn(
 
 /// <summary>Whether a point lies on the line of space through P0 with direction D.</summary>
 /// <remarks>code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0
-/// none: no component is; 1 all: all three components are; 2 first: the first component alone is; 3
-/// second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-/// the first and the second component are; 6 second_third: the second and the third component are;
-/// 7 first_third: the first and the third component are.</remarks>
+/// none: no component is above the tolerance; 1 all: all three components are above the tolerance;
+/// 2 first: only the first component is above the tolerance; 3 second: only the second component is
+/// above the tolerance; 4 third: only the third component is above the tolerance; 5 first_second:
+/// only the first and the second are above the tolerance; 6 second_third: only the second and the
+/// third are above the tolerance; 7 first_third: only the first and the third are above the
+/// tolerance.</remarks>
 /// <remarks>on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or
 /// code is 0.</remarks>
 procedure trvln6(
@@ -942,14 +952,17 @@ procedure trvln6(
   out code, on_: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvln6';
 
-/// <summary>Line of two planes, and whether it agrees with a point at a retained station.</summary>
+/// <summary>Direction of the line of two planes, and whether a point matches it at a retained
+/// coordinate.</summary>
 /// <remarks>code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none:
-/// no component is; 1 all: all three components are; 2 first: the first component alone is; 3
-/// second: the second component alone is; 4 third: the third component alone is; 5 first_second:
-/// the first and the second component are; 6 second_third: the second and the third component are;
-/// 7 first_third: the first and the third component are.</remarks>
-/// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match
-/// the line at the station.</remarks>
+/// no component is above the tolerance; 1 all: all three components are above the tolerance; 2
+/// first: only the first component is above the tolerance; 3 second: only the second component is
+/// above the tolerance; 4 third: only the third component is above the tolerance; 5 first_second:
+/// only the first and the second are above the tolerance; 6 second_third: only the second and the
+/// third are above the tolerance; 7 first_third: only the first and the third are above the
+/// tolerance.</remarks>
+/// <remarks>on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does
+/// not match the line at the kept coordinate.</remarks>
 procedure trvln7(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz: Single;
   out ex, ey: Single;
@@ -1051,15 +1064,15 @@ procedure trvtra(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvtra';
 
-/// <summary>Reverses a list, in place. Elements move bit for bit, so Reals pass as well as
-/// Integers.</summary>
+/// <summary>Reverses a list, in place. Elements move bit for bit, so the list may also hold
+/// Reals.</summary>
 procedure trvinv(
   var V: TTrvIntegers;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvinv';
 
-/// <summary>Inserts a list into another. Elements move bit for bit, so Reals pass as well as
-/// Integers.</summary>
+/// <summary>Inserts a list into another. Elements move bit for bit, so the lists may also hold
+/// Reals.</summary>
 procedure trvadr(
   var V: TTrvIntegers;
   var n: LongInt;
@@ -1305,10 +1318,10 @@ procedure trvwar_c(
 /// <summary>Properties of an open section of thin plates.</summary>
 /// <remarks>status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n &lt; 1, a
 /// coordinate or a thickness is infinite or NaN, or a length or a thickness is not above the
-/// tolerance; 2 to n: this plate is the first at fault, it starts at no end of an earlier plate, or
-/// ends at one and closes a cell; n+2 to 2*n: plate status - n is the first at fault, it crosses,
-/// touches or overlaps an earlier plate elsewhere than at its start, which may close a
-/// cell.</remarks>
+/// tolerance; 2 to n: number of the first faulty plate, which does not start at an end of an
+/// earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the number of the first
+/// faulty plate, which crosses, touches or overlaps an earlier plate elsewhere than at its start,
+/// and may close a cell.</remarks>
 procedure trvmxt(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} n: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} X1, Y1, X2, Y2, T: TTrvReals;
@@ -1331,7 +1344,7 @@ procedure trvmxt_fb(
 
 // Rotations about the origin and the axes
 
-/// <summary>Turns plane points about the origin, in place.</summary>
+/// <summary>Rotates plane points about the origin, in place.</summary>
 procedure trvrot(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} mode: LongInt;
   var x, y: TTrvReals;
@@ -1339,7 +1352,7 @@ procedure trvrot(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} angle: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvrot';
 
-/// <summary>Turns points about the x axis, in place.</summary>
+/// <summary>Rotates points about the x axis, in place.</summary>
 procedure trvrotx(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} mode: LongInt;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x: TTrvReals;
@@ -1348,7 +1361,7 @@ procedure trvrotx(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} angle: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvrotx';
 
-/// <summary>Turns points about the y axis, in place.</summary>
+/// <summary>Rotates points about the y axis, in place.</summary>
 procedure trvroty(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} mode: LongInt;
   var x: TTrvReals;
@@ -1358,7 +1371,7 @@ procedure trvroty(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} angle: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvroty';
 
-/// <summary>Turns points about the z axis, in place.</summary>
+/// <summary>Rotates points about the z axis, in place.</summary>
 procedure trvrotz(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} mode: LongInt;
   var x, y: TTrvReals;
@@ -1411,7 +1424,7 @@ procedure trvaxel(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvaxel';
 
-/// <summary>Shifts points and turns them about the global axes x, y and z, in this order and in
+/// <summary>Shifts points and rotates them about the global axes x, y and z, in this order and in
 /// place.</summary>
 procedure trvptr(
   var X, Y, Z: TTrvReals;
@@ -1419,7 +1432,7 @@ procedure trvptr(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, ax, ay, az: Single);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptr';
 
-/// <summary>Shifts points and turns them in the frame of three points, in place.</summary>
+/// <summary>Shifts points and rotates them in the frame of three points, in place.</summary>
 /// <remarks>status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0
 /// or P1, or the three points are on one line (trvpsl).</remarks>
 procedure trvptrl(
@@ -1430,7 +1443,7 @@ procedure trvptrl(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvptrl';
 
-/// <summary>Turns points about the axis from P0 through P1, in place.</summary>
+/// <summary>Rotates points about the axis from P0 through P1, in place.</summary>
 /// <remarks>status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance
 /// of P0 and P1 is within the tolerance.</remarks>
 procedure trvpra(
@@ -1441,7 +1454,7 @@ procedure trvpra(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpra';
 
-/// <summary>Turns points of a plane in the frame of the three points that span it, then shifts
+/// <summary>Rotates points of a plane in the frame of the three points that span it, then shifts
 /// them, in place.</summary>
 /// <remarks>status: outcome: 0 done: the points are moved; -1 no_frame: P2 is at P0 or P1, or the
 /// three points are on one line (trvpsl); 1 to n: position of the first point off the
@@ -1498,7 +1511,7 @@ procedure trvpl3(
 
 /// <summary>Plane through a point, perpendicular to a segment.</summary>
 /// <remarks>status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A
-/// and B coincide, each coordinate within the tolerance (trvcnt).</remarks>
+/// and B coincide within the tolerance in each coordinate (trvcnt).</remarks>
 procedure trvpl4(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x, y, z, xa, ya, za, xb, yb, zb: Single;
   out a, b, c, d: Single;
@@ -1517,8 +1530,8 @@ procedure trvpl5(
 /// <summary>Plane of two lines, each given by a point and a direction.</summary>
 /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines
 /// are the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-/// direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in each
-/// component.</remarks>
+/// direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are within the
+/// tolerance.</remarks>
 procedure trvpl6(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xa, ya, za, ux, uy, uz, xc, yc, zc, wx, wy,
     wz: Single;
@@ -1526,7 +1539,7 @@ procedure trvpl6(
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl6';
 
-/// <summary>Plane of three points turned about the line from P0 to P1.</summary>
+/// <summary>Plane of three points, rotated about the line from P0 to P1.</summary>
 /// <remarks>status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
 /// at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3 between: P2
 /// is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is
@@ -1538,8 +1551,8 @@ procedure trvpl7(
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpl7';
 
 /// <summary>Whether a point lies on the plane of three points.</summary>
-/// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0
-/// = P1; -1 no: the point does not lie on the plane, or the three points span no plane
+/// <remarks>status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which
+/// any point does; -1 no: the point does not lie on the plane, or the three points span no plane
 /// (trvpsl).</remarks>
 procedure trvpsp(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z,
@@ -1565,8 +1578,8 @@ procedure trvpspg(
 /// <summary>Relation of two directions, taken as lines through the origin.</summary>
 /// <remarks>status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the
 /// same, opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite:
-/// the directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: u or w
-/// is within the tolerance in each component.</remarks>
+/// the directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero: all
+/// components of u, or of w, are within the tolerance.</remarks>
 procedure trvplv(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ux, uy, uz, wx, wy, wz, v7, v8: Single;
   out status: LongInt);
@@ -1626,8 +1639,8 @@ procedure trv3lda(
 /// <summary>Intersection of the lines A + t*u and C + s*w.</summary>
 /// <remarks>status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines
 /// are the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-/// direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance in each
-/// component.</remarks>
+/// direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are within the
+/// tolerance.</remarks>
 procedure trv3lni(
   var xa, ya, za: Single;
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} ux, uy, uz: Single;
@@ -1639,15 +1652,15 @@ procedure trv3lni(
 
 /// <summary>Intersection of the line P + t*u with a plane.</summary>
 /// <remarks>status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
-/// plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal is within
-/// the tolerance in each component.</remarks>
+/// plane, since the cosine of the angle between u and the normal is within the tolerance; 4 zero:
+/// all components of u, or of the normal, are within the tolerance.</remarks>
 procedure trvpli(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} x, y, z, ux, uy, uz, a, b, c, d: Single;
   var xi, yi, zi: Single;
   out status: LongInt);
   {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external TrelvinLibrary name 'trvpli';
 
-/// <summary>Position of a plane against the axes.</summary>
+/// <summary>Position of a plane relative to the axes.</summary>
 /// <remarks>position: position: 1 general: the plane is parallel to no axis; 2 parallel_x: the
 /// plane is parallel to the x axis; 3 parallel_y: the plane is parallel to the y axis; 4
 /// parallel_z: the plane is parallel to the z axis; 5 normal_z: the plane is normal to the z axis;
@@ -1675,9 +1688,9 @@ procedure trvpnl(
 /// <summary>Carries a point along when the line through it is moved.</summary>
 /// <remarks>status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
 /// moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is moved,
-/// Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the three points
-/// for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by
-/// its distance.</remarks>
+/// Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the lines count as skew
+/// because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is
+/// within the tolerance of P's although their distance is above it.</remarks>
 procedure trvlpc(
   {$IFDEF FPC}constref{$ELSE}const [ref]{$ENDIF} xp, yp, zp, x1, y1, z1: Single;
   var x2, y2, z2: Single;

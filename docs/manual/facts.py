@@ -194,8 +194,8 @@ def says(names, phrase):
 
 
 # Where trvaxe turns a normal, and the factor of trvefr.
-TOWARDS = ("turned towards +y if the y component of (P1 - P0) x (P2 - P0) is above the tolerance, else "
-           "likewise towards +z, else towards +x")
+TOWARDS = ("oriented towards +y if the y component of (P1 - P0) x (P2 - P0) is above the tolerance, "
+           "else towards +z if the z component is, else towards +x")
 FACTOR = "0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6"
 
 # Senses: by where a point goes that is turned by half a radian.

@@ -3,11 +3,11 @@
  * How every routine of Trelvin is declared and called.
  *
  * A routine takes the address of each argument and returns nothing. Reals are 32-bit IEEE numbers,
- * Integers 32-bit signed ones. In C++ a single argument is a reference, in C a pointer: the machine
- * sees the same address. Arrays are pointers to their first element in both; positions that a
- * routine takes or returns count from 1.
+ * Integers 32-bit signed ones. A single argument is a reference in C++ and a pointer in C; both are
+ * the same address. Arrays are pointers to their first element in both. Positions that a routine
+ * takes or returns count from 1.
  *
- * The type of an argument tells its kind and direction:
+ * The type of an argument shows what it holds and whether the routine reads or writes it:
  *
  *                   read             written           read and written
  *   Real            TrvIn            TrvOut            TrvInOut
@@ -22,21 +22,22 @@
  * - An output that a contract calls unwritten keeps what the caller had stored there.
  * - A single output may share its address with a single input: inputs are read before outputs are
  *   written. A single input may be an element of an array that the routine changes. Different
- *   arrays may not overlap, nor may two outputs.
- * - Nothing is guarded beyond the tests a contract names: a division by zero gives the infinity or
- *   NaN that IEEE arithmetic gives.
- * - No state of the processor is required: rounding, subnormals, exception masks and, on 32-bit
- *   Windows, the x87 unit's control word are as the library needs them during a call, and
- *   afterwards as the host had them. While a function of the host's runs, the host's own state is
- *   in force.
- * - One state the host must clear itself, in the 32-bit library for Windows: code that uses MMX
- *   instructions must execute `emms` before it calls a routine. Otherwise the register stack of the
- *   x87 unit is full, and Reals and statuses come out wrong, many as NaN.
- * - The processor's exception flags tell nothing after a call. A routine may raise any of them with
- *   finite results, and a call in a state that the library had to change gives them back as they
- *   were. To learn whether a result is usable, test the result.
- * - "Retains" names what a call leaves for later calls. Those that retain nothing may run on any
- *   threads at once; those that share what they retain serve one thread at a time.
+ *   arrays must not overlap, nor must two outputs.
+ * - Arguments are not checked, except where a contract says so: a division by zero gives the
+ *   infinity or NaN of IEEE arithmetic.
+ * - The host need not set up the floating-point environment. Each call sets rounding, subnormals,
+ *   exception masks and, on 32-bit Windows, the control word of the x87 unit as the library needs
+ *   them, and restores them at its end. While a function of the host's runs, the host's own
+ *   environment is in force.
+ * - Caution, in the 32-bit library for Windows: code that uses MMX instructions must execute `emms`
+ *   before it calls a routine. Otherwise the register stack of the x87 unit is full, and Reals and
+ *   statuses are wrong, many of them NaN.
+ * - The processor's exception flags have no meaning after a call. A routine may raise any of them
+ *   although its results are finite. If the library had to change the environment, it restores the
+ *   flags of before the call. To learn whether a result is usable, test the result.
+ * - "Retains" names the state that a call keeps for later calls. Routines that retain nothing may
+ *   run in any number of threads at once. Routines that share a state must not run in two threads
+ *   at once.
  */
 #ifndef TRELVIN_CALLING_H
 #define TRELVIN_CALLING_H

@@ -20,63 +20,66 @@
 /**
  * Sorts Reals ascending, in place.
  *
- * The result is that of a selection sort that takes the last of equal smallest entries: a NaN stays
- * where it is, the others are sorted around it, and which of -0 and 0 comes first follows from the
- * swaps.
+ * The result is that of a selection sort that takes the last of equal smallest elements. A NaN
+ * stays where it is, and the other elements are sorted around it. The order of -0 and 0 depends on
+ * the swaps.
  *
- * Cost: time grows with n, with n*log(n) where zeros of both signs occur. More than 32 entries take
- * 8*n bytes of the heap for the call. Where memory is short the sort is in place and takes
- * n*log(n), with NaNs or zeros of both signs n*n.
+ * Cost: time grows with n, with n*log(n) if there are zeros of both signs. More than 32 elements
+ * take 8*n bytes of the heap for the call. If these cannot be allocated, the sort is in place and
+ * takes n*log(n), with NaNs or zeros of both signs n*n.
  *
  * Retains: nothing.
  *
- * @param[inout] V  array of n: entries
- * @param[in]    n  number of entries; below 1 nothing happens
+ * @param[inout] V  array of n: elements
+ * @param[in]    n  number of elements; below 1 nothing happens
  */
 TRELVIN_ROUTINE trvord(TrvArrayInOut V, TrvIntIn n);
 
 /**
  * Sorts Integers ascending, in place.
  *
- * Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
- * memory is short the sort is in place and takes n*log(n).
+ * Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If these
+ * cannot be allocated, the sort is in place and takes n*log(n).
  *
  * Retains: nothing.
  *
- * @param[inout] V  array of n: entries
- * @param[in]    n  number of entries; below 1 nothing happens
+ * @param[inout] V  array of n: elements
+ * @param[in]    n  number of elements; below 1 nothing happens
  */
 TRELVIN_ROUTINE trvord1(TrvIntArrayInOut V, TrvIntIn n);
 
 /**
- * Positions of the entries of a list in ascending order; the list itself stays.
+ * Positions of the elements of a list in ascending order; the list itself is not changed.
  *
- * Equal entries, -0 and 0 among them, are listed from the highest position to the lowest. The k-th
- * round finds the smallest entry and puts the largest of the list plus 1 in its place, for the
- * later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity), an entry as
- * large as the largest is never used up: IDX(k) is then the position of the last number of the
- * list. A round finds nothing where the list holds a NaN at k, by then: a NaN at the head of the
- * list makes the sum a NaN.
+ * Equal elements, also -0 and 0, are listed from the highest position to the lowest. Round k finds
+ * the smallest element and replaces it in a copy of the list by the largest plus 1, for the later
+ * rounds.
  *
- * Cost: time grows with n. More than 512 entries take 16*n bytes of the heap for the call. If
- * memory is short, the result is the same, but the list is read anew for each 512 entries: time
- * grows with n*n.
+ * Caution: if largest plus 1 rounds to the largest (16777216 and beyond, infinity), the largest
+ * elements are found again in later rounds: IDX(k) is then the position of the last number of the
+ * list. Round k finds nothing if element k of the copy is NaN. That is so for a NaN of the list. If
+ * the first element is NaN, largest plus 1 is NaN too, and so is every element that an earlier
+ * round has found.
+ *
+ * Cost: time grows with n. More than 512 elements take 16*n bytes of the heap for the call. If
+ * these cannot be allocated, the result is the same, but the list is read again for each 512
+ * elements, and time grows with n*n.
  *
  * Retains: nothing.
  *
- * @param[in]  V    array of n: entries
- * @param[in]  n    number of entries
+ * @param[in]  V    array of n: elements
+ * @param[in]  n    number of elements
  * @param[out] IDX  array of n: IDX(k) is the position of the k-th smallest element; unwritten on a
  *                  condition: IDX(k) if its round finds nothing
  */
 TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
 
 /**
- * Order of parallel lines by where they cross an axis.
+ * Order of parallel lines by their intersections with an axis.
  *
- * That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the y
- * axis and apart from it. Parallel and distinct is what trvlni finds between the first line and
- * each other one; a single line is ordered.
+ * The lines intersect the y axis at -C/B. If the first line is parallel to the y axis and distinct
+ * from it, the intersections with the x axis, at -C/A, are used instead. Each other line must be
+ * parallel to the first line and distinct from it (trvlni). A single line is always in order.
  *
  * Cost: time and memory are those of trvordi.
  *
@@ -84,9 +87,10 @@ TRELVIN_ROUTINE trvordi(TrvArrayIn V, TrvIntIn n, TrvIntArrayOut IDX);
  *
  * @param[in]  n       number of lines
  * @param[in]  A,B,C   arrays of n: lines A*x + B*y + C = 0
- * @param[out] IDX     array of n: positions by ascending crossing, equal ones from the highest
- *                     position down, infinite and NaN ones as trvordi orders them; 1 ... n if
- *                     status is -1; unwritten on a condition: IDX(k) as trvordi leaves it
+ * @param[out] IDX     array of n: positions of the lines by ascending intersection, equal
+ *                     intersections from the highest position down, infinite and NaN intersections
+ *                     as trvordi orders them; 1 ... n if status is -1; unwritten on a condition:
+ *                     IDX(k) as trvordi leaves it
  * @param[out] status  outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are
  *                     not a family of parallel and distinct lines, or n < 1
  */
@@ -96,8 +100,9 @@ TRELVIN_ROUTINE trvpor(TrvIntIn n, TrvArrayIn A, TrvArrayIn B, TrvArrayIn C, Trv
 /**
  * Puts the corners of a quadrilateral of space in cyclic order, in place.
  *
- * An order stands when the two triangles on its diagonal from the first corner turn the same way,
- * or one of them is degenerate. Tried are (1, 2, 3, 4), then (1, 2, 4, 3); else it is (1, 4, 2, 3).
+ * An order is accepted if the two triangles on the diagonal from its first corner have the same
+ * orientation, or one of them is degenerate. The orders (1, 2, 3, 4) and (1, 2, 4, 3) are tried. If
+ * neither is accepted, the result is (1, 4, 2, 3).
  *
  * Retains: nothing.
  *
@@ -113,51 +118,52 @@ TRELVIN_ROUTINE trvorv(TrvArrayInOut X, TrvArrayInOut Y, TrvArrayInOut Z, TrvInt
  *
  * Retains: nothing.
  *
- * @param[in]  n      number of entries; below 1 the list is empty
- * @param[in]  V      array of n: entries
+ * @param[in]  n      number of elements; below 1 the list is empty
+ * @param[in]  V      array of n: elements
  * @param[in]  key    value
- * @param[out] count  how many entries equal it
- * @param[out] pos    array of n, count used: their positions, ascending
+ * @param[out] count  number of elements equal to key
+ * @param[out] pos    array of n, count used: positions of these elements, ascending
  */
 TRELVIN_ROUTINE trvsel1(TrvIntIn n, TrvIntArrayIn V, TrvIntIn key, TrvIntOut count,
                         TrvIntArrayOut pos);
 
 /**
- * All pairs of entries of two lists that differ by at most a tolerance.
+ * All pairs of elements of two lists that differ by at most a tolerance.
  *
- * Equal infinities have no difference and make no pair, and neither does anything at a tolerance
- * that is negative or NaN; here the merging routines differ.
+ * Caution: equal infinities are no pair here, since their difference is NaN. If the tolerance is
+ * negative or NaN, there are no pairs, even of equal elements. The merging routines (trvmer4,
+ * trvmer12) accept equal elements in these cases.
  *
- * Cost: time grows with na+nb and the number of pairs, unless entries crowd within a few
- * tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the call;
- * where memory is short all entries are compared.
+ * Cost: time grows with na+nb and the number of pairs, except for clusters of elements within a few
+ * tolerances: all elements of a cluster are compared. Takes up to 32*(na+nb) bytes of the heap for
+ * the call. If these cannot be allocated, all elements are compared.
  *
  * Retains: nothing.
  *
- * @param[in]  na     number of entries of A; below 1 there are none
- * @param[in]  A      array of na: entries
- * @param[in]  nb     number of entries of B; below 1 there are none
- * @param[in]  B      array of nb: entries
+ * @param[in]  na     number of elements of A; below 1 there are none
+ * @param[in]  A      array of na: elements
+ * @param[in]  nb     number of elements of B; below 1 there are none
+ * @param[in]  B      array of nb: elements
  * @param[out] count  number of pairs
- * @param[out] IA,IB  arrays of max(na+nb,na*nb): positions in A and in B, by A, then by B; first
- *                    elements 1 to na+nb, the sum of the counts as they are, are set to 0, and
- *                    those that are no pair stay 0; unwritten on a condition: elements beyond both
- *                    na+nb and count
- * @param[in]  tol    largest difference, itself included
+ * @param[out] IA,IB  arrays of max(na+nb,na*nb): positions in A and in B, sorted by A, then by B;
+ *                    elements 1 to na+nb are first set to 0 (with the counts as given, even if one
+ *                    is negative), then the pairs are written over them; unwritten on a condition:
+ *                    elements beyond both na+nb and count
+ * @param[in]  tol    largest difference (inclusive)
  */
 TRELVIN_ROUTINE trvmer13(TrvIntIn na, TrvArrayIn A, TrvIntIn nb, TrvArrayIn B, TrvIntOut count,
                          TrvIntArrayOut IA, TrvIntArrayOut IB, TrvIn tol);
 
 /**
- * Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as Integers.
+ * Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold Reals.
  *
  * Retains: nothing.
  *
- * @param[in]  na    number of entries of A; below 1 there are none
- * @param[in]  A     array of na: entries
- * @param[in]  nb    number of entries of B; below 1 there are none
- * @param[in]  B     array of nb: entries
- * @param[out] nout  number of entries written
+ * @param[in]  na    number of elements of A; below 1 there are none
+ * @param[in]  A     array of na: elements
+ * @param[in]  nb    number of elements of B; below 1 there are none
+ * @param[in]  B     array of nb: elements
+ * @param[out] nout  number of elements written
  * @param[out] OUT   array of na+nb, nout used: A, then B
  */
 TRELVIN_ROUTINE trvmer1(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayIn B, TrvIntOut nout,
@@ -168,134 +174,134 @@ TRELVIN_ROUTINE trvmer1(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayIn
  *
  * Retains: nothing.
  *
- * @param[in]  na    number of entries of A; below 1 there are none
- * @param[in]  A     array of na: entries
- * @param[in]  nb    number of entries of B; below 1 there are none
- * @param[in]  B     array of nb: entries
- * @param[out] nout  number of entries written
+ * @param[in]  na    number of elements of A; below 1 there are none
+ * @param[in]  A     array of na: elements
+ * @param[in]  nb    number of elements of B; below 1 there are none
+ * @param[in]  B     array of nb: elements
+ * @param[out] nout  number of elements written
  * @param[out] OUT   array of na+nb, nout used: A, then B
  */
 TRELVIN_ROUTINE trvmer11(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayIn B, TrvIntOut nout,
                          TrvIntArrayOut OUT);
 
 /**
- * Sorts Integers ascending and drops repeats, in place.
+ * Sorts Integers ascending and removes duplicates, in place.
  *
  * Cost: time and memory are those of trvord1.
  *
  * Retains: nothing.
  *
- * @param[inout] V  array of n, n used: entries; unspecified beyond the new n
- * @param[inout] n  number of entries; unchanged if n < 1
+ * @param[inout] V  array of n, n used: elements; unspecified beyond the new n
+ * @param[inout] n  number of elements; unchanged if n < 1
  */
 TRELVIN_ROUTINE trvmer2(TrvIntArrayInOut V, TrvIntInOut n);
 
 /**
- * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+ * Sorts Reals ascending and removes duplicates within a tolerance, in place.
  *
- * Entries agree that are equal or differ by at most 1e-5. So a NaN agrees with nothing, an infinity
- * with itself. -0 comes before 0, NaNs come last and all stay.
+ * Each element that matches the last one kept is removed. Two elements match if they are equal or
+ * differ by at most 1e-5. A NaN matches nothing, an infinity matches itself. -0 comes before 0.
+ * NaNs come last, and all are kept.
  *
- * Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
- * memory is short the sort takes n*log(n).
+ * Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If these
+ * cannot be allocated, the sort takes n*log(n).
  *
  * Retains: nothing.
  *
- * @param[inout] V  array of n, n used: entries; unspecified beyond the new n
- * @param[inout] n  number of entries; unchanged if n < 1
+ * @param[inout] V  array of n, n used: elements; unspecified beyond the new n
+ * @param[inout] n  number of elements; unchanged if n < 1
  */
 TRELVIN_ROUTINE trvmer3(TrvArrayInOut V, TrvIntInOut n);
 
 /**
- * Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+ * Sorts Reals ascending and removes duplicates within a tolerance, in place.
  *
- * Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
- * infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree. -0
- * comes before 0, NaNs come last and all stay.
+ * Each element that matches the last one kept is removed. Two elements match if they are equal or
+ * differ by at most tol. A NaN matches nothing, an infinity matches itself. If tol is negative or
+ * NaN, only equal elements match. -0 comes before 0. NaNs come last, and all are kept.
  *
- * Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
- * memory is short the sort takes n*log(n).
+ * Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If these
+ * cannot be allocated, the sort takes n*log(n).
  *
  * Retains: nothing.
  *
- * @param[inout] V    array of n, n used: entries; unspecified beyond the new n
- * @param[inout] n    number of entries; unchanged if n < 1
- * @param[in]    tol  largest difference of a repeat, itself included; may be an entry of V
+ * @param[inout] V    array of n, n used: elements; unspecified beyond the new n
+ * @param[inout] n    number of elements; unchanged if n < 1
+ * @param[in]    tol  largest difference of elements that match (inclusive); may be an element of V
  */
 TRELVIN_ROUTINE trvmer12(TrvArrayInOut V, TrvIntInOut n, TrvIn tol);
 
 /**
- * Joins to a list those entries of another that it does not hold yet.
+ * Appends to a list those elements of another that it does not hold yet.
  *
- * Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with nothing, an
- * infinity with itself, and at a tolerance that is negative or NaN equal entries alone agree.
+ * Two elements match if they are equal or differ by at most tol. A NaN matches nothing, an infinity
+ * matches itself. If tol is negative or NaN, only equal elements match.
  *
- * Cost: time grows with na+nb, unless entries crowd within a few tolerances: a crowd's are compared
- * with each other. Takes up to 48*(na+nb) bytes of the heap for the call; where memory is short all
- * entries are compared.
+ * Cost: time grows with na+nb, except for clusters of elements within a few tolerances: all
+ * elements of a cluster are compared. Takes up to 48*(na+nb) bytes of the heap for the call. If
+ * these cannot be allocated, all elements are compared.
  *
  * Retains: nothing.
  *
- * @param[in]  na    number of entries of A; below 1 there are none
- * @param[in]  A     array of na: entries
- * @param[in]  nb    number of entries of B; below 1 there are none
- * @param[in]  B     array of nb: entries
- * @param[in]  tol   largest difference of entries that agree, itself included
- * @param[out] nout  number of entries written
- * @param[out] OUT   array of na+nb, nout used: A as it is, then the entries of B that agree with
- *                   none before them in OUT
- * @param[out] IB    array of nb: for each entry of B the first position in OUT that agrees with it,
- *                   or its own, for a NaN
+ * @param[in]  na    number of elements of A; below 1 there are none
+ * @param[in]  A     array of na: elements
+ * @param[in]  nb    number of elements of B; below 1 there are none
+ * @param[in]  B     array of nb: elements
+ * @param[in]  tol   largest difference of elements that match (inclusive)
+ * @param[out] nout  number of elements written
+ * @param[out] OUT   array of na+nb, nout used: A as it is, then the elements of B that match no
+ *                   element before them in OUT
+ * @param[out] IB    array of nb: for each element of B, the position in OUT of the first element
+ *                   that matches it; for a NaN, its own position in OUT
  */
 TRELVIN_ROUTINE trvmer4(TrvIntIn na, TrvArrayIn A, TrvIntIn nb, TrvArrayIn B, TrvIn tol,
                         TrvIntOut nout, TrvArrayOut OUT, TrvIntArrayOut IB);
 
 /**
- * Entries of a list that another holds too.
+ * Elements of a list that another holds too.
  *
- * Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for
- * the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the
- * stack.
+ * Cost: time grows with na+nb. More than 512 elements take up to 17*na+8*nb bytes of the heap for
+ * the call. If these cannot be allocated, blocks of 512 are compared instead, on less than 16 KB of
+ * the stack.
  *
  * Retains: nothing.
  *
- * @param[in]  na    number of entries of A; below 1 there are none
- * @param[in]  A     array of na: entries
- * @param[in]  nb    number of entries of B; below 1 there are none
- * @param[in]  B     array of nb: entries
- * @param[out] nout  number of entries written
- * @param[out] OUT   array of na, nout used: the entries of A that B holds, repeats too, in A's
+ * @param[in]  na    number of elements of A; below 1 there are none
+ * @param[in]  A     array of na: elements
+ * @param[in]  nb    number of elements of B; below 1 there are none
+ * @param[in]  B     array of nb: elements
+ * @param[out] nout  number of elements written
+ * @param[out] OUT   array of na, nout used: the elements of A that B holds, with duplicates, in A's
  *                   order
  */
 TRELVIN_ROUTINE trvmer14(TrvIntIn na, TrvIntArrayIn A, TrvIntIn nb, TrvIntArrayIn B, TrvIntOut nout,
                          TrvIntArrayOut OUT);
 
 /**
- * Removes from a list the entries that another holds, in place.
+ * Removes from a list the elements that another holds, in place.
  *
- * Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap for
- * the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB of the
- * stack.
+ * Cost: time grows with na+nb. More than 512 elements take up to 17*na+8*nb bytes of the heap for
+ * the call. If these cannot be allocated, blocks of 512 are compared instead, on less than 16 KB of
+ * the stack.
  *
  * Retains: nothing.
  *
- * @param[inout] na     number of entries of A; unchanged if na < 1
- * @param[inout] A      array of na, na used: those that stay, in their order; unspecified beyond
- *                      the new na
- * @param[in]    nb     number of entries of B; below 1 there are none
- * @param[in]    B      array of nb: entries
- * @param[out]   count  how many were removed
+ * @param[inout] na     number of elements of A; unchanged if na < 1
+ * @param[inout] A      array of na, na used: elements; those kept stay in their order; unspecified
+ *                      beyond the new na
+ * @param[in]    nb     number of elements of B; below 1 there are none
+ * @param[in]    B      array of nb: elements
+ * @param[out]   count  number of elements removed
  */
 TRELVIN_ROUTINE trvmer15(TrvIntInOut na, TrvIntArrayInOut A, TrvIntIn nb, TrvIntArrayIn B,
                          TrvIntOut count);
 
 /**
- * Drops repeated vertices of a closed outline, in place.
+ * Removes repeated vertices of a closed outline, in place.
  *
- * A vertex that agrees with the last one left is dropped, and at the end those that agree with the
- * first. Vertices agree whose x and y both are equal or differ by at most the tolerance. So a NaN
- * agrees with nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
- * coordinates alone agree.
+ * Each vertex that matches the last one kept is removed; so are vertices at the end that match the
+ * first. Two vertices match if both x and both y are equal or differ by at most tol. A NaN matches
+ * nothing, an infinity matches itself. If tol is negative or NaN, only equal coordinates match.
  *
  * Cost: time grows with n.
  *
@@ -303,22 +309,21 @@ TRELVIN_ROUTINE trvmer15(TrvIntInOut na, TrvIntArrayInOut A, TrvIntIn nb, TrvInt
  *
  * @param[inout] X,Y  arrays of n, n used: vertices; unspecified beyond the new n
  * @param[inout] n    number of vertices; unchanged if n < 1
- * @param[in]    tol  largest difference of either coordinate, itself included
+ * @param[in]    tol  largest difference of either coordinate (inclusive)
  */
 TRELVIN_ROUTINE trvmer16(TrvArrayInOut X, TrvArrayInOut Y, TrvIntInOut n, TrvIn tol);
 
 /* Points ------------------------------------------------------------------------------------- */
 
 /**
- * All pairs of points of two lists that agree within a tolerance in each coordinate.
+ * All pairs of points of two lists that match within a tolerance in each coordinate.
  *
- * Coordinates agree that are equal or differ by at most the tolerance. So a NaN agrees with
- * nothing, an infinity with itself, and at a tolerance that is negative or NaN equal coordinates
- * alone agree.
+ * Two coordinates match if they are equal or differ by at most tol. A NaN matches nothing, an
+ * infinity matches itself. If tol is negative or NaN, only equal coordinates match.
  *
- * Cost: time grows with na+nb and the number of pairs, unless points crowd within a few tolerances:
- * a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the call; where memory
- * is short all points are compared.
+ * Cost: time grows with na+nb and the number of pairs, except for clusters of points within a few
+ * tolerances: all points of a cluster are compared. Takes up to 32*(na+nb) bytes of the heap for
+ * the call. If these cannot be allocated, all points are compared.
  *
  * Retains: nothing.
  *
@@ -326,26 +331,29 @@ TRELVIN_ROUTINE trvmer16(TrvArrayInOut X, TrvArrayInOut Y, TrvIntInOut n, TrvIn 
  * @param[in]  XA,YA,ZA  arrays of na: points of A
  * @param[in]  nb        number of points of B; below 1 there are none
  * @param[in]  XB,YB,ZB  arrays of nb: points of B
- * @param[in]  tol       largest difference of a coordinate, itself included
+ * @param[in]  tol       largest difference of a coordinate (inclusive)
  * @param[out] count     number of pairs
- * @param[out] IA,IB     arrays of na*nb, count used: positions in A and in B, by A, then by B
- * @param[out] status    which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs:
- *                       some have; 2 all_paired: every one has
+ * @param[out] IA,IB     arrays of na*nb, count used: positions in A and in B, sorted by A, then by
+ *                       B
+ * @param[out] status    which points of A match a point of B: 0 no_pair: no point of A matches a
+ *                       point of B; 1 some_pairs: some points of A match points of B, others do
+ *                       not; 2 all_paired: every point of A matches a point of B
  */
 TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA, TrvIntIn nb,
                         TrvArrayIn XB, TrvArrayIn YB, TrvArrayIn ZB, TrvIn tol, TrvIntOut count,
                         TrvIntArrayOut IA, TrvIntArrayOut IB, TrvIntOut status);
 
 /**
- * Merges three lists of points into one list of places.
+ * Merges three lists of points into one list.
  *
- * A point is at the first place it agrees with, else it makes a new one. Points agree when each of
- * their coordinates is equal or differs by at most the tolerance. So a NaN agrees with nothing, an
- * infinity with itself, and at a tolerance that is negative or NaN equal coordinates alone agree.
+ * Each point is assigned to the first merged point that matches it. If none matches, the point
+ * becomes a new merged point. Two points match if each of their coordinates is equal or differs by
+ * at most tol. A NaN matches nothing, an infinity matches itself. If tol is negative or NaN, only
+ * equal coordinates match.
  *
- * Cost: time grows with na+nb+nc and the number of pairs, unless points crowd within a few
- * tolerances: a crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the call;
- * where memory is short all points are compared.
+ * Cost: time grows with na+nb+nc and the number of pairs, except for clusters of points within a
+ * few tolerances: all points of a cluster are compared. Takes up to 48*(na+nb+nc) bytes of the heap
+ * for the call. If these cannot be allocated, all points are compared.
  *
  * Retains: nothing.
  *
@@ -355,24 +363,25 @@ TRELVIN_ROUTINE trvptp1(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
  * @param[in]  XB,YB,ZB  arrays of nb: points of B
  * @param[in]  nc        number of points of C; below 1 there are none
  * @param[in]  XC,YC,ZC  arrays of nc: points of C
- * @param[in]  tol       largest difference of a coordinate, itself included
+ * @param[in]  tol       largest difference of a coordinate (inclusive)
  * @param[out] nab       number of pairs of A and B
- * @param[out] IAB,JAB   arrays of na*nb, nab used: positions in A and in B, by A, then by B
+ * @param[out] IAB,JAB   arrays of na*nb, nab used: positions in A and in B, sorted by A, then by B
  * @param[out] nbc       number of pairs of B and C
- * @param[out] IBC,JBC   arrays of nb*nc, nbc used: positions in B and in C, by B, then by C
+ * @param[out] IBC,JBC   arrays of nb*nc, nbc used: positions in B and in C, sorted by B, then by C
  * @param[out] nca       number of pairs of C and A
- * @param[out] ICA,JCA   arrays of nc*na, nca used: positions in C and in A, by C, then by A
- * @param[out] nout      number of places
- * @param[out] XO,YO,ZO  arrays of na+nb+nc, nout used: places, in the order of A, B, C
- * @param[out] MA        array of na: the place of each point of A
- * @param[out] MB        array of nb: the place of each point of B
- * @param[out] MC        array of nc: the place of each point of C
- * @param[in]  k         a place
- * @param[out] nk        number of points at it; 0 where there is no such place
- * @param[out] PK        array of na+nb+nc, nk used: their positions, counted on through A, B and C
+ * @param[out] ICA,JCA   arrays of nc*na, nca used: positions in C and in A, sorted by C, then by A
+ * @param[out] nout      number of merged points
+ * @param[out] XO,YO,ZO  arrays of na+nb+nc, nout used: merged points, in the order of A, B, C
+ * @param[out] MA        array of na: position of the merged point of each point of A
+ * @param[out] MB        array of nb: position of the merged point of each point of B
+ * @param[out] MC        array of nc: position of the merged point of each point of C
+ * @param[in]  k         position of a merged point
+ * @param[out] nk        number of points assigned to merged point k; 0 if there is no such point
+ * @param[out] PK        array of na+nb+nc, nk used: positions of these points, counted through A,
+ *                       then B, then C
  * @param[out] nz        number of levels
- * @param[out] ZL        array of na+nb+nc, nz used: the distinct z of the places, ascending, as
- *                       trvmer12 leaves them; unspecified up to nout
+ * @param[out] ZL        array of na+nb+nc, nz used: the distinct z of the merged points, ascending,
+ *                       as trvmer12 leaves them; unspecified up to nout
  */
 TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA, TrvIntIn nb,
                         TrvArrayIn XB, TrvArrayIn YB, TrvArrayIn ZB, TrvIntIn nc, TrvArrayIn XC,
@@ -386,38 +395,40 @@ TRELVIN_ROUTINE trvptp2(TrvIntIn na, TrvArrayIn XA, TrvArrayIn YA, TrvArrayIn ZA
 /* Crossings of an outline -------------------------------------------------------------------- */
 
 /**
- * Where the horizontal line y = y0 crosses a closed outline.
+ * Crossings of the horizontal line y = y0 with a closed outline.
  *
- * An edge counts from its lower end, included, to its upper end, excluded. So the count is even,
- * and the first and second, third and fourth crossing and so on bound the inside. Formed in double
- * precision and rounded once.
+ * An edge includes its lower end and excludes its upper end. So the count is even, and the inside
+ * lies between the first and second crossing, between the third and fourth, and so on. Formed in
+ * double precision and rounded once.
  *
- * Cost: time grows with n. More than 32 crossings take up to 8*n bytes of the heap for the call;
- * where memory is short their sort takes n*log(n).
+ * Cost: time grows with n. More than 32 crossings take up to 8*n bytes of the heap for the call. If
+ * these cannot be allocated, sorting the crossings takes n*log(n).
  *
  * Retains: nothing.
  *
  * @param[in]  X,Y    arrays of n: vertices
- * @param[in]  n      number of vertices; below 3 nothing is crossed
+ * @param[in]  n      number of vertices; below 3 there are no crossings
  * @param[in]  y0     height of the line
  * @param[out] count  number of crossings
- * @param[out] XC     array of n, count used: their x, ascending; -0 before 0, NaNs last, which
- *                    vertices that are not finite give
+ * @param[out] XC     array of n, count used: x of the crossings, ascending; -0 before 0; NaNs, from
+ *                    infinite or NaN vertices, last
  */
 TRELVIN_ROUTINE trvppp(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn y0, TrvIntOut count,
                        TrvArrayOut XC);
 
 /**
- * Where the segment from P1 to P2 crosses a closed outline.
+ * Crossings of the segment from P1 to P2 with a closed outline.
  *
- * A crossing is where the outline passes from one side of the segment's line to the other, at a
- * vertex on the line too. An outline that touches the line, or runs along it, and goes back to its
- * side does not cross. One that runs along it and leaves to the other side crosses once, where the
- * segment, seen from P1, first meets the run, whichever way the outline goes round. A crossing
- * counts when P1 and P2 are not both on the same side of the edge crossed: ends on the outline
- * count. Sides are formed in double precision, and are exact where differences of coordinates take
- * no more than 26 bits, whole numbers up to 33554432 for example; points are formed in double
- * precision and rounded once.
+ * A crossing is a point where the outline passes from one side of the segment's line to the other;
+ * this may be a vertex on the line. If the outline touches the line, or runs along it, and returns
+ * to the same side, it does not cross. If it runs along the line and leaves to the other side, it
+ * crosses once: where the segment, from P1, first meets the run, whichever orientation the outline
+ * has. A crossing counts unless P1 and P2 are both on the same side of the edge crossed, so it also
+ * counts if P1 or P2 is on the outline.
+ *
+ * Sides are formed in double precision. They are exact if differences of coordinates take no more
+ * than 26 bits, for example for whole numbers up to 33554432. Points are formed in double precision
+ * and rounded once.
  *
  * Cost: time grows with n, and with count*log(count); nothing is allocated.
  *
@@ -427,13 +438,13 @@ TRELVIN_ROUTINE trvppp(TrvArrayIn X, TrvArrayIn Y, TrvIntIn n, TrvIn y0, TrvIntO
  * @param[in]  n       number of vertices
  * @param[in]  x1,y1   P1
  * @param[in]  x2,y2   P2
- * @param[out] count   number of crossings; 0 when status is -1
+ * @param[out] count   number of crossings; 0 if status is -1
  * @param[out] XI,YI   arrays of n, count used: points
- * @param[out] T       array of n, count used: their places on the segment, ascending from 0 at P1
- *                     to 1 at P2
- * @param[out] EDGE    array of n, count used: the edges crossed, ascending where places are equal;
- *                     edge i runs from vertex i to vertex i+1; at a vertex or a run the edge by
- *                     which the outline leaves the line
+ * @param[out] T       array of n, count used: parameters of the points on the segment, ascending
+ *                     from 0 at P1 to 1 at P2
+ * @param[out] EDGE    array of n, count used: positions of the edges crossed, ascending if
+ *                     parameters are equal; edge i runs from vertex i to vertex i+1; at a vertex or
+ *                     a run, the edge by which the outline leaves the line
  * @param[out] status  where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0
  *                     outside: P1 is outside the outline by the even-odd rule; -1 refused: n < 3,
  *                     or P1 and P2 coincide within the tolerance in both coordinates

@@ -25,15 +25,16 @@ enum TrvappMark {
   TRVAPP_INSIDE = 1,
   /** the point is outside the sector */
   TRVAPP_OUTSIDE = 2,
-  /** the rays' angle by trvphi is within the tolerance, the same for all points */
+  /** the angle of the rays by trvphi is within the tolerance, so all points have this value */
   TRVAPP_NO_SECTOR = -1,
 };
 
 /** trvcer10: outcome. */
 enum Trvcer10Status {
-  /** the line crosses the chord, which is the normal result, or a crossing of an earlier call lies
-   * on the chord's line but not at A or B (trvpsl above 2), or the input is rejected, since the
-   * radius or the chord is within the tolerance or the radii of A and B differ by more */
+  /** the line crosses the chord, which is the normal result, or an intersection kept from an
+   * earlier call lies on the chord's line but not at A or B (trvpsl above 2), or the input is
+   * rejected, since the radius or the chord is within the tolerance or the radii of A and B differ
+   * by more than the tolerance */
   TRVCER10_CROSSING_OR_REFUSED = 0,
   /** the line runs along the chord */
   TRVCER10_ALONG_CHORD = 1,
@@ -41,13 +42,13 @@ enum Trvcer10Status {
   TRVCER10_PARALLEL = 2,
 };
 
-/** trvptp1: which points of A have a partner in B. */
+/** trvptp1: which points of A match a point of B. */
 enum Trvptp1Status {
-  /** none has */
+  /** no point of A matches a point of B */
   TRVPTP1_NO_PAIR = 0,
-  /** some have */
+  /** some points of A match points of B, others do not */
   TRVPTP1_SOME_PAIRS = 1,
-  /** every one has */
+  /** every point of A matches a point of B */
   TRVPTP1_ALL_PAIRED = 2,
 };
 
@@ -163,7 +164,7 @@ enum TrvplvStatus {
   TRVPLV_OPPOSITE = 4,
   /** the directions are perpendicular */
   TRVPLV_PERPENDICULAR = 5,
-  /** u or w is within the tolerance in each component */
+  /** all components of u, or of w, are within the tolerance */
   TRVPLV_ZERO = 7,
 };
 
@@ -179,9 +180,10 @@ enum Trv3spStatus {
 enum TrvpliStatus {
   /** the point is computed */
   TRVPLI_DONE = 0,
-  /** the line is parallel to the plane, the cosine of u and the normal is within the tolerance */
+  /** the line is parallel to the plane, since the cosine of the angle between u and the normal is
+   * within the tolerance */
   TRVPLI_PARALLEL = 3,
-  /** u or the normal is within the tolerance in each component */
+  /** all components of u, or of the normal, are within the tolerance */
   TRVPLI_ZERO = 4,
 };
 
@@ -217,9 +219,10 @@ enum TrvlpcStatus {
   TRVLPC_MOVED_ONE_SIDE = 3,
   /** Q2 is moved, Q1 and Q2 are on either side of P */
   TRVLPC_MOVED_EITHER_SIDE = 4,
-  /** Q2 is moved, rounding takes the three points for skew lines */
+  /** Q2 is moved, although the lines count as skew because of rounding */
   TRVLPC_MOVED_SKEW = 6,
-  /** Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance */
+  /** Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is within the tolerance of P's
+   * although their distance is above it */
   TRVLPC_MOVED_AT_P = 7,
 };
 

@@ -2,13 +2,14 @@
  * @file
  * Points, vectors, straight lines and angles.
  *
- * A plane line is the triple (a, b, c) of a*x + b*y + c = 0, of whatever length its construction
- * gives; only trvlds divides by sqrt(a*a + b*b). A plane of space is the quadruple (a, b, c, d) of
- * a*x + b*y + c*z + d = 0.
+ * A plane line is the triple (a, b, c) of a*x + b*y + c = 0. The length of its normal (a, b)
+ * depends on the routine that constructs it; only trvlds divides by sqrt(a*a + b*b). A plane of
+ * space is the quadruple (a, b, c, d) of a*x + b*y + c*z + d = 0.
  *
- * Lines and planes by their coefficients lose digits far from the origin: the constant grows with
- * the coordinates and cancels again. 1e5 units away a distance from a line (trvlds) has no digit
- * left, nor has an intersection (trvlni). Take a local origin first (trvtra, trv3tra).
+ * Caution: the coefficients of lines and planes lose digits far from the origin, because the
+ * constant grows with the coordinates and cancels again. At 1e5 units, a distance from a line
+ * (trvlds) or an intersection (trvlni) has no correct digit left. Use a local origin (trvtra,
+ * trv3tra).
  *
  *     float a1 = 1, b1 = 0, c1 = -4, a2 = 0, b2 = 1, c2 = -3, x, y;
  *     int32_t status;
@@ -140,15 +141,13 @@ TRELVIN_ROUTINE trvdtr3(TrvIn a1, TrvIn a2, TrvIn a3, TrvIn b1, TrvIn b2, TrvIn 
                         TrvIn c2, TrvIn c3, TrvOut det);
 
 /**
- * Divides two coefficients by a third, or gives zeros where it vanishes.
- *
- * The first quotient is that of the last coefficient, the second that of the middle one.
+ * Divides two coefficients by a third, or gives zeros if the third is zero within the tolerance.
  *
  * Retains: nothing.
  *
  * @param[in]  a,b,c  coefficients of a relation, a leading
- * @param[out] q1     c/a, or 0 when a is within the tolerance or NaN
- * @param[out] q2     b/a, or 0 likewise
+ * @param[out] q1     c/a, or 0 if a is within the tolerance or NaN
+ * @param[out] q2     b/a, or 0 if a is within the tolerance or NaN
  */
 TRELVIN_ROUTINE trvgrc(TrvIn a, TrvIn b, TrvIn c, TrvOut q1, TrvOut q2);
 
@@ -161,8 +160,8 @@ TRELVIN_ROUTINE trvgrc(TrvIn a, TrvIn b, TrvIn c, TrvOut q1, TrvOut q2);
  *
  * @param[in]  x1,x2  abscissas of the samples
  * @param[in]  y1,y2  ordinates of the samples
- * @param[in]  x      abscissa asked for
- * @param[out] y      ordinate; infinite or NaN where x1 = x2
+ * @param[in]  x      abscissa at which to interpolate
+ * @param[out] y      ordinate; infinite or NaN if x1 = x2
  */
 TRELVIN_ROUTINE trvint(TrvIn x1, TrvIn x2, TrvIn y1, TrvIn y2, TrvIn x, TrvOut y);
 
@@ -171,7 +170,7 @@ TRELVIN_ROUTINE trvint(TrvIn x1, TrvIn x2, TrvIn y1, TrvIn y2, TrvIn x, TrvOut y
  *
  * Retains: nothing.
  *
- * @param[in]  u1        ignored, as u3, u4 and u5 are
+ * @param[in]  u1        ignored
  * @param[in]  v         value
  * @param[in]  u3,u4,u5  ignored
  * @param[out] status    sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or NaN
@@ -183,26 +182,26 @@ TRELVIN_ROUTINE trvvin(TrvIn u1, TrvIn v, TrvIn u3, TrvIn u4, TrvIn u5, TrvIntOu
  *
  * Retains: nothing.
  *
- * @param[in]  n  number of entries
- * @param[in]  A  array of n: entries, ascending
+ * @param[in]  n  number of elements
+ * @param[in]  A  array of n: elements, ascending
  * @param[in]  x  value
- * @param[out] i  first i with A(i) <= x < A(i+1); 0 when there is none, as for x = A(n)
+ * @param[out] i  first i with A(i) <= x < A(i+1); 0 if there is none, for example if x = A(n)
  */
 TRELVIN_ROUTINE trvpos(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut i);
 
 /**
- * Entry of an ascending table that equals a value, or the interval that holds it.
+ * Element of an ascending table that equals a value, or the interval that holds it.
  *
- * An equal entry anywhere in the table goes before an interval.
+ * An equal element anywhere in the table has priority over an interval.
  *
  * Retains: nothing.
  *
- * @param[in]  n       number of entries
- * @param[in]  A       array of n: entries, ascending
+ * @param[in]  n       number of elements
+ * @param[in]  A       array of n: elements, ascending
  * @param[in]  x       value
  * @param[out] status  what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between:
  *                     A(i) < x < A(i+1); 0 neither: x equals no element and lies in no interval
- * @param[out] i       first such position; 0 when status is 0
+ * @param[out] i       first such position; 0 if status is 0
  */
 TRELVIN_ROUTINE trvpos1(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut status, TrvIntOut i);
 
@@ -218,7 +217,7 @@ TRELVIN_ROUTINE trvpos1(TrvIntIn n, TrvArrayIn A, TrvIn x, TrvIntOut status, Trv
  *
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
- * @param[out] a,b,c  line; all zero where the points are equal
+ * @param[out] a,b,c  line; all zero if the points are equal
  */
 TRELVIN_ROUTINE trvln3(TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut a, TrvOut b, TrvOut c);
 
@@ -239,7 +238,7 @@ TRELVIN_ROUTINE trvln1(TrvIn x0, TrvIn y0, TrvIn phi, TrvOut a, TrvOut b, TrvOut
 /**
  * Line through a point with a direction.
  *
- * (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) where dx is exactly zero; no
+ * (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) if dx is exactly zero; no
  * tolerance applies.
  *
  * Retains: nothing.
@@ -253,15 +252,15 @@ TRELVIN_ROUTINE trvln4(TrvIn x0, TrvIn y0, TrvIn dx, TrvIn dy, TrvIn u, TrvOut a
                        TrvOut c);
 
 /**
- * Parallel of a line at a signed distance.
+ * Line parallel to a line at a signed distance.
  *
- * Points of the new line have the distance d from the given one in the sense of trvlds.
+ * By trvlds, points of the new line have the distance d from the given line.
  *
  * Retains: nothing.
  *
  * @param[in]  a,b,c     line
  * @param[in]  d         distance, positive towards the normal (a, b)
- * @param[out] a2,b2,c2  parallel: (a, b, c - sqrt(a*a + b*b)*d)
+ * @param[out] a2,b2,c2  parallel line: (a, b, c - sqrt(a*a + b*b)*d)
  */
 TRELVIN_ROUTINE trvln2(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut a2, TrvOut b2, TrvOut c2);
 
@@ -275,8 +274,8 @@ TRELVIN_ROUTINE trvln2(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut a2, TrvOut b2,
  * @param[in]  x0,y0  vertex P0
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
- * @param[out] a,b,c  line; all zero where a ray has no length, and to rounding where both have one
- *                    direction
+ * @param[out] a,b,c  line; all three are zero if a ray has zero length, and zero up to rounding
+ *                    errors if both rays have the same direction
  */
 TRELVIN_ROUTINE trvln5(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut a,
                        TrvOut b, TrvOut c);
@@ -290,16 +289,16 @@ TRELVIN_ROUTINE trvln5(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
  *
  * @param[in]  x,y    point
  * @param[in]  a,b,c  line
- * @param[out] d      signed distance; infinite or NaN where a = b = 0
+ * @param[out] d      signed distance; infinite or NaN if a = b = 0
  */
 TRELVIN_ROUTINE trvlds(TrvIn x, TrvIn y, TrvIn a, TrvIn b, TrvIn c, TrvOut d);
 
 /**
  * Intersection of two lines.
  *
- * The lines cross when the determinant a1*b2 - a2*b1 is above the tolerance; else they are distinct
- * when b1*c2 - b2*c1 or a2*c1 - a1*c2 is. Neither is scaled: lines with small coefficients count
- * as parallel, and as the same line, sooner.
+ * The lines intersect if the determinant a1*b2 - a2*b1 is above the tolerance. Otherwise they are
+ * distinct if b1*c2 - b2*c1 or a2*c1 - a1*c2 is above the tolerance. These values are not scaled:
+ * lines with small coefficients count as parallel, and as the same line, sooner.
  *
  * Retains: nothing.
  *
@@ -318,9 +317,10 @@ TRELVIN_ROUTINE trvlni(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
  *
  * @param[in]  a1,b1,c1  first line
  * @param[in]  a2,b2,c2  second line
- * @param[out] d         signed distance for which trvln2 makes the second line of the first:
- *                       positive towards the normal (a1, b1); 0 if status is 1; formed in double
- *                       precision and rounded once; unwritten if status is 0
+ * @param[out] d         signed distance of the second line from the first, positive towards the
+ *                       normal (a1, b1); trvln2 with this distance gives the second line from the
+ *                       first; 0 if status is 1; formed in double precision and rounded once;
+ *                       unwritten if status is 0
  * @param[out] status    relation (TrvPlaneLines): 0 one_point; 1 same_line; 2 parallel: the lines
  *                       are parallel and distinct, as trvlni finds
  */
@@ -334,7 +334,7 @@ TRELVIN_ROUTINE trvlul(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn a2, TrvIn b2, TrvIn c
  *
  * @param[in]  p1,p2,p3  first triple
  * @param[in]  q1,q2,q3  second triple
- * @param[out] code      which components differ by more than the tolerance (TrvComponents): 0 none;
+ * @param[out] code      which components of p - q are above the tolerance (TrvComponents): 0 none;
  *                       1 all; 2 first; 3 second; 4 third; 5 first_second; 6 second_third; 7
  *                       first_third
  */
@@ -343,15 +343,15 @@ TRELVIN_ROUTINE trvpsn(TrvIn p1, TrvIn p2, TrvIn p3, TrvIn q1, TrvIn q2, TrvIn q
 /**
  * Whether a point lies on the line of space through P0 with direction D.
  *
- * The components of D above the tolerance tell which coordinate of P places it along the line; each
- * other coordinate must then agree with the line's.
+ * The point of the line is computed at a coordinate of P along which D is above the tolerance. Each
+ * other coordinate of P must match that point within tol.
  *
  * Retains: nothing.
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  dx,dy,dz  direction D, of any length
  * @param[in]  px,py,pz  point P
- * @param[in]  tol       largest coordinate difference allowed, itself included
+ * @param[in]  tol       largest coordinate difference allowed (inclusive)
  * @param[out] code      which components of (P0 + D) - P0 are above the tolerance (TrvComponents):
  *                       0 none; 1 all; 2 first; 3 second; 4 third; 5 first_second; 6 second_third;
  *                       7 first_third
@@ -362,16 +362,17 @@ TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn d
                        TrvIn py, TrvIn pz, TrvIn tol, TrvIntOut code, TrvIntOut on);
 
 /**
- * Line of two planes, and whether it agrees with a point at a retained station.
+ * Direction of the line of two planes, and whether a point matches it at a retained coordinate.
  *
- * The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the tolerance.
- * Its station there is not the coordinate of P but that of the previous call: X, Y and Z are zero
- * after loading, and each call replaces the two it computes. The point agrees when its other two
- * coordinates are those computed at the station; along y, with the sign of ey, z is that of the
- * line at minus the station. One call with planes that are nearly parallel, infinite or NaN can
- * leave a station that is infinite or NaN; no later call recovers from it.
+ * The line is followed along the first of x, y, z whose component of (ex, ey, ez) is above the
+ * tolerance. Caution: it is evaluated at a coordinate that is kept from the previous call, not at
+ * the coordinate of P. The kept coordinates X, Y and Z are zero after loading; each call overwrites
+ * the two that it computes. The point matches if its other two coordinates are those computed.
+ * Along y, because of the sign of ey, z is that of the line at minus the kept coordinate. A call
+ * with planes that are nearly parallel, infinite or NaN can leave infinite or NaN coordinates, from
+ * which no later call recovers.
  *
- * Retains: the station X, Y, Z (trvln7).
+ * Retains: the coordinates X, Y, Z (trvln7).
  *
  * @param[in]  a1,b1,c1,d1  first plane
  * @param[in]  a2,b2,c2,d2  second plane
@@ -379,12 +380,12 @@ TRELVIN_ROUTINE trvln6(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn dx, TrvIn dy, TrvIn d
  * @param[out] ex           b1*c2 - c1*b2
  * @param[out] ey           a1*c2 - c1*a2, the second component of the cross product negated
  * @param[in]  ez           third component: read, neither computed nor written
- * @param[in]  tol          largest coordinate difference allowed, itself included
+ * @param[in]  tol          largest coordinate difference allowed (inclusive)
  * @param[out] code         which components of (ex, ey, ez) are above the tolerance
  *                          (TrvComponents): 0 none; 1 all; 2 first; 3 second; 4 third; 5
  *                          first_second; 6 second_third; 7 first_third
- * @param[out] on           test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does
- *                          not match the line at the station
+ * @param[out] on           test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0
+ *                          no: P does not match the line at the kept coordinate
  */
 TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b2, TrvIn c2,
                        TrvIn d2, TrvIn px, TrvIn py, TrvIn pz, TrvOut ex, TrvOut ey, TrvIn ez,
@@ -395,35 +396,35 @@ TRELVIN_ROUTINE trvln7(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn b
 /**
  * Angle at P0 between the rays to P1 and P2, in the plane.
  *
- * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
- * -1 the angle is NaN, as can happen for collinear points.
+ * The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or -1,
+ * the angle is NaN; this can happen for collinear points.
  *
- * Small angles, and angles as close to pi, lose their digits. Of 20,000 random pairs of rays, 1 to
- * 1000 long and 4e-4 radians apart, 23 % give 0 and 1.3 % NaN; of pairs 5e-4 apart, 7 % give 0.
- * Errors reach 100 % at 6e-4 radians, 30 % at 1e-3 and 0.25 % at 1e-2. trvchi is accurate there.
+ * Small angles, and angles as close to pi, lose digits. Of 20,000 random pairs of rays, 1 to 1000
+ * long and 4e-4 radians apart, 23 % give 0 and 1.3 % NaN; of pairs 5e-4 apart, 7 % give 0. Errors
+ * reach 100 % at 6e-4 radians, 30 % at 1e-3 and 0.25 % at 1e-2. trvchi is accurate there.
  *
  * Retains: nothing.
  *
  * @param[in]  x0,y0  vertex P0
  * @param[in]  x1,y1  P1
  * @param[in]  x2,y2  P2
- * @param[out] phi    angle in [0, pi]; 0 where a ray's length is within the tolerance
+ * @param[out] phi    angle in [0, pi]; 0 if a ray's length is within the tolerance
  */
 TRELVIN_ROUTINE trvphi(TrvIn x0, TrvIn y0, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y2, TrvOut phi);
 
 /**
  * Angle at P0 between the rays to P1 and P2, in space.
  *
- * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
- * -1 the angle is NaN. Small angles, and angles close to pi, lose their digits as in trvphi; trvchi
- * is accurate there.
+ * The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or -1,
+ * the angle is NaN. Small angles, and angles close to pi, lose digits as in trvphi; trvchi is
+ * accurate there.
  *
  * Retains: nothing.
  *
  * @param[in]  x0,y0,z0  vertex P0
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
- * @param[out] phi       angle in [0, pi]; 0 where a ray's length is within the tolerance
+ * @param[out] phi       angle in [0, pi]; 0 if a ray's length is within the tolerance
  */
 TRELVIN_ROUTINE trvphi3(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                         TrvIn y2, TrvIn z2, TrvOut phi);
@@ -431,23 +432,23 @@ TRELVIN_ROUTINE trvphi3(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn 
 /**
  * Angle between two vectors.
  *
- * The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond 1 or
- * -1 the angle is NaN. Small angles, and angles close to pi, lose their digits as in trvphi; trvchi
- * is accurate there.
+ * The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or -1,
+ * the angle is NaN. Small angles, and angles close to pi, lose digits as in trvphi; trvchi is
+ * accurate there.
  *
  * Retains: nothing.
  *
  * @param[in]  ux,uy,uz  u
  * @param[in]  vx,vy,vz  v
- * @param[out] phi       angle in [0, pi]; 0 where a vector's length is within the tolerance
+ * @param[out] phi       angle in [0, pi]; 0 if a vector's length is within the tolerance
  */
 TRELVIN_ROUTINE trvphi1(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn vz, TrvOut phi);
 
 /**
  * Angle between two lines given by their directions.
  *
- * Small angles lose their digits as in trvphi, and can be NaN. For lines that are nearly parallel
- * take the cosine and the sine of trvtrg: the angle is atan2(sphi, |cphi|).
+ * Caution: small angles lose digits as in trvphi, and can be NaN. For lines that are nearly
+ * parallel, use the cosine and the sine of trvtrg: the angle is atan2(sphi, |cphi|).
  *
  * Retains: nothing.
  *
@@ -465,11 +466,11 @@ TRELVIN_ROUTINE trvphip(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn 
 /**
  * Directed angle at P0 from the ray to P1 to the ray to P2.
  *
- * Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third axis of
- * trvaxe: the first of its components y, z, x that is above the tolerance becomes positive, or the
- * first that is not zero. So it is counter-clockwise in the plane z = 0. Formed in double
- * precision, its normal with twice the digits, and rounded once: as accurate near 0, pi and 2*pi as
- * elsewhere.
+ * The angle is counter-clockwise as seen from the tip of the normal (P1 - P0) x (P2 - P0). The
+ * normal is oriented like the third axis of trvaxe: the first of its components y, z, x that is
+ * above the tolerance becomes positive, or if there is none, the first that is not zero. So the
+ * angle is counter-clockwise in the plane z = 0. It is formed in double precision, its normal with
+ * twice the digits, and rounded once, so it is as accurate near 0, pi and 2*pi as elsewhere.
  *
  * Retains: nothing.
  *
@@ -487,8 +488,8 @@ TRELVIN_ROUTINE trvchi(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * Convexity of a closed outline, of either orientation.
  *
  * A vertex within the tolerance of the line through its neighbours counts as straight, unless the
- * outline turns back there: spikes, and outlines all of whose vertices lie on one line, are not
- * convex, nor is one with a NaN or an infinite vertex.
+ * outline turns back there. An outline is not convex if it has a spike, if all its vertices lie on
+ * one line, or if a vertex is infinite or NaN.
  *
  * Retains: nothing.
  *
@@ -521,8 +522,8 @@ TRELVIN_ROUTINE trvtrg(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
 /**
  * Relation of two directions.
  *
- * The cosine of their angle decides, within the tolerance; a later code goes before an earlier one.
- * So directions up to 0.00447 radians apart, 4.47 mm a metre, are the same.
+ * The cosine of their angle decides, within the tolerance. If several codes apply, the result is
+ * the highest. Directions up to 0.00447 radians apart, or 4.47 mm per metre, count as the same.
  *
  * Retains: nothing.
  *
@@ -539,12 +540,13 @@ TRELVIN_ROUTINE trvdir(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn vx, TrvIn vy, TrvIn v
 /**
  * Relation of two planes.
  *
- * The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are parallel,
- * and a normal is zero whose components are within the tolerance.
+ * The relation of the normals is that of trvdir. Planes up to 0.00447 radians apart count as
+ * parallel. A normal counts as zero if all its components are within the tolerance.
  *
- * Planes with parallel normals are distinct when the ratio of their normals, taken at the last
- * component of the second one above the tolerance, and that of their constants (0 where d2 is
- * within the tolerance) differ by more than the tolerance and d1 or d2 is above it.
+ * Planes with parallel normals are distinct if the ratio of their normals and the ratio of their
+ * constants differ by more than the tolerance, and d1 or d2 is above the tolerance. The ratio of
+ * the normals is taken at the last component that is above the tolerance in the second normal. The
+ * ratio of the constants is 0 if d2 is within the tolerance.
  *
  * Retains: nothing.
  *
@@ -564,14 +566,15 @@ TRELVIN_ROUTINE trvdirp(TrvIn a1, TrvIn b1, TrvIn c1, TrvIn d1, TrvIn a2, TrvIn 
 /**
  * Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
  *
- * Each is the angle that trvphi1 gives. Caution: its cosine is not clamped. If two projections are
- * parallel, rounding takes it beyond 1 or -1 in about one call of five, and that angle is NaN; in
- * others it is off by up to 5e-4. If P2 - P1 and P4 - P3 lie in one coordinate plane, their
- * projections onto the other two planes are parallel, and a tenth of such calls gives a NaN.
+ * Each angle is that of trvphi1. Caution: its cosine is not clamped. If two projections are
+ * parallel, rounding takes the cosine beyond 1 or -1 in about one call of five, and that angle is
+ * NaN; in other calls the angle is off by up to 5e-4. If P2 - P1 and P4 - P3 lie in one coordinate
+ * plane, their projections onto the other two planes are parallel, and a tenth of such calls gives
+ * a NaN.
  *
- * Small angles, and angles close to pi, lose their digits as in trvphi. For them, and for parallel
- * projections, take trvchi of the two projections, from the origin; if chi is above pi, the angle
- * is 2*pi - chi.
+ * Small angles, and angles close to pi, lose digits as in trvphi. For such angles, and for parallel
+ * projections, use trvchi of the two projections, from the origin; if chi is above pi, the angle is
+ * 2*pi - chi.
  *
  * Retains: nothing.
  *
@@ -591,7 +594,7 @@ TRELVIN_ROUTINE trvmov(TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2, TrvIn y2, TrvIn z
  *
  * Retains: nothing.
  *
- * @param[inout] X,Y    arrays of n: coordinates, less x0 and y0 afterwards
+ * @param[inout] X,Y    arrays of n: coordinates; x0 and y0 are subtracted
  * @param[in]    n      number of points; below 1 nothing happens
  * @param[in]    x0,y0  new origin; may be one of the points
  */
@@ -600,7 +603,7 @@ TRELVIN_ROUTINE trvtra(TrvArrayInOut X, TrvArrayInOut Y, TrvIntIn n, TrvIn x0, T
 /* Arrays ------------------------------------------------------------------------------------- */
 
 /**
- * Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+ * Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
  *
  * Retains: nothing.
  *
@@ -610,16 +613,16 @@ TRELVIN_ROUTINE trvtra(TrvArrayInOut X, TrvArrayInOut Y, TrvIntIn n, TrvIn x0, T
 TRELVIN_ROUTINE trvinv(TrvIntArrayInOut V, TrvIntIn n);
 
 /**
- * Inserts a list into another. Elements move bit for bit, so Reals pass as well as Integers.
+ * Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
  *
  * Retains: nothing.
  *
- * @param[inout] V  array of n+m: the list, with room for what is inserted; unchanged on a
+ * @param[inout] V  array of n+m: the list, with space for the elements to insert; unchanged on a
  *                  condition: n is unchanged
  * @param[inout] n  number of its elements; n+m afterwards; unchanged on a condition: k is negative
  *                  or above n, or m < 1
  * @param[in]    k  position after which to insert, 0 for the front
- * @param[in]    A  array of m: what to insert
+ * @param[in]    A  array of m: elements to insert
  * @param[in]    m  number of elements to insert
  */
 TRELVIN_ROUTINE trvadr(TrvIntArrayInOut V, TrvIntInOut n, TrvIntIn k, TrvIntArrayIn A, TrvIntIn m);

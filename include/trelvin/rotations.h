@@ -14,13 +14,13 @@
 #include "trelvin/calling.h"
 
 /**
- * Turns plane points about the origin, in place.
+ * Rotates plane points about the origin, in place.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
- * @param[in]    mode   1 turns clockwise; any other value counter-clockwise
+ * @param[in]    mode   1 rotates clockwise; any other value counter-clockwise
  * @param[inout] x,y    arrays of n: coordinates
  * @param[in]    n      number of points; below 1 nothing happens
  * @param[in]    angle  angle in radians; may be an element of the arrays
@@ -28,13 +28,13 @@
 TRELVIN_ROUTINE trvrot(TrvIntIn mode, TrvArrayInOut x, TrvArrayInOut y, TrvIntIn n, TrvIn angle);
 
 /**
- * Turns points about the x axis, in place.
+ * Rotates points about the x axis, in place.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
- * @param[in]    mode   1 turns z towards y; any other value y towards z, right-handed about +x
+ * @param[in]    mode   1 rotates z towards y; any other value y towards z, right-handed about +x
  * @param[in]    x      array of 0: not read
  * @param[inout] y,z    arrays of n: coordinates
  * @param[in]    n      number of points; below 1 nothing happens
@@ -44,15 +44,16 @@ TRELVIN_ROUTINE trvrotx(TrvIntIn mode, TrvArrayIn x, TrvArrayInOut y, TrvArrayIn
                         TrvIn angle);
 
 /**
- * Turns points about the y axis, in place.
+ * Rotates points about the y axis, in place.
  *
- * Unlike its sisters it turns left-handedly about its axis unless mode is 1.
+ * Caution: unless mode is 1, this rotation is left-handed about its axis, while those of trvrotx
+ * and trvrotz are right-handed.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
- * @param[in]    mode   1 turns z towards x; any other value x towards z, left-handed about +y
+ * @param[in]    mode   1 rotates z towards x; any other value x towards z, left-handed about +y
  * @param[inout] x      array of n: coordinates
  * @param[in]    y      array of 0: not read
  * @param[inout] z      array of n: coordinates
@@ -63,13 +64,13 @@ TRELVIN_ROUTINE trvroty(TrvIntIn mode, TrvArrayInOut x, TrvArrayIn y, TrvArrayIn
                         TrvIn angle);
 
 /**
- * Turns points about the z axis, in place.
+ * Rotates points about the z axis, in place.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
- * @param[in]    mode   1 turns y towards x; any other value x towards y, right-handed about +z
+ * @param[in]    mode   1 rotates y towards x; any other value x towards y, right-handed about +z
  * @param[inout] x,y    arrays of n: coordinates
  * @param[in]    z      array of 0: not read
  * @param[in]    n      number of points; below 1 nothing happens

@@ -3,13 +3,14 @@
  * Steel sections: buckling of plates, outlines of profiles, channels, thin plates.
  *
  * An outline is a list of closed polygons, centred on the middle of the profile's bounding box (not
- * on its centroid), x to the right and y upwards, lengths in the host's unit. Polygons follow each
- * other in X and Y, counter-clockwise for solids and holes alike; the first vertex of a polygon is
- * not repeated. Dimensions are not checked: a wall thicker than half the width gives an inverted
- * hole.
+ * on its centroid), x to the right and y upwards, lengths in the host's unit. The polygons are
+ * stored one after the other in X and Y, solids and holes both counter-clockwise; the first vertex
+ * of a polygon is not repeated. Caution: dimensions are not checked; if a wall is thicker than half
+ * the width, the hole is inverted.
  *
- * A polygon that trvair, trvstm and trvinm take needs a spare element behind its last vertex. Copy
- * one out of a list of several before it is passed on, or the next polygon loses its first vertex.
+ * Caution: trvair, trvstm and trvinm overwrite the element after the last vertex of a polygon. If
+ * an outline has several polygons, copy each one into arrays of its own before you pass it to them.
+ * Otherwise the next polygon loses its first vertex.
  *
  *     float B = 200, H = 15, A, xs, ys, Ix, Iy, Ixy, I1, I2, alpha, rx, ry, Wx1, Wx2, Wy1, Wy2;
  *     float Wpx, Wpy, xp, yp, It, Wt, xm, ym, Iw, r0, W1[1], W2[1];
@@ -29,9 +30,9 @@
 /**
  * Reduction factor of an internal compression element, EN 1993-1-5, 4.4(2).
  *
- * The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). No reduction up to
- * 0.5 + sqrt(0.085 - 0.055*psi), else (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1.
- * There is no lower bound. ks = 0 gives 0; psi above 0.085/0.055 takes the second formula.
+ * The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). If it is at most 0.5 + sqrt(0.085 -
+ * 0.055*psi), rho = 1. Otherwise rho = (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1,
+ * without a lower bound. ks = 0 gives 0. If psi is above 0.085/0.055, the second formula is used.
  *
  * Retains: nothing.
  *
@@ -49,10 +50,12 @@ TRELVIN_ROUTINE trvro2(TrvIn b, TrvIn t, TrvIn r1, TrvIn r2, TrvIn psi, TrvIn ks
 /**
  * Effective width of an edge fold on a plate it stiffens, after EN 1993-1-3, 5.5.3.2.
  *
- * The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. That departs
- * from the clause, which has 0.5 + 0.83*(c/bp - 0.35)^(2/3) there. Beyond 0.6, or where c/bp is
- * NaN, the factor of the previous call stands; zero after loading, which gives ceff = 0. The
+ * The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. The
  * reduction is that of trvro2 for psi = 1.
+ *
+ * Caution: between 0.35 and 0.6 the factor differs from the clause, which has 0.5 + 0.83*(c/bp -
+ * 0.35)^(2/3). Beyond 0.6, or if c/bp is NaN, the factor of the previous call is used again. It is
+ * zero after loading, which gives ceff = 0.
  *
  * Retains: the buckling factor (trvefr).
  *
@@ -79,13 +82,14 @@ TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ce
  *   -1 to -3      5.98*(1 - psi)^2              0.4*rho*w           0.6*rho*w
  *   below -3      none                          w/2                 w/2
  *
- * psi counts as 1 or 0 where s1 - s2 or s2 is within the tolerance, as -1 where |s1 + s2| is below
- * it. Cases overlap there: 1 gives way to a ratio below it, 0 to any tension or compression at s2.
+ * psi counts as 1 if s1 - s2 is within the tolerance, as 0 if s2 is, and as -1 if |s1 + s2| is
+ * below the tolerance. Caution: the rows 1 and 0 overlap with others. If 0 < s2 < s1, however small
+ * the difference, the row "1 to 0" applies; if s2 < 0, one of the rows for negative psi does.
  *
  * Retains: nothing.
  *
  * @param[in]  bl   width for the slenderness
- * @param[in]  w    width to reduce; in bending, where s2 is tension, that of the compressed part
+ * @param[in]  w    width to reduce; in bending, if s2 is tension, the width of the compressed part
  * @param[in]  t    thickness
  * @param[in]  r1   square root of the yield strength: sqrt(fy)
  * @param[in]  r2   square root of the reference strength: sqrt(235) for N/mm2
@@ -94,7 +98,7 @@ TRELVIN_ROUTINE trvefr(TrvIn c, TrvIn bp, TrvIn t, TrvIn r1, TrvIn r2, TrvOut ce
  * @param[out] be1  effective width at the edge of s1; unwritten on a condition: be2 is unwritten
  * @param[out] be2  effective width at the other edge; unwritten on a condition: both stresses are
  *                  within the tolerance, s1 is zero or negative, s1 = -s2/3, or s2 is not within
- *                  the tolerance and s2 - s1 is above it or NaN
+ *                  the tolerance and s2 - s1 is above the tolerance or NaN
  */
 TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1, TrvIn s2,
                        TrvOut be1, TrvOut be2);
@@ -110,7 +114,7 @@ TRELVIN_ROUTINE trvef2(TrvIn bl, TrvIn w, TrvIn t, TrvIn r1, TrvIn r2, TrvIn s1,
  * @param[in]  B1,T1           width and thickness of flange 1, at the bottom
  * @param[in]  B2,T2           width and thickness of flange 2, at the top
  * @param[in]  TW              web thickness
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 12
  * @param[out] X,Y             arrays of 12: vertices about the middle of the bounding box
@@ -134,7 +138,7 @@ TRELVIN_ROUTINE trvsec_ia(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn
  * @param[in]  B1,T1           width and thickness of flange 1, on the left
  * @param[in]  B2,T2           width and thickness of flange 2, on the right
  * @param[in]  TW              web thickness
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 12
  * @param[out] X,Y             arrays of 12: vertices about the middle of the bounding box
@@ -157,7 +161,7 @@ TRELVIN_ROUTINE trvsec_h(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
  * @param[in]  B,TF            width and thickness of the flange
  * @param[in]  H               height
  * @param[in]  TW              stem thickness
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 8
  * @param[out] X,Y             arrays of 8: vertices about the middle of the bounding box
@@ -178,7 +182,7 @@ TRELVIN_ROUTINE trvsec_t(TrvIn B, TrvIn H, TrvIn TF, TrvIn TW, TrvIn q, TrvIntOu
  *
  * @param[in]  B               width, an Integer
  * @param[in]  H               height
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 12, although X and Y receive 4
  * @param[out] X,Y             arrays of 12, 4 used: the 4 vertices; provide for 12 and read 4
@@ -204,7 +208,7 @@ TRELVIN_ROUTINE trvsec_b(TrvIntIn B, TrvIn H, TrvIn q, TrvIntOut np, TrvIntArray
  * @param[in]  P               height of its flanges
  * @param[in]  T1,T2           thicknesses of the left and the right flange
  * @param[in]  TW              web thickness
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 12, 4
  * @param[out] X,Y             arrays of 16: vertices, of the solid and of its cell
@@ -229,7 +233,7 @@ TRELVIN_ROUTINE trvsec_h1b(TrvIn W, TrvIn D, TrvIn P, TrvIn T1, TrvIn T2, TrvIn 
  * @param[in]  H               overall height
  * @param[in]  TW              thickness of each web
  * @param[in]  G               clear distance of the webs
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 12, 4
  * @param[out] X,Y             arrays of 16: vertices, of the solid and of its cell
@@ -251,7 +255,7 @@ TRELVIN_ROUTINE trvsec_box(TrvIn BT, TrvIn BB, TrvIn TT, TrvIn TB, TrvIn H, TrvI
  *
  * @param[in]  B,H             width and height
  * @param[in]  T               wall thickness
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 4, 4
  * @param[out] X,Y             arrays of 8: vertices, of the solid and of its cell
@@ -273,7 +277,7 @@ TRELVIN_ROUTINE trvsec_rhs(TrvIn B, TrvIn H, TrvIn T, TrvIn q, TrvIntOut np, Trv
  * @param[in]  B,T             length and thickness of a horizontal leg
  * @param[in]  H,TV            height and thickness of a vertical leg
  * @param[in]  G               gap between the vertical legs
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 6, 6
  * @param[out] X,Y             arrays of 12: vertices, of the left angle and of the right one
@@ -298,7 +302,7 @@ TRELVIN_ROUTINE trvsec_l2(TrvIn B, TrvIn H, TrvIn G, TrvIn T, TrvIn TV, TrvIn q,
  * @param[in]  E               height of the bottom plate's underside above the webs' lower ends
  * @param[in]  TW              thickness of each web
  * @param[in]  TB              thickness of the bottom plate
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 2
  * @param[out] nv              array of 2: numbers of vertices: 12, 4
  * @param[out] X,Y             arrays of 16: vertices, of the solid and of its cell
@@ -323,7 +327,7 @@ TRELVIN_ROUTINE trvsec_tab(TrvIn B, TrvIn H, TrvIn BW, TrvIn E, TrvIn T, TrvIn T
  * @param[in]  HI              clear distance of the flanges
  * @param[in]  TW1,TW2         thicknesses of the left and the right web
  * @param[in]  TM              thickness of the middle plate, at mid-height
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 3
  * @param[out] nv              array of 3: numbers of vertices: 12, 4, 4
  * @param[out] X,Y             arrays of 20: vertices, of the solid, the upper and the lower cell
@@ -349,7 +353,7 @@ TRELVIN_ROUTINE trvsec_h2b(TrvIn B, TrvIn W, TrvIn HI, TrvIn TW1, TrvIn TW2, Trv
  * @param[in]  TW              web thickness
  * @param[in]  S1,S2           legs of the fillets between the web and flanges 1, 2; 0 for none
  * @param[in]  E               distance of the web from the middle, to the right
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 16
  * @param[out] X,Y             arrays of 16: vertices about the middle of the bounding box
@@ -367,8 +371,9 @@ TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
 /**
  * Channel open to the right, with lips turned inwards and folds turned back towards the web.
  *
- * Lengths are outer ones. A lip no longer than its flange is thick is none, and without a lip there
- * is no fold; a fold no longer than its lip is thick is none.
+ * Lengths are outer ones. A lip whose length does not exceed the thickness of its flange is
+ * ignored, and so is the fold of this lip. A fold whose length does not exceed the thickness of its
+ * lip is ignored.
  *
  * Retains: nothing.
  *
@@ -380,7 +385,7 @@ TRELVIN_ROUTINE trvsec_i(TrvIn H, TrvIn B1, TrvIn B2, TrvIn T1, TrvIn T2, TrvIn 
  * @param[in]  T1,T2           thicknesses of the flanges
  * @param[in]  TC1,TC2         thicknesses of the lips
  * @param[in]  TD1,TD2         thicknesses of the folds
- * @param[in]  q               value handed on with each polygon
+ * @param[in]  q               user value, copied to q1 and q2 of each polygon
  * @param[out] np              number of polygons, always 1
  * @param[out] nv              array of 1: numbers of vertices: 16
  * @param[out] X,Y             arrays of 16: vertices about the middle of the bounding box
@@ -401,16 +406,16 @@ TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn 
 /**
  * Distance of a channel's shear centre from its centroid.
  *
- * Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is lipped
- * when C is above the tolerance.
+ * Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel has lips if
+ * C is above the tolerance.
  *
  *   plain   e0 = b^2/(2*b + h) + 3*b^2/(h + 6*b)
  *   lipped  e0 = b*(b + 2*c)/(h + 2*b + 2*c) + b*t*(3*b*h^2 + 6*c*h^2 - 8*c^3)/(12*I)
  *           I  = t*(h^3 + 6*(b + c)*h^2 - 12*c^2*h + 8*c^3)/12
  *
- * The first term is the centroid's distance from the web, the second the shear centre's on the
- * other side (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix, table
- * A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B, sharp corners).
+ * The first term is the distance of the centroid from the web, the second that of the shear centre
+ * on the other side of the web (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability,
+ * appendix, table A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B, sharp corners).
  *
  * Retains: nothing.
  *
@@ -418,16 +423,16 @@ TRELVIN_ROUTINE trvsec_c(TrvIn H, TrvIn B1, TrvIn B2, TrvIn C1, TrvIn C2, TrvIn 
  * @param[in]  H   outer depth
  * @param[in]  C   outer length of the lips, turned inwards; 0 for a plain channel
  * @param[in]  t   wall thickness
- * @param[out] e0  distance along the flanges; infinite or NaN where the section has no size
+ * @param[out] e0  distance along the flanges; infinite or NaN if the section has no size
  */
 TRELVIN_ROUTINE trvshc_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut e0);
 
 /**
  * Warping constant of a channel.
  *
- * Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is lipped
- * when C is above the tolerance. With A the area, xg and e the distances of centroid and shear
- * centre from the web, and I the second moment about the axis of symmetry, all as trvshc_c:
+ * Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel has lips if
+ * C is above the tolerance. With A the area, xg and e the distances of centroid and shear centre
+ * from the web, and I the second moment about the axis of symmetry, all as trvshc_c:
  *
  *   plain   Iw = t*b^3*h^2*(3*b + 2*h)/(12*(h + 6*b))
  *   lipped  Iw = t^2/A * (xg*A*h^2*(b^2/3 + e^2 - e*b)/t
@@ -445,8 +450,8 @@ TRELVIN_ROUTINE trvshc_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut e0);
  * @param[in]  H   outer depth
  * @param[in]  C   outer length of the lips, turned inwards; 0 for a plain channel
  * @param[in]  t   wall thickness
- * @param[out] Iw  warping constant, in the sixth power of the length unit; infinite or NaN where
- *                 the section has no size
+ * @param[out] Iw  warping constant, in the sixth power of the length unit; infinite or NaN if the
+ *                 section has no size
  */
 TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw);
 
@@ -455,17 +460,18 @@ TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw);
 /**
  * Properties of an open section of thin plates.
  *
- * Each plate is given by its centre line and its thickness. The first starts anywhere, each further
- * one at an end of an earlier one, within the tolerance in each coordinate. A plate that others
- * join between its ends is given as two. Plates meet at their ends only: elsewhere none comes to
- * another within 1e-5, or within 2^-22 of the greatest coordinate where that is more.
+ * Each plate is given by its centre line and its thickness. The first plate may start anywhere.
+ * Each further plate must start at an end of an earlier one, within the tolerance in each
+ * coordinate. A plate that others join between its ends must be given as two plates. Plates must
+ * meet at their ends only: apart from the joints, the distance between two plates must be more than
+ * 1e-5 and more than 2^-22 times the largest coordinate.
  *
- * Area, moments and moduli are those of the plates as rectangles about their centre lines, overlaps
- * at the joints counted twice. Shear centre, warping constant and sectorial coordinates are those
- * of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed in double precision and
- * rounded once.
+ * Area, moments and moduli are those of the plates as rectangles about their centre lines; overlaps
+ * at the joints are counted twice. Shear centre, warping constant and sectorial coordinates are
+ * those of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed in double precision
+ * and rounded once.
  *
- * Cost: time grows with n^2; no memory is taken.
+ * Cost: time grows with n^2; nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -480,33 +486,37 @@ TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw);
  * @param[out] Ixy      product of inertia about the centroid; unwritten if status is -1
  * @param[out] I1       moment about the axis turned by alpha from the x axis; unwritten if status
  *                      is -1
- * @param[out] I2       moment about the axis perpendicular to it; either may be the larger;
+ * @param[out] I2       moment about the axis perpendicular to that of I1; either may be the larger;
  *                      unwritten if status is -1
- * @param[out] alpha    angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 where
- *                      |Ixy| is at most 1e-8*(Ix + Iy), else pi/4 where |Iy - Ix| is; unwritten if
- *                      status is -1
+ * @param[out] alpha    angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 if
+ *                      |Ixy| is at most 1e-8*(Ix + Iy), otherwise pi/4 if |Iy - Ix| is; unwritten
+ *                      if status is -1
  * @param[out] rx,ry    radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
- * @param[out] Wx1,Wx2  elastic moduli of the top and the bottom fibre; unwritten if status is -1
- * @param[out] Wy1,Wy2  elastic moduli of the right and the left fibre; unwritten if status is -1
- * @param[out] Wpx,Wpy  plastic moduli about the equal-area axes; unwritten if status is -1
- * @param[out] xp,yp    equal-area axes: the vertical one at xp, the horizontal one at yp; in the
- *                      middle of a gap between the halves; unwritten if status is -1
+ * @param[out] Wx1,Wx2  elastic section moduli of the top and the bottom extreme fibre; unwritten if
+ *                      status is -1
+ * @param[out] Wy1,Wy2  elastic section moduli of the right and the left extreme fibre; unwritten if
+ *                      status is -1
+ * @param[out] Wpx,Wpy  plastic section moduli about the plastic neutral axes; unwritten if status
+ *                      is -1
+ * @param[out] xp,yp    plastic neutral axes (equal-area axes): the vertical one at xp, the
+ *                      horizontal one at yp; in the middle of a gap if there is one between the
+ *                      halves; unwritten if status is -1
  * @param[out] It       torsion constant: sum of l*t^3/3; unwritten unless status is 0
  * @param[out] Wt       torsion modulus: It over the greatest thickness; unwritten unless status is
  *                      0
- * @param[out] xm,ym    shear centre; the centroid where all plates are on one line; unwritten
- *                      unless status is 0
+ * @param[out] xm,ym    shear centre; the centroid if all plates are on one line; unwritten unless
+ *                      status is 0
  * @param[out] Iw       warping constant; unwritten unless status is 0
  * @param[out] r0       polar radius of gyration about the shear centre; unwritten unless status is
  *                      0
  * @param[out] W1,W2    arrays of n: normalised sectorial coordinate at the plates' starts and ends,
- *                      counter-clockwise positive; unwritten unless status is 0
+ *                      positive counter-clockwise; unwritten unless status is 0
  * @param[out] status   outcome (TrvStatus): 0 done; -1 refused: n < 1, a coordinate or a thickness
  *                      is infinite or NaN, or a length or a thickness is not above the tolerance; 2
- *                      to n: this plate is the first at fault, it starts at no end of an earlier
- *                      plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is the
- *                      first at fault, it crosses, touches or overlaps an earlier plate elsewhere
- *                      than at its start, which may close a cell
+ *                      to n: number of the first faulty plate, which does not start at an end of an
+ *                      earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the
+ *                      number of the first faulty plate, which crosses, touches or overlaps an
+ *                      earlier plate elsewhere than at its start, and may close a cell
  */
 TRELVIN_ROUTINE trvmxt(TrvIntIn n, TrvArrayIn X1, TrvArrayIn Y1, TrvArrayIn X2, TrvArrayIn Y2,
                        TrvArrayIn T, TrvOut A, TrvOut xs, TrvOut ys, TrvOut Ix, TrvOut Iy,
@@ -533,10 +543,12 @@ TRELVIN_ROUTINE trvmxt(TrvIntIn n, TrvArrayIn X1, TrvArrayIn Y1, TrvArrayIn X2, 
  * @param[out] I1,I2    principal moments: Ix, Iy; unwritten if status is -1
  * @param[out] alpha    angle of the axis of I1 from the x axis: 0; unwritten if status is -1
  * @param[out] rx,ry    radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
- * @param[out] Wx1,Wx2  elastic moduli of the top and the bottom fibre; unwritten if status is -1
- * @param[out] Wy1,Wy2  elastic moduli of the right and the left fibre; unwritten if status is -1
- * @param[out] Wpx,Wpy  plastic moduli about the x and the y axis; unwritten if status is -1
- * @param[out] xp,yp    equal-area axes: 0; unwritten if status is -1
+ * @param[out] Wx1,Wx2  elastic section moduli of the top and the bottom extreme fibre; unwritten if
+ *                      status is -1
+ * @param[out] Wy1,Wy2  elastic section moduli of the right and the left extreme fibre; unwritten if
+ *                      status is -1
+ * @param[out] Wpx,Wpy  plastic section moduli about the x and the y axis; unwritten if status is -1
+ * @param[out] xp,yp    plastic neutral axes: 0; unwritten if status is -1
  * @param[out] It       torsion constant; unwritten if status is -1
  * @param[out] Wt       torsion modulus: torque over the greatest shear stress; unwritten if status
  *                      is -1

@@ -5,7 +5,7 @@
 #ifndef TRELVIN_SPACE_H
 #define TRELVIN_SPACE_H
 
-/* Turning points about the origin and the axes. */
+/* Rotating points about the origin and the axes. */
 #include "trelvin/rotations.h"
 /* The three-point test; frames, and moving points by them. */
 #include "trelvin/frames.h"

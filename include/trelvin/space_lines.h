@@ -17,9 +17,9 @@
 /**
  * Relation of two lines.
  *
- * The same line means that C or D is on the line AB by the three-point test, which runs for C, then
- * for D. Skew means that the triple product of B - A, D - C and C - A is above the tolerance; it is
- * not scaled, so long lines count as skew sooner.
+ * The lines are the same if C or D is on the line AB by the three-point test, which is made for C,
+ * then for D. The lines are skew if the triple product of B - A, D - C and C - A is above the
+ * tolerance. The triple product is not scaled, so long lines count as skew sooner.
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -56,8 +56,8 @@ TRELVIN_ROUTINE trv3sp(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
 /**
  * Distance of a point from a line.
  *
- * The vector from Q to A takes A's y coordinate for its z component, so the figure is the distance
- * only where the z of A equals its y.
+ * Caution: the vector from Q to A uses A's y coordinate for its z component. So the result is the
+ * distance only if the y and z of A are equal.
  *
  * Retains: nothing.
  *
@@ -65,8 +65,7 @@ TRELVIN_ROUTINE trv3sp(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
  * @param[in]  xb,yb,zb  B
  * @param[in]  xq,yq,zq  Q
  * @param[out] status    outcome (TrvStatus): 0 done: always
- * @param[out] dist      distance, never negative; the distance from A where A and B coincide
- *                       (trvcnt)
+ * @param[out] dist      distance, never negative; the distance from A if A and B coincide (trvcnt)
  */
 TRELVIN_ROUTINE trv3ldb(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xq,
                         TrvIn yq, TrvIn zq, TrvIntOut status, TrvOut dist);
@@ -74,9 +73,10 @@ TRELVIN_ROUTINE trv3ldb(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
 /**
  * Signed distance of a point from a line, in the plane of both.
  *
- * The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe turns towards +y, else
- * +z, else +x: positive to the right of the way from A to B, seen against that normal. Far from the
- * origin the figure loses digits; take a local origin there (trv3tra).
+ * The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe orients towards +y,
+ * else +z, else +x. It is positive to the right of the direction from A to B, as seen from the tip
+ * of that normal. Caution: far from the origin the result loses digits; use a local origin
+ * (trv3tra).
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -84,8 +84,8 @@ TRELVIN_ROUTINE trv3ldb(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * @param[in]  xb,yb,zb  B
  * @param[in]  xq,yq,zq  Q
  * @param[out] status    outcome (TrvStatus): 0 done: always
- * @param[out] dist      distance; 0 where Q is on the line or very close to a short one (trvaxe);
- *                       the distance from A where A and B coincide (trvcnt)
+ * @param[out] dist      distance; 0 if Q is on the line or very close to a short line (trvaxe); the
+ *                       distance from A if A and B coincide (trvcnt)
  */
 TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvIn xq,
                         TrvIn yq, TrvIn zq, TrvIntOut status, TrvOut dist);
@@ -93,11 +93,12 @@ TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
 /**
  * Intersection of the lines A + t*u and C + s*w.
  *
- * Works in the frame of A, A + u and C + w, with A as the origin, and leaves A and C in it. Where C
- * + w is on the first line there is no such frame, and the point is A with status 0.
+ * The routine works in the frame of A, A + u and C + w, with A as the origin, and returns A and C
+ * in this frame. Caution: if C + w is on the first line, there is no such frame, and the result is
+ * A with status 0.
  *
- * Parallel lines have no point: the caller's xi and yi are read, as local coordinates, and come
- * back in global ones, with status 0.
+ * Caution: parallel lines have no intersection. The caller's xi and yi are then read as local
+ * coordinates and returned as global ones, with status 0.
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -106,8 +107,8 @@ TRELVIN_ROUTINE trv3lda(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn 
  * @param[inout] xc,yc,zc  C; C - A afterwards; unchanged unless status is 0
  * @param[in]    wx,wy,wz  direction of the second line
  * @param[out]   status    outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line; 4
- *                         opposite_line; 6 skew; 7 no_length: a direction is within the tolerance
- *                         in each component
+ *                         opposite_line; 6 skew; 7 no_length: all components of a direction are
+ *                         within the tolerance
  * @param[inout] xi,yi     x and y of the point; read if the lines are parallel, as local
  *                         coordinates; unchanged unless status is 0
  * @param[out]   zi        z of the point; unwritten unless status is 0
@@ -119,7 +120,7 @@ TRELVIN_ROUTINE trv3lni(TrvInOut xa, TrvInOut ya, TrvInOut za, TrvIn ux, TrvIn u
 /**
  * Intersection of the line P + t*u with a plane.
  *
- * Far from the origin the figure loses digits; take a local origin there (trv3tra).
+ * Caution: far from the origin the result loses digits; use a local origin (trv3tra).
  *
  * Retains: nothing.
  *
@@ -128,14 +129,15 @@ TRELVIN_ROUTINE trv3lni(TrvInOut xa, TrvInOut ya, TrvInOut za, TrvIn ux, TrvIn u
  * @param[in]  a,b,c,d   plane a*x + b*y + c*z + d = 0
  * @param[out] xi,yi,zi  point; unwritten if status is 3 or 4
  * @param[out] status    outcome: 0 done: the point is computed; 3 parallel: the line is parallel to
- *                       the plane, the cosine of u and the normal is within the tolerance; 4 zero:
- *                       u or the normal is within the tolerance in each component
+ *                       the plane, since the cosine of the angle between u and the normal is within
+ *                       the tolerance; 4 zero: all components of u, or of the normal, are within
+ *                       the tolerance
  */
 TRELVIN_ROUTINE trvpli(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn a, TrvIn b,
                        TrvIn c, TrvIn d, TrvOut xi, TrvOut yi, TrvOut zi, TrvIntOut status);
 
 /**
- * Position of a plane against the axes.
+ * Position of a plane relative to the axes.
  *
  * A coefficient within the tolerance counts as zero. A plane whose normal is zero is reported as 7
  * or 10.
@@ -155,28 +157,30 @@ TRELVIN_ROUTINE trvplp(TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvIntOut position);
 /**
  * Points of a list near a line.
  *
- * Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component.
+ * Caution: the distances are those of trv3ldb, which uses A's y coordinate for the z component of
+ * the vector to A.
  *
- * The function is called in the processor's state as the host has it. It may change that state: the
- * change stays with the host and has no influence on the results. It may call routines of this
- * library. It may leave by longjmp or by a structured exception of Windows: the host then has its
- * own state, status and count are unwritten, and index holds the positions found so far. An
- * exception of C++ must not leave the function.
+ * The function is called in the host's own floating-point environment. It may change this
+ * environment: the change remains in the host and does not influence the results. The function may
+ * call routines of this library. It may be left by longjmp or by a structured exception of Windows:
+ * the host then has its own environment, status and count are unwritten, and index holds the
+ * positions found so far. A C++ exception must not leave the function.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
  * @param[in]  xa,ya,za  A
  * @param[in]  xb,yb,zb  B
  * @param[in]  X,Y       arrays of n: x and y coordinates
- * @param[in]  zf        function that gives the z coordinate of the point at a position; called
+ * @param[in]  zf        function that returns the z coordinate of the point at a position; called
  *                       with 1 to n in this order
  * @param[in]  n         number of points
- * @param[in]  tol       largest distance allowed, itself included; a NaN distance is not
+ * @param[in]  tol       largest distance allowed (inclusive); a point with a NaN distance is not
+ *                       found
  * @param[out] status    outcome (TrvStatus): 0 done: always; unwritten if n < 1
- * @param[out] count     how many are found
- * @param[out] index     array of n, count used: their positions, ascending
+ * @param[out] count     number of points found
+ * @param[out] index     array of n, count used: positions of these points, ascending
  */
 TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn zb, TrvArrayIn X,
                        TrvArrayIn Y, TrvFunctionIn zf, TrvIntIn n, TrvIn tol, TrvIntOut status,
@@ -185,8 +189,9 @@ TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
 /**
  * Carries a point along when the line through it is moved.
  *
- * P and Q1 move by dP and dQ1; Q2 keeps its place on their line in proportion. Only the relation of
- * the lines Q2-P and Q1-P tells whether the three are collinear (trvdirl).
+ * P and Q1 move by dP and dQ1. Q2 moves so that the ratio of its distance from P to that of Q1
+ * stays the same. Only the relation of the lines Q2-P and Q1-P (trvdirl) decides whether the three
+ * points are collinear.
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -198,9 +203,10 @@ TRELVIN_ROUTINE trvpnl(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
  * @param[out]   status       outcome: 0 not_moved: the three points are not collinear, or Q1 is at
  *                            P; 3 moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4
  *                            moved_either_side: Q2 is moved, Q1 and Q2 are on either side of P; 6
- *                            moved_skew: Q2 is moved, rounding takes the three points for skew
- *                            lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each
- *                            coordinate yet not by its distance
+ *                            moved_skew: Q2 is moved, although the lines count as skew because of
+ *                            rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or each
+ *                            coordinate of Q1 is within the tolerance of P's although their
+ *                            distance is above it
  */
 TRELVIN_ROUTINE trvlpc(TrvIn xp, TrvIn yp, TrvIn zp, TrvIn x1, TrvIn y1, TrvIn z1, TrvInOut x2,
                        TrvInOut y2, TrvInOut z2, TrvIn dxp, TrvIn dyp, TrvIn dzp, TrvIn dx1,

@@ -2,11 +2,12 @@
  * @file
  * Planes of space.
  *
- * A plane is the quadruple (a, b, c, d) of a*x + b*y + c*z + d = 0; its normal (a, b, c) is as long
- * as its construction makes it.
+ * A plane is the quadruple (a, b, c, d) of a*x + b*y + c*z + d = 0; the length of its normal (a, b,
+ * c) depends on the routine that constructs it.
  *
- * Planes given by coefficients lose digits with the distance from the origin: at 1e5 units,
- * distances from one are good to some hundredths of a unit. Take a local origin (trv3tra) there.
+ * Caution: the coefficients of a plane lose digits far from the origin: at 1e5 units, distances
+ * from the plane are accurate to some hundredths of a unit only. Use a local origin there
+ * (trv3tra).
  *
  *     float x = 3, y = 2, z = 5, a = 0, b = 0, c = 2, d = -4, dist; // above the plane z = 2
  *     trvpld(&x, &y, &z, &a, &b, &c, &d, &dist);
@@ -21,8 +22,8 @@
 /**
  * Plane through a point, spanned by two directions.
  *
- * (a, b, c) = u x w, not normalised; all four are zero where u and w are parallel. Far from the
- * origin d loses digits; take a local origin there (trv3tra).
+ * (a, b, c) = u x w, not normalised. All four coefficients are zero if u and w are parallel.
+ * Caution: far from the origin d loses digits; use a local origin (trv3tra).
  *
  * Retains: nothing.
  *
@@ -37,14 +38,14 @@ TRELVIN_ROUTINE trvplg(TrvIn x, TrvIn y, TrvIn z, TrvIn ux, TrvIn uy, TrvIn uz, 
 /**
  * Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
  *
- * Far from the origin d loses digits; take a local origin there (trv3tra).
+ * Caution: far from the origin d loses digits; use a local origin (trv3tra).
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
  * @param[in]  x0,y0,z0  P0
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
- * @param[out] a,b,c,d   plane; all zero when status is not 0, and where P0 = P1
+ * @param[out] a,b,c,d   plane; all zero if status is not 0, or if P0 = P1
  * @param[out] status    three-point test (TrvThreePoints): 0 spans_plane; 1 at_p0; 2 at_p1; 3
  *                       between; 4 beyond_p0; 5 beyond_p1
  */
@@ -55,7 +56,7 @@ TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 /**
  * Plane through a point, parallel to two lines.
  *
- * (a, b, c) = (B - A) x (D - C). Far from the origin d loses digits; take a local origin there
+ * (a, b, c) = (B - A) x (D - C). Caution: far from the origin d loses digits; use a local origin
  * (trv3tra).
  *
  * Retains: the cosine of the three-point test (trvpsl).
@@ -65,7 +66,7 @@ TRELVIN_ROUTINE trvpl1(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  xb,yb,zb  B, on the first line
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  xd,yd,zd  D, on the second line
- * @param[out] a,b,c,d   plane; all zero when status is not 0; its normal is zero, or nearly, where
+ * @param[out] a,b,c,d   plane; all zero if status is not 0; the normal is zero, or nearly zero, if
  *                       the lines are parallel
  * @param[out] status    outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line; 4
  *                       opposite_line; 7 no_length: A and B, or C and D, coincide (trvcnt)
@@ -77,7 +78,7 @@ TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
 /**
  * Plane that contains one line and is parallel to another: trvpl2 through A.
  *
- * Far from the origin d loses digits; take a local origin there (trv3tra).
+ * Caution: far from the origin d loses digits; use a local origin (trv3tra).
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -85,7 +86,7 @@ TRELVIN_ROUTINE trvpl2(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  * @param[in]  xb,yb,zb  B, on the first line
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  xd,yd,zd  D, on the second line
- * @param[out] a,b,c,d   plane; all zero when status is not 0; its normal is zero, or nearly, where
+ * @param[out] a,b,c,d   plane; all zero if status is not 0; the normal is zero, or nearly zero, if
  *                       the lines are parallel
  * @param[out] status    outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line; 4
  *                       opposite_line; 7 no_length: A and B, or C and D, coincide (trvcnt)
@@ -97,16 +98,16 @@ TRELVIN_ROUTINE trvpl3(TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb, TrvIn z
 /**
  * Plane through a point, perpendicular to a segment.
  *
- * Far from the origin d loses digits; take a local origin there (trv3tra).
+ * Caution: far from the origin d loses digits; use a local origin (trv3tra).
  *
  * Retains: nothing.
  *
  * @param[in]  x,y,z     point
  * @param[in]  xa,ya,za  A
  * @param[in]  xb,yb,zb  B; the normal is B - A
- * @param[out] a,b,c,d   plane; all zero when status is 1
+ * @param[out] a,b,c,d   plane; all zero if status is 1
  * @param[out] status    outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident:
- *                       A and B coincide, each coordinate within the tolerance (trvcnt)
+ *                       A and B coincide within the tolerance in each coordinate (trvcnt)
  */
 TRELVIN_ROUTINE trvpl4(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, TrvIn xb, TrvIn yb,
                        TrvIn zb, TrvOut a, TrvOut b, TrvOut c, TrvOut d, TrvIntOut status);
@@ -117,7 +118,7 @@ TRELVIN_ROUTINE trvpl4(TrvIn x, TrvIn y, TrvIn z, TrvIn xa, TrvIn ya, TrvIn za, 
  * Retains: nothing.
  *
  * @param[in]  ix,iy,iz  intercepts
- * @param[out] a,b,c,d   plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
+ * @param[out] a,b,c,d   plane (1/ix, 1/iy, 1/iz, -1); all zero if status is 1
  * @param[out] status    outcome: 0 done: the plane is computed; 1 no_plane: there is no plane,
  *                       since an intercept is within the tolerance or NaN
  */
@@ -127,9 +128,9 @@ TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut 
 /**
  * Plane of two lines, each given by a point and a direction.
  *
- * The relation of the lines is taken twice, the second time by trvpl2, with the cosine that the
- * first time left (trvpsl). Far from the origin d loses digits; take a local origin there
- * (trv3tra).
+ * Caution: the relation of the lines is determined twice: by this routine, then by trvpl2, which
+ * starts with the cosine that the first determination retained (trvpsl) and may have another
+ * result. Far from the origin d loses digits; use a local origin (trv3tra).
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -137,23 +138,23 @@ TRELVIN_ROUTINE trvpl5(TrvIn ix, TrvIn iy, TrvIn iz, TrvOut a, TrvOut b, TrvOut 
  * @param[in]  ux,uy,uz  direction of the first line
  * @param[in]  xc,yc,zc  C, on the second line
  * @param[in]  wx,wy,wz  direction of the second line
- * @param[out] a,b,c,d   plane; its normal is zero, or nearly, for parallel lines; all zero if only
- *                       the second relation is 3 or 4; unwritten on a condition: the first relation
- *                       is 3, 4, 6 or 7
+ * @param[out] a,b,c,d   plane; the normal is zero, or nearly zero, if the lines are parallel; all
+ *                       zero if only the second relation is 3 or 4; unwritten on a condition: the
+ *                       first relation is 3, 4, 6 or 7
  * @param[out] status    outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line; 4
- *                       opposite_line; 6 skew; 7 no_length: a direction is within the tolerance in
- *                       each component
+ *                       opposite_line; 6 skew; 7 no_length: all components of a direction are
+ *                       within the tolerance
  */
 TRELVIN_ROUTINE trvpl6(TrvIn xa, TrvIn ya, TrvIn za, TrvIn ux, TrvIn uy, TrvIn uz, TrvIn xc,
                        TrvIn yc, TrvIn zc, TrvIn wx, TrvIn wy, TrvIn wz, TrvOut a, TrvOut b,
                        TrvOut c, TrvOut d, TrvIntOut status);
 
 /**
- * Plane of three points turned about the line from P0 to P1.
+ * Plane of three points, rotated about the line from P0 to P1.
  *
- * The normal is a unit vector, formed by adding it to P0 and taking P0 off again, which leaves it
- * the digits that P0 has; at angle 0 it is the third axis of trvaxe. Far from the origin d loses
- * digits; take a local origin there (trv3tra).
+ * The normal is a unit vector; at angle 0 it is the third axis of trvaxe. Caution: the normal is
+ * computed as (P0 + normal) - P0, so far from the origin the normal and d lose digits; use a local
+ * origin (trv3tra).
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -161,7 +162,7 @@ TRELVIN_ROUTINE trvpl6(TrvIn xa, TrvIn ya, TrvIn za, TrvIn ux, TrvIn uy, TrvIn u
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
  * @param[in]  angle     angle in radians, right-handed about the direction from P0 to P1
- * @param[out] a,b,c,d   plane; all zero when status is not 0
+ * @param[out] a,b,c,d   plane; all zero if status is not 0
  * @param[out] status    three-point test (TrvThreePoints): 0 spans_plane; 1 at_p0: P2 is at P0, or
  *                       P0 and P0 + normal coincide (trvcnt); 2 at_p1; 3 between; 4 beyond_p0; 5
  *                       beyond_p1
@@ -173,7 +174,7 @@ TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 /**
  * Whether a point lies on the plane of three points.
  *
- * Far from the origin the figure loses digits; take a local origin there (trv3tra).
+ * Caution: far from the origin the result loses digits; use a local origin (trv3tra).
  *
  * Retains: the cosine of the three-point test (trvpsl).
  *
@@ -181,11 +182,11 @@ TRELVIN_ROUTINE trvpl7(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
  * @param[in]  x1,y1,z1  P1
  * @param[in]  x2,y2,z2  P2
  * @param[in]  x,y,z     point
- * @param[in]  tol       largest residual allowed, itself included: the distance times the length of
- *                       (P1 - P0) x (P2 - P0), in the cube of the length unit
- * @param[out] status    test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if
- *                       P0 = P1; -1 no: the point does not lie on the plane, or the three points
- *                       span no plane (trvpsl)
+ * @param[in]  tol       largest residual allowed (inclusive): the point's distance times the length
+ *                       of (P1 - P0) x (P2 - P0), in the cube of the length unit
+ * @param[out] status    test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for
+ *                       which any point does; -1 no: the point does not lie on the plane, or the
+ *                       three points span no plane (trvpsl)
  */
 TRELVIN_ROUTINE trvpsp(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z1, TrvIn x2,
                        TrvIn y2, TrvIn z2, TrvIn x, TrvIn y, TrvIn z, TrvIn tol, TrvIntOut status);
@@ -193,13 +194,13 @@ TRELVIN_ROUTINE trvpsp(TrvIn x0, TrvIn y0, TrvIn z0, TrvIn x1, TrvIn y1, TrvIn z
 /**
  * Signed distance of a point from a plane.
  *
- * Far from the origin the figure loses digits; take a local origin there (trv3tra).
+ * Caution: far from the origin the result loses digits; use a local origin (trv3tra).
  *
  * Retains: nothing.
  *
  * @param[in]  x,y,z    point
  * @param[in]  a,b,c,d  plane a*x + b*y + c*z + d = 0
- * @param[out] dist     distance, positive on the side the normal points to; not finite where the
+ * @param[out] dist     distance, positive on the side the normal points to; infinite or NaN if the
  *                      normal is zero
  */
 TRELVIN_ROUTINE trvpld(TrvIn x, TrvIn y, TrvIn z, TrvIn a, TrvIn b, TrvIn c, TrvIn d, TrvOut dist);
@@ -207,13 +208,13 @@ TRELVIN_ROUTINE trvpld(TrvIn x, TrvIn y, TrvIn z, TrvIn a, TrvIn b, TrvIn c, Trv
 /**
  * Whether a point lies on a plane.
  *
- * Far from the origin the figure loses digits; take a local origin there (trv3tra).
+ * Caution: far from the origin the result loses digits; use a local origin (trv3tra).
  *
  * Retains: nothing.
  *
  * @param[in]  x,y,z    point
  * @param[in]  a,b,c,d  plane a*x + b*y + c*z + d = 0
- * @param[in]  tol      largest distance allowed, itself included
+ * @param[in]  tol      largest distance allowed (inclusive)
  * @param[out] status   test (TrvOnPlane): 0 yes; -1 no: the point does not lie on the plane, or the
  *                      distance is NaN; 1 zero_normal
  */
@@ -231,8 +232,8 @@ TRELVIN_ROUTINE trvpspg(TrvIn x, TrvIn y, TrvIn z, TrvIn a, TrvIn b, TrvIn c, Tr
  * @param[out] status    relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the
  *                       same, opposite nor perpendicular directions; 3 same: the directions are the
  *                       same; 4 opposite: the directions are opposite; 5 perpendicular: the
- *                       directions are perpendicular; 7 zero: u or w is within the tolerance in
- *                       each component
+ *                       directions are perpendicular; 7 zero: all components of u, or of w, are
+ *                       within the tolerance
  */
 TRELVIN_ROUTINE trvplv(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy, TrvIn wz, TrvIn v7,
                        TrvIn v8, TrvIntOut status);
@@ -240,10 +241,10 @@ TRELVIN_ROUTINE trvplv(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy, TrvIn w
 /**
  * Points of a list on a plane, by a running residual.
  *
- * The residual starts at d and is not reset between points: each point adds a*x, b*y and c*z to it,
- * in this order, and is found when it is exactly zero then.
+ * Caution: the residual starts at d and is not reset between points. Each point adds a*x, b*y and
+ * c*z to it, in this order. The point is found if the residual is then exactly zero.
  *
- * Cost: takes time in proportion to n and no memory.
+ * Cost: time grows with n; nothing is allocated.
  *
  * Retains: nothing.
  *
@@ -251,8 +252,8 @@ TRELVIN_ROUTINE trvplv(TrvIn ux, TrvIn uy, TrvIn uz, TrvIn wx, TrvIn wy, TrvIn w
  * @param[in]    a,b,c  normal of the plane
  * @param[inout] d      constant of the plane; the last residual afterwards; unchanged if n < 1
  * @param[in]    n      number of points
- * @param[out]   count  how many are found
- * @param[out]   index  array of n, count used: their positions, ascending
+ * @param[out]   count  number of points found
+ * @param[out]   index  array of n, count used: positions of these points, ascending
  */
 TRELVIN_ROUTINE trvpnp(TrvArrayIn X, TrvArrayIn Y, TrvArrayIn Z, TrvIn a, TrvIn b, TrvIn c,
                        TrvInOut d, TrvIntIn n, TrvIntOut count, TrvIntArrayOut index);

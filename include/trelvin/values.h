@@ -2,8 +2,8 @@
  * @file
  * Values that several routines share: statuses, relations, counts and kinds by name.
  *
- * Arguments stay Integers; these enumerators are their values. A contract names the enumeration and
- * says which of its values occur. Values that belong to one routine are in names.h.
+ * The arguments are Integers; these enumerators are their values. A contract names the enumeration
+ * and says which of its values occur. Values that belong to one routine are in names.h.
  */
 #ifndef TRELVIN_VALUES_H
 #define TRELVIN_VALUES_H
@@ -14,7 +14,7 @@ enum TrvStatus {
   TRV_STATUS_REFUSED = -1, /**< the input is rejected */
 };
 
-/** Whether a point of an arc was found; note that 1 means done here. */
+/** Whether a point of an arc was found. Caution: here 1 means done. */
 enum TrvArc {
   TRV_ARC_DONE = 1,    /**< the outputs are computed */
   TRV_ARC_REFUSED = 0, /**< the input is rejected */
@@ -41,14 +41,14 @@ enum TrvPoints {
 
 /** Which of three components are above the tolerance. */
 enum TrvComponents {
-  TRV_COMPONENTS_NONE = 0,         /**< no component is */
-  TRV_COMPONENTS_ALL = 1,          /**< all three components are */
-  TRV_COMPONENTS_FIRST = 2,        /**< the first component alone is */
-  TRV_COMPONENTS_SECOND = 3,       /**< the second component alone is */
-  TRV_COMPONENTS_THIRD = 4,        /**< the third component alone is */
-  TRV_COMPONENTS_FIRST_SECOND = 5, /**< the first and the second component are */
-  TRV_COMPONENTS_SECOND_THIRD = 6, /**< the second and the third component are */
-  TRV_COMPONENTS_FIRST_THIRD = 7,  /**< the first and the third component are */
+  TRV_COMPONENTS_NONE = 0,         /**< no component is above the tolerance */
+  TRV_COMPONENTS_ALL = 1,          /**< all three components are above the tolerance */
+  TRV_COMPONENTS_FIRST = 2,        /**< only the first component is above the tolerance */
+  TRV_COMPONENTS_SECOND = 3,       /**< only the second component is above the tolerance */
+  TRV_COMPONENTS_THIRD = 4,        /**< only the third component is above the tolerance */
+  TRV_COMPONENTS_FIRST_SECOND = 5, /**< only the first and the second are above the tolerance */
+  TRV_COMPONENTS_SECOND_THIRD = 6, /**< only the second and the third are above the tolerance */
+  TRV_COMPONENTS_FIRST_THIRD = 7,  /**< only the first and the third are above the tolerance */
 };
 
 /** Whether a point lies on a line of space. */
@@ -57,7 +57,7 @@ enum TrvOnLine {
   TRV_ON_LINE_YES = 1, /**< the point lies on the line */
 };
 
-/** Whether a point lies on a plane; note that 0 means yes. */
+/** Whether a point lies on a plane. Caution: 0 means yes. */
 enum TrvOnPlane {
   TRV_ON_PLANE_YES = 0,         /**< the point lies on the plane */
   TRV_ON_PLANE_NO = -1,         /**< the point does not lie on the plane */
@@ -93,7 +93,7 @@ enum TrvLines {
   TRV_LINES_COINCIDENT = 7,        /**< the two points of a line coincide */
 };
 
-/** What came of two lines of space: a result, or the relation that allows none. */
+/** Outcome for two lines of space: a result, or the relation that allows no result. */
 enum TrvTwoLines {
   TRV_TWO_LINES_DONE = 0,          /**< the outputs are computed */
   TRV_TWO_LINES_SAME_LINE = 3,     /**< the lines are the same, of the same direction */

@@ -104,7 +104,7 @@ class Digits(unittest.TestCase):
     def test_a_chord_that_is_not_turned(self):
         xc, yc, xa, ya, xb, yb, turn, off = figures(
             "trvcer10", r"C = \((\S+), (\S+)\), A = \((\S+), (\S+)\), B = \((\S+), (\S+)\), turn = "
-            r"(\S+) and angle = pi/2 give a crossing that is off by (\S+)\.")
+            r"(\S+) and angle = pi/2 give an intersection that is off by (\S+)\.")
         x, y = xc + (xa - xc) * math.cos(turn) - (ya - yc) * math.sin(turn), \
             yc + (xa - xc) * math.sin(turn) + (ya - yc) * math.cos(turn)
         along = (x * xb + y * yb) / (xb * xb + yb * yb)
@@ -157,13 +157,12 @@ class Digits(unittest.TestCase):
             self.assertLess(abs(worst - told), 0.3 * told, at)
 
     def test_centres_and_crossings_of_circles_far_from_the_origin(self):
-        radius, apart, lost, at = figures(
-            "trvc12", r"circles of radius (\S+) that cut, with centres (\S+) apart, (\S+) % came out "
-                      r"as touching or as apart about \((\S+),")
-        chord, radius2, wrong, at2, off = figures(
-            "trvcer2", r"chords of (\S+) with a radius of (\S+), (\S+) % got a wrong n about "
-                       r"\((\S+), \S+\), and half of the others a centre that is off by more than "
-                       r"(\S+)\.")
+        radius, at, apart, lost = figures(
+            "trvc12", r"circles of radius (\S+) near \((\S+), \S+\), with centres (\S+) apart, (\S+) % "
+                      r"are reported as touching or as disjoint\.")
+        chord, radius2, at2, wrong, off = figures(
+            "trvcer2", r"chords of (\S+) with a radius of (\S+) near \((\S+), \S+\), (\S+) % give a "
+                       r"wrong n, and half of the others a centre that is off by more than (\S+)\.")
         missed, errors = [0, 0], []
         for _ in range(3000):
             way = random.uniform(0, 2 * math.pi)

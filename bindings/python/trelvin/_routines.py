@@ -114,19 +114,19 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvcer8": {
         "status": {
-            0: 'the radius or the chord is at most 0.001, the radii of A and B differ by more, or the station is not farther than that from both ends',
+            0: 'the radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001, or the station is not more than 0.001 inside both ends of the chord',
             1: 'the outputs are computed',
         },
     },
     "trvcer6": {
         "status": {
-            0: 'the radius or the chord is at most 0.001, the radii of A and B differ by more, the station is not farther than that from both ends, or d is closer than that to the diameter',
+            0: 'the radius or the chord is at most 0.001, the radii of A and B differ by more than 0.001, the station is not more than 0.001 inside both ends of the chord, or d differs from the diameter by less than 0.001',
             1: 'the outputs are computed',
         },
     },
     "trvcer9": {
         "status": {
-            0: "the radius, the chord, d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B differ by more, or the strip comes closer than that to an end of the chord",
+            0: 'the radius, the chord, d, the rest of the chord beyond d or the width is at most 0.001, the radii of A and B differ by more than 0.001, or an edge of the strip is less than 0.001 inside an end of the chord',
             1: 'the outputs are computed',
         },
     },
@@ -138,39 +138,39 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvapp": {
         "mark": {
-            -1: "the rays' angle by trvphi is within the tolerance, the same for all points",
+            -1: 'the angle of the rays by trvphi is within the tolerance, so all points have this value',
             1: 'the point is inside the sector',
             2: 'the point is outside the sector',
         },
     },
     "trvcer4": {
         "status": {
-            0: 'the radius or the chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or the line touches the circle',
+            0: 'the radius or the chord is within the tolerance, the radii of A and B differ by more than the tolerance, A and B coincide, or the line is tangent to the circle',
             1: 'the outputs are computed',
         },
     },
     "trvcer10": {
         "status": {
-            0: "the line crosses the chord, which is the normal result, or a crossing of an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is within the tolerance or the radii of A and B differ by more",
+            0: "the line crosses the chord, which is the normal result, or an intersection kept from an earlier call lies on the chord's line but not at A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is within the tolerance or the radii of A and B differ by more than the tolerance",
             1: 'the line runs along the chord',
             2: 'the line is parallel to the chord',
         },
     },
     "trvcer5": {
         "status": {
-            0: 's is negative, or e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B differ by more, or the line touches the circle',
+            0: 's is negative, e, the radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ by more than 1e-5, or the line is tangent to the circle',
             1: 'the outputs are computed',
         },
     },
     "trvcer7": {
         "status": {
-            0: "s or e is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more and the rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle is not longer than 2e-4",
+            0: "s or e is negative, the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by more than 1e-4 and the rounding, side is 0, the line is parallel to the chord, or the part of the line inside the circle is not longer than 2e-4",
             1: 'the outputs are computed',
         },
     },
     "trvard": {
         "status": {
-            0: 'r or a segment is not above the tolerance, the sine of the angle between the segments is within it, or the arc touches one beyond its end by more',
+            0: 'r or the length of a segment is not above the tolerance, the sine of the angle between the segments is within the tolerance, or a tangent point lies beyond the end of its segment by more than the tolerance',
             1: 'the outputs are computed',
         },
     },
@@ -182,9 +182,9 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvptp1": {
         "status": {
-            0: 'none has',
-            1: 'some have',
-            2: 'every one has',
+            0: 'no point of A matches a point of B',
+            1: 'some points of A match points of B, others do not',
+            2: 'every point of A matches a point of B',
         },
     },
     "trvpin": {
@@ -241,26 +241,26 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvpsn": {
         "code": {
-            0: 'no component is',
-            1: 'all three components are',
-            2: 'the first component alone is',
-            3: 'the second component alone is',
-            4: 'the third component alone is',
-            5: 'the first and the second component are',
-            6: 'the second and the third component are',
-            7: 'the first and the third component are',
+            0: 'no component is above the tolerance',
+            1: 'all three components are above the tolerance',
+            2: 'only the first component is above the tolerance',
+            3: 'only the second component is above the tolerance',
+            4: 'only the third component is above the tolerance',
+            5: 'only the first and the second are above the tolerance',
+            6: 'only the second and the third are above the tolerance',
+            7: 'only the first and the third are above the tolerance',
         },
     },
     "trvln6": {
         "code": {
-            0: 'no component is',
-            1: 'all three components are',
-            2: 'the first component alone is',
-            3: 'the second component alone is',
-            4: 'the third component alone is',
-            5: 'the first and the second component are',
-            6: 'the second and the third component are',
-            7: 'the first and the third component are',
+            0: 'no component is above the tolerance',
+            1: 'all three components are above the tolerance',
+            2: 'only the first component is above the tolerance',
+            3: 'only the second component is above the tolerance',
+            4: 'only the third component is above the tolerance',
+            5: 'only the first and the second are above the tolerance',
+            6: 'only the second and the third are above the tolerance',
+            7: 'only the first and the third are above the tolerance',
         },
         "on": {
             0: 'P does not lie on the line, or code is 0',
@@ -269,18 +269,18 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     },
     "trvln7": {
         "code": {
-            0: 'no component is',
-            1: 'all three components are',
-            2: 'the first component alone is',
-            3: 'the second component alone is',
-            4: 'the third component alone is',
-            5: 'the first and the second component are',
-            6: 'the second and the third component are',
-            7: 'the first and the third component are',
+            0: 'no component is above the tolerance',
+            1: 'all three components are above the tolerance',
+            2: 'only the first component is above the tolerance',
+            3: 'only the second component is above the tolerance',
+            4: 'only the third component is above the tolerance',
+            5: 'only the first and the second are above the tolerance',
+            6: 'only the second and the third are above the tolerance',
+            7: 'only the first and the third are above the tolerance',
         },
         "on": {
-            0: 'P does not match the line at the station',
-            1: 'P matches the line at the station',
+            0: 'P does not match the line at the kept coordinate',
+            1: 'P matches the line at the kept coordinate',
         },
     },
     "trvphip": {
@@ -408,7 +408,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     "trvpl4": {
         "status": {
             0: 'the plane is computed',
-            1: 'A and B coincide, each coordinate within the tolerance (trvcnt)',
+            1: 'A and B coincide within the tolerance in each coordinate (trvcnt)',
         },
     },
     "trvpl5": {
@@ -423,7 +423,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             3: 'the lines are the same, of the same direction',
             4: 'the lines are the same, of opposite direction',
             6: 'the lines are skew',
-            7: 'a direction is within the tolerance in each component',
+            7: 'all components of a direction are within the tolerance',
         },
     },
     "trvpl7": {
@@ -439,7 +439,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
     "trvpsp": {
         "status": {
             -1: 'the point does not lie on the plane, or the three points span no plane (trvpsl)',
-            0: 'the point lies on the plane, as any point does if P0 = P1',
+            0: 'the point lies on the plane, or P0 = P1, for which any point does',
         },
     },
     "trvpspg": {
@@ -456,7 +456,7 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             3: 'the directions are the same',
             4: 'the directions are opposite',
             5: 'the directions are perpendicular',
-            7: 'u or w is within the tolerance in each component',
+            7: 'all components of u, or of w, are within the tolerance',
         },
     },
     "trvdirl": {
@@ -493,14 +493,14 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             3: 'the lines are the same, of the same direction',
             4: 'the lines are the same, of opposite direction',
             6: 'the lines are skew',
-            7: 'a direction is within the tolerance in each component',
+            7: 'all components of a direction are within the tolerance',
         },
     },
     "trvpli": {
         "status": {
             0: 'the point is computed',
-            3: 'the line is parallel to the plane, the cosine of u and the normal is within the tolerance',
-            4: 'u or the normal is within the tolerance in each component',
+            3: 'the line is parallel to the plane, since the cosine of the angle between u and the normal is within the tolerance',
+            4: 'all components of u, or of the normal, are within the tolerance',
         },
     },
     "trvplp": {
@@ -527,8 +527,8 @@ MEANINGS: dict[str, dict[str, dict[int, str]]] = {
             0: 'the three points are not collinear, or Q1 is at P',
             3: 'Q2 is moved, Q1 and Q2 are on one side of P',
             4: 'Q2 is moved, Q1 and Q2 are on either side of P',
-            6: 'Q2 is moved, rounding takes the three points for skew lines',
-            7: 'Q2 is moved, Q2 is at P, or Q1 is by each coordinate yet not by its distance',
+            6: 'Q2 is moved, although the lines count as skew because of rounding',
+            7: "Q2 is moved, Q2 coincides with P, or each coordinate of Q1 is within the tolerance of P's although their distance is above it",
         },
     },
 }
@@ -543,7 +543,7 @@ class TrvStatus(IntEnum):
 
 
 class TrvArc(IntEnum):
-    """Whether a point of an arc was found; note that 1 means done here."""
+    """Whether a point of an arc was found. Caution: here 1 means done."""
 
     DONE = 1
     REFUSED = 0
@@ -617,7 +617,7 @@ class TrvOnLine(IntEnum):
 
 
 class TrvOnPlane(IntEnum):
-    """Whether a point lies on a plane; note that 0 means yes."""
+    """Whether a point lies on a plane. Caution: 0 means yes."""
 
     YES = 0
     NO = -1
@@ -668,7 +668,7 @@ class TrvLines(IntEnum):
 
 
 class TrvTwoLines(IntEnum):
-    """What came of two lines of space: a result, or the relation that allows none."""
+    """Outcome for two lines of space: a result, or the relation that allows no result."""
 
     DONE = 0
     SAME_LINE = 3
@@ -715,7 +715,7 @@ class Trvcer10Status(IntEnum):
 
 
 class Trvptp1Status(IntEnum):
-    """trvptp1: which points of A have a partner in B."""
+    """trvptp1: which points of A match a point of B."""
 
     NO_PAIR = 0
     SOME_PAIRS = 1
@@ -963,19 +963,21 @@ def trvlci(
 ) -> TrvlciResult:
     """Intersection of a line and a circle.
 
-    The line is solved for x where |a| is above the tolerance, else it is taken as horizontal.
-    There is one point when the discriminant of the quadratic is within the tolerance. It grows
-    with the fourth power of a and b and the square of the radius, so small circles are touched
-    rather than cut. A NaN discriminant gives two points with NaN.
+    If |a| is above the tolerance, the line's equation is solved for x. Otherwise the line is
+    taken as horizontal. If the discriminant of the quadratic is within the tolerance, there is
+    one point. The discriminant grows with the fourth power of a and b and the square of the
+    radius, so a line that cuts a small circle can be reported as tangent. If it is NaN, there
+    are two points with NaN.
 
-    The nearer the line is to the direction of x, the fewer digits are left, also at the origin:
-    with |a| a hundredth of |b| and circles of some hundred units, points are off by about a
-    unit. Routines that cut a circle by a line inherit this (trvc12, trvcer1, trvcer2, trvcer6).
+    The smaller the line's angle to the x axis, the more digits are lost, also at the origin: if
+    |a| is |b|/100 and the circle has some hundred units, points are off by about one unit. The
+    same holds for trvc12, trvcer1, trvcer2 and trvcer6.
 
-    Far from the origin F loses the radius. Points of a circle of radius 10 are off by up to
-    0.15 if its centre is (1000, 1000), and by up to 9 at (1e4, 1e4). At (1e5, 1e5) the line (3,
-    4, -699925) misses the circle by 5, but the routine gives two points 97 apart. Move the
-    origin next to the circle first (trvtra). trvcer6, trvcer8 and trvcer9 inherit this.
+    Caution: far from the origin F loses the digits of the radius. Points of a circle of radius
+    10 are off by up to 0.15 if its centre is (1000, 1000), and by up to 9 at (1e4, 1e4). At
+    (1e5, 1e5) the line (3, 4, -699925) misses the circle by 5, but the routine gives two points
+    97 apart. Move the origin next to the circle first (trvtra). The same holds for trvcer6,
+    trvcer8 and trvcer9.
 
     Retains: nothing.
 
@@ -986,7 +988,7 @@ def trvlci(
     Returns:
       n: number of points (TrvPoints): 0 none: the line misses the circle; 1 one: the line
         touches the circle; 2 two: the line cuts the circle
-      x1, y1: first point, of the larger root: the larger y, or the larger x where the line is
+      x1, y1: first point, of the larger root: the larger y, or the larger x if the line is
         taken as horizontal; unwritten if n is 0
       x2, y2: second point; unwritten if n is 0 or 1
 
@@ -1014,11 +1016,13 @@ _trvc12 = Routine(
 def trvc12(
     D1: float, E1: float, F1: float, D2: float, E2: float, F2: float
 ) -> Trvc12Result:
-    """Intersection of two circles: that of their radical line with the first circle (trvlci).
+    """Intersection of two circles, computed as that of their radical line and the first circle
+    (trvlci).
 
-    Far from the origin it loses more digits than trvlci: the radical line is inaccurate too. Of
-    random pairs of circles of radius 10 that cut, with centres 15 apart, 22 % came out as
-    touching or as apart about (1e4, 1e4). Move the origin next to the circles first (trvtra).
+    Caution: far from the origin more digits are lost than in trvlci, since the radical line is
+    inaccurate too. Of random pairs of intersecting circles of radius 10 near (1e4, 1e4), with
+    centres 15 apart, 22 % are reported as touching or as disjoint. Move the origin next to the
+    circles first (trvtra).
 
     Retains: nothing.
 
@@ -1030,7 +1034,7 @@ def trvc12(
       n: number of points (TrvPoints): 0 none: the circles have no common point, or are
         concentric: |D2 - D1| + |E2 - E1| is within the tolerance; 1 one: the circles touch; 2
         two: the circles cut each other
-      x1, y1: first point, as of trvlci; unwritten if n is 0
+      x1, y1: first point, in the order of trvlci; unwritten if n is 0
       x2, y2: second point; unwritten if n is 0 or 1
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
@@ -1061,20 +1065,21 @@ def trvcer2(
 ) -> Trvcer2Result:
     """Centres of the circles of a radius through two points.
 
-    A horizontal chord (|y2 - y1| < 1e-5) writes both candidates and the choice but leaves n at
-    0; its candidates' y are NaN where the radius is less than half the chord.
+    Caution: if the chord is horizontal (|y2 - y1| < 1e-5), both candidates and the chosen
+    centre are written, although n is 0. Their y is NaN if the radius is less than half the
+    chord.
 
-    Far from the origin digits are lost as in trvlci: of random chords of 12 with a radius of
-    10, 15 % got a wrong n about (1e4, 1e4), and half of the others a centre that is off by more
-    than 0.9. Move the origin next to the chord first (trvtra).
+    Caution: far from the origin digits are lost as in trvlci. Of random chords of 12 with a
+    radius of 10 near (1e4, 1e4), 15 % give a wrong n, and half of the others a centre that is
+    off by more than 0.9. Move the origin next to the chord first (trvtra).
 
     Retains: nothing.
 
     Arguments:
       x1, y1: P1
       x2, y2: P2
-      side: positive picks the candidate on the side of trvln3's normal of P1 and P2, negative
-        the other one, zero the first candidate
+      side: positive selects the candidate to the right of the direction from P1 to P2 (trvln3,
+        trvlds), negative the one to the left, zero the first candidate
       r: radius
 
     Returns:
@@ -1082,8 +1087,8 @@ def trvcer2(
         n is 0 and the chord is not horizontal
       xb, yb: second candidate; unwritten on a condition: xa is unwritten
       xc, yc: chosen centre; unwritten on a condition: xa is unwritten, or neither candidate is
-        on the side: side times its distance (trvlds) is not at least 0 for the first and not
-        positive for the second, as with a NaN
+        on the selected side, for example with a NaN: side times the distance (trvlds) is not at
+        least 0 for the first candidate and not positive for the second
       n: number of centres (TrvPoints): 0 none: P1 = P2 exactly, r is at most 1e-5 or less than
         half the chord, the discriminant is NaN, or the chord is horizontal; 1 one: both
         candidates are the same point; 2 two: there are two points
@@ -1114,15 +1119,15 @@ def trvcer1(
     """Circle through two points with a given sagitta.
 
     r = d / (2*sin(pi - 2*atan(d / (2*h)))) for the chord d, which is h/2 + d*d/(8*h). The
-    centre is that of trvcer2, and loses as many digits far from the origin.
+    centre is that of trvcer2. Far from the origin it loses as many digits.
 
     Retains: nothing.
 
     Arguments:
       x1, y1: P1
       x2, y2: P2
-      side: positive picks the centre on the side of trvln3's normal of P1 and P2, negative the
-        other one, zero the first candidate of trvcer2
+      side: positive selects the centre to the right of the direction from P1 to P2 (trvln3,
+        trvlds), negative the one to the left, zero the first candidate of trvcer2
       h: sagitta: height of the arc above the middle of the chord
 
     Returns:
@@ -1160,14 +1165,14 @@ def trvcin(
 ) -> TrvcinResult:
     """Classifies a circle cut by a line, with a trace.
 
-    The region is that of the centre's y, whatever the line; the line decides only whether the
+    Above and below refer to the centre's y, not to the line. The line decides only whether the
     circle is cut. Each call appends three lines to OUTPUT.TXT, in Windows-1253: a heading, the
-    class, and what it means, with the points of a cut circle.
+    class, and its meaning, with the intersections if the circle is cut.
 
     The first call opens the file in the directory that is current then. The file stays open
     until the library is unloaded, even if the current directory changes or the file is renamed.
-    It is never emptied, and it is complete after each call. A call appends its record in one
-    write, behind what other processes append.
+    It is never truncated, and it is complete after each call. A call appends its record in one
+    write, after the records of other processes.
 
     Only an ordinary file is written. If OUTPUT.TXT is a directory, a pipe or a device, or if
     the record cannot be written, the call computes as always. After a failed write the file is
@@ -1179,10 +1184,10 @@ def trvcin(
     descriptor, the library neither writes to that file nor closes it.
 
     Caution: on Windows the open file cannot be deleted or renamed, and a program that shares it
-    for reading only cannot open it. The host cannot close its handle. Processes take turns by a
-    lock of a byte far behind the text. If another process holds the lock and the file does not
-    grow, a call waits a quarter of a second and leaves its record out. Later calls leave their
-    records out without waiting, until the lock is free or the file grows.
+    for reading only cannot open it. The host cannot close its handle. The library synchronises
+    processes by a file lock on a byte far beyond the text. If another process holds the lock
+    and the file does not grow, a call waits 0.25 seconds and does not write its record. Later
+    calls skip their records without waiting, until the lock is free or the file grows.
 
     Retains: the open trace file (trvcin).
 
@@ -1195,8 +1200,8 @@ def trvcin(
         uncut_below: the circle is not cut, its centre is on or below the x axis; 3 cut_below:
         the circle is cut, its centre is below the x axis; 4 cut_above: the circle is cut, its
         centre is on or above the x axis
-      x1, y1: first intersection, which loses digits far from the origin, as position does
-        (trvlci); unwritten on a condition: the line misses the circle
+      x1, y1: first intersection; it and position are inaccurate far from the origin (trvlci);
+        unwritten on a condition: the line misses the circle
       x2, y2: second intersection; unwritten on a condition: the line misses or touches the
         circle
 
@@ -1224,20 +1229,20 @@ _trvcer3 = Routine(
 def trvcer3(
     x0: float, y0: float, x: float, y: float, angle: float
 ) -> Trvcer3Result:
-    """Turns a point about a centre.
+    """Rotates a point about a centre.
 
     Retains: nothing.
 
     Arguments:
       x0, y0: centre
-      x, y: point; comes back rounded by the way to the centre and back; relative to the centre
-        when status is 0
+      x, y: point; on return it differs by rounding, because the centre is subtracted and added
+        again; if status is 0, it is returned relative to the centre
       angle: angle in radians, counter-clockwise
 
     Returns:
-      x, y: point; comes back rounded by the way to the centre and back; relative to the centre
-        when status is 0
-      xr, yr: turned point; unwritten if status is 0
+      x, y: point; on return it differs by rounding, because the centre is subtracted and added
+        again; if status is 0, it is returned relative to the centre
+      xr, yr: rotated point; unwritten if status is 0
       status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the point's
         distance from the centre is within the tolerance
 
@@ -1266,8 +1271,9 @@ def trvcer8(
 ) -> Trvcer8Result:
     """Point of an arc above a station of its chord, perpendicular to the chord.
 
-    Lengths are compared with 0.001. Where the perpendicular touches the circle (trvlci), the
-    second intersection is that of an earlier call; where it misses it, both are.
+    Lengths are compared with 0.001. Caution: if the perpendicular is tangent to the circle
+    (trvlci gives one point), the second intersection is the one kept from an earlier call. If
+    the perpendicular misses the circle, both intersections are kept from an earlier call.
 
     Retains: both intersections (trvcer8).
 
@@ -1275,15 +1281,15 @@ def trvcer8(
       xc, yc: centre C
       xa, ya: first end A
       xb, yb: second end B
-      side: with the first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
-        negative, else the other one
+      side: selects the intersection: the first one, Q, if side * ((A - C) x (Q - C)) is
+        negative, otherwise the second
       d: station: distance from A along the chord
 
     Returns:
       x, y: point; unwritten if status is 0
       status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-        chord is at most 0.001, the radii of A and B differ by more, or the station is not
-        farther than that from both ends
+        chord is at most 0.001, the radii of A and B differ by more than 0.001, or the station
+        is not more than 0.001 inside both ends of the chord
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1310,9 +1316,10 @@ def trvcer6(
 ) -> Trvcer6Result:
     """Point of an arc on the line from its centre through a station of its chord.
 
-    Lengths are compared with 0.001. Where the line touches the circle (trvlci), the second
-    intersection is that of an earlier call; where it misses it, both are. Where the station is
-    at the centre there is no line, and the point is the second intersection of an earlier call.
+    Lengths are compared with 0.001. Caution: if the line is tangent to the circle (trvlci gives
+    one point), the second intersection is the one kept from an earlier call. If the line misses
+    the circle, both intersections are kept from an earlier call. If the station is at the
+    centre, there is no line, and the point is the second intersection of an earlier call.
 
     Retains: both intersections (trvcer6).
 
@@ -1320,15 +1327,16 @@ def trvcer6(
       xc, yc: centre C
       xa, ya: first end A
       xb, yb: second end B
-      side: with the first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
-        negative, else the other one
+      side: selects the intersection: the first one, Q, if side * ((A - C) x (Q - C)) is
+        negative, otherwise the second
       d: station: distance from A along the chord
 
     Returns:
       x, y: point; unwritten if status is 0
       status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-        chord is at most 0.001, the radii of A and B differ by more, the station is not farther
-        than that from both ends, or d is closer than that to the diameter
+        chord is at most 0.001, the radii of A and B differ by more than 0.001, the station is
+        not more than 0.001 inside both ends of the chord, or d differs from the diameter by
+        less than 0.001
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1358,9 +1366,10 @@ def trvcer9(
 ) -> Trvcer9Result:
     """Points of an arc above the two edges of a strip on its chord, perpendicular to the chord.
 
-    Lengths are compared with 0.001. Both edges share one pair of intersections: where a
-    perpendicular touches the circle (trvlci), the second intersection is that of the edge or
-    the call before; where it misses it, both are.
+    Lengths are compared with 0.001. Caution: both edges share one pair of kept intersections.
+    If a perpendicular is tangent to the circle (trvlci gives one point), the second
+    intersection is that of the previous edge or call. If the perpendicular misses the circle,
+    both intersections are.
 
     Retains: both intersections (trvcer9).
 
@@ -1368,8 +1377,8 @@ def trvcer9(
       xc, yc: centre C
       xa, ya: first end A
       xb, yb: second end B
-      side: with an edge's first intersection Q: Q itself where side * ((A - C) x (Q - C)) is
-        negative, else the other one
+      side: selects the intersection for each edge: the first one, Q, if side * ((A - C) x (Q -
+        C)) is negative, otherwise the second
       d: station of the strip's middle: distance from A along the chord
       w: width of the strip
 
@@ -1377,8 +1386,9 @@ def trvcer9(
       x1, y1: point above the station d - w/2; unwritten if status is 0
       x2, y2: point above the station d + w/2; unwritten if status is 0
       status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius, the
-        chord, d, the chord's rest beyond d or the width is at most 0.001, the radii of A and B
-        differ by more, or the strip comes closer than that to an end of the chord
+        chord, d, the rest of the chord beyond d or the width is at most 0.001, the radii of A
+        and B differ by more than 0.001, or an edge of the strip is less than 0.001 inside an
+        end of the chord
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1404,9 +1414,10 @@ def trvarc1(
 ) -> Trvarc1Result:
     """Lengths of the two arcs between two points of a circle.
 
-    Short arcs, and arcs close to half the circle, lose their digits as the angles of trvphi do:
-    of pairs of points that lie opposite each other, 25 % give NaN. Instead take chi of trvchi
-    at the centre, with z = 0: chi times the radius is the arc from A to B counter-clockwise.
+    Caution: short arcs, and arcs close to half the circle, lose digits as the angles of trvphi
+    do. Of pairs of points that lie opposite each other, 25 % give NaN. For such arcs use the
+    angle chi of trvchi at the centre, with z = 0: chi times the radius is the arc from A to B
+    counter-clockwise.
 
     Retains: nothing.
 
@@ -1438,9 +1449,9 @@ def trvaxph(
 ) -> float:
     """Signed angle of a direction against the x axis.
 
-    Small angles, and angles close to pi, lose their digits as in trvphi, yet are never NaN: at
-    3e-4 radians 48 % of random directions give 0 or pi, at 4e-4 5 %. For them take trvchi at
-    the origin from (1, 0, 0) to (dx, |dy|, 0), and the sign of dy.
+    Caution: small angles, and angles close to pi, lose digits as in trvphi, but are never NaN:
+    at 3e-4 radians 48 % of random directions give 0 or pi, at 4e-4 5 %. For such angles use
+    trvchi at the origin from (1, 0, 0) to (dx, |dy|, 0), with the sign of dy.
 
     Retains: nothing.
 
@@ -1448,8 +1459,8 @@ def trvaxph(
       dx, dy: direction
 
     Returns:
-      phi: angle in radians in [-pi, pi]: negative where dy is below -1e-5, positive or zero
-        elsewhere; 0 where the direction's length is within the tolerance
+      phi: angle in radians in [-pi, pi]: negative if dy is below -1e-5, otherwise positive or
+        zero; 0 if the direction's length is within the tolerance
     """
     return _trvaxph.cells(dx, dy, _NAN)
 
@@ -1474,10 +1485,11 @@ def trvhin(
     x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
     z2: float, x3: float, y3: float, z3: float
 ) -> TrvhinResult:
-    """Distances and stations of two points against a segment.
+    """Distances of two points from the line of a segment, and their stations along it.
 
-    Distances are taken from the segment's line in the plane of x and y, lengths in space. A
-    distance greater than the length it belongs to gives a NaN station.
+    h0 and h3 are measured in the plane of x and y; len, |P0 - P1| and |P3 - P2| are measured in
+    space. If h0 is greater than |P0 - P1|, s0 is NaN; if h3 is greater than |P3 - P2|, s3 is
+    NaN.
 
     Retains: nothing.
 
@@ -1489,9 +1501,9 @@ def trvhin(
 
     Returns:
       h0: distance of P0 from the line
-      s0: station of P0's foot: sqrt(|P0 - P1|^2 - h0^2), from P1
+      s0: station of the foot of P0's perpendicular, from P1: sqrt(|P0 - P1|^2 - h0^2)
       h3: distance of P3 from the line
-      s3: station of P3's foot: len - sqrt(|P3 - P2|^2 - h3^2), from P1
+      s3: station of the foot of P3's perpendicular, from P1: len - sqrt(|P3 - P2|^2 - h3^2)
       len_: length of the segment
     """
     return _trvhin.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, x3, y3, z3, _NAN, _NAN, _NAN, _NAN,
@@ -1510,18 +1522,18 @@ def trvapp(
     x0: float, y0: float, x1: float, y1: float, x2: float, y2: float, X: ArrayLike,
     Y: ArrayLike, *, n: int | None = None
 ) -> NDArray[int32]:
-    """Marks points by a sector.
+    """Marks points as inside or outside a sector.
 
-    A point is outside where its signed distances from the rays' lines (trvln3, trvlds) have
-    opposite signs, or where its foot on the first line lies beyond the vertex (trvpsl). A NaN
-    in a point puts it inside, one in the vertex or the first ray all points; with one in the
-    second ray the foot decides alone.
+    A point is outside if its signed distances from the rays' lines (trvln3, trvlds) have
+    opposite signs, or if the foot of its perpendicular on the first line lies beyond the vertex
+    (trvpsl). A point with a NaN coordinate is marked inside. If P0 or P1 contains a NaN, all
+    points are marked inside. If only P2 contains a NaN, only the position of the foot decides.
 
-    A narrow sector can be taken for none: of sectors of 4e-4 radians 23 % are, as their angle
-    by trvphi is 0. For sectors below 8e-4 radians compare the signed distances from both rays
-    yourself (trvln3, trvlds).
+    Caution: a narrow sector can be marked as no sector, because its angle by trvphi is 0: of
+    sectors of 4e-4 radians 23 % are. For sectors below 8e-4 radians, compare the signed
+    distances from both rays yourself (trvln3, trvlds).
 
-    Cost: takes time in proportion to n.
+    Cost: time grows with n.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -1534,8 +1546,8 @@ def trvapp(
 
     Returns:
       mark: where each point is: 1 inside: the point is inside the sector; 2 outside: the point
-        is outside the sector; -1 no_sector: the rays' angle by trvphi is within the tolerance,
-        the same for all points
+        is outside the sector; -1 no_sector: the angle of the rays by trvphi is within the
+        tolerance, so all points have this value
     """
     return _trvapp.call((x0, y0, x1, y1, x2, y2, n, X, Y))
 
@@ -1566,34 +1578,34 @@ def trvcer4(
 ) -> Trvcer4Result:
     """Point of an arc on a line through a station of its chord.
 
-    Of the two points in which the line meets the circle, the one across the chord from the
-    centre; points on the chord count as across. A line that misses the circle is not refused:
-    the result of an earlier call stands, as if it had been found in this chord's frame, and is
-    carried out of it.
+    The line intersects the circle in two points. The result is the one on the other side of the
+    chord than the centre; points on the chord count as on the other side. Caution: a line that
+    misses the circle is not an error. The result kept from an earlier call is then used: it is
+    taken as coordinates in the local frame of this chord and transformed to global ones.
 
-    The chord is turned onto the x axis by an angle with as few digits as that of trvaxph. If
-    the chord is within 4.2e-4 radians of the direction of x, it may not be turned at all, and
-    the line's direction is off by as much. For chords within 0.01 radians turn the arc by a
-    quarter: pass (-y, x) for each point (x, y); the result is (yo, -xo).
+    Caution: the chord is rotated onto the x axis by an angle that is as inaccurate as that of
+    trvaxph. If the chord is within 4.2e-4 radians of the direction of x, it may not be rotated
+    at all, and the line's direction is off by as much. For chords within 0.01 radians, rotate
+    the arc by 90 degrees: pass (-y, x) for each point (x, y); the result is (yo, -xo).
 
     Retains: the point (trvcer4).
 
     Arguments:
-      xc, yc: centre C; rewritten with its value to rounding; unchanged if status is 0
-      xa, ya: first end A; rewritten with its value to rounding; unchanged if status is 0
-      xb, yb: second end B; rewritten with its value to rounding; unchanged if status is 0
-      s: station: distance from A along the chord, beyond its ends too
+      xc, yc: centre C; returned with its value, up to rounding; unchanged if status is 0
+      xa, ya: first end A; returned with its value, up to rounding; unchanged if status is 0
+      xb, yb: second end B; returned with its value, up to rounding; unchanged if status is 0
+      s: station: distance from A along the chord; it may lie beyond the ends of the chord
       angle: direction of the line in radians, measured from the chord A to B, counter-clockwise
         (trvln1)
 
     Returns:
-      xc, yc: centre C; rewritten with its value to rounding; unchanged if status is 0
-      xa, ya: first end A; rewritten with its value to rounding; unchanged if status is 0
-      xb, yb: second end B; rewritten with its value to rounding; unchanged if status is 0
+      xc, yc: centre C; returned with its value, up to rounding; unchanged if status is 0
+      xa, ya: first end A; returned with its value, up to rounding; unchanged if status is 0
+      xb, yb: second end B; returned with its value, up to rounding; unchanged if status is 0
       xo, yo: point; unwritten if status is 0
       status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: the radius or the
-        chord is within the tolerance, the radii of A and B differ by more, A and B coincide, or
-        the line touches the circle
+        chord is within the tolerance, the radii of A and B differ by more than the tolerance, A
+        and B coincide, or the line is tangent to the circle
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1624,43 +1636,45 @@ _trvcer10 = Routine(
 def trvcer10(
     xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, turn: float, angle: float
 ) -> Trvcer10Result:
-    """Crossing of an arc's chord with a line through its turned end.
+    """Intersection of an arc's chord with a line through its rotated end.
 
-    A is turned about the centre; the line runs through the turned point. Where it is parallel
-    to the chord, or along it, the crossing of an earlier call stands, in the chord's frame.
+    A is rotated about the centre; the line runs through the rotated point. Caution: if the line
+    is parallel to the chord, or along it, the intersection kept from an earlier call is used,
+    as coordinates in the chord's frame.
 
-    A chord within 4.2e-4 radians of the direction of x may not be turned onto the x axis, as in
-    trvcer4, and the line's direction is off by as much. C = (5000, 1), A = (0, 0), B = (10000,
-    2), turn = -0.24 and angle = pi/2 give a crossing that is off by 0.24. For chords within
-    0.01 radians pass (-y, x) for each point (x, y); the result is (yo, -xo).
+    Caution: as in trvcer4, a chord within 4.2e-4 radians of the direction of x may not be
+    rotated onto the x axis, and the line's direction is off by as much. C = (5000, 1), A = (0,
+    0), B = (10000, 2), turn = -0.24 and angle = pi/2 give an intersection that is off by 0.24.
+    For chords within 0.01 radians, pass (-y, x) for each point (x, y); the result is (yo, -xo).
 
     Retains: the crossing (trvcer10); the cosine of the three-point test (trvpsl).
 
     Arguments:
-      xc, yc: centre C; rewritten with its value to rounding; unchanged on a condition: the
+      xc, yc: centre C; returned with its value, up to rounding; unchanged on a condition: the
         input is rejected
-      xa, ya: first end A; rewritten with its value to rounding; unchanged on a condition: the
-        input is rejected
-      xb, yb: second end B; rewritten with its value to rounding; unchanged on a condition: the
-        input is rejected
-      turn: angle in radians by which A is turned about C, counter-clockwise
+      xa, ya: first end A; returned with its value, up to rounding; unchanged on a condition:
+        the input is rejected
+      xb, yb: second end B; returned with its value, up to rounding; unchanged on a condition:
+        the input is rejected
+      turn: angle in radians by which A is rotated about C, counter-clockwise
       angle: direction of the line in radians, measured from the chord A to B, counter-clockwise
         (trvln1)
 
     Returns:
-      xc, yc: centre C; rewritten with its value to rounding; unchanged on a condition: the
+      xc, yc: centre C; returned with its value, up to rounding; unchanged on a condition: the
         input is rejected
-      xa, ya: first end A; rewritten with its value to rounding; unchanged on a condition: the
-        input is rejected
-      xb, yb: second end B; rewritten with its value to rounding; unchanged on a condition: the
-        input is rejected
-      xo, yo: crossing; unwritten on a condition: the input is rejected, so it must be set
-        beforehand where status 0 is to be told apart
+      xa, ya: first end A; returned with its value, up to rounding; unchanged on a condition:
+        the input is rejected
+      xb, yb: second end B; returned with its value, up to rounding; unchanged on a condition:
+        the input is rejected
+      xo, yo: intersection; unwritten on a condition: the input is rejected, so set it
+        beforehand if the two cases of status 0 must be told apart
       status: outcome: 0 crossing_or_refused: the line crosses the chord, which is the normal
-        result, or a crossing of an earlier call lies on the chord's line but not at A or B
-        (trvpsl above 2), or the input is rejected, since the radius or the chord is within the
-        tolerance or the radii of A and B differ by more; 1 along_chord: the line runs along the
-        chord; 2 parallel: the line is parallel to the chord
+        result, or an intersection kept from an earlier call lies on the chord's line but not at
+        A or B (trvpsl above 2), or the input is rejected, since the radius or the chord is
+        within the tolerance or the radii of A and B differ by more than the tolerance; 1
+        along_chord: the line runs along the chord; 2 parallel: the line is parallel to the
+        chord
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1693,40 +1707,45 @@ def trvcer5(
     xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int,
     e: float
 ) -> Trvcer5Result:
-    """Point of an arc on the line from a station of its chord towards the sagitta.
+    """Point of an arc on the line from a station of its chord to a point of the sagitta.
 
-    T is at the distance e from the chord's middle towards the arc's middle point. Of the two
-    points in which the line from the station through T meets the circle, the one on T's side of
-    the chord. A line that misses the circle is not refused: the result of an earlier call
-    stands, as if it had been found in this chord's frame, and is carried out of it. Where A and
-    B, or the chord's middle and the arc's, agree within the tolerance in each coordinate yet
-    lie farther apart, the station, or T, of an earlier call stands.
+    T is at the distance e from the chord's middle towards the arc's middle point. The line from
+    the station through T intersects the circle in two points. The result is the one on T's side
+    of the chord.
 
-    The angle ACB comes from trvphi3, so flat arcs lose the direction of T. The point of an arc
-    of 0.1 radians is off by up to 5e-5 of its chord, of 0.01 radians by up to 8 %. Below 0.005
-    radians any point, NaN or a refusal can come out. For such arcs take O of trvcer7, with
-    angle = atan2(side*e, c/2 - s) for the chord c.
+    Caution: a line that misses the circle is not an error. The result kept from an earlier call
+    is then used: it is taken as coordinates in the local frame of this chord and transformed to
+    global ones. If A and B match within the tolerance in each coordinate although their
+    distance is above it, the station of an earlier call is used. The same holds for T if the
+    middle points of the chord and of the arc match in this way.
+
+    Caution: the angle ACB comes from trvphi3, so flat arcs lose the direction of T. The point
+    of an arc of 0.1 radians is off by up to 5e-5 of its chord, of 0.01 radians by up to 8 %.
+    Below 0.005 radians the result can be any point, NaN or a refusal. For such arcs use O of
+    trvcer7, with angle = atan2(side*e, c/2 - s) for the chord c.
 
     Retains: the station, T and the point (trvcer5).
 
     Arguments:
-      xc, yc: centre C; rewritten with its value to rounding; unchanged if status is 0
-      xa, ya: first end A; rewritten with its value to rounding, also if the line touches the
-        circle; unchanged on a condition: status is 0 and the line does not touch the circle
-      xb, yb: second end B; rewritten with its value to rounding; unchanged if status is 0
+      xc, yc: centre C; returned with its value, up to rounding; unchanged if status is 0
+      xa, ya: first end A; returned with its value, up to rounding, also if the line is tangent
+        to the circle; unchanged on a condition: status is 0 and the line is not tangent to the
+        circle
+      xb, yb: second end B; returned with its value, up to rounding; unchanged if status is 0
       s: station: distance from A along the chord, not negative
-      side: factor of the half angle that turns A clockwise to the arc's middle point
+      side: factor of the half angle that rotates A clockwise to the arc's middle point
       e: distance of T from the chord
 
     Returns:
-      xc, yc: centre C; rewritten with its value to rounding; unchanged if status is 0
-      xa, ya: first end A; rewritten with its value to rounding, also if the line touches the
-        circle; unchanged on a condition: status is 0 and the line does not touch the circle
-      xb, yb: second end B; rewritten with its value to rounding; unchanged if status is 0
+      xc, yc: centre C; returned with its value, up to rounding; unchanged if status is 0
+      xa, ya: first end A; returned with its value, up to rounding, also if the line is tangent
+        to the circle; unchanged on a condition: status is 0 and the line is not tangent to the
+        circle
+      xb, yb: second end B; returned with its value, up to rounding; unchanged if status is 0
       xo, yo: point; unwritten if status is 0
-      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, or
-        e, the radius, the chord or its rest beyond s is at most 1e-5, or the radii of A and B
-        differ by more, or the line touches the circle
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s is negative, e,
+        the radius, the chord or its rest beyond s is at most 1e-5, the radii of A and B differ
+        by more than 1e-5, or the line is tangent to the circle
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1764,13 +1783,14 @@ def trvcer7(
     xc: float, yc: float, xa: float, ya: float, xb: float, yb: float, s: float, side: int,
     e: float, angle: float
 ) -> Trvcer7Result:
-    """Crossings of a line through a station of an arc's chord with the arc and with a parallel
-    to the chord.
+    """Intersections of a line through a station of an arc's chord with the arc and with a line
+    parallel to the chord.
 
-    T is on the parallel at the distance e from the chord on the given side, O on the circle on
-    that side. Formed in double precision and rounded once. Lengths, and the sine of the angle,
-    are compared with 1e-4; radii may differ by the rounding of the coordinates besides, 3.6e-7
-    times the largest coordinate of the arc. A NaN is refused.
+    T is on the parallel line, at the distance e from the chord on the given side. O is on the
+    circle on that side. Formed in double precision and rounded once. Lengths, and the sine of
+    the angle, are compared with 1e-4. The radii of A and B may also differ by the rounding of
+    the coordinates: 3.6e-7 times the largest coordinate of the arc. An input with a NaN is
+    rejected.
 
     Retains: nothing.
 
@@ -1779,24 +1799,24 @@ def trvcer7(
       xa, ya: first end A; unchanged
       xb, yb: second end B; unchanged
       s: station: distance from A along the chord, not negative
-      side: only its sign counts: positive picks the left of the chord A to B, to which
-        clockwise from A the circle runs; negative the right
-      e: distance of the parallel from the chord, not negative; 0 puts T at P
+      side: only the sign is used: positive selects the side to the left of the direction from A
+        to B, where the circle runs clockwise from A; negative selects the side to the right
+      e: distance of the parallel line from the chord, not negative; 0 puts T at P
       angle: direction of the line in radians, measured from the chord A to B,
-        counter-clockwise; the line runs both ways
+        counter-clockwise; the line extends both ways
 
     Returns:
       xc, yc: centre C; unchanged
       xa, ya: first end A; unchanged
       xb, yb: second end B; unchanged
       xp, yp: station P; unwritten if status is 0
-      xt, yt: crossing T with the parallel; unwritten if status is 0
-      xo, yo: crossing O with the circle about C through A; unwritten if status is 0
+      xt, yt: intersection T with the parallel line; unwritten if status is 0
+      xo, yo: intersection O with the circle about C through A; unwritten if status is 0
       len_: length of PO; unwritten if status is 0
       status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: s or e is negative,
         the radius or the chord's rest beyond s is at most 1e-4, the radii of A and B differ by
-        more and the rounding, side is 0, the line is parallel to the chord, or the part of the
-        line inside the circle is not longer than 2e-4
+        more than 1e-4 and the rounding, side is 0, the line is parallel to the chord, or the
+        part of the line inside the circle is not longer than 2e-4
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1840,11 +1860,13 @@ def trvard(
 
     Returns:
       xc, yc: centre of the arc; unwritten if status is 0
-      xt1, yt1: where the arc touches the segment to P1; unwritten if status is 0
-      xt2, yt2: where it touches the segment to P2; unwritten if status is 0
-      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or a segment is
-        not above the tolerance, the sine of the angle between the segments is within it, or the
-        arc touches one beyond its end by more
+      xt1, yt1: tangent point on the segment to P1, where the arc touches it; unwritten if
+        status is 0
+      xt2, yt2: tangent point on the segment to P2; unwritten if status is 0
+      status: outcome (TrvArc): 1 done: the outputs are computed; 0 refused: r or the length of
+        a segment is not above the tolerance, the sine of the angle between the segments is
+        within the tolerance, or a tangent point lies beyond the end of its segment by more than
+        the tolerance
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -1877,8 +1899,8 @@ def trvenv(
     Arguments:
       xc, yc: centre
       xa, ya: start of the arc
-      sweep: angle in radians, counter-clockwise when positive; from 2*pi on, either way, the
-        full circle
+      sweep: angle in radians, counter-clockwise when positive; the full circle if |sweep| is
+        2*pi or more
 
     Returns:
       xmin, ymin: lower left corner
@@ -1898,22 +1920,22 @@ def trvord(
 ) -> NDArray[float32]:
     """Sorts Reals ascending, in place.
 
-    The result is that of a selection sort that takes the last of equal smallest entries: a NaN
-    stays where it is, the others are sorted around it, and which of -0 and 0 comes first
-    follows from the swaps.
+    The result is that of a selection sort that takes the last of equal smallest elements. A NaN
+    stays where it is, and the other elements are sorted around it. The order of -0 and 0
+    depends on the swaps.
 
-    Cost: time grows with n, with n*log(n) where zeros of both signs occur. More than 32 entries
-    take 8*n bytes of the heap for the call. Where memory is short the sort is in place and
-    takes n*log(n), with NaNs or zeros of both signs n*n.
+    Cost: time grows with n, with n*log(n) if there are zeros of both signs. More than 32
+    elements take 8*n bytes of the heap for the call. If these cannot be allocated, the sort is
+    in place and takes n*log(n), with NaNs or zeros of both signs n*n.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries
-      n: number of entries; below 1 nothing happens
+      V: array of n: elements
+      n: number of elements; below 1 nothing happens
 
     Returns:
-      V: array of n: entries
+      V: array of n: elements
     """
     return _trvord.call((V, n), in_place)
 
@@ -1929,17 +1951,17 @@ def trvord1(
 ) -> NDArray[int32]:
     """Sorts Integers ascending, in place.
 
-    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
-    memory is short the sort is in place and takes n*log(n).
+    Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If
+    these cannot be allocated, the sort is in place and takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries
-      n: number of entries; below 1 nothing happens
+      V: array of n: elements
+      n: number of elements; below 1 nothing happens
 
     Returns:
-      V: array of n: entries
+      V: array of n: elements
     """
     return _trvord1.call((V, n), in_place)
 
@@ -1953,24 +1975,27 @@ _trvordi = Routine(
 def trvordi(
     V: ArrayLike, *, n: int | None = None
 ) -> NDArray[int32]:
-    """Positions of the entries of a list in ascending order; the list itself stays.
+    """Positions of the elements of a list in ascending order; the list itself is not changed.
 
-    Equal entries, -0 and 0 among them, are listed from the highest position to the lowest. The
-    k-th round finds the smallest entry and puts the largest of the list plus 1 in its place,
-    for the later rounds. Where that sum rounds to the largest (16777216 and beyond, infinity),
-    an entry as large as the largest is never used up: IDX(k) is then the position of the last
-    number of the list. A round finds nothing where the list holds a NaN at k, by then: a NaN at
-    the head of the list makes the sum a NaN.
+    Equal elements, also -0 and 0, are listed from the highest position to the lowest. Round k
+    finds the smallest element and replaces it in a copy of the list by the largest plus 1, for
+    the later rounds.
 
-    Cost: time grows with n. More than 512 entries take 16*n bytes of the heap for the call. If
-    memory is short, the result is the same, but the list is read anew for each 512 entries:
-    time grows with n*n.
+    Caution: if largest plus 1 rounds to the largest (16777216 and beyond, infinity), the
+    largest elements are found again in later rounds: IDX(k) is then the position of the last
+    number of the list. Round k finds nothing if element k of the copy is NaN. That is so for a
+    NaN of the list. If the first element is NaN, largest plus 1 is NaN too, and so is every
+    element that an earlier round has found.
+
+    Cost: time grows with n. More than 512 elements take 16*n bytes of the heap for the call. If
+    these cannot be allocated, the result is the same, but the list is read again for each 512
+    elements, and time grows with n*n.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n: entries
-      n: number of entries
+      V: array of n: elements
+      n: number of elements
 
     Returns:
       IDX: array of n: IDX(k) is the position of the k-th smallest element; unwritten on a
@@ -1997,11 +2022,12 @@ _trvpor = Routine(
 def trvpor(
     A: ArrayLike, B: ArrayLike, C: ArrayLike, *, n: int | None = None
 ) -> TrvporResult:
-    """Order of parallel lines by where they cross an axis.
+    """Order of parallel lines by their intersections with an axis.
 
-    That is the y axis, at -C/B, or the x axis, at -C/A, where the first line is parallel to the
-    y axis and apart from it. Parallel and distinct is what trvlni finds between the first line
-    and each other one; a single line is ordered.
+    The lines intersect the y axis at -C/B. If the first line is parallel to the y axis and
+    distinct from it, the intersections with the x axis, at -C/A, are used instead. Each other
+    line must be parallel to the first line and distinct from it (trvlni). A single line is
+    always in order.
 
     Cost: time and memory are those of trvordi.
 
@@ -2012,9 +2038,9 @@ def trvpor(
       A, B, C: arrays of n: lines A*x + B*y + C = 0
 
     Returns:
-      IDX: array of n: positions by ascending crossing, equal ones from the highest position
-        down, infinite and NaN ones as trvordi orders them; 1 ... n if status is -1; unwritten
-        on a condition: IDX(k) as trvordi leaves it
+      IDX: array of n: positions of the lines by ascending intersection, equal intersections
+        from the highest position down, infinite and NaN intersections as trvordi orders them; 1
+        ... n if status is -1; unwritten on a condition: IDX(k) as trvordi leaves it
       status: outcome (TrvStatus): 0 done: IDX holds the order; -1 refused: the lines are not a
         family of parallel and distinct lines, or n < 1
 
@@ -2041,9 +2067,9 @@ def trvorv(
 ) -> TrvorvResult:
     """Puts the corners of a quadrilateral of space in cyclic order, in place.
 
-    An order stands when the two triangles on its diagonal from the first corner turn the same
-    way, or one of them is degenerate. Tried are (1, 2, 3, 4), then (1, 2, 4, 3); else it is (1,
-    4, 2, 3).
+    An order is accepted if the two triangles on the diagonal from its first corner have the
+    same orientation, or one of them is degenerate. The orders (1, 2, 3, 4) and (1, 2, 4, 3) are
+    tried. If neither is accepted, the result is (1, 4, 2, 3).
 
     Retains: nothing.
 
@@ -2076,13 +2102,13 @@ def trvsel1(
     Retains: nothing.
 
     Arguments:
-      n: number of entries; below 1 the list is empty
-      V: array of n: entries
+      n: number of elements; below 1 the list is empty
+      V: array of n: elements
       key: value
 
     Returns:
-      count_: how many entries equal it
-      pos: array of n, count used: their positions, ascending
+      count_: number of elements equal to key
+      pos: array of n, count used: positions of these elements, ascending
     """
     return _trvsel1.call((n, V, key))
 
@@ -2103,29 +2129,31 @@ _trvmer13 = Routine(
 def trvmer13(
     A: ArrayLike, B: ArrayLike, tol: float, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer13Result:
-    """All pairs of entries of two lists that differ by at most a tolerance.
+    """All pairs of elements of two lists that differ by at most a tolerance.
 
-    Equal infinities have no difference and make no pair, and neither does anything at a
-    tolerance that is negative or NaN; here the merging routines differ.
+    Caution: equal infinities are no pair here, since their difference is NaN. If the tolerance
+    is negative or NaN, there are no pairs, even of equal elements. The merging routines
+    (trvmer4, trvmer12) accept equal elements in these cases.
 
-    Cost: time grows with na+nb and the number of pairs, unless entries crowd within a few
-    tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the
-    call; where memory is short all entries are compared.
+    Cost: time grows with na+nb and the number of pairs, except for clusters of elements within
+    a few tolerances: all elements of a cluster are compared. Takes up to 32*(na+nb) bytes of
+    the heap for the call. If these cannot be allocated, all elements are compared.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
-      tol: largest difference, itself included
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
+      tol: largest difference (inclusive)
 
     Returns:
       count_: number of pairs
-      IA, IB: arrays of max(na+nb,na*nb): positions in A and in B, by A, then by B; first
-        elements 1 to na+nb, the sum of the counts as they are, are set to 0, and those that are
-        no pair stay 0; unwritten on a condition: elements beyond both na+nb and count
+      IA, IB: arrays of max(na+nb,na*nb): positions in A and in B, sorted by A, then by B;
+        elements 1 to na+nb are first set to 0 (with the counts as given, even if one is
+        negative), then the pairs are written over them; unwritten on a condition: elements
+        beyond both na+nb and count
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -2147,19 +2175,19 @@ _trvmer1 = Routine(
 def trvmer1(
     A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer1Result:
-    """Joins two lists end to end. Entries are copied bit for bit, so Reals pass as well as
-    Integers.
+    """Joins two lists end to end. Elements are copied bit for bit, so the lists may also hold
+    Reals.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
 
     Returns:
-      nout: number of entries written
+      nout: number of elements written
       OUT: array of na+nb, nout used: A, then B
     """
     return _trvmer1.call((na, A, nb, B))
@@ -2185,13 +2213,13 @@ def trvmer11(
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
 
     Returns:
-      nout: number of entries written
+      nout: number of elements written
       OUT: array of na+nb, nout used: A, then B
     """
     return _trvmer11.call((na, A, nb, B))
@@ -2211,19 +2239,19 @@ _trvmer2 = Routine(
 def trvmer2(
     V: ArrayLike, *, n: int | None = None, in_place: bool = False
 ) -> Trvmer2Result:
-    """Sorts Integers ascending and drops repeats, in place.
+    """Sorts Integers ascending and removes duplicates, in place.
 
     Cost: time and memory are those of trvord1.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
 
     Returns:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
     """
     return _trvmer2.call((V, n), in_place)
 
@@ -2242,23 +2270,24 @@ _trvmer3 = Routine(
 def trvmer3(
     V: ArrayLike, *, n: int | None = None, in_place: bool = False
 ) -> Trvmer3Result:
-    """Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+    """Sorts Reals ascending and removes duplicates within a tolerance, in place.
 
-    Entries agree that are equal or differ by at most 1e-5. So a NaN agrees with nothing, an
-    infinity with itself. -0 comes before 0, NaNs come last and all stay.
+    Each element that matches the last one kept is removed. Two elements match if they are equal
+    or differ by at most 1e-5. A NaN matches nothing, an infinity matches itself. -0 comes
+    before 0. NaNs come last, and all are kept.
 
-    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
-    memory is short the sort takes n*log(n).
+    Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If
+    these cannot be allocated, the sort takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
 
     Returns:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
     """
     return _trvmer3.call((V, n), in_place)
 
@@ -2277,25 +2306,26 @@ _trvmer12 = Routine(
 def trvmer12(
     V: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
 ) -> Trvmer12Result:
-    """Sorts Reals ascending and drops each entry that agrees with the last one left, in place.
+    """Sorts Reals ascending and removes duplicates within a tolerance, in place.
 
-    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal entries
-    alone agree. -0 comes before 0, NaNs come last and all stay.
+    Each element that matches the last one kept is removed. Two elements match if they are equal
+    or differ by at most tol. A NaN matches nothing, an infinity matches itself. If tol is
+    negative or NaN, only equal elements match. -0 comes before 0. NaNs come last, and all are
+    kept.
 
-    Cost: time grows with n. More than 32 entries take 8*n bytes of the heap for the call; where
-    memory is short the sort takes n*log(n).
+    Cost: time grows with n. More than 32 elements take 8*n bytes of the heap for the call. If
+    these cannot be allocated, the sort takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
-      tol: largest difference of a repeat, itself included; may be an entry of V
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
+      tol: largest difference of elements that match (inclusive); may be an element of V
 
     Returns:
-      V: array of n, n used: entries; unspecified beyond the new n
-      n: number of entries; unchanged if n < 1
+      V: array of n, n used: elements; unspecified beyond the new n
+      n: number of elements; unchanged if n < 1
     """
     return _trvmer12.call((V, n, tol), in_place)
 
@@ -2316,31 +2346,30 @@ _trvmer4 = Routine(
 def trvmer4(
     A: ArrayLike, B: ArrayLike, tol: float, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer4Result:
-    """Joins to a list those entries of another that it does not hold yet.
+    """Appends to a list those elements of another that it does not hold yet.
 
-    Entries agree that are equal or differ by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal entries
-    alone agree.
+    Two elements match if they are equal or differ by at most tol. A NaN matches nothing, an
+    infinity matches itself. If tol is negative or NaN, only equal elements match.
 
-    Cost: time grows with na+nb, unless entries crowd within a few tolerances: a crowd's are
-    compared with each other. Takes up to 48*(na+nb) bytes of the heap for the call; where
-    memory is short all entries are compared.
+    Cost: time grows with na+nb, except for clusters of elements within a few tolerances: all
+    elements of a cluster are compared. Takes up to 48*(na+nb) bytes of the heap for the call.
+    If these cannot be allocated, all elements are compared.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
-      tol: largest difference of entries that agree, itself included
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
+      tol: largest difference of elements that match (inclusive)
 
     Returns:
-      nout: number of entries written
-      OUT: array of na+nb, nout used: A as it is, then the entries of B that agree with none
+      nout: number of elements written
+      OUT: array of na+nb, nout used: A as it is, then the elements of B that match no element
         before them in OUT
-      IB: array of nb: for each entry of B the first position in OUT that agrees with it, or its
-        own, for a NaN
+      IB: array of nb: for each element of B, the position in OUT of the first element that
+        matches it; for a NaN, its own position in OUT
     """
     return _trvmer4.call((na, A, nb, B, tol))
 
@@ -2360,23 +2389,23 @@ _trvmer14 = Routine(
 def trvmer14(
     A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None
 ) -> Trvmer14Result:
-    """Entries of a list that another holds too.
+    """Elements of a list that another holds too.
 
-    Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap
-    for the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB
-    of the stack.
+    Cost: time grows with na+nb. More than 512 elements take up to 17*na+8*nb bytes of the heap
+    for the call. If these cannot be allocated, blocks of 512 are compared instead, on less than
+    16 KB of the stack.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; below 1 there are none
-      A: array of na: entries
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
+      na: number of elements of A; below 1 there are none
+      A: array of na: elements
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
 
     Returns:
-      nout: number of entries written
-      OUT: array of na, nout used: the entries of A that B holds, repeats too, in A's order
+      nout: number of elements written
+      OUT: array of na, nout used: the elements of A that B holds, with duplicates, in A's order
     """
     return _trvmer14.call((na, A, nb, B))
 
@@ -2397,24 +2426,26 @@ def trvmer15(
     A: ArrayLike, B: ArrayLike, *, na: int | None = None, nb: int | None = None,
     in_place: bool = False
 ) -> Trvmer15Result:
-    """Removes from a list the entries that another holds, in place.
+    """Removes from a list the elements that another holds, in place.
 
-    Cost: time grows with na+nb. More than 512 entries take up to 17*na+8*nb bytes of the heap
-    for the call; where memory is short, blocks of 512 are compared instead, on less than 16 KB
-    of the stack.
+    Cost: time grows with na+nb. More than 512 elements take up to 17*na+8*nb bytes of the heap
+    for the call. If these cannot be allocated, blocks of 512 are compared instead, on less than
+    16 KB of the stack.
 
     Retains: nothing.
 
     Arguments:
-      na: number of entries of A; unchanged if na < 1
-      A: array of na, na used: those that stay, in their order; unspecified beyond the new na
-      nb: number of entries of B; below 1 there are none
-      B: array of nb: entries
+      na: number of elements of A; unchanged if na < 1
+      A: array of na, na used: elements; those kept stay in their order; unspecified beyond the
+        new na
+      nb: number of elements of B; below 1 there are none
+      B: array of nb: elements
 
     Returns:
-      na: number of entries of A; unchanged if na < 1
-      A: array of na, na used: those that stay, in their order; unspecified beyond the new na
-      count_: how many were removed
+      na: number of elements of A; unchanged if na < 1
+      A: array of na, na used: elements; those kept stay in their order; unspecified beyond the
+        new na
+      count_: number of elements removed
     """
     return _trvmer15.call((na, A, nb, B), in_place)
 
@@ -2434,12 +2465,12 @@ _trvmer16 = Routine(
 def trvmer16(
     X: ArrayLike, Y: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
 ) -> Trvmer16Result:
-    """Drops repeated vertices of a closed outline, in place.
+    """Removes repeated vertices of a closed outline, in place.
 
-    A vertex that agrees with the last one left is dropped, and at the end those that agree with
-    the first. Vertices agree whose x and y both are equal or differ by at most the tolerance.
-    So a NaN agrees with nothing, an infinity with itself, and at a tolerance that is negative
-    or NaN equal coordinates alone agree.
+    Each vertex that matches the last one kept is removed; so are vertices at the end that match
+    the first. Two vertices match if both x and both y are equal or differ by at most tol. A NaN
+    matches nothing, an infinity matches itself. If tol is negative or NaN, only equal
+    coordinates match.
 
     Cost: time grows with n.
 
@@ -2448,7 +2479,7 @@ def trvmer16(
     Arguments:
       X, Y: arrays of n, n used: vertices; unspecified beyond the new n
       n: number of vertices; unchanged if n < 1
-      tol: largest difference of either coordinate, itself included
+      tol: largest difference of either coordinate (inclusive)
 
     Returns:
       X, Y: arrays of n, n used: vertices; unspecified beyond the new n
@@ -2478,15 +2509,14 @@ def trvptp1(
     XA: ArrayLike, YA: ArrayLike, ZA: ArrayLike, XB: ArrayLike, YB: ArrayLike, ZB: ArrayLike,
     tol: float, *, na: int | None = None, nb: int | None = None
 ) -> Trvptp1Result:
-    """All pairs of points of two lists that agree within a tolerance in each coordinate.
+    """All pairs of points of two lists that match within a tolerance in each coordinate.
 
-    Coordinates agree that are equal or differ by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
-    coordinates alone agree.
+    Two coordinates match if they are equal or differ by at most tol. A NaN matches nothing, an
+    infinity matches itself. If tol is negative or NaN, only equal coordinates match.
 
-    Cost: time grows with na+nb and the number of pairs, unless points crowd within a few
-    tolerances: a crowd's are all compared. Takes up to 32*(na+nb) bytes of the heap for the
-    call; where memory is short all points are compared.
+    Cost: time grows with na+nb and the number of pairs, except for clusters of points within a
+    few tolerances: all points of a cluster are compared. Takes up to 32*(na+nb) bytes of the
+    heap for the call. If these cannot be allocated, all points are compared.
 
     Retains: nothing.
 
@@ -2495,13 +2525,14 @@ def trvptp1(
       XA, YA, ZA: arrays of na: points of A
       nb: number of points of B; below 1 there are none
       XB, YB, ZB: arrays of nb: points of B
-      tol: largest difference of a coordinate, itself included
+      tol: largest difference of a coordinate (inclusive)
 
     Returns:
       count_: number of pairs
-      IA, IB: arrays of na*nb, count used: positions in A and in B, by A, then by B
-      status: which points of A have a partner in B: 0 no_pair: none has; 1 some_pairs: some
-        have; 2 all_paired: every one has
+      IA, IB: arrays of na*nb, count used: positions in A and in B, sorted by A, then by B
+      status: which points of A match a point of B: 0 no_pair: no point of A matches a point of
+        B; 1 some_pairs: some points of A match points of B, others do not; 2 all_paired: every
+        point of A matches a point of B
     """
     return _trvptp1.call((na, XA, YA, ZA, nb, XB, YB, ZB, tol))
 
@@ -2549,16 +2580,16 @@ def trvptp2(
     XC: ArrayLike, YC: ArrayLike, ZC: ArrayLike, tol: float, k: int, *, na: int | None = None,
     nb: int | None = None, nc: int | None = None
 ) -> Trvptp2Result:
-    """Merges three lists of points into one list of places.
+    """Merges three lists of points into one list.
 
-    A point is at the first place it agrees with, else it makes a new one. Points agree when
-    each of their coordinates is equal or differs by at most the tolerance. So a NaN agrees with
-    nothing, an infinity with itself, and at a tolerance that is negative or NaN equal
-    coordinates alone agree.
+    Each point is assigned to the first merged point that matches it. If none matches, the point
+    becomes a new merged point. Two points match if each of their coordinates is equal or
+    differs by at most tol. A NaN matches nothing, an infinity matches itself. If tol is
+    negative or NaN, only equal coordinates match.
 
-    Cost: time grows with na+nb+nc and the number of pairs, unless points crowd within a few
-    tolerances: a crowd's are all compared. Takes up to 48*(na+nb+nc) bytes of the heap for the
-    call; where memory is short all points are compared.
+    Cost: time grows with na+nb+nc and the number of pairs, except for clusters of points within
+    a few tolerances: all points of a cluster are compared. Takes up to 48*(na+nb+nc) bytes of
+    the heap for the call. If these cannot be allocated, all points are compared.
 
     Retains: nothing.
 
@@ -2569,26 +2600,27 @@ def trvptp2(
       XB, YB, ZB: arrays of nb: points of B
       nc: number of points of C; below 1 there are none
       XC, YC, ZC: arrays of nc: points of C
-      tol: largest difference of a coordinate, itself included
-      k: a place
+      tol: largest difference of a coordinate (inclusive)
+      k: position of a merged point
 
     Returns:
       nab: number of pairs of A and B
-      IAB, JAB: arrays of na*nb, nab used: positions in A and in B, by A, then by B
+      IAB, JAB: arrays of na*nb, nab used: positions in A and in B, sorted by A, then by B
       nbc: number of pairs of B and C
-      IBC, JBC: arrays of nb*nc, nbc used: positions in B and in C, by B, then by C
+      IBC, JBC: arrays of nb*nc, nbc used: positions in B and in C, sorted by B, then by C
       nca: number of pairs of C and A
-      ICA, JCA: arrays of nc*na, nca used: positions in C and in A, by C, then by A
-      nout: number of places
-      XO, YO, ZO: arrays of na+nb+nc, nout used: places, in the order of A, B, C
-      MA: array of na: the place of each point of A
-      MB: array of nb: the place of each point of B
-      MC: array of nc: the place of each point of C
-      nk: number of points at it; 0 where there is no such place
-      PK: array of na+nb+nc, nk used: their positions, counted on through A, B and C
+      ICA, JCA: arrays of nc*na, nca used: positions in C and in A, sorted by C, then by A
+      nout: number of merged points
+      XO, YO, ZO: arrays of na+nb+nc, nout used: merged points, in the order of A, B, C
+      MA: array of na: position of the merged point of each point of A
+      MB: array of nb: position of the merged point of each point of B
+      MC: array of nc: position of the merged point of each point of C
+      nk: number of points assigned to merged point k; 0 if there is no such point
+      PK: array of na+nb+nc, nk used: positions of these points, counted through A, then B, then
+        C
       nz: number of levels
-      ZL: array of na+nb+nc, nz used: the distinct z of the places, ascending, as trvmer12
-        leaves them; unspecified up to nout
+      ZL: array of na+nb+nc, nz used: the distinct z of the merged points, ascending, as
+        trvmer12 leaves them; unspecified up to nout
     """
     return _trvptp2.call((na, XA, YA, ZA, nb, XB, YB, ZB, nc, XC, YC, ZC, tol, k))
 
@@ -2608,26 +2640,26 @@ _trvppp = Routine(
 def trvppp(
     X: ArrayLike, Y: ArrayLike, y0: float, *, n: int | None = None
 ) -> TrvpppResult:
-    """Where the horizontal line y = y0 crosses a closed outline.
+    """Crossings of the horizontal line y = y0 with a closed outline.
 
-    An edge counts from its lower end, included, to its upper end, excluded. So the count is
-    even, and the first and second, third and fourth crossing and so on bound the inside. Formed
-    in double precision and rounded once.
+    An edge includes its lower end and excludes its upper end. So the count is even, and the
+    inside lies between the first and second crossing, between the third and fourth, and so on.
+    Formed in double precision and rounded once.
 
     Cost: time grows with n. More than 32 crossings take up to 8*n bytes of the heap for the
-    call; where memory is short their sort takes n*log(n).
+    call. If these cannot be allocated, sorting the crossings takes n*log(n).
 
     Retains: nothing.
 
     Arguments:
       X, Y: arrays of n: vertices
-      n: number of vertices; below 3 nothing is crossed
+      n: number of vertices; below 3 there are no crossings
       y0: height of the line
 
     Returns:
       count_: number of crossings
-      XC: array of n, count used: their x, ascending; -0 before 0, NaNs last, which vertices
-        that are not finite give
+      XC: array of n, count used: x of the crossings, ascending; -0 before 0; NaNs, from
+        infinite or NaN vertices, last
     """
     return _trvppp.call((X, Y, n, y0))
 
@@ -2654,16 +2686,18 @@ def trvpin(
     X: ArrayLike, Y: ArrayLike, x1: float, y1: float, x2: float, y2: float, *,
     n: int | None = None
 ) -> TrvpinResult:
-    """Where the segment from P1 to P2 crosses a closed outline.
+    """Crossings of the segment from P1 to P2 with a closed outline.
 
-    A crossing is where the outline passes from one side of the segment's line to the other, at
-    a vertex on the line too. An outline that touches the line, or runs along it, and goes back
-    to its side does not cross. One that runs along it and leaves to the other side crosses
-    once, where the segment, seen from P1, first meets the run, whichever way the outline goes
-    round. A crossing counts when P1 and P2 are not both on the same side of the edge crossed:
-    ends on the outline count. Sides are formed in double precision, and are exact where
-    differences of coordinates take no more than 26 bits, whole numbers up to 33554432 for
-    example; points are formed in double precision and rounded once.
+    A crossing is a point where the outline passes from one side of the segment's line to the
+    other; this may be a vertex on the line. If the outline touches the line, or runs along it,
+    and returns to the same side, it does not cross. If it runs along the line and leaves to the
+    other side, it crosses once: where the segment, from P1, first meets the run, whichever
+    orientation the outline has. A crossing counts unless P1 and P2 are both on the same side of
+    the edge crossed, so it also counts if P1 or P2 is on the outline.
+
+    Sides are formed in double precision. They are exact if differences of coordinates take no
+    more than 26 bits, for example for whole numbers up to 33554432. Points are formed in double
+    precision and rounded once.
 
     Cost: time grows with n, and with count*log(count); nothing is allocated.
 
@@ -2676,12 +2710,13 @@ def trvpin(
       x2, y2: P2
 
     Returns:
-      count_: number of crossings; 0 when status is -1
+      count_: number of crossings; 0 if status is -1
       XI, YI: arrays of n, count used: points
-      T: array of n, count used: their places on the segment, ascending from 0 at P1 to 1 at P2
-      EDGE: array of n, count used: the edges crossed, ascending where places are equal; edge i
-        runs from vertex i to vertex i+1; at a vertex or a run the edge by which the outline
-        leaves the line
+      T: array of n, count used: parameters of the points on the segment, ascending from 0 at P1
+        to 1 at P2
+      EDGE: array of n, count used: positions of the edges crossed, ascending if parameters are
+        equal; edge i runs from vertex i to vertex i+1; at a vertex or a run, the edge by which
+        the outline leaves the line
       status: where P1 is: 1 inside: P1 is inside the outline by the even-odd rule; 0 outside:
         P1 is outside the outline by the even-odd rule; -1 refused: n < 3, or P1 and P2 coincide
         within the tolerance in both coordinates
@@ -2955,9 +2990,8 @@ _trvgrc = Routine(
 def trvgrc(
     a: float, b: float, c: float
 ) -> TrvgrcResult:
-    """Divides two coefficients by a third, or gives zeros where it vanishes.
-
-    The first quotient is that of the last coefficient, the second that of the middle one.
+    """Divides two coefficients by a third, or gives zeros if the third is zero within the
+    tolerance.
 
     Retains: nothing.
 
@@ -2965,8 +2999,8 @@ def trvgrc(
       a, b, c: coefficients of a relation, a leading
 
     Returns:
-      q1: c/a, or 0 when a is within the tolerance or NaN
-      q2: b/a, or 0 likewise
+      q1: c/a, or 0 if a is within the tolerance or NaN
+      q2: b/a, or 0 if a is within the tolerance or NaN
     """
     return _trvgrc.cells(a, b, c, _NAN, _NAN)
 
@@ -2989,10 +3023,10 @@ def trvint(
     Arguments:
       x1, x2: abscissas of the samples
       y1, y2: ordinates of the samples
-      x: abscissa asked for
+      x: abscissa at which to interpolate
 
     Returns:
-      y: ordinate; infinite or NaN where x1 = x2
+      y: ordinate; infinite or NaN if x1 = x2
     """
     return _trvint.cells(x1, x2, y1, y2, x, _NAN)
 
@@ -3012,9 +3046,8 @@ def trvvin(
     Retains: nothing.
 
     Arguments:
-      u1: ignored, as u3, u4 and u5 are
+      u1, u3, u4, u5: ignored
       v: value
-      u3, u4, u5: ignored
 
     Returns:
       status: sign: 1 positive: v is positive; 2 not_positive: v is zero, negative or NaN
@@ -3036,12 +3069,12 @@ def trvpos(
     Retains: nothing.
 
     Arguments:
-      n: number of entries
-      A: array of n: entries, ascending
+      n: number of elements
+      A: array of n: elements, ascending
       x: value
 
     Returns:
-      i: first i with A(i) <= x < A(i+1); 0 when there is none, as for x = A(n)
+      i: first i with A(i) <= x < A(i+1); 0 if there is none, for example if x = A(n)
     """
     return _trvpos.call((n, A, x))
 
@@ -3061,21 +3094,21 @@ _trvpos1 = Routine(
 def trvpos1(
     A: ArrayLike, x: float, *, n: int | None = None
 ) -> Trvpos1Result:
-    """Entry of an ascending table that equals a value, or the interval that holds it.
+    """Element of an ascending table that equals a value, or the interval that holds it.
 
-    An equal entry anywhere in the table goes before an interval.
+    An equal element anywhere in the table has priority over an interval.
 
     Retains: nothing.
 
     Arguments:
-      n: number of entries
-      A: array of n: entries, ascending
+      n: number of elements
+      A: array of n: elements, ascending
       x: value
 
     Returns:
       status: what was found: 1 at_entry: A(i) equals x within the tolerance; 2 between: A(i) <
         x < A(i+1); 0 neither: x equals no element and lies in no interval
-      i: first such position; 0 when status is 0
+      i: first such position; 0 if status is 0
     """
     return _trvpos1.call((n, A, x))
 
@@ -3107,7 +3140,7 @@ def trvln3(
       x2, y2: P2
 
     Returns:
-      a, b, c: line; all zero where the points are equal
+      a, b, c: line; all zero if the points are equal
     """
     return _trvln3.cells(x1, y1, x2, y2, _NAN, _NAN, _NAN)
 
@@ -3162,8 +3195,8 @@ def trvln4(
 ) -> Trvln4Result:
     """Line through a point with a direction.
 
-    (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) where dx is exactly zero;
-    no tolerance applies.
+    (dy/dx, -1, y0 - (dy*x0)/dx), or the vertical line (1, 0, 0 - x0) if dx is exactly zero; no
+    tolerance applies.
 
     Retains: nothing.
 
@@ -3193,9 +3226,9 @@ _trvln2 = Routine(
 def trvln2(
     a: float, b: float, c: float, d: float
 ) -> Trvln2Result:
-    """Parallel of a line at a signed distance.
+    """Line parallel to a line at a signed distance.
 
-    Points of the new line have the distance d from the given one in the sense of trvlds.
+    By trvlds, points of the new line have the distance d from the given line.
 
     Retains: nothing.
 
@@ -3204,7 +3237,7 @@ def trvln2(
       d: distance, positive towards the normal (a, b)
 
     Returns:
-      a2, b2, c2: parallel: (a, b, c - sqrt(a*a + b*b)*d)
+      a2, b2, c2: parallel line: (a, b, c - sqrt(a*a + b*b)*d)
     """
     return _trvln2.cells(a, b, c, d, _NAN, _NAN, _NAN)
 
@@ -3238,8 +3271,8 @@ def trvln5(
       x2, y2: P2
 
     Returns:
-      a, b, c: line; all zero where a ray has no length, and to rounding where both have one
-        direction
+      a, b, c: line; all three are zero if a ray has zero length, and zero up to rounding errors
+        if both rays have the same direction
     """
     return _trvln5.cells(x0, y0, x1, y1, x2, y2, _NAN, _NAN, _NAN)
 
@@ -3264,7 +3297,7 @@ def trvlds(
       a, b, c: line
 
     Returns:
-      d: signed distance; infinite or NaN where a = b = 0
+      d: signed distance; infinite or NaN if a = b = 0
     """
     return _trvlds.cells(x, y, a, b, c, _NAN)
 
@@ -3288,9 +3321,9 @@ def trvlni(
 ) -> TrvlniResult:
     """Intersection of two lines.
 
-    The lines cross when the determinant a1*b2 - a2*b1 is above the tolerance; else they are
-    distinct when b1*c2 - b2*c1 or a2*c1 - a1*c2 is. Neither is scaled: lines with small
-    coefficients count as parallel, and as the same line, sooner.
+    The lines intersect if the determinant a1*b2 - a2*b1 is above the tolerance. Otherwise they
+    are distinct if b1*c2 - b2*c1 or a2*c1 - a1*c2 is above the tolerance. These values are not
+    scaled: lines with small coefficients count as parallel, and as the same line, sooner.
 
     Retains: nothing.
 
@@ -3333,9 +3366,9 @@ def trvlul(
       a2, b2, c2: second line
 
     Returns:
-      d: signed distance for which trvln2 makes the second line of the first: positive towards
-        the normal (a1, b1); 0 if status is 1; formed in double precision and rounded once;
-        unwritten if status is 0
+      d: signed distance of the second line from the first, positive towards the normal (a1,
+        b1); trvln2 with this distance gives the second line from the first; 0 if status is 1;
+        formed in double precision and rounded once; unwritten if status is 0
       status: relation (TrvPlaneLines): 0 one_point: the lines have one point in common; 1
         same_line: the lines are the same; 2 parallel: the lines are parallel and distinct, as
         trvlni finds
@@ -3364,11 +3397,13 @@ def trvpsn(
       q1, q2, q3: second triple
 
     Returns:
-      code: which components differ by more than the tolerance (TrvComponents): 0 none: no
-        component is; 1 all: all three components are; 2 first: the first component alone is; 3
-        second: the second component alone is; 4 third: the third component alone is; 5
-        first_second: the first and the second component are; 6 second_third: the second and the
-        third component are; 7 first_third: the first and the third component are
+      code: which components of p - q are above the tolerance (TrvComponents): 0 none: no
+        component is above the tolerance; 1 all: all three components are above the tolerance; 2
+        first: only the first component is above the tolerance; 3 second: only the second
+        component is above the tolerance; 4 third: only the third component is above the
+        tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        second_third: only the second and the third are above the tolerance; 7 first_third: only
+        the first and the third are above the tolerance
     """
     return _trvpsn.cells(p1, p2, p3, q1, q2, q3, 0)
 
@@ -3392,8 +3427,8 @@ def trvln6(
 ) -> Trvln6Result:
     """Whether a point lies on the line of space through P0 with direction D.
 
-    The components of D above the tolerance tell which coordinate of P places it along the line;
-    each other coordinate must then agree with the line's.
+    The point of the line is computed at a coordinate of P along which D is above the tolerance.
+    Each other coordinate of P must match that point within tol.
 
     Retains: nothing.
 
@@ -3401,14 +3436,16 @@ def trvln6(
       x0, y0, z0: P0
       dx, dy, dz: direction D, of any length
       px, py, pz: point P
-      tol: largest coordinate difference allowed, itself included
+      tol: largest coordinate difference allowed (inclusive)
 
     Returns:
       code: which components of (P0 + D) - P0 are above the tolerance (TrvComponents): 0 none:
-        no component is; 1 all: all three components are; 2 first: the first component alone is;
-        3 second: the second component alone is; 4 third: the third component alone is; 5
-        first_second: the first and the second component are; 6 second_third: the second and the
-        third component are; 7 first_third: the first and the third component are
+        no component is above the tolerance; 1 all: all three components are above the
+        tolerance; 2 first: only the first component is above the tolerance; 3 second: only the
+        second component is above the tolerance; 4 third: only the third component is above the
+        tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        second_third: only the second and the third are above the tolerance; 7 first_third: only
+        the first and the third are above the tolerance
       on: test (TrvOnLine): 1 yes: P lies on the line; 0 no: P does not lie on the line, or code
         is 0
     """
@@ -3436,35 +3473,38 @@ def trvln7(
     a1: float, b1: float, c1: float, d1: float, a2: float, b2: float, c2: float, d2: float,
     px: float, py: float, pz: float, ez: float, tol: float
 ) -> Trvln7Result:
-    """Line of two planes, and whether it agrees with a point at a retained station.
+    """Direction of the line of two planes, and whether a point matches it at a retained
+    coordinate.
 
-    The line runs along the first of x, y, z whose component of (ex, ey, ez) is above the
-    tolerance. Its station there is not the coordinate of P but that of the previous call: X, Y
-    and Z are zero after loading, and each call replaces the two it computes. The point agrees
-    when its other two coordinates are those computed at the station; along y, with the sign of
-    ey, z is that of the line at minus the station. One call with planes that are nearly
-    parallel, infinite or NaN can leave a station that is infinite or NaN; no later call
-    recovers from it.
+    The line is followed along the first of x, y, z whose component of (ex, ey, ez) is above the
+    tolerance. Caution: it is evaluated at a coordinate that is kept from the previous call, not
+    at the coordinate of P. The kept coordinates X, Y and Z are zero after loading; each call
+    overwrites the two that it computes. The point matches if its other two coordinates are
+    those computed. Along y, because of the sign of ey, z is that of the line at minus the kept
+    coordinate. A call with planes that are nearly parallel, infinite or NaN can leave infinite
+    or NaN coordinates, from which no later call recovers.
 
-    Retains: the station X, Y, Z (trvln7).
+    Retains: the coordinates X, Y, Z (trvln7).
 
     Arguments:
       a1, b1, c1, d1: first plane
       a2, b2, c2, d2: second plane
       px, py, pz: point P
       ez: third component: read, neither computed nor written
-      tol: largest coordinate difference allowed, itself included
+      tol: largest coordinate difference allowed (inclusive)
 
     Returns:
       ex: b1*c2 - c1*b2
       ey: a1*c2 - c1*a2, the second component of the cross product negated
       code: which components of (ex, ey, ez) are above the tolerance (TrvComponents): 0 none: no
-        component is; 1 all: all three components are; 2 first: the first component alone is; 3
-        second: the second component alone is; 4 third: the third component alone is; 5
-        first_second: the first and the second component are; 6 second_third: the second and the
-        third component are; 7 first_third: the first and the third component are
-      on: test (TrvOnLine): 1 yes: P matches the line at the station; 0 no: P does not match the
-        line at the station
+        component is above the tolerance; 1 all: all three components are above the tolerance; 2
+        first: only the first component is above the tolerance; 3 second: only the second
+        component is above the tolerance; 4 third: only the third component is above the
+        tolerance; 5 first_second: only the first and the second are above the tolerance; 6
+        second_third: only the second and the third are above the tolerance; 7 first_third: only
+        the first and the third are above the tolerance
+      on: test (TrvOnLine): 1 yes: P matches the line at the kept coordinate; 0 no: P does not
+        match the line at the kept coordinate
     """
     return _trvln7.cells(a1, b1, c1, d1, a2, b2, c2, d2, px, py, pz, ez, tol, _NAN, _NAN, 0, 0)
 
@@ -3480,13 +3520,13 @@ def trvphi(
 ) -> float:
     """Angle at P0 between the rays to P1 and P2, in the plane.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
-    1 or -1 the angle is NaN, as can happen for collinear points.
+    The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or
+    -1, the angle is NaN; this can happen for collinear points.
 
-    Small angles, and angles as close to pi, lose their digits. Of 20,000 random pairs of rays,
-    1 to 1000 long and 4e-4 radians apart, 23 % give 0 and 1.3 % NaN; of pairs 5e-4 apart, 7 %
-    give 0. Errors reach 100 % at 6e-4 radians, 30 % at 1e-3 and 0.25 % at 1e-2. trvchi is
-    accurate there.
+    Small angles, and angles as close to pi, lose digits. Of 20,000 random pairs of rays, 1 to
+    1000 long and 4e-4 radians apart, 23 % give 0 and 1.3 % NaN; of pairs 5e-4 apart, 7 % give
+    0. Errors reach 100 % at 6e-4 radians, 30 % at 1e-3 and 0.25 % at 1e-2. trvchi is accurate
+    there.
 
     Retains: nothing.
 
@@ -3496,7 +3536,7 @@ def trvphi(
       x2, y2: P2
 
     Returns:
-      phi: angle in [0, pi]; 0 where a ray's length is within the tolerance
+      phi: angle in [0, pi]; 0 if a ray's length is within the tolerance
     """
     return _trvphi.cells(x0, y0, x1, y1, x2, y2, _NAN)
 
@@ -3514,9 +3554,9 @@ def trvphi3(
 ) -> float:
     """Angle at P0 between the rays to P1 and P2, in space.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
-    1 or -1 the angle is NaN. Small angles, and angles close to pi, lose their digits as in
-    trvphi; trvchi is accurate there.
+    The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or
+    -1, the angle is NaN. Small angles, and angles close to pi, lose digits as in trvphi; trvchi
+    is accurate there.
 
     Retains: nothing.
 
@@ -3526,7 +3566,7 @@ def trvphi3(
       x2, y2, z2: P2
 
     Returns:
-      phi: angle in [0, pi]; 0 where a ray's length is within the tolerance
+      phi: angle in [0, pi]; 0 if a ray's length is within the tolerance
     """
     return _trvphi3.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, _NAN)
 
@@ -3542,9 +3582,9 @@ def trvphi1(
 ) -> float:
     """Angle between two vectors.
 
-    The sense of rotation is not told. The cosine is not clamped: where rounding takes it beyond
-    1 or -1 the angle is NaN. Small angles, and angles close to pi, lose their digits as in
-    trvphi; trvchi is accurate there.
+    The angle has no sign. Caution: the cosine is not clamped. If rounding takes it beyond 1 or
+    -1, the angle is NaN. Small angles, and angles close to pi, lose digits as in trvphi; trvchi
+    is accurate there.
 
     Retains: nothing.
 
@@ -3553,7 +3593,7 @@ def trvphi1(
       vx, vy, vz: v
 
     Returns:
-      phi: angle in [0, pi]; 0 where a vector's length is within the tolerance
+      phi: angle in [0, pi]; 0 if a vector's length is within the tolerance
     """
     return _trvphi1.cells(ux, uy, uz, vx, vy, vz, _NAN)
 
@@ -3576,8 +3616,8 @@ def trvphip(
 ) -> TrvphipResult:
     """Angle between two lines given by their directions.
 
-    Small angles lose their digits as in trvphi, and can be NaN. For lines that are nearly
-    parallel take the cosine and the sine of trvtrg: the angle is atan2(sphi, |cphi|).
+    Caution: small angles lose digits as in trvphi, and can be NaN. For lines that are nearly
+    parallel, use the cosine and the sine of trvtrg: the angle is atan2(sphi, |cphi|).
 
     Retains: nothing.
 
@@ -3616,11 +3656,12 @@ def trvchi(
 ) -> TrvchiResult:
     """Directed angle at P0 from the ray to P1 to the ray to P2.
 
-    Counter-clockwise as seen against the normal (P1 - P0) x (P2 - P0), turned like the third
-    axis of trvaxe: the first of its components y, z, x that is above the tolerance becomes
-    positive, or the first that is not zero. So it is counter-clockwise in the plane z = 0.
-    Formed in double precision, its normal with twice the digits, and rounded once: as accurate
-    near 0, pi and 2*pi as elsewhere.
+    The angle is counter-clockwise as seen from the tip of the normal (P1 - P0) x (P2 - P0). The
+    normal is oriented like the third axis of trvaxe: the first of its components y, z, x that
+    is above the tolerance becomes positive, or if there is none, the first that is not zero. So
+    the angle is counter-clockwise in the plane z = 0. It is formed in double precision, its
+    normal with twice the digits, and rounded once, so it is as accurate near 0, pi and 2*pi as
+    elsewhere.
 
     Retains: nothing.
 
@@ -3652,8 +3693,8 @@ def trvcnv(
     """Convexity of a closed outline, of either orientation.
 
     A vertex within the tolerance of the line through its neighbours counts as straight, unless
-    the outline turns back there: spikes, and outlines all of whose vertices lie on one line,
-    are not convex, nor is one with a NaN or an infinite vertex.
+    the outline turns back there. An outline is not convex if it has a spike, if all its
+    vertices lie on one line, or if a vertex is infinite or NaN.
 
     Retains: nothing.
 
@@ -3720,8 +3761,9 @@ def trvdir(
 ) -> TrvdirCode:
     """Relation of two directions.
 
-    The cosine of their angle decides, within the tolerance; a later code goes before an earlier
-    one. So directions up to 0.00447 radians apart, 4.47 mm a metre, are the same.
+    The cosine of their angle decides, within the tolerance. If several codes apply, the result
+    is the highest. Directions up to 0.00447 radians apart, or 4.47 mm per metre, count as the
+    same.
 
     Retains: nothing.
 
@@ -3751,12 +3793,13 @@ def trvdirp(
 ) -> TrvdirpCode:
     """Relation of two planes.
 
-    The relation of the normals is that of trvdir: planes up to 0.00447 radians apart are
-    parallel, and a normal is zero whose components are within the tolerance.
+    The relation of the normals is that of trvdir. Planes up to 0.00447 radians apart count as
+    parallel. A normal counts as zero if all its components are within the tolerance.
 
-    Planes with parallel normals are distinct when the ratio of their normals, taken at the last
-    component of the second one above the tolerance, and that of their constants (0 where d2 is
-    within the tolerance) differ by more than the tolerance and d1 or d2 is above it.
+    Planes with parallel normals are distinct if the ratio of their normals and the ratio of
+    their constants differ by more than the tolerance, and d1 or d2 is above the tolerance. The
+    ratio of the normals is taken at the last component that is above the tolerance in the
+    second normal. The ratio of the constants is 0 if d2 is within the tolerance.
 
     Retains: nothing.
 
@@ -3795,14 +3838,14 @@ def trvmov(
 ) -> TrvmovResult:
     """Angles between the projections of P2 - P1 and P4 - P3 onto the coordinate planes.
 
-    Each is the angle that trvphi1 gives. Caution: its cosine is not clamped. If two projections
-    are parallel, rounding takes it beyond 1 or -1 in about one call of five, and that angle is
-    NaN; in others it is off by up to 5e-4. If P2 - P1 and P4 - P3 lie in one coordinate plane,
-    their projections onto the other two planes are parallel, and a tenth of such calls gives a
-    NaN.
+    Each angle is that of trvphi1. Caution: its cosine is not clamped. If two projections are
+    parallel, rounding takes the cosine beyond 1 or -1 in about one call of five, and that angle
+    is NaN; in other calls the angle is off by up to 5e-4. If P2 - P1 and P4 - P3 lie in one
+    coordinate plane, their projections onto the other two planes are parallel, and a tenth of
+    such calls gives a NaN.
 
-    Small angles, and angles close to pi, lose their digits as in trvphi. For them, and for
-    parallel projections, take trvchi of the two projections, from the origin; if chi is above
+    Small angles, and angles close to pi, lose digits as in trvphi. For such angles, and for
+    parallel projections, use trvchi of the two projections, from the origin; if chi is above
     pi, the angle is 2*pi - chi.
 
     Retains: nothing.
@@ -3840,12 +3883,12 @@ def trvtra(
     Retains: nothing.
 
     Arguments:
-      X, Y: arrays of n: coordinates, less x0 and y0 afterwards
+      X, Y: arrays of n: coordinates; x0 and y0 are subtracted
       n: number of points; below 1 nothing happens
       x0, y0: new origin; may be one of the points
 
     Returns:
-      X, Y: arrays of n: coordinates, less x0 and y0 afterwards
+      X, Y: arrays of n: coordinates; x0 and y0 are subtracted
     """
     return _trvtra.call((X, Y, n, x0, y0), in_place)
 
@@ -3859,7 +3902,7 @@ _trvinv = Routine(
 def trvinv(
     V: ArrayLike, *, n: int | None = None, in_place: bool = False
 ) -> NDArray[int32]:
-    """Reverses a list, in place. Elements move bit for bit, so Reals pass as well as Integers.
+    """Reverses a list, in place. Elements move bit for bit, so the list may also hold Reals.
 
     Retains: nothing.
 
@@ -3888,23 +3931,22 @@ def trvadr(
     V: ArrayLike, k: int, A: ArrayLike, *, n: int | None = None, m: int | None = None,
     in_place: bool = False
 ) -> TrvadrResult:
-    """Inserts a list into another. Elements move bit for bit, so Reals pass as well as
-    Integers.
+    """Inserts a list into another. Elements move bit for bit, so the lists may also hold Reals.
 
     Retains: nothing.
 
     Arguments:
-      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: n is
-        unchanged
+      V: array of n+m: the list, with space for the elements to insert; unchanged on a
+        condition: n is unchanged
       n: number of its elements; n+m afterwards; unchanged on a condition: k is negative or
         above n, or m < 1
       k: position after which to insert, 0 for the front
-      A: array of m: what to insert
+      A: array of m: elements to insert
       m: number of elements to insert
 
     Returns:
-      V: array of n+m: the list, with room for what is inserted; unchanged on a condition: n is
-        unchanged
+      V: array of n+m: the list, with space for the elements to insert; unchanged on a
+        condition: n is unchanged
       n: number of its elements; n+m afterwards; unchanged on a condition: k is negative or
         above n, or m < 1
     """
@@ -3930,24 +3972,24 @@ def trvapl(
 
     The exact integral over the closed outline by Green's theorem, A = integral of x dy along
     it: half the sum of (y(i+1) - y(i))*(x(i) + x(i+1)) over the n edges, summed in double
-    precision and rounded once, so that an outline far from the origin keeps its figures.
-    Positive for a counter-clockwise outline (x to the right, y up), negative for a clockwise
-    one; loops of a self-intersecting outline add up with their signs. The last vertex may
-    repeat the first.
+    precision and rounded once, so that the result stays accurate for an outline far from the
+    origin. Positive for a counter-clockwise outline (x to the right, y up), negative for a
+    clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex
+    may repeat the first.
 
-    Cost: the time grows with n.
+    Cost: time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
-      n: number of vertices, at least 0, which gives 0: for a negative n element n+1 would be
-        before the arrays
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
+      n: number of vertices, at least 0; n = 0 gives 0; n must not be negative, since the
+        routine would write before the start of the arrays
 
     Returns:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
       area: signed area, in L^2
     """
     return _trvapl.call((x, y, n), in_place)
@@ -3973,22 +4015,23 @@ def trvspl(
 
     The exact integrals over the closed outline by Green's theorem, Sx = -1/2 integral of y^2 dx
     and Sy = 1/2 integral of x^2 dy along it, as sums over the edges in double precision, each
-    rounded once. Right for a counter-clockwise outline, negated for a clockwise one; loops of a
-    self-intersecting outline add up with their signs. The last vertex may repeat the first.
+    rounded once. The signs are right for a counter-clockwise outline and opposite for a
+    clockwise one; loops of a self-intersecting outline add up with their signs. The last vertex
+    may repeat the first.
 
-    Cost: the time grows with n.
+    Cost: time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
-      n: number of vertices, at least 0, which gives zeros: for a negative n element n+1 would
-        be before the arrays
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
+      n: number of vertices, at least 0; n = 0 gives zeros; n must not be negative, since the
+        routine would write before the start of the arrays
 
     Returns:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
       sx: first moment about the x axis, the integral of y dA, in L^3
       sy: first moment about the y axis, the integral of x dA, in L^3
     """
@@ -4017,23 +4060,23 @@ def trvipl(
 
     The exact integrals over the closed outline by Green's theorem, Ix = -1/3 integral of y^3
     dx, Iy = 1/3 integral of x^3 dy and Ixy = 1/2 integral of x^2*y dy along it, as sums over
-    the edges in double precision, each rounded once. Right for a counter-clockwise outline,
-    negated for a clockwise one; loops of a self-intersecting outline add up with their signs.
-    The last vertex may repeat the first.
+    the edges in double precision, each rounded once. The signs are right for a
+    counter-clockwise outline and opposite for a clockwise one; loops of a self-intersecting
+    outline add up with their signs. The last vertex may repeat the first.
 
-    Cost: the time grows with n.
+    Cost: time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
-      n: number of vertices, at least 0, which gives zeros: for a negative n element n+1 would
-        be before the arrays
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
+      n: number of vertices, at least 0; n = 0 gives zeros; n must not be negative, since the
+        routine would write before the start of the arrays
 
     Returns:
-      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 before all else,
-        for n = 0 vertex 1 with itself; unchanged on a condition: elements 1 to n
+      x, y: arrays of n+1: vertices; element n+1 is overwritten with vertex 1 first, if n = 0
+        vertex 1 with itself; unchanged on a condition: elements 1 to n
       ix: second moment about the x axis, the integral of y*y dA, in L^4
       iy: second moment about the y axis, the integral of x*x dA, in L^4
       ixy: product of inertia, the integral of x*y dA, in L^4
@@ -4059,14 +4102,14 @@ def trvacp(
 ) -> TrvacpResult:
     """Area and centroid of a circular segment, the region between an arc and its chord.
 
-    The radius r is the distance of P1 from the centre; P2 fixes the angle phi, that of trvphi,
-    and the chord's direction. The order of P1 and P2 does not matter when both lie on the
-    circle. The larger segment has the angle 2*pi - phi. The area is r^2*(phi - sin phi)/2, and
+    The radius r is the distance of P1 from the centre. P2 determines the direction of the chord
+    and the angle phi (trvphi). If both lie on the circle, the order of P1 and P2 does not
+    matter. The larger segment has the angle 2*pi - phi. The area is r^2*(phi - sin phi)/2, and
     the centroid lies 4*r*sin^3(phi/2)/(3*(phi - sin phi)) from the centre, across the chord for
     the smaller segment.
 
-    The centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller segment
-    whose angle is 0; the area is a number then.
+    Caution: the centroid is NaN for a chord through the centre, for P1 = P2, and for a smaller
+    segment whose angle is 0, although the area is a number.
 
     Retains: nothing.
 
@@ -4102,13 +4145,13 @@ def trvicp(
 ) -> TrvicpResult:
     """Second moments of a circular segment, the region between an arc and its chord.
 
-    The segment is that of trvacp: its radius is the distance of P1 from the centre; P2 fixes
-    the angle and the chord's direction. Its moments about its axis of symmetry and about the
-    parallel of the chord through its centroid are turned to the axes of x and y and shifted to
-    the origin.
+    The segment is that of trvacp: its radius is the distance of P1 from the centre; P2
+    determines the angle and the chord's direction. The moments about the segment's axis of
+    symmetry, and about the line through its centroid parallel to the chord, are rotated to the
+    axes of x and y and shifted to the origin.
 
-    All three are NaN for a chord through the centre, for P1 = P2, and for a smaller segment
-    whose angle is 0.
+    Caution: all three moments are NaN for a chord through the centre, for P1 = P2, and for a
+    smaller segment whose angle is 0.
 
     Retains: nothing.
 
@@ -4122,8 +4165,8 @@ def trvicp(
     Returns:
       ix: second moment about the x axis, the integral of y*y dA
       iy: second moment about the y axis, the integral of x*x dA
-      ixy: area*xs*ys, without the segment's own product of inertia about its centroid: the
-        integral of x*y dA only for a chord parallel to an axis
+      ixy: area*xs*ys, without the segment's own product of inertia about its centroid; so it is
+        the integral of x*y dA only if the chord is parallel to an axis
     """
     return _trvicp.cells(xc, yc, x1, y1, x2, y2, kind, _NAN, _NAN, _NAN)
 
@@ -4147,34 +4190,34 @@ def trvair(
 ) -> TrvairResult:
     """Area of a part of a section.
 
-    A polygon is that of trvapl, negative when it is listed clockwise; the segments are those of
-    trvacp.
+    The area of a polygon is that of trvapl, negative if its vertices are listed clockwise. The
+    area of a segment is that of trvacp.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for kind 1 and an unknown kind;
+      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for kind 1 and an unknown kind;
         unchanged on a condition: kind is not 2, or elements 1 to n
-      n: vertices of kind 2, at least 0, which gives 0: for a negative n element n+1 would be
-        before the arrays; ignored for other kinds
+      n: number of vertices of kind 2, at least 0; n = 0 gives 0; n must not be negative, since
+        the routine would write before the start of the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2 polygon: points
         1 to n are the vertices, counter-clockwise; 3 circle: a full circle, point 1 is its
         centre, point 2 is on it; 4 smaller_segment: the smaller circular segment, point 1 is
         the centre, points 2 and 3 are the ends of its chord; 5 larger_segment: the larger
-        circular segment, given as the smaller one; any other value is an unknown kind
+        circular segment, given by the same three points; any other value is an unknown kind
       value: area for kind 1, ignored otherwise
-      factor: multiplies the result. A hole is a part with the factor -1, a polygon then still
-        counter-clockwise: a clockwise one with -1 adds
-      area: area of the part, times the factor; for an unknown kind the caller's value, times
-        the factor
+      factor: multiplies the result. A hole is a part with the factor -1. Caution: a polygon
+        must then still be counter-clockwise; a clockwise one with -1 adds area
+      area: area of the part, times the factor; if the kind is unknown, the caller's value,
+        times the factor
 
     Returns:
-      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for kind 1 and an unknown kind;
+      x, y: arrays of 0, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for kind 1 and an unknown kind;
         unchanged on a condition: kind is not 2, or elements 1 to n
-      area: area of the part, times the factor; for an unknown kind the caller's value, times
-        the factor
+      area: area of the part, times the factor; if the kind is unknown, the caller's value,
+        times the factor
     """
     return _trvair.call((x, y, n, kind, value, factor, area), in_place)
 
@@ -4200,34 +4243,34 @@ def trvstm(
 ) -> TrvstmResult:
     """First moments of a part of a section.
 
-    A polygon is that of trvspl, its moments negated when it is listed clockwise; the segments
-    are those of trvacp.
+    The moments of a polygon are those of trvspl, with opposite signs if its vertices are listed
+    clockwise. The area and centroid of a segment are those of trvacp.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
-        a condition: kind is not 2, or elements 1 to n
-      n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
-        be before the arrays; ignored for other kinds
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for an unknown kind; unchanged
+        on a condition: kind is not 2, or elements 1 to n
+      n: number of vertices of kind 2, at least 0; n = 0 gives zeros; n must not be negative,
+        since the routine would write before the start of the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1; 2 polygon: points
         1 to n are the vertices, counter-clockwise; 3 circle: a full circle, point 1 is its
         centre, point 2 is on it; 4 smaller_segment: the smaller circular segment, point 1 is
         the centre, points 2 and 3 are the ends of its chord; 5 larger_segment: the larger
-        circular segment, given as the smaller one; any other value is an unknown kind
+        circular segment, given by the same three points; any other value is an unknown kind
       value: area for kind 1, ignored otherwise
-      factor: multiplies the results. A hole is a part with the factor -1, a polygon then still
-        counter-clockwise: a clockwise one with -1 adds
-      sx, sy: first moments about the x and the y axis, times the factor; for an unknown kind
-        the caller's values, times the factor
+      factor: multiplies the results. A hole is a part with the factor -1. Caution: a polygon
+        must then still be counter-clockwise; a clockwise one with -1 adds moments
+      sx, sy: first moments about the x and the y axis, times the factor; if the kind is
+        unknown, the caller's values, times the factor
 
     Returns:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
-        a condition: kind is not 2, or elements 1 to n
-      sx, sy: first moments about the x and the y axis, times the factor; for an unknown kind
-        the caller's values, times the factor
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for an unknown kind; unchanged
+        on a condition: kind is not 2, or elements 1 to n
+      sx, sy: first moments about the x and the y axis, times the factor; if the kind is
+        unknown, the caller's values, times the factor
     """
     return _trvstm.call((x, y, n, kind, value, factor, sx, sy), in_place)
 
@@ -4254,49 +4297,50 @@ def trvinm(
 ) -> TrvinmResult:
     """Second moments of a part of a section.
 
-    A polygon is that of trvipl, its moments negated when it is listed clockwise; the segments
-    are those of trvicp.
+    The moments of a polygon are those of trvipl, with opposite signs if its vertices are listed
+    clockwise. The moments of a segment are those of trvicp.
 
-    A part of kind 1 brings its own centroidal moments in ix, iy and ixy, which are turned by
-    `angle` and shifted to the origin. Turning takes each new value into the next, so it is not
-    the rotation of a tensor: with s, c and t the sine and cosine of the angle and the sine of
-    its double, in order
+    For a part of kind 1, the caller passes its centroidal moments in ix, iy and ixy. They are
+    rotated by `angle` and shifted to the origin. Caution: this is not the usual rotation of
+    second moments, since each line uses the values that the lines before it have changed. With
+    s = sin(angle), c = cos(angle) and t = sin(2*angle):
 
       ix  = ix*c^2 + iy*s^2 - ixy*t
       iy  = iy*c^2 + s^2*ix + ixy*t
       ixy = ((ix - iy)*0.5 + ixy)*t
 
-    but nothing is turned, ixy neither, for an angle of exactly 0.
+    If the angle is exactly 0, these lines are skipped.
 
     Retains: nothing.
 
     Arguments:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
-        a condition: kind is not 2, or elements 1 to n
-      n: vertices of kind 2, at least 0, which gives zeros: for a negative n element n+1 would
-        be before the arrays; ignored for other kinds
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for an unknown kind; unchanged
+        on a condition: kind is not 2, or elements 1 to n
+      n: number of vertices of kind 2, at least 0; n = 0 gives zeros; n must not be negative,
+        since the routine would write before the start of the arrays; ignored for other kinds
       kind: part kind (TrvPart): 1 concentrated: area concentrated at point 1, or a region with
-        that centroid by its own moments; 2 polygon: points 1 to n are the vertices,
-        counter-clockwise; 3 circle: a full circle, point 1 is its centre, point 2 is on it; 4
-        smaller_segment: the smaller circular segment, point 1 is the centre, points 2 and 3 are
-        the ends of its chord; 5 larger_segment: the larger circular segment, given as the
-        smaller one; any other value is an unknown kind
+        its centroid at point 1, whose centroidal moments are passed in ix, iy and ixy; 2
+        polygon: points 1 to n are the vertices, counter-clockwise; 3 circle: a full circle,
+        point 1 is its centre, point 2 is on it; 4 smaller_segment: the smaller circular
+        segment, point 1 is the centre, points 2 and 3 are the ends of its chord; 5
+        larger_segment: the larger circular segment, given by the same three points; any other
+        value is an unknown kind
       value: area for kind 1, ignored otherwise
-      angle: turn of the own axes in radians for kind 1, ignored otherwise
-      factor: multiplies the results. A hole is a part with the factor -1, a polygon then still
-        counter-clockwise: a clockwise one with -1 adds
-      ix, iy, ixy: second moments about the axes, times the factor; ixy for kinds 4 and 5
-        without the segment's own product of inertia, as trvicp gives it; for kind 1 the own
-        moments on entry; for an unknown kind the caller's values, times the factor
+      angle: rotation of the part's own axes in radians for kind 1, ignored otherwise
+      factor: multiplies the results. A hole is a part with the factor -1. Caution: a polygon
+        must then still be counter-clockwise; a clockwise one with -1 adds moments
+      ix, iy, ixy: second moments about the axes, times the factor; for kinds 4 and 5, ixy lacks
+        the segment's own product of inertia (trvicp); for kind 1, the part's own moments on
+        entry; if the kind is unknown, the caller's values, times the factor
 
     Returns:
-      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, as kind tells; element n+1 is
-        overwritten with vertex 1 for kind 2; nothing is read for an unknown kind; unchanged on
-        a condition: kind is not 2, or elements 1 to n
-      ix, iy, ixy: second moments about the axes, times the factor; ixy for kinds 4 and 5
-        without the segment's own product of inertia, as trvicp gives it; for kind 1 the own
-        moments on entry; for an unknown kind the caller's values, times the factor
+      x, y: arrays of 1, n+1, 2, 3, 3 by kind: the part's points, see kind; element n+1 is
+        overwritten with vertex 1 if kind is 2; nothing is read for an unknown kind; unchanged
+        on a condition: kind is not 2, or elements 1 to n
+      ix, iy, ixy: second moments about the axes, times the factor; for kinds 4 and 5, ixy lacks
+        the segment's own product of inertia (trvicp); for kind 1, the part's own moments on
+        entry; if the kind is unknown, the caller's values, times the factor
     """
     return _trvinm.call((x, y, n, kind, value, angle, factor, ix, iy, ixy), in_place)
 
@@ -4324,11 +4368,11 @@ def trvinp(
       i1 = ix*cos^2(alpha) - 2*ixy*sin(alpha)*cos(alpha) + iy*sin^2(alpha)
       i2 = ix*sin^2(alpha) + 2*ixy*sin(alpha)*cos(alpha) + iy*cos^2(alpha)
 
-    Since alpha is at most an eighth of a turn, i1 is the larger one when ix is larger than iy.
+    Since alpha is at most pi/4, i1 is the larger one if ix is larger than iy.
 
-    The axes count as principal already, i1 = ix, i2 = iy and alpha = 0, when |ixy/(ix + iy)| is
-    at most 1e-8 or NaN. Else with |iy - ix| < 1e-12 alpha is an eighth of a turn, i1 the mean
-    of ix and iy less ixy, i2 the mean and ixy.
+    If |ixy/(ix + iy)| is at most 1e-8 or NaN, the axes count as principal: i1 = ix, i2 = iy and
+    alpha = 0. Otherwise, if |iy - ix| < 1e-12: alpha = pi/4, i1 = (ix + iy)/2 - ixy and i2 =
+    (ix + iy)/2 + ixy.
 
     Retains: nothing.
 
@@ -4354,16 +4398,15 @@ def trvinr(
 ) -> float:
     """Integral of equally spaced samples over [a, b] by the trapezoidal rule.
 
-    The last interior sample f(n-1) does not enter the sum, and for n = 3 no interior sample
-    does.
+    Caution: the last interior sample f(n-1) is not in the sum; if n = 3, no interior sample is.
 
-    Cost: the time grows with n.
+    Cost: time grows with n.
 
     Retains: nothing.
 
     Arguments:
-      n: number of samples, at least 2; 1 divides by zero; a smaller n is not allowed, since
-        f(n) would be before the array
+      n: number of samples, at least 2; 1 divides by zero; n must not be smaller, since f(n)
+        would be before the array
       f: array of n: samples
       a, b: limits
 
@@ -4384,9 +4427,10 @@ def trvro2(
 ) -> float:
     """Reduction factor of an internal compression element, EN 1993-1-5, 4.4(2).
 
-    The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). No reduction up to 0.5 +
-    sqrt(0.085 - 0.055*psi), else (1 - 0.055*(3 + psi)/slenderness) / slenderness, at most 1.
-    There is no lower bound. ks = 0 gives 0; psi above 0.085/0.055 takes the second formula.
+    The slenderness is b / ((((r2/r1) * 28.4) * sqrt(ks)) * t). If it is at most 0.5 +
+    sqrt(0.085 - 0.055*psi), rho = 1. Otherwise rho = (1 - 0.055*(3 + psi)/slenderness) /
+    slenderness, at most 1, without a lower bound. ks = 0 gives 0. If psi is above 0.085/0.055,
+    the second formula is used.
 
     Retains: nothing.
 
@@ -4417,10 +4461,12 @@ def trvefr(
 ) -> float:
     """Effective width of an edge fold on a plate it stiffens, after EN 1993-1-3, 5.5.3.2.
 
-    The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. That
-    departs from the clause, which has 0.5 + 0.83*(c/bp - 0.35)^(2/3) there. Beyond 0.6, or
-    where c/bp is NaN, the factor of the previous call stands; zero after loading, which gives
-    ceff = 0. The reduction is that of trvro2 for psi = 1.
+    The buckling factor is 0.5 up to c/bp = 0.35, and 0.5 + (c/bp - 0.35)^2/3 up to 0.6. The
+    reduction is that of trvro2 for psi = 1.
+
+    Caution: between 0.35 and 0.6 the factor differs from the clause, which has 0.5 + 0.83*(c/bp
+    - 0.35)^(2/3). Beyond 0.6, or if c/bp is NaN, the factor of the previous call is used again.
+    It is zero after loading, which gives ceff = 0.
 
     Retains: the buckling factor (trvefr).
 
@@ -4465,15 +4511,16 @@ def trvef2(
       -1 to -3      5.98*(1 - psi)^2              0.4*rho*w           0.6*rho*w
       below -3      none                          w/2                 w/2
 
-    psi counts as 1 or 0 where s1 - s2 or s2 is within the tolerance, as -1 where |s1 + s2| is
-    below it. Cases overlap there: 1 gives way to a ratio below it, 0 to any tension or
-    compression at s2.
+    psi counts as 1 if s1 - s2 is within the tolerance, as 0 if s2 is, and as -1 if |s1 + s2| is
+    below the tolerance. Caution: the rows 1 and 0 overlap with others. If 0 < s2 < s1, however
+    small the difference, the row "1 to 0" applies; if s2 < 0, one of the rows for negative psi
+    does.
 
     Retains: nothing.
 
     Arguments:
       bl: width for the slenderness
-      w: width to reduce; in bending, where s2 is tension, that of the compressed part
+      w: width to reduce; in bending, if s2 is tension, the width of the compressed part
       t: thickness
       r1: square root of the yield strength: sqrt(fy)
       r2: square root of the reference strength: sqrt(235) for N/mm2
@@ -4484,7 +4531,7 @@ def trvef2(
       be1: effective width at the edge of s1; unwritten on a condition: be2 is unwritten
       be2: effective width at the other edge; unwritten on a condition: both stresses are within
         the tolerance, s1 is zero or negative, s1 = -s2/3, or s2 is not within the tolerance and
-        s2 - s1 is above it or NaN
+        s2 - s1 is above the tolerance or NaN
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -4528,7 +4575,7 @@ def trvsec_ia(
       B1, T1: width and thickness of flange 1, at the bottom
       B2, T2: width and thickness of flange 2, at the top
       TW: web thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -4579,7 +4626,7 @@ def trvsec_h(
       B1, T1: width and thickness of flange 1, on the left
       B2, T2: width and thickness of flange 2, on the right
       TW: web thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -4629,7 +4676,7 @@ def trvsec_t(
       B, TF: width and thickness of the flange
       H: height
       TW: stem thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -4677,7 +4724,7 @@ def trvsec_b(
     Arguments:
       B: width, an Integer
       H: height
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -4732,7 +4779,7 @@ def trvsec_h1b(
       P: height of its flanges
       T1, T2: thicknesses of the left and the right flange
       TW: web thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4784,7 +4831,7 @@ def trvsec_box(
       H: overall height
       TW: thickness of each web
       G: clear distance of the webs
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4832,7 +4879,7 @@ def trvsec_rhs(
     Arguments:
       B, H: width and height
       T: wall thickness
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4882,7 +4929,7 @@ def trvsec_l2(
       B, T: length and thickness of a horizontal leg
       H, TV: height and thickness of a vertical leg
       G: gap between the vertical legs
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4935,7 +4982,7 @@ def trvsec_tab(
       E: height of the bottom plate's underside above the webs' lower ends
       TW: thickness of each web
       TB: thickness of the bottom plate
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 2
@@ -4987,7 +5034,7 @@ def trvsec_h2b(
       HI: clear distance of the flanges
       TW1, TW2: thicknesses of the left and the right web
       TM: thickness of the middle plate, at mid-height
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 3
@@ -5041,7 +5088,7 @@ def trvsec_i(
       TW: web thickness
       S1, S2: legs of the fillets between the web and flanges 1, 2; 0 for none
       E: distance of the web from the middle, to the right
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -5088,8 +5135,9 @@ def trvsec_c(
     """Channel open to the right, with lips turned inwards and folds turned back towards the
     web.
 
-    Lengths are outer ones. A lip no longer than its flange is thick is none, and without a lip
-    there is no fold; a fold no longer than its lip is thick is none.
+    Lengths are outer ones. A lip whose length does not exceed the thickness of its flange is
+    ignored, and so is the fold of this lip. A fold whose length does not exceed the thickness
+    of its lip is ignored.
 
     Retains: nothing.
 
@@ -5102,7 +5150,7 @@ def trvsec_c(
       T1, T2: thicknesses of the flanges
       TC1, TC2: thicknesses of the lips
       TD1, TD2: thicknesses of the folds
-      q: value handed on with each polygon
+      q: user value, copied to q1 and q2 of each polygon
 
     Returns:
       np: number of polygons, always 1
@@ -5127,16 +5175,17 @@ def trvshc_c(
 ) -> float:
     """Distance of a channel's shear centre from its centroid.
 
-    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is
-    lipped when C is above the tolerance.
+    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel has
+    lips if C is above the tolerance.
 
       plain   e0 = b^2/(2*b + h) + 3*b^2/(h + 6*b)
       lipped  e0 = b*(b + 2*c)/(h + 2*b + 2*c) + b*t*(3*b*h^2 + 6*c*h^2 - 8*c^3)/(12*I)
               I  = t*(h^3 + 6*(b + c)*h^2 - 12*c^2*h + 8*c^3)/12
 
-    The first term is the centroid's distance from the web, the second the shear centre's on the
-    other side (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic stability, appendix,
-    table A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B, sharp corners).
+    The first term is the distance of the centroid from the web, the second that of the shear
+    centre on the other side of the web (plain: S. P. Timoshenko, J. M. Gere, Theory of elastic
+    stability, appendix, table A-3; lipped: W.-W. Yu, Cold-formed steel design, appendix B,
+    sharp corners).
 
     Retains: nothing.
 
@@ -5147,7 +5196,7 @@ def trvshc_c(
       t: wall thickness
 
     Returns:
-      e0: distance along the flanges; infinite or NaN where the section has no size
+      e0: distance along the flanges; infinite or NaN if the section has no size
     """
     return _trvshc_c.cells(B, H, C, t, _NAN)
 
@@ -5163,9 +5212,9 @@ def trvwar_c(
 ) -> float:
     """Warping constant of a channel.
 
-    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel is
-    lipped when C is above the tolerance. With A the area, xg and e the distances of centroid
-    and shear centre from the web, and I the second moment about the axis of symmetry, all as
+    Thin-walled theory on the centre lines b = B - t, h = H - t, c = C - t/2. The channel has
+    lips if C is above the tolerance. With A the area, xg and e the distances of centroid and
+    shear centre from the web, and I the second moment about the axis of symmetry, all as
     trvshc_c:
 
       plain   Iw = t*b^3*h^2*(3*b + 2*h)/(12*(h + 6*b))
@@ -5187,7 +5236,7 @@ def trvwar_c(
       t: wall thickness
 
     Returns:
-      Iw: warping constant, in the sixth power of the length unit; infinite or NaN where the
+      Iw: warping constant, in the sixth power of the length unit; infinite or NaN if the
         section has no size
     """
     return _trvwar_c.cells(B, H, C, t, _NAN)
@@ -5242,18 +5291,18 @@ def trvmxt(
 ) -> TrvmxtResult:
     """Properties of an open section of thin plates.
 
-    Each plate is given by its centre line and its thickness. The first starts anywhere, each
-    further one at an end of an earlier one, within the tolerance in each coordinate. A plate
-    that others join between its ends is given as two. Plates meet at their ends only: elsewhere
-    none comes to another within 1e-5, or within 2^-22 of the greatest coordinate where that is
-    more.
+    Each plate is given by its centre line and its thickness. The first plate may start
+    anywhere. Each further plate must start at an end of an earlier one, within the tolerance in
+    each coordinate. A plate that others join between its ends must be given as two plates.
+    Plates must meet at their ends only: apart from the joints, the distance between two plates
+    must be more than 1e-5 and more than 2^-22 times the largest coordinate.
 
-    Area, moments and moduli are those of the plates as rectangles about their centre lines,
-    overlaps at the joints counted twice. Shear centre, warping constant and sectorial
+    Area, moments and moduli are those of the plates as rectangles about their centre lines;
+    overlaps at the joints are counted twice. Shear centre, warping constant and sectorial
     coordinates are those of the centre lines (V. Z. Vlasov, Thin-walled elastic beams). Formed
     in double precision and rounded once.
 
-    Cost: time grows with n^2; no memory is taken.
+    Cost: time grows with n^2; nothing is allocated.
 
     Retains: nothing.
 
@@ -5269,30 +5318,33 @@ def trvmxt(
       Ix, Iy: second moments about the centroid, of y^2 and of x^2; unwritten if status is -1
       Ixy: product of inertia about the centroid; unwritten if status is -1
       I1: moment about the axis turned by alpha from the x axis; unwritten if status is -1
-      I2: moment about the axis perpendicular to it; either may be the larger; unwritten if
-        status is -1
-      alpha: angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 where |Ixy|
-        is at most 1e-8*(Ix + Iy), else pi/4 where |Iy - Ix| is; unwritten if status is -1
+      I2: moment about the axis perpendicular to that of I1; either may be the larger; unwritten
+        if status is -1
+      alpha: angle from the x axis in radians, counter-clockwise, within +-pi/4: 0 if |Ixy| is
+        at most 1e-8*(Ix + Iy), otherwise pi/4 if |Iy - Ix| is; unwritten if status is -1
       rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
-      Wx1, Wx2: elastic moduli of the top and the bottom fibre; unwritten if status is -1
-      Wy1, Wy2: elastic moduli of the right and the left fibre; unwritten if status is -1
-      Wpx, Wpy: plastic moduli about the equal-area axes; unwritten if status is -1
-      xp, yp: equal-area axes: the vertical one at xp, the horizontal one at yp; in the middle
-        of a gap between the halves; unwritten if status is -1
+      Wx1, Wx2: elastic section moduli of the top and the bottom extreme fibre; unwritten if
+        status is -1
+      Wy1, Wy2: elastic section moduli of the right and the left extreme fibre; unwritten if
+        status is -1
+      Wpx, Wpy: plastic section moduli about the plastic neutral axes; unwritten if status is -1
+      xp, yp: plastic neutral axes (equal-area axes): the vertical one at xp, the horizontal one
+        at yp; in the middle of a gap if there is one between the halves; unwritten if status is
+        -1
       It: torsion constant: sum of l*t^3/3; unwritten unless status is 0
       Wt: torsion modulus: It over the greatest thickness; unwritten unless status is 0
-      xm, ym: shear centre; the centroid where all plates are on one line; unwritten unless
-        status is 0
+      xm, ym: shear centre; the centroid if all plates are on one line; unwritten unless status
+        is 0
       Iw: warping constant; unwritten unless status is 0
       r0: polar radius of gyration about the shear centre; unwritten unless status is 0
       W1, W2: arrays of n: normalised sectorial coordinate at the plates' starts and ends,
-        counter-clockwise positive; unwritten unless status is 0
+        positive counter-clockwise; unwritten unless status is 0
       status: outcome (TrvStatus): 0 done: the outputs are computed; -1 refused: n < 1, a
         coordinate or a thickness is infinite or NaN, or a length or a thickness is not above
-        the tolerance; 2 to n: this plate is the first at fault, it starts at no end of an
-        earlier plate, or ends at one and closes a cell; n+2 to 2*n: plate status - n is the
-        first at fault, it crosses, touches or overlaps an earlier plate elsewhere than at its
-        start, which may close a cell
+        the tolerance; 2 to n: number of the first faulty plate, which does not start at an end
+        of an earlier plate, or closes a cell by ending at one; n+2 to 2*n: n plus the number of
+        the first faulty plate, which crosses, touches or overlaps an earlier plate elsewhere
+        than at its start, and may close a cell
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -5363,10 +5415,12 @@ def trvmxt_fb(
       I1, I2: principal moments: Ix, Iy; unwritten if status is -1
       alpha: angle of the axis of I1 from the x axis: 0; unwritten if status is -1
       rx, ry: radii of gyration: sqrt(Ix/A), sqrt(Iy/A); unwritten if status is -1
-      Wx1, Wx2: elastic moduli of the top and the bottom fibre; unwritten if status is -1
-      Wy1, Wy2: elastic moduli of the right and the left fibre; unwritten if status is -1
-      Wpx, Wpy: plastic moduli about the x and the y axis; unwritten if status is -1
-      xp, yp: equal-area axes: 0; unwritten if status is -1
+      Wx1, Wx2: elastic section moduli of the top and the bottom extreme fibre; unwritten if
+        status is -1
+      Wy1, Wy2: elastic section moduli of the right and the left extreme fibre; unwritten if
+        status is -1
+      Wpx, Wpy: plastic section moduli about the x and the y axis; unwritten if status is -1
+      xp, yp: plastic neutral axes: 0; unwritten if status is -1
       It: torsion constant; unwritten if status is -1
       Wt: torsion modulus: torque over the greatest shear stress; unwritten if status is -1
       xm, ym: shear centre: 0; unwritten if status is -1
@@ -5398,14 +5452,14 @@ def trvrot(
     mode: int, x: ArrayLike, y: ArrayLike, angle: float, *, n: int | None = None,
     in_place: bool = False
 ) -> TrvrotResult:
-    """Turns plane points about the origin, in place.
+    """Rotates plane points about the origin, in place.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
     Arguments:
-      mode: 1 turns clockwise; any other value counter-clockwise
+      mode: 1 rotates clockwise; any other value counter-clockwise
       x, y: arrays of n: coordinates
       n: number of points; below 1 nothing happens
       angle: angle in radians; may be an element of the arrays
@@ -5432,14 +5486,14 @@ def trvrotx(
     mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
     in_place: bool = False
 ) -> TrvrotxResult:
-    """Turns points about the x axis, in place.
+    """Rotates points about the x axis, in place.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
     Arguments:
-      mode: 1 turns z towards y; any other value y towards z, right-handed about +x
+      mode: 1 rotates z towards y; any other value y towards z, right-handed about +x
       x: array of 0: not read
       y, z: arrays of n: coordinates
       n: number of points; below 1 nothing happens
@@ -5467,16 +5521,17 @@ def trvroty(
     mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
     in_place: bool = False
 ) -> TrvrotyResult:
-    """Turns points about the y axis, in place.
+    """Rotates points about the y axis, in place.
 
-    Unlike its sisters it turns left-handedly about its axis unless mode is 1.
+    Caution: unless mode is 1, this rotation is left-handed about its axis, while those of
+    trvrotx and trvrotz are right-handed.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
     Arguments:
-      mode: 1 turns z towards x; any other value x towards z, left-handed about +y
+      mode: 1 rotates z towards x; any other value x towards z, left-handed about +y
       x, z: array of n: coordinates
       y: array of 0: not read
       n: number of points; below 1 nothing happens
@@ -5504,14 +5559,14 @@ def trvrotz(
     mode: int, x: ArrayLike, y: ArrayLike, z: ArrayLike, angle: float, *, n: int | None = None,
     in_place: bool = False
 ) -> TrvrotzResult:
-    """Turns points about the z axis, in place.
+    """Rotates points about the z axis, in place.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
     Arguments:
-      mode: 1 turns y towards x; any other value x towards y, right-handed about +z
+      mode: 1 rotates y towards x; any other value x towards y, right-handed about +z
       x, y: arrays of n: coordinates
       z: array of 0: not read
       n: number of points; below 1 nothing happens
@@ -5538,12 +5593,14 @@ def trvpsl(
 ) -> TrvThreePoints:
     """Three-point test: whether P0, P1 and P2 span a plane.
 
-    The cosine of the angle at P2 decides over 3, 4 and 5, within the tolerance: up to 0.00447
-    radians from pi or 0 the three are on one line, as are the ends of 6 m and a point 6 mm
-    beside its middle. Where P2 agrees with P0 or P1 within the tolerance in each coordinate yet
-    lies farther than that from it, the cosine of the last call that found one stands (0 after
-    loading). P0 = P1 is not tested and gives 0, as does any P2 on the line whose distances from
-    both come out equal.
+    The points count as collinear (status 3, 4 or 5) if the angle at P2 is within 0.00447
+    radians of pi or 0, since its cosine is compared within the tolerance. Example: a point 6 mm
+    beside the middle of a 6 m segment counts as on the segment.
+
+    Caution: if P2 matches P0 or P1 within the tolerance in each coordinate, but is farther from
+    it than the tolerance, the cosine of the last call that computed one is used (0 after
+    loading). P0 = P1 is not tested and gives status 0. So does a P2 on the line if its computed
+    distances from P0 and P1 are equal.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -5580,17 +5637,17 @@ def trv3tra(
 ) -> Trv3traResult:
     """Moves the origin of points to (dx, dy, dz), in place.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
     Arguments:
-      X, Y, Z: arrays of n: coordinates, less dx, dy and dz afterwards
+      X, Y, Z: arrays of n: coordinates; dx, dy and dz are subtracted
       n: number of points; below 1 nothing happens
       dx, dy, dz: new origin; may be one of the points
 
     Returns:
-      X, Y, Z: arrays of n: coordinates, less dx, dy and dz afterwards
+      X, Y, Z: arrays of n: coordinates; dx, dy and dz are subtracted
     """
     return _trv3tra.call((X, Y, Z, n, dx, dy, dz), in_place)
 
@@ -5612,10 +5669,10 @@ def trvtrn(
 
     Arguments:
       p: array of 3: coordinates
-      a1, a2, a3, a4, a5, a6, a7, a8, a9: frame matrix: the unit axes e1, e2 and e3 of a frame
-        by their global components, as trvaxe gives them; may be elements of p
-      mode: 1 local coordinates to global orientation (the transpose); any other value global to
-        local
+      a1, a2, a3, a4, a5, a6, a7, a8, a9: frame matrix: the global components of the unit axes
+        e1, e2 and e3 of a frame, as trvaxe gives them; may be elements of p
+      mode: 1 transforms local coordinates to global orientation (the transpose); any other
+        value global to local
 
     Returns:
       p: array of 3: coordinates
@@ -5652,10 +5709,12 @@ def trvaxe(
 ) -> TrvaxeResult:
     """Frame of the plane through three points.
 
-    e1 runs from P0 to P1; e3 is the normal, turned towards +y if the y component of (P1 - P0) x
-    (P2 - P0) is above the tolerance, else likewise towards +z, else towards +x; e2 = e3 x e1.
-    An axis whose length is below 1e-5 before it is normalised stays zero: all three where P0 =
-    P1, the last two where the points are very close; the status is 0 then.
+    e1 is the direction from P0 to P1, e3 is the normal, and e2 = e3 x e1. The normal is
+    oriented towards +y if the y component of (P1 - P0) x (P2 - P0) is above the tolerance, else
+    towards +z if the z component is, else towards +x.
+
+    Caution: an axis stays zero if its length before normalising is below 1e-5, although the
+    status is 0. All three axes are zero if P0 = P1; e2 and e3 are if the points are very close.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -5667,7 +5726,7 @@ def trvaxe(
     Returns:
       e1x, e1y, e1z: first axis
       e2x, e2y, e2z: second axis
-      e3x, e3y, e3z: third axis; all nine are zero when status is -2
+      e3x, e3y, e3z: third axis; all nine components are zero if status is -2
       status: outcome (TrvFrame): 0 done: the outputs are computed; -2 no_frame: P2 is at P0 or
         P1, or the three points are on one line (trvpsl)
     """
@@ -5702,23 +5761,23 @@ def trvaxel(
 ) -> TrvaxelResult:
     """Frame of an axis from P0 to P1.
 
-    At angle 0, e2 is the global y axis freed of its component along e1, and e3 = e1 x e2; a
-    positive angle turns both right-handedly about e1.
+    At angle 0, e2 is the unit vector of the global y axis minus its component along e1, and e3
+    = e1 x e2. A positive angle rotates both right-handedly about e1.
 
-    An axis along y, a column, has no such e2: e2 and e3 are NaN or infinite then, with status
-    0. Ask trvaxe with a third point instead.
+    Caution: an axis along y (a column) has no such e2. e2 and e3 are then NaN or infinite,
+    although the status is 0. Use trvaxe with a third point instead.
 
     Retains: nothing.
 
     Arguments:
       x0, y0, z0: P0
       x1, y1, z1: P1
-      angle: turn of e2 and e3 about e1 in radians
+      angle: rotation of e2 and e3 about e1 in radians
 
     Returns:
       e1x, e1y, e1z: first axis
       e2x, e2y, e2z: second axis
-      e3x, e3y, e3z: third axis; all nine are zero when status is -2
+      e3x, e3y, e3z: third axis; all nine components are zero if status is -2
       status: outcome (TrvFrame): 0 done: also for an axis along y; -2 no_frame: the distance of
         P0 and P1 is within the tolerance
     """
@@ -5743,14 +5802,14 @@ def trvptr(
     X: ArrayLike, Y: ArrayLike, Z: ArrayLike, x0: float, y0: float, z0: float, ax: float,
     ay: float, az: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvptrResult:
-    """Shifts points and turns them about the global axes x, y and z, in this order and in
+    """Shifts points and rotates them about the global axes x, y and z, in this order and in
     place.
 
-    Each turn is that of trvrotx, trvroty and trvrotz with mode 2: right-handed about x and z,
-    left-handed about y. A shift none of whose components is above the tolerance is left out,
-    and so is a turn whose angle is not.
+    The rotations are those of trvrotx, trvroty and trvrotz with mode 2: right-handed about x
+    and z, left-handed about y. The shift is skipped if no component is above the tolerance. A
+    rotation is skipped if its angle is not above the tolerance.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5789,17 +5848,17 @@ def trvptrl(
     z2: float, X: ArrayLike, Y: ArrayLike, Z: ArrayLike, dx: float, dy: float, dz: float,
     ax: float, ay: float, az: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvptrlResult:
-    """Shifts points and turns them in the frame of three points, in place.
+    """Shifts points and rotates them in the frame of three points, in place.
 
-    In local coordinates each point is shifted by (dx, dy, dz), then turned about the local axes
-    x, y and z as trvrotx, trvroty and trvrotz turn with mode 2: right-handed about x and z,
-    left-handed about y. No angle is left out. Where the frame has a zero axis (trvaxe), the
-    points lose that coordinate.
+    In local coordinates each point is shifted by (dx, dy, dz), then rotated about the local
+    axes x, y and z as by trvrotx, trvroty and trvrotz with mode 2: right-handed about x and z,
+    left-handed about y. No rotation is skipped. Caution: if the frame has a zero axis (trvaxe),
+    the points lose that coordinate.
 
-    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read
-    before a point is moved.
+    Single inputs may be elements of the arrays, and P0 to P2 may be some of the points: they
+    are read before a point is moved.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -5809,7 +5868,7 @@ def trvptrl(
       x2, y2, z2: P2
       X, Y, Z: arrays of n: coordinates; unchanged if status is -2
       n: number of points; below 1 only the status is written
-      dx, dy, dz: shift in local coordinates, before the turns
+      dx, dy, dz: shift in local coordinates, before the rotations
       ax, ay, az: angles in radians about the local axes x, y and z
 
     Returns:
@@ -5840,15 +5899,15 @@ def trvpra(
     x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, X: ArrayLike,
     Y: ArrayLike, Z: ArrayLike, angle: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvpraResult:
-    """Turns points about the axis from P0 through P1, in place.
+    """Rotates points about the axis from P0 through P1, in place.
 
-    An axis along the global y axis, a column, gives points that are NaN or infinite, with
-    status 0 (trvaxel). Use trv3tra and trvroty there.
+    Caution: if the axis is along the global y axis (a column), the points become NaN or
+    infinite, although the status is 0 (trvaxel). Use trv3tra and trvroty instead.
 
-    Single inputs may be elements of the arrays, P0 and P1 two of the points: they are read
-    before a point is moved.
+    Single inputs may be elements of the arrays, and P0 and P1 may be two of the points: they
+    are read before a point is moved.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -5890,16 +5949,16 @@ def trvppc(
     z2: float, dx: float, dy: float, dz: float, ax: float, ay: float, az: float, X: ArrayLike,
     Y: ArrayLike, Z: ArrayLike, tol: float, *, n: int | None = None, in_place: bool = False
 ) -> TrvppcResult:
-    """Turns points of a plane in the frame of the three points that span it, then shifts them,
-    in place.
+    """Rotates points of a plane in the frame of the three points that span it, then shifts
+    them, in place.
 
-    Unlike trvptrl, the shift is global and comes after the turns. Where the frame has a zero
-    axis (trvaxe), the points lose that coordinate.
+    Unlike in trvptrl, the shift is in global coordinates and comes after the rotations.
+    Caution: if the frame has a zero axis (trvaxe), the points lose that coordinate.
 
-    Single inputs may be elements of the arrays, P0 to P2 some of the points: they are read
-    before a point is moved.
+    Single inputs may be elements of the arrays, and P0 to P2 may be some of the points: they
+    are read before a point is moved.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -5907,12 +5966,12 @@ def trvppc(
       x0, y0, z0: P0, the origin of the frame
       x1, y1, z1: P1
       x2, y2, z2: P2
-      dx, dy, dz: shift in global coordinates, after the turns
+      dx, dy, dz: shift in global coordinates, after the rotations
       ax, ay, az: angles in radians about the local axes x, y and z, right-handed about x and z,
         left-handed about y
       n: number of points; below 1 only the status is written
       X, Y, Z: arrays of n: coordinates; unchanged unless status is 0
-      tol: largest residual of a point of the plane, itself included: its distance times the
+      tol: largest residual of a point of the plane (inclusive): the point's distance times the
         length of (P1 - P0) x (P2 - P0), in the cube of the length unit
 
     Returns:
@@ -5944,8 +6003,8 @@ def trvplg(
 ) -> TrvplgResult:
     """Plane through a point, spanned by two directions.
 
-    (a, b, c) = u x w, not normalised; all four are zero where u and w are parallel. Far from
-    the origin d loses digits; take a local origin there (trv3tra).
+    (a, b, c) = u x w, not normalised. All four coefficients are zero if u and w are parallel.
+    Caution: far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
@@ -5983,7 +6042,7 @@ def trvpl1(
 ) -> Trvpl1Result:
     """Plane through three points: (a, b, c) = (P1 - P0) x (P2 - P0).
 
-    Far from the origin d loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -5993,7 +6052,7 @@ def trvpl1(
       x2, y2, z2: P2
 
     Returns:
-      a, b, c, d: plane; all zero when status is not 0, and where P0 = P1
+      a, b, c, d: plane; all zero if status is not 0, or if P0 = P1
       status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
         at_p0: P2 is at P0; 2 at_p1: P2 is at P1; 3 between: P2 is between P0 and P1; 4
         beyond_p0: P2 is beyond P0 on the line of P0 and P1; 5 beyond_p1: P2 is beyond P1 on the
@@ -6026,8 +6085,8 @@ def trvpl2(
 ) -> Trvpl2Result:
     """Plane through a point, parallel to two lines.
 
-    (a, b, c) = (B - A) x (D - C). Far from the origin d loses digits; take a local origin there
-    (trv3tra).
+    (a, b, c) = (B - A) x (D - C). Caution: far from the origin d loses digits; use a local
+    origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6039,7 +6098,7 @@ def trvpl2(
       xd, yd, zd: D, on the second line
 
     Returns:
-      a, b, c, d: plane; all zero when status is not 0; its normal is zero, or nearly, where the
+      a, b, c, d: plane; all zero if status is not 0; the normal is zero, or nearly zero, if the
         lines are parallel
       status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
         the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
@@ -6073,7 +6132,7 @@ def trvpl3(
 ) -> Trvpl3Result:
     """Plane that contains one line and is parallel to another: trvpl2 through A.
 
-    Far from the origin d loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6084,7 +6143,7 @@ def trvpl3(
       xd, yd, zd: D, on the second line
 
     Returns:
-      a, b, c, d: plane; all zero when status is not 0; its normal is zero, or nearly, where the
+      a, b, c, d: plane; all zero if status is not 0; the normal is zero, or nearly zero, if the
         lines are parallel
       status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
         the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
@@ -6116,7 +6175,7 @@ def trvpl4(
 ) -> Trvpl4Result:
     """Plane through a point, perpendicular to a segment.
 
-    Far from the origin d loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
@@ -6126,9 +6185,9 @@ def trvpl4(
       xb, yb, zb: B; the normal is B - A
 
     Returns:
-      a, b, c, d: plane; all zero when status is 1
+      a, b, c, d: plane; all zero if status is 1
       status: outcome (TrvCoincidence): 0 distinct: the plane is computed; 1 coincident: A and B
-        coincide, each coordinate within the tolerance (trvcnt)
+        coincide within the tolerance in each coordinate (trvcnt)
     """
     return _trvpl4.cells(x, y, z, xa, ya, za, xb, yb, zb, _NAN, _NAN, _NAN, _NAN, 0)
 
@@ -6160,7 +6219,7 @@ def trvpl5(
       ix, iy, iz: intercepts
 
     Returns:
-      a, b, c, d: plane (1/ix, 1/iy, 1/iz, -1); all zero when status is 1
+      a, b, c, d: plane (1/ix, 1/iy, 1/iz, -1); all zero if status is 1
       status: outcome: 0 done: the plane is computed; 1 no_plane: there is no plane, since an
         intercept is within the tolerance or NaN
     """
@@ -6191,9 +6250,9 @@ def trvpl6(
 ) -> Trvpl6Result:
     """Plane of two lines, each given by a point and a direction.
 
-    The relation of the lines is taken twice, the second time by trvpl2, with the cosine that
-    the first time left (trvpsl). Far from the origin d loses digits; take a local origin there
-    (trv3tra).
+    Caution: the relation of the lines is determined twice: by this routine, then by trvpl2,
+    which starts with the cosine that the first determination retained (trvpsl) and may have
+    another result. Far from the origin d loses digits; use a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6204,12 +6263,13 @@ def trvpl6(
       wx, wy, wz: direction of the second line
 
     Returns:
-      a, b, c, d: plane; its normal is zero, or nearly, for parallel lines; all zero if only the
-        second relation is 3 or 4; unwritten on a condition: the first relation is 3, 4, 6 or 7
+      a, b, c, d: plane; the normal is zero, or nearly zero, if the lines are parallel; all zero
+        if only the second relation is 3 or 4; unwritten on a condition: the first relation is
+        3, 4, 6 or 7
       status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
         the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-        direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance
-        in each component
+        direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are
+        within the tolerance
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -6239,11 +6299,11 @@ def trvpl7(
     x0: float, y0: float, z0: float, x1: float, y1: float, z1: float, x2: float, y2: float,
     z2: float, angle: float
 ) -> Trvpl7Result:
-    """Plane of three points turned about the line from P0 to P1.
+    """Plane of three points, rotated about the line from P0 to P1.
 
-    The normal is a unit vector, formed by adding it to P0 and taking P0 off again, which leaves
-    it the digits that P0 has; at angle 0 it is the third axis of trvaxe. Far from the origin d
-    loses digits; take a local origin there (trv3tra).
+    The normal is a unit vector; at angle 0 it is the third axis of trvaxe. Caution: the normal
+    is computed as (P0 + normal) - P0, so far from the origin the normal and d lose digits; use
+    a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6254,7 +6314,7 @@ def trvpl7(
       angle: angle in radians, right-handed about the direction from P0 to P1
 
     Returns:
-      a, b, c, d: plane; all zero when status is not 0
+      a, b, c, d: plane; all zero if status is not 0
       status: three-point test (TrvThreePoints): 0 spans_plane: P0, P1 and P2 span a plane; 1
         at_p0: P2 is at P0, or P0 and P0 + normal coincide (trvcnt); 2 at_p1: P2 is at P1; 3
         between: P2 is between P0 and P1; 4 beyond_p0: P2 is beyond P0 on the line of P0 and P1;
@@ -6278,7 +6338,7 @@ def trvpsp(
 ) -> TrvOnPlane:
     """Whether a point lies on the plane of three points.
 
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin the result loses digits; use a local origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6287,13 +6347,13 @@ def trvpsp(
       x1, y1, z1: P1
       x2, y2, z2: P2
       x, y, z: point
-      tol: largest residual allowed, itself included: the distance times the length of (P1 - P0)
-        x (P2 - P0), in the cube of the length unit
+      tol: largest residual allowed (inclusive): the point's distance times the length of (P1 -
+        P0) x (P2 - P0), in the cube of the length unit
 
     Returns:
-      status: test (TrvOnPlane): 0 yes: the point lies on the plane, as any point does if P0 =
-        P1; -1 no: the point does not lie on the plane, or the three points span no plane
-        (trvpsl)
+      status: test (TrvOnPlane): 0 yes: the point lies on the plane, or P0 = P1, for which any
+        point does; -1 no: the point does not lie on the plane, or the three points span no
+        plane (trvpsl)
     """
     return _trvpsp.cells(x0, y0, z0, x1, y1, z1, x2, y2, z2, x, y, z, tol, 0)
 
@@ -6310,7 +6370,7 @@ def trvpld(
 ) -> float:
     """Signed distance of a point from a plane.
 
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin the result loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
@@ -6319,8 +6379,8 @@ def trvpld(
       a, b, c, d: plane a*x + b*y + c*z + d = 0
 
     Returns:
-      dist: distance, positive on the side the normal points to; not finite where the normal is
-        zero
+      dist: distance, positive on the side the normal points to; infinite or NaN if the normal
+        is zero
     """
     return _trvpld.cells(x, y, z, a, b, c, d, _NAN)
 
@@ -6338,14 +6398,14 @@ def trvpspg(
 ) -> TrvOnPlane:
     """Whether a point lies on a plane.
 
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin the result loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
     Arguments:
       x, y, z: point
       a, b, c, d: plane a*x + b*y + c*z + d = 0
-      tol: largest distance allowed, itself included
+      tol: largest distance allowed (inclusive)
 
     Returns:
       status: test (TrvOnPlane): 0 yes: the point lies on the plane; -1 no: the point does not
@@ -6380,7 +6440,7 @@ def trvplv(
       status: relation: -1 zero_u: u is exactly zero; 0 oblique: u and w have neither the same,
         opposite nor perpendicular directions; 3 same: the directions are the same; 4 opposite:
         the directions are opposite; 5 perpendicular: the directions are perpendicular; 7 zero:
-        u or w is within the tolerance in each component
+        all components of u, or of w, are within the tolerance
     """
     return _trvplv.cells(ux, uy, uz, wx, wy, wz, v7, v8, 0)
 
@@ -6404,10 +6464,10 @@ def trvpnp(
 ) -> TrvpnpResult:
     """Points of a list on a plane, by a running residual.
 
-    The residual starts at d and is not reset between points: each point adds a*x, b*y and c*z
-    to it, in this order, and is found when it is exactly zero then.
+    Caution: the residual starts at d and is not reset between points. Each point adds a*x, b*y
+    and c*z to it, in this order. The point is found if the residual is then exactly zero.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -6419,8 +6479,8 @@ def trvpnp(
 
     Returns:
       d: constant of the plane; the last residual afterwards; unchanged if n < 1
-      count_: how many are found
-      index_: array of n, count used: their positions, ascending
+      count_: number of points found
+      index_: array of n, count used: positions of these points, ascending
     """
     return _trvpnp.call((X, Y, Z, a, b, c, d, n))
 
@@ -6440,9 +6500,9 @@ def trvdirl(
 ) -> TrvLines:
     """Relation of two lines.
 
-    The same line means that C or D is on the line AB by the three-point test, which runs for C,
-    then for D. Skew means that the triple product of B - A, D - C and C - A is above the
-    tolerance; it is not scaled, so long lines count as skew sooner.
+    The lines are the same if C or D is on the line AB by the three-point test, which is made
+    for C, then for D. The lines are skew if the triple product of B - A, D - C and C - A is
+    above the tolerance. The triple product is not scaled, so long lines count as skew sooner.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6517,8 +6577,8 @@ def trv3ldb(
 ) -> Trv3ldbResult:
     """Distance of a point from a line.
 
-    The vector from Q to A takes A's y coordinate for its z component, so the figure is the
-    distance only where the z of A equals its y.
+    Caution: the vector from Q to A uses A's y coordinate for its z component. So the result is
+    the distance only if the y and z of A are equal.
 
     Retains: nothing.
 
@@ -6529,7 +6589,7 @@ def trv3ldb(
 
     Returns:
       status: outcome (TrvStatus): 0 done: always
-      dist: distance, never negative; the distance from A where A and B coincide (trvcnt)
+      dist: distance, never negative; the distance from A if A and B coincide (trvcnt)
     """
     return _trv3ldb.cells(xa, ya, za, xb, yb, zb, xq, yq, zq, 0, _NAN)
 
@@ -6554,9 +6614,10 @@ def trv3lda(
 ) -> Trv3ldaResult:
     """Signed distance of a point from a line, in the plane of both.
 
-    The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe turns towards +y,
-    else +z, else +x: positive to the right of the way from A to B, seen against that normal.
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    The sign is that of trvlds in the frame of A, B and Q, whose normal trvaxe orients towards
+    +y, else +z, else +x. It is positive to the right of the direction from A to B, as seen from
+    the tip of that normal. Caution: far from the origin the result loses digits; use a local
+    origin (trv3tra).
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6567,8 +6628,8 @@ def trv3lda(
 
     Returns:
       status: outcome (TrvStatus): 0 done: always
-      dist: distance; 0 where Q is on the line or very close to a short one (trvaxe); the
-        distance from A where A and B coincide (trvcnt)
+      dist: distance; 0 if Q is on the line or very close to a short line (trvaxe); the distance
+        from A if A and B coincide (trvcnt)
     """
     return _trv3lda.cells(xa, ya, za, xb, yb, zb, xq, yq, zq, 0, _NAN)
 
@@ -6602,11 +6663,12 @@ def trv3lni(
 ) -> Trv3lniResult:
     """Intersection of the lines A + t*u and C + s*w.
 
-    Works in the frame of A, A + u and C + w, with A as the origin, and leaves A and C in it.
-    Where C + w is on the first line there is no such frame, and the point is A with status 0.
+    The routine works in the frame of A, A + u and C + w, with A as the origin, and returns A
+    and C in this frame. Caution: if C + w is on the first line, there is no such frame, and the
+    result is A with status 0.
 
-    Parallel lines have no point: the caller's xi and yi are read, as local coordinates, and
-    come back in global ones, with status 0.
+    Caution: parallel lines have no intersection. The caller's xi and yi are then read as local
+    coordinates and returned as global ones, with status 0.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6623,8 +6685,8 @@ def trv3lni(
       xc, yc, zc: C; C - A afterwards; unchanged unless status is 0
       status: outcome (TrvTwoLines): 0 done: also for parallel lines; 3 same_line: the lines are
         the same, of the same direction; 4 opposite_line: the lines are the same, of opposite
-        direction; 6 skew: the lines are skew; 7 no_length: a direction is within the tolerance
-        in each component
+        direction; 6 skew: the lines are skew; 7 no_length: all components of a direction are
+        within the tolerance
       xi, yi: x and y of the point; read if the lines are parallel, as local coordinates;
         unchanged unless status is 0
       zi: z of the point; unwritten unless status is 0
@@ -6655,7 +6717,7 @@ def trvpli(
 ) -> TrvpliResult:
     """Intersection of the line P + t*u with a plane.
 
-    Far from the origin the figure loses digits; take a local origin there (trv3tra).
+    Caution: far from the origin the result loses digits; use a local origin (trv3tra).
 
     Retains: nothing.
 
@@ -6667,8 +6729,8 @@ def trvpli(
     Returns:
       xi, yi, zi: point; unwritten if status is 3 or 4
       status: outcome: 0 done: the point is computed; 3 parallel: the line is parallel to the
-        plane, the cosine of u and the normal is within the tolerance; 4 zero: u or the normal
-        is within the tolerance in each component
+        plane, since the cosine of the angle between u and the normal is within the tolerance; 4
+        zero: all components of u, or of the normal, are within the tolerance
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -6685,7 +6747,7 @@ _trvplp = Routine(
 def trvplp(
     a: float, b: float, c: float, d: float
 ) -> TrvplpPosition:
-    """Position of a plane against the axes.
+    """Position of a plane relative to the axes.
 
     A coefficient within the tolerance counts as zero. A plane whose normal is zero is reported
     as 7 or 10.
@@ -6727,15 +6789,16 @@ def trvpnl(
 ) -> TrvpnlResult:
     """Points of a list near a line.
 
-    Distances are those of trv3ldb: the vector to A takes A's y coordinate for its z component.
+    Caution: the distances are those of trv3ldb, which uses A's y coordinate for the z component
+    of the vector to A.
 
-    The function is called in the processor's state as the host has it. It may change that
-    state: the change stays with the host and has no influence on the results. It may call
-    routines of this library. It may leave by longjmp or by a structured exception of Windows:
-    the host then has its own state, status and count are unwritten, and index holds the
-    positions found so far. An exception of C++ must not leave the function.
+    The function is called in the host's own floating-point environment. It may change this
+    environment: the change remains in the host and does not influence the results. The function
+    may call routines of this library. It may be left by longjmp or by a structured exception of
+    Windows: the host then has its own environment, status and count are unwritten, and index
+    holds the positions found so far. A C++ exception must not leave the function.
 
-    Cost: takes time in proportion to n and no memory.
+    Cost: time grows with n; nothing is allocated.
 
     Retains: nothing.
 
@@ -6743,15 +6806,15 @@ def trvpnl(
       xa, ya, za: A
       xb, yb, zb: B
       X, Y: arrays of n: x and y coordinates
-      zf: function that gives the z coordinate of the point at a position; called with 1 to n in
-        this order
+      zf: function that returns the z coordinate of the point at a position; called with 1 to n
+        in this order
       n: number of points
-      tol: largest distance allowed, itself included; a NaN distance is not
+      tol: largest distance allowed (inclusive); a point with a NaN distance is not found
 
     Returns:
       status: outcome (TrvStatus): 0 done: always; unwritten if n < 1
-      count_: how many are found
-      index_: array of n, count used: their positions, ascending
+      count_: number of points found
+      index_: array of n, count used: positions of these points, ascending
 
     What is unwritten is NaN where it is a Real, 0 where it is an Integer.
     """
@@ -6781,8 +6844,9 @@ def trvlpc(
 ) -> TrvlpcResult:
     """Carries a point along when the line through it is moved.
 
-    P and Q1 move by dP and dQ1; Q2 keeps its place on their line in proportion. Only the
-    relation of the lines Q2-P and Q1-P tells whether the three are collinear (trvdirl).
+    P and Q1 move by dP and dQ1. Q2 moves so that the ratio of its distance from P to that of Q1
+    stays the same. Only the relation of the lines Q2-P and Q1-P (trvdirl) decides whether the
+    three points are collinear.
 
     Retains: the cosine of the three-point test (trvpsl).
 
@@ -6797,8 +6861,8 @@ def trvlpc(
       x2, y2, z2: Q2; unchanged if status is 0
       status: outcome: 0 not_moved: the three points are not collinear, or Q1 is at P; 3
         moved_one_side: Q2 is moved, Q1 and Q2 are on one side of P; 4 moved_either_side: Q2 is
-        moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, rounding takes the
-        three points for skew lines; 7 moved_at_p: Q2 is moved, Q2 is at P, or Q1 is by each
-        coordinate yet not by its distance
+        moved, Q1 and Q2 are on either side of P; 6 moved_skew: Q2 is moved, although the lines
+        count as skew because of rounding; 7 moved_at_p: Q2 is moved, Q2 coincides with P, or
+        each coordinate of Q1 is within the tolerance of P's although their distance is above it
     """
     return _trvlpc.cells(xp, yp, zp, x1, y1, z1, dxp, dyp, dzp, dx1, dy1, dz1, x2, y2, z2, 0)
