@@ -49,7 +49,8 @@ std::string refusal_of_dimension(std::string_view name, std::string_view word, c
 std::string read_dimension(const Dimension &dimension, std::string_view word, float &value) {
   const NumberFault fault = read_number(word, value);
   if (fault == NumberFault::beyond_single) {
-    return refusal_of_dimension(dimension.letter, word, " is beyond single precision");
+    return refusal_of_dimension(dimension.letter, word,
+                                " is outside the range of single precision");
   }
   const bool is_allowed = value > 0 || (value == 0 && dimension.least == Least::zero);
   if (fault == NumberFault::none && is_allowed) return "";

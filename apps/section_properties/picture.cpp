@@ -162,7 +162,7 @@ Legend legend(const Figures &f, double left) {
                   "principal axes 1, 2");
   legend.line_key(attribute("stroke", colours::green) + attribute("stroke-width", "1.6") +
                       attribute("stroke-dasharray", dots),
-                  "equal-area axes");
+                  "plastic neutral axes");
   legend.key(centroid_mark(legend.mark(), legend.middle()), "centroid");
   if (f.torsion.shear_centre) {
     legend.key(shear_centre_mark(legend.mark(), legend.middle()), "shear centre");

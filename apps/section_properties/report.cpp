@@ -124,10 +124,11 @@ std::vector<Row> further_rows(const Figures &f) {
   rows.add("Polar moment, centroid", 4, polar, Kind::sum, {{"Ip", polar}});
   rows.add("Fibres: top, bottom, right, left", 1, length, Kind::difference,
            {{"ey1", e.top}, {"ey2", e.bottom}, {"ex1", e.right}, {"ex2", e.left}});
-  rows.add("Elastic moduli of the fibres", 3, modulus, Kind::sum,
+  rows.add("Elastic section moduli", 3, modulus, Kind::sum,
            {{"Wx1", w.top}, {"Wx2", w.bottom}, {"Wy1", w.right}, {"Wy2", w.left}});
-  rows.add("Plastic moduli", 3, modulus, Kind::sum, {{"Wpx", f.plastic.wx}, {"Wpy", f.plastic.wy}});
-  rows.add("Equal-area axes", 1, length, Kind::difference,
+  rows.add("Plastic section moduli", 3, modulus, Kind::sum,
+           {{"Wpx", f.plastic.wx}, {"Wpy", f.plastic.wy}});
+  rows.add("Plastic neutral axes", 1, length, Kind::difference,
            {{"xp", f.plastic.x}, {"yp", f.plastic.y}});
   if (t.shear_centre) {
     rows.add("Shear centre", 1, length, Kind::difference,

@@ -8,8 +8,8 @@ const MAIN = [
   ["Area", "A"],
   ["Second moments, centroid", "Ix"],
   ["Second moments, centroid", "Iy"],
-  ["Elastic moduli", "Wx1"],
-  ["Plastic moduli", "Wpx"],
+  ["Elastic section moduli", "Wx1"],
+  ["Plastic section moduli", "Wpx"],
   ["Torsion constant", "It"],
 ];
 
