@@ -22,7 +22,7 @@ std::string_view trimmed(std::string_view text) {
 // A profile, its dimensions, and one more to see that there are too many.
 using Words = List<std::string_view, most_dimensions + 2>;
 
-// What separates the words: the first mark or blank behind the profile's name.
+// The separator of the words: a mark after the profile's name and any blanks, else blanks.
 char separator_of(std::string_view line) {
   std::size_t i = 0;
   const auto is_mark = [&] { return line[i] == ',' || line[i] == ';'; };

@@ -18,10 +18,10 @@ struct Point {
 struct Torsion {
   std::optional<double> it, iw;  // torsion and warping constant
   std::optional<Point> shear_centre;
-  std::string note;  // for people: where the figures come from
+  std::string note;  // for people: how the results are computed
 };
 
-// From the centroid to the outermost points, or the elastic moduli there.
+// Distances of the extreme fibres from the centroid, or the elastic section moduli there.
 struct Fibres {
   double top, bottom, right, left;
 };

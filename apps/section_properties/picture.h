@@ -16,8 +16,8 @@ struct Subject {
   Measures measures;
 };
 
-// The outline to scale with its measures, the axes of the origin, the principal and the equal-area
-// axes, centroid and shear centre, and a legend of the main figures.
+// The outline to scale with its measures, the axes of the origin, the principal axes and the plastic
+// neutral axes, centroid and shear centre, and a legend of the main results.
 std::string picture(const Subject &subject);
 
 }  // namespace host

@@ -1,4 +1,4 @@
-// Equal-area axes and plastic moduli of an outline.
+// Plastic neutral axes (equal-area axes) and plastic section moduli of an outline.
 #pragma once
 
 #include "outline.h"
@@ -6,12 +6,12 @@
 namespace host {
 
 struct Plastic {
-  double wx, wy;  // about the horizontal and the vertical equal-area axis
-  double x, y;    // where these are: the vertical one at x, the horizontal one at y
+  double wx, wy;  // section moduli about the horizontal and the vertical axis
+  double x, y;    // positions of the axes: the vertical one at x, the horizontal one at y
 };
 
-// Exact but for double precision, quarter circles included. An axis that may lie anywhere in a gap
-// between the halves lies in its middle.
+// Exact except for rounding in double precision, also for quarter circles. If an axis may lie anywhere
+// in a gap between the halves, it is placed in the middle of the gap.
 Plastic plastic_of(const Outline &outline);
 
 }  // namespace host

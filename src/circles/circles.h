@@ -52,7 +52,7 @@ struct Centres {
 
 std::optional<Centres> centres_of_radius(Point2 p1, Point2 p2, Integer side, Real radius);
 
-// Of the arc that rises by `sagitta` above the middle of its chord.
+// Radius of the arc that rises by `sagitta` above the middle of its chord.
 Real radius_of_sagitta(Real chord, Real sagitta);
 
 }  // namespace trelvin

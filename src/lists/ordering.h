@@ -24,7 +24,7 @@ struct Entries {
 };
 
 // Positions, from 1, of the entries in ascending order, equal ones from the highest position down. A
-// found entry counts as the largest plus 1 from then on; one that does not compare finds none.
+// found entry counts as the largest plus 1 from then on. A round whose entry is NaN writes no position.
 void order(Entries list, Integer n, Integer *positions);
 
 struct LineArrays {

@@ -42,7 +42,7 @@ inline Line parallel_at(const Line &line, Real d) {
   return {line.a, line.b, line.c - square_root(line.a * line.a + line.b * line.b) * d};
 }
 
-// Of the angle at `vertex` between the rays to p and q.
+// Bisector of the angle at `vertex` between the rays to p and q.
 inline Line bisector(Point2 vertex, Point2 p, Point2 q) {
   const Vector2 u = p - vertex;
   const Vector2 v = q - vertex;

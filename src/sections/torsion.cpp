@@ -53,7 +53,7 @@ class Sectorial {
   }
 
  private:
-  // Of the earlier end where plate k starts; most plates start at their neighbour in the list.
+  // The value at the earlier end where plate k starts; most plates start at their neighbour in the list.
   [[nodiscard]] double at_joint(Integer k) const {
     const Plate p = plates_[k];
     for (Integer i = k - 1; i >= 0; --i) {

@@ -34,8 +34,8 @@ inline bool span_space(Vector3 u, Vector3 v, Vector3 w) {
   return significant(determinant(u, v, w));
 }
 
-// The distance of trv3ldb. It is taken from start - q, which has start.y in place of start.z and keeps
-// it, so it is the distance of the point only if the two are equal.
+// The distance of trv3ldb. It uses start.y in place of start.z, which must stay so. It is therefore the
+// distance of the point only if the two are equal.
 inline Real distance_by_start_y(const SpaceLine &line, Point3 q) {
   const Vector3 u = line.along();
   if (negligible(u)) return distance(line.start, q);

@@ -121,7 +121,8 @@ TEST(Chords, Refusals) {
 }
 
 TEST(Chords, ArcComesBackRounded) {
-  // The speck is lost in any shift; the way back is by A as it was given, unless the line touches.
+  // The tiny coordinate 1e-12 is lost when the arc is moved. On return A is restored from the input,
+  // except if the line is tangent.
   const Arc given = {4, 3, 1e-12F, 0, 8, 0};
   Arc arc = given;
   construct(trvcer5, arc, 1.0F, -1, 0.5F);

@@ -36,7 +36,7 @@ void call_beforehand(const Routine &routine, const Arguments &drawn) {
   routine.call(random_calls::addresses_of(arguments));
 }
 
-// What is carried from call to call takes a row of others.
+// Routines that keep state between calls need a series of other calls to reach the same state again.
 void call_others(const Routine &routine, const Arguments & /*drawn*/) {
   constexpr int enough = 20;
   random_calls::draw(routine, enough, [&](Arguments &arguments) {

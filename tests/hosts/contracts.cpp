@@ -202,7 +202,7 @@ class Stranger {
   }
 
  private:
-  // Of trvcer10: the crossing, at B, is retained, and the cosine of the test there stays.
+  // trvcer10 retains the crossing, at B, and the cosine of the test there.
   static void set_apart(Arguments &arguments) {
     constexpr float quarter_turn[] = {0, 0, 1, 0, 0, 1, 1.5707964F, 1.5707964F};
     for (std::size_t i = 0; i < std::size(quarter_turn); ++i) {

@@ -98,7 +98,7 @@ struct Routine {
   Shape shape;
   std::uint64_t seed;
 
-  // Of each argument; empty where the contract states none.
+  // By argument; empty if the contract states none.
   std::vector<Size (*)(Arguments &)> sizes;
   std::vector<Used (*)(Arguments &)> used;
   std::vector<Kept> kept;

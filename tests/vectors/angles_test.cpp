@@ -93,7 +93,7 @@ TEST(Angles, DirectedAnglesAreAccurateAllAround) {
     EXPECT_NEAR(directed(1, -small)[0], 2 * pi - std::atan2(down, 1), 5e-7);
   }
   EXPECT_LT(outputs(trvchi, 0, 0, 0, 1, 0, 0, 1, -1e-12, 0)[0], 2 * pi);
-  // Of 57 bits in each product the last ones are the cross product: 1 - h, of rays some 2.4e7 long.
+  // The products have 57 bits each; the last ones are the cross product: 1 - h, of rays some 2.4e7 long.
   const double a = 16777214, h = 0x1.5p-5, dot = (a - h) * (a + 1 - h) + (a - 1) * a;
   EXPECT_NEAR(outputs(trvchi, h, 0, 0, a, a - 1, 0, a + 1, a, 0)[0] * dot, 1 - h, 6e-8);
   EXPECT_NEAR(outputs(trvchi, 0, 0, 0, 0, 1, 0, 1, 0, 0)[0], 1.5 * pi, 1e-6);

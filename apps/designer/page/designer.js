@@ -3,7 +3,7 @@
 
 const FIRST = "rolled";
 
-// Of the figures, by heading and symbol, those that stand under the picture.
+// The results that are shown under the picture, by heading and symbol.
 const MAIN = [
   ["Area", "A"],
   ["Second moments, centroid", "Ix"],
@@ -25,7 +25,7 @@ const CROPPED = window.matchMedia("(max-width: 1100px)"); // as designer.css
 
 let engine;
 let profile; // the chosen one
-let section; // the last that fitted together, of that profile
+let section; // the last valid one of that profile
 const typed = {}; // the words in the fields, by profile
 
 // Fields -----------------------------------------------------------------------------------------
@@ -159,7 +159,7 @@ const showText = () => {
   element("text").textContent = TAKEN[element("format").value]();
 };
 
-// Screen readers are told once the hand rests.
+// Announced to screen readers when input pauses.
 let telling;
 function tell(message) {
   clearTimeout(telling);
