@@ -66,7 +66,7 @@ class Line {
     end_ += columns;
   }
 
-  // In quotation marks where the text needs them.
+  // In quotation marks if the text needs them.
   void text(std::string_view text) {
     flush();
     csv_ += ',';

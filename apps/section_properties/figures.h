@@ -35,7 +35,7 @@ struct Figures {
   std::string_view origin;  // where it is
 };
 
-// Fibres, moduli and plastic figures of the outline, beside the properties.
+// The properties, and the fibres, section moduli and plastic results of the outline.
 Figures figures_of(const Properties &properties, const Outline &outline);
 
 // The figures by name, in the order in which programs get them: about the origin, about the

@@ -45,7 +45,7 @@ std::string refusal_of_dimension(std::string_view name, std::string_view word, c
   return std::string(name) + " = " + std::string(word) + fault;
 }
 
-// What is wrong with a dimension, nothing where it was read.
+// The error in a dimension, or nothing if it was read.
 std::string read_dimension(const Dimension &dimension, std::string_view word, float &value) {
   const NumberFault fault = read_number(word, value);
   if (fault == NumberFault::beyond_single) {

@@ -8,7 +8,7 @@
 
 namespace host {
 
-// A section with what is told of it.
+// A section with its description and results.
 struct Subject {
   std::string name, description, dimensions;
   Figures figures;

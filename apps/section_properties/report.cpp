@@ -22,12 +22,12 @@ std::string right_aligned(const std::string &text, std::size_t width) {
   return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
-// What a figure can lose to its section's size: a difference of figures of that size is rounding where
-// it is small, and shows as zero; a sum of what has one sign keeps digits of its own.
+// A difference of numbers of the section's size is a rounding error if it is small; it is shown as zero.
+// A sum of terms of one sign has accurate digits of its own, however small it is.
 enum class Kind { difference, sum };
 
-// With the decimals that suit a figure of the given size. Sizes that no section in mm has would fill
-// the line with zeros.
+// With as many decimals as suit a number of the given size. Sizes that no real section in mm has would
+// fill the line with zeros.
 std::string figure(double value, double size, Kind kind) {
   constexpr int fewest = 5;
   int decimals = decimals_for(size, digits);

@@ -46,8 +46,8 @@ void add_fillet(Section &section, float x, float y, float r, bool is_fourfold) {
 
 }  // namespace
 
-// The library closes a polygon by writing behind its last vertex, where in the list the next
-// polygon starts. So each one moves into arrays of its own.
+// The library closes a polygon by writing after its last vertex. In the list the next polygon starts
+// there, so each polygon is copied into its own arrays.
 Section section_of(const ListOfPolygons &f) {
   Section section;
   const float *x = f.x.data();

@@ -28,7 +28,7 @@ ThinSection thin_section(const std::vector<Plate> &plates) {
 
 namespace {
 
-// The words of a line, as numbers. False where one is none.
+// Reads the words of a line as numbers. False if a word is not a number.
 bool read_numbers(std::string_view line, std::vector<float> &values) {
   constexpr std::string_view blanks = " \t\r\f\v";
   values.clear();

@@ -21,11 +21,11 @@ struct LastArcPoint {
   Point2 value = {};
 };
 
-// Where the line through the station s at an angle to the chord meets the circle across the chord
-// from the centre. Nothing where there is no arc, or the line touches the circle.
+// Intersection of the circle and the line through the station s at an angle to the chord, on the side of
+// the chord away from the centre. Nothing if there is no arc, or the line is tangent to the circle.
 std::optional<ChordPoint> across_station(const Arc &arc, Real s, Real angle, LastArcPoint &last);
 
-// The crossing that was found last, in its chord's frame; parallels take it again.
+// The crossing that was found last, in its chord's frame; a line parallel to the chord uses it again.
 struct LastChordCrossing {
   Point2 value = {};
 };

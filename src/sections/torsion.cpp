@@ -31,7 +31,7 @@ class WideArray {
   Real *first_, *second_;
 };
 
-// Sectorial coordinates about the start of the first plate, zero there. They stay exact where
+// Sectorial coordinates about the start of the first plate, zero there. They stay exact if
 // plates meet in that point.
 class Sectorial {
  public:

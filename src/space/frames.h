@@ -12,7 +12,7 @@ namespace trelvin {
 struct Frame {
   Vector3 e1, e2, e3;
 
-  // Local coordinates of what lies that far from the frame's origin, and the way back.
+  // Local coordinates of an offset from the frame's origin, and the inverse.
   [[nodiscard]] Point3 local(Vector3 offset) const {
     return {dot(e1, offset), dot(e2, offset), dot(e3, offset)};
   }
@@ -22,7 +22,7 @@ struct Frame {
   }
 };
 
-// Zero where it is too short.
+// Unit vector, or zero if the axis is too short.
 inline Vector3 normalised(Vector3 axis) {
   const Real size = length(axis);
   return size >= tolerance ? axis / size : Vector3{};

@@ -43,8 +43,8 @@ inline Real distance_by_start_y(const SpaceLine &line, Point3 q) {
   return length(cross(v, u)) / length(u);
 }
 
-// Whether that distance is within the limit. Never inline: none of it is computed where the host's
-// control may stand.
+// Whether distance_by_start_y is within the limit. Never inline: nothing of it must be computed while
+// the host's floating-point control may be set.
 bool is_near(const SpaceLine &line, Point3 q, Real limit);
 
 // Positions, from 1, of the points near a line; their third coordinates come from a function of the
@@ -68,7 +68,7 @@ struct CarriedPoint {
   Point3 point;
 };
 
-// Moves P and q1 and keeps the place of q2 on their line; nothing where the three are not on one
+// Moves P and q1 and keeps the place of q2 on their line; nothing if the three are not on one
 // line, or q1 is at P.
 std::optional<CarriedPoint> carry_along(Point3 p, Point3 q1, Point3 q2, Vector3 move_of_p,
                                         Vector3 move_of_q1, LastCosine &last);

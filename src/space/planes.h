@@ -15,7 +15,7 @@ struct Plane {
   [[nodiscard]] Vector3 normal() const { return {a, b, c}; }
 };
 
-// Through p along u and w; all zeros where these are parallel.
+// Plane through p along u and w; all zeros if these are parallel.
 inline Plane plane_along(Point3 p, Vector3 u, Vector3 w) {
   const Real yz = determinant(u.y, u.z, w.y, w.z);
   const Real xz = determinant(u.x, u.z, w.x, w.z);

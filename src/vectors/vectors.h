@@ -67,7 +67,7 @@ inline Point3 midpoint(Point3 p, Point3 q) {
   return {(p.x + q.x) * 0.5F, (p.y + q.y) * 0.5F, (p.z + q.z) * 0.5F};
 }
 
-// P + t*(Q - P), nothing where the points coincide.
+// P + t*(Q - P), nothing if the points coincide.
 inline std::optional<Point3> point_along(Point3 p, Point3 q, Real t) {
   const Vector3 v = q - p;
   if (negligible(v)) return std::nullopt;

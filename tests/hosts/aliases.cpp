@@ -58,7 +58,7 @@ bool agrees(const Routine &routine, const Arguments &drawn, std::size_t in, std:
   return hash_of(apart, in) == hash_of(together, in);
 }
 
-// How many of the pairs of a routine differ, each told.
+// Prints the pairs of a routine that differ and returns their number.
 int differences(const Routine &routine, int &pairs) {
   const Arguments &arguments = routine.arguments;
   int differing = 0;

@@ -116,9 +116,9 @@ void draw(const Routine &routine, int calls, const std::function<void(Arguments 
           bool sparing = false);
 
 // Draws pairs of neighbours: sets of arguments that differ by one unit in the last place of some Reals,
-// on either side of a place where results change much. Such a place is found on the way from one set to
-// another: the way is halved again and again, and the half over which results change more is kept. So a
-// pair lies on either side of a limit, wherever that is. The calls on the way are made as well.
+// on either side of a place where results change much. Such a place is found by bisection between two
+// sets: of each two halves the one over which results change more is kept. So a pair lies on either side
+// of a limit, wherever that is. The calls of the bisection are made as well.
 void draw_near_limits(const Routine &routine, int pairs,
                       const std::function<void(Arguments &)> &visit);
 

@@ -324,7 +324,7 @@ test("every control has a name, and what changes is told", async () => {
     ["textbox", "TW", "#dimension-TW"],
     ["slider", "TW, slider", "#slider-TW"],
     ["region", "Section", "#result"],
-    ["region", "Figures", ":has(> #figures)"],
+    ["region", "Results", ":has(> #figures)"],
     ["region", "Export", ":has(> #text)"],
     ["img", "", "#picture > svg"],
     ["rowheader", "Area", "#rows tr:first-child > th"],

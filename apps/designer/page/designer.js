@@ -36,7 +36,7 @@ const slider = name => element(`slider-${name}`);
 const numberIn = word => Number(word.replace(",", "."));
 
 // A slider reaches from nothing to well beyond the value that its profile starts with, or beyond a
-// larger one that is typed. It does not move under the hand that drags it.
+// larger one that is typed. It does not change while it is dragged.
 function setReach(name, value) {
   const start = numberIn(profile.start[profile.dimensions.indexOf(name)]);
   const reach = 2.5 * (value > 2.5 * start ? value : start);
@@ -109,8 +109,8 @@ function makeFields(words) {
 
 // Results ----------------------------------------------------------------------------------------
 
-// A message that opens with a dimension is that one's; any other stands where the change was, and
-// without a change at the first dimension that it names.
+// A message that starts with a dimension is shown next to it. Any other message is shown next to the
+// changed dimension; if none was changed, next to the first dimension that the message names.
 function showRefusal(message, changed) {
   const names = profile.dimensions;
   const owner =
@@ -223,7 +223,7 @@ function choose(chosen, words) {
   makeFields(words);
   update();
   if (section?.profile === profile.name) return;
-  // What does not fit together stands beside the profile as it starts.
+  // The message is shown next to invalid dimensions; the drawing shows the profile's start values.
   show(engine.design(profile.name, profile.start));
 }
 
