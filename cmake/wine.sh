@@ -19,7 +19,7 @@ case $1 in
 esac
 shift
 mkdir -p "$WINEPREFIX"
-# The server stays for the next programs, and keeps no pipe of this one open. Refused where one runs.
+# The server stays for the next programs, and keeps no pipe of this one open. Fails if one is running.
 wineserver -p60 </dev/null >/dev/null 2>&1 || true
 if [ $# -gt 0 ]; then exec "$loader" "$@"; fi
 "$loader" wineboot --init </dev/null >"$WINEPREFIX.log" 2>&1 || {

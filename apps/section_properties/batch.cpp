@@ -54,7 +54,7 @@ class Line {
 
   void number(std::size_t value) { end_ = std::to_chars(end_, limit(), value).ptr; }
 
-  // The shortest digits that give the figure back in single precision.
+  // The fewest digits that identify the number in single precision.
   void figure(double value) {
     *end_++ = ',';
     const float zero_has_no_sign = static_cast<float>(value) + 0.0F;

@@ -6,7 +6,7 @@
 
 namespace host {
 
-// Which figures a line has: to the principal moments and radii, or all.
+// Which results a row has: up to the principal moments and radii, or all.
 enum class Extent { properties, all };
 
 // The names of the columns.

@@ -65,7 +65,7 @@ std::string usage() {
       "with\n"
       "a decimal point or a decimal comma.\n"
       "\n"
-      "  --json           print the figures as JSON, in mm and radians\n"
+      "  --json           print the results as JSON, in mm and radians\n"
       "  --svg FILE       draw the section into FILE\n"
       "  PROFILE --help   print the profile's dimensions, an example and a text drawing\n"
       "  -h, --help       print this text\n"

@@ -1,4 +1,4 @@
-// All figures of a section that this program gives.
+// All results of a section that this program gives.
 #pragma once
 
 #include <array>
@@ -38,7 +38,7 @@ struct Figures {
 // The properties, and the fibres, section moduli and plastic results of the outline.
 Figures figures_of(const Properties &properties, const Outline &outline);
 
-// The figures by name, in the order in which programs get them: about the origin, about the
+// The results by name, in the order of JSON and batch: about the origin, about the
 // centroid, and of the principal axes.
 constexpr std::array<std::string_view, 16> names_of_properties = {
     "area", "xs", "ys",  "Sx", "Sy", "Ix",    "Iy", "Ixy",

@@ -72,7 +72,7 @@ struct Properties {
 // The library closes the polygons of the section.
 Properties properties_of(Section &section);
 
-// Whether all figures are within what single precision can hold.
+// Whether all results are in the range of single precision.
 bool are_representable(const Properties &p);
 
 }  // namespace host

@@ -112,7 +112,7 @@ std::string shear_centre_mark(double x, double y) {
       line(x - half, y - half, x + half, y + half) + line(x - half, y + half, x + half, y - half));
 }
 
-// Rows of figures, and then of what the lines and marks mean.
+// Rows of results, then of the meanings of lines and marks.
 class Legend {
  public:
   explicit Legend(double left) : left_(left) {}

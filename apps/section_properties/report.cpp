@@ -75,7 +75,7 @@ std::string text_of(const std::vector<Row> &rows) {
   return text;
 }
 
-// What the figures of a section are measured by.
+// The sizes of a section that decide how many decimals its results have.
 double length_of(const Properties &p) { return std::max(p.rx, p.ry); }
 double second_moment_of(const Properties &p) { return std::max(p.origin.x, p.origin.y); }
 

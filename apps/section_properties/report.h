@@ -1,4 +1,4 @@
-// A section's figures for people and for programs to read.
+// A section's results, for people and for programs to read.
 #pragma once
 
 #include <string>

@@ -8,7 +8,7 @@
 
 namespace trelvin {
 
-// The line through two points, and the sense from the first to the second.
+// The line through two points, directed from the first to the second.
 struct SpaceLine {
   Point3 start, end;
   [[nodiscard]] Vector3 along() const { return end - start; }

@@ -30,7 +30,7 @@ std::uint64_t hash_of(const Arguments &arguments, std::size_t shared) {
 
 using Settle = void (*)(const Routine &routine, const Arguments &drawn);
 
-// The same call beforehand brings what most routines retain to where both calls find it.
+// The same call beforehand gives both calls the same retained values, for most routines.
 void call_beforehand(const Routine &routine, const Arguments &drawn) {
   Arguments arguments = drawn;
   routine.call(random_calls::addresses_of(arguments));

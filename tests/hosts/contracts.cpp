@@ -386,7 +386,7 @@ class Outputs {
         tell(routine_, routine_.names[i] + ": is left unwritten where its contract writes it");
       }
       (untouched ? seen_[i].kept : seen_[i].written) = true;
-      // A count used that is a number stands for the size, which callers are to provide all the same.
+      // A count used that is a number counts as the size, which callers must provide nevertheless.
       const bool last = k + 1 == (always_used_[i] > 0 ? always_used_[i] : size);
       if (!untouched && last && !argument.single) seen_[i].needed.insert(sizes_[i].form);
     }

@@ -82,7 +82,7 @@ struct Size {
   std::size_t form;
 };
 
-// How many elements a call has written, and up to which one it may have done so besides.
+// How many elements a call has written, and up to which element it may also have written.
 struct Used {
   std::size_t elements;
   std::size_t scratch;

@@ -5,7 +5,7 @@
 using namespace trelvin_test;
 
 TEST(Angles, BetweenTwoRays) {
-  for (const double y : {2, 0})  // the sense is not told
+  for (const double y : {2, 0})  // either direction gives the same
     expect_near(outputs(trvphi, 1, 1, 3, 1, 0, y), {0.75 * pi}, 1e-7);
   expect_near(outputs(trvphi3, 1, 1, 1, 2, 2, 1, 1, 3, 3), {pi / 3}, 1e-7);
   expect_near(outputs(trvphi1, 1, 2, 2, 2, -1, 2), {std::acos(4.0 / 9)}, 1e-7);
