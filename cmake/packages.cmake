@@ -7,7 +7,7 @@ if(WIN32)
             PATTERN *.bas PATTERN *.c PATTERN *.cpp PATTERN *.cs PATTERN *.f90 PATTERN *.F90
             PATTERN *.json PATTERN *.mjs PATTERN *.pas PATTERN *.txt
             PATTERN python EXCLUDE PATTERN CMakeLists.txt EXCLUDE)
-    install(DIRECTORY out/manual DESTINATION . OPTIONAL)  # where it was built
+    install(DIRECTORY out/manual DESTINATION . OPTIONAL)  # if it was built
     install(FILES CHANGELOG.md DESTINATION .)
   endif()
   return()

@@ -54,7 +54,7 @@ add_custom_command(
           --input-def ${CMAKE_CURRENT_BINARY_DIR}/import.def
           --output-lib $<TARGET_LINKER_FILE_NAME:trelvin>)
 
-# The same for Microsoft's linker, where LLVM's tool is there to make it.
+# The same for Microsoft's linker, if LLVM's tool to make it is installed.
 find_program(TRELVIN_LLVM_DLLTOOL llvm-dlltool)
 if(TRELVIN_LLVM_DLLTOOL)
   set(machine $<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,i386:x86-64,i386>)

@@ -1,5 +1,5 @@
-// Gives the library's memory back to every test as it was when the library was loaded, so that what a
-// routine retains starts at zero in each of them.
+// Restores the library's memory before every test to its state at load, so that the values that routines
+// retain are zero at the start of each test.
 #include <gtest/gtest.h>
 
 #include <cstddef>

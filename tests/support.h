@@ -47,7 +47,7 @@ Values outputs(void(TRELVIN_CALL *routine)(Arguments...), Inputs... inputs) {
   return written;
 }
 
-// Allows an error relative to the expected value, or to 1 where that is more.
+// Allows an error relative to the expected value, or to 1 if that is more.
 inline void expect_near(const Values &got, const Values &expected, double allowed) {
   ASSERT_EQ(got.size(), expected.size());
   for (std::size_t i = 0; i < got.size(); ++i)

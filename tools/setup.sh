@@ -3,8 +3,8 @@
 #
 #     tools/setup.sh [--demo] [--allow-downgrades] [PACKAGE...]
 #
-# --demo: only what ./dev demo needs. --allow-downgrades: 64-bit libraries may go back to the
-# version of their 32-bit twins, also outside a container.
+# --demo: only what ./dev demo needs. --allow-downgrades: 64-bit libraries may be downgraded to the
+# version of their 32-bit counterparts, also outside a container.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -81,9 +81,9 @@ in_container() {
   fi
 }
 
-# apt-get installs a 64-bit library and its 32-bit twin in one version only. The twins get the version
-# that is on offer for 32 bits, and so does what is of the same source, which asks for the same version;
-# all other packages keep their newest, security updates included.
+# apt-get installs a library for 64 and for 32 bits only in the same version. Such libraries, and all
+# packages of the same source, are pinned to the version that is available for 32 bits. All other
+# packages keep their newest version, security updates included.
 pin_twins() {
   apt-cache depends --recurse --no-recommends --no-suggests --no-conflicts --no-breaks \
     --no-replaces --no-enhances wine32:i386 | grep ':i386$' | sort -u \
@@ -100,7 +100,7 @@ pin_twins() {
     }' >"$pins"
 }
 
-# Of a simulation, what would be taken back.
+# The packages that a simulation would downgrade.
 taken_back() { awk '/^[^ ]/ { on = /DOWNGRADED:$/; next } on' "$log" | xargs -n 1; }
 
 pinned_by=() # options of apt-get, if there were pins to make
@@ -116,16 +116,16 @@ install_with_twins() { # PACKAGE...
   local package
   pinned_by=(-o "Dir::Etc::Preferences=$pins" --no-remove)
   local pinned=("${pinned_by[@]}" --allow-downgrades install "$@")
-  echo "setup: the newest 32- and 64-bit versions do not fit together; apt-get would do this instead:"
+  echo "setup: the newest 32-bit and 64-bit versions do not match; apt-get would do this instead:"
   pin_twins
   apt_get -s "${pinned[@]}" || fail "apt-get could not install: $*"
   grep -vE '^(Inst|Conf) ' "$log"
   for package in $(taken_back); do
     is_pinned "$package" \
-      || fail "nothing was changed: $package would be taken back, which has no 32-bit twin here"
+      || fail "nothing was changed: $package would be downgraded, which has no 32-bit counterpart"
   done
   if [ -n "$(taken_back)" ] && [ $may_downgrade = no ] && ! in_container; then
-    echo "setup: nothing was changed. If this machine may take these packages back, run" >&2
+    echo "setup: nothing was changed. If these packages may be downgraded, run" >&2
     echo "setup:   tools/setup.sh${options:+ $options} --allow-downgrades" >&2
     echo "setup: otherwise work in a container, or wait for the 32-bit updates." >&2
     exit 1
@@ -139,7 +139,7 @@ install() { # PACKAGE...
   install_with_twins "$@"
 }
 
-# A 64-bit Wine runs from any folder, also where it and the 32-bit one are refused together.
+# A 64-bit Wine runs from any folder, even if apt-get cannot install it together with the 32-bit one.
 unpack_wine64() {
   local folder
   folder=$(mktemp -d)
@@ -176,7 +176,7 @@ if [ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ]; then
   fi
   # The 32-bit Windows host programs run under a 32-bit Wine.
   [[ " $(dpkg --print-foreign-architectures) " == *i386* ]] || "${as_root[@]}" dpkg --add-architecture i386
-  # One stale index does not matter if the packages can be had all the same; the installation will tell.
+  # A failed update is not fatal: if packages are really missing, the installation below reports it.
   apt_get update || {
     echo "setup: package lists partly out of date:" >&2
     grep '^E:' "$log" >&2 || true
@@ -187,11 +187,11 @@ if [ $((${#missing[@]} + ${#missing64[@]})) -gt 0 ]; then
   echo "setup: done"
 fi
 
-# --- what is no package of Debian's -------------------------------------------------------------
+# --- not packaged by Debian --------------------------------------------------------------------
 
 [ $demo = no ] || exit 0
 mkdir -p build
-# Packages of Node.js, by their hashes. Force, since one is Node.js for another machine.
+# Packages of Node.js, checked by their hashes. --force, since one is Node.js for another platform.
 if ! cmp -s tests/web/package-lock.json build/npm/package-lock.json; then
   echo "setup: fetching packages of Node.js into build/npm"
   rm -rf build/npm build/npm.new

@@ -22,7 +22,7 @@ std::string_view trimmed(std::string_view text) {
 // A profile, its dimensions, and one more to see that there are too many.
 using Words = List<std::string_view, most_dimensions + 2>;
 
-// What separates the words: the first mark or blank behind the profile's name.
+// The separator of the words: a mark after the profile's name and any blanks, else blanks.
 char separator_of(std::string_view line) {
   std::size_t i = 0;
   const auto is_mark = [&] { return line[i] == ',' || line[i] == ';'; };
@@ -54,7 +54,7 @@ class Line {
 
   void number(std::size_t value) { end_ = std::to_chars(end_, limit(), value).ptr; }
 
-  // The shortest digits that give the figure back in single precision.
+  // The fewest digits that identify the number in single precision.
   void figure(double value) {
     *end_++ = ',';
     const float zero_has_no_sign = static_cast<float>(value) + 0.0F;
@@ -66,7 +66,7 @@ class Line {
     end_ += columns;
   }
 
-  // In quotation marks where the text needs them.
+  // In quotation marks if the text needs them.
   void text(std::string_view text) {
     flush();
     csv_ += ',';

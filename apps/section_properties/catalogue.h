@@ -122,9 +122,9 @@ struct FilletedI {
   [[nodiscard]] constexpr const char *fault() const {
     if (T1 + T2 + S1 + S2 >= H) return "flanges and fillets leave no room for a web in H";
     if (2 * E + TW + 2 * S1 > B1)
-      return "web TW with its fillets S1, E off the middle, is off flange 1";
+      return "web TW with its fillets S1, shifted by E, extends beyond flange 1";
     if (2 * E + TW + 2 * S2 > B2)
-      return "web TW with its fillets S2, E off the middle, is off flange 2";
+      return "web TW with its fillets S2, shifted by E, extends beyond flange 2";
     return nullptr;
   }
   [[nodiscard]] Section section() const {
@@ -208,7 +208,7 @@ struct FlatBar {
 
 struct Channel {
   static constexpr Description about{"c",
-                                     "channel with lips C and folds D, or without",
+                                     "channel, plain or with lips C and folds D",
                                      "trvsec_c",
                                      {{"H", 200},
                                       {"B1", 80},
@@ -393,7 +393,8 @@ struct BoxGirder {
 
   [[nodiscard]] constexpr const char *fault() const {
     if (TT + TB >= H) return "flanges TT and TB leave no room for webs in H";
-    if (G + 2 * TW > std::min(BT, BB)) return "webs G + 2 TW stand wider than a flange";
+    if (G + 2 * TW > std::min(BT, BB))
+      return "webs: G + 2 TW is greater than the width of a flange";
     return nullptr;
   }
   [[nodiscard]] Section section() const {
@@ -452,7 +453,7 @@ struct HollowSection {
 
 struct Angle {
   static constexpr Description about{
-      "l",          "angle with sharp toes and a root fillet, or without",
+      "l",          "angle with sharp toes, with or without a root fillet",
       by_its_parts, {{"B", 100}, {"H", 100}, {"T", 10}, {"R", 12, may_be_zero}},
       no_figure,
       R"(
@@ -467,7 +468,7 @@ struct Angle {
   float B, H, T, R;
 
   [[nodiscard]] constexpr const char *fault() const {
-    if (T >= std::min(B, H)) return "legs are as thick as one of them is long, T";
+    if (T >= std::min(B, H)) return "leg thickness T must be smaller than both leg lengths";
     if (T + R > std::min(B, H)) return "fillet R does not fit between the legs";
     return nullptr;
   }
@@ -504,8 +505,12 @@ struct TwoAngles {
   float B, H, G, T, TV;
 
   [[nodiscard]] constexpr const char *fault() const {
-    if (TV >= B) return "vertical leg TV is as thick as the horizontal one is long, B";
-    if (T >= H) return "horizontal leg T is as thick as the vertical one is long, H";
+    if (TV >= B)
+      return "thickness TV of the vertical legs must be smaller than the length B of the "
+             "horizontal legs";
+    if (T >= H)
+      return "thickness T of the horizontal legs must be smaller than the length H of the vertical "
+             "legs";
     return nullptr;
   }
   [[nodiscard]] Section section() const { return section_from(trvsec_l2, B, H, G, T, TV); }
@@ -592,7 +597,7 @@ struct TwoCells {
   [[nodiscard]] constexpr const char *fault() const {
     if (TW1 + TW2 >= W) return "webs TW1 and TW2 leave no room between them in W";
     if (TM >= HI) return "middle plate TM leaves no cells in HI";
-    if (W > B) return "webs W stand wider than the flanges B";
+    if (W > B) return "webs: W is greater than the width B of the flanges";
     return nullptr;
   }
   [[nodiscard]] Section section() const {

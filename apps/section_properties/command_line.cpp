@@ -60,23 +60,26 @@ std::string usage() {
       "usage: section_properties PROFILE DIMENSION... [--json] [--svg FILE]\n"
       "       section_properties batch FILE [--all] [--jobs N]\n"
       "\n"
-      "Prints area, centroid, moments, moduli and torsion of a section. Dimensions are in mm, "
+      "Prints area, centroid, moments, section moduli and torsion of a section. Dimensions are in "
+      "mm, "
       "with\n"
       "a decimal point or a decimal comma.\n"
       "\n"
-      "  --json           print the figures as JSON, in mm and radians\n"
+      "  --json           print the results as JSON, in mm and radians\n"
       "  --svg FILE       draw the section into FILE\n"
-      "  PROFILE --help   print the profile's dimensions, an example and its picture in letters\n"
+      "  PROFILE --help   print the profile's dimensions, an example and a text drawing\n"
       "  -h, --help       print this text\n"
       "  --version        print the version\n"
       "\n"
-      "batch reads a profile and its dimensions a line, from standard input for -, and prints\n"
-      "their figures as CSV. A line that is no section has its error in the last column.\n"
+      "batch reads FILE, or standard input if FILE is -, with one profile and its dimensions per\n"
+      "line, and prints the results as CSV. An invalid line has its error in the last column.\n"
       "\n"
-      "  --all            the moduli and the figures of torsion too\n"
+      "  --all            also print the section moduli and the torsion properties\n"
       "  --jobs N         work with N threads\n"
       "\n"
-      "Exit status: 0 done; 1 output could not be written; 2 bad input, in a batch of any line.\n"
+      "Exit status: 0 done; 1 output could not be written; 2 invalid input (in a batch: at least "
+      "one\n"
+      "invalid line).\n"
       "\n"
       "Profiles and their dimensions:\n";
   for (const Profile &profile : profiles()) {
@@ -88,7 +91,7 @@ std::string usage() {
     call.resize(28, ' ');
     text += "  " + call + std::string(profile.description) + '\n';
   }
-  text += "  plates FILE                 thin plates, a line each: x1 y1 x2 y2 t\n";
+  text += "  plates FILE                 thin plates, one per line: x1 y1 x2 y2 t\n";
   return text;
 }
 

@@ -18,12 +18,12 @@ struct Request {
   bool version = false;
 };
 
-// Reads what stands behind the program's name.
+// Reads the arguments after the program's name.
 Refusal read_command_line(const std::vector<std::string> &words, Request &request);
 
 std::string usage();
 
-// Of the profile in any case, or of all where there is none of that name.
+// Usage of the profile (its name in upper or lower case), or of all if there is none of that name.
 std::string usage_of(const std::string &name);
 
 std::string version();

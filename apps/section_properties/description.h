@@ -1,4 +1,4 @@
-// What is told of a profile besides its geometry.
+// The description of a profile, without its geometry.
 #pragma once
 
 #include <string_view>

@@ -35,7 +35,7 @@ DimensionLines::Placed DimensionLines::placed(const Measure &measure, double mid
   line.start = from - overhang;
   line.end = to + overhang;
   if (to - from >= width + clearance) return line;
-  // Towards the middle, so that figures stay beside the section.
+  // Towards the middle, so that the text stays next to the section.
   const bool is_behind = from + to <= 1e-9;
   line.place = is_behind ? Letter::behind : Letter::before;
   (is_behind ? line.end : line.start) += is_behind ? width + clearance : -width - clearance;

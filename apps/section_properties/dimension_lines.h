@@ -9,12 +9,12 @@
 
 namespace host {
 
-// Where what is written stands: above the line, or beyond its end where the line is too short.
+// Where the text is written: above the line, or beyond one of its ends if the line is too short.
 enum class Letter { between, behind, before };
 
 class DimensionLines {
  public:
-  enum class Figure { letter, letter_and_value };  // that stands at a line
+  enum class Figure { letter, letter_and_value };  // the text of a line
 
   struct Placed {
     Measure measure;

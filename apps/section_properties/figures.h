@@ -1,4 +1,4 @@
-// All figures of a section that this program gives.
+// All results of a section that this program gives.
 #pragma once
 
 #include <array>
@@ -18,16 +18,16 @@ struct Point {
 struct Torsion {
   std::optional<double> it, iw;  // torsion and warping constant
   std::optional<Point> shear_centre;
-  std::string note;  // for people: where the figures come from
+  std::string note;  // for people: how the results are computed
 };
 
-// The equal-area axes, and the plastic moduli about them.
+// Plastic neutral axes (equal-area axes) and plastic section moduli.
 struct Plastic {
-  double wx, wy;  // about the horizontal and the vertical axis
-  double x, y;    // where these are: the vertical one at x, the horizontal one at y
+  double wx, wy;  // section moduli about the horizontal and the vertical axis
+  double x, y;    // positions of the axes: the vertical one at x, the horizontal one at y
 };
 
-// From the centroid to the outermost points, or the elastic moduli there.
+// Distances of the extreme fibres from the centroid, or the elastic section moduli there.
 struct Fibres {
   double top, bottom, right, left;
 };
@@ -41,14 +41,14 @@ struct Figures {
   std::string_view origin;  // where it is
 };
 
-// Exact but for double precision, quarter circles included. An axis that may lie anywhere in a gap
-// between the halves lies in its middle.
+// Exact except for rounding in double precision, also for quarter circles. If an axis may lie anywhere
+// in a gap between the halves, it is placed in the middle of the gap.
 Plastic plastic_of(const Outline &outline);
 
-// Fibres, moduli and plastic figures of the outline, beside the properties.
+// The properties, and the fibres, section moduli and plastic results of the outline.
 Figures figures_of(const Properties &properties, const Outline &outline);
 
-// The figures by name, in the order in which programs get them: about the origin, about the
+// The results by name, in the order of JSON and batch: about the origin, about the
 // centroid, and of the principal axes.
 constexpr std::array<std::string_view, 16> names_of_properties = {
     "area", "xs", "ys",  "Sx", "Sy", "Ix",    "Iy", "Ixy",

@@ -45,11 +45,12 @@ std::string refusal_of_dimension(std::string_view name, std::string_view word, c
   return std::string(name) + " = " + std::string(word) + fault;
 }
 
-// What is wrong with a dimension, nothing where it was read.
+// The error in a dimension, or nothing if it was read.
 std::string read_dimension(const Dimension &dimension, std::string_view word, float &value) {
   const NumberFault fault = read_number(word, value);
   if (fault == NumberFault::beyond_single) {
-    return refusal_of_dimension(dimension.letter, word, " is beyond single precision");
+    return refusal_of_dimension(dimension.letter, word,
+                                " is outside the range of single precision");
   }
   const bool is_allowed = value > 0 || (value == 0 && dimension.least == Least::zero);
   if (fault == NumberFault::none && is_allowed) return "";
@@ -57,7 +58,7 @@ std::string read_dimension(const Dimension &dimension, std::string_view word, fl
                               " is not a positive number of mm");
 }
 
-// ", did you mean 'rhs'?" where a name is near or a description has the word, else nothing.
+// ", did you mean 'rhs'?" if a name is near or a description has the word, else nothing.
 std::string near_matches(std::string_view word) {
   std::vector<std::string_view> names;
   const std::size_t reach = word.size() < 6 ? 1 : 2;
@@ -149,7 +150,7 @@ Figures figures_of(const Given &given, const Properties &properties, const Outli
   Figures figures = figures_of(properties, outline);
   figures.torsion = given.profile->torsion(given.dimensions.data());
   const double polar = properties.centroidal.x + properties.centroidal.y;
-  if (figures.torsion.it > polar) {  // which no section has
+  if (figures.torsion.it > polar) {  // impossible for a real section
     figures.torsion = {{}, {}, {}, "No torsion: the walls are too thick for thin-walled theory."};
   }
   return figures;

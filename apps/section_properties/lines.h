@@ -17,13 +17,13 @@ class Lines {
   // A block must be longer than the longest line.
   Lines(std::FILE *file, std::size_t block) : file_(file), block_(block) {}
 
-  // The next lines. Empty behind the last line, and before a line that is too long.
+  // The next lines. Empty after the last line, and before a line that is too long.
   std::string_view next();
 
-  // Whether the line behind the lines handed out is too long.
+  // Whether the line after those returned so far is too long.
   [[nodiscard]] bool is_too_long() const { return is_too_long_; }
 
-  // The bytes handed out.
+  // The number of bytes returned so far.
   [[nodiscard]] std::size_t read() const { return read_; }
 
  private:

@@ -165,7 +165,8 @@ int run_batch_of(const Request &request) {
   if (result.too_long > 0) return failure(bad_input, too_long(name, result.too_long));
   if (result.tally.refused == 0) return 0;
   return failure(bad_input, std::to_string(result.tally.refused) + " of " +
-                                std::to_string(result.tally.sections) + " lines are no sections");
+                                std::to_string(result.tally.sections) +
+                                " lines are invalid; see the error column");
 }
 
 int run(const std::vector<std::string> &arguments) {
@@ -176,7 +177,8 @@ int run(const std::vector<std::string> &arguments) {
   if (request.version) return print(version());
   if (request.help) return print(usage_of(name));
   if (name == "batch") return run_batch_of(request);
-  if (request.all || request.jobs > 1) return failure(bad_input, "--all and --jobs go with batch");
+  if (request.all || request.jobs > 1)
+    return failure(bad_input, "--all and --jobs may only be used with batch");
   if (name == "plates") return run_plates(request);
   return run_profile(request);
 }

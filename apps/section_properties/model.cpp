@@ -50,8 +50,8 @@ Properties properties_of(Section &section) {
   p.centroidal.y = p.origin.y - p.area * p.xs * p.xs;
   p.centroidal.xy = p.origin.xy - p.area * p.xs * p.ys;
 
-  // What is left of a product below single precision is rounding; where both moments are equal it
-  // would turn the axes all the same.
+  // A product of inertia below single precision is a rounding error. If both moments are equal, it would
+  // rotate the axes nevertheless.
   constexpr double noise = 4 * std::numeric_limits<float>::epsilon();
   if (std::fabs(p.centroidal.xy) <= noise * (p.centroidal.x + p.centroidal.y)) p.centroidal.xy = 0;
 

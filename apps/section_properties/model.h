@@ -73,11 +73,11 @@ struct Properties {
   double rx, ry;         // radii of gyration
 };
 
-// The section's properties, in double precision as sums of what the library gives for each part.
-// The library closes the polygons on the way.
+// The section's properties, in double precision as sums of the library's results for each part.
+// The library closes the polygons of the section.
 Properties properties_of(Section &section);
 
-// Whether all figures are within what single precision can hold.
+// Whether all results are in the range of single precision.
 bool are_representable(const Properties &p);
 
 }  // namespace host

@@ -25,7 +25,7 @@ using Outline = std::vector<Ring>;
 struct Box {
   double left, right, bottom, top;
 
-  // Of the middle.
+  // Coordinates of the middle.
   [[nodiscard]] double x() const { return 0.5 * (left + right); }
   [[nodiscard]] double y() const { return 0.5 * (bottom + top); }
 };

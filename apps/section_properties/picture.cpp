@@ -108,7 +108,7 @@ std::string shear_centre_mark(double x, double y) {
       line(x - half, y - half, x + half, y + half) + line(x - half, y + half, x + half, y - half));
 }
 
-// Rows of figures, and then of what the lines and marks mean.
+// Rows of results, then of the meanings of lines and marks.
 class Legend {
  public:
   explicit Legend(double left) : left_(left) {}
@@ -158,7 +158,7 @@ Legend legend(const Figures &f, double left) {
                   "principal axes 1, 2");
   legend.line_key(
       attribute("stroke", colours::green, "stroke-width", "1.6", "stroke-dasharray", dots),
-      "equal-area axes");
+      "plastic neutral axes");
   legend.key(centroid_mark(legend.mark(), legend.middle()), "centroid");
   if (f.torsion.shear_centre) {
     legend.key(shear_centre_mark(legend.mark(), legend.middle()), "shear centre");

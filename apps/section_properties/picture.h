@@ -7,7 +7,7 @@
 
 namespace host {
 
-// A section with what is told of it.
+// A section with its description and results.
 struct Subject {
   std::string name, description, dimensions;
   Figures figures;
@@ -15,8 +15,8 @@ struct Subject {
   Measures measures;
 };
 
-// The outline to scale with its measures, the axes of the origin, the principal and the equal-area
-// axes, centroid and shear centre, and a legend of the main figures.
+// The outline to scale with its measures, the axes of the origin, the principal axes and the plastic
+// neutral axes, centroid and shear centre, and a legend of the main results.
 std::string picture(const Subject &subject);
 
 }  // namespace host

@@ -133,7 +133,7 @@ std::vector<Edge> edges_of(const Outline &outline) {
     for (std::size_t i = 0; i < n; ++i) {
       const Vertex &from = ring.vertices[i];
       const Vertex &to = ring.vertices[(i + 1) % n];
-      // Of the two corners of an arc's square the centre is the one to the right of its way.
+      // The centre of an arc is that corner of its square which is to the right of the arc's direction.
       const bool is_first = (to.x - from.x) * (to.y - from.y) > 0;
       edges.push_back({from.x, from.y, to.x, to.y, ring.factor, to.arc, is_first ? to.x : from.x,
                        is_first ? from.y : to.y});

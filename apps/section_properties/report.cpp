@@ -22,12 +22,12 @@ std::string right_aligned(const std::string &text, std::size_t width) {
   return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
-// What a figure can lose to its section's size: a difference of figures of that size is rounding where
-// it is small, and shows as zero; a sum of what has one sign keeps digits of its own.
+// A difference of numbers of the section's size is a rounding error if it is small; it is shown as zero.
+// A sum of terms of one sign has accurate digits of its own, however small it is.
 enum class Kind { difference, sum };
 
-// With the decimals that suit a figure of the given size. Sizes that no section in mm has would fill
-// the line with zeros.
+// With as many decimals as suit a number of the given size. Sizes that no real section in mm has would
+// fill the line with zeros.
 std::string figure(double value, double size, Kind kind) {
   constexpr int fewest = 5;
   int decimals = decimals_for(size, digits);
@@ -75,7 +75,7 @@ std::string text_of(const std::vector<Row> &rows) {
   return text;
 }
 
-// What the figures of a section are measured by.
+// The sizes of a section that decide how many decimals its results have.
 double length_of(const Properties &p) { return std::max(p.rx, p.ry); }
 double second_moment_of(const Properties &p) { return std::max(p.origin.x, p.origin.y); }
 
@@ -124,10 +124,11 @@ std::vector<Row> further_rows(const Figures &f) {
   rows.add("Polar moment, centroid", 4, polar, Kind::sum, {{"Ip", polar}});
   rows.add("Fibres: top, bottom, right, left", 1, length, Kind::difference,
            {{"ey1", e.top}, {"ey2", e.bottom}, {"ex1", e.right}, {"ex2", e.left}});
-  rows.add("Elastic moduli of the fibres", 3, modulus, Kind::sum,
+  rows.add("Elastic section moduli", 3, modulus, Kind::sum,
            {{"Wx1", w.top}, {"Wx2", w.bottom}, {"Wy1", w.right}, {"Wy2", w.left}});
-  rows.add("Plastic moduli", 3, modulus, Kind::sum, {{"Wpx", f.plastic.wx}, {"Wpy", f.plastic.wy}});
-  rows.add("Equal-area axes", 1, length, Kind::difference,
+  rows.add("Plastic section moduli", 3, modulus, Kind::sum,
+           {{"Wpx", f.plastic.wx}, {"Wpy", f.plastic.wy}});
+  rows.add("Plastic neutral axes", 1, length, Kind::difference,
            {{"xp", f.plastic.x}, {"yp", f.plastic.y}});
   if (t.shear_centre) {
     rows.add("Shear centre", 1, length, Kind::difference,

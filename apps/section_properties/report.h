@@ -1,4 +1,4 @@
-// A section's figures for people and for programs to read.
+// A section's results, for people and for programs to read.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@
 
 namespace host {
 
-// A figure in mm beside cm, or in radians beside degrees.
+// A result in mm and in cm, or in radians and in degrees.
 struct Row {
-  std::string heading;  // in the first row of those it stands for
+  std::string heading;  // in the first row of its group
   std::string symbol;
   std::string value;
   std::string unit;
@@ -22,10 +22,10 @@ struct Row {
 std::vector<Row> main_rows(const Figures &f);
 std::vector<Row> further_rows(const Figures &f);
 
-// What is not given, where the figures come from and where the origin is, a line each.
+// Which results are not given, how the others are computed and where the origin is, a line each.
 std::string notes(const Figures &f);
 
-// A table of all that, under its title.
+// A table of all results and notes, under its title.
 std::string table(const std::string &title, const Figures &f);
 
 // A JSON object, in mm and radians.

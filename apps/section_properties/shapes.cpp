@@ -27,8 +27,8 @@ Part &add_polygon(Section &section, float factor, std::initializer_list<float> x
 void add_fillet(Section &section, float x, float y, float r, bool is_fourfold) {
   const float xc = x + r;
   const float yc = y + r;
-  // Of the segment about its centroid: quarter disc less triangle, about the centre
-  // r^4/8 - r^4/24, moved to the centroid by their first moments r^3/3 - r^3/6.
+  // Product of inertia of the segment about its centroid: quarter disc minus triangle, about the
+  // centre r^4/8 - r^4/24, moved to the centroid by their first moments r^3/3 - r^3/6.
   constexpr double pi = 3.14159265358979323846;
   constexpr double product = 1.0 / 36 / (pi / 4 - 0.5) - 1.0 / 12;
   const double r2 = static_cast<double>(r) * r;
@@ -46,8 +46,8 @@ void add_fillet(Section &section, float x, float y, float r, bool is_fourfold) {
 
 }  // namespace
 
-// The library closes a polygon by writing behind its last vertex, where in the list the next
-// polygon starts. So each one moves into arrays of its own.
+// The library closes a polygon by writing after its last vertex. In the list the next polygon starts
+// there, so each polygon is copied into its own arrays.
 Section section_of(const ListOfPolygons &f) {
   Section section;
   const float *x = f.x.data();

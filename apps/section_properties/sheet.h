@@ -48,7 +48,7 @@ class Sheet {
   [[nodiscard]] double y(double mm) const { return centre_y_ - pixels_ * (mm - middle_y_); }
   [[nodiscard]] double length(double mm) const { return pixels_ * mm; }
 
-  // Of what is shown.
+  // Edges of the part that is shown.
   [[nodiscard]] double left() const { return centre_x_ - half_width_; }
   [[nodiscard]] double right() const { return centre_x_ + half_width_; }
   [[nodiscard]] double top() const { return centre_y_ - half_height_; }

@@ -25,7 +25,7 @@ ThinSection thin_section(const std::vector<Plate> &plates) {
 
 namespace {
 
-// The words of a line, as numbers. False where one is none.
+// Reads the words of a line as numbers. False if a word is not a number.
 bool read_numbers(std::string_view line, std::vector<float> &values) {
   constexpr std::string_view blanks = " \t\r\f\v";
   values.clear();
@@ -51,7 +51,7 @@ std::string read_plates(const std::string &name, std::string_view text, std::siz
     const bool readable = read_numbers(line.substr(0, line.find('#')), v);
     if (readable && v.empty()) continue;
     if (!readable || v.size() != 5) {
-      return name + ":" + std::to_string(number) + ": a plate is five numbers, x1 y1 x2 y2 t";
+      return name + ":" + std::to_string(number) + ": a plate needs five numbers, x1 y1 x2 y2 t";
     }
     plates.push_back({v[0], v[1], v[2], v[3], v[4]});
   }
@@ -108,10 +108,11 @@ std::string figures_of(const std::vector<Plate> &plates, Figures &f) {
     f.torsion = {s.It, s.Iw, Point{s.xm, s.ym}, ""};
   } else if (s.status <= n) {
     f.torsion.note = "No torsion: plate " + std::to_string(s.status) +
-                     " starts at no end of an earlier one, or closes a cell.";
+                     " does not start at an end of an earlier plate, or closes a cell.";
   } else {
-    f.torsion.note = "No torsion: plate " + std::to_string(s.status - n) +
-                     " meets an earlier one elsewhere than at its start, or closes a cell.";
+    f.torsion.note =
+        "No torsion: plate " + std::to_string(s.status - n) +
+        " touches an earlier plate at a point other than its own start, or closes a cell.";
   }
   return "";
 }

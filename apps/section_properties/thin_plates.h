@@ -45,8 +45,8 @@ Outline outline_of(const std::vector<Plate> &plates);
 // Overall width and height: plates have no dimensions of their own.
 Measures overall_measures(const Box &box);
 
-// All figures that trvmxt gives, those of torsion only where the section is open. Returns what is
-// wrong, or nothing.
+// All results of trvmxt; those of torsion only if the section is open. Returns an error message, or
+// nothing.
 std::string figures_of(const std::vector<Plate> &plates, Figures &f);
 
 }  // namespace host

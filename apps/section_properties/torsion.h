@@ -12,7 +12,7 @@ constexpr const char *thin_walls = "Torsion: thin walls on centre lines (V. Z. V
 constexpr const char *thin_walls_without_fillets =
     "Torsion: thin walls on centre lines (V. Z. Vlasov), fillets left out.";
 
-// Of thin walls on their centre lines.
+// Torsion of an open section, from thin walls on their centre lines.
 Torsion open_torsion(const std::vector<Plate> &plates, const char *note);
 
 // The web first, so that the halves of both flanges start at its ends. E moves the web.

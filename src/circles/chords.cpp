@@ -19,7 +19,7 @@ struct ChordFrame {
   }
 };
 
-// The way back, to A as it was given.
+// The transformation back, with A as it was given.
 ChordPoint leave(const ChordFrame &frame, const Arc &arc, Point2 point, Point2 a) {
   const auto back = [&](Point2 p) {
     const Point2 turned = frame.chord.of(p);
@@ -28,7 +28,7 @@ ChordPoint leave(const ChordFrame &frame, const Arc &arc, Point2 point, Point2 a
   return {{back(arc.c), back(arc.a), back(arc.b)}, back(point)};
 }
 
-// The angle is negative where y is, however little; angle_from_x_axis asks for more.
+// The angle is negative if y is negative at all; angle_from_x_axis has a tolerance there.
 ChordFrame frame_of_chord(Point2 a, Point2 b) {
   const Vector2 chord = b - a;
   const Real angle = angle_between(Vector2{1, 0}, chord);

@@ -21,21 +21,22 @@ struct LastArcPoint {
   Point2 value = {};
 };
 
-// Where the line through the station s at an angle to the chord meets the circle across the chord
-// from the centre. Nothing where there is no arc, or the line touches the circle.
+// Intersection of the circle and the line through the station s at an angle to the chord, on the side of
+// the chord away from the centre. Nothing if there is no arc, or the line is tangent to the circle.
 std::optional<ChordPoint> across_station(const Arc &arc, Real s, Real angle, LastArcPoint &last);
 
-// The crossing that was found last, in its chord's frame; parallels take it again.
+// The crossing that was found last, in its chord's frame; a line parallel to the chord uses it again.
 struct LastChordCrossing {
   Point2 value = {};
 };
 
 struct ChordCrossing {
   ChordPoint found;
-  LineRelation relation;  // crossing as well where the point is on the chord's line but at no end
+  LineRelation relation;  // crossing also if the point is on the chord's line but at no end
 };
 
-// Where the line through A, turned about the centre, at an angle to the chord crosses the chord.
+// A is rotated about the centre; this is where the line through it at an angle to the chord crosses the
+// chord.
 std::optional<ChordCrossing> below_turned_end(const Arc &arc, Real turn, Real angle,
                                               LastChordCrossing &last, LastCosine &last_cosine);
 
@@ -48,7 +49,7 @@ struct LastSagittaLine {
 
 struct SagittaPoint {
   enum { refused, touched, done } status;
-  ChordPoint found;  // A is rounded even where the line touches the circle
+  ChordPoint found;  // A is rounded even if the line is tangent to the circle
 };
 
 // Where the line from the station s through T meets the circle on T's side of the chord. T is at

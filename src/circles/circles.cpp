@@ -13,7 +13,7 @@ Real radical_constant(Point2 p1, Point2 p2) {
 Crossings candidates_of_horizontal_chord(Point2 p, Real dx, Real K, Real radius) {
   const Real x = K / dx * 0.5F;
   const Real t = square_root(radius * radius - (p.x - x) * (p.x - x));
-  return {0, {x, p.y - t}, {x, p.y + t}};  // counted as none, though there are two, and so it stays
+  return {0, {x, p.y - t}, {x, p.y + t}};  // the count must stay 0, though both are written
 }
 
 std::optional<Crossings> candidates_of_chord(Point2 p, Vector2 chord, Real K, Real radius) {

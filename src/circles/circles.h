@@ -26,7 +26,7 @@ struct Crossings {
 inline Crossings crossings_of(const Line &line, const Circle &circle) {
   const auto [a, b, c] = line;
   const auto [D, E, F] = circle;
-  // A quadratic in y, or in x where the line counts as horizontal and its a is left out.
+  // A quadratic in y; in x if the line counts as horizontal, and its a is then left out.
   const bool in_y = significant(a);
   const Real A = in_y ? a * a + b * b : b * b;
   const Real B = in_y ? (2 * c - a * D) * b + E * (a * a) : D * (b * b);
@@ -52,7 +52,7 @@ struct Centres {
 
 std::optional<Centres> centres_of_radius(Point2 p1, Point2 p2, Integer side, Real radius);
 
-// Of the arc that rises by `sagitta` above the middle of its chord.
+// Radius of the arc that rises by `sagitta` above the middle of its chord.
 Real radius_of_sagitta(Real chord, Real sagitta);
 
 }  // namespace trelvin

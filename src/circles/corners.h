@@ -19,7 +19,8 @@ struct Box {
   Point2 lower, upper;
 };
 
-// Of the arc that a point sweeps about a centre. A NaN anywhere is everywhere in the box.
+// Bounding box of the arc that a point sweeps about a centre. If an argument contains a NaN, all of the
+// box is NaN.
 Box box_of_sweep(Point2 centre, Point2 on_arc, Real sweep);
 
 }  // namespace trelvin

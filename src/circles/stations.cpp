@@ -63,7 +63,7 @@ std::optional<StripPoints> points_above_strip(const Arc &arc, Integer side, Real
     const Point2 p = station_on_chord(arc, station / chord);
     return project(arc, lengths.radius, perpendicular_to_chord(arc, p), side, last);
   };
-  const Point2 first = above(d - h);  // where the other edge finds nothing, its points stand
+  const Point2 first = above(d - h);  // kept if the other edge finds nothing
   return StripPoints{first, above(h + d)};
 }
 

@@ -8,8 +8,8 @@
 
 namespace trelvin {
 
-// The crossings of a projecting line and the circle as they were found last. What a line does not
-// find, because it touches or misses the circle, stands as an earlier one found it.
+// The crossings of a projecting line and the circle that were found last. If a line is tangent to the
+// circle or misses it, the crossings that it does not find are those of an earlier line.
 struct LastCrossings {
   Point2 first = {};
   Point2 second = {};

@@ -22,7 +22,7 @@ inline bool seldom(bool condition) { return condition; }
 // The processor's floating-point control, as the library needs it for as long as a call lasts.
 //
 // A host may round otherwise, flush subnormals to zero or have exceptions unmasked. Its control words
-// and sticky flags come back as it had them. A clean host pays for a look only. Inputs come from
+// and sticky flags are restored. If they need no change, a call only checks them. Inputs come from
 // memory and outputs go there, so no arithmetic moves across the statements that touch memory here.
 class Door {
  public:
@@ -37,8 +37,8 @@ class Door {
   Door(const Door &) = delete;
   Door &operator=(const Door &) = delete;
 
-  // What a function of the host's returns, called in the host's own control. One that never returns
-  // leaves the host with that, and one that changes it changes the host's, not the library's.
+  // Calls a function of the host under the host's own control and returns its result. If the function
+  // never returns, the host keeps its control; if it changes the control, it changes the host's only.
   template <class Function>
   auto outside(Function function) {
     if (seldom(foreign_)) control_.leave();

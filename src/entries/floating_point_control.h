@@ -1,5 +1,5 @@
-// The floating-point control of each kind of processor: `foreign` tells whether the host's is not as
-// the library needs it, `enter` sets what is needed, `leave` gives the host's back.
+// The floating-point control of each type of processor: `foreign` returns whether the host's differs
+// from what the library needs, `enter` sets what is needed, `leave` restores the host's.
 #pragma once
 
 #include <cstdint>

@@ -77,7 +77,7 @@ TRELVIN_ROUTINE trvicp(TrvIn xc, TrvIn yc, TrvIn x1, TrvIn y1, TrvIn x2, TrvIn y
 
 namespace {
 
-// A polygon's outline is closed on the way: call this when all inputs are read.
+// Closes a polygon's outline: must be called after all inputs are read.
 SectionPart closed_part(PlaneArrays points, Integer n, Integer kind, Real value) {
   const SectionPart part = {static_cast<PartKind>(kind), points, n, value};
   if (part.kind == PartKind::polygon) close_outline(points, n);

@@ -190,7 +190,7 @@ TRELVIN_ROUTINE trvwar_c(TrvIn B, TrvIn H, TrvIn C, TrvIn t, TrvOut Iw) {
 
 namespace {
 
-// Rounds figures into the outputs that follow in the same order.
+// Rounds numbers into the outputs that follow, in the same order.
 template <std::size_t n, class... Outputs>
 void write(const std::array<double, n> &figures, Outputs &...outputs) {
   static_assert(sizeof...(Outputs) == n);

@@ -76,8 +76,8 @@ class Candidates {
     for (int k = 0; k < count; ++k) visit_cell(cells[k], visit);
   }
 
-  // What matches each of the points, whose position tells `paired` what range it is paired with. They
-  // are known if points are few to a cell, and if there is memory.
+  // The matches of each point. `paired` gives for a position the range of points that it is paired with.
+  // Null if there are many points to a cell, or if memory cannot be allocated.
   template <class Match, class Paired>
   [[nodiscard]] AllSurroundings surroundings(Match match, Paired paired) const {
     if (!spread_out_) return nullptr;
@@ -96,8 +96,8 @@ class Candidates {
   template <class Match>
   [[nodiscard]] AllSurroundings surroundings_of(const Points &others, Match match) const {
     if (!spread_out_) return nullptr;
-    // In one piece with room for two words a point, since memory that is given back and taken anew at
-    // every call costs more than what is done in it.
+    // One block, with two more words a point: to release and allocate memory at every call would take
+    // longer than the work itself.
     static_assert(sizeof(Surroundings) == sizeof(SortWord));
     const Integer n = others.size();
     auto found = work_array<Surroundings>(std::int64_t{3} * n);
@@ -184,7 +184,8 @@ class Candidates {
   WorkArray<Candidate> candidates_;  // cell by cell, in each by position
 };
 
-// Wide cells are best if points are far apart. If points crowd in them, narrower ones follow.
+// Wide cells are best if points are far apart. If there are many points to a cell, narrower cells are
+// tried.
 template <class Points>
 void Candidates<Points>::make_cells(Real tol) {
   constexpr double crowd = 12;
@@ -197,8 +198,8 @@ void Candidates<Points>::make_cells(Real tol) {
   starts_ = work_array<Integer>(std::int64_t{cells_} + 1);
   if (!candidates || !starts_) return;
 
-  // Each candidate is made of a word, and the candidates follow the words through the same memory: the
-  // last word that a candidate takes the room of is its own.
+  // Each candidate is made from a word in the same memory. Candidates are written from the front and
+  // words read behind them, so the last word that a candidate overwrites is its own.
   static_assert(sizeof(Candidate) == 2 * sizeof(SortWord));
   Candidate *const list = candidates.get();
   auto *const words = reinterpret_cast<SortWord *>(list);

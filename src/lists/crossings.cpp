@@ -64,7 +64,7 @@ struct Segment {
   }
 
   // Where it meets an edge from a to b that crosses its line. The sides of its ends decide, since the
-  // place is rounded, and may be off the segment where an end is next to the edge.
+  // place is rounded, and may be off the segment if an end is next to the edge.
   [[nodiscard]] std::optional<Place> meet(Point2 a, Point2 b) const {
     const WideVector edge = wide_difference(b, a);
     const double side1 = cross(edge, wide_difference(p1, a));

@@ -8,8 +8,8 @@ namespace trelvin {
 // Writes where the line y = y0 crosses an outline, ascending, and returns how often it does.
 Integer cross_level(const Outline &outline, Real y0, Real *crossings);
 
-// Whether a point is inside by the even-odd rule. One on the outline counts as the point just to its
-// right, or just above where that is on the outline too.
+// Whether a point is inside by the even-odd rule. For a point on the outline, the point immediately to
+// its right is tested; if that is also on the outline, the point immediately above.
 bool inside(const Outline &outline, Point2 p);
 
 struct CrossingArrays {

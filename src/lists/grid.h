@@ -15,7 +15,7 @@ class Grid {
 
   struct Cell {
     std::uint32_t number;
-    bool holds_all;  // that agrees with the point
+    bool holds_all;  // that matches the point
   };
   [[nodiscard]] Cell cell_of(Point3 p) const {
     const Span x = span_of(p.x);
@@ -24,7 +24,7 @@ class Grid {
     return {number(x.own, y.own, z.own), x.single() && y.single() && z.single()};
   }
 
-  // Writes the numbers of the cells that hold all that agrees with p, up to 8, each once, and
+  // Writes the numbers of the cells that hold all points that match p, up to 8, each once, and
   // returns how many they are.
   int cells_around(Point3 p, std::uint32_t *cells) const;
 
@@ -35,8 +35,8 @@ class Grid {
     [[nodiscard]] bool single() const { return end - first == 1; }
   };
 
-  // Where numbers lie cells apart from their neighbours, each has a place of its own, named by its
-  // bits: only equal ones agree there. Infinities and NaNs are among them.
+  // If a number is so large that adjacent numbers lie cells apart, its place is its bits: only equal
+  // numbers match there. This includes infinities and NaNs.
   [[nodiscard]] Span span_of(Real value) const {
     constexpr double finest = 268435456;  // 2^28 cells from zero neighbours are 16 cells apart
     const double at = value * cells_per_length_ + 0.5;  // zero is in the middle of a cell

@@ -36,7 +36,7 @@ inline Key key_in(SortWord word) { return static_cast<Key>(word >> 32); }
 inline Integer position_in(SortWord word) { return static_cast<Integer>(static_cast<Key>(word)); }
 
 // Sorts ascending by the 36 bits from `lowest_bit` up. Words with the same bits there stay in order.
-// Works in both arrays and returns the one that holds the result.
+// Uses both arrays and returns the one that holds the result.
 template <class Word>
 Word *sort_by_digits(Word *words, Word *spare, Integer n, int lowest_bit) {
   constexpr int width = 9;

@@ -28,9 +28,9 @@ void selection_sort(Real *list, Integer n) {
 
 // The first steps of the selection sort, until no entry up to zero is left. Returns their number.
 //
-// The swaps can move an entry past an equal one, so only by following them is it known which zero is
-// found when. A heap holds where each entry up to zero is: the smallest on top, and of equal ones the
-// last.
+// The swaps can move an entry past an equal one. The order in which -0 and 0 are selected is therefore
+// known only by following the swaps. A heap holds the position of each entry up to zero: the smallest
+// entry is on top, of equal entries the last.
 Integer select_up_to_zero(Real *list, Integer n, SortWord *heap) {
   const auto entry_at = [&](Integer i) { return sort_word(~key_with_one_zero(list[i]), i); };
   Integer size = 0;

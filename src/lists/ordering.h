@@ -6,8 +6,8 @@
 
 namespace trelvin {
 
-// Ascending as a selection sort leaves it that takes the last of equal smallest entries: a NaN stays
-// where it is, and which of equal zeros comes first follows from the swaps.
+// Sorts in the ascending order of a selection sort that takes the last of equal smallest entries. A NaN
+// stays where it is; the order of -0 and 0 follows from the swaps.
 void sort_selecting(Real *list, Integer n);
 
 // Ascending: -0 before 0, NaNs last.
@@ -24,7 +24,7 @@ struct Entries {
 };
 
 // Positions, from 1, of the entries in ascending order, equal ones from the highest position down. A
-// found entry counts as the largest plus 1 from then on; one that does not compare finds none.
+// found entry counts as the largest plus 1 from then on. A round whose entry is NaN writes no position.
 void order(Entries list, Integer n, Integer *positions);
 
 struct LineArrays {

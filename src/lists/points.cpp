@@ -103,7 +103,8 @@ Integer put_to_places(const Points &points, Integer settled, const Candidates<Po
     return count;
   }
 
-  // A new place marks all that match it, so that only those that make one look round.
+  // When a new merged point (place) is created, all points that match it are assigned to it at once. So
+  // only points that create one need a search.
   for (Integer i = settled; i < n; ++i) place(i) = 0;
   for (Integer i = settled; i < n; ++i) {
     const Point3 p = points[i];

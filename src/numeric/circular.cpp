@@ -136,7 +136,7 @@ constexpr std::array<HardAngle, 4> hard_angles = {
      {0x1.3170fp+63F, {0x1.5ac1eep-4F, 0x1.fe2976p-1F}},
      {0x1.2b9622p+67F, {-0x1.f983c2p-3F, 0x1.f0285ep-1F}}}};
 
-// Of a positive angle.
+// Sine and cosine of a positive angle.
 SineCosine sine_cosine_of_large(Real angle) {
   for (const HardAngle &hard : hard_angles) {
     if (angle == hard.angle) return hard.both;

@@ -20,7 +20,7 @@ inline Line line_through(Point2 p, Point2 q) {
 
 inline Line vertical_line(Real x) { return {1, 0, 0 - x}; }
 
-// At an angle to the x axis; vertical next to a right angle either way, and where it is NaN.
+// Line at an angle to the x axis; vertical if the angle is next to pi/2 or -pi/2, or NaN.
 inline Line line_at_angle(Point2 p, Real angle) {
   const bool vertical = (angle > 0 && std::fabs(angle - half_pi) < tolerance) ||
                         (angle < 0 && std::fabs(angle + half_pi) < tolerance) || std::isnan(angle);
@@ -42,7 +42,7 @@ inline Line parallel_at(const Line &line, Real d) {
   return {line.a, line.b, line.c - square_root(line.a * line.a + line.b * line.b) * d};
 }
 
-// Of the angle at `vertex` between the rays to p and q.
+// Bisector of the angle at `vertex` between the rays to p and q.
 inline Line bisector(Point2 vertex, Point2 p, Point2 q) {
   const Vector2 u = p - vertex;
   const Vector2 v = q - vertex;

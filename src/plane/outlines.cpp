@@ -26,7 +26,7 @@ struct Winding {
     }
   }
 
-  // Once around in all, and no corner against that sense.
+  // The corners turn once around in total, and none turns in the other direction.
   [[nodiscard]] bool convex() const {
     const double once = std::fabs(angle) / full_turn;
     return once > 0.5 && once < 1.5 && !(angle > 0 ? right : left) && !back;

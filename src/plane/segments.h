@@ -25,8 +25,9 @@ struct Sector {
   Point2 vertex, first;
   Line first_ray, second_ray;
 
-  // Between the lines, and with its foot on the first ray's side of the vertex. The perpendicular of
-  // a ray that is longer than the tolerance always crosses it; with a NaN nothing is beyond.
+  // Whether p is between the lines, with the foot of its perpendicular on the first ray's side of the
+  // vertex. If the ray is longer than the tolerance, the perpendicular always crosses it. If there is a
+  // NaN, no foot counts as beyond the vertex.
   [[nodiscard]] bool holds(Point2 p, LastCosine &last) const {
     if (signed_distance(first_ray, p) * signed_distance(second_ray, p) < 0) return false;
     const Point2 foot = intersect(perpendicular_through(p, first_ray), first_ray).point;
@@ -36,7 +37,7 @@ struct Sector {
   }
 };
 
-// Marks points: 1 inside, 2 outside; or all by -1, if the rays have one direction.
+// Marks points: 1 inside, 2 outside; all -1 if the rays have the same direction.
 inline void mark_by_sector(Point2 vertex, Point2 first, Point2 second, const Real *x, const Real *y,
                            Integer n, Integer *marks, LastCosine &last) {
   const bool no_sector = negligible(angle_between(first - vertex, second - vertex));

@@ -34,6 +34,6 @@ struct SumsByLanes {
 };
 
 extern const SumsByLanes baseline_sums;     // of the instructions that all of the library may use
-extern const SumsByLanes *const avx2_sums;  // null where the library is compiled without
+extern const SumsByLanes *const avx2_sums;  // null if the library is compiled without
 
 }  // namespace trelvin

@@ -69,7 +69,7 @@ inline Edge<Number> edge_at(const Real *x, const Real *y) {
 //   A = int x dy,  Sx = -int y^2/2 dx,  Sy = int x^2/2 dy,
 //   Ix = -int y^3/3 dx,  Iy = int x^3/3 dy,  Ixy = int x^2*y/2 dy.
 // Differences of coordinates and their leading products are exact in double precision, unless the
-// coordinates differ in size by more than it holds: an outline far from the origin keeps its figures.
+// coordinates differ in size by more than it holds: an outline far from the origin keeps its digits.
 template <class Number>
 inline void add(const Edge<Number> &e, Number (&sums)[AreaSum::count]) {
   sums[0] += (e.y2 - e.y1) * (e.x1 + e.x2);

@@ -21,7 +21,7 @@ inline SecondMoments operator+(SecondMoments i, SecondMoments j) {
   return {i.x + j.x, i.y + j.y, i.xy + j.xy};
 }
 
-// Of an area that is all at one point.
+// Moments of an area that is concentrated at one point.
 inline FirstMoments first_moments_at(Point2 p, Real area) { return {p.y * area, area * p.x}; }
 inline SecondMoments second_moments_at(Point2 p, Real area) {
   return {area * p.y * p.y, area * (p.x * p.x), area * p.x * p.y};

@@ -19,7 +19,8 @@ Real effective_width_of_fold(Real c, Real bp, Real t, Real r1, Real r2, LastBuck
     last.value = 0.5F;
   } else if (r <= 0.6F) {
     const Real excess = r - 0.35F;
-    last.value = excess * excess / 3 + 0.5F;  // a square by three, not a cube root
+    last.value =
+        excess * excess / 3 + 0.5F;  // not ^(2/3) as in EN 1993-1-3: results must not change
   }
   return reduction_factor(c, t, r1, r2, 1, last.value) * c;
 }
@@ -42,7 +43,7 @@ std::optional<EffectiveWidths> effective_widths(Real bl, Real w, Real t, Real r1
   if (negligible(s1) && negligible(s2)) return std::nullopt;
   if (s1 <= 0) return std::nullopt;
 
-  // The cases overlap next to their borders. What comes first here stands.
+  // The cases overlap next to their borders. The first one here is used.
   const Real psi = s2 / s1;
   if (s2 < 0) {
     const Real tension = std::fabs(s2);

@@ -14,7 +14,7 @@ PrincipalAxes principal_axes(double Ix, double Iy, double Ixy) {
 
   const double d = Iy - Ix;
   const double greater = (Ix + Iy) / 2 + std::sqrt(d * d / 4 + Ixy * Ixy);
-  // Of a slender section the difference of mean and radius would keep few digits.
+  // For a slender section the difference of mean and radius would lose most digits.
   const double smaller = std::max((Ix * Iy - Ixy * Ixy) / greater, 0.0);
   const bool equal = std::fabs(d) <= rounding;
   const double alpha =

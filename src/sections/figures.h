@@ -1,4 +1,4 @@
-// The figures of a section, in double precision, with the names of trelvin/sections.h.
+// The properties of a section, in double precision, with the names of trelvin/sections.h.
 #pragma once
 
 #include <array>

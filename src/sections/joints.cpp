@@ -31,8 +31,8 @@ bool meet(const Plate &p, const Plate &q, double reach) {
          is_near(q, p.start, reach) || is_near(q, p.end, reach);
 }
 
-// From a joint on, two plates meet again only where they lie on each other: the end of the shorter
-// one is on the other then.
+// Two plates with a joint meet again only if they lie on each other. The end of the shorter plate is then
+// on the other one.
 bool overlap_from_joint(const Plate &p, bool joint_at_end, const Plate &q, double reach) {
   return is_near(p, q.end, reach) || is_near(q, joint_at_end ? p.start : p.end, reach);
 }

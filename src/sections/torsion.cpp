@@ -31,7 +31,7 @@ class WideArray {
   Real *first_, *second_;
 };
 
-// Sectorial coordinates about the start of the first plate, zero there. They stay exact where
+// Sectorial coordinates about the start of the first plate, zero there. They stay exact if
 // plates meet in that point.
 class Sectorial {
  public:
@@ -53,7 +53,7 @@ class Sectorial {
   }
 
  private:
-  // Of the earlier end where plate k starts; most plates start at their neighbour in the list.
+  // The value at the earlier end where plate k starts; most plates start at their neighbour in the list.
   [[nodiscard]] double at_joint(Integer k) const {
     const Plate p = plates_[k];
     for (Integer i = k - 1; i >= 0; --i) {

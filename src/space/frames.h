@@ -12,7 +12,7 @@ namespace trelvin {
 struct Frame {
   Vector3 e1, e2, e3;
 
-  // Local coordinates of what lies that far from the frame's origin, and the way back.
+  // Local coordinates of an offset from the frame's origin, and the inverse.
   [[nodiscard]] Point3 local(Vector3 offset) const {
     return {dot(e1, offset), dot(e2, offset), dot(e3, offset)};
   }
@@ -22,7 +22,7 @@ struct Frame {
   }
 };
 
-// Zero where it is too short.
+// Unit vector, or zero if the axis is too short.
 inline Vector3 normalised(Vector3 axis) {
   const Real size = length(axis);
   return size >= tolerance ? axis / size : Vector3{};
@@ -36,21 +36,21 @@ inline Vector3 oriented(Vector3 normal) {
   return deciding < 0 ? -normal : normal;
 }
 
-// Of three points that span a plane: e1 from the first to the second, e3 normal to the plane.
+// Frame of three points that span a plane: e1 from the first to the second, e3 normal to the plane.
 inline Frame frame_of_plane(Point3 p0, Point3 p1, Point3 p2) {
   const Vector3 u = p1 - p0;
   const Vector3 normal = oriented(cross(u, p2 - p0));
   return {normalised(u), normalised(cross(normal, u)), normalised(normal)};
 }
 
-// The same, or nothing where the three-point test finds no plane.
+// Frame of three points, or nothing if the three-point test finds no plane.
 inline std::optional<Frame> frame_of_points(Point3 p0, Point3 p1, Point3 p2, LastCosine &last) {
   if (!span_plane(p0, p1, p2, last)) return std::nullopt;
   return frame_of_plane(p0, p1, p2);
 }
 
-// Of an axis: e1 along it, e2 and e3 turned about it from where e2 is nearest to the global y axis.
-// Nothing where the points are too near each other.
+// Frame of an axis: e1 along it, e2 and e3 rotated about it from where e2 is nearest to the global y
+// axis. Nothing if the points are too near each other.
 inline std::optional<Frame> frame_of_axis(Point3 p0, Point3 p1, Turn turn) {
   const Vector3 axis = p1 - p0;
   const Real size = length(axis);

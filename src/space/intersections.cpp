@@ -12,7 +12,8 @@ SpaceIntersection intersect(Point3 a, Vector3 u, Point3 c, Vector3 w, Point2 ins
   const PlaneOfLinesStatus status = plane_of_lines({a, b}, {c, d}, last).status;
   if (status != PlaneOfLinesStatus::done) return {status, {}, {}, {}};
 
-  // Of the origin, u and d - a, which need span no plane though the lines do: then all is zero.
+  // Frame of the origin, u and d - a. These need not span a plane even if the lines do; the frame is
+  // then all zero.
   const Vector3 to_d = d - a;
   const Frame frame =
       frame_of_points(origin, {u.x, u.y, u.z}, {to_d.x, to_d.y, to_d.z}, last).value_or(Frame{});

@@ -34,8 +34,8 @@ struct SpaceIntersection {
   explicit operator bool() const { return status == PlaneOfLinesStatus::done; }
 };
 
-// Of the lines from a along u and from c along w. The point of parallel lines is `instead`, by
-// local coordinates.
+// Intersection of the lines from a along u and from c along w. If they are parallel, the point is
+// `instead`, in local coordinates.
 SpaceIntersection intersect(Point3 a, Vector3 u, Point3 c, Vector3 w, Point2 instead,
                             LastCosine &last);
 

@@ -8,7 +8,7 @@
 
 namespace trelvin {
 
-// The line through two points, and the sense from the first to the second.
+// The line through two points, directed from the first to the second.
 struct SpaceLine {
   Point3 start, end;
   [[nodiscard]] Vector3 along() const { return end - start; }
@@ -34,8 +34,8 @@ inline bool span_space(Vector3 u, Vector3 v, Vector3 w) {
   return significant(determinant(u, v, w));
 }
 
-// The distance of trv3ldb. It is taken from start - q, which has start.y in place of start.z and keeps
-// it, so it is the distance of the point only if the two are equal.
+// The distance of trv3ldb. It uses start.y in place of start.z, which must stay so. It is therefore the
+// distance of the point only if the two are equal.
 inline Real distance_by_start_y(const SpaceLine &line, Point3 q) {
   const Vector3 u = line.along();
   if (negligible(u)) return distance(line.start, q);
@@ -43,8 +43,8 @@ inline Real distance_by_start_y(const SpaceLine &line, Point3 q) {
   return length(cross(v, u)) / length(u);
 }
 
-// Whether that distance is within the limit. Never inline: none of it is computed where the host's
-// control may stand.
+// Whether distance_by_start_y is within the limit. Never inline: nothing of it must be computed while
+// the host's floating-point control may be set.
 bool is_near(const SpaceLine &line, Point3 q, Real limit);
 
 // Positions, from 1, of the points near a line; their third coordinates come from a function of the
@@ -68,7 +68,7 @@ struct CarriedPoint {
   Point3 point;
 };
 
-// Moves P and q1 and keeps the place of q2 on their line; nothing where the three are not on one
+// Moves P and q1 and keeps the place of q2 on their line; nothing if the three are not on one
 // line, or q1 is at P.
 std::optional<CarriedPoint> carry_along(Point3 p, Point3 q1, Point3 q2, Vector3 move_of_p,
                                         Vector3 move_of_q1, LastCosine &last);

@@ -15,7 +15,7 @@ struct Plane {
   [[nodiscard]] Vector3 normal() const { return {a, b, c}; }
 };
 
-// Through p along u and w; all zeros where these are parallel.
+// Plane through p along u and w; all zeros if these are parallel.
 inline Plane plane_along(Point3 p, Vector3 u, Vector3 w) {
   const Real yz = determinant(u.y, u.z, w.y, w.z);
   const Real xz = determinant(u.x, u.z, w.x, w.z);
@@ -34,7 +34,7 @@ inline std::optional<Plane> plane_normal_to(Vector3 normal, Point3 p) {
 
 std::optional<Plane> plane_with_intercepts(Real x, Real y, Real z);
 
-// Of three points that span one, turned about the line of the first two.
+// The plane of three points that span one, rotated about the line of the first two.
 std::optional<Plane> turned_plane(Point3 p0, Point3 p1, Point3 p2, Real angle);
 
 enum class PlaneOfLinesStatus : Integer { done, same_line = 3, same_line_opposite, skew = 6, null };
@@ -48,8 +48,8 @@ struct PlaneOfLines {
 PlaneOfLines plane_parallel_to(Point3 p, const SpaceLine &first, const SpaceLine &second,
                                LastCosine &last);
 
-// Of two lines. It relates them twice; where only the second time finds them to be the same line,
-// there is that status with a plane of zeros.
+// The plane of two lines. Their relation is determined twice. If only the second time finds the same
+// line, the result is that status with a plane of zeros.
 PlaneOfLines plane_of_lines(const SpaceLine &first, const SpaceLine &second, LastCosine &last);
 
 // The residual of a point in two groupings, whose last digits differ.

@@ -6,7 +6,7 @@
 
 namespace trelvin {
 
-// For processors with AVX2, or nullptr where the compiler has none.
+// For processors with AVX2, or nullptr if the compiler cannot build for it.
 using WideRotation = void (*)(Real *p, Real *q, Integer n, Real cosine, Real sine);
 extern const WideRotation wide_rotation;
 

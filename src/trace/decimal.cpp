@@ -73,7 +73,7 @@ DecimalText scientific(Real value) {
   const std::uint32_t fraction = bits_of(value) & fraction_mask;
   const auto field = static_cast<int>(magnitude_bits(value) >> fraction_size);
 
-  // |value| = mantissa * 2^power, or mantissa * 5^-power * 10^power where the power is negative.
+  // |value| = mantissa * 2^power, or mantissa * 5^-power * 10^power if the power is negative.
   const int power = std::max(field, 1) - 150;
   Natural natural(field == 0 ? fraction : fraction | leading_bit);
   natural.multiply_by_power(power < 0 ? 5 : 2, std::abs(power));

@@ -9,8 +9,8 @@
 
 namespace trelvin {
 
-// In [0, pi], or 0 where a vector's length is negligible. The cosine is not clamped: NaN where
-// rounding takes it beyond 1 or -1.
+// In [0, pi], or 0 if a vector's length is negligible. The cosine is not clamped: NaN if rounding takes
+// it beyond 1 or -1.
 template <class Vector>
 Real angle_between(Vector u, Vector v) {
   const Real length_u = length(u);
@@ -19,7 +19,7 @@ Real angle_between(Vector u, Vector v) {
   return arc_cosine(dot(u, v) / length_u / length_v);
 }
 
-// Angle between two lines by their directions, in [0, pi/2]; nothing where one has no length.
+// Angle between two lines by their directions, in [0, pi/2]; nothing if a length is negligible.
 inline std::optional<Real> angle_of_lines(Vector3 u, Vector3 v) {
   const Real length_u = length(u);
   const Real length_v = length(v);
@@ -43,7 +43,7 @@ inline DirectionRelation relation_of_directions(Vector3 u, Vector3 v) {
   return DirectionRelation::oblique;
 }
 
-// Angle from the x axis, negative where y is significantly below 0.
+// Angle from the x axis, negative if y is significantly below 0.
 inline Real angle_from_x_axis(Vector2 v) {
   const Real angle = angle_between(Vector2{1, 0}, v);
   return significant(v.y) ? angle * v.y / std::fabs(v.y) : angle;

@@ -6,7 +6,7 @@
 
 namespace trelvin {
 
-// The cosine that the three-point test found last; it decides again where a test finds none.
+// The cosine that the three-point test found last; it decides again if a test finds none.
 struct LastCosine {
   Real value = 0;
 };
@@ -21,8 +21,8 @@ enum class ThreePoints : Integer {
 };
 
 inline ThreePoints relation_of_three_points(Point3 p0, Point3 p1, Point3 p2, LastCosine &last) {
-  // A point that coincides with P0 or P1 by coordinates gives no cosine, yet may lie too far off
-  // for the distances to tell: then the last test's cosine decides.
+  // A point that coincides with P0 or P1 by coordinates gives no cosine, but its distance may be above
+  // the tolerance. The cosine of the last test then decides.
   if (!coincide(p0, p2) && !coincide(p1, p2)) last.value = cosine_between(p2 - p0, p2 - p1);
   const Real d0 = distance(p0, p2);
   const Real d1 = distance(p1, p2);

@@ -67,7 +67,7 @@ inline Point3 midpoint(Point3 p, Point3 q) {
   return {(p.x + q.x) * 0.5F, (p.y + q.y) * 0.5F, (p.z + q.z) * 0.5F};
 }
 
-// P + t*(Q - P), nothing where the points coincide.
+// P + t*(Q - P), nothing if the points coincide.
 inline std::optional<Point3> point_along(Point3 p, Point3 q, Real t) {
   const Vector3 v = q - p;
   if (negligible(v)) return std::nullopt;
@@ -81,7 +81,7 @@ inline std::optional<Point2> point_along(Point2 p, Point2 q, Real t) {
 
 inline Real determinant(Real a, Real b, Real c, Real d) { return a * d - b * c; }
 
-// Of the matrix with the rows a, b and c, expanded along the first.
+// Determinant of the matrix with the rows a, b and c, expanded along the first.
 inline Real determinant(Vector3 a, Vector3 b, Vector3 c) {
   const Real m1 = determinant(b.y, b.z, c.y, c.z);
   const Real m2 = determinant(b.x, b.z, c.x, c.z);

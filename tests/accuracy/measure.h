@@ -65,8 +65,8 @@ auto call(Routine routine, Inputs... inputs) {
   }
 }
 
-// Where the coordinates of a case lie: within 1000 of the origin, or the same figures moved by 1e5
-// along each axis. They are Reals in both.
+// Where the coordinates of a case lie: within 1000 of the origin, or the same coordinates moved by
+// 1e5 along each axis. They are Reals in both.
 class Draw {
  public:
   Draw(std::uint64_t seed, double shift) : state_(seed), shift_(shift) {}
@@ -121,8 +121,8 @@ class Results {
   std::vector<Error> errors_;
 };
 
-// How a routine is measured. The note tells what loses the figures where many are lost.
-enum Where { both, origin_only };  // the second where no argument is a place
+// How a routine is measured. The note says why, if many digits are lost.
+enum Where { both, origin_only };  // the second if no argument is a position
 struct Measurement {
   void (*run)(Draw &draw, Results &out);
   std::string note;

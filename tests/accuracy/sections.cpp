@@ -306,7 +306,7 @@ Exact torsion_factor(Exact b) {
   return b / 3 * (1 - 192 / (square(square(pi)) * pi * b) * sum);
 }
 
-// The greatest shear stress over that of an infinitely wide strip, likewise.
+// The greatest shear stress over that of an infinitely wide strip, by the same theory.
 Exact stress_factor(Exact b) {
   Exact sum = 0;
   for (int n = 1; n <= 63; n += 2) sum += 1 / (square(Exact(n)) * coshq(n * pi * b / 2));

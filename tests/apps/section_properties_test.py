@@ -125,21 +125,21 @@ h1b 250 200 {} 9 22 8 15; 9; 8; web TW
 h1b {} 200 160 9 22 8 15; 183; 182; cover plate
 h1b {} 200 160 22 9 8 15; 183; 182; cover plate
 box 300 200 20 25 {} 12 160; 46; 45; flanges TT
-box 300 {} 20 25 150 12 160; 184; 183; webs G
-box {} 300 20 25 150 12 160; 184; 183; webs G
+box 300 {} 20 25 150 12 160; 184; 183; webs: G
+box {} 300 20 25 150 12 160; 184; 183; webs: G
 rhs 100 200 {}; 49; 50; walls T
 rhs 200 100 {}; 49; 50; walls T
-l 100 60 {} 0; 59; 60; legs
-l 60 100 {} 0; 59; 60; legs
+l 100 60 {} 0; 59; 60; leg thickness T
+l 60 100 {} 0; 59; 60; leg thickness T
 l 100 60 50 {}; 10; 11; fillet R
-l2 {} 150 12 10 14; 15; 14; vertical leg TV
-l2 100 {} 12 10 14; 11; 10; horizontal leg T
+l2 {} 150 12 10 14; 15; 14; thickness TV of the vertical
+l2 100 {} 12 10 14; 11; 10; thickness T of the horizontal
 tab 500 400 {} 60 15 10 12; 21; 20; webs TW
 tab 500 {} 300 60 15 10 12; 73; 72; bottom plate
 tab {} 400 300 60 15 10 12; 281; 280; top plate
 h2b 300 {} 260 10 30 12 15; 41; 40; webs TW1
 h2b 300 240 {} 10 30 12 15; 13; 12; middle plate
-h2b {} 240 260 10 30 12 15; 240; 239; webs W
+h2b {} 240 260 10 30 12 15; 240; 239; webs: W
 rolled {} 150 7 10 9; 38; 20; flanges TF leave
 rolled 300 {} 7 10 15; 37; 6; web TW
 rolled {} 150 7 10 10; 40; 39; fillets R do not fit b
@@ -165,9 +165,9 @@ Principal moments, axes 1 and 2; I1 I2 alpha; 4
 Radii of gyration; rx ry; 1
 Polar moment, centroid; Ip; 4
 Fibres: top, bottom, right, left; ey1 ey2 ex1 ex2; 1
-Elastic moduli of the fibres; Wx1 Wx2 Wy1 Wy2; 3
-Plastic moduli; Wpx Wpy; 3
-Equal-area axes; xp yp; 1
+Elastic section moduli; Wx1 Wx2 Wy1 Wy2; 3
+Plastic section moduli; Wpx Wpy; 3
+Plastic neutral axes; xp yp; 1
 Shear centre; xm ym; 1
 Torsion constant; It; 4
 Warping constant; Iw; 6""".splitlines()[1:]]
@@ -608,7 +608,7 @@ class SectionProperties(unittest.TestCase):
             self.assertRegex(row["error"], re.escape(error) if error else "^$")
         self.assertEqual(rows[3]["section"], 'rhz "1"')
         self.assertEqual((result.returncode, result.stderr.strip()),
-                         (2, "section_properties: 3 of 7 lines are no sections"))
+                         (2, "section_properties: 3 of 7 lines are invalid; see the error column"))
 
     def test_jobs_keep_the_order(self):
         self.write("a.csv", "".join(f"b {i} 1{' ' * (i % 40)}\n" for i in range(1, 50001)))

@@ -17,7 +17,7 @@ Values turn(float x0, float y0, float x, float y, float angle) {
 
 TEST(Arcs, LengthsOfBothArcs) {
   const Values refused = {kept, kept, TRV_ARC_REFUSED};
-  for (const double y : {3, -1})  // the sense is not told
+  for (const double y : {3, -1})  // either direction gives the same
     expect_near(outputs(trvarc1, 1, 1, 3, 1, 1, y), {pi, 3 * pi, TRV_ARC_DONE}, 1e-6);
   expect_near(outputs(trvarc1, 1, 1, 3, 1, -6, 1), {2 * pi, 2 * pi, 1}, 1e-6);  // A's radius
   EXPECT_EQ(outputs(trvarc1, 0, 0, tolerance, 0, 0, 1), refused);

@@ -76,8 +76,8 @@ TEST(Chords, LineThatMissesTheCircleCarriesTheResultOfTheCallBefore) {
   EXPECT_EQ(construct(trvcer4, arc, 10.0F, half_pi), (Values{1, -3, 1}));
   expect_near(construct(trvcer4, turned, 10.0F, half_pi), {7, -1, 1}, 1e-6);
 
-  // Along the tangent at A, too far out by rounding. The frame is turned by pi: A less the result
-  // of the call before, and that is retained in turn.
+  // Along the tangent at A, too far out by rounding. The frame is rotated by pi, which gives A minus
+  // the result of the previous call; this is then retained.
   Arc half_turned = {1, 2, 13, -14, -11, -14};
   expect_near(construct(trvcer5, arc, 1.0F, -1, 0.5F), {4, -2, 1}, 1e-6);
   expect_near(construct(trvcer5, half_turned, 0.0F, 1, 9.0000048F), {9, -12, 1}, 1e-6);
@@ -121,7 +121,8 @@ TEST(Chords, Refusals) {
 }
 
 TEST(Chords, ArcComesBackRounded) {
-  // The speck is lost in any shift; the way back is by A as it was given, unless the line touches.
+  // The tiny coordinate 1e-12 is lost when the arc is moved. On return A is restored from the input,
+  // except if the line is tangent.
   const Arc given = {4, 3, 1e-12F, 0, 8, 0};
   Arc arc = given;
   construct(trvcer5, arc, 1.0F, -1, 0.5F);

@@ -4,7 +4,7 @@
 using namespace trelvin_test;
 
 TEST(Stations, OnBothSidesOfTheChord) {
-  // Of the circle about (1, 2) with the radius 5; chords level, oblique and upright.
+  // Circle about (1, 2) with the radius 5; chords level, oblique and upright.
   expect_near(outputs(trvcer8, 1, 2, -3, -1, 5, -1, 1, 1), {-2, 6, 1}, 1e-6);
   expect_near(outputs(trvcer8, 1, 2, -3, -1, 5, -1, 0, 1), {-2, -2, 1}, 1e-6);
   expect_near(outputs(trvcer8, 1, 2, -4, 2, 4, 6, 9, std::sqrt(5)), {-3, 5, 1}, 1e-6);

@@ -30,13 +30,13 @@ std::uint64_t hash_of(const Arguments &arguments, std::size_t shared) {
 
 using Settle = void (*)(const Routine &routine, const Arguments &drawn);
 
-// The same call beforehand brings what most routines retain to where both calls find it.
+// The same call beforehand gives both calls the same retained values, for most routines.
 void call_beforehand(const Routine &routine, const Arguments &drawn) {
   Arguments arguments = drawn;
   routine.call(random_calls::addresses_of(arguments));
 }
 
-// What is carried from call to call takes a row of others.
+// Routines that keep state between calls need a series of other calls to reach the same state again.
 void call_others(const Routine &routine, const Arguments & /*drawn*/) {
   constexpr int enough = 20;
   random_calls::draw(routine, enough, [&](Arguments &arguments) {
@@ -58,7 +58,7 @@ bool agrees(const Routine &routine, const Arguments &drawn, std::size_t in, std:
   return hash_of(apart, in) == hash_of(together, in);
 }
 
-// How many of the pairs of a routine differ, each told.
+// Prints the pairs of a routine that differ and returns their number.
 int differences(const Routine &routine, int &pairs) {
   const Arguments &arguments = routine.arguments;
   int differing = 0;

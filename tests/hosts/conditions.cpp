@@ -25,7 +25,7 @@ float distance(float x1, float y1, float z1, float x2, float y2, float z2) {
   return d;
 }
 
-// Of the arc about C from A to B.
+// Lengths of the arc about C from A to B.
 struct Lengths {
   explicit Lengths(Call &call)
       : radius(between(call, "xc", "yc", "xa", "ya")),

@@ -202,7 +202,7 @@ class Stranger {
   }
 
  private:
-  // Of trvcer10: the crossing, at B, is retained, and the cosine of the test there stays.
+  // trvcer10 retains the crossing, at B, and the cosine of the test there.
   static void set_apart(Arguments &arguments) {
     constexpr float quarter_turn[] = {0, 0, 1, 0, 0, 1, 1.5707964F, 1.5707964F};
     for (std::size_t i = 0; i < std::size(quarter_turn); ++i) {
@@ -386,7 +386,7 @@ class Outputs {
         tell(routine_, routine_.names[i] + ": is left unwritten where its contract writes it");
       }
       (untouched ? seen_[i].kept : seen_[i].written) = true;
-      // A count used that is a number stands for the size, which callers are to provide all the same.
+      // A count used that is a number counts as the size, which callers must provide nevertheless.
       const bool last = k + 1 == (always_used_[i] > 0 ? always_used_[i] : size);
       if (!untouched && last && !argument.single) seen_[i].needed.insert(sizes_[i].form);
     }

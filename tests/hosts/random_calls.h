@@ -82,7 +82,7 @@ struct Size {
   std::size_t form;
 };
 
-// How many elements a call has written, and up to which one it may have done so besides.
+// How many elements a call has written, and up to which element it may also have written.
 struct Used {
   std::size_t elements;
   std::size_t scratch;
@@ -98,7 +98,7 @@ struct Routine {
   Shape shape;
   std::uint64_t seed;
 
-  // Of each argument; empty where the contract states none.
+  // By argument; empty if the contract states none.
   std::vector<Size (*)(Arguments &)> sizes;
   std::vector<Used (*)(Arguments &)> used;
   std::vector<Kept> kept;
@@ -116,9 +116,9 @@ void draw(const Routine &routine, int calls, const std::function<void(Arguments 
           bool sparing = false);
 
 // Draws pairs of neighbours: sets of arguments that differ by one unit in the last place of some Reals,
-// on either side of a place where results change much. Such a place is found on the way from one set to
-// another: the way is halved again and again, and the half over which results change more is kept. So a
-// pair lies on either side of a limit, wherever that is. The calls on the way are made as well.
+// on either side of a place where results change much. Such a place is found by bisection between two
+// sets: of each two halves the one over which results change more is kept. So a pair lies on either side
+// of a limit, wherever that is. The calls of the bisection are made as well.
 void draw_near_limits(const Routine &routine, int pairs,
                       const std::function<void(Arguments &)> &visit);
 

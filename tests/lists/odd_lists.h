@@ -58,7 +58,7 @@ class OddLists {
   std::mt19937 random_{7};
 };
 
-// Runs `work` where no 256 KB can be allocated. Windows knows no such limit: there it has memory.
+// Runs `work` while no 256 KB can be allocated. Windows has no such limit: there memory is available.
 template <class Work>
 void without_memory(Work work) {
 #ifdef __linux__

@@ -1,4 +1,4 @@
-// The figures are of MPFR, unless told otherwise. The program check_functions goes through all Reals.
+// The expected values are from MPFR, unless stated otherwise. The program check_functions goes through all Reals.
 #include "numeric/functions.h"
 
 #include "support.h"

@@ -5,7 +5,7 @@ using namespace trelvin_test;
 
 namespace {
 
-// Of the outline either way round.
+// Status of the outline in either orientation.
 std::int32_t convex(std::vector<float> x, std::vector<float> y) {
   std::int32_t either_way[2];
   for (std::int32_t &status : either_way) {

@@ -13,7 +13,7 @@ struct Outline {
   std::int32_t n;
 };
 
-// Of differing sizes and signs; now and then a coordinate is `special`.
+// Coordinates of different sizes and signs; now and then a coordinate is `special`.
 Outline outline(std::int32_t n, float special) {
   Outline o = {{}, {}, n};
   std::uint32_t state = 1;

@@ -53,7 +53,7 @@ TEST(SectionParts, OwnMomentsTurnOneAfterTheOther) {
   const double ixy = ((ix - iy) / 2 + 2) * t;
   expect_near(properties({{3}, {4}, 0, 1, 2, static_cast<float>(pi / 6)}, -1, {0, 0, 0, 8, 4, 2}),
               {-2, -8, -6, -ix - 32, -iy - 18, -ixy - 24}, 1e-6);
-  // A quarter turn makes 2 and 1 equal, not 1 and 2.
+  // Rotating ix = 2, iy = 1 by 90 degrees gives (1, 1), not (1, 2): iy is computed from the new ix.
   expect_near(properties({{}, {}, 0, 1, 0, half_pi}, 1, {0, 0, 0, 2, 1, 0}), {0, 0, 0, 1, 1, 0},
               1e-6);
   // The squared cosine of 2^100, from a table of many digits.

@@ -8,7 +8,7 @@ using namespace trelvin_test;
 
 namespace {
 
-// Of the line along the first axis of the frame and the line from C to D.
+// Relation of the line along the first axis of the frame and the line from C to D.
 double relation(Point c, Point d) {
   return outputs_at(trvdirl, in_sevens(0, 0, 0), in_sevens(1, 0, 0), c, d)[0];
 }
@@ -69,7 +69,7 @@ TEST(SpaceLines, SkewDependsOnTheLengthsOfTheSegments) {
   EXPECT_EQ((Values{crossing(1, 1, t), crossing(1, 1, b), crossing(1000, 1, t),
                     crossing(0.001F, 0.001F, 1)}),
             (Values{5, 6, 6, 5}));
-  // Of three vectors in one plane, whichever coordinate is off takes them out of it.
+  // Three vectors in one plane: a change of any coordinate takes them out of it.
   const Point o = in_sevens(0, 0, 0), u = in_sevens(1, 0, 0), w = in_sevens(0, 1, 0);
   const auto out = [&](float x, float y, float z) {
     const Point p = in_sevens(2, -3, 0);

@@ -85,7 +85,7 @@ class Setup(unittest.TestCase):
     def test_nothing_but_twins_goes_back(self):
         result, more = self.run_setup("--allow-downgrades", back="libtwin libtool")
         self.assertEqual((result.returncode, more), (1, [True]))
-        self.assertIn("libtool would be taken back", result.stderr)
+        self.assertIn("libtool would be downgraded", result.stderr)
 
 
 if __name__ == "__main__":

@@ -5,7 +5,7 @@
 using namespace trelvin_test;
 
 TEST(Angles, BetweenTwoRays) {
-  for (const double y : {2, 0})  // the sense is not told
+  for (const double y : {2, 0})  // either direction gives the same
     expect_near(outputs(trvphi, 1, 1, 3, 1, 0, y), {0.75 * pi}, 1e-7);
   expect_near(outputs(trvphi3, 1, 1, 1, 2, 2, 1, 1, 3, 3), {pi / 3}, 1e-7);
   expect_near(outputs(trvphi1, 1, 2, 2, 2, -1, 2), {std::acos(4.0 / 9)}, 1e-7);
@@ -93,7 +93,7 @@ TEST(Angles, DirectedAnglesAreAccurateAllAround) {
     EXPECT_NEAR(directed(1, -small)[0], 2 * pi - std::atan2(down, 1), 5e-7);
   }
   EXPECT_LT(outputs(trvchi, 0, 0, 0, 1, 0, 0, 1, -1e-12, 0)[0], 2 * pi);
-  // Of 57 bits in each product the last ones are the cross product: 1 - h, of rays some 2.4e7 long.
+  // The products have 57 bits each; the last ones are the cross product: 1 - h, of rays some 2.4e7 long.
   const double a = 16777214, h = 0x1.5p-5, dot = (a - h) * (a + 1 - h) + (a - 1) * a;
   EXPECT_NEAR(outputs(trvchi, h, 0, 0, a, a - 1, 0, a + 1, a, 0)[0] * dot, 1 - h, 6e-8);
   EXPECT_NEAR(outputs(trvchi, 0, 0, 0, 0, 1, 0, 1, 0, 0)[0], 1.5 * pi, 1e-6);

@@ -157,7 +157,7 @@ test("a dimension that cannot be says why in the words of the command line", asy
     assert.equal(await page.locator("#result").getAttribute("class"), "stale", word);
   }
   await field("T").fill("8".repeat(5000));
-  assert.equal(await faultOf("T"), "too long to be dimensions");
+  assert.equal(await faultOf("T"), "the input is too long");
   for (const word of ["8,5", ".5", ",5", "5.", "1e1", "0.1E+2", "007", "3.00000001"]) {
     await field("T").fill(word);
     assert.equal(await faultOf("T"), "", word);
@@ -324,8 +324,8 @@ test("every control has a name, and what changes is told", async () => {
     ["textbox", "TW", "#dimension-TW"],
     ["slider", "TW, slider", "#slider-TW"],
     ["region", "Section", "#result"],
-    ["region", "Figures", ":has(> #figures)"],
-    ["region", "Take along", ":has(> #text)"],
+    ["region", "Results", ":has(> #figures)"],
+    ["region", "Export", ":has(> #text)"],
     ["img", "", "#picture > svg"],
     ["rowheader", "Area", "#rows tr:first-child > th"],
     ["combobox", "as", "#format"],

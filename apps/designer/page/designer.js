@@ -3,13 +3,13 @@
 
 const FIRST = "rolled";
 
-// Of the figures, by heading and symbol, those that stand under the picture.
+// The results that are shown under the picture, by heading and symbol.
 const MAIN = [
   ["Area", "A"],
   ["Second moments, centroid", "Ix"],
   ["Second moments, centroid", "Iy"],
-  ["Elastic moduli", "Wx1"],
-  ["Plastic moduli", "Wpx"],
+  ["Elastic section moduli", "Wx1"],
+  ["Plastic section moduli", "Wpx"],
   ["Torsion constant", "It"],
 ];
 
@@ -25,7 +25,7 @@ const CROPPED = window.matchMedia("(max-width: 1100px)"); // as designer.css
 
 let engine;
 let profile; // the chosen one
-let section; // the last that fitted together, of that profile
+let section; // the last valid one of that profile
 const typed = {}; // the words in the fields, by profile
 
 // Fields -----------------------------------------------------------------------------------------
@@ -36,7 +36,7 @@ const slider = name => element(`slider-${name}`);
 const numberIn = word => Number(word.replace(",", "."));
 
 // A slider reaches from nothing to well beyond the value that its profile starts with, or beyond a
-// larger one that is typed. It does not move under the hand that drags it.
+// larger one that is typed. It does not change while it is dragged.
 function setReach(name, value) {
   const start = numberIn(profile.start[profile.dimensions.indexOf(name)]);
   const reach = 2.5 * (value > 2.5 * start ? value : start);
@@ -109,8 +109,8 @@ function makeFields(words) {
 
 // Results ----------------------------------------------------------------------------------------
 
-// A message that opens with a dimension is that one's; any other stands where the change was, and
-// without a change at the first dimension that it names.
+// A message that starts with a dimension is shown next to it. Any other message is shown next to the
+// changed dimension; if none was changed, next to the first dimension that the message names.
 function showRefusal(message, changed) {
   const names = profile.dimensions;
   const owner =
@@ -159,7 +159,7 @@ const showText = () => {
   element("text").textContent = TAKEN[element("format").value]();
 };
 
-// Screen readers are told once the hand rests.
+// Announced to screen readers when input pauses.
 let telling;
 function tell(message) {
   clearTimeout(telling);
@@ -223,7 +223,7 @@ function choose(chosen, words) {
   makeFields(words);
   update();
   if (section?.profile === profile.name) return;
-  // What does not fit together stands beside the profile as it starts.
+  // The message is shown next to invalid dimensions; the drawing shows the profile's start values.
   show(engine.design(profile.name, profile.start));
 }
 

@@ -51,7 +51,7 @@ async function startEngine() {
       const bytes = new TextEncoder().encode(
         [profile, ...dimensions].map(word => `${word}\0`).join(""),
       );
-      if (bytes.length > code.designer_input_size()) return {refusal: "too long to be dimensions"};
+      if (bytes.length > code.designer_input_size()) return {refusal: "the input is too long"};
       new Uint8Array(code.memory.buffer, code.designer_input(), bytes.length).set(bytes);
       code.designer_design(bytes.length);
       const refusal = read(code.designer_text(0));
